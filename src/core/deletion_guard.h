@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/file_system.h"
+
+namespace klarvik {
+
+/// What kind of removal is being asked for.
+struct DeletionScope {
+  enum class Kind {
+    general,     ///< an item that a scanner found
+    pickedFile,  ///< a file that the user chose by hand
+    residual,    ///< a file left behind by an application that is being uninstalled
+  };
+  Kind kind = Kind::general;
+  std::vector<std::string> identifiers;  ///< of that application; `residual` only
+
+  static DeletionScope general() { return {Kind::general, {}}; }
+  static DeletionScope pickedFile() { return {Kind::pickedFile, {}}; }
+  static DeletionScope residual(std::vector<std::string> identifiers) {
+    return {Kind::residual, std::move(identifiers)};
+  }
+};
+
+/// The one rule set that stands between any removal and the disk. A pure decision about the text of
+/// a path: it touches no file, so a missing path gets the same answer as one that is there. May be
+/// called from any thread.
+class DeletionGuard {
+ public:
+  /// Nothing when `path` may be removed, else a sentence that says why not.
+  [[nodiscard]] static std::optional<std::string> refusalReason(const Path& path,
+                                                                const DeletionScope& scope,
+                                                                const Path& home);
+};
+
+/// `path` made absolute in form only: "." and ".." resolved, doubled and trailing slashes dropped.
+/// A relative path stays relative. No link is followed.
+[[nodiscard]] Path standardizedPath(const Path& path);
+
+}  // namespace klarvik

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+#include "core/junk_model.h"
+#include "platform/platform.h"
+
+namespace klarvik {
+
+/// What a running Smart Scan reports.
+struct ScanUpdate {
+  double fraction = 0;
+  std::string categoryName;
+  std::optional<std::string> currentPath;  ///< path of the last item added; bytes of the disk
+  std::int64_t partialItems = 0;
+  std::int64_t partialBytes = 0;
+  std::int64_t completedCategories = 0;
+  std::int64_t totalCategories = 0;
+
+  bool operator==(const ScanUpdate&) const = default;
+};
+
+/// What a running removal reports after each finished item, refused and failed ones included.
+struct DeletionProgress {
+  std::int64_t completed = 0;
+  std::int64_t total = 0;
+  std::string currentName;  ///< of the item that just finished
+  std::int64_t freed = 0;   ///< bytes so far
+
+  bool operator==(const DeletionProgress&) const = default;
+};
+
+struct DeletionOutcome {
+  std::int64_t reclaimed = 0;  ///< bytes that this item counts for; 0 when it was not removed
+  Path originalURL;
+  std::optional<Path> trashedURL;  ///< where the Trash put it; nothing when it is not there
+};
+
+/// A file that the user chose by hand.
+struct PickedFile {
+  Path url;
+  std::string name;
+  std::int64_t size = 0;
+};
+
+struct PickedFileOutcome {
+  Path url;
+  std::int64_t bytes = 0;
+  bool moved = false;
+};
+
+/// Scans the places where junk collects, and removes and restores what the user selected.
+///
+/// Owned by whoever started the work; cheap to make, and made afresh for each run. Operations are
+/// synchronous and are meant to be called off the main thread. Scans of one engine run one after
+/// the other; removals do not wait for them. Callbacks come on the calling thread (`scanAll`,
+/// removals) and must not call back into the engine. Nothing throws: what fails counts as not found
+/// or not done.
+class ScannerEngine {
+ public:
+  using UpdateSink = std::function<void(const ScanUpdate&)>;
+  using CategorySink = std::function<void(const CleanCategory&)>;
+  using DeletionSink = std::function<void(const DeletionProgress&)>;
+
+  /// No more removals than this are under way at any time.
+  static constexpr std::size_t deletionWidth = 6;
+
+  explicit ScannerEngine(const Platform& platform);
+
+  /// Goes through the scan table, and answers what it found, largest category first. A stop request
+  /// is seen between two rows; what was found until then is answered.
+  std::vector<CleanCategory> scanAll(std::stop_token stop, const UpdateSink& onUpdate,
+                                     const CategorySink& onCategory);
+
+  DeletionOutcome deleteItem(const JunkItem& item, bool useTrash);
+  /// In order of finishing. After a stop request no further item is started; items under way are
+  /// finished and are part of the answer, but no longer reported to `progress`.
+  std::vector<DeletionOutcome> deleteItems(const std::vector<JunkItem>& items, bool useTrash,
+                                           std::stop_token stop = {},
+                                           const DeletionSink& progress = {});
+  PickedFileOutcome trashFile(const PickedFile& file);
+  /// The files that were really moved. Stopping is as in `deleteItems`.
+  std::set<Path> trashFiles(const std::vector<PickedFile>& files, std::stop_token stop,
+                            const DeletionSink& progress);
+  bool restoreItem(const Path& trashedURL, const Path& originalURL);
+  /// Bytes reclaimed. Entries that come into the Trash meanwhile stay.
+  std::int64_t emptyTrash(std::stop_token stop = {}, const DeletionSink& progress = {});
+
+ private:
+  const Platform& _platform;
+  std::mutex _scanning;
+};
+
+/// Largest first; items of one size keep their order.
+void sortItemsBySize(std::vector<JunkItem>& items);
+
+}  // namespace klarvik

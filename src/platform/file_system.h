@@ -1,0 +1,116 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "platform/date.h"
+
+namespace klarvik {
+
+/// A path holds the bytes of the names as the disk has them; they need not be UTF-8.
+using Path = std::filesystem::path;
+
+enum class FileKind { directory, regular, symbolicLink, other };
+
+/// What one `statx` tells of an entry itself: a symbolic link is never followed.
+struct FileAttributes {
+  FileKind kind = FileKind::other;
+  std::int64_t allocatedBytes = 0;  ///< bytes taken on the disk; 0 for a directory
+  std::int64_t logicalBytes = 0;    ///< length of the content
+  std::optional<Date> modified;
+  std::optional<Date> accessed;
+  std::optional<Date> created;
+};
+
+struct WalkOptions {
+  bool skipHidden = false;           ///< leave out entries whose name begins with a dot
+  bool skipPackageContents = false;  ///< show a package inside the tree, but not what is in it
+};
+
+enum class WalkStep { proceed, skipDescendants, stop };
+
+/// One entry below the start of a walk. Lives only during the visit. Nothing is asked of the disk
+/// and no path is put together until a member that needs it is called.
+class WalkEntry {
+ public:
+  virtual ~WalkEntry() = default;
+  [[nodiscard]] virtual std::string_view name() const = 0;
+  [[nodiscard]] virtual FileKind kind() const = 0;
+  /// 1 for an entry that lies directly in the folder the walk started at.
+  [[nodiscard]] virtual std::size_t depth() const = 0;
+  [[nodiscard]] virtual Path path() const = 0;
+  /// 0 for a directory, and when the entry cannot be asked.
+  [[nodiscard]] virtual std::int64_t allocatedBytes() = 0;
+  [[nodiscard]] virtual std::optional<FileAttributes> attributes() = 0;
+};
+
+using WalkVisitor = std::function<WalkStep(WalkEntry&)>;
+
+enum class WalkOutcome {
+  completed,
+  stopped,  ///< the visitor answered `stop`
+  refused,  ///< the start is missing, is not a directory, or may not be read: nothing was visited
+};
+
+/// Sees the place where an item really lies, once its parent has been opened and nothing has been
+/// changed yet. Answering false leaves everything as it is.
+using PlaceCheck = std::function<bool(const Path& realPath)>;
+
+/// Content of one regular file, read from front to back.
+class FileReader {
+ public:
+  virtual ~FileReader() = default;
+  /// How many bytes were put into `buffer`: 0 at the end of the file, nothing when reading failed.
+  [[nodiscard]] virtual std::optional<std::size_t> read(std::span<std::byte> buffer) = 0;
+};
+
+/// The files of one disk.
+///
+/// Every path that goes in or comes out is logical: absolute, and counted from the root of the file
+/// system, which is the root of the machine in the program and a folder in a test. All operations
+/// may be called from any thread at once. None throws; a failure is an empty answer or false.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  /// Where `logical` is found on the machine, and the reverse (nothing when `disk` lies outside the
+  /// root).
+  [[nodiscard]] virtual Path diskPath(const Path& logical) const = 0;
+  [[nodiscard]] virtual std::optional<Path> logicalPath(const Path& disk) const = 0;
+
+  /// The user's home as it is named, and the place it really is at when links are followed.
+  [[nodiscard]] virtual Path home() const = 0;
+  [[nodiscard]] virtual Path realHome() const = 0;
+
+  /// Follows links: a link to nothing does not exist.
+  [[nodiscard]] virtual bool exists(const Path& path) const = 0;
+  /// Never follows a link in the last component.
+  [[nodiscard]] virtual std::optional<FileAttributes> attributes(const Path& path) const = 0;
+  /// Full paths of the direct children, hidden ones included, in the order the disk gives them.
+  /// Nothing when the folder cannot be listed.
+  [[nodiscard]] virtual std::optional<std::vector<Path>> list(const Path& folder) const = 0;
+  /// The one directory walk. Visits everything below `folder` in an order that puts each directory
+  /// before what it holds. Never follows a symbolic link (a `folder` that is one is refused), never
+  /// opens anything but directories, and goes as deep as memory allows. What cannot be read is
+  /// passed over.
+  virtual WalkOutcome walk(const Path& folder, WalkOptions options,
+                           const WalkVisitor& visit) const = 0;
+  /// Only regular files can be opened, and no link in the last component is followed.
+  [[nodiscard]] virtual std::unique_ptr<FileReader> openForReading(const Path& path) const = 0;
+
+  virtual bool createDirectories(const Path& folder) = 0;
+  /// Never replaces what stands at `to`, and never copies between volumes.
+  virtual bool move(const Path& from, const Path& to) = 0;
+  /// Removes for good an item and all it holds: through directory handles, never through a symbolic
+  /// link, never across a mount point. True only when nothing of the item is left.
+  virtual bool remove(const Path& item, const PlaceCheck& mayRemove) = 0;
+};
+
+}  // namespace klarvik

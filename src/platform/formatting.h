@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/date.h"
+
+namespace klarvik {
+
+/// Turns numbers and dates into the text of one locale. Immutable; may be used from any thread.
+class Formatting {
+ public:
+  /// A locale by its identifier ("en_US", "de_DE"); the user's own when absent. The time zone is
+  /// the machine's.
+  explicit Formatting(std::optional<std::string> locale = std::nullopt);
+  ~Formatting();
+
+  /// The one way a size becomes text: "Zero KB", "1 byte", "999 bytes", "12 KB", "1.5 MB",
+  /// "2.25 GB". 1,000 bytes to the kilobyte.
+  [[nodiscard]] std::string byteText(std::int64_t bytes) const;
+  /// Medium date and short time: "Mar 4, 2026, 5:06 PM".
+  [[nodiscard]] std::string dateAndTime(Date date) const;
+  /// "3 minutes ago": full units.
+  [[nodiscard]] std::string relative(Date date, Date now) const;
+  /// "3 min. ago".
+  [[nodiscard]] std::string relativeAbbreviated(Date date, Date now) const;
+  /// Reads `text` by an ICU date pattern, strictly and to its end.
+  [[nodiscard]] static std::optional<Date> parseDate(const std::string& text,
+                                                     const std::string& pattern);
+  /// Order of names as a user of the locale expects it, without regard to case: below, at or above
+  /// 0.
+  [[nodiscard]] int compareNames(std::string_view left, std::string_view right) const;
+
+ private:
+  struct Locale;
+  std::unique_ptr<const Locale> _locale;
+};
+
+/// `bytes` with every sequence that is not UTF-8 replaced by U+FFFD: how a name of the disk is
+/// made fit for the screen.
+[[nodiscard]] std::string printable(std::string_view bytes);
+
+}  // namespace klarvik

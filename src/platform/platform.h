@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/application_info.h"
+#include "platform/clock.h"
+#include "platform/command_runner.h"
+#include "platform/file_system.h"
+#include "platform/formatting.h"
+#include "platform/notification_center.h"
+#include "platform/trash.h"
+#include "platform/user_defaults.h"
+#include "platform/volume.h"
+#include "platform/workspace.h"
+
+namespace klarvik {
+
+/// Everything the program may ask of the system it runs on. Made once at start, and handed down by
+/// reference; whoever holds it must not outlive what it refers to.
+struct Platform {
+  FileSystem& files;
+  Trash& trash;
+  CommandRunner& commands;
+  UserDefaults& defaults;
+  Volume& volume;
+  Formatting& formatting;
+  Clock& clock;
+  NotificationCenter& notifications;
+  Workspace& workspace;
+  const ApplicationInfo& info;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <memory>
+
+#include "platform/platform.h"
+
+namespace klarvik {
+
+/// Whether the protected places can be read, and how the user gets there. Main thread only.
+class PermissionsManager : public QObject {
+  Q_OBJECT
+ public:
+  [[nodiscard]] static PermissionsManager& shared();
+
+  explicit PermissionsManager(const Platform& platform, QObject* parent = nullptr);
+
+  [[nodiscard]] bool hasFullDiskAccess() const { return _hasFullDiskAccess; }
+  [[nodiscard]] bool isRequestingAccess() const { return _isRequestingAccess; }
+
+  /// Touches no state.
+  [[nodiscard]] bool probeAccess() const;
+  /// Probes, and stores the answer in `hasFullDiskAccess`.
+  void refreshAccess();
+  /// Runs `work` now, or after the sheet has been shown once in this process.
+  void ensureAccess(std::function<void()> work);
+  void finishAccessRequest();
+  void openFullDiskAccessSettings();
+  void relaunch();
+
+ signals:
+  void hasFullDiskAccessChanged();
+  void isRequestingAccessChanged();
+
+ private:
+  const Platform& _platform;
+  bool _hasFullDiskAccess = false;
+  bool _isRequestingAccess = false;
+  bool _hasAskedThisLaunch = false;
+  std::function<void()> _pendingWork;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QObject>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/junk_model.h"
+#include "platform/clock.h"
+#include "platform/user_defaults.h"
+
+namespace klarvik {
+
+/// One scan or clean on record. The field names and forms are a file format.
+struct ScanHistoryEntry {
+  Uuid id = Uuid::random();
+  Date date;
+  std::int64_t totalJunk = 0;                      ///< bytes
+  std::map<std::string, std::int64_t> categories;  ///< bytes by raw value of `CategoryType`
+  bool operator==(const ScanHistoryEntry&) const = default;
+};
+
+/// The last 30 scans and the last 30 cleans, newest first, kept across restarts. Main thread only;
+/// an entry is saved before the recording call returns.
+class ScanHistory : public QObject {
+  Q_OBJECT
+ public:
+  static constexpr const char* scansKey = "scan_history";
+  static constexpr const char* cleansKey = "clean_history";
+  static constexpr std::size_t limit = 30;
+
+  [[nodiscard]] static ScanHistory& shared();
+
+  ScanHistory(UserDefaults& defaults, const Clock& clock, QObject* parent = nullptr);
+
+  [[nodiscard]] const std::vector<ScanHistoryEntry>& scans() const { return _scans; }
+  [[nodiscard]] const std::vector<ScanHistoryEntry>& cleans() const { return _cleans; }
+
+  /// A scan that found nothing leaves no entry.
+  void recordScan(const std::vector<CleanCategory>& categories);
+  /// A clean that freed nothing leaves no entry.
+  void recordClean(std::int64_t freed, const std::map<CategoryType, std::int64_t>& categories);
+
+ signals:
+  void scansChanged();
+  void cleansChanged();
+
+ private:
+  UserDefaults& _defaults;
+  const Clock& _clock;
+  std::vector<ScanHistoryEntry> _scans;
+  std::vector<ScanHistoryEntry> _cleans;
+};
+
+}  // namespace klarvik
