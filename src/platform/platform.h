@@ -13,7 +13,7 @@
 
 namespace klarvik {
 
-/// Everything the program may ask of the system it runs on. Made once at start, and handed down by
+/// What the engines may ask of the system they run on. Made once at start, and handed down by
 /// reference; whoever holds it must not outlive what it refers to.
 struct Platform {
   FileSystem& files;
@@ -22,10 +22,14 @@ struct Platform {
   UserDefaults& defaults;
   Volume& volume;
   Formatting& formatting;
+  const ApplicationInfo& info;
+};
+
+/// The same, with what only a program that has a main loop and a desktop around it can offer.
+struct Desktop : Platform {
   Clock& clock;
   NotificationCenter& notifications;
   Workspace& workspace;
-  const ApplicationInfo& info;
 };
 
 }  // namespace klarvik

@@ -66,7 +66,7 @@ class AppState : public QObject {
     bool operator==(const CleanSummary&) const = default;
   };
 
-  AppState(const Platform& platform, ToolActivity& activity, ScanCoordinator& coordinator,
+  AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
            ScanHistory& history, QObject* parent = nullptr);
   ~AppState() override;
 
@@ -118,7 +118,7 @@ class AppState : public QObject {
   void cleanProgressChanged();
 
  private:
-  const Platform& _platform;
+  const Desktop& _desktop;
   ToolActivity& _activity;
   ScanCoordinator& _coordinator;
   ScanHistory& _history;

@@ -21,7 +21,7 @@ class DiskMonitor : public QObject {
  public:
   [[nodiscard]] static DiskMonitor& shared();
 
-  explicit DiskMonitor(const Platform& platform, QObject* parent = nullptr);
+  explicit DiskMonitor(const Desktop& desktop, QObject* parent = nullptr);
 
   [[nodiscard]] const DiskStats& stats() const { return _stats; }
   void refreshNow();
@@ -32,7 +32,7 @@ class DiskMonitor : public QObject {
  private:
   void diskChanged();
 
-  const Platform& _platform;
+  const Desktop& _desktop;
   DiskStats _stats;
 };
 

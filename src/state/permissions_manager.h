@@ -14,7 +14,7 @@ class PermissionsManager : public QObject {
  public:
   [[nodiscard]] static PermissionsManager& shared();
 
-  explicit PermissionsManager(const Platform& platform, QObject* parent = nullptr);
+  explicit PermissionsManager(const Desktop& desktop, QObject* parent = nullptr);
 
   [[nodiscard]] bool hasFullDiskAccess() const { return _hasFullDiskAccess; }
   [[nodiscard]] bool isRequestingAccess() const { return _isRequestingAccess; }
@@ -34,7 +34,7 @@ class PermissionsManager : public QObject {
   void isRequestingAccessChanged();
 
  private:
-  const Platform& _platform;
+  const Desktop& _desktop;
   bool _hasFullDiskAccess = false;
   bool _isRequestingAccess = false;
   bool _hasAskedThisLaunch = false;

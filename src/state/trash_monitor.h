@@ -16,7 +16,7 @@ class TrashMonitor : public QObject {
  public:
   [[nodiscard]] static TrashMonitor& shared();
 
-  explicit TrashMonitor(const Platform& platform, QObject* parent = nullptr);
+  explicit TrashMonitor(const Desktop& desktop, QObject* parent = nullptr);
 
   [[nodiscard]] std::int64_t bytes() const { return _bytes; }
   [[nodiscard]] std::int64_t itemCount() const { return _itemCount; }
@@ -35,7 +35,7 @@ class TrashMonitor : public QObject {
   void changed();
 
  private:
-  const Platform& _platform;
+  const Desktop& _desktop;
   std::int64_t _bytes = 0;
   std::int64_t _itemCount = 0;
   bool _isEmptying = false;
