@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/date.h"
+#include "platform/unicode_text.h"
 
 namespace klarvik {
 
@@ -38,9 +39,5 @@ class Formatting {
   struct Locale;
   std::unique_ptr<const Locale> _locale;
 };
-
-/// `bytes` with every sequence that is not UTF-8 replaced by U+FFFD: how a name of the disk is
-/// made fit for the screen.
-[[nodiscard]] std::string printable(std::string_view bytes);
 
 }  // namespace klarvik

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace klarvik {
 
@@ -20,8 +20,7 @@ class NotificationCenter {
   void post(const std::string& name);
 
  private:
-  struct Observers;
-  std::shared_ptr<Observers> _observers;
+  std::map<std::string, std::vector<std::weak_ptr<Observer>>> _observers;
 };
 
 }  // namespace klarvik

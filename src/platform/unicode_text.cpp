@@ -1,0 +1,84 @@
+#include "platform/unicode_text.h"
+
+#include <unicode/brkiter.h>
+#include <unicode/bytestream.h>
+#include <unicode/casemap.h>
+#include <unicode/utext.h>
+#include <unicode/utf8.h>
+
+#include <memory>
+
+namespace klarvik {
+namespace {
+
+// Below 0 for a sequence that is not UTF-8.
+UChar32 takeCodePoint(std::string_view text, std::size_t& position) {
+  UChar32 codePoint = 0;
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wconversion"  // inside ICU's macro
+  U8_NEXT(text.data(), position, text.size(), codePoint);
+#pragma GCC diagnostic pop
+  return codePoint;
+}
+
+// Takes `text` apart, front to back, into stretches that are UTF-8 and sequences that are not.
+template <class OnText, class OnRubbish>
+void takeApart(std::string_view text, OnText onText, OnRubbish onRubbish) {
+  std::size_t stretchStart = 0;
+  std::size_t next = 0;
+  while (next < text.size()) {
+    const std::size_t start = next;
+    if (takeCodePoint(text, next) >= 0) continue;
+    if (start > stretchStart) onText(text.substr(stretchStart, start - stretchStart));
+    onRubbish(text.substr(start, next - start));
+    stretchStart = next;
+  }
+  if (next > stretchStart) onText(text.substr(stretchStart));
+}
+
+std::size_t charactersOfText(std::string_view text) {
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::BreakIterator> characters{
+      icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status)};
+  UText utext = UTEXT_INITIALIZER;
+  utext_openUTF8(&utext, text.data(), static_cast<std::int64_t>(text.size()), &status);
+  std::size_t count = 0;
+  if (U_SUCCESS(status)) {
+    characters->setText(&utext, status);
+    while (characters->next() != icu::BreakIterator::DONE) ++count;
+  }
+  utext_close(&utext);
+  return count;
+}
+
+}  // namespace
+
+std::string lowercased(std::string_view text) {
+  std::string result;
+  const auto lower = [&](std::string_view stretch) {
+    UErrorCode status = U_ZERO_ERROR;
+    icu::StringByteSink<std::string> sink(&result);
+    const auto size = static_cast<std::int32_t>(stretch.size());
+    icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(stretch.data(), size), sink, nullptr, status);
+  };
+  takeApart(text, lower, [&](std::string_view rubbish) { result += rubbish; });
+  return result;
+}
+
+std::size_t characterCount(std::string_view text) {
+  std::size_t count = 0;
+  takeApart(
+      text, [&](std::string_view stretch) { count += charactersOfText(stretch); },
+      [&](std::string_view rubbish) { count += rubbish.size(); });
+  return count;
+}
+
+std::string printable(std::string_view bytes) {
+  std::string result;
+  takeApart(
+      bytes, [&](std::string_view stretch) { result += stretch; },
+      [&](std::string_view) { result += "\uFFFD"; });
+  return result;
+}
+
+}  // namespace klarvik

@@ -1,0 +1,27 @@
+#include "support/canned_command_runner.h"
+
+namespace klarvik {
+
+void CannedCommandRunner::answer(const std::string& commandLine, const std::string& output) {
+  const std::lock_guard lock(_mutex);
+  _answers[commandLine] = output;
+}
+
+void CannedCommandRunner::failToStart(const std::string& commandLine) {
+  const std::lock_guard lock(_mutex);
+  _answers[commandLine] = std::nullopt;
+}
+
+std::vector<std::string> CannedCommandRunner::commandsRun() const {
+  const std::lock_guard lock(_mutex);
+  return _commandsRun;
+}
+
+std::optional<std::string> CannedCommandRunner::run(const std::string& commandLine) {
+  const std::lock_guard lock(_mutex);
+  _commandsRun.push_back(commandLine);
+  const auto found = _answers.find(commandLine);
+  return found != _answers.end() ? found->second : "";
+}
+
+}  // namespace klarvik

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <map>
+#include <mutex>
+#include <vector>
+
+#include "platform/command_runner.h"
+
+namespace klarvik {
+
+/// Answers exact command lines with texts laid down beforehand, and remembers what it was asked to
+/// run. An unknown command prints nothing. May be used from any thread.
+class CannedCommandRunner final : public CommandRunner {
+ public:
+  void answer(const std::string& commandLine, const std::string& output);
+  /// From now on this command cannot be started at all.
+  void failToStart(const std::string& commandLine);
+  /// Every command line so far, in the order in which they came.
+  [[nodiscard]] std::vector<std::string> commandsRun() const;
+
+  [[nodiscard]] std::optional<std::string> run(const std::string& commandLine) override;
+
+ private:
+  mutable std::mutex _mutex;
+  std::map<std::string, std::optional<std::string>> _answers;
+  std::vector<std::string> _commandsRun;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,30 @@
+#include "support/memory_defaults.h"
+
+namespace klarvik {
+
+std::optional<DefaultsValue> MemoryDefaults::object(const std::string& key) const {
+  const std::lock_guard lock(_mutex);
+  const auto found = _values.find(key);
+  return found != _values.end() ? std::optional(found->second) : std::nullopt;
+}
+
+bool MemoryDefaults::set(const std::string& key, const DefaultsValue& value) {
+  const std::lock_guard lock(_mutex);
+  if (_refuseWrites) return false;
+  _values.insert_or_assign(key, value);
+  return true;
+}
+
+bool MemoryDefaults::remove(const std::string& key) {
+  const std::lock_guard lock(_mutex);
+  if (_refuseWrites) return false;
+  _values.erase(key);
+  return true;
+}
+
+void MemoryDefaults::refuseWrites(bool refuse) {
+  const std::lock_guard lock(_mutex);
+  _refuseWrites = refuse;
+}
+
+}  // namespace klarvik
