@@ -28,7 +28,8 @@ class Formatting {
   [[nodiscard]] std::string relative(Date date, Date now) const;
   /// "3 min. ago".
   [[nodiscard]] std::string relativeAbbreviated(Date date, Date now) const;
-  /// Reads `text` by an ICU date pattern, strictly and to its end.
+  /// Reads `text` by an ICU date pattern, strictly: what the pattern would not write for that very
+  /// date in the machine's time zone is not one.
   [[nodiscard]] static std::optional<Date> parseDate(const std::string& text,
                                                      const std::string& pattern);
   /// Order of names as a user of the locale expects it, without regard to case: below, at or above

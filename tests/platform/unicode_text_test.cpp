@@ -1,0 +1,40 @@
+#include "platform/unicode_text.h"
+
+#include <gtest/gtest.h>
+
+namespace klarvik {
+namespace {
+
+TEST(Lowercased, FollowsUnicodeAndNoOneLanguage) {
+  EXPECT_EQ(lowercased("ÄPFEL Iota ΣΑΣ"), "äpfel iota σας");
+  EXPECT_EQ(lowercased(""), "");
+}
+
+TEST(Lowercased, KeepsBytesThatAreNotUtf8) {
+  EXPECT_EQ(lowercased("A\xff\xfe\xc3"), "a\xff\xfe\xc3");
+}
+
+TEST(CharacterCount, CountsWhatAReaderSees) {
+  EXPECT_EQ(characterCount(""), 0U);
+  EXPECT_EQ(characterCount("acme"), 4U);
+  EXPECT_EQ(characterCount("äöü"), 3U);
+  EXPECT_EQ(characterCount("e\u0301"), 1U);
+  EXPECT_EQ(characterCount("👩‍👩‍👧"), 1U);
+  EXPECT_EQ(characterCount("a\xff\xfe"), 3U);
+}
+
+TEST(Printable, LeavesUtf8AsItIs) {
+  EXPECT_EQ(printable("Ärger\n👩"), "Ärger\n👩");
+}
+
+TEST(Printable, ReplacesWhatIsNotUtf8) {
+  EXPECT_EQ(printable("a\xff"
+                      "b"),
+            "a\uFFFDb");
+  EXPECT_EQ(printable("\xe2\x82"), "\uFFFD");
+  EXPECT_EQ(printable("\xed\xa0\x80").substr(0, 3), "\uFFFD");
+  EXPECT_EQ(printable(std::string("\0", 1)), std::string("\0", 1));
+}
+
+}  // namespace
+}  // namespace klarvik
