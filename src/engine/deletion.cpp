@@ -1,0 +1,137 @@
+// Every removal of a found item or a picked file, and the way back.
+
+#include "engine/allocated_size.h"
+#include "engine/local_snapshots.h"
+#include "engine/scanner_engine.h"
+#include "engine/shell.h"
+#include "engine/sliding_group.h"
+
+namespace klarvik {
+
+namespace {
+
+/// Counts what has finished, and tells it until a stop request has been noticed.
+class Tally {
+ public:
+  Tally(std::size_t total, std::stop_token stop, const ScannerEngine::DeletionSink& progress)
+      : _stop(std::move(stop)), _progress(progress) {
+    _told.total = static_cast<std::int64_t>(total);
+  }
+
+  void add(const std::string& name, std::int64_t bytes) {
+    ++_told.completed;
+    _told.freed = addBytes(_told.freed, bytes);
+    _told.currentName = name;
+    if (_progress && !_silent) _progress(_told);
+    _silent = _silent || _stop.stop_requested();
+  }
+
+ private:
+  std::stop_token _stop;
+  const ScannerEngine::DeletionSink& _progress;
+  DeletionProgress _told;
+  bool _silent = false;
+};
+
+}  // namespace
+
+bool ScannerEngine::mayRemove(const Path& named, const DeletionScope& scope) const {
+  return !DeletionGuard::refusalReason(named, scope, _platform.files.home());
+}
+
+PlaceCheck ScannerEngine::placeCheck(const Path& named, const DeletionScope& scope) const {
+  return [this, named, scope](const Path& real) {
+    return real == named || !DeletionGuard::refusalReason(real, scope, _platform.files.realHome());
+  };
+}
+
+bool ScannerEngine::removeSnapshot(const Path& named) const {
+  const auto command = snapshotRemovalCommand(named.filename().native());
+  return command && !runShell(_platform.commands, *command).empty();
+}
+
+DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
+  // What is removed is the very path that the guard judged, spelled without detours.
+  const Path named = standardizedPath(item.path);
+  const auto scope = DeletionScope::general();
+  DeletionOutcome outcome{.originalURL = item.path};
+  if (!mayRemove(named, scope)) return outcome;
+
+  bool removed = false;
+  if (isSnapshotPath(named)) {
+    removed = removeSnapshot(named);
+  } else if (_platform.trash.contains(named)) {
+    removed = _platform.trash.remove(named, placeCheck(named, scope));
+  } else if (!useTrash) {
+    removed = _platform.files.remove(named, placeCheck(named, scope));
+  } else {
+    outcome.trashedURL = _platform.trash.moveToTrash(named, placeCheck(named, scope));
+    removed = outcome.trashedURL.has_value();
+  }
+  outcome.reclaimed = removed ? item.size : 0;
+  return outcome;
+}
+
+std::vector<DeletionOutcome> ScannerEngine::deleteItems(const std::vector<JunkItem>& items,
+                                                        bool useTrash, std::stop_token stop,
+                                                        const DeletionSink& progress) {
+  std::vector<DeletionOutcome> byNumber(items.size());
+  std::vector<DeletionOutcome> outcomes;
+  Tally tally(items.size(), stop, progress);
+  performInSlidingGroup(
+      items.size(), deletionWidth, stop,
+      [&](std::size_t number) { byNumber[number] = deleteItem(items[number], useTrash); },
+      [&](std::size_t number) {
+        outcomes.push_back(std::move(byNumber[number]));
+        tally.add(items[number].name, outcomes.back().reclaimed);
+      });
+  return outcomes;
+}
+
+PickedFileOutcome ScannerEngine::trashFile(const PickedFile& file) {
+  const Path named = standardizedPath(file.url);
+  const auto scope = DeletionScope::pickedFile();
+  const bool moved = mayRemove(named, scope) &&
+                     _platform.trash.moveToTrash(named, placeCheck(named, scope)).has_value();
+  return {.url = file.url, .bytes = moved ? file.size : 0, .moved = moved};
+}
+
+std::set<Path> ScannerEngine::trashFiles(const std::vector<PickedFile>& files, std::stop_token stop,
+                                         const DeletionSink& progress) {
+  std::vector<PickedFileOutcome> byNumber(files.size());
+  std::set<Path> moved;
+  Tally tally(files.size(), stop, progress);
+  performInSlidingGroup(
+      files.size(), deletionWidth, stop,
+      [&](std::size_t number) { byNumber[number] = trashFile(files[number]); },
+      [&](std::size_t number) {
+        const PickedFileOutcome& outcome = byNumber[number];
+        if (outcome.moved) moved.insert(outcome.url);
+        tally.add(outcome.url.filename().native(), outcome.bytes);
+      });
+  return moved;
+}
+
+bool ScannerEngine::restoreItem(const Path& trashedURL, const Path& originalURL) {
+  if (!_platform.files.attributes(trashedURL)) return false;
+  // A link that leads nowhere is somebody's file as well.
+  if (_platform.files.attributes(originalURL)) return false;
+  return _platform.trash.putBack(trashedURL, originalURL);
+}
+
+std::int64_t ScannerEngine::emptyTrash(std::stop_token stop, const DeletionSink& progress) {
+  Items entries;
+  for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
+    entries.push_back({.name = entry.filename().native(),
+                       .path = entry,
+                       .size = allocatedSize(_platform.files, entry)});
+  }
+  std::int64_t reclaimed = 0;
+  for (const DeletionOutcome& outcome :
+       deleteItems(entries, /*useTrash=*/false, std::move(stop), progress)) {
+    reclaimed = addBytes(reclaimed, outcome.reclaimed);
+  }
+  return reclaimed;
+}
+
+}  // namespace klarvik

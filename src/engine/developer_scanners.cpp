@@ -1,0 +1,70 @@
+// The rows of the scan table that look at what developer tools leave behind.
+
+#include "engine/docker_table.h"
+#include "engine/scanner_engine.h"
+#include "engine/shell.h"
+#include "engine/simulator_devices.h"
+
+namespace klarvik {
+
+namespace {
+
+constexpr std::int64_t largestIgnoredDevice = 1'000'000;
+constexpr std::int64_t largestIgnoredDockerFolder = 100'000;
+
+}  // namespace
+
+ScannerEngine::Items ScannerEngine::scanXcodeCache() {
+  return scanPaths({inHome("Library/Developer/Xcode/DerivedData"),
+                    inHome("Library/Developer/Xcode/iOS DeviceSupport"),
+                    inHome("Library/Developer/Xcode/watchOS DeviceSupport"),
+                    inHome("Library/Developer/Xcode/tvOS DeviceSupport")});
+}
+
+ScannerEngine::Items ScannerEngine::scanXcodeArchives() {
+  return scanPaths({inHome("Library/Developer/Xcode/Archives")});
+}
+
+ScannerEngine::Items ScannerEngine::scanSimulators() {
+  Items items;
+  const Path caches = inHome("Library/Developer/CoreSimulator/Caches");
+  if (const auto size = sizeIfPresent(caches); size >= 1) {
+    items.push_back({.name = "CoreSimulator Caches", .path = caches, .size = size});
+  }
+
+  const auto listing =
+      runShell(_platform.commands, "xcrun simctl list devices unavailable --json 2>/dev/null");
+  const Path devices = inHome("Library/Developer/CoreSimulator/Devices");
+  for (const SimulatorDevice& device : unavailableSimulators(listing)) {
+    const Path folder = devices / device.udid;
+    const auto size = sizeIfPresent(folder);
+    if (size <= largestIgnoredDevice) continue;
+    items.push_back({.name = device.name + " (" + device.runtime + ") — unavailable",
+                     .path = folder,
+                     .size = size});
+  }
+  return items;
+}
+
+ScannerEngine::Items ScannerEngine::scanDocker() {
+  const auto engineId = runShell(_platform.commands, "docker info --format '{{.ID}}' 2>/dev/null");
+  if (!engineId.empty()) {
+    const auto table = runShell(_platform.commands, "docker system df 2>/dev/null");
+    // No file stands for this: the path only fills the item's place, and the guard refuses it.
+    return {{.name = "Docker reclaimable (images, containers, volumes, cache)",
+             .path = "/usr/local/bin/docker",
+             .size = dockerReclaimableBytes(table)}};
+  }
+
+  Items items;
+  for (const char* const name : {"cache", "log"}) {
+    const Path folder = inHome("Library/Containers/com.docker.docker/Data") / name;
+    const auto size = sizeIfPresent(folder);
+    if (size > largestIgnoredDockerFolder) {
+      items.push_back({.name = name, .path = folder, .size = size});
+    }
+  }
+  return items;
+}
+
+}  // namespace klarvik

@@ -1,0 +1,55 @@
+#include "engine/local_snapshots.h"
+
+#include "core/deletion_guard.h"
+#include "engine/shell.h"
+#include "engine/tool_text.h"
+
+namespace klarvik {
+
+namespace {
+
+constexpr std::string_view snapshotFolder = "/.MobileBackups/";
+constexpr std::size_t shortestLine = 9;
+
+bool namesASnapshot(std::string_view line) {
+  const bool longEnough = firstCharacters(line, shortestLine - 1).size() < line.size();
+  return longEnough && line.find('-') != std::string_view::npos;
+}
+
+}  // namespace
+
+std::vector<std::string> snapshotTexts(std::string_view output) {
+  std::vector<std::string> texts;
+  for (const auto line : splitLines(output)) {
+    const auto text = trimmedOfBlanks(line);
+    // A text that climbs out of the folder would name somebody else's file.
+    if (!namesASnapshot(line) || text.empty() || !isSnapshotPath(snapshotPath(text))) continue;
+    texts.emplace_back(text);
+  }
+  return texts;
+}
+
+Path snapshotPath(std::string_view text) {
+  return Path(std::string(snapshotFolder) + std::string(text));
+}
+
+bool isSnapshotPath(const Path& path) {
+  return standardizedPath(path).native().starts_with(snapshotFolder);
+}
+
+std::optional<std::string> snapshotSizeCommand(const std::string& text) {
+  if (!mayStandOnCommandLine(text)) return std::nullopt;
+  return "diskutil apfs listSnapshots / 2>/dev/null | grep -A3 " + text +
+         " | grep Size | awk '{print $2}'";
+}
+
+std::optional<std::string> snapshotRemovalCommand(const std::string& text) {
+  if (!mayStandOnCommandLine(text)) return std::nullopt;
+  return "tmutil deletelocalsnapshots " + text + " 2>/dev/null";
+}
+
+std::int64_t snapshotBytes(std::string_view output) {
+  return decimalInteger(trimmed(output)).value_or(estimatedSnapshotBytes);
+}
+
+}  // namespace klarvik

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_system.h"
+
+namespace klarvik {
+
+// Local snapshots of the disk. They are no files: each is named by its date text, and stands in
+// results under a path that exists nowhere, so that it can be selected and removed like any item.
+
+/// How `diskutil` not naming a size is told: 500 MiB, so that a snapshot never shows as nothing.
+inline constexpr std::int64_t estimatedSnapshotBytes = 524'288'000;
+
+/// The texts that name snapshots in what `tmutil listlocalsnapshotdates` prints, in its order.
+[[nodiscard]] std::vector<std::string> snapshotTexts(std::string_view output);
+
+[[nodiscard]] Path snapshotPath(std::string_view text);
+/// Whether a standardised path stands for a snapshot.
+[[nodiscard]] bool isSnapshotPath(const Path& path);
+
+/// Nothing where the text may not stand on a command line.
+[[nodiscard]] std::optional<std::string> snapshotSizeCommand(const std::string& text);
+[[nodiscard]] std::optional<std::string> snapshotRemovalCommand(const std::string& text);
+
+/// Bytes, from what the size command printed; the estimate where that is no number.
+[[nodiscard]] std::int64_t snapshotBytes(std::string_view output);
+
+}  // namespace klarvik

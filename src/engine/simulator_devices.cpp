@@ -1,0 +1,76 @@
+#include "engine/simulator_devices.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <optional>
+
+namespace klarvik {
+
+namespace {
+
+using nlohmann::json;
+
+constexpr std::string_view runtimePrefix = "com.apple.CoreSimulator.SimRuntime.";
+
+/// What is nested deeper than any device is dropped while it is read, so that output of any depth
+/// is held and freed on a stack of ordinary size.
+constexpr int deepestKept = 8;
+
+json parsed(std::string_view text) {
+  const auto keepShallow = [](int depth, json::parse_event_t, json&) {
+    return depth <= deepestKept;
+  };
+  return json::parse(text, keepShallow, /*allow_exceptions=*/false);
+}
+
+bool isListOfObjects(const json& value) {
+  return value.is_array() &&
+         std::all_of(value.begin(), value.end(), [](const json& each) { return each.is_object(); });
+}
+
+std::optional<std::string> textAt(const json& object, const char* key) {
+  const auto found = object.find(key);
+  if (found == object.end() || !found->is_string()) return std::nullopt;
+  return found->get<std::string>();
+}
+
+bool isPlainPathComponent(const std::string& text) {
+  return !text.empty() && text != "." && text != ".." &&
+         text.find_first_of(std::string_view("/\0", 2)) == std::string::npos;
+}
+
+std::string withoutRuntimePrefix(std::string text) {
+  for (auto at = text.find(runtimePrefix); at != std::string::npos;
+       at = text.find(runtimePrefix, at)) {
+    text.erase(at, runtimePrefix.size());
+  }
+  return text;
+}
+
+std::optional<SimulatorDevice> device(const json& object) {
+  const auto udid = textAt(object, "udid");
+  if (!udid || !isPlainPathComponent(*udid)) return std::nullopt;
+  return SimulatorDevice{.udid = *udid,
+                         .name = textAt(object, "name").value_or(*udid),
+                         .runtime = withoutRuntimePrefix(textAt(object, "runtime").value_or(""))};
+}
+
+}  // namespace
+
+std::vector<SimulatorDevice> unavailableSimulators(std::string_view text) {
+  const json top = parsed(text);
+  if (!top.is_object()) return {};
+  const auto byRuntime = top.find("devices");
+  if (byRuntime == top.end() || !byRuntime->is_object()) return {};
+  if (!std::all_of(byRuntime->begin(), byRuntime->end(), isListOfObjects)) return {};
+
+  std::vector<SimulatorDevice> devices;
+  for (const json& ofOneRuntime : *byRuntime) {
+    for (const json& object : ofOneRuntime) {
+      if (auto found = device(object)) devices.push_back(std::move(*found));
+    }
+  }
+  return devices;
+}
+
+}  // namespace klarvik

@@ -1,0 +1,164 @@
+// The rows of the scan table that look at what everybody's disk collects.
+
+#include <algorithm>
+#include <array>
+
+#include "engine/local_snapshots.h"
+#include "engine/scanner_engine.h"
+#include "engine/shell.h"
+#include "engine/tool_text.h"
+
+namespace klarvik {
+
+namespace {
+
+constexpr std::int64_t largestIgnoredCache = 1'000'000;
+constexpr std::int64_t largestIgnoredFirmware = 100'000'000;
+constexpr std::size_t backupNameCharacters = 8;
+
+/// Children of the caches folder that other rows account for, by what their names begin with.
+constexpr std::array<std::string_view, 9> knownCacheOwners{
+    "com.google.Chrome",  "Google",
+    "com.apple.Safari",   "Firefox",
+    "com.brave.Browser",  "com.microsoft.edgemac",
+    "com.apple.dt.Xcode", "org.llvm",
+    "com.docker.docker",
+};
+
+constexpr std::array<std::string_view, 4> firmwareFolders{
+    "Library/iTunes/iPhone Software Updates",
+    "Library/iTunes/iPad Software Updates",
+    "Library/iTunes/iPod Software Updates",
+    "Library/Apple/MobileSync/Backup",
+};
+
+/// A folder that is worth a row of the leftovers from a certain size on.
+struct Leftover {
+  std::string_view path;  ///< below the home unless absolute
+  std::int64_t largestIgnored;
+  std::string_view name;
+};
+
+constexpr std::array<Leftover, 8> leftovers{{
+    {"Library/Caches/Homebrew", 100'000'000, "🍺 Homebrew Cache"},
+    {"/opt/homebrew/Caches", 100'000'000, "🍺 Homebrew Cache"},
+    {"/usr/local/Homebrew/Cache", 100'000'000, "🍺 Homebrew Cache"},
+    {"Library/Logs/DiagnosticReports", 100'000'000, "🩺 Diagnostic Reports"},
+    {"/Library/Logs/DiagnosticReports", 100'000'000, "🩺 Diagnostic Reports"},
+    {"Library/Saved Application State", 50'000'000, "📋 Saved App State"},
+    {"Library/Cookies", 20'000'000, "🍪 Cookies"},
+    {"Library/HTTPStorages", 20'000'000, "🌐 HTTP Storage"},
+}};
+
+bool hasAnotherOwner(std::string_view name) {
+  return std::any_of(knownCacheOwners.begin(), knownCacheOwners.end(),
+                     [&](std::string_view owner) { return name.starts_with(owner); });
+}
+
+bool isFirmware(const Path& file) {
+  const Path extension = file.extension();
+  return extension == ".ipsw" || extension == ".ipa";
+}
+
+bool isLink(const FileSystem& files, const Path& path) {
+  const auto attributes = files.attributes(path);
+  return attributes && attributes->kind == FileKind::symbolicLink;
+}
+
+}  // namespace
+
+ScannerEngine::Items ScannerEngine::scanAppCaches() {
+  Items items;
+  for (const Path& child : children(inHome("Library/Caches"))) {
+    if (isLink(_platform.files, child) || hasAnotherOwner(child.filename().native())) continue;
+    const auto size = sizeOf(child);
+    if (size <= largestIgnoredCache) continue;
+    items.push_back(datedItem(child.filename().native(), child, size));
+    reportItem(items.back());
+  }
+  sortItemsBySize(items);
+  return items;
+}
+
+ScannerEngine::Items ScannerEngine::scanSystemLogs() {
+  return scanPaths({inHome("Library/Logs"), "/var/log"});
+}
+
+ScannerEngine::Items ScannerEngine::scanDeviceBackups() {
+  Items items;
+  for (const Path& child : children(inHome("Library/Application Support/MobileSync/Backup"))) {
+    items.push_back(datedItem(child.filename().native(), child, sizeOf(child)));
+    items.back().name = backupName(items.back());
+  }
+  sortItemsBySize(items);
+  return items;
+}
+
+std::string ScannerEngine::backupName(const JunkItem& folder) const {
+  const std::string told = folder.modifiedDate
+                               ? _platform.formatting.dateAndTime(*folder.modifiedDate)
+                               : std::string(firstCharacters(folder.name, backupNameCharacters));
+  return "iPhone Backup — " + told;
+}
+
+ScannerEngine::Items ScannerEngine::scanTrash() {
+  Items items;
+  for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
+    items.push_back(datedItem(entry.filename().native(), entry, sizeOf(entry)));
+  }
+  return items;
+}
+
+ScannerEngine::Items ScannerEngine::scanBrowserCaches() {
+  return scanPaths(
+      {inHome("Library/Caches/Google/Chrome"), inHome("Library/Caches/com.google.Chrome"),
+       inHome("Library/Caches/com.apple.Safari"), inHome("Library/Caches/Firefox"),
+       inHome("Library/Caches/com.brave.Browser"), inHome("Library/Caches/com.microsoft.edgemac")});
+}
+
+ScannerEngine::Items ScannerEngine::scanTimeMachine() {
+  Items items;
+  const auto listing = runShell(_platform.commands, "tmutil listlocalsnapshotdates / 2>/dev/null");
+  for (const std::string& text : snapshotTexts(listing)) {
+    items.push_back(
+        {.name = snapshotName(text), .path = snapshotPath(text), .size = snapshotSize(text)});
+  }
+  return items;
+}
+
+std::string ScannerEngine::snapshotName(const std::string& text) const {
+  const auto date = Formatting::parseDate(text, "yyyy-MM-dd-HHmmss");
+  return "Snapshot — " + (date ? _platform.formatting.dateAndTime(*date) : text);
+}
+
+std::int64_t ScannerEngine::snapshotSize(const std::string& text) const {
+  const auto command = snapshotSizeCommand(text);
+  return snapshotBytes(command ? runShell(_platform.commands, *command) : std::string());
+}
+
+ScannerEngine::Items ScannerEngine::scanFirmware() const {
+  Items items;
+  for (const std::string_view folder : firmwareFolders) {
+    for (const Path& child : children(inHome(folder))) {
+      if (!isFirmware(child)) continue;
+      const auto size = sizeOf(child);
+      if (size <= largestIgnoredFirmware) continue;
+      items.push_back(datedItem("📱 Firmware: " + child.filename().native(), child, size));
+    }
+  }
+  return items;
+}
+
+ScannerEngine::Items ScannerEngine::scanLeftovers() {
+  Items items = scanFirmware();
+  for (const Leftover& leftover : leftovers) {
+    const Path path = inHome(leftover.path);
+    const auto size = sizeIfPresent(path);
+    if (size <= leftover.largestIgnored) continue;
+    items.push_back({.name = std::string(leftover.name), .path = path, .size = size});
+  }
+  sortItemsBySize(items);
+  return items;
+}
+
+}  // namespace klarvik
