@@ -53,7 +53,7 @@ struct JunkItem {
   std::string name;  ///< what the row shows; bytes of the disk, made printable only at the screen
   Path path;
   std::int64_t size = 0;  ///< bytes that the removal should reclaim
-  std::optional<Date> modifiedDate;
+  std::optional<Date> modifiedDate = std::nullopt;
 
   bool operator==(const JunkItem&) const = default;
 };

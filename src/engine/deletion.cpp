@@ -1,5 +1,6 @@
 // Every removal of a found item or a picked file, and the way back.
 
+#include "core/deletion_guard.h"
 #include "engine/allocated_size.h"
 #include "engine/local_snapshots.h"
 #include "engine/scanner_engine.h"
@@ -33,39 +34,41 @@ class Tally {
   bool _silent = false;
 };
 
-}  // namespace
-
-bool ScannerEngine::mayRemove(const Path& named, const DeletionScope& scope) const {
-  return !DeletionGuard::refusalReason(named, scope, _platform.files.home());
+bool mayRemove(const FileSystem& files, const Path& named, const DeletionScope& scope) {
+  return !DeletionGuard::refusalReason(named, scope, files.home());
 }
 
-PlaceCheck ScannerEngine::placeCheck(const Path& named, const DeletionScope& scope) const {
-  return [this, named, scope](const Path& real) {
-    return real == named || !DeletionGuard::refusalReason(real, scope, _platform.files.realHome());
+/// Links among the folders above may lead an allowed path to a place that is not.
+PlaceCheck placeCheck(const FileSystem& files, const Path& named, const DeletionScope& scope) {
+  return [&files, named, scope](const Path& real) {
+    return real == named || !DeletionGuard::refusalReason(real, scope, files.realHome());
   };
 }
 
-bool ScannerEngine::removeSnapshot(const Path& named) const {
+bool removeSnapshot(CommandRunner& commands, const Path& named) {
   const auto command = snapshotRemovalCommand(named.filename().native());
-  return command && !runShell(_platform.commands, *command).empty();
+  return command && !runShell(commands, *command).empty();
 }
+
+}  // namespace
 
 DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
   // What is removed is the very path that the guard judged, spelled without detours.
   const Path named = standardizedPath(item.path);
   const auto scope = DeletionScope::general();
   DeletionOutcome outcome{.originalURL = item.path};
-  if (!mayRemove(named, scope)) return outcome;
+  if (!mayRemove(_platform.files, named, scope)) return outcome;
 
+  const PlaceCheck check = placeCheck(_platform.files, named, scope);
   bool removed = false;
   if (isSnapshotPath(named)) {
-    removed = removeSnapshot(named);
+    removed = removeSnapshot(_platform.commands, named);
   } else if (_platform.trash.contains(named)) {
-    removed = _platform.trash.remove(named, placeCheck(named, scope));
+    removed = _platform.trash.remove(named, check);
   } else if (!useTrash) {
-    removed = _platform.files.remove(named, placeCheck(named, scope));
+    removed = _platform.files.remove(named, check);
   } else {
-    outcome.trashedURL = _platform.trash.moveToTrash(named, placeCheck(named, scope));
+    outcome.trashedURL = _platform.trash.moveToTrash(named, check);
     removed = outcome.trashedURL.has_value();
   }
   outcome.reclaimed = removed ? item.size : 0;
@@ -91,8 +94,10 @@ std::vector<DeletionOutcome> ScannerEngine::deleteItems(const std::vector<JunkIt
 PickedFileOutcome ScannerEngine::trashFile(const PickedFile& file) {
   const Path named = standardizedPath(file.url);
   const auto scope = DeletionScope::pickedFile();
-  const bool moved = mayRemove(named, scope) &&
-                     _platform.trash.moveToTrash(named, placeCheck(named, scope)).has_value();
+  const FileSystem& files = _platform.files;
+  const bool moved =
+      mayRemove(files, named, scope) &&
+      _platform.trash.moveToTrash(named, placeCheck(files, named, scope)).has_value();
   return {.url = file.url, .bytes = moved ? file.size : 0, .moved = moved};
 }
 
@@ -120,7 +125,7 @@ bool ScannerEngine::restoreItem(const Path& trashedURL, const Path& originalURL)
 }
 
 std::int64_t ScannerEngine::emptyTrash(std::stop_token stop, const DeletionSink& progress) {
-  Items entries;
+  std::vector<JunkItem> entries;
   for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
     entries.push_back({.name = entry.filename().native(),
                        .path = entry,

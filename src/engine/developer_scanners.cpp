@@ -1,7 +1,7 @@
 // The rows of the scan table that look at what developer tools leave behind.
 
+#include "engine/category_scanners.h"
 #include "engine/docker_table.h"
-#include "engine/scanner_engine.h"
 #include "engine/shell.h"
 #include "engine/simulator_devices.h"
 
@@ -14,21 +14,21 @@ constexpr std::int64_t largestIgnoredDockerFolder = 100'000;
 
 }  // namespace
 
-ScannerEngine::Items ScannerEngine::scanXcodeCache() {
-  return scanPaths({inHome("Library/Developer/Xcode/DerivedData"),
-                    inHome("Library/Developer/Xcode/iOS DeviceSupport"),
-                    inHome("Library/Developer/Xcode/watchOS DeviceSupport"),
-                    inHome("Library/Developer/Xcode/tvOS DeviceSupport")});
+CategoryScanners::Items CategoryScanners::xcodeCache() const {
+  return scanPaths({"Library/Developer/Xcode/DerivedData",
+                    "Library/Developer/Xcode/iOS DeviceSupport",
+                    "Library/Developer/Xcode/watchOS DeviceSupport",
+                    "Library/Developer/Xcode/tvOS DeviceSupport"});
 }
 
-ScannerEngine::Items ScannerEngine::scanXcodeArchives() {
-  return scanPaths({inHome("Library/Developer/Xcode/Archives")});
+CategoryScanners::Items CategoryScanners::xcodeArchives() const {
+  return scanPaths({"Library/Developer/Xcode/Archives"});
 }
 
-ScannerEngine::Items ScannerEngine::scanSimulators() {
+CategoryScanners::Items CategoryScanners::simulators() const {
   Items items;
   const Path caches = inHome("Library/Developer/CoreSimulator/Caches");
-  if (const auto size = sizeIfPresent(caches); size >= 1) {
+  if (const auto size = sizeOf(caches); size >= 1) {
     items.push_back({.name = "CoreSimulator Caches", .path = caches, .size = size});
   }
 
@@ -37,7 +37,7 @@ ScannerEngine::Items ScannerEngine::scanSimulators() {
   const Path devices = inHome("Library/Developer/CoreSimulator/Devices");
   for (const SimulatorDevice& device : unavailableSimulators(listing)) {
     const Path folder = devices / device.udid;
-    const auto size = sizeIfPresent(folder);
+    const auto size = sizeOf(folder);
     if (size <= largestIgnoredDevice) continue;
     items.push_back({.name = device.name + " (" + device.runtime + ") — unavailable",
                      .path = folder,
@@ -46,7 +46,7 @@ ScannerEngine::Items ScannerEngine::scanSimulators() {
   return items;
 }
 
-ScannerEngine::Items ScannerEngine::scanDocker() {
+CategoryScanners::Items CategoryScanners::docker() const {
   const auto engineId = runShell(_platform.commands, "docker info --format '{{.ID}}' 2>/dev/null");
   if (!engineId.empty()) {
     const auto table = runShell(_platform.commands, "docker system df 2>/dev/null");
@@ -59,7 +59,7 @@ ScannerEngine::Items ScannerEngine::scanDocker() {
   Items items;
   for (const char* const name : {"cache", "log"}) {
     const Path folder = inHome("Library/Containers/com.docker.docker/Data") / name;
-    const auto size = sizeIfPresent(folder);
+    const auto size = sizeOf(folder);
     if (size > largestIgnoredDockerFolder) {
       items.push_back({.name = name, .path = folder, .size = size});
     }

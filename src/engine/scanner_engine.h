@@ -7,10 +7,8 @@
 #include <set>
 #include <stop_token>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "core/deletion_guard.h"
 #include "core/junk_model.h"
 #include "platform/platform.h"
 
@@ -42,7 +40,8 @@ struct DeletionProgress {
 struct DeletionOutcome {
   std::int64_t reclaimed = 0;  ///< bytes that this item counts for; 0 when it was not removed
   Path originalURL;
-  std::optional<Path> trashedURL;  ///< where the Trash put it; nothing when it is not there
+  /// Where the Trash put it; nothing when it is not there.
+  std::optional<Path> trashedURL = std::nullopt;
 };
 
 /// A file that the user chose by hand.
@@ -96,45 +95,9 @@ class ScannerEngine {
   std::int64_t emptyTrash(std::stop_token stop = {}, const DeletionSink& progress = {});
 
  private:
-  using Items = std::vector<JunkItem>;
-  struct ScanRow {
-    std::string_view name;
-    double fraction;
-    CategoryType type;
-    Items (ScannerEngine::*scan)();
-  };
-  [[nodiscard]] std::vector<ScanRow> scanTable() const;
-  void beginRow(std::string name, double fraction);
+  void begin(std::string name, double fraction);
+  void countItem(const JunkItem& item);
   void publishUpdate() const;
-
-  Items scanXcodeCache();
-  Items scanSimulators();
-  Items scanXcodeArchives();
-  Items scanAppCaches();
-  Items scanSystemLogs();
-  Items scanDeviceBackups();
-  Items scanTrash();
-  Items scanBrowserCaches();
-  Items scanDocker();
-  Items scanTimeMachine();
-  Items scanLeftovers();
-
-  [[nodiscard]] Path inHome(std::string_view relative) const;
-  [[nodiscard]] std::vector<Path> children(const Path& folder) const;
-  [[nodiscard]] std::int64_t sizeOf(const Path& path) const;
-  /// 0 also for what is not there.
-  [[nodiscard]] std::int64_t sizeIfPresent(const Path& path) const;
-  [[nodiscard]] JunkItem datedItem(std::string name, const Path& path, std::int64_t size) const;
-  Items scanPaths(const std::vector<Path>& paths);
-  void reportItem(const JunkItem& item);
-  [[nodiscard]] std::string backupName(const JunkItem& folder) const;
-  [[nodiscard]] std::string snapshotName(const std::string& text) const;
-  [[nodiscard]] std::int64_t snapshotSize(const std::string& text) const;
-  [[nodiscard]] Items scanFirmware() const;
-
-  [[nodiscard]] bool mayRemove(const Path& named, const DeletionScope& scope) const;
-  [[nodiscard]] PlaceCheck placeCheck(const Path& named, const DeletionScope& scope) const;
-  [[nodiscard]] bool removeSnapshot(const Path& named) const;
 
   const Platform& _platform;
   std::mutex _scanning;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/category_scanners.h"
 #include "engine/local_snapshots.h"
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
@@ -39,7 +40,7 @@ struct Leftover {
   std::string_view name;
 };
 
-constexpr std::array<Leftover, 8> leftovers{{
+constexpr std::array<Leftover, 8> leftoverFolders{{
     {"Library/Caches/Homebrew", 100'000'000, "🍺 Homebrew Cache"},
     {"/opt/homebrew/Caches", 100'000'000, "🍺 Homebrew Cache"},
     {"/usr/local/Homebrew/Cache", 100'000'000, "🍺 Homebrew Cache"},
@@ -60,33 +61,28 @@ bool isFirmware(const Path& file) {
   return extension == ".ipsw" || extension == ".ipa";
 }
 
-bool isLink(const FileSystem& files, const Path& path) {
-  const auto attributes = files.attributes(path);
-  return attributes && attributes->kind == FileKind::symbolicLink;
-}
-
 }  // namespace
 
-ScannerEngine::Items ScannerEngine::scanAppCaches() {
+CategoryScanners::Items CategoryScanners::appCaches() const {
   Items items;
-  for (const Path& child : children(inHome("Library/Caches"))) {
-    if (isLink(_platform.files, child) || hasAnotherOwner(child.filename().native())) continue;
+  for (const Path& child : children("Library/Caches")) {
+    if (isLink(child) || hasAnotherOwner(child.filename().native())) continue;
     const auto size = sizeOf(child);
     if (size <= largestIgnoredCache) continue;
     items.push_back(datedItem(child.filename().native(), child, size));
-    reportItem(items.back());
+    _report(items.back());
   }
   sortItemsBySize(items);
   return items;
 }
 
-ScannerEngine::Items ScannerEngine::scanSystemLogs() {
-  return scanPaths({inHome("Library/Logs"), "/var/log"});
+CategoryScanners::Items CategoryScanners::systemLogs() const {
+  return scanPaths({"Library/Logs", "/var/log"});
 }
 
-ScannerEngine::Items ScannerEngine::scanDeviceBackups() {
+CategoryScanners::Items CategoryScanners::deviceBackups() const {
   Items items;
-  for (const Path& child : children(inHome("Library/Application Support/MobileSync/Backup"))) {
+  for (const Path& child : children("Library/Application Support/MobileSync/Backup")) {
     items.push_back(datedItem(child.filename().native(), child, sizeOf(child)));
     items.back().name = backupName(items.back());
   }
@@ -94,14 +90,14 @@ ScannerEngine::Items ScannerEngine::scanDeviceBackups() {
   return items;
 }
 
-std::string ScannerEngine::backupName(const JunkItem& folder) const {
+std::string CategoryScanners::backupName(const JunkItem& folder) const {
   const std::string told = folder.modifiedDate
                                ? _platform.formatting.dateAndTime(*folder.modifiedDate)
                                : std::string(firstCharacters(folder.name, backupNameCharacters));
   return "iPhone Backup — " + told;
 }
 
-ScannerEngine::Items ScannerEngine::scanTrash() {
+CategoryScanners::Items CategoryScanners::trash() const {
   Items items;
   for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
     items.push_back(datedItem(entry.filename().native(), entry, sizeOf(entry)));
@@ -109,14 +105,13 @@ ScannerEngine::Items ScannerEngine::scanTrash() {
   return items;
 }
 
-ScannerEngine::Items ScannerEngine::scanBrowserCaches() {
-  return scanPaths(
-      {inHome("Library/Caches/Google/Chrome"), inHome("Library/Caches/com.google.Chrome"),
-       inHome("Library/Caches/com.apple.Safari"), inHome("Library/Caches/Firefox"),
-       inHome("Library/Caches/com.brave.Browser"), inHome("Library/Caches/com.microsoft.edgemac")});
+CategoryScanners::Items CategoryScanners::browserCaches() const {
+  return scanPaths({"Library/Caches/Google/Chrome", "Library/Caches/com.google.Chrome",
+                    "Library/Caches/com.apple.Safari", "Library/Caches/Firefox",
+                    "Library/Caches/com.brave.Browser", "Library/Caches/com.microsoft.edgemac"});
 }
 
-ScannerEngine::Items ScannerEngine::scanTimeMachine() {
+CategoryScanners::Items CategoryScanners::timeMachine() const {
   Items items;
   const auto listing = runShell(_platform.commands, "tmutil listlocalsnapshotdates / 2>/dev/null");
   for (const std::string& text : snapshotTexts(listing)) {
@@ -126,20 +121,20 @@ ScannerEngine::Items ScannerEngine::scanTimeMachine() {
   return items;
 }
 
-std::string ScannerEngine::snapshotName(const std::string& text) const {
+std::string CategoryScanners::snapshotName(const std::string& text) const {
   const auto date = Formatting::parseDate(text, "yyyy-MM-dd-HHmmss");
   return "Snapshot — " + (date ? _platform.formatting.dateAndTime(*date) : text);
 }
 
-std::int64_t ScannerEngine::snapshotSize(const std::string& text) const {
+std::int64_t CategoryScanners::snapshotSize(const std::string& text) const {
   const auto command = snapshotSizeCommand(text);
   return snapshotBytes(command ? runShell(_platform.commands, *command) : std::string());
 }
 
-ScannerEngine::Items ScannerEngine::scanFirmware() const {
+CategoryScanners::Items CategoryScanners::firmware() const {
   Items items;
   for (const std::string_view folder : firmwareFolders) {
-    for (const Path& child : children(inHome(folder))) {
+    for (const Path& child : children(folder)) {
       if (!isFirmware(child)) continue;
       const auto size = sizeOf(child);
       if (size <= largestIgnoredFirmware) continue;
@@ -149,11 +144,11 @@ ScannerEngine::Items ScannerEngine::scanFirmware() const {
   return items;
 }
 
-ScannerEngine::Items ScannerEngine::scanLeftovers() {
-  Items items = scanFirmware();
-  for (const Leftover& leftover : leftovers) {
+CategoryScanners::Items CategoryScanners::leftovers() const {
+  Items items = firmware();
+  for (const Leftover& leftover : leftoverFolders) {
     const Path path = inHome(leftover.path);
-    const auto size = sizeIfPresent(path);
+    const auto size = sizeOf(path);
     if (size <= leftover.largestIgnored) continue;
     items.push_back({.name = std::string(leftover.name), .path = path, .size = size});
   }

@@ -1,0 +1,50 @@
+// What the scanners of all rows share.
+
+#include "engine/category_scanners.h"
+
+#include "engine/allocated_size.h"
+
+namespace klarvik {
+
+CategoryScanners::CategoryScanners(const Platform& platform, ItemReport report)
+    : _platform(platform), _report(std::move(report)) {}
+
+Path CategoryScanners::inHome(std::string_view path) const {
+  return _platform.files.home() / path;
+}
+
+std::vector<Path> CategoryScanners::children(std::string_view folderInHome) const {
+  return _platform.files.list(inHome(folderInHome)).value_or(std::vector<Path>{});
+}
+
+bool CategoryScanners::isLink(const Path& path) const {
+  const auto attributes = _platform.files.attributes(path);
+  return attributes && attributes->kind == FileKind::symbolicLink;
+}
+
+std::int64_t CategoryScanners::sizeOf(const Path& path) const {
+  return allocatedSize(_platform.files, path);
+}
+
+JunkItem CategoryScanners::datedItem(std::string name, const Path& path, std::int64_t size) const {
+  const auto attributes = _platform.files.attributes(path);
+  return {.name = std::move(name),
+          .path = path,
+          .size = size,
+          .modifiedDate = attributes ? attributes->modified : std::nullopt};
+}
+
+CategoryScanners::Items CategoryScanners::scanPaths(
+    const std::vector<std::string_view>& paths) const {
+  Items items;
+  for (const std::string_view each : paths) {
+    const Path path = inHome(each);
+    const auto size = sizeOf(path);
+    if (size < 1) continue;
+    items.push_back(datedItem(path.filename().native(), path, size));
+    _report(items.back());
+  }
+  return items;
+}
+
+}  // namespace klarvik
