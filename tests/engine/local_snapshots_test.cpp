@@ -1,0 +1,109 @@
+#include "engine/local_snapshots.h"
+
+#include <gmock/gmock.h>
+
+#include "engine/shell.h"
+
+namespace klarvik {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(LocalSnapshots, KeepsTheLinesThatHoldADateAndDropsTheHeader) {
+  EXPECT_THAT(
+      snapshotTexts("Snapshot dates for disk /:\n2026-03-01-101530\n  2026-03-02-110000\t\n"),
+      ElementsAre("2026-03-01-101530", "2026-03-02-110000"));
+}
+
+TEST(LocalSnapshots, AsksForAHyphenAndMoreThanEightCharacters) {
+  EXPECT_THAT(snapshotTexts("1234-678\n1234-6789\n123456789\n"), ElementsAre("1234-6789"));
+  EXPECT_THAT(snapshotTexts("ä-äöüäöü\n"), IsEmpty());
+}
+
+TEST(LocalSnapshots, MeasuresALineBeforeItsBlanksAreTakenOff) {
+  EXPECT_THAT(snapshotTexts("  a-b     \n"), ElementsAre("a-b"));
+}
+
+TEST(LocalSnapshots, KeepsALineThatHoldsMoreThanADate) {
+  EXPECT_THAT(snapshotTexts("com.apple.TimeMachine.2026-03-01-101530.local"),
+              ElementsAre("com.apple.TimeMachine.2026-03-01-101530.local"));
+}
+
+TEST(LocalSnapshots, FindsNothingInNothing) {
+  EXPECT_THAT(snapshotTexts(""), IsEmpty());
+}
+
+TEST(LocalSnapshots, LeavesOutALineThatClimbsOutOfTheSnapshotFolder) {
+  EXPECT_THAT(snapshotTexts("../Users/ann/Library/Caches/com.acme-tool\n..-and-more\n"),
+              ElementsAre("..-and-more"));
+}
+
+TEST(LocalSnapshots, StandUnderAPathOfTheirOwn) {
+  EXPECT_EQ(snapshotPath("2026-03-01-101530"), Path("/.MobileBackups/2026-03-01-101530"));
+  EXPECT_TRUE(isSnapshotPath("/.MobileBackups/2026-03-01-101530"));
+  EXPECT_FALSE(isSnapshotPath("/.MobileBackups"));
+  EXPECT_FALSE(isSnapshotPath("/.MobileBackups/../Users/ann/x"));
+  EXPECT_FALSE(isSnapshotPath("/Users/ann/.MobileBackups/x"));
+}
+
+TEST(LocalSnapshots, PutTheTextIntoTheCommandsAsItStands) {
+  EXPECT_EQ(snapshotSizeCommand("2026-03-01-101530"),
+            "diskutil apfs listSnapshots / 2>/dev/null | grep -A3 2026-03-01-101530 | grep Size | "
+            "awk '{print $2}'");
+  EXPECT_EQ(snapshotRemovalCommand("2026-03-01-101530"),
+            "tmutil deletelocalsnapshots 2026-03-01-101530 2>/dev/null");
+}
+
+TEST(LocalSnapshots, ASnapshotNameWithAnythingAShellActsOnIsNeverPutOnACommandLine) {
+  for (const char* const text : {"",
+                                 "-rf",
+                                 "2026;rm",
+                                 "$(id)-123456",
+                                 "`id`-12345",
+                                 "a'b",
+                                 "a\"b",
+                                 "a\nb",
+                                 "a b",
+                                 "a\tb",
+                                 "a|b",
+                                 "a&b",
+                                 "a>b",
+                                 "a<b",
+                                 "a*b",
+                                 "a?b",
+                                 "a[b]",
+                                 "a{b}",
+                                 "a\\b",
+                                 "a#b",
+                                 "~a",
+                                 "a!b",
+                                 "a=b",
+                                 "a%b",
+                                 "a(b",
+                                 "a\rb",
+                                 "a\x7f"
+                                 "b",
+                                 "a^b"}) {
+    EXPECT_FALSE(mayStandOnCommandLine(text)) << text;
+    EXPECT_EQ(snapshotSizeCommand(text), std::nullopt) << text;
+    EXPECT_EQ(snapshotRemovalCommand(text), std::nullopt) << text;
+  }
+  EXPECT_FALSE(mayStandOnCommandLine(std::string_view("a\0b", 3)));
+  EXPECT_TRUE(mayStandOnCommandLine("aZ09._:+,@/-größe"));
+}
+
+TEST(LocalSnapshots, ReadTheirSizeAsAWholeNumber) {
+  EXPECT_EQ(snapshotBytes("123456789"), 123'456'789);
+  EXPECT_EQ(snapshotBytes(" \n+5\n"), 5);
+  EXPECT_EQ(snapshotBytes("-5"), -5);
+}
+
+TEST(LocalSnapshots, HaveAnEstimateWhereNoSizeWasPrinted) {
+  for (const char* const output : {"", "unknown", "1.5", "12 34", "9223372036854775808"}) {
+    EXPECT_EQ(snapshotBytes(output), 524'288'000) << output;
+  }
+}
+
+}  // namespace
+}  // namespace klarvik

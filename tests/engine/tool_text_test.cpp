@@ -1,0 +1,89 @@
+#include "engine/tool_text.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
+
+namespace klarvik {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(ToolText, TrimsWhiteSpaceOfEveryScriptAtBothEnds) {
+  EXPECT_EQ(trimmed(" \t\r\n a b \v\f\n"), "a b");
+  EXPECT_EQ(trimmed("\u00a0\u2003wide\u3000\u2028"), "wide");
+  EXPECT_EQ(trimmed(" \n "), "");
+  EXPECT_EQ(trimmed(""), "");
+}
+
+TEST(ToolText, TrimmingLeavesBytesThatAreNotUtf8Alone) {
+  EXPECT_EQ(trimmed(" \xff\xa0 "), "\xff\xa0");
+  EXPECT_EQ(trimmed("\x80"), "\x80");
+}
+
+TEST(ToolText, TrimsOnlyBlanksWhereOnlyBlanksAreMeant) {
+  EXPECT_EQ(trimmedOfBlanks(" \ta b\r\t "), "a b\r");
+  EXPECT_EQ(trimmedOfBlanks(" \t"), "");
+}
+
+TEST(ToolText, TellsUtf8FromOtherBytes) {
+  EXPECT_TRUE(isUtf8(""));
+  EXPECT_TRUE(isUtf8("größe 📱"));
+  EXPECT_FALSE(isUtf8("gr\xf6\xdf"));
+  EXPECT_FALSE(isUtf8("cut off \xf0\x9f\x93"));
+  EXPECT_FALSE(isUtf8("surrogate \xed\xa0\x80"));
+}
+
+TEST(ToolText, SplitsLinesAndKeepsEmptyOnes) {
+  EXPECT_THAT(splitLines("a\n\nb\n"), ElementsAre("a", "", "b", ""));
+  EXPECT_THAT(splitLines(""), ElementsAre(""));
+}
+
+TEST(ToolText, SplitsWordsAndDropsEmptyOnes) {
+  EXPECT_THAT(splitWords("  Images \t 5\u00a02  "), ElementsAre("Images", "5", "2"));
+  EXPECT_THAT(splitWords(" \t "), IsEmpty());
+}
+
+TEST(ToolText, CountsCharactersNotBytes) {
+  EXPECT_EQ(firstCharacters("äöüß", 2), "äö");
+  EXPECT_EQ(firstCharacters("short", 8), "short");
+  EXPECT_EQ(firstCharacters("\xff\xfe\xfd", 2), "\xff\xfe");
+}
+
+TEST(ToolText, ReadsAWholeSignedIntegerThatFits64Bits) {
+  EXPECT_EQ(decimalInteger("42"), 42);
+  EXPECT_EQ(decimalInteger("+42"), 42);
+  EXPECT_EQ(decimalInteger("-42"), -42);
+  EXPECT_EQ(decimalInteger("9223372036854775807"), std::numeric_limits<std::int64_t>::max());
+}
+
+TEST(ToolText, ReadsNoIntegerFromAnythingElse) {
+  for (const char* const text : {"", "+", "-", "+-1", "--1", " 1", "1 ", "1.5", "12a", "0x10",
+                                 "9223372036854775808", "99999999999999999999999"}) {
+    EXPECT_EQ(decimalInteger(text), std::nullopt) << text;
+  }
+}
+
+TEST(ToolText, ReadsADecimalNumber) {
+  EXPECT_EQ(decimalNumber("1.5"), 1.5);
+  EXPECT_EQ(decimalNumber(".5"), 0.5);
+  EXPECT_EQ(decimalNumber("-2"), -2);
+  EXPECT_EQ(decimalNumber("+2"), 2);
+  EXPECT_EQ(decimalNumber("2e3"), 2000);
+}
+
+TEST(ToolText, ReadsANumberBeyondTheRangeAsZero) {
+  EXPECT_EQ(decimalNumber("1e999"), 0);
+  EXPECT_EQ(decimalNumber("1e-999"), 0);
+}
+
+TEST(ToolText, ReadsNoNumberFromAnythingElse) {
+  for (const char* const text :
+       {"", "+", ".", "inf", "-inf", "nan", "infinity", "0x1p3", "1.5.2", "1 ", " 1", "+-1", "k"}) {
+    EXPECT_EQ(decimalNumber(text), std::nullopt) << text;
+  }
+}
+
+}  // namespace
+}  // namespace klarvik
