@@ -1,0 +1,65 @@
+#include <charconv>
+#include <exception>
+#include <iostream>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "support/sample_disk.h"
+
+namespace {
+
+constexpr int usageError = 2;
+
+struct Arguments {
+  klarvik::Path root;
+  klarvik::SampleDiskOptions options;
+};
+
+std::optional<std::int64_t> positiveNumber(std::string_view text) {
+  std::int64_t value = 0;
+  const char* const end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, value);
+  if (error != std::errc{} || rest != end || value < 1) return std::nullopt;
+  return value;
+}
+
+std::optional<Arguments> parsed(std::span<char* const> words) {
+  Arguments arguments;
+  for (std::size_t at = 0; at < words.size(); ++at) {
+    const std::string_view word = words[at];
+    const bool hasValue = at + 1 < words.size();
+    if (word == "--scale" && hasValue) {
+      const auto scale = positiveNumber(words[++at]);
+      if (!scale) return std::nullopt;
+      arguments.options.scale = *scale;
+    } else if (word == "--home" && hasValue) {
+      arguments.options.home = words[++at];
+      if (!arguments.options.home.is_absolute()) return std::nullopt;
+    } else if (!word.starts_with("--") && arguments.root.empty()) {
+      arguments.root = word;
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (arguments.root.empty()) return std::nullopt;
+  return arguments;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto arguments = parsed(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
+  if (!arguments) {
+    std::cerr << "usage: klarvik-sample-disk DIR [--scale N] [--home /Users/ann]\n"
+                 "Builds a Mac-shaped disk below DIR, which must be missing or empty.\n";
+    return usageError;
+  }
+  try {
+    const auto disk = klarvik::buildSampleDisk(arguments->root, arguments->options);
+    std::cout << disk.files << " files below " << disk.root.native() << '\n';
+  } catch (const std::exception& error) {
+    std::cerr << "klarvik-sample-disk: " << error.what() << '\n';
+    return 1;
+  }
+}
