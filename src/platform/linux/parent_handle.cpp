@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/linux/uninterrupted.h"
+
 namespace klarvik {
 namespace {
 
@@ -42,12 +44,14 @@ bool namesAnItem(const Path& item) {
 }
 
 UniqueFd openStep(int folder, const char* name) {
-  return UniqueFd(::openat(folder, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  constexpr int flags = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+  return UniqueFd(uninterrupted([&] { return ::openat(folder, name, flags); }));
 }
 
 std::optional<std::string> linkTarget(int folder, const std::string& name) {
   std::array<char, PATH_MAX> target;
-  const ssize_t length = ::readlinkat(folder, name.c_str(), target.data(), target.size());
+  const ssize_t length = uninterrupted(
+      [&] { return ::readlinkat(folder, name.c_str(), target.data(), target.size()); });
   if (length <= 0) return std::nullopt;
   return std::string(target.data(), static_cast<std::size_t>(length));
 }
@@ -73,7 +77,8 @@ class Descent {
   bool createPending() {
     while (!_pending.empty()) {
       const std::string& name = _pending.back();
-      if (::mkdirat(_folder.get(), name.c_str(), 0777) != 0 && errno != EEXIST) return false;
+      const auto make = [&] { return ::mkdirat(_folder.get(), name.c_str(), 0777); };
+      if (uninterrupted(make) != 0 && errno != EEXIST) return false;
       UniqueFd next = openStep(_folder.get(), name.c_str());
       if (!next) return false;
       arriveAt(std::move(next));
@@ -198,13 +203,6 @@ std::optional<ParentHandle> openParent(const Path& root, const Path& item) {
 std::optional<ParentHandle> openParentCreating(const Path& root, const Path& item,
                                                const PlaceCheck& mayCreate) {
   return openParentOf(root, item, &mayCreate);
-}
-
-UniqueFd openFolderFollowingLinks(const Path& root, const Path& folder, int flags) {
-  Descent descent;
-  if (!descent.enter(root.native()) || !descent.enter(folder.native())) return {};
-  const UniqueFd found = descent.takeFolder();
-  return UniqueFd(::openat(found.get(), ".", flags | O_DIRECTORY | O_CLOEXEC));
 }
 
 }  // namespace klarvik

@@ -35,8 +35,4 @@ struct ParentHandle {
 [[nodiscard]] std::optional<ParentHandle> openParentCreating(const Path& root, const Path& item,
                                                              const PlaceCheck& mayCreate);
 
-/// Opens the folder that `folder` names, following links in all its components, with `flags` added
-/// to O_DIRECTORY and O_CLOEXEC. Holds -1 with `errno` set on failure.
-[[nodiscard]] UniqueFd openFolderFollowingLinks(const Path& root, const Path& folder, int flags);
-
 }  // namespace klarvik

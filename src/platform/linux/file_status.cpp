@@ -1,0 +1,60 @@
+#include "platform/linux/file_status.h"
+
+#include <chrono>
+
+#include "platform/linux/uninterrupted.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::int64_t kBlockBytes = 512;  // the unit of stx_blocks on every file system
+
+Date dateOf(const struct statx_timestamp& time) {
+  return Date(std::chrono::duration_cast<Date::duration>(std::chrono::seconds(time.tv_sec) +
+                                                         std::chrono::nanoseconds(time.tv_nsec)));
+}
+
+std::optional<Date> dateIf(const struct statx& status, unsigned mask,
+                           const struct statx_timestamp& time) {
+  return status.stx_mask & mask ? std::optional(dateOf(time)) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<struct statx> statusOf(int folder, const char* name) {
+  struct statx status;
+  const int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | (*name ? 0 : AT_EMPTY_PATH);
+  const unsigned mask = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
+  const auto ask = [&] { return ::statx(folder, name, flags, mask, &status); };
+  if (uninterrupted(ask) != 0) return std::nullopt;
+  return status;
+}
+
+FileKind kindOf(const struct statx& status) {
+  switch (status.stx_mode & S_IFMT) {
+    case S_IFDIR:
+      return FileKind::directory;
+    case S_IFREG:
+      return FileKind::regular;
+    case S_IFLNK:
+      return FileKind::symbolicLink;
+    default:
+      return FileKind::other;
+  }
+}
+
+std::int64_t allocatedBytesOf(const struct statx& status) {
+  if (kindOf(status) == FileKind::directory) return 0;
+  return static_cast<std::int64_t>(status.stx_blocks) * kBlockBytes;
+}
+
+FileAttributes attributesOf(const struct statx& status) {
+  return {.kind = kindOf(status),
+          .allocatedBytes = allocatedBytesOf(status),
+          .logicalBytes = static_cast<std::int64_t>(status.stx_size),
+          .modified = dateIf(status, STATX_MTIME, status.stx_mtime),
+          .accessed = dateIf(status, STATX_ATIME, status.stx_atime),
+          .created = dateIf(status, STATX_BTIME, status.stx_btime)};
+}
+
+}  // namespace klarvik

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <optional>
+
+#include "platform/file_system.h"
+
+namespace klarvik {
+
+/// What the system tells of `name` in `folder` without following a link; of `folder` itself when
+/// `name` is empty. Nothing when it cannot be asked.
+[[nodiscard]] std::optional<struct statx> statusOf(int folder, const char* name);
+
+[[nodiscard]] FileKind kindOf(const struct statx& status);
+/// Bytes taken on the disk; a directory takes none.
+[[nodiscard]] std::int64_t allocatedBytesOf(const struct statx& status);
+[[nodiscard]] FileAttributes attributesOf(const struct statx& status);
+
+}  // namespace klarvik

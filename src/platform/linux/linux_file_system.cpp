@@ -1,0 +1,160 @@
+#include "platform/linux/linux_file_system.h"
+
+#include <fcntl.h>
+#include <limits.h>
+#include <stdio.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/linux/directory_reader.h"
+#include "platform/linux/directory_walk.h"
+#include "platform/linux/file_status.h"
+#include "platform/linux/tree_removal.h"
+#include "platform/linux/uninterrupted.h"
+
+namespace klarvik {
+namespace {
+
+/// Without trailing slashes, which would make the system follow a link.
+Path withoutTrailingSlashes(const Path& path) {
+  std::string text = path.native();
+  while (text.size() > 1 && text.back() == '/') text.pop_back();
+  return Path(std::move(text));
+}
+
+class LinuxFileReader final : public FileReader {
+ public:
+  explicit LinuxFileReader(UniqueFd file) : _file(std::move(file)) {}
+
+  [[nodiscard]] std::optional<std::size_t> read(std::span<std::byte> buffer) override {
+    std::size_t filled = 0;
+    while (filled < buffer.size()) {
+      const std::span<std::byte> rest = buffer.subspan(filled);
+      const ssize_t got =
+          uninterrupted([&] { return ::read(_file.get(), rest.data(), rest.size()); });
+      if (got < 0 && filled == 0) return std::nullopt;
+      if (got <= 0) break;
+      filled += static_cast<std::size_t>(got);
+    }
+    return filled;
+  }
+
+ private:
+  UniqueFd _file;
+};
+
+}  // namespace
+
+LinuxFileSystem::LinuxFileSystem(Path root, Path home)
+    : _root(withoutTrailingSlashes(root)), _home(std::move(home)) {}
+
+Path LinuxFileSystem::diskPath(const Path& logical) const {
+  const Path below = logical.relative_path();
+  return below.empty() ? _root : _root / below;
+}
+
+std::optional<Path> LinuxFileSystem::logicalPath(const Path& disk) const {
+  const auto [inRoot, inDisk] = std::mismatch(_root.begin(), _root.end(), disk.begin(), disk.end());
+  if (inRoot != _root.end()) return std::nullopt;
+  Path logical("/");
+  for (auto part = inDisk; part != disk.end(); ++part) logical /= *part;
+  return logical;
+}
+
+Path LinuxFileSystem::realHome() const {
+  const auto inHome = openParent(_root, _home / "x");
+  return inHome ? inHome->realPath.parent_path() : _home;
+}
+
+int LinuxFileSystem::Location::at() const {
+  return folder ? folder.get() : AT_FDCWD;
+}
+
+std::optional<LinuxFileSystem::Location> LinuxFileSystem::locate(const Path& path) const {
+  if (!path.is_absolute() || path.native().find('\0') != std::string::npos) return std::nullopt;
+  std::string disk = withoutTrailingSlashes(diskPath(path)).native();
+  if (disk.size() < PATH_MAX) return Location{{}, std::move(disk)};
+  auto parent = openParent(_root, withoutTrailingSlashes(path));
+  if (!parent) return std::nullopt;
+  return Location{std::move(parent->folder), std::move(parent->name)};
+}
+
+bool LinuxFileSystem::exists(const Path& path) const {
+  const auto location = locate(path);
+  if (!location) return false;
+  struct stat status {};
+  const auto ask = [&] { return ::fstatat(location->at(), location->name.c_str(), &status, 0); };
+  return uninterrupted(ask) == 0;
+}
+
+std::optional<FileAttributes> LinuxFileSystem::attributes(const Path& path) const {
+  const auto location = locate(path);
+  if (!location) return std::nullopt;
+  const auto status = statusOf(location->at(), location->name.c_str());
+  return status ? std::optional(attributesOf(*status)) : std::nullopt;
+}
+
+std::optional<std::vector<Path>> LinuxFileSystem::list(const Path& folder) const {
+  const UniqueFd opened = open(folder, O_RDONLY | O_DIRECTORY);
+  std::vector<Path> children;
+  const bool listed = opened && DirectoryReader().read(opened.get(), [&](const ListedEntry& entry) {
+    children.push_back(folder / entry.name);
+    return true;
+  });
+  return listed ? std::optional(std::move(children)) : std::nullopt;
+}
+
+WalkOutcome LinuxFileSystem::walk(const Path& folder, WalkOptions options,
+                                  const WalkVisitor& visit) const {
+  const bool isRoot = withoutTrailingSlashes(folder) == "/";
+  UniqueFd start = open(folder, O_RDONLY | O_DIRECTORY | (isRoot ? 0 : O_NOFOLLOW));
+  if (!start) return WalkOutcome::refused;
+  return walkBelow(std::move(start), withoutTrailingSlashes(folder), options, visit);
+}
+
+std::unique_ptr<FileReader> LinuxFileSystem::openForReading(const Path& path) const {
+  const auto isRegular = [](const std::optional<struct statx>& status) {
+    return status && kindOf(*status) == FileKind::regular;
+  };
+  const auto location = locate(path);
+  if (!location || !isRegular(statusOf(location->at(), location->name.c_str()))) return nullptr;
+  // Should it have become a pipe by now, opening it does not wait for a writer.
+  UniqueFd file = open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+  if (!file || !isRegular(statusOf(file.get(), ""))) return nullptr;
+  return std::make_unique<LinuxFileReader>(std::move(file));
+}
+
+bool LinuxFileSystem::createDirectories(const Path& folder) {
+  const Path plain = withoutTrailingSlashes(folder);
+  if (open(plain, O_PATH | O_DIRECTORY)) return true;
+  const auto parent = openParentCreating(_root, plain, [](const Path&) { return true; });
+  if (!parent) return false;
+  const auto make = [&] { return ::mkdirat(parent->folder.get(), parent->name.c_str(), 0777); };
+  return uninterrupted(make) == 0 || static_cast<bool>(open(plain, O_PATH | O_DIRECTORY));
+}
+
+bool LinuxFileSystem::move(const Path& from, const Path& to) {
+  const auto source = openParent(_root, from);
+  const auto target = openParent(_root, to);
+  if (!source || !target) return false;
+  return uninterrupted([&] {
+           return ::renameat2(source->folder.get(), source->name.c_str(), target->folder.get(),
+                              target->name.c_str(), RENAME_NOREPLACE);
+         }) == 0;
+}
+
+bool LinuxFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
+  const auto place = openParent(_root, item);
+  return place && mayRemove && mayRemove(place->realPath) && removeTree(*place);
+}
+
+UniqueFd LinuxFileSystem::open(const Path& path, int flags) const {
+  const auto location = locate(path);
+  if (!location) return {};
+  return UniqueFd(uninterrupted(
+      [&] { return ::openat(location->at(), location->name.c_str(), flags | O_CLOEXEC); }));
+}
+
+}  // namespace klarvik

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "platform/file_system.h"
+#include "platform/linux/parent_handle.h"
+
+namespace klarvik {
+
+/// The files of this machine beneath one folder. Keeps nothing between calls; may be used from any
+/// thread. A path that is not absolute, or holds a zero byte, names nothing.
+class LinuxFileSystem final : public FileSystem {
+ public:
+  /// `root` is where the logical "/" lies on the machine; `home` is a logical path.
+  LinuxFileSystem(Path root, Path home);
+
+  [[nodiscard]] Path diskPath(const Path& logical) const override;
+  [[nodiscard]] std::optional<Path> logicalPath(const Path& disk) const override;
+  [[nodiscard]] Path home() const override { return _home; }
+  [[nodiscard]] Path realHome() const override;
+
+  [[nodiscard]] bool exists(const Path& path) const override;
+  [[nodiscard]] std::optional<FileAttributes> attributes(const Path& path) const override;
+  [[nodiscard]] std::optional<std::vector<Path>> list(const Path& folder) const override;
+  WalkOutcome walk(const Path& folder, WalkOptions options,
+                   const WalkVisitor& visit) const override;
+  [[nodiscard]] std::unique_ptr<FileReader> openForReading(const Path& path) const override;
+
+  bool createDirectories(const Path& folder) override;
+  bool move(const Path& from, const Path& to) override;
+  bool remove(const Path& item, const PlaceCheck& mayRemove) override;
+
+ private:
+  /// What system calls are told: a folder and a name in it that together mean `path`.
+  struct Location {
+    UniqueFd folder;  ///< none: the name is a path of its own
+    std::string name;
+
+    [[nodiscard]] int at() const;
+  };
+  [[nodiscard]] std::optional<Location> locate(const Path& path) const;
+  [[nodiscard]] UniqueFd open(const Path& path, int flags) const;
+
+  Path _root;
+  Path _home;
+};
+
+}  // namespace klarvik
