@@ -73,6 +73,13 @@ std::size_t characterCount(std::string_view text) {
   return count;
 }
 
+bool isUtf8(std::string_view bytes) {
+  bool sound = true;
+  takeApart(
+      bytes, [](std::string_view) {}, [&](std::string_view) { sound = false; });
+  return sound;
+}
+
 std::string printable(std::string_view bytes) {
   std::string result;
   takeApart(

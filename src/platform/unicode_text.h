@@ -14,6 +14,8 @@ namespace klarvik {
 /// not UTF-8 counts as one.
 [[nodiscard]] std::size_t characterCount(std::string_view text);
 
+[[nodiscard]] bool isUtf8(std::string_view bytes);
+
 /// `bytes` with every sequence that is not UTF-8 replaced by U+FFFD: how a name of the disk is
 /// made fit for the screen.
 [[nodiscard]] std::string printable(std::string_view bytes);

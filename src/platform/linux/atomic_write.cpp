@@ -1,0 +1,47 @@
+#include "platform/linux/atomic_write.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+
+#include "platform/linux/unique_fd.h"
+
+namespace klarvik {
+namespace {
+
+bool writeAll(int fd, std::string_view content) {
+  while (!content.empty()) {
+    const ssize_t written = ::write(fd, content.data(), content.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return false;
+    content.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+// Makes the new name last. When that fails, the new content stands all the same.
+void syncFolder(const Path& folder) {
+  const UniqueFd fd{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+  if (fd) ::fsync(fd.get());
+}
+
+}  // namespace
+
+bool writeAtomically(const Path& file, std::string_view content) {
+  const Path fresh = Path(file) += ".new";
+  ::unlink(fresh.c_str());  // of a run that was killed
+  UniqueFd fd{::open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
+  if (!fd) return false;
+  const bool stored = writeAll(fd.get(), content) && ::fsync(fd.get()) == 0 &&
+                      ::close(fd.release()) == 0 && ::rename(fresh.c_str(), file.c_str()) == 0;
+  if (stored) {
+    syncFolder(file.parent_path());
+  } else {
+    ::unlink(fresh.c_str());
+  }
+  return stored;
+}
+
+}  // namespace klarvik

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/file_system.h"
+
+namespace klarvik {
+
+/// Puts `content` in the place of `file`, a path on the machine. Whoever reads the file, also after
+/// a crash at any moment, finds either all that stood there before or all of `content`. The user
+/// alone may read it.
+///
+/// False when that failed; what stood there before then still stands. Two writers of one file must
+/// keep each other out.
+[[nodiscard]] bool writeAtomically(const Path& file, std::string_view content);
+
+}  // namespace klarvik

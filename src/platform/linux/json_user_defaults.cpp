@@ -1,0 +1,245 @@
+#include "platform/linux/json_user_defaults.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <nlohmann/json.hpp>
+
+#include "platform/base64.h"
+#include "platform/linux/atomic_write.h"
+#include "platform/linux/file_lock.h"
+#include "platform/linux/unique_fd.h"
+#include "platform/unicode_text.h"
+
+namespace klarvik {
+namespace {
+
+using nlohmann::json;
+using namespace std::chrono_literals;
+
+constexpr std::size_t largestDocument = 16 * 1024 * 1024;
+constexpr int deepestNesting = 64;
+constexpr const char* bytesMember = "base64";
+// Longer than any change takes; shorter than a user waits for a switch to move.
+constexpr auto lockPatience = 2s;
+// The coarsest time stamp of a file system in use: two changes closer than this may look alike.
+constexpr auto stampResolution = 3s;
+
+std::optional<json> encoded(const DefaultsValue& value) {
+  if (const auto* bytes = std::get_if<Bytes>(&value)) {
+    if (bytes->content.size() > largestDocument) return std::nullopt;
+    return json{{bytesMember, base64(bytes->content)}};
+  }
+  if (const auto* number = std::get_if<double>(&value);
+      number != nullptr && !std::isfinite(*number)) {
+    return std::nullopt;
+  }
+  if (const auto* text = std::get_if<std::string>(&value)) {
+    return isUtf8(*text) ? std::optional(json(*text)) : std::nullopt;
+  }
+  if (const auto* boolean = std::get_if<bool>(&value)) return json(*boolean);
+  if (const auto* integer = std::get_if<std::int64_t>(&value)) return json(*integer);
+  return json(std::get<double>(value));
+}
+
+std::optional<DefaultsValue> decodedBytes(const json& value) {
+  const auto member = value.find(bytesMember);
+  if (value.size() != 1 || member == value.end() || !member->is_string()) return std::nullopt;
+  auto content = bytesOfBase64(member->get_ref<const std::string&>());
+  if (!content) return std::nullopt;
+  return Bytes{std::move(*content)};
+}
+
+std::optional<DefaultsValue> decodedInteger(const json& value) {
+  constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+  if (value.is_number_unsigned() && value.get<std::uint64_t>() > largest) return std::nullopt;
+  return value.get<std::int64_t>();
+}
+
+std::optional<DefaultsValue> decoded(const json& value) {
+  if (value.is_boolean()) return value.get<bool>();
+  if (value.is_number_integer()) return decodedInteger(value);
+  if (value.is_number_float()) return value.get<double>();
+  if (value.is_string()) return value.get<std::string>();
+  if (value.is_object()) return decodedBytes(value);
+  return std::nullopt;
+}
+
+// Nothing unless it is one object of a sane depth: writing a document needs stack for each level.
+std::optional<json> parsed(const std::string& text) {
+  bool tooDeep = false;
+  const auto watchDepth = [&](int depth, json::parse_event_t, json&) {
+    tooDeep = tooDeep || depth > deepestNesting;
+    return !tooDeep;
+  };
+  json document = json::parse(text, watchDepth, /*allow_exceptions=*/false);
+  if (tooDeep || !document.is_object()) return std::nullopt;
+  return document;
+}
+
+// Nothing with `errno` set when reading fails, and with `errno` 0 when there is too much.
+std::optional<std::string> contentOf(int fd) {
+  std::string content(64 * 1024, '\0');
+  std::size_t length = 0;
+  while (true) {
+    const ssize_t count = ::read(fd, content.data() + length, content.size() - length);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return std::nullopt;
+    if (count == 0) break;
+    length += static_cast<std::size_t>(count);
+    errno = 0;
+    if (length > largestDocument) return std::nullopt;
+    if (length == content.size()) content.resize(content.size() * 2);
+  }
+  content.resize(length);
+  return content;
+}
+
+// Tells one state of a file from another without reading it.
+struct Stamp {
+  ::dev_t device = 0;
+  ::ino_t inode = 0;
+  ::off_t size = 0;
+  std::chrono::nanoseconds modified{};
+  std::chrono::nanoseconds changed{};
+  bool operator==(const Stamp&) const = default;
+};
+
+Stamp stampOf(const struct ::stat& status) {
+  const auto time = [](const ::timespec& moment) {
+    return std::chrono::seconds(moment.tv_sec) + std::chrono::nanoseconds(moment.tv_nsec);
+  };
+  return {status.st_dev, status.st_ino, status.st_size, time(status.st_mtim), time(status.st_ctim)};
+}
+
+std::string timestamp() {
+  const std::time_t now = std::time(nullptr);
+  std::tm utc{};
+  ::gmtime_r(&now, &utc);
+  std::array<char, 32> text{};
+  std::strftime(text.data(), text.size(), "%Y-%m-%d-%H%M%S", &utc);
+  return text.data();
+}
+
+// Only under the lock, so that nobody else takes the free name meanwhile.
+bool keepAside(const Path& file) {
+  const std::string stem = "preferences.broken-" + timestamp();
+  struct ::stat status {};
+  Path aside = file.parent_path() / (stem + ".json");
+  for (int copy = 2; ::lstat(aside.c_str(), &status) == 0; ++copy) {
+    aside = file.parent_path() / (stem + '-' + std::to_string(copy) + ".json");
+  }
+  return ::rename(file.c_str(), aside.c_str()) == 0;
+}
+
+}  // namespace
+
+struct JsonUserDefaults::Reading {
+  enum class Condition { absent, sound, broken, unreadable };
+  Condition condition = Condition::absent;
+  json document = json::object();
+  Stamp stamp{};
+  // The file was old enough when it was read for any later change to show in its stamp.
+  bool settled = false;
+
+  static Reading of(const Path& file);
+  static Reading failed(int error);
+  [[nodiscard]] bool stillHolds(const Path& file) const;
+};
+
+JsonUserDefaults::Reading JsonUserDefaults::Reading::failed(int error) {
+  return {.condition = error == ENOENT ? Condition::absent : Condition::unreadable};
+}
+
+JsonUserDefaults::Reading JsonUserDefaults::Reading::of(const Path& file) {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  // Not waiting for the other end, should it be a pipe.
+  const UniqueFd fd{::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)};
+  if (!fd) return errno == ENXIO ? Reading{.condition = Condition::broken} : failed(errno);
+  struct ::stat status {};
+  if (::fstat(fd.get(), &status) != 0) return failed(errno);
+  if (!S_ISREG(status.st_mode)) return {.condition = Condition::broken};
+
+  Reading reading{.condition = Condition::broken, .stamp = stampOf(status)};
+  reading.settled = now > reading.stamp.changed + stampResolution;
+  const std::optional<std::string> content = contentOf(fd.get());
+  if (!content && errno != 0) return failed(EIO);
+  if (auto document = content ? parsed(*content) : std::nullopt) {
+    reading.condition = Condition::sound;
+    reading.document = std::move(*document);
+  }
+  return reading;
+}
+
+bool JsonUserDefaults::Reading::stillHolds(const Path& file) const {
+  struct ::stat status {};
+  return settled && ::stat(file.c_str(), &status) == 0 && stampOf(status) == stamp;
+}
+
+JsonUserDefaults::JsonUserDefaults(Path folder)
+    : _folder(std::move(folder)), _file(_folder / "preferences.json") {}
+
+JsonUserDefaults::~JsonUserDefaults() = default;
+
+Path JsonUserDefaults::usualFolder(const Path& home) {
+  // A relative path in the variable is to be ignored, as an unset one is.
+  const char* chosen = std::getenv("XDG_CONFIG_HOME");
+  const bool usable = chosen != nullptr && chosen[0] == '/';
+  return (usable ? Path(chosen) : home / ".config") / "klarvik";
+}
+
+const JsonUserDefaults::Reading& JsonUserDefaults::current() const {
+  if (!_lastReading || !_lastReading->stillHolds(_file)) {
+    _lastReading = std::make_unique<const Reading>(Reading::of(_file));
+  }
+  return *_lastReading;
+}
+
+std::optional<DefaultsValue> JsonUserDefaults::object(const std::string& key) const {
+  const std::lock_guard guard(_mutex);
+  const json& document = current().document;
+  const auto member = document.find(key);
+  return member != document.end() ? decoded(*member) : std::nullopt;
+}
+
+bool JsonUserDefaults::set(const std::string& key, const DefaultsValue& value) {
+  const std::optional<json> newValue = encoded(value);
+  if (!newValue || !isUtf8(key)) return false;
+  return change([&](json& document) { document[key] = *newValue; });
+}
+
+bool JsonUserDefaults::remove(const std::string& key) {
+  {
+    const std::lock_guard guard(_mutex);
+    const Reading& reading = current();
+    if (reading.condition != Reading::Condition::unreadable && !reading.document.contains(key)) {
+      return true;
+    }
+  }
+  return change([&](json& document) { document.erase(key); });
+}
+
+bool JsonUserDefaults::change(const std::function<void(json& document)>& apply) {
+  const std::lock_guard guard(_mutex);
+  std::error_code error;
+  std::filesystem::create_directories(_folder.parent_path(), error);
+  ::mkdir(_folder.c_str(), 0700);
+  const auto lock = FileLock::take(_folder / "preferences.lock", lockPatience);
+  if (!lock) return false;
+
+  Reading reading = Reading::of(_file);
+  if (reading.condition == Reading::Condition::unreadable) return false;
+  apply(reading.document);
+  const std::string text = reading.document.dump(2) + '\n';
+  if (text.size() > largestDocument) return false;
+  if (reading.condition == Reading::Condition::broken && !keepAside(_file)) return false;
+  return writeAtomically(_file, text);
+}
+
+}  // namespace klarvik
