@@ -8,6 +8,7 @@
 #include <set>
 #include <stop_token>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <variant>
@@ -16,6 +17,7 @@
 #include "core/junk_model.h"
 #include "engine/scanner_engine.h"
 #include "platform/platform.h"
+#include "state/engine_work.h"
 #include "state/scan_coordinator.h"
 #include "state/scan_history.h"
 #include "state/tool_activity.h"
@@ -23,7 +25,8 @@
 namespace klarvik {
 
 /// The result of a Smart Scan, and the clean that may follow. Main thread only; nothing is kept
-/// across restarts. Every signal fires only when its value has really changed.
+/// across restarts. Every signal fires only when its value has really changed. Must not outlive
+/// what its constructor is given.
 class AppState : public QObject {
   Q_OBJECT
  public:
@@ -68,6 +71,8 @@ class AppState : public QObject {
 
   AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
            ScanHistory& history, QObject* parent = nullptr);
+  /// Asks whatever is running to stop, and waits for the row of the table that a scan is at and for
+  /// the items that a removal has in hand; what a clean has removed is put on record first.
   ~AppState() override;
 
   [[nodiscard]] const std::vector<CleanCategory>& scanResults() const { return _scanResults; }
@@ -86,23 +91,38 @@ class AppState : public QObject {
   [[nodiscard]] const std::optional<DeletionProgress>& cleanProgress() const {
     return _cleanProgress;
   }
-  [[nodiscard]] std::int64_t selectedSize() const;
-  [[nodiscard]] std::int64_t selectedCount() const;
+  /// Bytes and number of the selected items that are in `scanResults`. Both are kept up to date, so
+  /// that asking costs nothing.
+  [[nodiscard]] std::int64_t selectedSize() const { return _selected.size; }
+  [[nodiscard]] std::int64_t selectedCount() const { return _selected.count; }
+  /// Whether nothing is selected that asks for a review.
   [[nodiscard]] bool selectionIsAllSafe() const;
 
+  /// Starts anew, also while a scan or a clean is running. A running scan is asked to stop, and
+  /// what it still reports until it does is shown like any other report.
   void startScan();
+  /// Keeps what has arrived.
   void cancelScan();
+  /// Scans when there is nothing yet and it is this tool's turn, and holds the turn until nothing
+  /// is left to wait for, or for 900 seconds.
   QCoro::Task<> autoScanIfNeeded(std::stop_token stop = {});
+  /// Replaces the selection with every item of every safe category.
   void selectSafeItems();
   void toggleCategoryExpansion(CategoryType type);
   void toggleItem(const Uuid& id);
   void setSelection(const std::vector<JunkItem>& items, bool selected);
 
+  /// Cleans at once, or raises `pendingCleanConfirmation` where the selection asks for a review.
   void requestClean();
+  /// Removes what is selected at this moment.
   void performClean();
+  /// Starts no further removal; what has gone by then is summarised and recorded like a whole
+  /// clean.
   void cancelClean();
+  /// Takes items out of the results; it removes nothing from the disk.
   void removeItems(const std::unordered_set<Uuid>& ids);
-  /// How many items came back.
+  /// Moves what the last clean put into the Trash back to where it was, and scans again if anything
+  /// came back. Answers how many items did.
   QCoro::Task<std::int64_t> restoreLastClean();
 
  signals:
@@ -118,6 +138,42 @@ class AppState : public QObject {
   void cleanProgressChanged();
 
  private:
+  using ScanReport = std::variant<ScanUpdate, CleanCategory>;
+  struct Sum {
+    std::int64_t size = 0;  ///< bytes
+    std::int64_t count = 0;
+  };
+
+  QCoro::Task<> runScan(std::stop_token cancelled);
+  void apply(ScanReport report);
+  void applyUpdate(const ScanUpdate& update);
+  void applyCategory(CleanCategory category);
+  void finishScan(std::vector<CleanCategory> found);
+  [[nodiscard]] bool hasNothingToShow() const;
+
+  /// What a clean is to remove, and which item each path stands for.
+  struct CleanPlan {
+    struct Target {
+      Uuid id;
+      CategoryType type;
+    };
+    std::vector<JunkItem> items;
+    std::unordered_map<std::string, Target> targets;  ///< by path
+  };
+
+  [[nodiscard]] CleanPlan planClean() const;
+  QCoro::Task<> runClean(CleanPlan plan, std::stop_token cancelled);
+  void finishClean(const CleanPlan& plan, const std::vector<DeletionOutcome>& outcomes);
+
+  void setScanState(ScanState state);
+  void setResults(std::vector<CleanCategory> results);
+  void recomputeTotal();
+  void setSelectedItems(std::unordered_set<Uuid> ids);
+  void recountSelected();
+  void setLastClean(std::optional<CleanSummary> summary);
+  void setCleanProgress(std::optional<DeletionProgress> progress);
+  void writeTotal();
+
   const Desktop& _desktop;
   ToolActivity& _activity;
   ScanCoordinator& _coordinator;
@@ -126,12 +182,17 @@ class AppState : public QObject {
   ScanState _scanState;
   std::int64_t _totalSpaceFreeable = 0;
   std::unordered_set<Uuid> _selectedItems;
+  Sum _selected;
   std::optional<Date> _lastCleanDate;
   bool _pendingCleanConfirmation = false;
   std::set<CategoryType> _expandedCategories;
   std::optional<CleanSummary> _lastClean;
   ScanActivity _scanActivity;
   std::optional<DeletionProgress> _cleanProgress;
+  std::stop_source _scanTask{std::nostopstate};
+  std::stop_source _cleanTask{std::nostopstate};
+  std::stop_source _lifetime;
+  EngineWork _engineWork;
 };
 
 }  // namespace klarvik

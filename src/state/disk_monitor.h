@@ -1,9 +1,14 @@
 #pragma once
 
+#include <QCoro/QCoroTask>
 #include <QObject>
+#include <array>
+#include <chrono>
 #include <cstdint>
+#include <stop_token>
 
 #include "platform/platform.h"
+#include "state/repeating_timer.h"
 
 namespace klarvik {
 
@@ -22,6 +27,7 @@ class DiskMonitor : public QObject {
   [[nodiscard]] static DiskMonitor& shared();
 
   explicit DiskMonitor(const Desktop& desktop, QObject* parent = nullptr);
+  ~DiskMonitor() override;
 
   [[nodiscard]] const DiskStats& stats() const { return _stats; }
   void refreshNow();
@@ -30,10 +36,20 @@ class DiskMonitor : public QObject {
   void statsChanged();
 
  private:
+  /// Freed space shows up late, so one reading is not enough.
+  static constexpr std::array<std::chrono::milliseconds, 4> settleDelays{
+      std::chrono::milliseconds(500), std::chrono::milliseconds(1000),
+      std::chrono::milliseconds(2000), std::chrono::milliseconds(4000)};
+
   void diskChanged();
+  QCoro::Task<> settle(std::stop_token stop);
 
   const Desktop& _desktop;
   DiskStats _stats;
+  NotificationCenter::Subscription _onDiskChanged;
+  NotificationCenter::Subscription _onActive;
+  RepeatingTimer _timer;
+  std::stop_source _settleStop;
 };
 
 }  // namespace klarvik

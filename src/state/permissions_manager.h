@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QCoro/QCoroTask>
 #include <QObject>
 #include <functional>
-#include <memory>
+#include <optional>
+#include <stop_token>
+#include <vector>
 
 #include "platform/platform.h"
+#include "state/repeating_timer.h"
 
 namespace klarvik {
 
@@ -15,6 +19,7 @@ class PermissionsManager : public QObject {
   [[nodiscard]] static PermissionsManager& shared();
 
   explicit PermissionsManager(const Desktop& desktop, QObject* parent = nullptr);
+  ~PermissionsManager() override;
 
   [[nodiscard]] bool hasFullDiskAccess() const { return _hasFullDiskAccess; }
   [[nodiscard]] bool isRequestingAccess() const { return _isRequestingAccess; }
@@ -34,11 +39,18 @@ class PermissionsManager : public QObject {
   void isRequestingAccessChanged();
 
  private:
+  void setRequestingAccess(bool requesting);
+  void startPolling();
+  QCoro::Task<> endPollingLater();
+
   const Desktop& _desktop;
+  std::vector<Path> _protectedFiles;
   bool _hasFullDiskAccess = false;
   bool _isRequestingAccess = false;
   bool _hasAskedThisLaunch = false;
   std::function<void()> _pendingWork;
+  std::optional<RepeatingTimer> _pollTimer;
+  std::stop_source _lifetime;
 };
 
 }  // namespace klarvik

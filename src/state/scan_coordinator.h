@@ -2,12 +2,16 @@
 
 #include <QCoro/QCoroTask>
 #include <QObject>
+#include <coroutine>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <set>
 #include <stop_token>
 #include <string>
+#include <vector>
 
+#include "platform/clock.h"
 #include "platform/date.h"
 #include "platform/user_defaults.h"
 
@@ -28,6 +32,8 @@ class ScanCoordinator : public QObject {
   [[nodiscard]] static ScanCoordinator& shared();
 
   explicit ScanCoordinator(const UserDefaults& defaults, QObject* parent = nullptr);
+  /// Whoever still waits for a turn is told that there will be none.
+  ~ScanCoordinator() override;
 
   [[nodiscard]] const std::map<std::string, Total>& totals() const { return _totals; }
   void setTotal(const std::string& key, const Total& total);
@@ -38,19 +44,36 @@ class ScanCoordinator : public QObject {
 
   /// Waits for the turn of the tool. True: the caller holds the turn, and gives it up with
   /// `finishTurn`. False: automatic scans are off, the tool had its own already, or the caller was
-  /// asked to stop while it waited.
+  /// asked to stop while it waited. A caller that was asked to stop keeps its place in the queue
+  /// until its turn comes, and that turn is then nobody's to give up.
   QCoro::Task<bool> beginAutoScan(std::string key, std::stop_token stop = {});
   QCoro::Task<> waitForTurn(std::string key);
+  /// Passes the turn to the most urgent tool that waits, the older of two equals first. Does
+  /// nothing when nobody has the turn.
   void finishTurn();
 
  signals:
   void totalsChanged();
 
  private:
+  struct Waiter {
+    std::string key;
+    std::coroutine_handle<> resume;
+  };
+  struct Turn;
+
   const UserDefaults& _defaults;
   std::map<std::string, Total> _totals;
   bool _busy = false;
+  bool _ending = false;
+  std::vector<Waiter> _waiting;
   std::set<std::string> _completedAutoScans;
 };
+
+/// Keeps the turn that the caller holds until `over` answers true, which is asked every 250
+/// milliseconds, until 900 seconds have passed or until a stop is requested; then gives it up. Once
+/// a stop has been requested, neither `over` nor the clock is touched any more.
+QCoro::Task<> holdTurn(ScanCoordinator& coordinator, Clock& clock, std::function<bool()> over,
+                       std::stop_token stop);
 
 }  // namespace klarvik

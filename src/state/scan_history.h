@@ -47,6 +47,8 @@ class ScanHistory : public QObject {
   void cleansChanged();
 
  private:
+  void save(const char* key, const std::vector<ScanHistoryEntry>& entries);
+
   UserDefaults& _defaults;
   const Clock& _clock;
   std::vector<ScanHistoryEntry> _scans;

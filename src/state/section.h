@@ -28,5 +28,7 @@ inline constexpr std::size_t sectionCount = 7;
 
 /// Posted by whoever has just changed what is on the disk.
 inline constexpr const char* diskChangedNotification = "klarvik.diskChanged";
+/// Posted by the shell when the application comes to the front.
+inline constexpr const char* applicationActiveNotification = "klarvik.applicationActive";
 
 }  // namespace klarvik

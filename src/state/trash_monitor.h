@@ -4,9 +4,13 @@
 #include <QObject>
 #include <cstdint>
 #include <optional>
+#include <stop_token>
+#include <vector>
 
 #include "engine/scanner_engine.h"
 #include "platform/platform.h"
+#include "state/engine_work.h"
+#include "state/repeating_timer.h"
 
 namespace klarvik {
 
@@ -17,6 +21,8 @@ class TrashMonitor : public QObject {
   [[nodiscard]] static TrashMonitor& shared();
 
   explicit TrashMonitor(const Desktop& desktop, QObject* parent = nullptr);
+  /// Waits for the entry that is being measured, and for those that are being removed.
+  ~TrashMonitor() override;
 
   [[nodiscard]] std::int64_t bytes() const { return _bytes; }
   [[nodiscard]] std::int64_t itemCount() const { return _itemCount; }
@@ -27,6 +33,8 @@ class TrashMonitor : public QObject {
   [[nodiscard]] bool isReadable() const { return _isReadable; }
   [[nodiscard]] bool isMeasuring() const { return _isMeasuring; }
 
+  /// Reads the Trash anew when it has changed since the last reading, or in any case with `force`.
+  /// While its size is being measured, nothing happens.
   void refresh(bool force);
   /// Bytes reclaimed; 0 at once while an emptying is under way.
   QCoro::Task<std::int64_t> emptyTrash();
@@ -35,6 +43,13 @@ class TrashMonitor : public QObject {
   void changed();
 
  private:
+  QCoro::Task<> measure(std::vector<Path> entries, std::optional<Date> stamp);
+  void setMeasuring(bool measuring);
+  void setEmptying(bool emptying);
+  void setEmptyProgress(std::optional<DeletionProgress> progress);
+  void setContents(bool readable, std::int64_t itemCount);
+  void setBytes(std::int64_t bytes);
+
   const Desktop& _desktop;
   std::int64_t _bytes = 0;
   std::int64_t _itemCount = 0;
@@ -42,6 +57,12 @@ class TrashMonitor : public QObject {
   std::optional<DeletionProgress> _emptyProgress;
   bool _isReadable = true;
   bool _isMeasuring = false;
+  std::optional<Date> _lastStamp;
+  NotificationCenter::Subscription _onDiskChanged;
+  NotificationCenter::Subscription _onActive;
+  RepeatingTimer _timer;
+  std::stop_source _lifetime;
+  EngineWork _engineWork;
 };
 
 }  // namespace klarvik

@@ -1,0 +1,240 @@
+#include "state/app_state.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "state/change_to.h"
+#include "state/linked_stop.h"
+#include "state/report_mailbox.h"
+#include "state/section.h"
+
+namespace klarvik {
+
+namespace {
+
+const std::string& smartScanKey() {
+  static const std::string key(rawValue(Section::smartScan));
+  return key;
+}
+
+std::int64_t itemCount(const std::vector<CleanCategory>& categories) {
+  std::size_t count = 0;
+  for (const CleanCategory& category : categories) count += category.items.size();
+  return static_cast<std::int64_t>(count);
+}
+
+bool isSafe(const CleanCategory& category) {
+  return safety(category.type) == SafetyLevel::safe;
+}
+
+/// A category never changes once it is made, so its identity stands for its content.
+bool sameCategories(const std::vector<CleanCategory>& left,
+                    const std::vector<CleanCategory>& right) {
+  return std::ranges::equal(left, right, {}, &CleanCategory::id, &CleanCategory::id);
+}
+
+}  // namespace
+
+AppState::AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
+                   ScanHistory& history, QObject* parent)
+    : QObject(parent),
+      _desktop(desktop),
+      _activity(activity),
+      _coordinator(coordinator),
+      _history(history) {}
+
+AppState::~AppState() {
+  blockSignals(true);
+  _lifetime.request_stop();
+  _engineWork.finish();
+}
+
+bool AppState::selectionIsAllSafe() const {
+  return std::ranges::all_of(_scanResults, [&](const CleanCategory& category) {
+    return isSafe(category) || std::ranges::none_of(category.items, [&](const JunkItem& item) {
+             return _selectedItems.contains(item.id);
+           });
+  });
+}
+
+void AppState::startScan() {
+  _scanTask.request_stop();
+  setScanState(Scanning{0, "Starting scan"});
+  setResults({});
+  setSelectedItems({});
+  if (changeTo(_expandedCategories, {})) emit expandedCategoriesChanged();
+  recomputeTotal();
+  if (changeTo(_scanActivity, {})) emit scanActivityChanged();
+  setLastClean(std::nullopt);
+  _activity.start(smartScanKey());
+  _scanTask = std::stop_source();
+  runScan(_scanTask.get_token());
+}
+
+QCoro::Task<> AppState::runScan(std::stop_token cancelled) {
+  const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
+  ScannerEngine engine(_desktop);
+  ReportMailbox<ScanReport> reports(
+      _desktop.clock, [this](ScanReport report) { apply(std::move(report)); },
+      [](const ScanReport& newer, const ScanReport& older) {
+        return std::holds_alternative<ScanUpdate>(newer) &&
+               std::holds_alternative<ScanUpdate>(older);
+      });
+  auto scan = [&engine, &reports, token = stop.token()] {
+    return engine.scanAll(
+        token, [&](const ScanUpdate& update) { reports.post(update); },
+        [&](const CleanCategory& category) { reports.post(category); });
+  };
+  std::vector<CleanCategory> found = co_await onEngineThread(_engineWork, std::move(scan));
+  reports.empty();
+  if (!stop.token().stop_requested()) finishScan(std::move(found));
+}
+
+void AppState::apply(ScanReport report) {
+  if (_lifetime.stop_requested()) return;
+  if (const auto* update = std::get_if<ScanUpdate>(&report)) {
+    applyUpdate(*update);
+  } else {
+    applyCategory(std::get<CleanCategory>(std::move(report)));
+  }
+}
+
+void AppState::applyUpdate(const ScanUpdate& update) {
+  setScanState(Scanning{update.fraction, update.categoryName});
+  _activity.setProgress(smartScanKey(), update.fraction);
+  if (changeTo(_scanActivity,
+               {update.categoryName, update.currentPath, update.partialItems, update.partialBytes,
+                update.completedCategories, update.totalCategories})) {
+    emit scanActivityChanged();
+  }
+}
+
+void AppState::applyCategory(CleanCategory category) {
+  const bool select = isSafe(category);
+  for (const JunkItem& item : category.items) {
+    if (select) _selectedItems.insert(item.id);
+    if (!_selectedItems.contains(item.id)) continue;
+    _selected.size = addBytes(_selected.size, item.size);
+    ++_selected.count;
+  }
+  const bool selectionGrew = select && !category.items.empty();
+  _scanResults.push_back(std::move(category));
+  emit scanResultsChanged();
+  recomputeTotal();
+  if (selectionGrew) emit selectedItemsChanged();
+}
+
+void AppState::finishScan(std::vector<CleanCategory> found) {
+  setResults(std::move(found));
+  recomputeTotal();
+  selectSafeItems();
+  setScanState(Done{});
+  _activity.finish(smartScanKey(), _desktop.formatting.byteText(_totalSpaceFreeable));
+  writeTotal();
+  _history.recordScan(_scanResults);
+}
+
+void AppState::cancelScan() {
+  _scanTask.request_stop();
+  _activity.clear(smartScanKey());
+  recomputeTotal();
+  if (_scanResults.empty()) {
+    setScanState(Idle{});
+  } else {
+    setScanState(Done{});
+  }
+}
+
+QCoro::Task<> AppState::autoScanIfNeeded(std::stop_token stop) {
+  if (!hasNothingToShow()) co_return;
+  const LinkedStop either(std::move(stop), _lifetime.get_token());
+  if (!co_await _coordinator.beginAutoScan(smartScanKey(), either.token())) co_return;
+  if (!hasNothingToShow()) {
+    _coordinator.finishTurn();
+    co_return;
+  }
+  startScan();
+  // A scan that ends with results does not give the turn up before its 900 seconds are over: the
+  // other tools do not start by themselves while the user looks at what was found.
+  const auto over = [this] { return hasNothingToShow(); };
+  co_await holdTurn(_coordinator, _desktop.clock, over, either.token());
+}
+
+bool AppState::hasNothingToShow() const {
+  return !std::holds_alternative<Scanning>(_scanState) && _scanResults.empty();
+}
+
+void AppState::selectSafeItems() {
+  std::unordered_set<Uuid> ids;
+  for (const CleanCategory& category : _scanResults) {
+    if (!isSafe(category)) continue;
+    for (const JunkItem& item : category.items) ids.insert(item.id);
+  }
+  setSelectedItems(std::move(ids));
+}
+
+void AppState::toggleCategoryExpansion(CategoryType type) {
+  if (_expandedCategories.erase(type) == 0) _expandedCategories.insert(type);
+  emit expandedCategoriesChanged();
+}
+
+void AppState::toggleItem(const Uuid& id) {
+  if (_selectedItems.erase(id) == 0) _selectedItems.insert(id);
+  recountSelected();
+  emit selectedItemsChanged();
+}
+
+void AppState::setSelection(const std::vector<JunkItem>& items, bool selected) {
+  const std::size_t before = _selectedItems.size();
+  for (const JunkItem& item : items) {
+    if (selected) {
+      _selectedItems.insert(item.id);
+    } else {
+      _selectedItems.erase(item.id);
+    }
+  }
+  if (_selectedItems.size() == before) return;
+  recountSelected();
+  emit selectedItemsChanged();
+}
+
+void AppState::setScanState(ScanState state) {
+  if (changeTo(_scanState, std::move(state))) emit scanStateChanged();
+}
+
+void AppState::setResults(std::vector<CleanCategory> results) {
+  const bool changed = !sameCategories(_scanResults, results);
+  _scanResults = std::move(results);
+  recountSelected();
+  if (changed) emit scanResultsChanged();
+}
+
+void AppState::recomputeTotal() {
+  std::int64_t total = 0;
+  for (const CleanCategory& category : _scanResults) total = addBytes(total, category.totalSize());
+  if (changeTo(_totalSpaceFreeable, total)) emit totalSpaceFreeableChanged();
+}
+
+void AppState::setSelectedItems(std::unordered_set<Uuid> ids) {
+  if (!changeTo(_selectedItems, std::move(ids))) return;
+  recountSelected();
+  emit selectedItemsChanged();
+}
+
+void AppState::recountSelected() {
+  _selected = {};
+  for (const CleanCategory& category : _scanResults) {
+    for (const JunkItem& item : category.items) {
+      if (!_selectedItems.contains(item.id)) continue;
+      _selected.size = addBytes(_selected.size, item.size);
+      ++_selected.count;
+    }
+  }
+}
+
+void AppState::writeTotal() {
+  _coordinator.setTotal(smartScanKey(),
+                        {_totalSpaceFreeable, itemCount(_scanResults), _desktop.clock.now()});
+}
+
+}  // namespace klarvik

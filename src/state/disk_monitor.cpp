@@ -1,0 +1,62 @@
+#include "state/disk_monitor.h"
+
+#include <chrono>
+
+#include "state/change_to.h"
+#include "state/section.h"
+#include "state/shared_state.h"
+#include "state/sleep_for.h"
+
+namespace klarvik {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+DiskStats readStats(const Volume& volume) {
+  const std::int64_t total = volume.totalBytes().value_or(0);
+  const auto available = volume.availableBytes();
+  if (!available) return {total, total, 0};
+  return {total, total - *available, *available};
+}
+
+}  // namespace
+
+DiskMonitor& DiskMonitor::shared() {
+  return SharedState::instance().diskMonitor();
+}
+
+DiskMonitor::DiskMonitor(const Desktop& desktop, QObject* parent)
+    : QObject(parent),
+      _desktop(desktop),
+      _stats(readStats(desktop.volume)),
+      _onDiskChanged(
+          desktop.notifications.observe(diskChangedNotification, [this] { diskChanged(); })),
+      _onActive(
+          desktop.notifications.observe(applicationActiveNotification, [this] { refreshNow(); })),
+      _timer(desktop.clock, 5s, [this] { refreshNow(); }) {}
+
+DiskMonitor::~DiskMonitor() {
+  _settleStop.request_stop();
+}
+
+void DiskMonitor::refreshNow() {
+  if (changeTo(_stats, readStats(_desktop.volume))) emit statsChanged();
+}
+
+void DiskMonitor::diskChanged() {
+  refreshNow();
+  _settleStop.request_stop();
+  _settleStop = std::stop_source();
+  settle(_settleStop.get_token());
+}
+
+QCoro::Task<> DiskMonitor::settle(std::stop_token stop) {
+  for (const auto delay : settleDelays) {
+    co_await sleepFor(_desktop.clock, delay, stop);
+    if (stop.stop_requested()) co_return;
+    refreshNow();
+  }
+}
+
+}  // namespace klarvik

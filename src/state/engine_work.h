@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QObject>
+#include <coroutine>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <thread>
+#include <type_traits>
+#include <utility>
+
+namespace klarvik {
+
+/// The calls that one owner has under way off the main thread.
+///
+/// Kept as a member by whoever starts such calls, and used on the main thread only. Every call has
+/// a thread of its own, so a long scan never keeps a clean waiting. A coroutine that waits for a
+/// call is resumed on the main thread, by the main loop or by `finish`, and never later than that:
+/// an owner whose destructor asks its calls to stop and then begins with `finish` need not ask,
+/// after a `co_await onEngineThread(...)`, whether it still lives.
+class EngineWork final : public QObject {
+ public:
+  enum class Priority {
+    normal,
+    background,  ///< gets out of the way of everything else that the machine has to do
+  };
+
+  EngineWork() = default;
+  ~EngineWork() override { finish(); }
+
+  /// Waits for every call under way, also for those started meanwhile, and resumes who waits for
+  /// them.
+  void finish();
+
+  /// For `onEngineThread`: runs `body` on a thread of its own, then resumes `waiter`.
+  void start(std::function<void()> body, std::coroutine_handle<> waiter, Priority priority);
+
+ private:
+  struct Call {
+    std::thread thread;
+    std::coroutine_handle<> waiter;
+  };
+
+  void resume(std::uint64_t number);
+
+  std::uint64_t _callsEverStarted = 0;
+  std::map<std::uint64_t, Call> _calls;
+};
+
+/// What `onEngineThread` answers; it is only good for being awaited at once. Compilers move it on
+/// its way into the coroutine, so what the other thread works on stands apart.
+template <typename Function>
+class EngineCall {
+ public:
+  using Result = std::invoke_result_t<Function&>;
+
+  EngineCall(EngineWork& work, Function function, EngineWork::Priority priority)
+      : _work(work), _priority(priority), _call(std::make_unique<Call>(std::move(function))) {}
+
+  [[nodiscard]] bool await_ready() const noexcept { return false; }
+  void await_suspend(std::coroutine_handle<> waiter) {
+    _work.start([&call = *_call] { call.result.emplace(call.function()); }, waiter, _priority);
+  }
+  Result await_resume() { return std::move(*_call->result); }
+
+ private:
+  struct Call {
+    explicit Call(Function toBeCalled) : function(std::move(toBeCalled)) {}
+
+    Function function;
+    std::optional<Result> result;
+  };
+
+  EngineWork& _work;
+  EngineWork::Priority _priority;
+  std::unique_ptr<Call> _call;
+};
+
+/// `co_await onEngineThread(work, function)` runs a synchronous call off the main thread, and goes
+/// on with what it answers on the main thread. The main loop keeps running meanwhile.
+template <typename Function>
+[[nodiscard]] EngineCall<Function> onEngineThread(
+    EngineWork& work, Function function,
+    EngineWork::Priority priority = EngineWork::Priority::normal) {
+  return EngineCall<Function>(work, std::move(function), priority);
+}
+
+}  // namespace klarvik

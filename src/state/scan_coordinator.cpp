@@ -1,0 +1,98 @@
+#include "state/scan_coordinator.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <iterator>
+#include <string_view>
+#include <utility>
+
+#include "state/section.h"
+#include "state/shared_state.h"
+#include "state/sleep_for.h"
+
+namespace klarvik {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Place in the order of turns; the most urgent first. A key that is no tool's comes last.
+std::ptrdiff_t rank(const std::string& key) {
+  static constexpr std::array turnPriority{
+      Section::smartScan,  Section::systemData, Section::uninstaller, Section::privacy,
+      Section::largeFiles, Section::storage,    Section::duplicates};
+  return std::distance(turnPriority.begin(),
+                       std::find_if(turnPriority.begin(), turnPriority.end(),
+                                    [&](Section section) { return rawValue(section) == key; }));
+}
+
+}  // namespace
+
+/// Waits at the end of the queue until `finishTurn` picks the entry.
+struct ScanCoordinator::Turn {
+  ScanCoordinator& coordinator;
+  const std::string& key;
+
+  [[nodiscard]] bool await_ready() const noexcept { return false; }
+  void await_suspend(std::coroutine_handle<> waiter) const {
+    coordinator._waiting.push_back({key, waiter});
+  }
+  void await_resume() const noexcept {}
+};
+
+ScanCoordinator& ScanCoordinator::shared() {
+  return SharedState::instance().scanCoordinator();
+}
+
+ScanCoordinator::ScanCoordinator(const UserDefaults& defaults, QObject* parent)
+    : QObject(parent), _defaults(defaults) {}
+
+ScanCoordinator::~ScanCoordinator() {
+  _ending = true;
+  for (const Waiter& waiter : std::exchange(_waiting, {})) waiter.resume.resume();
+}
+
+void ScanCoordinator::setTotal(const std::string& key, const Total& total) {
+  const auto [known, isNew] = _totals.try_emplace(key, total);
+  if (!isNew && known->second == total) return;
+  known->second = total;
+  emit totalsChanged();
+}
+
+QCoro::Task<bool> ScanCoordinator::beginAutoScan(std::string key, std::stop_token stop) {
+  if (!_defaults.boolean("backgroundScanOnLaunch", true)) co_return false;
+  if (!_completedAutoScans.insert(key).second) co_return false;
+  co_await waitForTurn(key);
+  co_return !stop.stop_requested() && !_ending;
+}
+
+QCoro::Task<> ScanCoordinator::waitForTurn(std::string key) {
+  if (_busy) co_await Turn{*this, key};
+  _busy = true;
+}
+
+void ScanCoordinator::finishTurn() {
+  if (!_busy) return;
+  if (_waiting.empty()) {
+    _busy = false;
+    return;
+  }
+  const auto next = std::min_element(
+      _waiting.begin(), _waiting.end(),
+      [](const Waiter& left, const Waiter& right) { return rank(left.key) < rank(right.key); });
+  const auto resume = next->resume;
+  _waiting.erase(next);
+  resume.resume();
+}
+
+QCoro::Task<> holdTurn(ScanCoordinator& coordinator, Clock& clock, std::function<bool()> over,
+                       std::stop_token stop) {
+  const Date deadline = clock.now() + 900s;
+  while (!stop.stop_requested() && !over() && clock.now() < deadline) {
+    co_await sleepFor(clock, 250ms, stop);
+  }
+  coordinator.finishTurn();
+}
+
+}  // namespace klarvik

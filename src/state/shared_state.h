@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "state/disk_monitor.h"
+#include "state/navigator.h"
+#include "state/permissions_manager.h"
+#include "state/scan_coordinator.h"
+#include "state/scan_history.h"
+#include "state/tool_activity.h"
+#include "state/trash_monitor.h"
+
+namespace klarvik {
+
+/// The objects of which the process has one each, behind every `X::shared()`.
+///
+/// Made once in `main`, on the main thread, after the `Desktop` and before the `AppState` and every
+/// window; it must outlive those, and the `Desktop` must outlive it. Destroying it waits for the
+/// Trash entry that is being measured or removed. Asking for a shared object while there is no
+/// `SharedState`, or making a second one, ends the program with a message that says so.
+class SharedState {
+ public:
+  explicit SharedState(const Desktop& desktop);
+  ~SharedState();
+  SharedState(const SharedState&) = delete;
+  SharedState& operator=(const SharedState&) = delete;
+
+  [[nodiscard]] static SharedState& instance();
+
+  [[nodiscard]] Navigator& navigator() { return _navigator; }
+  [[nodiscard]] ToolActivity& toolActivity() { return _toolActivity; }
+  [[nodiscard]] ScanCoordinator& scanCoordinator() { return _scanCoordinator; }
+  [[nodiscard]] ScanHistory& scanHistory() { return _scanHistory; }
+  [[nodiscard]] PermissionsManager& permissionsManager() { return _permissionsManager; }
+  [[nodiscard]] DiskMonitor& diskMonitor() { return _diskMonitor; }
+  [[nodiscard]] TrashMonitor& trashMonitor() { return _trashMonitor; }
+
+ private:
+  Navigator _navigator;
+  ToolActivity _toolActivity;
+  ScanCoordinator _scanCoordinator;
+  ScanHistory _scanHistory;
+  PermissionsManager _permissionsManager;
+  DiskMonitor _diskMonitor;
+  TrashMonitor _trashMonitor;
+};
+
+}  // namespace klarvik

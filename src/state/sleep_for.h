@@ -1,0 +1,36 @@
+#pragma once
+
+#include <chrono>
+#include <coroutine>
+#include <functional>
+#include <memory>
+#include <stop_token>
+
+#include "platform/clock.h"
+
+namespace klarvik {
+
+/// What `sleepFor` answers; it is only good for being awaited at once. Compilers move it on its way
+/// into the coroutine, so what wakes it stands apart.
+class Sleep {
+ public:
+  Sleep(Clock& clock, std::chrono::nanoseconds duration, std::stop_token stop);
+
+  [[nodiscard]] bool await_ready() const noexcept;
+  void await_suspend(std::coroutine_handle<> sleeper);
+  void await_resume();
+
+ private:
+  Clock& _clock;
+  std::chrono::nanoseconds _duration;
+  std::stop_token _stop;
+  std::unique_ptr<Clock::Alarm> _alarm;
+  std::unique_ptr<std::stop_callback<std::function<void()>>> _onStop;
+};
+
+/// `co_await sleepFor(clock, duration, stop)` goes on after `duration`, or as soon as a stop is
+/// requested: then before `request_stop` returns. Which of the two it was, `stop` tells. Main
+/// thread only, and that is also where the stop must be requested.
+[[nodiscard]] Sleep sleepFor(Clock& clock, std::chrono::nanoseconds duration, std::stop_token stop);
+
+}  // namespace klarvik

@@ -1,0 +1,118 @@
+#include "state/trash_monitor.h"
+
+#include <chrono>
+#include <utility>
+
+#include "engine/allocated_size.h"
+#include "state/change_to.h"
+#include "state/report_mailbox.h"
+#include "state/section.h"
+#include "state/shared_state.h"
+
+namespace klarvik {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+std::int64_t sizeOf(const FileSystem& files, const std::vector<Path>& entries,
+                    const std::stop_token& stop) {
+  std::int64_t sum = 0;
+  for (const Path& entry : entries) {
+    if (stop.stop_requested()) break;
+    sum = addBytes(sum, allocatedSize(files, entry));
+  }
+  return sum;
+}
+
+}  // namespace
+
+TrashMonitor& TrashMonitor::shared() {
+  return SharedState::instance().trashMonitor();
+}
+
+TrashMonitor::TrashMonitor(const Desktop& desktop, QObject* parent)
+    : QObject(parent),
+      _desktop(desktop),
+      _onDiskChanged(
+          desktop.notifications.observe(diskChangedNotification, [this] { refresh(false); })),
+      _onActive(
+          desktop.notifications.observe(applicationActiveNotification, [this] { refresh(false); })),
+      _timer(desktop.clock, 10s, [this] { refresh(false); }) {
+  refresh(true);
+}
+
+TrashMonitor::~TrashMonitor() {
+  blockSignals(true);
+  _lifetime.request_stop();
+  _engineWork.finish();
+}
+
+void TrashMonitor::refresh(bool force) {
+  if (_isMeasuring) return;
+  const auto stamp = _desktop.trash.modificationDate();
+  if (!force && stamp && stamp == _lastStamp) return;
+  auto entries = _desktop.trash.list();
+  setContents(entries.has_value(), entries ? static_cast<std::int64_t>(entries->size()) : 0);
+  if (_itemCount > 0) {
+    measure(std::move(*entries), stamp);
+    return;
+  }
+  if (entries) setBytes(0);
+  _lastStamp = stamp;
+}
+
+QCoro::Task<> TrashMonitor::measure(std::vector<Path> entries, std::optional<Date> stamp) {
+  setMeasuring(true);
+  auto sum = [&files = _desktop.files, &entries, stop = _lifetime.get_token()] {
+    return sizeOf(files, entries, stop);
+  };
+  const std::int64_t bytes =
+      co_await onEngineThread(_engineWork, std::move(sum), EngineWork::Priority::background);
+  _lastStamp = stamp;
+  setBytes(bytes);
+  setMeasuring(false);
+}
+
+QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {
+  if (_isEmptying) co_return std::int64_t{0};
+  setEmptying(true);
+  setEmptyProgress(std::nullopt);
+  ScannerEngine engine(_desktop);
+  ReportMailbox<DeletionProgress> reports(
+      _desktop.clock, [this](DeletionProgress progress) { setEmptyProgress(std::move(progress)); },
+      [](const DeletionProgress&, const DeletionProgress&) { return true; });
+  auto empty = [&engine, &reports, stop = _lifetime.get_token()] {
+    return engine.emptyTrash(stop,
+                             [&](const DeletionProgress& progress) { reports.post(progress); });
+  };
+  const std::int64_t freed = co_await onEngineThread(_engineWork, std::move(empty));
+  setEmptyProgress(std::nullopt);
+  setEmptying(false);
+  _desktop.notifications.post(diskChangedNotification);
+  refresh(true);
+  co_return freed;
+}
+
+void TrashMonitor::setContents(bool readable, std::int64_t itemCount) {
+  const bool readableChanged = changeTo(_isReadable, readable);
+  if (changeTo(_itemCount, itemCount) || readableChanged) emit changed();
+}
+
+void TrashMonitor::setBytes(std::int64_t bytes) {
+  if (changeTo(_bytes, bytes)) emit changed();
+}
+
+void TrashMonitor::setMeasuring(bool measuring) {
+  if (changeTo(_isMeasuring, measuring)) emit changed();
+}
+
+void TrashMonitor::setEmptying(bool emptying) {
+  if (changeTo(_isEmptying, emptying)) emit changed();
+}
+
+void TrashMonitor::setEmptyProgress(std::optional<DeletionProgress> progress) {
+  if (changeTo(_emptyProgress, std::move(progress))) emit changed();
+}
+
+}  // namespace klarvik
