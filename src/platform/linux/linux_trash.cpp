@@ -1,0 +1,266 @@
+#include "platform/linux/linux_trash.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <stdio.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <ctime>
+#include <memory>
+#include <string_view>
+
+#include "platform/linux/mount_table.h"
+#include "platform/linux/trash_record.h"
+#include "platform/linux/tree_removal.h"
+#include "platform/linux/volume_trash.h"
+
+namespace klarvik {
+namespace {
+
+constexpr mode_t kPrivateFolder = 0700;
+
+Path canonical(const Path& root) {
+  std::error_code error;
+  Path real = std::filesystem::canonical(root, error);
+  return error ? root : real;
+}
+
+bool isBelow(const Path& folder, const Path& item) {
+  const std::string_view above = folder == "/" ? "" : std::string_view(folder.native());
+  const std::string_view text = item.native();
+  return text.size() > above.size() + 1 && text.starts_with(above) && text[above.size()] == '/';
+}
+
+/// The part of `item` that comes after `folder`, which it lies below.
+Path pathFrom(const Path& folder, const Path& item) {
+  return Path(item.native().substr(folder == "/" ? 1 : folder.native().size() + 1));
+}
+
+bool isTopOfVolume(const Path& onMachine) {
+  const auto entry = mountOfEntry(AT_FDCWD, onMachine.c_str());
+  return entry && entry->isMountPoint;
+}
+
+/// A link in place of the folder is not followed.
+UniqueFd openForListing(const Path& root, const Path& folder) {
+  const auto parent = openParent(root, folder);
+  if (!parent) return {};
+  return UniqueFd(::openat(parent->folder.get(), parent->name.c_str(),
+                           O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+std::optional<std::vector<Path>> entriesOf(const Path& root, const Path& folder) {
+  UniqueFd opened = openForListing(root, folder);
+  const std::unique_ptr<DIR, int (*)(DIR*)> listing(::fdopendir(opened.get()), ::closedir);
+  if (!listing) return std::nullopt;
+  static_cast<void>(opened.release());
+  std::vector<Path> entries;
+  while (const dirent* entry = ::readdir(listing.get())) {
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != "..") entries.push_back(folder / name);
+  }
+  return entries;
+}
+
+std::optional<struct stat> statusOf(const Path& root, const Path& item) {
+  struct stat status {};
+  const auto parent = openParent(root, item);
+  if (!parent ||
+      ::fstatat(parent->folder.get(), parent->name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
+    return std::nullopt;
+  }
+  return status;
+}
+
+Date dateOf(const timespec& time) {
+  return Date(std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
+}
+
+}  // namespace
+
+LinuxTrash::LinuxTrash(const Path& root, Path home, const Path& dataFolder)
+    : _root(canonical(root)), _home(std::move(home)), _homeTrash(dataFolder / "Trash") {}
+
+std::vector<Path> LinuxTrash::folders() {
+  static_cast<void>(openHomeTrash());
+  std::vector<Path> folders{_homeTrash / "files"};
+  Path ofTheHome = _home / ".Trash";
+  const auto status = statusOf(_root, ofTheHome);
+  if (status && S_ISDIR(status->st_mode)) folders.push_back(std::move(ofTheHome));
+  return folders;
+}
+
+std::optional<std::vector<Path>> LinuxTrash::list() {
+  const std::vector<Path> all = folders();
+  auto items = entriesOf(_root, all.front());
+  if (!items) return std::nullopt;
+  for (std::size_t i = 1; i < all.size(); ++i) {
+    const auto more = entriesOf(_root, all[i]);
+    if (more) items->insert(items->end(), more->begin(), more->end());
+  }
+  return items;
+}
+
+std::optional<Date> LinuxTrash::modificationDate() {
+  const std::vector<Path> all = folders();
+  const auto main = statusOf(_root, all.front());
+  if (!main || !S_ISDIR(main->st_mode)) return std::nullopt;
+  Date newest = dateOf(main->st_mtim);
+  for (std::size_t i = 1; i < all.size(); ++i) {
+    const auto status = statusOf(_root, all[i]);
+    if (status) newest = std::max(newest, dateOf(status->st_mtim));
+  }
+  return newest;
+}
+
+bool LinuxTrash::contains(const Path& item) const {
+  if (item.native().find("/.Trash/") != std::string::npos) return true;
+  const Path place = item.lexically_normal();
+  if (isBelow(_homeTrash / "files", place)) return true;
+  if (!passesThroughVolumeTrash(place)) return false;
+  for (Path step = place; step.has_relative_path(); step = step.parent_path()) {
+    const auto top = topOfVolumeTrash(step);
+    if (top) return top == "/" || isTopOfVolume(onMachine(*top));
+  }
+  return false;
+}
+
+std::optional<Path> LinuxTrash::moveToTrash(const Path& item, const PlaceCheck& mayMove) {
+  const auto parent = openParent(_root, item);
+  if (!parent || isPartOfATrash(parent->realPath)) return std::nullopt;
+  const auto entry = mountOfEntry(parent->folder.get(), parent->name.c_str());
+  if (!entry || entry->isMountPoint || !mayMove(parent->realPath)) return std::nullopt;
+  if (entry->isDirectory && holdsMountPoint(parent->realPath)) return std::nullopt;
+
+  const auto destination = destinationFor(parent->realPath, entry->id);
+  if (!destination) return std::nullopt;
+  const auto name = destination->trash.take(
+      *parent, trashRecordText(destination->recordedPlace, std::time(nullptr)));
+  if (!name) return std::nullopt;
+  return destination->files / *name;
+}
+
+bool LinuxTrash::putBack(const Path& trashed, const Path& original) {
+  const auto from = contains(trashed) ? openParent(_root, trashed) : std::nullopt;
+  if (!from) return false;
+  const auto recorder = recorderOf(*from, trashed);
+  const auto recorded = recorder ? recordedPlace(*recorder, from->name) : std::nullopt;
+
+  const auto mayReturn = [&](const Path& real) { return leadsBack(real, original, recorded); };
+  const auto to = openParentCreating(_root, original, mayReturn);
+  if (!to || !mayReturn(to->realPath)) return false;
+  if (::renameat2(from->folder.get(), from->name.c_str(), to->folder.get(), to->name.c_str(),
+                  RENAME_NOREPLACE) != 0) {
+    return false;
+  }
+  if (recorder) recorder->trash.dropRecord(from->name);
+  return true;
+}
+
+bool LinuxTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
+  const auto parent = contains(trashed) ? openParent(_root, trashed) : std::nullopt;
+  if (!parent) return false;
+  const auto recorder = recorderOf(*parent, trashed);
+  if (!mayRemove(parent->realPath) || !removeTree(*parent)) return false;
+  if (recorder) recorder->trash.dropRecord(parent->name);
+  return true;
+}
+
+Path LinuxTrash::onMachine(const Path& logical) const {
+  return logical == "/" ? _root : _root / logical.relative_path();
+}
+
+std::optional<Path> LinuxTrash::logical(const Path& onMachine) const {
+  if (onMachine == _root) return Path("/");
+  if (!isBelow(_root, onMachine)) return std::nullopt;
+  return Path("/") / pathFrom(_root, onMachine);
+}
+
+std::optional<TrashFolder> LinuxTrash::openHomeTrash() const {
+  if (!openParent(_root, _home / "x")) return std::nullopt;
+  const auto parent = openParentCreating(_root, _homeTrash, [](const Path&) { return true; });
+  if (!parent) return std::nullopt;
+  ::mkdirat(parent->folder.get(), parent->name.c_str(), kPrivateFolder);
+  const UniqueFd folder(
+      ::openat(parent->folder.get(), parent->name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  return folder ? TrashFolder::openCreating(folder) : std::nullopt;
+}
+
+std::optional<LinuxTrash::Destination> LinuxTrash::destinationFor(const Path& item,
+                                                                  std::uint64_t mount) const {
+  auto home = openHomeTrash();
+  const auto files = home ? mountOfEntry(home->files(), "") : std::nullopt;
+  if (!files) return std::nullopt;
+  if (files->id != mount) return destinationOnVolume(item, mount);
+  return Destination{std::move(*home), _homeTrash / "files", onMachine(item)};
+}
+
+std::optional<LinuxTrash::Destination> LinuxTrash::destinationOnVolume(const Path& item,
+                                                                       std::uint64_t mount) const {
+  const auto mounts = readMountTable();
+  if (!mounts) return std::nullopt;
+  const auto own = std::find_if(mounts->begin(), mounts->end(),
+                                [&](const MountPoint& point) { return point.id == mount; });
+  if (own == mounts->end()) return std::nullopt;
+  // What lies above the root of the disk is none of our business.
+  const Path top = logical(own->place).value_or("/");
+  if (!isBelow(top, item)) return std::nullopt;
+
+  const auto opened = openParent(_root, top / "x");
+  const auto topMount = opened ? mountOfEntry(opened->folder.get(), "") : std::nullopt;
+  if (!topMount || topMount->id != mount) return std::nullopt;
+  auto found = openVolumeTrash(opened->folder.get(), mount);
+  if (!found) return std::nullopt;
+  return Destination{std::move(found->trash), top / found->folder / "files", pathFrom(top, item)};
+}
+
+bool LinuxTrash::holdsMountPoint(const Path& folder) const {
+  const auto mounts = readMountTable();
+  const Path place = onMachine(folder);
+  return !mounts || std::any_of(mounts->begin(), mounts->end(), [&](const MountPoint& point) {
+    return isBelow(place, point.place);
+  });
+}
+
+bool LinuxTrash::isPartOfATrash(const Path& item) const {
+  return contains(item) || item == _homeTrash || isBelow(_homeTrash, item) ||
+         passesThroughVolumeTrash(item);
+}
+
+std::optional<LinuxTrash::Recorder> LinuxTrash::recorderOf(const ParentHandle& item,
+                                                           const Path& trashed) const {
+  auto base = recordBase(item, trashed);
+  if (!base) return std::nullopt;
+  auto trash = TrashFolder::openAround(item.folder);
+  if (!trash) return std::nullopt;
+  return Recorder{std::move(*trash), std::move(*base)};
+}
+
+std::optional<Path> LinuxTrash::recordBase(const ParentHandle& item, const Path& trashed) const {
+  if (trashed.lexically_normal().parent_path() == _homeTrash / "files") return Path("/");
+  const auto top = topOfVolumeTrash(item.realPath);
+  if (!top || (*top != "/" && !isTopOfVolume(onMachine(*top)))) return std::nullopt;
+  return onMachine(*top);
+}
+
+std::optional<Path> LinuxTrash::recordedPlace(const Recorder& recorder,
+                                              const std::string& name) const {
+  const auto text = recorder.trash.readRecord(name);
+  const auto place = text ? placeInTrashRecord(*text) : std::nullopt;
+  if (!place) return std::nullopt;
+  return logical(recorder.base / *place);
+}
+
+bool LinuxTrash::leadsBack(const Path& real, const Path& original,
+                           const std::optional<Path>& recorded) const {
+  return real == recorded || real == placeWithoutLinks(original.lexically_normal());
+}
+
+Path LinuxTrash::placeWithoutLinks(const Path& original) const {
+  const auto inHome = openParent(_root, _home / "x");
+  if (!inHome || !isBelow(_home, original)) return original;
+  return inHome->realPath.parent_path() / pathFrom(_home, original);
+}
+
+}  // namespace klarvik

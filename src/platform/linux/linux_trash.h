@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/linux/parent_handle.h"
+#include "platform/linux/trash_folder.h"
+#include "platform/trash.h"
+
+namespace klarvik {
+
+/// The freedesktop Trash, version 1.0: `Trash` in the user's data folder for what lies on the same
+/// mount, and `.Trash/$uid` or `.Trash-$uid` at the top of any other. A thing never leaves its
+/// mount on the way.
+///
+/// A `.Trash` folder that the home has of its own belongs to the user's Trash as well; it keeps no
+/// records, and nothing is moved there.
+class LinuxTrash : public Trash {
+ public:
+  /// `root` is where the logical "/" is on the machine; `home` and `dataFolder` are logical.
+  LinuxTrash(const Path& root, Path home, const Path& dataFolder);
+  /// With the data folder that a user has who has set no other.
+  LinuxTrash(const Path& root, const Path& home) : LinuxTrash(root, home, home / ".local/share") {}
+
+  [[nodiscard]] std::vector<Path> folders() override;
+  [[nodiscard]] std::optional<std::vector<Path>> list() override;
+  [[nodiscard]] std::optional<Date> modificationDate() override;
+  [[nodiscard]] bool contains(const Path& item) const override;
+
+  std::optional<Path> moveToTrash(const Path& item, const PlaceCheck& mayMove) override;
+  bool putBack(const Path& trashed, const Path& original) override;
+  bool remove(const Path& trashed, const PlaceCheck& mayRemove) override;
+
+ private:
+  /// A Trash that can take a certain item.
+  struct Destination {
+    TrashFolder trash;
+    Path files;          // logical, its `files/`
+    Path recordedPlace;  // of the item, as this Trash writes it
+  };
+
+  struct Recorder {
+    TrashFolder trash;
+    Path base;  // on the machine, what the recorded places count from
+  };
+
+  [[nodiscard]] Path onMachine(const Path& logical) const;
+  [[nodiscard]] std::optional<Path> logical(const Path& onMachine) const;
+
+  [[nodiscard]] std::optional<TrashFolder> openHomeTrash() const;
+  [[nodiscard]] std::optional<Destination> destinationFor(const Path& item,
+                                                          std::uint64_t mount) const;
+  [[nodiscard]] std::optional<Destination> destinationOnVolume(const Path& item,
+                                                               std::uint64_t mount) const;
+  [[nodiscard]] bool holdsMountPoint(const Path& folder) const;
+  [[nodiscard]] bool isPartOfATrash(const Path& item) const;
+
+  /// The Trash that keeps a record of `item`, called `trashed`. Nothing when none does.
+  [[nodiscard]] std::optional<Recorder> recorderOf(const ParentHandle& item,
+                                                   const Path& trashed) const;
+  [[nodiscard]] std::optional<Path> recordBase(const ParentHandle& item, const Path& trashed) const;
+  [[nodiscard]] std::optional<Path> recordedPlace(const Recorder& recorder,
+                                                  const std::string& name) const;
+  /// Whether `real`, which `original` leads to now, is the place the item was at: the recorded one,
+  /// or one that is reached without links. The home itself may be a link.
+  [[nodiscard]] bool leadsBack(const Path& real, const Path& original,
+                               const std::optional<Path>& recorded) const;
+  [[nodiscard]] Path placeWithoutLinks(const Path& original) const;
+
+  Path _root;  // every link followed
+  Path _home;
+  Path _homeTrash;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,82 @@
+#include "platform/linux/mount_table.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace klarvik {
+namespace {
+
+// The fields of a line, separated by single spaces, that are read here.
+constexpr std::size_t kIdField = 0;
+constexpr std::size_t kPlaceField = 4;
+
+std::string_view fieldOf(std::string_view line, std::size_t index) {
+  for (; index > 0; --index) {
+    const std::size_t space = line.find(' ');
+    if (space == std::string_view::npos) return {};
+    line.remove_prefix(space + 1);
+  }
+  return line.substr(0, line.find(' '));
+}
+
+template <typename Number>
+std::optional<Number> numberIn(std::string_view digits, int base) {
+  Number number = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
+  return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
+}
+
+// Blanks, line ends and backslashes stand as a backslash and three octal digits.
+std::string unescaped(std::string_view text) {
+  std::string bytes;
+  while (!text.empty()) {
+    const auto escaped =
+        text.front() == '\\' ? numberIn<unsigned char>(text.substr(1, 3), 8) : std::nullopt;
+    bytes += escaped ? static_cast<char>(*escaped) : text.front();
+    text.remove_prefix(escaped ? 4 : 1);
+  }
+  return bytes;
+}
+
+}  // namespace
+
+std::vector<MountPoint> mountTableFrom(std::string_view text) {
+  std::vector<MountPoint> mounts;
+  while (!text.empty()) {
+    const std::string_view line = text.substr(0, text.find('\n'));
+    text.remove_prefix(std::min(text.size(), line.size() + 1));
+    const auto id = numberIn<std::uint64_t>(fieldOf(line, kIdField), 10);
+    const std::string_view place = fieldOf(line, kPlaceField);
+    if (id && place.starts_with('/')) mounts.push_back({*id, unescaped(place)});
+  }
+  return mounts;
+}
+
+std::optional<std::vector<MountPoint>> readMountTable() {
+  std::ifstream file("/proc/self/mountinfo", std::ios::binary);
+  const std::string text{std::istreambuf_iterator<char>(file), {}};
+  auto mounts = mountTableFrom(text);
+  if (mounts.empty()) return std::nullopt;
+  return mounts;
+}
+
+std::optional<MountOfEntry> mountOfEntry(int folder, const char* name) {
+  struct statx entry {};
+  if (::statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_EMPTY_PATH, STATX_TYPE | STATX_MNT_ID,
+              &entry) != 0 ||
+      !(entry.stx_mask & STATX_MNT_ID) || !(entry.stx_attributes_mask & STATX_ATTR_MOUNT_ROOT)) {
+    return std::nullopt;
+  }
+  return MountOfEntry{.id = entry.stx_mnt_id,
+                      .isDirectory = S_ISDIR(entry.stx_mode),
+                      .isMountPoint = (entry.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0};
+}
+
+}  // namespace klarvik

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_system.h"
+
+namespace klarvik {
+
+/// One line of what is mounted where.
+struct MountPoint {
+  std::uint64_t id = 0;  ///< what `statx` calls `stx_mnt_id`
+  Path place;            ///< on the machine
+};
+
+/// What is mounted just now, as this process sees it. Nothing when the system does not tell.
+[[nodiscard]] std::optional<std::vector<MountPoint>> readMountTable();
+/// The same out of the text of a `mountinfo`; lines that are not of its form are left out.
+[[nodiscard]] std::vector<MountPoint> mountTableFrom(std::string_view text);
+
+/// Of one entry of a folder: a link is not followed.
+struct MountOfEntry {
+  std::uint64_t id = 0;
+  bool isDirectory = false;
+  bool isMountPoint = false;
+};
+
+/// Asks for the entry `name` of the opened `folder`, or for `folder` itself when `name` is empty.
+/// Nothing when there is none, or when the system does not tell its mount.
+[[nodiscard]] std::optional<MountOfEntry> mountOfEntry(int folder, const char* name);
+
+}  // namespace klarvik

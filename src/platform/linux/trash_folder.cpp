@@ -1,0 +1,125 @@
+#include "platform/linux/trash_folder.h"
+
+#include <fcntl.h>
+#include <stdio.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <cerrno>
+
+#include "platform/linux/trash_name.h"
+
+namespace klarvik {
+namespace {
+
+constexpr mode_t kPrivateFolder = 0700;
+constexpr mode_t kPrivateFile = 0600;
+constexpr std::size_t kMostNames = 200;
+constexpr std::size_t kLongestRecord = 1 << 20;  // bytes; far more than any place takes
+
+enum class Attempt { done, nameTaken, failed };
+
+UniqueFd openFolder(int parent, const char* name) {
+  return UniqueFd(::openat(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+UniqueFd openFolderCreating(int parent, const char* name) {
+  UniqueFd folder = openFolder(parent, name);
+  if (folder || errno != ENOENT) return folder;
+  if (::mkdirat(parent, name, kPrivateFolder) != 0 && errno != EEXIST) return {};
+  return openFolder(parent, name);
+}
+
+std::string recordName(const std::string& name) {
+  return name + std::string(kTrashRecordSuffix);
+}
+
+bool writeAll(int file, std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t written = ::write(file, text.data(), text.size());
+    if (written <= 0) return false;
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+// Some file systems tell only when a file is closed that there was no room for it.
+bool closeWhole(UniqueFd file) {
+  return ::close(file.release()) == 0;
+}
+
+Attempt makeRecord(int info, const std::string& name, std::string_view text) {
+  UniqueFd file(::openat(info, recordName(name).c_str(),
+                         O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kPrivateFile));
+  if (!file) return errno == EEXIST ? Attempt::nameTaken : Attempt::failed;
+  if (writeAll(file.get(), text) && closeWhole(std::move(file))) return Attempt::done;
+  ::unlinkat(info, recordName(name).c_str(), 0);
+  return Attempt::failed;
+}
+
+bool holds(int folder, const std::string& name) {
+  struct stat entry {};
+  return ::fstatat(folder, name.c_str(), &entry, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
+}  // namespace
+
+std::optional<TrashFolder> TrashFolder::openCreating(const UniqueFd& folder) {
+  UniqueFd files = openFolderCreating(folder.get(), "files");
+  UniqueFd info = openFolderCreating(folder.get(), "info");
+  if (!files || !info) return std::nullopt;
+  return TrashFolder(std::move(files), std::move(info));
+}
+
+std::optional<TrashFolder> TrashFolder::openAround(const UniqueFd& files) {
+  const UniqueFd folder = openFolder(files.get(), "..");
+  UniqueFd again = openFolder(files.get(), ".");
+  UniqueFd info = openFolder(folder.get(), "info");
+  if (!again || !info) return std::nullopt;
+  return TrashFolder(std::move(again), std::move(info));
+}
+
+std::optional<std::string> TrashFolder::take(const ParentHandle& item,
+                                             std::string_view record) const {
+  const auto tryAs = [&](const std::string& name) {
+    if (holds(files(), name)) return Attempt::nameTaken;
+    const Attempt recorded = makeRecord(_info.get(), name, record);
+    if (recorded != Attempt::done) return recorded;
+    if (::renameat2(item.folder.get(), item.name.c_str(), files(), name.c_str(),
+                    RENAME_NOREPLACE) == 0) {
+      return Attempt::done;
+    }
+    const bool taken = errno == EEXIST;
+    dropRecord(name);
+    return taken ? Attempt::nameTaken : Attempt::failed;
+  };
+
+  for (std::size_t taken = 0; taken < kMostNames; ++taken) {
+    std::string name = trashName(item.name, taken);
+    const Attempt attempt = tryAs(name);
+    if (attempt == Attempt::done) return name;
+    if (attempt == Attempt::failed) return std::nullopt;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::string> TrashFolder::readRecord(const std::string& name) const {
+  const UniqueFd file(::openat(_info.get(), recordName(name).c_str(),
+                               O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  if (!file) return std::nullopt;
+  std::string text;
+  std::array<char, 4096> buffer;
+  while (text.size() <= kLongestRecord) {
+    const ssize_t length = ::read(file.get(), buffer.data(), buffer.size());
+    if (length < 0) return std::nullopt;
+    if (length == 0) return text;
+    text.append(buffer.data(), static_cast<std::size_t>(length));
+  }
+  return std::nullopt;
+}
+
+void TrashFolder::dropRecord(const std::string& name) const {
+  ::unlinkat(_info.get(), recordName(name).c_str(), 0);
+}
+
+}  // namespace klarvik

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/linux/parent_handle.h"
+#include "platform/linux/unique_fd.h"
+
+namespace klarvik {
+
+/// One Trash, held open: a folder with `files/`, where the things are, and `info/`, where each has
+/// its record. Neither may be a link. May be used from several threads at once, and other programs
+/// may use the same Trash meanwhile.
+///
+/// Whoever holds the record of a name holds that name in `files/`. A record is whole before its
+/// thing comes and is dropped only after its thing went, so a program that is killed leaves at
+/// worst a record without a thing.
+class TrashFolder {
+ public:
+  /// Makes `files/` and `info/` in `folder` where they are missing. Nothing when they cannot be
+  /// had.
+  [[nodiscard]] static std::optional<TrashFolder> openCreating(const UniqueFd& folder);
+  /// The Trash whose `files/` is opened as `files`.
+  [[nodiscard]] static std::optional<TrashFolder> openAround(const UniqueFd& files);
+
+  [[nodiscard]] int files() const { return _files.get(); }
+
+  /// Moves the item in and answers the name that it has here. On failure the item stays and no
+  /// record is left.
+  [[nodiscard]] std::optional<std::string> take(const ParentHandle& item,
+                                                std::string_view record) const;
+  [[nodiscard]] std::optional<std::string> readRecord(const std::string& name) const;
+  void dropRecord(const std::string& name) const;
+
+ private:
+  TrashFolder(UniqueFd files, UniqueFd info) : _files(std::move(files)), _info(std::move(info)) {}
+
+  UniqueFd _files;
+  UniqueFd _info;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,77 @@
+#include "platform/linux/volume_trash.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <string>
+
+#include "platform/linux/mount_table.h"
+
+namespace klarvik {
+namespace {
+
+constexpr mode_t kPrivateFolder = 0700;
+constexpr const char* kSharedName = ".Trash";
+
+std::string userId() {
+  return std::to_string(::geteuid());
+}
+
+std::string ownName() {
+  return kSharedName + ("-" + userId());
+}
+
+UniqueFd openFolder(int parent, const char* name) {
+  return UniqueFd(::openat(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+std::optional<TrashFolder> openOwn(int parent, const std::string& name, std::uint64_t mount) {
+  ::mkdirat(parent, name.c_str(), kPrivateFolder);
+  const UniqueFd folder = openFolder(parent, name.c_str());
+  struct stat status {};
+  if (!folder || ::fstat(folder.get(), &status) != 0 || status.st_uid != ::geteuid()) {
+    return std::nullopt;
+  }
+  auto trash = TrashFolder::openCreating(folder);
+  const auto files = trash ? mountOfEntry(trash->files(), "") : std::nullopt;
+  return files && files->id == mount ? std::move(trash) : std::nullopt;
+}
+
+std::optional<TrashFolder> openInShared(int top, std::uint64_t mount) {
+  const UniqueFd shared = openFolder(top, kSharedName);
+  struct stat status {};
+  if (!shared || ::fstat(shared.get(), &status) != 0 || !(status.st_mode & S_ISVTX)) {
+    return std::nullopt;
+  }
+  return openOwn(shared.get(), userId(), mount);
+}
+
+}  // namespace
+
+std::optional<VolumeTrash> openVolumeTrash(int top, std::uint64_t mount) {
+  if (auto trash = openInShared(top, mount)) {
+    return VolumeTrash{std::move(*trash), Path(kSharedName) / userId()};
+  }
+  if (auto trash = openOwn(top, ownName(), mount)) return VolumeTrash{std::move(*trash), ownName()};
+  return std::nullopt;
+}
+
+std::optional<Path> topOfVolumeTrash(const Path& item) {
+  const Path files = item.parent_path();
+  const Path folder = files.parent_path();
+  if (files.filename() != "files") return std::nullopt;
+  if (folder.filename() == ownName()) return folder.parent_path();
+  const Path shared = folder.parent_path();
+  if (folder.filename() == userId() && shared.filename() == kSharedName) {
+    return shared.parent_path();
+  }
+  return std::nullopt;
+}
+
+bool passesThroughVolumeTrash(const Path& item) {
+  return std::find(item.begin(), item.end(), ownName()) != item.end();
+}
+
+}  // namespace klarvik
