@@ -20,7 +20,7 @@ namespace {
 
 constexpr mode_t kPrivateFolder = 0700;
 
-Path canonical(const Path& root) {
+Path withoutLinks(const Path& root) {
   std::error_code error;
   Path real = std::filesystem::canonical(root, error);
   return error ? root : real;
@@ -80,7 +80,7 @@ Date dateOf(const timespec& time) {
 }  // namespace
 
 LinuxTrash::LinuxTrash(const Path& root, Path home, const Path& dataFolder)
-    : _root(canonical(root)), _home(std::move(home)), _homeTrash(dataFolder / "Trash") {}
+    : _root(withoutLinks(root)), _home(std::move(home)), _homeTrash(dataFolder / "Trash") {}
 
 std::vector<Path> LinuxTrash::folders() {
   static_cast<void>(openHomeTrash());

@@ -5,9 +5,11 @@
 
 #include <algorithm>
 #include <charconv>
-#include <fstream>
-#include <iterator>
 #include <string>
+
+#include "platform/linux/read_to_end.h"
+#include "platform/linux/uninterrupted.h"
+#include "platform/linux/unique_fd.h"
 
 namespace klarvik {
 namespace {
@@ -15,6 +17,8 @@ namespace {
 // The fields of a line, separated by single spaces, that are read here.
 constexpr std::size_t kIdField = 0;
 constexpr std::size_t kPlaceField = 4;
+
+constexpr std::size_t kLongestTable = 64 << 20;  // bytes; a machine with 100,000 mounts has less
 
 std::string_view fieldOf(std::string_view line, std::size_t index) {
   for (; index > 0; --index) {
@@ -60,11 +64,11 @@ std::vector<MountPoint> mountTableFrom(std::string_view text) {
 }
 
 std::optional<std::vector<MountPoint>> readMountTable() {
-  std::ifstream file("/proc/self/mountinfo", std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(file), {}};
-  auto mounts = mountTableFrom(text);
-  if (mounts.empty()) return std::nullopt;
-  return mounts;
+  const UniqueFd file(uninterrupted(
+      [] { return ::open("/proc/self/mountinfo", O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
+  const auto text = file ? readToEnd(file.get(), kLongestTable) : std::nullopt;
+  if (!text) return std::nullopt;
+  return mountTableFrom(*text);
 }
 
 std::optional<MountOfEntry> mountOfEntry(int folder, const char* name) {

@@ -4,10 +4,11 @@
 #include <stdio.h>
 #include <sys/stat.h>
 
-#include <array>
 #include <cerrno>
 
+#include "platform/linux/read_to_end.h"
 #include "platform/linux/trash_name.h"
+#include "platform/linux/uninterrupted.h"
 
 namespace klarvik {
 namespace {
@@ -19,8 +20,13 @@ constexpr std::size_t kLongestRecord = 1 << 20;  // bytes; far more than any pla
 
 enum class Attempt { done, nameTaken, failed };
 
+UniqueFd openAt(int folder, const char* name, int flags) {
+  return UniqueFd(
+      uninterrupted([&] { return ::openat(folder, name, flags | O_CLOEXEC, kPrivateFile); }));
+}
+
 UniqueFd openFolder(int parent, const char* name) {
-  return UniqueFd(::openat(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  return openAt(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW);
 }
 
 UniqueFd openFolderCreating(int parent, const char* name) {
@@ -36,7 +42,7 @@ std::string recordName(const std::string& name) {
 
 bool writeAll(int file, std::string_view text) {
   while (!text.empty()) {
-    const ssize_t written = ::write(file, text.data(), text.size());
+    const ssize_t written = uninterrupted([&] { return ::write(file, text.data(), text.size()); });
     if (written <= 0) return false;
     text.remove_prefix(static_cast<std::size_t>(written));
   }
@@ -48,12 +54,15 @@ bool closeWhole(UniqueFd file) {
   return ::close(file.release()) == 0;
 }
 
+void removeRecord(int info, const std::string& name) {
+  uninterrupted([&] { return ::unlinkat(info, recordName(name).c_str(), 0); });
+}
+
 Attempt makeRecord(int info, const std::string& name, std::string_view text) {
-  UniqueFd file(::openat(info, recordName(name).c_str(),
-                         O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kPrivateFile));
+  UniqueFd file = openAt(info, recordName(name).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
   if (!file) return errno == EEXIST ? Attempt::nameTaken : Attempt::failed;
   if (writeAll(file.get(), text) && closeWhole(std::move(file))) return Attempt::done;
-  ::unlinkat(info, recordName(name).c_str(), 0);
+  removeRecord(info, name);
   return Attempt::failed;
 }
 
@@ -104,22 +113,13 @@ std::optional<std::string> TrashFolder::take(const ParentHandle& item,
 }
 
 std::optional<std::string> TrashFolder::readRecord(const std::string& name) const {
-  const UniqueFd file(::openat(_info.get(), recordName(name).c_str(),
-                               O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-  if (!file) return std::nullopt;
-  std::string text;
-  std::array<char, 4096> buffer;
-  while (text.size() <= kLongestRecord) {
-    const ssize_t length = ::read(file.get(), buffer.data(), buffer.size());
-    if (length < 0) return std::nullopt;
-    if (length == 0) return text;
-    text.append(buffer.data(), static_cast<std::size_t>(length));
-  }
-  return std::nullopt;
+  const UniqueFd file =
+      openAt(_info.get(), recordName(name).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+  return file ? readToEnd(file.get(), kLongestRecord) : std::nullopt;
 }
 
 void TrashFolder::dropRecord(const std::string& name) const {
-  ::unlinkat(_info.get(), recordName(name).c_str(), 0);
+  removeRecord(_info.get(), name);
 }
 
 }  // namespace klarvik

@@ -1,0 +1,70 @@
+#include "support/private_mounts.h"
+
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <string>
+
+namespace klarvik {
+namespace {
+
+[[noreturn]] void giveUp(const char* what) {
+  std::fprintf(stderr, "cannot %s: %s\n", what, std::strerror(errno));
+  std::_Exit(125);
+}
+
+void writeTo(const char* file, const std::string& text) {
+  std::ofstream stream(file);
+  if (!(stream << text << std::flush)) giveUp("map the user");
+}
+
+void becomeRootOfOwnUserSpace() {
+  const std::string user = std::to_string(::getuid());
+  const std::string group = std::to_string(::getgid());
+  if (::unshare(CLONE_NEWUSER) != 0) giveUp("make a user space");
+  writeTo("/proc/self/setgroups", "deny");
+  writeTo("/proc/self/uid_map", "0 " + user + " 1");
+  writeTo("/proc/self/gid_map", "0 " + group + " 1");
+}
+
+void takePrivateMounts() {
+  if (::geteuid() != 0) becomeRootOfOwnUserSpace();
+  if (::unshare(CLONE_NEWNS) != 0) giveUp("unshare the mounts");
+  if (::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) giveUp("hide the mounts");
+}
+
+}  // namespace
+
+bool passesWithPrivateMounts(const std::function<void()>& body) {
+  std::fflush(nullptr);
+  const pid_t child = ::fork();
+  if (child < 0) giveUp("start a process");
+  if (child == 0) {
+    takePrivateMounts();
+    body();
+    std::fflush(nullptr);
+    std::_Exit(testing::Test::HasFailure() ? 1 : 0);
+  }
+  int status = 0;
+  while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  return status == 0;
+}
+
+void mountTmpfs(const Path& folder, const char* options) {
+  if (::mount("klarvik-test", folder.c_str(), "tmpfs", 0, options) != 0) giveUp("mount a tmpfs");
+}
+
+void mountBind(const Path& folder, const Path& at) {
+  if (::mount(folder.c_str(), at.c_str(), nullptr, MS_BIND, nullptr) != 0) giveUp("bind a folder");
+}
+
+}  // namespace klarvik
