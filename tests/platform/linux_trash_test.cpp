@@ -1,7 +1,11 @@
 #include "platform/linux/linux_trash.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+#include <set>
 
 #include "trash_fixture.h"
 
@@ -47,8 +51,8 @@ TEST_F(LinuxTrashTest, MovesAFileTogetherWithARecordOfItsPlaceOnTheMachine) {
   EXPECT_FALSE(disk.holds("/Users/ann/Library/Caches/a b"));
   EXPECT_EQ(disk.contentOf(inFiles("a b")), "content");
   const std::string record = disk.contentOf(recordOf("a b"));
-  EXPECT_THAT(record, testing::StartsWith("[Trash Info]\nPath=" +
-                                          original.parent_path().native() + "/a%20b\n"));
+  EXPECT_THAT(record, testing::StartsWith("[Trash Info]\nPath=" + original.parent_path().native() +
+                                          "/a%20b\n"));
   EXPECT_THAT(record, testing::ContainsRegex("DeletionDate=[0-9-]{10}T[0-9:]{8}\n$"));
 }
 
@@ -261,8 +265,8 @@ TEST_F(LinuxTrashTest, DoesNotContainWhatLiesBesideATrashFolder) {
   const std::string own = ".Trash-" + std::to_string(::geteuid());
   for (const Path& item :
        {Path("/Users/ann/.Trash"), Path(kFiles), Path(kInfo), Path("/Users/ann/a"),
-        Path("/Users/ann/.local/share/Trash/files2/a"), recordOf("a"),
-        Path("/Users/ann/.Trash2/a"), Path("/" + own + "/info/a"), Path("/" + own + "/files"),
+        Path("/Users/ann/.local/share/Trash/files2/a"), recordOf("a"), Path("/Users/ann/.Trash2/a"),
+        Path("/" + own + "/info/a"), Path("/" + own + "/files"),
         Path("/Users/ann/" + own + "/files/a"), inFiles("../../../../a")}) {
     EXPECT_FALSE(trash.contains(item)) << item;
   }
@@ -324,7 +328,9 @@ TEST_F(LinuxTrashTest, EmptyingALinkInsideGoesItsTargetStays) {
   disk.makeLink("/Users/ann/link", disk.onDisk("/Users/ann/target"));
   ASSERT_TRUE(trash.moveToTrash("/Users/ann/folder", anywhere));
   ASSERT_TRUE(trash.moveToTrash("/Users/ann/link", anywhere));
-  for (const Path& item : *trash.list()) EXPECT_TRUE(trash.remove(item, anywhere));
+  const auto items = trash.list();
+  ASSERT_TRUE(items);
+  for (const Path& item : *items) EXPECT_TRUE(trash.remove(item, anywhere));
   EXPECT_EQ(disk.contentOf("/Users/ann/target/a"), "content");
   EXPECT_EQ(countIn(kFiles) + countIn(kInfo), 0u);
 }
@@ -335,6 +341,7 @@ TEST_F(LinuxTrashTest, EmptyingAnItemAddedMeanwhileSurvives) {
   const auto listed = trash.list();
   disk.makeFile("/Users/ann/a", "new");
   const auto added = trash.moveToTrash("/Users/ann/a", anywhere);
+  ASSERT_TRUE(listed && added);
   for (const Path& item : *listed) EXPECT_TRUE(trash.remove(item, anywhere));
   EXPECT_EQ(trash.list(), std::vector<Path>{*added});
   EXPECT_TRUE(trash.putBack(*added, "/Users/ann/a"));

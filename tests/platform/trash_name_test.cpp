@@ -45,7 +45,7 @@ TEST(TrashName, IsNotCutInTheMiddleOfACharacter) {
   const std::string chosen = trashName(name, 0);
   EXPECT_EQ(chosen.size(), 245u);
   EXPECT_EQ(chosen, name.substr(0, 245));
-  EXPECT_EQ(trashName("xx" + name.substr(0, 253), 0).size(), 244u);
+  EXPECT_EQ(trashName("x" + name.substr(0, 254), 0).size(), 244u);
 }
 
 TEST(TrashName, ANameThatIsNotUtf8IsCutToo) {

@@ -49,11 +49,11 @@ TEST_P(MalformedRecord, TellsNoPlace) {
 
 INSTANTIATE_TEST_SUITE_P(
     TrashRecord, MalformedRecord,
-    testing::Values("", "[Trash Info]", "[Trash Info]\n", "[Trash Info]\nPath=\n",
-                    "Path=/a\n", "[Trash]\nPath=/a\n", "[Trash Info]\npath=/a\n",
-                    "[Trash Info]\nPath=/a%\n", "[Trash Info]\nPath=/a%2\n",
-                    "[Trash Info]\nPath=/a%zz\n", "[Trash Info]\nPath=/a%-1\n",
-                    "[Trash Info]\nPath=/a%00b\n", std::string("[Trash Info]\nPath=/a\0b\n", 22),
+    testing::Values("", "[Trash Info]", "[Trash Info]\n", "[Trash Info]\nPath=\n", "Path=/a\n",
+                    "[Trash]\nPath=/a\n", "[Trash Info]\npath=/a\n", "[Trash Info]\nPath=/a%\n",
+                    "[Trash Info]\nPath=/a%2\n", "[Trash Info]\nPath=/a%zz\n",
+                    "[Trash Info]\nPath=/a%-1\n", "[Trash Info]\nPath=/a%00b\n",
+                    std::string("[Trash Info]\nPath=/a\0b\n", 22),
                     "[Trash Info]\nPath=../../etc/passwd\n", "[Trash Info]\nPath=/a/%2E%2E/b\n",
                     std::string(100'000, '\xff')));
 
