@@ -10,4 +10,7 @@ namespace klarvik {
 /// What the program says of itself ("CFBundleShortVersionString" and the like).
 using ApplicationInfo = std::map<std::string, DefaultsValue>;
 
+/// What was laid down when this program was built.
+[[nodiscard]] ApplicationInfo builtInApplicationInfo();
+
 }  // namespace klarvik

@@ -10,12 +10,12 @@
 #include <cerrno>
 #include <cmath>
 #include <cstdlib>
-#include <fstream>
 #include <limits>
 #include <thread>
 #include <vector>
 
 #include "platform/linux/file_lock.h"
+#include "support/child_process.h"
 #include "support/meddled_run.h"
 #include "support/temporary_folder.h"
 
@@ -227,28 +227,12 @@ TEST_F(JsonUserDefaultsTest, GivesUpWhenAnotherNeverLetsGoOfTheLock) {
   EXPECT_EQ(open().object("useTrash"), DefaultsValue(true));
 }
 
-bool runInChild(const std::function<bool()>& operation) {
-  const ::pid_t child = ::fork();
-  if (child == 0) ::_exit(operation() ? 0 : 1);
-  int status = 0;
-  return ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
-// Root may do anything, so that it becomes somebody else first.
-bool runAsAnOrdinaryUser(const std::function<bool()>& operation) {
-  constexpr ::uid_t nobody = 65534;
-  return runInChild([&] {
-    if (::geteuid() == 0 && ::setresuid(nobody, nobody, nobody) != 0) return false;
-    return operation();
-  });
-}
-
 TEST_F(JsonUserDefaultsTest, AReadOnlyFolderKeepsWhatItHoldsAndSetAnswersFalse) {
   ASSERT_TRUE(open().set("useTrash", true));
   ::chmod(config.path().c_str(), 0755);
   ::chmod(config.onDisk(fileName).c_str(), 0644);
   ::chmod(folder().c_str(), 0555);
-  EXPECT_TRUE(runAsAnOrdinaryUser([&] {
+  EXPECT_TRUE(inChildWithoutPrivileges([&] {
     auto defaults = open();
     return !defaults.set("useTrash", false) && !defaults.remove("useTrash") &&
            defaults.object("useTrash") == DefaultsValue(true);
@@ -264,7 +248,7 @@ TEST_F(JsonUserDefaultsTest, ADocumentThatMayNotBeReadIsNeverReplaced) {
   ::chmod(folder().c_str(), 0777);
   ::chmod((folder() / "preferences.lock").c_str(), 0666);
   ::chmod(config.onDisk(fileName).c_str(), 0);
-  EXPECT_TRUE(runAsAnOrdinaryUser([&] {
+  EXPECT_TRUE(inChildWithoutPrivileges([&] {
     auto defaults = open();
     return defaults.object("useTrash") == std::nullopt && !defaults.set("useTrash", true) &&
            !defaults.remove("useTrash");
@@ -406,21 +390,10 @@ TEST_F(MeddledChange, KilledAtEachStepWhileABrokenDocumentIsReplacedLosesNothing
   FAIL() << "the change never came to its end";
 }
 
-// So that this process may mount what nobody else sees, also when it is not root.
-bool enterMountNamespace() {
-  const bool isRoot = ::geteuid() == 0;
-  const std::string identity = "0 " + std::to_string(::geteuid()) + " 1";
-  if (::unshare(CLONE_NEWNS | (isRoot ? 0 : CLONE_NEWUSER)) != 0) return false;
-  if (!isRoot && !(std::ofstream("/proc/self/uid_map") << identity)) return false;
-  return ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
-
 TEST_F(JsonUserDefaultsTest, AFullDiskKeepsTheOldDocumentAndSetAnswersFalse) {
-  EXPECT_TRUE(runInChild([&] {
+  EXPECT_TRUE(inChildThatMayMount([&] {
     const char* place = config.path().c_str();
-    if (!enterMountNamespace() || ::mount("tmpfs", place, "tmpfs", 0, "size=64k") != 0) {
-      return false;
-    }
+    if (::mount("tmpfs", place, "tmpfs", 0, "size=64k") != 0) return false;
     auto defaults = open();
     const DefaultsValue old = std::string(10'000, 'o');
     const bool fits = defaults.set("history", old);

@@ -1,0 +1,138 @@
+#include "platform/linux/shell_command_runner.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <thread>
+#include <vector>
+
+#include "support/child_process.h"
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+namespace {
+
+std::optional<std::string> run(const std::string& commandLine) {
+  return ShellCommandRunner().run(commandLine);
+}
+
+TEST(ShellCommandRunner, GivesBackWhatTheCommandPrints) {
+  EXPECT_EQ(run("echo one; echo two"), "one\ntwo\n");
+  EXPECT_EQ(run("printf '  as it is  '"), "  as it is  ");
+}
+
+TEST(ShellCommandRunner, RunsPipesAndRedirections) {
+  EXPECT_EQ(run("printf 'b\\na\\n' | sort | head -n 1; ls /nowhere 2>/dev/null"), "a\n");
+}
+
+TEST(ShellCommandRunner, AToolThatIsMissingPrintsNothing) {
+  EXPECT_EQ(run("klarvik-no-such-tool --version"), "");
+}
+
+TEST(ShellCommandRunner, AToolThatFailsStillPrintsWhatItPrinted) {
+  EXPECT_EQ(run("echo partly; exit 3"), "partly\n");
+  EXPECT_EQ(run("echo partly; kill -9 $$"), "partly\n");
+  EXPECT_EQ(run("if ("), "");
+}
+
+TEST(ShellCommandRunner, KeepsErrorsOutOfTheOutput) {
+  EXPECT_EQ(run("echo wrong >&2; echo right"), "right\n");
+}
+
+TEST(ShellCommandRunner, KeepsBytesThatAreNotUtf8) {
+  EXPECT_EQ(run(R"(printf '\377\376\000\303')"), std::string("\xff\xfe\0\xc3", 4));
+}
+
+TEST(ShellCommandRunner, TakesOutputOfOneMebibyteWhole) {
+  const auto output = run("head -c 1048576 /dev/zero");
+  ASSERT_TRUE(output);
+  EXPECT_EQ(*output, std::string(1'048'576, '\0'));
+}
+
+TEST(ShellCommandRunner, GivesTheCommandNothingToRead) {
+  EXPECT_EQ(run("cat; echo end"), "end\n");
+}
+
+TEST(ShellCommandRunner, HandsTheEnvironmentOn) {
+  ::setenv("KLARVIK_TEST_VALUE", "a b;$(c)", 1);
+  EXPECT_EQ(run("printf %s \"$KLARVIK_TEST_VALUE\""), "a b;$(c)");
+  ::unsetenv("KLARVIK_TEST_VALUE");
+}
+
+TEST(ShellCommandRunner, HandsOnNoOpenFile) {
+  const int open = ::open("/dev/null", O_RDONLY);
+  ASSERT_EQ(::fcntl(open, F_GETFD) & FD_CLOEXEC, 0);
+  EXPECT_EQ(run("for fd in 3 4 5 6 7 8 9 " + std::to_string(open) +
+                "; do [ -e /dev/fd/$fd ] && echo $fd; done; true"),
+            "");
+  ::close(open);
+}
+
+TEST(ShellCommandRunner, KeepsNoFileOpen) {
+  const auto lowestFree = [] {
+    const int fd = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
+    ::close(fd);
+    return fd;
+  };
+  const int before = lowestFree();
+  for (int turn = 0; turn < 20; ++turn) EXPECT_EQ(run("echo x; echo y >&2"), "x\n");
+  EXPECT_EQ(lowestFree(), before);
+}
+
+TEST(ShellCommandRunner, GivesTheCommandTheUsualSignals) {
+  ::signal(SIGPIPE, SIG_IGN);
+  ::sigset_t blocked;
+  ::sigset_t before;
+  ::sigemptyset(&blocked);
+  ::sigaddset(&blocked, SIGTERM);
+  ::pthread_sigmask(SIG_BLOCK, &blocked, &before);
+  EXPECT_EQ(run("kill -PIPE $$; echo survived"), "");
+  EXPECT_EQ(run("kill -TERM $$; echo survived"), "");
+  ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+  ::signal(SIGPIPE, SIG_DFL);
+}
+
+TEST(ShellCommandRunner, WaitsForTheEndAlsoWhenSignalsInterruptIt) {
+  EXPECT_TRUE(inChild([] {
+    struct ::sigaction action {};
+    action.sa_handler = [](int) {};
+    ::sigaction(SIGALRM, &action, nullptr);
+    ::ualarm(1'000, 1'000);
+    return run("sleep 0.2; echo end") == "end\n";
+  }));
+}
+
+TEST(ShellCommandRunner, AnswersNothingWhenTheShellCannotBeStarted) {
+  EXPECT_TRUE(inChild([] {
+    const ::rlimit none{3, 3};
+    return ::setrlimit(RLIMIT_NOFILE, &none) == 0 && run("echo x") == std::nullopt;
+  }));
+  EXPECT_EQ(run(std::string(std::size_t{4} << 20, 'x')), std::nullopt);
+}
+
+TEST(ShellCommandRunner, RunsNoPartOfALineWithAZeroByte) {
+  const TemporaryFolder folder;
+  const std::string command = "touch " + folder.path().native() + "/made";
+  EXPECT_EQ(run(command + '\0' + "-not"), std::nullopt);
+  EXPECT_FALSE(folder.holds("made"));
+}
+
+TEST(ShellCommandRunner, RunsManyCommandsAtOnce) {
+  std::vector<std::optional<std::string>> outputs(8);
+  {
+    std::vector<std::jthread> threads;
+    for (std::size_t i = 0; i < outputs.size(); ++i) {
+      threads.emplace_back([&, i] { outputs[i] = run("sleep 0.1; echo " + std::to_string(i)); });
+    }
+  }
+  for (std::size_t i = 0; i < outputs.size(); ++i) {
+    EXPECT_EQ(outputs[i], std::to_string(i) + '\n');
+  }
+}
+
+}  // namespace
+}  // namespace klarvik
