@@ -1,0 +1,127 @@
+"""A desktop for a program that is looked at by no one: a display, a window manager, a message bus,
+and Klarvik on it over a home of its own. For ./run, the process tests and the benchmarks."""
+
+import base64
+import contextlib
+import json
+import os
+import pathlib
+import signal
+import subprocess
+import tempfile
+import time
+
+
+class Failure(Exception):
+    """Says in one sentence what could not be done."""
+
+
+def wait_until(condition, what, seconds=120):
+    """The first true answer of `condition`, asked again and again."""
+    deadline = time.monotonic() + seconds
+    while True:
+        if answer := condition():
+            return answer
+        if time.monotonic() > deadline:
+            raise Failure(f"{what} did not happen within {seconds} seconds.")
+        time.sleep(0.1)
+
+
+def end(process):
+    """Asks a process that was started here to end, and makes sure that it does."""
+    if process.poll() is None:
+        process.terminate()
+        try:
+            process.wait(10)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.wait()
+
+
+class VirtualDesktop:
+    """The desktop of the user who lives in `home`. Use in a `with` statement; `environment` is what
+    programs on it are started with."""
+
+    WIDTH, HEIGHT = 1280, 900
+
+    def __init__(self, home):
+        self._ending = contextlib.ExitStack()
+        self._home = home
+        self.environment = {}
+
+    def __enter__(self):
+        with contextlib.ExitStack() as ending:
+            runtime = ending.enter_context(tempfile.TemporaryDirectory(prefix="klarvik-desktop-"))
+            self.environment = {
+                "PATH": os.environ.get("PATH", "/usr/bin:/bin"),
+                "LANG": "C.UTF-8",
+                "HOME": str(self._home),
+                "XDG_CONFIG_HOME": str(self._home / ".config"),
+                "XDG_DATA_HOME": str(self._home / ".local/share"),
+                "XDG_CACHE_HOME": str(self._home / ".cache"),
+                "XDG_STATE_HOME": str(self._home / ".local/state"),
+                "XDG_RUNTIME_DIR": runtime,
+                "QT_QUICK_BACKEND": "software",
+                "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            }
+            self.environment["DISPLAY"] = self._start_display(ending)
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus(ending)
+            self._start_window_manager(ending, runtime)
+            self._ending = ending.pop_all()
+        return self
+
+    def __exit__(self, *_):
+        self._ending.close()
+
+    def _start(self, ending, command, **options):
+        quiet = {"stdin": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+        process = subprocess.Popen(command, **{"env": self.environment, **quiet, **options})
+        ending.callback(end, process)
+        return process
+
+    def _start_display(self, ending):
+        reading, writing = os.pipe()
+        screen = f"{self.WIDTH}x{self.HEIGHT}x24"
+        command = ["Xvfb", "-displayfd", str(writing), "-screen", "0", screen, "-nolisten", "tcp"]
+        command += ["-noreset"]
+        self._start(ending, command, pass_fds=[writing])
+        os.close(writing)
+        with open(reading, encoding="ascii") as answer:
+            number = answer.readline().strip()
+        if not number:
+            raise Failure("The virtual display did not start.")
+        return f":{number}"
+
+    def _start_bus(self, ending):
+        command = ["dbus-daemon", "--session", "--nofork", "--print-address"]
+        bus = self._start(ending, command, stdout=subprocess.PIPE, text=True)
+        ending.callback(bus.stdout.close)
+        address = bus.stdout.readline().strip()
+        if not address:
+            raise Failure("The message bus did not start.")
+        return address
+
+    def _start_window_manager(self, ending, runtime):
+        own = {**self.environment, "HOME": runtime, "XDG_CACHE_HOME": runtime}
+        command = ["openbox", "--sm-disable"]
+        self._start(ending, command, env=own, stdout=subprocess.DEVNULL)
+
+    def run(self, *command):
+        """What `command` prints, run on this desktop."""
+        return subprocess.run(
+            command, env=self.environment, check=True, capture_output=True, text=True
+        ).stdout
+
+    def windows_of(self, process):
+        found = subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)],
+            env=self.environment,
+            capture_output=True,
+            text=True,
+            check=False,
+        )
+        return found.stdout.split()
+
+    def take_picture(self, window, path):
+        path.parent.mkdir(parents=True, exist_ok=True)
+        self.run("import", "-window", window, str(path))
