@@ -125,3 +125,86 @@ class VirtualDesktop:
     def take_picture(self, window, path):
         path.parent.mkdir(parents=True, exist_ok=True)
         self.run("import", "-window", window, str(path))
+
+
+class SampleHome:
+    """The home of a sample disk, whose user has been through the first run already."""
+
+    USER = "Users/ann"
+
+    def __init__(self, disk, build):
+        subprocess.run([build / "klarvik-sample-disk", disk], check=True, stdout=subprocess.DEVNULL)
+        self.path = disk / self.USER
+        self._preferences = self.path / ".config/klarvik/preferences.json"
+        self.prefer({"onboarding_complete": True, "fda_prompt_shown": True})
+
+    def preferences(self):
+        if not self._preferences.exists():
+            return {}
+        return json.loads(self._preferences.read_text(encoding="utf-8"))
+
+    def prefer(self, values):
+        """Only while the program does not run."""
+        self._preferences.parent.mkdir(parents=True, exist_ok=True)
+        self._preferences.write_text(json.dumps({**self.preferences(), **values}), encoding="utf-8")
+
+    def scans(self):
+        return self._history("scan_history")
+
+    def cleans(self):
+        return self._history("clean_history")
+
+    def _history(self, key):
+        stored = self.preferences().get(key)
+        return json.loads(base64.b64decode(stored["base64"])) if stored else []
+
+
+class Klarvik:
+    """The program, started on a desktop. Use in a `with` statement."""
+
+    def __init__(self, desktop, home, build):
+        self._desktop, self._home = desktop, home
+        self._scans_before = len(home.scans())
+        self._said = tempfile.TemporaryFile("w+", encoding="utf-8")
+        self.process = subprocess.Popen(
+            [build / "klarvik"],
+            env=desktop.environment,
+            stdin=subprocess.DEVNULL,
+            stdout=self._said,
+            stderr=self._said,
+        )
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.quit()
+        self._said.close()
+
+    def said(self):
+        """All that the program has printed."""
+        self._said.seek(0)
+        return self._said.read()
+
+    def quit(self):
+        end(self.process)
+
+    def kill(self):
+        self.process.send_signal(signal.SIGKILL)
+        self.process.wait()
+
+    def _while_it_runs(self, condition):
+        if (code := self.process.poll()) is not None:
+            raise Failure(f"Klarvik ended with code {code}: {self.said()}")
+        return condition()
+
+    def wait_until(self, condition, what):
+        return wait_until(lambda: self._while_it_runs(condition), what)
+
+    def wait_for_window(self):
+        return self.wait_until(lambda: self._desktop.windows_of(self.process), "A window")[-1]
+
+    def wait_for_scan(self):
+        """The history's entry of the first scan since the start of the program."""
+        self.wait_until(lambda: len(self._home.scans()) > self._scans_before, "The end of a scan")
+        return self._home.scans()[0]
