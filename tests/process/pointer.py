@@ -1,6 +1,8 @@
 """A user's hand on the running program: finds what can be pressed by the name that a screen reader
 would say, and clicks there with the real pointer."""
 
+import os
+
 import gi
 
 gi.require_version("Atspi", "2.0")
@@ -14,6 +16,7 @@ class Pointer:
 
     def __init__(self, desktop):
         self._desktop = desktop
+        os.environ.update(desktop.environment)
         Atspi.init()
 
     def click(self, klarvik, name_begins_with):

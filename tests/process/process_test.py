@@ -1,0 +1,51 @@
+"""What the tests of the built program share. `KLARVIK_BUILD` names the folder that it was built in."""
+
+import hashlib
+import os
+import pathlib
+import stat
+import sys
+import tempfile
+import unittest
+
+sys.dont_write_bytecode = True
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+
+from virtual_desktop import Klarvik, SampleHome, VirtualDesktop  # noqa: E402
+
+BUILD = pathlib.Path(os.environ["KLARVIK_BUILD"])
+
+
+class ProcessTest(unittest.TestCase):
+    """Has a desktop and a fresh sample home for each test."""
+
+    def setUp(self):
+        folder = self.enterContext(tempfile.TemporaryDirectory(prefix="klarvik-process-"))
+        self.disk = pathlib.Path(folder)
+        self.home = SampleHome(self.disk, BUILD)
+        self.desktop = self.enterContext(VirtualDesktop(self.home.path))
+
+    def start(self):
+        return self.enterContext(Klarvik(self.desktop, self.home, BUILD))
+
+
+def picture_of(tree, leave_out):
+    """Everything in `tree` by its path: kind, mode, time of the last change and content. A folder's
+    time is left out, for it changes with what happens to its children."""
+
+    def look(path):
+        status = path.lstat()
+        if stat.S_ISLNK(status.st_mode):
+            return ("link", os.readlink(path))
+        if stat.S_ISDIR(status.st_mode):
+            return ("folder", status.st_mode)
+        if stat.S_ISREG(status.st_mode):
+            content = hashlib.sha256(path.read_bytes()).hexdigest()
+            return ("file", status.st_mode, status.st_mtime_ns, content)
+        return ("other", status.st_mode)
+
+    return {
+        path.relative_to(tree): look(path)
+        for path in tree.rglob("*")
+        if not any(path.is_relative_to(left_out) for left_out in leave_out)
+    }
