@@ -1,4 +1,4 @@
-"""What the tests of the built program share. `KLARVIK_BUILD` names the folder that it was built in."""
+"""What the tests of the built program share. `KLARVIK_BUILD` names the folder that the programs were built in."""
 
 import hashlib
 import os
