@@ -3,6 +3,7 @@
 #include "core/deletion_guard.h"
 #include "engine/shell.h"
 #include "engine/tool_text.h"
+#include "platform/unicode_text.h"
 
 namespace klarvik {
 
@@ -12,8 +13,7 @@ constexpr std::string_view snapshotFolder = "/.MobileBackups/";
 constexpr std::size_t shortestLine = 9;
 
 bool namesASnapshot(std::string_view line) {
-  const bool longEnough = firstCharacters(line, shortestLine - 1).size() < line.size();
-  return longEnough && line.find('-') != std::string_view::npos;
+  return line.find('-') != std::string_view::npos && characterCount(line) >= shortestLine;
 }
 
 }  // namespace

@@ -63,15 +63,6 @@ bool beginsLikeANumber(std::string_view text) {
 
 }  // namespace
 
-bool isUtf8(std::string_view text) {
-  while (!text.empty()) {
-    const Character next = firstCharacter(text);
-    if (next.codePoint < 0) return false;
-    text.remove_prefix(next.length);
-  }
-  return true;
-}
-
 std::string_view trimmed(std::string_view text) {
   text.remove_prefix(runLength(text, true));
   while (!text.empty()) {

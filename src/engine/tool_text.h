@@ -12,7 +12,6 @@ namespace klarvik {
 // given. "White space" is that of every script, and a character is one code point; a byte that is
 // not UTF-8 counts as a character of its own.
 
-[[nodiscard]] bool isUtf8(std::string_view text);
 /// Without white space and newlines at both ends.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 /// Without spaces and tabs at both ends.

@@ -27,14 +27,6 @@ TEST(ToolText, TrimsOnlyBlanksWhereOnlyBlanksAreMeant) {
   EXPECT_EQ(trimmedOfBlanks(" \t"), "");
 }
 
-TEST(ToolText, TellsUtf8FromOtherBytes) {
-  EXPECT_TRUE(isUtf8(""));
-  EXPECT_TRUE(isUtf8("größe 📱"));
-  EXPECT_FALSE(isUtf8("gr\xf6\xdf"));
-  EXPECT_FALSE(isUtf8("cut off \xf0\x9f\x93"));
-  EXPECT_FALSE(isUtf8("surrogate \xed\xa0\x80"));
-}
-
 TEST(ToolText, SplitsLinesAndKeepsEmptyOnes) {
   EXPECT_THAT(splitLines("a\n\nb\n"), ElementsAre("a", "", "b", ""));
   EXPECT_THAT(splitLines(""), ElementsAre(""));

@@ -187,16 +187,12 @@ std::string informationList(std::string_view name, std::string_view bundleId) {
   return text + "</dict>\n</plist>\n";
 }
 
-std::string trashRecord(const Path& original) {
-  return "[Trash Info]\nPath=" + original.native() + "\nDeletionDate=2025-12-24T18:00:00\n";
-}
-
 /// Puts the disk together, one subject after the other.
 class SampleDiskBuilder {
  public:
   SampleDiskBuilder(const Path& root, const SampleDiskOptions& options)
       : _writer(root), _scale(options.scale), _home(options.home) {
-    _disk.root = root;
+    _disk.root = std::filesystem::canonical(root);
     _disk.home = options.home;
   }
 
@@ -225,6 +221,12 @@ class SampleDiskBuilder {
   [[nodiscard]] Path inHome(const Path& relative) const { return _home / relative; }
   [[nodiscard]] Path inLibrary(const Path& relative) const { return _home / "Library" / relative; }
   std::size_t& rows(CategoryType type) { return _disk.smartScanItems[type]; }
+
+  /// Names the place as it is on the machine, so that other programs can put the thing back.
+  [[nodiscard]] std::string trashRecord(const Path& original) const {
+    const Path place = _disk.root / inHome(original).relative_path();
+    return "[Trash Info]\nPath=" + place.native() + "\nDeletionDate=2025-12-24T18:00:00\n";
+  }
 
   void systemFolders() {
     for (const char* const place : {"/Applications",
@@ -469,9 +471,9 @@ class SampleDiskBuilder {
     const Path files = inHome(".local/share/Trash/files");
     const Path records = inHome(".local/share/Trash/info");
     _writer.file(files / "draft.txt", 20 * kilobyte);
-    _writer.text(records / "draft.txt.trashinfo", trashRecord(inHome("Documents/draft.txt")));
+    _writer.text(records / "draft.txt.trashinfo", trashRecord("Documents/draft.txt"));
     _writer.files(files / "Screenshots", 5, 900 * kilobyte * _scale);
-    _writer.text(records / "Screenshots.trashinfo", trashRecord(inHome("Desktop/Screenshots")));
+    _writer.text(records / "Screenshots.trashinfo", trashRecord("Desktop/Screenshots"));
     _disk.trashEntries = 6;
     // All of them but the link, which measures nothing.
     rows(CategoryType::trashBin) = 5;

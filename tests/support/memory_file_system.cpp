@@ -1,0 +1,247 @@
+#include "support/memory_file_system.h"
+
+#include <algorithm>
+
+#include "platform/packages.h"
+
+namespace klarvik {
+
+namespace {
+
+const Path mainTrash = "/Users/ann/.local/share/Trash/files";
+const Path homeTrash = "/Users/ann/.Trash";
+
+bool isBelow(const Path& folder, const Path& path) {
+  const std::string above = folder == "/" ? "/" : folder.native() + "/";
+  return path.native().starts_with(above) && path != folder;
+}
+
+bool isHidden(const Path& name) {
+  return name.native().starts_with('.');
+}
+
+class MemoryEntry final : public WalkEntry {
+ public:
+  MemoryEntry(Path path, std::size_t depth, const FileAttributes& attributes)
+      : _path(std::move(path)), _name(_path.filename()), _depth(depth), _attributes(attributes) {}
+
+  [[nodiscard]] std::string_view name() const override { return _name; }
+  [[nodiscard]] FileKind kind() const override { return _attributes.kind; }
+  [[nodiscard]] std::size_t depth() const override { return _depth; }
+  [[nodiscard]] Path path() const override { return _path; }
+  [[nodiscard]] std::int64_t allocatedBytes() override { return _attributes.allocatedBytes; }
+  [[nodiscard]] std::optional<FileAttributes> attributes() override { return _attributes; }
+
+ private:
+  Path _path;
+  std::string _name;
+  std::size_t _depth;
+  FileAttributes _attributes;
+};
+
+}  // namespace
+
+void MemoryFileSystem::addFolder(const Path& path) {
+  if (path.has_relative_path()) addFolder(path.parent_path());
+  _entries.try_emplace(path, FileAttributes{.kind = FileKind::directory,
+                                            .modified = usualDate,
+                                            .accessed = usualDate,
+                                            .created = usualDate});
+}
+
+void MemoryFileSystem::addFile(const Path& path, std::int64_t allocatedBytes,
+                               std::optional<Date> modified) {
+  addFolder(path.parent_path());
+  _entries[path] = {.kind = FileKind::regular,
+                    .allocatedBytes = allocatedBytes,
+                    .logicalBytes = allocatedBytes,
+                    .modified = modified,
+                    .accessed = modified,
+                    .created = modified};
+}
+
+void MemoryFileSystem::addLink(const Path& path) {
+  addFile(path, 12);
+  _entries[path].kind = FileKind::symbolicLink;
+}
+
+void MemoryFileSystem::setModified(const Path& path, std::optional<Date> modified) {
+  _entries.at(path).modified = modified;
+}
+
+void MemoryFileSystem::makeUnreadable(const Path& folder) {
+  _unreadable.insert(folder);
+}
+void MemoryFileSystem::makeImmovable(const Path& item) {
+  _immovable.insert(item);
+}
+
+void MemoryFileSystem::setRealPlace(const Path& item, const Path& real) {
+  _realPlaces[item] = real;
+}
+
+void MemoryFileSystem::setBeforeRemoval(std::function<void(const Path&)> hook) {
+  _beforeRemoval = std::move(hook);
+}
+
+std::vector<Path> MemoryFileSystem::removed() const {
+  const std::scoped_lock lock(_mutex);
+  return _removed;
+}
+
+bool MemoryFileSystem::holds(const Path& path) const {
+  const std::scoped_lock lock(_mutex);
+  return _entries.contains(path);
+}
+
+std::set<Path> MemoryFileSystem::contents() const {
+  const std::scoped_lock lock(_mutex);
+  std::set<Path> paths;
+  for (const auto& [path, attributes] : _entries) paths.insert(path);
+  return paths;
+}
+
+bool MemoryFileSystem::exists(const Path& path) const {
+  const auto found = attributes(path);
+  return found && found->kind != FileKind::symbolicLink;
+}
+
+std::optional<FileAttributes> MemoryFileSystem::attributes(const Path& path) const {
+  const std::scoped_lock lock(_mutex);
+  const auto found = _entries.find(path);
+  if (found == _entries.end()) return std::nullopt;
+  return found->second;
+}
+
+std::optional<std::vector<Path>> MemoryFileSystem::list(const Path& folder) const {
+  const auto own = attributes(folder);
+  if (!own || own->kind != FileKind::directory || _unreadable.contains(folder)) {
+    return std::nullopt;
+  }
+  const std::scoped_lock lock(_mutex);
+  std::vector<Path> children;
+  for (const auto& [path, attributes] : _entries) {
+    if (path.parent_path() == folder && path != folder) children.push_back(path);
+  }
+  return children;
+}
+
+WalkOutcome MemoryFileSystem::walk(const Path& folder, WalkOptions options,
+                                   const WalkVisitor& visit) const {
+  const auto start = list(folder);
+  if (!start) return WalkOutcome::refused;
+  std::vector<std::pair<Path, std::size_t>> waiting;
+  const auto add = [&](const std::vector<Path>& paths, std::size_t depth) {
+    for (const Path& path : paths) waiting.emplace_back(path, depth);
+  };
+  for (add(*start, 1); !waiting.empty();) {
+    const auto [path, depth] = waiting.back();
+    waiting.pop_back();
+    if (options.skipHidden && isHidden(path.filename())) continue;
+    const auto own = attributes(path);
+    if (!own) continue;
+    MemoryEntry entry(path, depth, *own);
+    const WalkStep step = visit(entry);
+    if (step == WalkStep::stop) return WalkOutcome::stopped;
+    const bool closed = step == WalkStep::skipDescendants || own->kind != FileKind::directory ||
+                        (options.skipPackageContents && isPackageName(entry.name()));
+    if (!closed) add(list(path).value_or(std::vector<Path>{}), depth + 1);
+  }
+  return WalkOutcome::completed;
+}
+
+std::unique_ptr<FileReader> MemoryFileSystem::openForReading(const Path&) const {
+  return nullptr;
+}
+
+bool MemoryFileSystem::createDirectories(const Path& folder) {
+  const std::scoped_lock lock(_mutex);
+  addFolder(folder);
+  return true;
+}
+
+std::vector<Path> MemoryFileSystem::subtree(const Path& item) const {
+  std::vector<Path> paths;
+  for (const auto& [path, attributes] : _entries) {
+    if (path == item || isBelow(item, path)) paths.push_back(path);
+  }
+  return paths;
+}
+
+bool MemoryFileSystem::move(const Path& from, const Path& to) {
+  const std::scoped_lock lock(_mutex);
+  if (!_entries.contains(from) || _entries.contains(to) || _immovable.contains(from)) return false;
+  for (const Path& path : subtree(from)) {
+    auto entry = _entries.extract(path);
+    entry.key() = to.native() + path.native().substr(from.native().size());
+    _entries.insert(std::move(entry));
+  }
+  return true;
+}
+
+bool MemoryFileSystem::mayTouch(const Path& item, const PlaceCheck& check) const {
+  if (_beforeRemoval) _beforeRemoval(item);
+  const auto real = _realPlaces.find(item);
+  return check(real == _realPlaces.end() ? item : real->second);
+}
+
+bool MemoryFileSystem::moveChecked(const Path& from, const Path& to, const PlaceCheck& mayMove) {
+  return mayTouch(from, mayMove) && move(from, to);
+}
+
+bool MemoryFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
+  if (!mayTouch(item, mayRemove)) return false;
+  const std::scoped_lock lock(_mutex);
+  if (!_entries.contains(item) || _immovable.contains(item)) return false;
+  for (const Path& path : subtree(item)) _entries.erase(path);
+  _removed.push_back(item);
+  return true;
+}
+
+MemoryTrash::MemoryTrash(MemoryFileSystem& files) : _files(files) {
+  _files.addFolder(mainTrash);
+}
+
+std::vector<Path> MemoryTrash::folders() {
+  return {mainTrash, homeTrash};
+}
+
+std::optional<std::vector<Path>> MemoryTrash::list() {
+  auto entries = _files.list(mainTrash);
+  if (!entries) return std::nullopt;
+  const auto more = _files.list(homeTrash).value_or(std::vector<Path>{});
+  entries->insert(entries->end(), more.begin(), more.end());
+  return entries;
+}
+
+std::optional<Date> MemoryTrash::modificationDate() {
+  return MemoryFileSystem::usualDate;
+}
+
+bool MemoryTrash::contains(const Path& item) const {
+  return item.native().find("/.Trash/") != std::string::npos || isBelow(mainTrash, item);
+}
+
+std::optional<Path> MemoryTrash::moveToTrash(const Path& item, const PlaceCheck& mayMove) {
+  const Path trashed = mainTrash / item.filename();
+  if (_refusesMoves || !_files.moveChecked(item, trashed, mayMove)) return std::nullopt;
+  const std::scoped_lock lock(_mutex);
+  _moved.insert(item);
+  return trashed;
+}
+
+bool MemoryTrash::putBack(const Path& trashed, const Path& original) {
+  _files.createDirectories(original.parent_path());
+  return _files.move(trashed, original);
+}
+
+bool MemoryTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
+  return _files.remove(trashed, mayRemove);
+}
+
+std::set<Path> MemoryTrash::moved() const {
+  const std::scoped_lock lock(_mutex);
+  return _moved;
+}
+
+}  // namespace klarvik
