@@ -1,8 +1,8 @@
 #include "platform/linux/json_user_defaults.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,7 +16,8 @@
 
 #include "platform/linux/file_lock.h"
 #include "support/child_process.h"
-#include "support/meddled_run.h"
+#include "support/private_mounts.h"
+#include "support/system_call_faults.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -149,16 +150,6 @@ TEST_F(JsonUserDefaultsTest, LetsOnlyTheUserReadTheFile) {
   struct ::stat status {};
   ASSERT_EQ(::stat(config.onDisk(fileName).c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777U, 0600U);
-}
-
-TEST_F(JsonUserDefaultsTest, LiesInTheConfigurationFolderOfTheUser) {
-  ::unsetenv("XDG_CONFIG_HOME");
-  EXPECT_EQ(JsonUserDefaults::usualFolder("/home/ann"), "/home/ann/.config/klarvik");
-  ::setenv("XDG_CONFIG_HOME", "relative", 1);
-  EXPECT_EQ(JsonUserDefaults::usualFolder("/home/ann"), "/home/ann/.config/klarvik");
-  ::setenv("XDG_CONFIG_HOME", "/etc/ann", 1);
-  EXPECT_EQ(JsonUserDefaults::usualFolder("/home/ann"), "/etc/ann/klarvik");
-  ::unsetenv("XDG_CONFIG_HOME");
 }
 
 class BrokenDocument : public JsonUserDefaultsTest,
@@ -306,79 +297,68 @@ TEST_F(JsonUserDefaultsTest, ManyThreadsWritingAtOnceEveryKeySurvives) {
   }
 }
 
+using Kind = SystemCallFault::Kind;
+
 // After a change that went wrong somewhere: all of the old or all of the new, and the next change
 // works.
-class MeddledChange : public JsonUserDefaultsTest {
+class FaultyChange : public JsonUserDefaultsTest {
  protected:
   const DefaultsValue oldValue = std::string(10'000, 'o');
   const DefaultsValue newValue = std::string(20'000, 'n');
 
-  void prepare() {
-    ASSERT_TRUE(open().set("history", oldValue));
-    ASSERT_TRUE(open().set("other", true));
+  FaultyRun change(const SystemCallFault& fault) {
+    return runWithFault(fault, [&] { return open().set("history", newValue); });
   }
 
-  MeddledEnding changeMeddledAt(std::size_t call, Meddling meddling) {
-    return meddledRun([&] { return open().set("history", newValue); }, call, meddling);
-  }
-
-  void expectOldOrNew(MeddledEnding ending) {
+  void expectOldOrNew(const FaultyRun& run) {
     const auto value = open().object("history");
-    EXPECT_NE(ending, MeddledEnding::crashed);
     EXPECT_TRUE(value == oldValue || value == newValue);
-    EXPECT_TRUE(ending != MeddledEnding::answeredTrue || value == newValue);
-    EXPECT_TRUE(ending != MeddledEnding::answeredFalse || value == oldValue);
+    EXPECT_TRUE(run.killed || (value == newValue) == run.answer);
     EXPECT_EQ(open().object("other"), DefaultsValue(true));
     EXPECT_THAT(filesKeptAside(), IsEmpty());
     EXPECT_TRUE(open().set("history", oldValue));
     EXPECT_EQ(open().object("history"), oldValue);
   }
 
-  void sweep(Meddling meddling) {
-    prepare();
-    std::size_t call = 0;
-    for (; call < 100; ++call) {
-      SCOPED_TRACE("system call " + std::to_string(call));
-      const MeddledEnding ending = changeMeddledAt(call, meddling);
-      if (ending == MeddledEnding::neverReached) break;
-      expectOldOrNew(ending);
+  void sweep(Kind kind, int error = 0) {
+    SCOPED_TRACE("errno " + std::to_string(error));
+    ASSERT_TRUE(open().set("history", oldValue));
+    ASSERT_TRUE(open().set("other", true));
+    int at = 1;
+    for (; at < 100; ++at) {
+      SCOPED_TRACE("system call " + std::to_string(at));
+      const FaultyRun run = change({.kind = kind, .at = at, .error = error, .disturbance = {}});
+      if (!run.reached) break;
+      expectOldOrNew(run);
     }
-    EXPECT_GE(call, 8U);
-    EXPECT_LT(call, 100U);
+    EXPECT_GT(at, 8);
+    EXPECT_LT(at, 100);
   }
 };
 
-TEST_F(MeddledChange, KilledAtEachStepOfASaveOldOrNewNeverTorn) {
-  sweep(Meddling::kill());
+TEST_F(FaultyChange, KilledAtEachStepOfASaveOldOrNewNeverTorn) {
+  sweep(Kind::killed);
 }
 
-TEST_F(MeddledChange, FullDiskAtEachStepOfASaveOldOrNewNeverTorn) {
-  sweep(Meddling::failFromThenOn(ENOSPC));
+TEST_F(FaultyChange, FullDiskAtEachStepOfASaveOldOrNewNeverTorn) {
+  sweep(Kind::failsFromThere, ENOSPC);
 }
 
-TEST_F(MeddledChange, OneFailingCallAtEachStepOfASaveOldOrNewNeverTorn) {
-  for (const int error : {EIO, ENOSPC, EACCES, EINTR, EMFILE}) {
-    SCOPED_TRACE("errno " + std::to_string(error));
-    sweep(Meddling::failOnce(error));
-  }
+TEST_F(FaultyChange, OneFailingCallAtEachStepOfASaveOldOrNewNeverTorn) {
+  for (const int error : {EIO, ENOSPC, EACCES, EINTR, EMFILE}) sweep(Kind::failsOnce, error);
 }
 
-TEST_F(MeddledChange, CallsThatFailForGoodFromEachStepOnOldOrNewNeverTorn) {
-  for (const int error : {EIO, EACCES, EMFILE}) {
-    SCOPED_TRACE("errno " + std::to_string(error));
-    sweep(Meddling::failFromThenOn(error));
-  }
+TEST_F(FaultyChange, CallsThatFailForGoodFromEachStepOnOldOrNewNeverTorn) {
+  for (const int error : {EIO, EACCES, EMFILE}) sweep(Kind::failsFromThere, error);
 }
 
-TEST_F(MeddledChange, KilledAtEachStepWhileABrokenDocumentIsReplacedLosesNothingOfIt) {
-  for (std::size_t call = 0; call < 100; ++call) {
-    SCOPED_TRACE("system call " + std::to_string(call));
+TEST_F(FaultyChange, KilledAtEachStepWhileABrokenDocumentIsReplacedLosesNothingOfIt) {
+  int at = 1;
+  for (; at < 100; ++at) {
+    SCOPED_TRACE("system call " + std::to_string(at));
     std::filesystem::remove_all(folder());
     config.makeFile(fileName, std::string_view("broken"));
-    if (changeMeddledAt(call, Meddling::kill()) == MeddledEnding::neverReached) {
-      EXPECT_GE(call, 8U);
-      return;
-    }
+    if (!change({.kind = Kind::killed, .at = at, .error = 0, .disturbance = {}}).reached) break;
     const auto aside = filesKeptAside();
     const bool inPlace = aside.empty() && config.contentOf(fileName) == "broken";
     const bool keptAside = aside.size() == 1 && config.contentOf(aside.front()) == "broken";
@@ -387,18 +367,19 @@ TEST_F(MeddledChange, KilledAtEachStepWhileABrokenDocumentIsReplacedLosesNothing
     EXPECT_EQ(open().object("history"), newValue);
     EXPECT_EQ(filesKeptAside().size(), 1U);
   }
-  FAIL() << "the change never came to its end";
+  EXPECT_GT(at, 8);
+  EXPECT_LT(at, 100);
 }
 
 TEST_F(JsonUserDefaultsTest, AFullDiskKeepsTheOldDocumentAndSetAnswersFalse) {
-  EXPECT_TRUE(inChildThatMayMount([&] {
-    const char* place = config.path().c_str();
-    if (::mount("tmpfs", place, "tmpfs", 0, "size=64k") != 0) return false;
+  EXPECT_TRUE(passesWithPrivateMounts([&] {
+    mountTmpfs(config.path(), "size=64k");
     auto defaults = open();
     const DefaultsValue old = std::string(10'000, 'o');
-    const bool fits = defaults.set("history", old);
-    const bool tooMuch = defaults.set("history", std::string(60'000, 'n'));
-    return fits && !tooMuch && defaults.object("history") == old && defaults.set("small", true);
+    EXPECT_TRUE(defaults.set("history", old));
+    EXPECT_FALSE(defaults.set("history", std::string(60'000, 'n')));
+    EXPECT_EQ(defaults.object("history"), old);
+    EXPECT_TRUE(defaults.set("small", true));
   }));
 }
 

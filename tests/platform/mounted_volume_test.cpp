@@ -1,9 +1,8 @@
 #include "platform/linux/mounted_volume.h"
 
 #include <gtest/gtest.h>
-#include <sys/mount.h>
 
-#include "support/child_process.h"
+#include "support/private_mounts.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -11,13 +10,13 @@ namespace {
 
 TEST(MountedVolume, TellsItsFiguresInBytes) {
   const TemporaryFolder folder;
-  EXPECT_TRUE(inChildThatMayMount([&] {
-    if (::mount("tmpfs", folder.path().c_str(), "tmpfs", 0, "size=1m") != 0) return false;
+  EXPECT_TRUE(passesWithPrivateMounts([&] {
+    mountTmpfs(folder.path(), "size=1m");
     const MountedVolume volume(folder.path());
-    const auto empty = volume.availableBytes();
+    EXPECT_EQ(volume.totalBytes(), 1024 * 1024);
+    EXPECT_EQ(volume.availableBytes(), 1024 * 1024);
     folder.makeFile("/file", 512 * 1024);
-    return volume.totalBytes() == 1024 * 1024 && empty == 1024 * 1024 &&
-           volume.availableBytes() == 512 * 1024;
+    EXPECT_EQ(volume.availableBytes(), 512 * 1024);
   }));
 }
 

@@ -10,8 +10,4 @@ namespace klarvik {
 /// The same, as an ordinary user, whom the mode bits of files concern.
 [[nodiscard]] bool inChildWithoutPrivileges(const std::function<bool()>& operation);
 
-/// The same, in a process that may mount file systems, which nobody else sees and which go with it.
-/// False when the system does not let us.
-[[nodiscard]] bool inChildThatMayMount(const std::function<bool()>& operation);
-
 }  // namespace klarvik

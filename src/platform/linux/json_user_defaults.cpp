@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <chrono>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 #include <nlohmann/json.hpp>
 
@@ -186,13 +185,6 @@ JsonUserDefaults::JsonUserDefaults(Path folder)
     : _folder(std::move(folder)), _file(_folder / "preferences.json") {}
 
 JsonUserDefaults::~JsonUserDefaults() = default;
-
-Path JsonUserDefaults::usualFolder(const Path& home) {
-  // A relative path in the variable is to be ignored, as an unset one is.
-  const char* chosen = std::getenv("XDG_CONFIG_HOME");
-  const bool usable = chosen != nullptr && chosen[0] == '/';
-  return (usable ? Path(chosen) : home / ".config") / "klarvik";
-}
 
 const JsonUserDefaults::Reading& JsonUserDefaults::current() const {
   if (!_lastReading || !_lastReading->stillHolds(_file)) {

@@ -30,10 +30,6 @@ class JsonUserDefaults final : public UserDefaults {
   explicit JsonUserDefaults(Path folder);
   ~JsonUserDefaults() override;
 
-  /// Where the preferences of the user lie: "klarvik" in `$XDG_CONFIG_HOME`, or in ".config" of
-  /// `home` where that is not set.
-  [[nodiscard]] static Path usualFolder(const Path& home);
-
   [[nodiscard]] std::optional<DefaultsValue> object(const std::string& key) const override;
   bool set(const std::string& key, const DefaultsValue& value) override;
   bool remove(const std::string& key) override;

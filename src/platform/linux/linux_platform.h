@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/linux/json_user_defaults.h"
+#include "platform/linux/linux_file_system.h"
+#include "platform/linux/linux_trash.h"
+#include "platform/linux/mounted_volume.h"
+#include "platform/linux/shell_command_runner.h"
+#include "platform/linux/user_folders.h"
+#include "platform/platform.h"
+
+namespace klarvik {
+
+/// Owns the real thing of everything that the engines ask for. No Qt, no main loop.
+class LinuxPlatform {
+ public:
+  /// `root` is where the logical "/" lies on the machine.
+  LinuxPlatform(const Path& root, const UserFolders& folders);
+  LinuxPlatform(const Path& root, const Path& home) : LinuxPlatform(root, UserFolders::in(home)) {}
+
+  /// Refers to this object.
+  [[nodiscard]] Platform platform();
+
+ private:
+  LinuxFileSystem _files;
+  LinuxTrash _trash;
+  ShellCommandRunner _commands;
+  JsonUserDefaults _defaults;
+  MountedVolume _volume;
+  Formatting _formatting;
+  const ApplicationInfo _info;
+};
+
+}  // namespace klarvik

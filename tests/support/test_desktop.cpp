@@ -1,0 +1,16 @@
+#include "support/test_desktop.h"
+
+namespace klarvik {
+
+TestDesktop::TestDesktop() {
+  disk.makeFolder("/Users/ann");
+}
+
+Desktop TestDesktop::desktop() {
+  return {{files, trash, commands, defaults, volume, formatting, info},
+          clock,
+          notifications,
+          workspace};
+}
+
+}  // namespace klarvik
