@@ -1,0 +1,46 @@
+#pragma once
+
+#include <istream>
+#include <span>
+#include <stop_token>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace klarvik::probe {
+
+/// What a command is run with.
+struct Invocation {
+  const Platform& platform;
+  std::stop_token stop;                  ///< requested by SIGINT
+  std::vector<std::string> arguments{};  ///< what follows the command's name, options left out
+  std::vector<std::string> options{};    ///< what begins with a hyphen
+
+  [[nodiscard]] bool has(std::string_view option) const;
+};
+
+/// Paths on standard input: one a line, or with -0 one before each zero byte.
+[[nodiscard]] std::vector<std::string> readEntries(std::istream& input, const Invocation& call);
+
+struct Command {
+  std::string_view name;
+  std::string_view usage;  ///< what may follow the name
+  std::vector<std::string_view> options;
+  std::size_t fewestArguments;
+  std::size_t mostArguments;
+  int (*run)(const Invocation&);  ///< answers the exit status
+};
+
+/// Every command there is.
+[[nodiscard]] std::span<const Command> commands();
+
+int guard(const Invocation& call);
+int measure(const Invocation& call);
+int scan(const Invocation& call);
+int clean(const Invocation& call);
+int trashFiles(const Invocation& call);
+int restore(const Invocation& call);
+int emptyTrash(const Invocation& call);
+
+}  // namespace klarvik::probe
