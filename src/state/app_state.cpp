@@ -33,15 +33,23 @@ bool sameCategories(const std::vector<CleanCategory>& left,
   return std::ranges::equal(left, right, {}, &CleanCategory::id, &CleanCategory::id);
 }
 
+AppState::Scan scanWithFreshEngine(const Platform& platform) {
+  return [&platform](std::stop_token stop, const ScannerEngine::UpdateSink& onUpdate,
+                     const ScannerEngine::CategorySink& onCategory) {
+    return ScannerEngine(platform).scanAll(std::move(stop), onUpdate, onCategory);
+  };
+}
+
 }  // namespace
 
 AppState::AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
-                   ScanHistory& history, QObject* parent)
+                   ScanHistory& history, QObject* parent, Scan scan)
     : QObject(parent),
       _desktop(desktop),
       _activity(activity),
       _coordinator(coordinator),
-      _history(history) {}
+      _history(history),
+      _scan(scan ? std::move(scan) : scanWithFreshEngine(desktop)) {}
 
 AppState::~AppState() {
   blockSignals(true);
@@ -73,15 +81,14 @@ void AppState::startScan() {
 
 QCoro::Task<> AppState::runScan(std::stop_token cancelled) {
   const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
-  ScannerEngine engine(_desktop);
   ReportMailbox<ScanReport> reports(
       _desktop.clock, [this](ScanReport report) { apply(std::move(report)); },
       [](const ScanReport& newer, const ScanReport& older) {
         return std::holds_alternative<ScanUpdate>(newer) &&
                std::holds_alternative<ScanUpdate>(older);
       });
-  auto scan = [&engine, &reports, token = stop.token()] {
-    return engine.scanAll(
+  auto scan = [&run = _scan, &reports, token = stop.token()] {
+    return run(
         token, [&](const ScanUpdate& update) { reports.post(update); },
         [&](const CleanCategory& category) { reports.post(category); });
   };

@@ -3,6 +3,7 @@
 #include <QCoro/QCoroTask>
 #include <QObject>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -69,8 +70,14 @@ class AppState : public QObject {
     bool operator==(const CleanSummary&) const = default;
   };
 
+  /// Runs a Smart Scan on the calling thread, as `ScannerEngine::scanAll` does.
+  using Scan = std::function<std::vector<CleanCategory>(std::stop_token,
+                                                        const ScannerEngine::UpdateSink&,
+                                                        const ScannerEngine::CategorySink&)>;
+
+  /// Without a `scan` of its own, each scan is that of a fresh `ScannerEngine`.
   AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
-           ScanHistory& history, QObject* parent = nullptr);
+           ScanHistory& history, QObject* parent = nullptr, Scan scan = {});
   /// Asks whatever is running to stop, and waits for the row of the table that a scan is at and for
   /// the items that a removal has in hand; what a clean has removed is put on record first.
   ~AppState() override;
@@ -178,6 +185,7 @@ class AppState : public QObject {
   ToolActivity& _activity;
   ScanCoordinator& _coordinator;
   ScanHistory& _history;
+  Scan _scan;
   std::vector<CleanCategory> _scanResults;
   ScanState _scanState;
   std::int64_t _totalSpaceFreeable = 0;
