@@ -71,9 +71,8 @@ class AppState : public QObject {
   };
 
   /// Runs a Smart Scan on the calling thread, as `ScannerEngine::scanAll` does.
-  using Scan = std::function<std::vector<CleanCategory>(std::stop_token,
-                                                        const ScannerEngine::UpdateSink&,
-                                                        const ScannerEngine::CategorySink&)>;
+  using Scan = std::function<std::vector<CleanCategory>(
+      std::stop_token, const ScannerEngine::UpdateSink&, const ScannerEngine::CategorySink&)>;
 
   /// Without a `scan` of its own, each scan is that of a fresh `ScannerEngine`.
   AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,

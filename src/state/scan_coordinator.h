@@ -32,7 +32,7 @@ class ScanCoordinator : public QObject {
   [[nodiscard]] static ScanCoordinator& shared();
 
   explicit ScanCoordinator(const UserDefaults& defaults, QObject* parent = nullptr);
-  /// Whoever still waits for a turn is told that there will be none.
+  /// Ends the wait of whoever is still in the queue: `beginAutoScan` answers false.
   ~ScanCoordinator() override;
 
   [[nodiscard]] const std::map<std::string, Total>& totals() const { return _totals; }

@@ -26,9 +26,9 @@ class ScanCoordinatorTest : public ::testing::Test {
   }
 
   MemoryDefaults defaults;
-  std::optional<ScanCoordinator> coordinator{std::in_place, defaults};
   std::vector<std::string> turns;
   std::map<std::string, std::optional<bool>> answers;
+  std::optional<ScanCoordinator> coordinator{std::in_place, defaults};
 };
 
 TEST_F(ScanCoordinatorTest, TheFirstCallerHasTheTurnAtOnce) {
@@ -41,8 +41,7 @@ TEST_F(ScanCoordinatorTest, TurnsPassByUrgencyAndNotByArrival) {
   queue("storage");
   for (const char* key : {"duplicates", "privacy", "systemData"}) queue(key);
   for (int turn = 0; turn < 3; ++turn) coordinator->finishTurn();
-  EXPECT_EQ(turns,
-            (std::vector<std::string>{"storage", "systemData", "privacy", "duplicates"}));
+  EXPECT_EQ(turns, (std::vector<std::string>{"storage", "systemData", "privacy", "duplicates"}));
 }
 
 TEST_F(ScanCoordinatorTest, TheWholeOrderOfTurns) {
@@ -171,7 +170,8 @@ class HoldTurn : public ScanCoordinatorTest {
 };
 
 TEST_F(HoldTurn, LooksEvery250MillisecondsWhetherItIsOver) {
-  holdTurn(*coordinator, clock, [this] { return over; }, stop.get_token());
+  holdTurn(
+      *coordinator, clock, [this] { return over; }, stop.get_token());
   clock.advance(600ms);
   over = true;
   clock.advance(149ms);
@@ -181,7 +181,8 @@ TEST_F(HoldTurn, LooksEvery250MillisecondsWhetherItIsOver) {
 }
 
 TEST_F(HoldTurn, PassesTheTurnAfter900SecondsWhateverIsStillRunning) {
-  holdTurn(*coordinator, clock, [this] { return over; }, stop.get_token());
+  holdTurn(
+      *coordinator, clock, [this] { return over; }, stop.get_token());
   clock.advance(900s - 1ns);
   EXPECT_FALSE(turnPassed());
   clock.advance(1ns);
@@ -189,7 +190,8 @@ TEST_F(HoldTurn, PassesTheTurnAfter900SecondsWhateverIsStillRunning) {
 }
 
 TEST_F(HoldTurn, PassesTheTurnAtOnceWhenAskedToStop) {
-  holdTurn(*coordinator, clock, [this] { return over; }, stop.get_token());
+  holdTurn(
+      *coordinator, clock, [this] { return over; }, stop.get_token());
   clock.advance(1s);
   stop.request_stop();
   EXPECT_TRUE(turnPassed());
@@ -198,7 +200,8 @@ TEST_F(HoldTurn, PassesTheTurnAtOnceWhenAskedToStop) {
 
 TEST_F(HoldTurn, PassesTheTurnAtOnceWhenThereIsNothingToWaitFor) {
   over = true;
-  holdTurn(*coordinator, clock, [this] { return over; }, stop.get_token());
+  holdTurn(
+      *coordinator, clock, [this] { return over; }, stop.get_token());
   EXPECT_TRUE(turnPassed());
 }
 

@@ -1,0 +1,124 @@
+#include "state/engine_work.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoro/QCoroTask>
+#include <QTimer>
+#include <latch>
+#include <optional>
+#include <semaphore>
+
+#include "main_loop.h"
+
+namespace klarvik {
+namespace {
+
+class EngineWorkTest : public ::testing::Test {
+ protected:
+  /// Waits off the main thread until it is let go.
+  QCoro::Task<> wait(std::binary_semaphore& letGo) {
+    auto call = [&letGo] {
+      letGo.acquire();
+      return std::this_thread::get_id();
+    };
+    ranOn = co_await onEngineThread(*work, std::move(call));
+    resumedOn = std::this_thread::get_id();
+  }
+  QCoro::Task<> add(int left, int right) {
+    auto call = [left, right] { return left + right; };
+    sum = co_await onEngineThread(*work, std::move(call));
+  }
+
+  std::optional<std::thread::id> ranOn;
+  std::optional<std::thread::id> resumedOn;
+  int sum = 0;
+  std::optional<EngineWork> work{std::in_place};
+};
+
+TEST_F(EngineWorkTest, RunsOffTheMainThreadAndGoesOnUponIt) {
+  std::binary_semaphore letGo(1);
+  wait(letGo);
+  ASSERT_TRUE(turnMainLoopUntil([&] { return resumedOn.has_value(); }));
+  EXPECT_NE(ranOn, std::this_thread::get_id());
+  EXPECT_EQ(resumedOn, std::this_thread::get_id());
+}
+
+TEST_F(EngineWorkTest, TheMainLoopTicksWhileACallIsUnderWay) {
+  std::binary_semaphore letGo(0);
+  wait(letGo);
+  int ticks = 0;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+  timer.start(0);
+  ASSERT_TRUE(turnMainLoopUntil([&] { return ticks >= 100; }));
+  EXPECT_FALSE(resumedOn.has_value());
+  letGo.release();
+  EXPECT_TRUE(turnMainLoopUntil([&] { return resumedOn.has_value(); }));
+}
+
+TEST_F(EngineWorkTest, ManyLongCallsKeepNoOtherWaiting) {
+  std::counting_semaphore<> letGo(0);
+  int finished = 0;
+  const auto longCall = [&]() -> QCoro::Task<> {
+    auto call = [&letGo] {
+      letGo.acquire();
+      return true;
+    };
+    if (co_await onEngineThread(*work, std::move(call))) ++finished;
+  };
+  for (int call = 0; call < 50; ++call) longCall();
+  add(1, 2);
+  ASSERT_TRUE(turnMainLoopUntil([&] { return sum == 3; }));
+  EXPECT_EQ(finished, 0);
+  letGo.release(50);
+  EXPECT_TRUE(turnMainLoopUntil([&] { return finished == 50; }));
+}
+
+TEST_F(EngineWorkTest, ItsEndWaitsForWhatIsUnderWayAndResumesWhoeverWaits) {
+  std::binary_semaphore letGo(0);
+  wait(letGo);
+  std::thread later([&] { letGo.release(); });
+  work.reset();
+  EXPECT_TRUE(resumedOn.has_value());
+  later.join();
+  turnMainLoop();
+}
+
+TEST_F(EngineWorkTest, ACallThatCameBackIsResumedOnceOnly) {
+  int resumed = 0;
+  const auto once = [&]() -> QCoro::Task<> {
+    auto call = [] { return 0; };
+    co_await onEngineThread(*work, std::move(call));
+    ++resumed;
+  };
+  once();
+  work->finish();
+  turnMainLoop();
+  EXPECT_EQ(resumed, 1);
+}
+
+TEST_F(EngineWorkTest, ItsEndAlsoWaitsForCallsThatAreStartedFromThoseItResumes) {
+  const auto twice = [&]() -> QCoro::Task<> {
+    auto call = [] { return 1; };
+    const int first = co_await onEngineThread(*work, call);
+    const int second = co_await onEngineThread(*work, call);
+    sum = first + second;
+  };
+  twice();
+  work->finish();
+  EXPECT_EQ(sum, 2);
+}
+
+TEST_F(EngineWorkTest, AResultThatCannotBeCopiedComesThrough) {
+  std::unique_ptr<int> result;
+  const auto make = [&]() -> QCoro::Task<> {
+    auto call = [] { return std::make_unique<int>(7); };
+    result = co_await onEngineThread(*work, std::move(call), EngineWork::Priority::background);
+  };
+  make();
+  ASSERT_TRUE(turnMainLoopUntil([&] { return result != nullptr; }));
+  EXPECT_EQ(*result, 7);
+}
+
+}  // namespace
+}  // namespace klarvik

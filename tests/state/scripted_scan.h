@@ -1,0 +1,84 @@
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <map>
+#include <mutex>
+
+#include "state/app_state.h"
+
+namespace klarvik {
+
+/// A Smart Scan that reports what a test tells it to, when it is told to: from a thread of its own,
+/// like the real one. Runs are counted from 0; what is told to a run waits until the run begins.
+class ScriptedScan {
+ public:
+  using Step =
+      std::function<void(const ScannerEngine::UpdateSink&, const ScannerEngine::CategorySink&)>;
+
+  [[nodiscard]] AppState::Scan scan() {
+    return [this](std::stop_token stop, const auto& onUpdate, const auto& onCategory) {
+      return run(std::move(stop), onUpdate, onCategory);
+    };
+  }
+
+  void tell(int run, Step step) {
+    const std::scoped_lock lock(_mutex);
+    _steps[run].push_back(std::move(step));
+    _told.notify_all();
+  }
+  void update(int run, ScanUpdate update) {
+    tell(run, [update](const auto& onUpdate, const auto&) { onUpdate(update); });
+  }
+  void category(int run, CleanCategory category) {
+    tell(run, [category](const auto&, const auto& onCategory) { onCategory(category); });
+  }
+  /// The run comes back with `found`, once it has done all that it was told before.
+  void finish(int run, std::vector<CleanCategory> found) {
+    const std::scoped_lock lock(_mutex);
+    _found[run] = std::move(found);
+    _told.notify_all();
+  }
+  /// How many runs have been asked to stop while they were waiting to be told more.
+  [[nodiscard]] int runsBegun() const {
+    const std::scoped_lock lock(_mutex);
+    return _runs;
+  }
+  [[nodiscard]] int runsEnded() const {
+    const std::scoped_lock lock(_mutex);
+    return _ended;
+  }
+
+  /// A run that is asked to stop comes back at once; set to false, it goes on until `finish`, like
+  /// a scan in the middle of a long row.
+  bool endsWhenAskedToStop = true;
+
+ private:
+  std::vector<CleanCategory> run(std::stop_token stop, const ScannerEngine::UpdateSink& onUpdate,
+                                 const ScannerEngine::CategorySink& onCategory) {
+    std::unique_lock lock(_mutex);
+    const int number = _runs++;
+    const std::stop_token heeded = endsWhenAskedToStop ? stop : std::stop_token();
+    while (true) {
+      _told.wait(lock, heeded, [&] { return !_steps[number].empty() || _found.contains(number); });
+      if (_steps[number].empty()) break;
+      const Step step = std::move(_steps[number].front());
+      _steps[number].pop_front();
+      lock.unlock();
+      step(onUpdate, onCategory);
+      lock.lock();
+    }
+    ++_ended;
+    return _found[number];
+  }
+
+  mutable std::mutex _mutex;
+  std::condition_variable_any _told;
+  int _runs = 0;
+  int _ended = 0;
+  std::map<int, std::deque<Step>> _steps;
+  std::map<int, std::vector<CleanCategory>> _found;
+};
+
+}  // namespace klarvik
