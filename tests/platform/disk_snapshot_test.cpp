@@ -50,6 +50,4 @@ TEST_F(DiskSnapshotTest, ExpectsOnlyWhatIsSelectedToBeGone) {
 }
 
 }  // namespace
-/ namespace
 }  // namespace klarvik
-/ namespace klarvik
