@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/desktop/qt_clock.h"
+#include "platform/desktop/xdg_workspace.h"
+#include "platform/linux/linux_platform.h"
+#include "platform/platform.h"
+
+namespace klarvik {
+
+/// Owns the real thing of everything that a program with a window asks of the system. Main thread
+/// only; needs a `QGuiApplication` as long as it is in use.
+class DesktopPlatform {
+ public:
+  /// The whole machine, as the user who runs this program sees it. Nothing when that user has no
+  /// home of their own: no removal would be safe, so that the program is to say so and exit with 1.
+  [[nodiscard]] static std::unique_ptr<DesktopPlatform> ofThisUser();
+
+  DesktopPlatform(const Path& root, const UserFolders& folders);
+
+  /// Refers to this object.
+  [[nodiscard]] Desktop desktop();
+
+ private:
+  LinuxPlatform _system;
+  QtClock _clock;
+  NotificationCenter _notifications;
+  XdgWorkspace _workspace;
+};
+
+}  // namespace klarvik
