@@ -246,10 +246,10 @@ TEST_F(ScanHistoryTest, TheLargestAndSmallestNumbersComeThrough) {
       std::numeric_limits<std::int64_t>::min());
 }
 
-TEST_F(ScanHistoryTest, NestingAMillionLevelsDeepReadsAsEmpty) {
-  const std::string deep(1'000'000, '[');
+TEST_F(ScanHistoryTest, NestingHundredThousandLevelsDeepReadsAsEmpty) {
+  const std::string deep(100'000, '[');
   EXPECT_TRUE(scansReadFrom(deep).empty());
-  EXPECT_TRUE(scansReadFrom(deep + std::string(1'000'000, ']')).empty());
+  EXPECT_TRUE(scansReadFrom(deep + std::string(100'000, ']')).empty());
 }
 
 TEST_F(ScanHistoryTest, KeysOfALaterVersionArePassedOver) {

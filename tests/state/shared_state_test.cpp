@@ -1,0 +1,44 @@
+#include "state/shared_state.h"
+
+#include <gtest/gtest.h>
+
+#include "main_loop.h"
+#include "support/test_desktop.h"
+
+namespace klarvik {
+namespace {
+
+TEST(SharedState, StandsBehindEverySharedObject) {
+  TestDesktop around;
+  const Desktop desktop = around.desktop();
+  SharedState shared(desktop);
+  EXPECT_EQ(&Navigator::shared(), &shared.navigator());
+  EXPECT_EQ(&ToolActivity::shared(), &shared.toolActivity());
+  EXPECT_EQ(&ScanCoordinator::shared(), &shared.scanCoordinator());
+  EXPECT_EQ(&ScanHistory::shared(), &shared.scanHistory());
+  EXPECT_EQ(&PermissionsManager::shared(), &shared.permissionsManager());
+  EXPECT_EQ(&DiskMonitor::shared(), &shared.diskMonitor());
+  EXPECT_EQ(&TrashMonitor::shared(), &shared.trashMonitor());
+}
+
+TEST(SharedState, CanBeMadeAgainOnceItIsGone) {
+  TestDesktop around;
+  const Desktop desktop = around.desktop();
+  { SharedState shared(desktop); }
+  SharedState shared(desktop);
+  EXPECT_EQ(&SharedState::instance(), &shared);
+}
+
+TEST(SharedStateDeathTest, AskedForBeforeItIsMadeItEndsTheProgramWithAMessage) {
+  EXPECT_DEATH(static_cast<void>(Navigator::shared()), "no SharedState; main makes it first");
+}
+
+TEST(SharedStateDeathTest, ASecondOneEndsTheProgramWithAMessage) {
+  TestDesktop around;
+  const Desktop desktop = around.desktop();
+  SharedState shared(desktop);
+  EXPECT_DEATH(SharedState second(desktop), "There is a SharedState already");
+}
+
+}  // namespace
+}  // namespace klarvik
