@@ -1,0 +1,239 @@
+// The engine as a process of its own: what it prints, and what is left when it is ended on the way.
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+#include <csignal>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <thread>
+
+#include "support/program.h"
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+namespace {
+
+using nlohmann::json;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr int usageError = 2;
+constexpr int manyItems = 5'000;
+constexpr std::int64_t cacheBytes = 1'100'000;
+
+class Probe : public testing::Test {
+ protected:
+  TemporaryFolder disk;
+  const Path trashed = "/Users/ann/.local/share/Trash/files";
+  const Path records = "/Users/ann/.local/share/Trash/info";
+
+  void SetUp() override { disk.makeFolder("/Users/ann"); }
+
+  [[nodiscard]] std::vector<std::string> command(std::vector<std::string> words) const {
+    std::vector<std::string> all{KLARVIK_PROBE, "--root", disk.path(), "--home", "/Users/ann"};
+    all.insert(all.end(), words.begin(), words.end());
+    return all;
+  }
+
+  /// Everything that a whole run prints.
+  std::vector<json> run(std::vector<std::string> words, std::string_view input = {}) {
+    Program program(command(std::move(words)), input);
+    std::vector<json> reports;
+    for (const std::string& line : program.readToEnd()) reports.push_back(json::parse(line));
+    EXPECT_EQ(program.wait(), 0);
+    return reports;
+  }
+
+  static void readProgress(Program& program, int count) {
+    while (count > 0) {
+      const auto line = program.readLine();
+      ASSERT_TRUE(line) << "ended early";
+      if (json::parse(*line)["event"] == "progress") --count;
+    }
+  }
+
+  /// Picked files, each with a content of its own.
+  std::vector<Path> makeFiles(int count) const {
+    std::vector<Path> files;
+    for (int number = 0; number < count; ++number) {
+      files.push_back("/Users/ann/Documents/file-" + std::to_string(number));
+      disk.makeFile(files.back(), files.back().native());
+    }
+    return files;
+  }
+
+  static std::string lines(const std::vector<Path>& paths) {
+    std::string text;
+    for (const Path& path : paths) text += path.native() + '\n';
+    return text;
+  }
+
+  /// How many of the files are in the Trash. Each must be whole in one of the two places, and have
+  /// a record when it is in the Trash.
+  int countTrashed(const std::vector<Path>& files) const {
+    int count = 0;
+    for (const Path& file : files) {
+      const Path now = trashed / file.filename();
+      EXPECT_NE(disk.holds(file), disk.holds(now)) << file;
+      if (!disk.holds(now)) {
+        EXPECT_EQ(disk.contentOf(file), file.native());
+        continue;
+      }
+      ++count;
+      EXPECT_EQ(disk.contentOf(now), file.native());
+      const Path record = records / (file.filename().native() + ".trashinfo");
+      EXPECT_THAT(disk.contentOf(record), testing::HasSubstr(file.native()));
+    }
+    return count;
+  }
+};
+
+TEST_F(Probe, AnswersAUsageTextToWhatItDoesNotUnderstand) {
+  const std::vector<std::vector<std::string>> wrong{
+      {KLARVIK_PROBE},
+      {KLARVIK_PROBE, "scan"},
+      {KLARVIK_PROBE, "--root", "/", "scan"},
+      {KLARVIK_PROBE, "--root", "/", "--home", "relative", "scan"},
+      command({}),
+      command({"dance"}),
+      command({"measure"}),
+      command({"measure", "/a", "/b"}),
+      command({"clean", "--everything"}),
+      command({"guard"}),
+      command({"guard", "anything"}),
+      command({"guard", "general", "identifier"}),
+      command({"restore"}),
+  };
+  for (const auto& words : wrong) {
+    Program program(words, "one line");
+    EXPECT_THAT(program.readToEnd(), IsEmpty());
+    EXPECT_EQ(program.wait(), usageError) << testing::PrintToString(words);
+  }
+}
+
+TEST_F(Probe, JudgesEachPathOnALineOfItsOwn) {
+  const auto reports = run({"guard", "general"}, "/\n/Library/Caches/x\n");
+  ASSERT_THAT(reports, SizeIs(2));
+  EXPECT_EQ(reports[0], (json{{"path", "/"}, {"refusal", "/ is a system directory."}}));
+  EXPECT_EQ(reports[1], (json{{"path", "/Library/Caches/x"}, {"refusal", nullptr}}));
+}
+
+TEST_F(Probe, JudgesNamesOfAnyBytesBetweenZeroBytes) {
+  const auto reports = run({"guard", "residual", "com.acme", "-0"},
+                           std::string_view("/Library/Caches/a\nb\0\xff\0", 22));
+  ASSERT_THAT(reports, SizeIs(2));
+  EXPECT_EQ(reports[0]["path"], "/Library/Caches/a\nb");
+  EXPECT_EQ(reports[1]["path"], (json{{"bytes", "ff"}}));
+  EXPECT_EQ(reports[1]["refusal"], "Path is not absolute.");
+}
+
+TEST_F(Probe, MeasuresAPath) {
+  disk.makeFile("/x/a", 100'000);
+  const auto reports = run({"measure", "/x"});
+  ASSERT_THAT(reports, SizeIs(1));
+  EXPECT_EQ(reports[0]["path"], "/x");
+  EXPECT_GE(reports[0]["size"], 100'000);
+}
+
+TEST_F(Probe, ScansAndPrintsEveryUpdate) {
+  disk.makeFile("/Users/ann/Library/Caches/\xff/a", cacheBytes);
+  const auto reports = run({"scan"});
+  EXPECT_THAT(reports, SizeIs(15));  // 12 steps, an item, a category, the result
+  const json& item = reports.back()["categories"][0]["items"][0];
+  EXPECT_EQ(item["name"], (json{{"bytes", "ff"}}));
+}
+
+TEST_F(Probe, CleansOnlyWhatIsSafeWhenTold) {
+  disk.makeFile("/Users/ann/Library/Caches/com.acme/a", cacheBytes);
+  disk.makeFile("/Users/ann/Library/Developer/Xcode/Archives/a", cacheBytes);
+  run({"clean", "--only-safe"});
+  EXPECT_TRUE(disk.holds(trashed / "com.acme/a"));
+  EXPECT_TRUE(disk.holds("/Users/ann/Library/Developer/Xcode/Archives/a"));
+  run({"clean", "--no-trash"});
+  EXPECT_FALSE(disk.holds("/Users/ann/Library/Developer/Xcode/Archives/a"));
+  EXPECT_FALSE(disk.holds(trashed / "com.acme"));
+}
+
+TEST_F(Probe, MovesPickedFilesAndRestoresThem) {
+  const auto files = makeFiles(3);
+  EXPECT_THAT(run({"trash-files"}, lines(files)), SizeIs(6));
+  EXPECT_EQ(countTrashed(files), 3);
+  std::vector<Path> pairs;
+  for (const Path& file : files) {
+    pairs.push_back(trashed / file.filename());
+    pairs.push_back(file);
+  }
+  for (const json& report : run({"restore"}, lines(pairs))) EXPECT_TRUE(report["restored"]);
+  EXPECT_EQ(countTrashed(files), 0);
+}
+
+TEST_F(Probe, KilledInTheMiddleOfMovingFiveThousandItemsLosesNone) {
+  const auto files = makeFiles(manyItems);
+  for (const int reached : {1, 700, 1'500}) {
+    Program program(command({"trash-files"}), lines(files));
+    readProgress(program, reached);
+    program.send(SIGKILL);
+    EXPECT_EQ(program.wait(), -SIGKILL);
+    const int moved = countTrashed(files);
+    EXPECT_GE(moved, 1);
+    EXPECT_LT(moved, manyItems);
+  }
+  run({"trash-files"}, lines(files));
+  EXPECT_EQ(countTrashed(files), manyItems);
+}
+
+TEST_F(Probe, KilledInTheMiddleOfACleanLosesNothingOutsideTheTrash) {
+  for (int number = 0; number < manyItems; ++number) {
+    disk.makeFile("/Users/ann/.Trash/item-" + std::to_string(number), "waste");
+  }
+  const std::string cache = "/Users/ann/Library/Caches/com.acme/a";
+  disk.makeFile(cache, cacheBytes);
+  disk.makeFile("/Users/ann/Documents/letter", "dear");
+  disk.makeLink("/Users/ann/.Trash/link", "../Documents");
+
+  Program program(command({"clean"}));
+  readProgress(program, 1'000);
+  program.send(SIGKILL);
+  EXPECT_EQ(program.wait(), -SIGKILL);
+  EXPECT_TRUE(disk.holds("/Users/ann/.Trash/item-" + std::to_string(manyItems - 1)) ||
+              !std::filesystem::is_empty(disk.onDisk("/Users/ann/.Trash")));
+  EXPECT_NE(disk.holds(cache), disk.holds(trashed / "com.acme/a"));
+  EXPECT_EQ(disk.contentOf("/Users/ann/Documents/letter"), "dear");
+
+  run({"empty-trash"});
+  EXPECT_TRUE(std::filesystem::is_empty(disk.onDisk("/Users/ann/.Trash")));
+  EXPECT_EQ(disk.contentOf("/Users/ann/Documents/letter"), "dear");
+}
+
+TEST_F(Probe, AnInterruptStopsARemovalAndTellsAllThatWent) {
+  const auto files = makeFiles(manyItems);
+  Program program(command({"trash-files"}), lines(files));
+  readProgress(program, 10);
+  // The program now waits for its reports to be read: it cannot run to its end meanwhile.
+  program.send(SIGINT);
+  while (program.hasPending(SIGINT)) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  int told = 0;
+  for (const std::string& line : program.readToEnd()) {
+    if (json::parse(line)["event"] == "moved") ++told;
+  }
+  EXPECT_EQ(program.wait(), 0);
+  EXPECT_EQ(told, countTrashed(files));
+  EXPECT_LT(told, manyItems);
+}
+
+TEST_F(Probe, BuildsItsSampleDiskOnlyInAnEmptyFolder) {
+  Program first({KLARVIK_SAMPLE_DISK, disk.onDisk("/new"), "--home", "/Users/eve"});
+  EXPECT_THAT(first.readToEnd(), SizeIs(1));
+  EXPECT_EQ(first.wait(), 0);
+  EXPECT_TRUE(disk.holds("/new/Users/eve/notes.txt"));
+  Program second({KLARVIK_SAMPLE_DISK, disk.onDisk("/new")});
+  EXPECT_EQ(second.wait(), 1);
+  Program wrong({KLARVIK_SAMPLE_DISK, disk.onDisk("/newer"), "--scale", "many"});
+  EXPECT_EQ(wrong.wait(), usageError);
+  EXPECT_FALSE(disk.holds("/newer"));
+}
+
+}  // namespace
+}  // namespace klarvik

@@ -1,0 +1,128 @@
+#include "support/sample_disk.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <fstream>
+#include <map>
+
+#include "engine/scanner_engine.h"
+#include "platform/linux/linux_file_system.h"
+#include "platform/linux/linux_trash.h"
+#include "support/canned_command_runner.h"
+#include "support/fixed_volume.h"
+#include "support/memory_defaults.h"
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string beginningOf(const Path& file) {
+  std::array<char, 512> buffer{};
+  std::ifstream stream(file, std::ios::binary);
+  stream.read(buffer.data(), buffer.size());
+  return {buffer.data(), static_cast<std::size_t>(stream.gcount())};
+}
+
+std::string describe(const fs::directory_entry& entry) {
+  if (entry.is_symlink()) return "link to " + fs::read_symlink(entry).native();
+  if (entry.is_directory()) return "folder";
+  const auto modified = entry.last_write_time().time_since_epoch().count();
+  return "file " + std::to_string(entry.file_size()) + ' ' + std::to_string(modified) + ' ' +
+         beginningOf(entry.path());
+}
+
+/// What lies below a folder. Large files are told apart by how they begin: reading gigabytes of
+/// nothing would take a while.
+std::map<std::string, std::string> contentsOf(const Path& folder) {
+  std::map<std::string, std::string> contents;
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    contents[entry.path().lexically_relative(folder)] = describe(entry);
+  }
+  return contents;
+}
+
+/// An engine on the sample disk, with tools that answer what a test says.
+struct SampleEngine {
+  explicit SampleEngine(const SampleDisk& sample)
+      : files(sample.root, sample.home), trash(sample.root, sample.home) {}
+
+  LinuxFileSystem files;
+  LinuxTrash trash;
+  CannedCommandRunner commands;
+  MemoryDefaults defaults;
+  FixedVolume volume;
+  Formatting formatting{"en_US"};
+  ApplicationInfo info;
+  Platform platform{files, trash, commands, defaults, volume, formatting, info};
+  ScannerEngine engine{platform};
+
+  std::map<CategoryType, std::size_t> itemsFound() {
+    std::map<CategoryType, std::size_t> counts;
+    for (const CleanCategory& category : engine.scanAll({}, {}, {})) {
+      counts[category.type] = category.items.size();
+    }
+    return counts;
+  }
+};
+
+TEST(SampleDisk, HoldsWhatItSaysForASmartScan) {
+  const TemporaryFolder folder;
+  const SampleDisk sample = buildSampleDisk(folder.path());
+  SampleEngine run(sample);
+  EXPECT_EQ(run.itemsFound(), sample.smartScanItems);
+  EXPECT_EQ(run.trash.list()->size(), sample.trashEntries);
+
+  run.commands.answer("xcrun simctl list devices unavailable --json 2>/dev/null",
+                      sample.simulatorListing);
+  auto withSimulators = sample.smartScanItems;
+  withSimulators[CategoryType::simulators] += sample.simulatorRows;
+  EXPECT_EQ(run.itemsFound(), withSimulators);
+}
+
+TEST(SampleDisk, IsTheSameEachTime) {
+  const TemporaryFolder first;
+  const TemporaryFolder second;
+  buildSampleDisk(first.path());
+  buildSampleDisk(second.path());
+  auto left = contentsOf(first.path());
+  auto right = contentsOf(second.path());
+  // The records of the Trash name places on the machine.
+  const auto isRecord = [](const auto& entry) { return entry.first.ends_with(".trashinfo"); };
+  std::erase_if(left, isRecord);
+  std::erase_if(right, isRecord);
+  EXPECT_FALSE(left.empty());
+  EXPECT_EQ(left, right);
+}
+
+TEST(SampleDisk, ACleanOfEverythingFoundTouchesNothingElse) {
+  const TemporaryFolder folder;
+  const SampleDisk sample = buildSampleDisk(folder.path());
+  SampleEngine run(sample);
+  std::vector<JunkItem> items;
+  for (const CleanCategory& category : run.engine.scanAll({}, {}, {})) {
+    items.insert(items.end(), category.items.begin(), category.items.end());
+  }
+  const auto before = contentsOf(folder.path());
+  std::vector<std::string> removed;
+  for (const DeletionOutcome& outcome : run.engine.deleteItems(items, /*useTrash=*/false)) {
+    if (outcome.reclaimed > 0) removed.push_back(outcome.originalURL.relative_path());
+  }
+  EXPECT_GT(removed.size(), 20U);
+
+  const auto after = contentsOf(folder.path());
+  for (const auto& [place, content] : before) {
+    const bool selected = std::any_of(removed.begin(), removed.end(), [&](const std::string& each) {
+      return place == each || place.starts_with(each + "/");
+    });
+    if (place.ends_with(".trashinfo")) continue;  // goes with the item it is the record of
+    EXPECT_NE(after.contains(place), selected) << place;
+    EXPECT_EQ(selected ? content : after.at(place), content) << place;
+  }
+  EXPECT_LT(after.size(), before.size());
+}
+
+}  // namespace
+}  // namespace klarvik
