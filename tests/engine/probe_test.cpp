@@ -197,8 +197,7 @@ TEST_F(Probe, KilledInTheMiddleOfACleanLosesNothingOutsideTheTrash) {
   readProgress(program, 1'000);
   program.send(SIGKILL);
   EXPECT_EQ(program.wait(), -SIGKILL);
-  EXPECT_TRUE(disk.holds("/Users/ann/.Trash/item-" + std::to_string(manyItems - 1)) ||
-              !std::filesystem::is_empty(disk.onDisk("/Users/ann/.Trash")));
+  EXPECT_FALSE(std::filesystem::is_empty(disk.onDisk("/Users/ann/.Trash")));
   EXPECT_NE(disk.holds(cache), disk.holds(trashed / "com.acme/a"));
   EXPECT_EQ(disk.contentOf("/Users/ann/Documents/letter"), "dear");
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/linux/shell_command_runner.h"
 #include "support/canned_command_runner.h"
 
 namespace klarvik {
@@ -24,6 +25,16 @@ TEST(Shell, AToolThatPrintsRubbishGivesTheEmptyText) {
   CannedCommandRunner commands;
   commands.answer("rubbish", "size \xff\xfe\n");
   EXPECT_EQ(runShell(commands, "rubbish"), "");
+}
+
+TEST(Shell, RunsPipelinesAndTakesNoNoticeOfTheExitStatus) {
+  ShellCommandRunner commands;
+  EXPECT_EQ(runShell(commands, "printf 'Name x\\n Size 42 B\\n' | grep Size | awk '{print $2}'"),
+            "42");
+  EXPECT_EQ(runShell(commands, "echo told; exit 3"), "told");
+  EXPECT_EQ(runShell(commands, "echo error >&2; exit 3"), "");
+  EXPECT_EQ(runShell(commands, "no-such-tool-anywhere 2>/dev/null"), "");
+  EXPECT_EQ(runShell(commands, "printf '\\377\\376'"), "");
 }
 
 }  // namespace
