@@ -177,7 +177,7 @@ std::optional<std::string> DeletionGuard::refusalReason(const Path& givenPath,
   const std::string home = standardizedPath(givenHome).native();
 
   // The disk would read such a path only as far as its NUL, which is another path than this one.
-  const bool namesAPath = path.find('\0') == std::string::npos;
+  const bool namesAPath = givenPath.native().find('\0') == std::string::npos;
   if (!path.starts_with('/') || !namesAPath) return refuse("Path is not absolute.");
   // Any two dots in a row, also inside a name: wider than needed, and wanted so.
   if (path.find("..") != std::string::npos) {

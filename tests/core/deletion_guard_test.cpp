@@ -209,6 +209,7 @@ TEST(DeletionGuard, RefusesAnEmptyOrRelativePath) {
 
 TEST(DeletionGuard, RefusesAPathThatTheDiskWouldReadOnlyInPart) {
   EXPECT_EQ(ask(std::string("/Users/ann/notes.txt\0/x", 23)), "Path is not absolute.");
+  EXPECT_EQ(ask(std::string("/tmp/x/y\0z/..", 13)), "Path is not absolute.");
 }
 
 TEST(DeletionGuard, RefusesANameWithTwoDotsInARow) {

@@ -4,15 +4,18 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <cmath>
+#include <ctime>
 #include <limits>
 #include <nlohmann/json.hpp>
 
 #include "platform/base64.h"
 #include "platform/linux/atomic_write.h"
 #include "platform/linux/file_lock.h"
+#include "platform/linux/read_to_end.h"
 #include "platform/linux/unique_fd.h"
 #include "platform/unicode_text.h"
 
@@ -82,24 +85,6 @@ std::optional<json> parsed(const std::string& text) {
   return document;
 }
 
-// Nothing with `errno` set when reading fails, and with `errno` 0 when there is too much.
-std::optional<std::string> contentOf(int fd) {
-  std::string content(64 * 1024, '\0');
-  std::size_t length = 0;
-  while (true) {
-    const ssize_t count = ::read(fd, content.data() + length, content.size() - length);
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return std::nullopt;
-    if (count == 0) break;
-    length += static_cast<std::size_t>(count);
-    errno = 0;
-    if (length > largestDocument) return std::nullopt;
-    if (length == content.size()) content.resize(content.size() * 2);
-  }
-  content.resize(length);
-  return content;
-}
-
 // Tells one state of a file from another without reading it.
 struct Stamp {
   ::dev_t device = 0;
@@ -167,9 +152,10 @@ JsonUserDefaults::Reading JsonUserDefaults::Reading::of(const Path& file) {
 
   Reading reading{.condition = Condition::broken, .stamp = stampOf(status)};
   reading.settled = now > reading.stamp.changed + stampResolution;
-  const std::optional<std::string> content = contentOf(fd.get());
-  if (!content && errno != 0) return failed(EIO);
-  if (auto document = content ? parsed(*content) : std::nullopt) {
+  if (status.st_size > static_cast<::off_t>(largestDocument)) return reading;
+  const std::optional<std::string> content = readToEnd(fd.get(), largestDocument);
+  if (!content) return failed(EIO);
+  if (auto document = parsed(*content)) {
     reading.condition = Condition::sound;
     reading.document = std::move(*document);
   }

@@ -7,7 +7,9 @@
 #include <unistd.h>
 
 #include <array>
+#include <limits>
 
+#include "platform/linux/read_to_end.h"
 #include "platform/linux/uninterrupted.h"
 #include "platform/linux/unique_fd.h"
 
@@ -83,16 +85,6 @@ std::optional<::pid_t> startShell(std::string commandLine, int output, int error
   return failure == 0 ? std::optional(child) : std::nullopt;
 }
 
-std::string readToEnd(int fd) {
-  std::string content;
-  std::array<char, 64 * 1024> buffer{};
-  while (true) {
-    const ssize_t count = uninterrupted([&] { return ::read(fd, buffer.data(), buffer.size()); });
-    if (count <= 0) return content;
-    content.append(buffer.data(), static_cast<std::size_t>(count));
-  }
-}
-
 }  // namespace
 
 std::optional<std::string> ShellCommandRunner::run(const std::string& commandLine) {
@@ -108,7 +100,7 @@ std::optional<std::string> ShellCommandRunner::run(const std::string& commandLin
   output->writing.reset();
   errors->writing.reset();
   uninterrupted([&] { return ::waitpid(*child, nullptr, 0); });
-  return readToEnd(output->reading.get());
+  return readToEnd(output->reading.get(), std::numeric_limits<std::size_t>::max());
 }
 
 }  // namespace klarvik
