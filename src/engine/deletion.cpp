@@ -46,7 +46,7 @@ PlaceCheck placeCheck(const FileSystem& files, const Path& named, const Deletion
 }
 
 bool removeSnapshot(CommandRunner& commands, const Path& named) {
-  const auto command = snapshotRemovalCommand(named.filename().native());
+  const auto command = snapshotRemovalCommand(named);
   return command && !runShell(commands, *command).empty();
 }
 

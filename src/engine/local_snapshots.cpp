@@ -43,9 +43,11 @@ std::optional<std::string> snapshotSizeCommand(const std::string& text) {
          " | grep Size | awk '{print $2}'";
 }
 
-std::optional<std::string> snapshotRemovalCommand(const std::string& text) {
-  if (!mayStandOnCommandLine(text)) return std::nullopt;
-  return "tmutil deletelocalsnapshots " + text + " 2>/dev/null";
+std::optional<std::string> snapshotRemovalCommand(const Path& path) {
+  const std::string name = path.filename();
+  const auto text = std::string_view(path.native()).substr(snapshotFolder.size());
+  if (!mayStandOnCommandLine(text) || !mayStandOnCommandLine(name)) return std::nullopt;
+  return "tmutil deletelocalsnapshots " + name + " 2>/dev/null";
 }
 
 std::int64_t snapshotBytes(std::string_view output) {

@@ -25,7 +25,9 @@ inline constexpr std::int64_t estimatedSnapshotBytes = 524'288'000;
 
 /// Nothing where the text may not stand on a command line.
 [[nodiscard]] std::optional<std::string> snapshotSizeCommand(const std::string& text);
-[[nodiscard]] std::optional<std::string> snapshotRemovalCommand(const std::string& text);
+/// The same for the path of a snapshot: the tool is told its last component, but the whole text has
+/// to be harmless, so that what is removed is never another one than what was listed.
+[[nodiscard]] std::optional<std::string> snapshotRemovalCommand(const Path& path);
 
 /// Bytes, from what the size command printed; the estimate where that is no number.
 [[nodiscard]] std::int64_t snapshotBytes(std::string_view output);

@@ -51,7 +51,7 @@ TEST(LocalSnapshots, PutTheTextIntoTheCommandsAsItStands) {
   EXPECT_EQ(snapshotSizeCommand("2026-03-01-101530"),
             "diskutil apfs listSnapshots / 2>/dev/null | grep -A3 2026-03-01-101530 | grep Size | "
             "awk '{print $2}'");
-  EXPECT_EQ(snapshotRemovalCommand("2026-03-01-101530"),
+  EXPECT_EQ(snapshotRemovalCommand("/.MobileBackups/2026-03-01-101530"),
             "tmutil deletelocalsnapshots 2026-03-01-101530 2>/dev/null");
 }
 
@@ -87,10 +87,16 @@ TEST(LocalSnapshots, ASnapshotNameWithAnythingAShellActsOnIsNeverPutOnACommandLi
                                  "a^b"}) {
     EXPECT_FALSE(mayStandOnCommandLine(text)) << text;
     EXPECT_EQ(snapshotSizeCommand(text), std::nullopt) << text;
-    EXPECT_EQ(snapshotRemovalCommand(text), std::nullopt) << text;
+    EXPECT_EQ(snapshotRemovalCommand(snapshotPath(text)), std::nullopt) << text;
   }
   EXPECT_FALSE(mayStandOnCommandLine(std::string_view("a\0b", 3)));
   EXPECT_TRUE(mayStandOnCommandLine("aZ09._:+,@/-größe"));
+}
+
+TEST(LocalSnapshots, ARemovalNeverNamesAnotherSnapshotThanTheListing) {
+  for (const char* const text : {"a;touch /tmp/2026-03-01-101530", "2026-03/-rf", "x y/b"}) {
+    EXPECT_EQ(snapshotRemovalCommand(snapshotPath(text)), std::nullopt) << text;
+  }
 }
 
 TEST(LocalSnapshots, ReadTheirSizeAsAWholeNumber) {

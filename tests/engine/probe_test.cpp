@@ -4,6 +4,8 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <thread>
@@ -167,6 +169,64 @@ TEST_F(Probe, MovesPickedFilesAndRestoresThem) {
   }
   for (const json& report : run({"restore"}, lines(pairs))) EXPECT_TRUE(report["restored"]);
   EXPECT_EQ(countTrashed(files), 0);
+}
+
+/// With tools of its own in front of the search path; each writes down what it was called with.
+class ProbeWithTools : public Probe {
+ protected:
+  TemporaryFolder tools;
+  const std::string usualPath = std::getenv("PATH");
+
+  ProbeWithTools() { ::setenv("PATH", (tools.path().native() + ":" + usualPath).c_str(), 1); }
+  ~ProbeWithTools() override { ::setenv("PATH", usualPath.c_str(), 1); }
+
+  void makeTool(const std::string& name, const std::string& output) const {
+    tools.makeFile(name + ".txt", output);
+    const std::string folder = tools.path();
+    const Path tool = tools.makeFile(name, "#!/bin/sh\necho \"$0\" \"$@\" >> " + folder +
+                                               "/calls\ncat " + folder + "/" + name + ".txt\n");
+    std::filesystem::permissions(tool, std::filesystem::perms::owner_all);
+  }
+
+  static std::map<std::string, json> itemsByCategory(const json& result) {
+    std::map<std::string, json> items;
+    for (const json& category : result["categories"]) items[category["type"]] = category["items"];
+    return items;
+  }
+};
+
+TEST_F(ProbeWithTools, FindsWhatTheToolsTellThroughARealShell) {
+  makeTool("docker", "TYPE TOTAL ACTIVE SIZE RECLAIMABLE\nImages 5 2 1.2GB 800MB (66%)\n");
+  makeTool("tmutil", "Snapshot dates for disk /:\n2026-03-01-101530\n");
+  makeTool("diskutil",
+           "+-- 1111\n|   Name: com.apple.TimeMachine.2026-03-01-101530.local\n|   XID: 5\n"
+           "Size: 123456789 B\n");
+  makeTool("xcrun", R"({"devices": {"x": [{"udid": "A", "name": "iPad"}]}})");
+  disk.makeFile("/Users/ann/Library/Developer/CoreSimulator/Devices/A/data", cacheBytes);
+
+  auto items = itemsByCategory(run({"scan"}).back());
+  EXPECT_EQ(items["Docker"][0]["size"], 800'000'000);
+  EXPECT_EQ(items["iOS Simulators"][0]["name"], "iPad () — unavailable");
+  EXPECT_EQ(items["Time Machine"][0]["path"], "/.MobileBackups/2026-03-01-101530");
+  EXPECT_EQ(items["Time Machine"][0]["size"], 123'456'789);
+}
+
+TEST_F(ProbeWithTools, ASnapshotNameWithShellCharactersIsNeverActedOnByAShell) {
+  const std::string hit = tools.onDisk("hit");
+  makeTool("tmutil", "2026-03-01;touch " + hit + "\n$(touch " + hit + ")-x\n`touch " + hit +
+                         "`-x\n-rf-2026-03\n2026-03-02-101530\n");
+  makeTool("diskutil", "");
+  for (const json& report : run({"clean"})) {
+    if (report["event"] != "outcome") continue;
+    const bool plain = report["original"] == "/.MobileBackups/2026-03-02-101530";
+    EXPECT_EQ(report["reclaimed"], plain ? 524'288'000 : 0) << report;
+  }
+  EXPECT_FALSE(tools.holds("hit"));
+  const std::string tmutil = tools.onDisk("tmutil");
+  const std::string diskutil = tools.onDisk("diskutil");
+  EXPECT_EQ(tools.contentOf("calls"), tmutil + " listlocalsnapshotdates /\n" + diskutil +
+                                          " apfs listSnapshots /\n" + tmutil +
+                                          " deletelocalsnapshots 2026-03-02-101530\n");
 }
 
 TEST_F(Probe, KilledInTheMiddleOfMovingFiveThousandItemsLosesNone) {
