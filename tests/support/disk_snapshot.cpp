@@ -29,6 +29,8 @@ bool liesIn(const Path& place, const Path& folder) {
 
 DiskSnapshot snapshotOf(const Path& folder) {
   DiskSnapshot snapshot;
+  if (!fs::is_directory(fs::symlink_status(folder)))
+    return {{"", describe(fs::directory_entry(folder))}};
   for (const auto& entry : fs::recursive_directory_iterator(folder)) {
     snapshot[entry.path().lexically_relative(folder)] = describe(entry);
   }
