@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <ctime>
 #include <memory>
 #include <string_view>
@@ -71,6 +72,18 @@ std::optional<struct stat> statusOf(const Path& root, const Path& item) {
     return std::nullopt;
   }
   return status;
+}
+
+/// The user may have put a link in place of the whole Trash.
+UniqueFd openFolderCreating(const ParentHandle& place) {
+  const auto open = [&] {
+    return UniqueFd(
+        ::openat(place.folder.get(), place.name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  };
+  UniqueFd folder = open();
+  if (folder || errno != ENOENT) return folder;
+  ::mkdirat(place.folder.get(), place.name.c_str(), kPrivateFolder);
+  return open();
 }
 
 Date dateOf(const timespec& time) {
@@ -178,13 +191,17 @@ std::optional<Path> LinuxTrash::logical(const Path& onMachine) const {
 }
 
 std::optional<TrashFolder> LinuxTrash::openHomeTrash() const {
-  if (!openParent(_root, _home / "x")) return std::nullopt;
-  const auto parent = openParentCreating(_root, _homeTrash, [](const Path&) { return true; });
+  auto parent = openParent(_root, _homeTrash);
+  if (!parent) parent = makeParentOfHomeTrash();
   if (!parent) return std::nullopt;
-  ::mkdirat(parent->folder.get(), parent->name.c_str(), kPrivateFolder);
-  const UniqueFd folder(
-      ::openat(parent->folder.get(), parent->name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  const UniqueFd folder = openFolderCreating(*parent);
   return folder ? TrashFolder::openCreating(folder) : std::nullopt;
+}
+
+std::optional<ParentHandle> LinuxTrash::makeParentOfHomeTrash() const {
+  const bool homeIsThere = openParent(_root, _home / "x").has_value();
+  if (!homeIsThere) return std::nullopt;
+  return openParentCreating(_root, _homeTrash, [](const Path&) { return true; });
 }
 
 std::optional<LinuxTrash::Destination> LinuxTrash::destinationFor(const Path& item,

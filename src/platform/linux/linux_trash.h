@@ -50,6 +50,8 @@ class LinuxTrash : public Trash {
   [[nodiscard]] std::optional<Path> logical(const Path& onMachine) const;
 
   [[nodiscard]] std::optional<TrashFolder> openHomeTrash() const;
+  /// Only for a home that is there.
+  [[nodiscard]] std::optional<ParentHandle> makeParentOfHomeTrash() const;
   [[nodiscard]] std::optional<Destination> destinationFor(const Path& item,
                                                           std::uint64_t mount) const;
   [[nodiscard]] std::optional<Destination> destinationOnVolume(const Path& item,

@@ -31,9 +31,10 @@ std::string_view cutTo(std::string_view text, std::size_t length) {
 }
 
 std::string numberAfter(std::size_t taken) {
-  if (taken == 0) return {};
-  if (taken <= kNumberedNames) return "." + std::to_string(taken + 1);
-  return "." + std::to_string(std::random_device()());
+  std::string text;
+  if (taken == 0) return text;
+  const std::size_t number = taken <= kNumberedNames ? taken + 1 : std::random_device()();
+  return text.append(".").append(std::to_string(number));
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ std::string userId() {
 }
 
 std::string ownName() {
-  return kSharedName + ("-" + userId());
+  return std::string(kSharedName).append("-").append(userId());
 }
 
 UniqueFd openFolder(int parent, const char* name) {
