@@ -1,11 +1,14 @@
-// Moves every entry of a folder to the Trash of a home, as the engine does with a large selection,
-// and prints how many went and how long it took. The peer is `gio trash` with the same files.
+// Moves the files named on standard input, each ended by a NUL, to the Trash of a home, as the
+// engine does with a large selection. The peer is `gio trash` with the same files. Prints how many
+// went and how long the moving itself took.
 //
-//   trash_batch HOME FOLDER [THREADS]
+//   trash_batch HOME [THREADS] < LIST
 #include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <iostream>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -17,12 +20,10 @@ using klarvik::Path;
 
 constexpr unsigned kThreadsOfTheEngine = 6;
 
-std::vector<Path> entriesOf(const Path& folder) {
-  std::vector<Path> entries;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    entries.push_back(entry.path());
-  }
-  return entries;
+std::vector<Path> itemsOnStandardInput() {
+  std::vector<Path> items;
+  for (std::string item; std::getline(std::cin, item, '\0');) items.emplace_back(item);
+  return items;
 }
 
 std::size_t moveAll(klarvik::Trash& trash, const std::vector<Path>& items, unsigned threads) {
@@ -43,14 +44,14 @@ std::size_t moveAll(klarvik::Trash& trash, const std::vector<Path>& items, unsig
 }  // namespace
 
 int main(int count, char** arguments) {
-  if (count < 3) {
-    std::fprintf(stderr, "usage: trash_batch HOME FOLDER [THREADS]\n");
+  if (count < 2) {
+    std::fprintf(stderr, "usage: trash_batch HOME [THREADS] < LIST\n");
     return 2;
   }
-  const unsigned threads = count > 3
-                               ? static_cast<unsigned>(std::strtoul(arguments[3], nullptr, 10))
+  const unsigned threads = count > 2
+                               ? static_cast<unsigned>(std::strtoul(arguments[2], nullptr, 10))
                                : kThreadsOfTheEngine;
-  const std::vector<Path> items = entriesOf(arguments[2]);
+  const std::vector<Path> items = itemsOnStandardInput();
   klarvik::LinuxTrash trash("/", arguments[1]);
 
   const auto start = std::chrono::steady_clock::now();
