@@ -1,0 +1,95 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Shapes
+import Klarvik.Kit
+
+Item {
+    id: root
+
+    // A list of donutSlice.
+    required property var slices
+    required property real size
+    required property real thickness
+    property string centerTitle
+    property string centerSubtitle
+    property string highlighted
+    property real sweep: 1
+    signal select(string id)
+
+    implicitWidth: root.size
+    implicitHeight: root.size
+    Accessible.role: Accessible.Chart
+    Accessible.name: root.centerTitle + " " + root.centerSubtitle
+
+    Repeater {
+        model: Kit.donutArcs(root.slices)
+
+        Shape {
+            id: piece
+
+            required property donutArc modelData
+            readonly property real from: piece.modelData.drawnStart(root.sweep)
+            readonly property real to: piece.modelData.drawnEnd(root.sweep)
+
+            width: root.size
+            height: root.size
+            visible: piece.to > piece.from
+            opacity: Kit.donutOpacity(piece.modelData.id, root.highlighted)
+            layer.enabled: true
+            layer.samples: 4
+
+            Behavior on opacity {
+                enabled: !Kit.reduceMotion
+                NumberAnimation {
+                    duration: 1600
+                    easing.type: Easing.OutCubic
+                }
+            }
+
+            ShapePath {
+                strokeColor: piece.modelData.color
+                strokeWidth: root.thickness
+                fillColor: Theme.clear
+                capStyle: ShapePath.FlatCap
+
+                PathAngleArc {
+                    centerX: root.size / 2
+                    centerY: root.size / 2
+                    radiusX: (root.size - root.thickness) / 2
+                    radiusY: radiusX
+                    startAngle: piece.from
+                    sweepAngle: piece.to - piece.from
+                }
+            }
+        }
+    }
+
+    Column {
+        anchors.centerIn: parent
+        spacing: 1
+
+        MonospacedDigits {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: root.centerTitle
+            size: 21
+            weight: Font.DemiBold
+            color: Theme.textPrimary
+        }
+
+        KitText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: root.centerSubtitle
+            size: 10.5
+            color: Theme.textTertiary
+        }
+    }
+
+    TapHandler {
+        onTapped: eventPoint => {
+            const id = Kit.donutSliceAt(root.slices, eventPoint.position.x, eventPoint.position.y, root.size, root.thickness);
+            if (id !== "")
+                root.select(id);
+        }
+    }
+}

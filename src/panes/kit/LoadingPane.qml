@@ -1,0 +1,64 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+
+Item {
+    id: root
+
+    required property string title
+    required property int style
+    property string detail
+
+    implicitWidth: 380
+    implicitHeight: parts.implicitHeight
+    anchors.fill: parent
+
+    Column {
+        id: parts
+        anchors.centerIn: parent
+        width: Math.min(380, root.width - 2 * Theme.sidePadding)
+        spacing: 6
+
+        DelayedAppearance {
+            objectName: "delayedLoader"
+            width: parent.width
+            height: 44 + parts.spacing
+
+            Loader {
+                sourceComponent: root.style === LoadingStyle.Reading ? reading : working
+            }
+        }
+
+        KitText {
+            width: parent.width
+            text: root.title
+            size: 14
+            weight: Font.Medium
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            maximumLineCount: 3
+        }
+
+        KitText {
+            width: parent.width
+            text: root.detail
+            size: 12
+            color: Theme.textTertiary
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            maximumLineCount: 12
+            visible: text !== ""
+        }
+    }
+
+    Component {
+        id: reading
+        SweepLoader { size: 44 }
+    }
+
+    Component {
+        id: working
+        LiftingLoader { size: 44 }
+    }
+}

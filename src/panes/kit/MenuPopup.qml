@@ -1,0 +1,90 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Klarvik.Kit
+
+// A list of choices over everything else. Up and Down move, Return takes, Esc closes.
+T.Popup {
+    id: root
+
+    required property list<string> entries
+    property int currentIndex: -1
+    property bool marksCurrent: false
+    signal chosen(int index)
+
+    padding: 5
+    margins: 6
+    modal: false
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    implicitWidth: Math.max(120, list.contentItem.childrenRect.width) + 2 * root.padding
+    implicitHeight: Math.min(320, list.contentHeight) + 2 * root.padding
+    onAboutToShow: list.currentIndex = Math.max(0, root.currentIndex)
+    onOpened: list.forceActiveFocus()
+
+    function take(index: int) {
+        root.close();
+        root.chosen(index);
+    }
+
+    contentItem: ListView {
+        id: list
+        model: root.entries
+        clip: true
+        keyNavigationWraps: true
+        boundsBehavior: Flickable.StopAtBounds
+        Accessible.role: Accessible.PopupMenu
+        Keys.onReturnPressed: root.take(list.currentIndex)
+        Keys.onEnterPressed: root.take(list.currentIndex)
+        Keys.onSpacePressed: root.take(list.currentIndex)
+
+        delegate: Pressable {
+            id: entry
+
+            required property int index
+            required property string modelData
+
+            title: entry.modelData
+            focusPolicy: Qt.NoFocus
+            implicitWidth: Math.ceil(label.implicitWidth) + 48
+            width: Math.max(implicitWidth, ListView.view.width)
+            implicitHeight: 26
+            Accessible.role: Accessible.MenuItem
+            onHoveredChanged: {
+                if (entry.hovered)
+                    list.currentIndex = entry.index;
+            }
+            onAction: root.take(entry.index)
+
+            background: Rectangle {
+                radius: 4
+                color: entry.ListView.isCurrentItem ? Theme.accent : Theme.clear
+            }
+
+            contentItem: Item {
+                Symbol {
+                    x: 8
+                    anchors.verticalCenter: parent.verticalCenter
+                    name: "checkmark"
+                    size: 9
+                    visible: root.marksCurrent && entry.index === root.currentIndex
+                }
+
+                KitText {
+                    id: label
+                    x: root.marksCurrent ? 28 : 10
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: entry.modelData
+                    size: 12
+                }
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: 8
+        color: Theme.floating
+        border.color: Theme.white(0.14)
+    }
+}

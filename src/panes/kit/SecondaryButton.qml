@@ -1,0 +1,29 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+
+Pressable {
+    id: root
+
+    property bool isEnabled: true
+
+    pressableEnabled: root.isEnabled
+    implicitWidth: Math.max(64, label.implicitWidth + 24)
+    implicitHeight: 28
+
+    background: Rectangle {
+        radius: Theme.cornerRadius
+        color: root.down ? Theme.white(0.1) : root.hovered ? Theme.white(0.05) : Theme.clear
+        border.width: 1
+        border.color: Theme.white(0.2)
+        opacity: root.isEnabled ? 1.0 : 0.5
+    }
+
+    contentItem: KitText {
+        id: label
+        text: root.title
+        opacity: root.isEnabled ? 1.0 : 0.5
+        horizontalAlignment: Text.AlignHCenter
+    }
+}

@@ -1,0 +1,55 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+
+Pressable {
+    id: root
+
+    required property int selection
+    required property real size
+    property string label
+    property bool canToggle: true
+    signal toggled()
+
+    // How far the area that answers a press reaches beyond the box, on each side.
+    readonly property real tapMargin: 6
+    readonly property bool isFilled: root.selection !== SelectionState.None
+
+    title: root.label
+    pressableEnabled: root.canToggle
+    implicitWidth: root.size
+    implicitHeight: root.size
+    containmentMask: QtObject {
+        function contains(point: point): bool {
+            return point.x >= -root.tapMargin && point.x <= root.width + root.tapMargin
+                && point.y >= -root.tapMargin && point.y <= root.height + root.tapMargin;
+        }
+    }
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: root.selection === SelectionState.All
+    Accessible.onToggleAction: root.action()
+    onAction: root.toggled()
+
+    contentItem: Item {
+        Rectangle {
+            anchors.centerIn: parent
+            width: root.size
+            height: root.size
+            radius: root.size * 0.25
+            color: root.isFilled ? Theme.accent : root.hovered ? Theme.white(0.06) : Theme.clear
+            border.width: root.isFilled ? 0 : 1.5
+            border.color: Theme.white(0.35)
+            opacity: root.down ? 0.7 : root.canToggle ? 1.0 : 0.4
+        }
+
+        Symbol {
+            anchors.centerIn: parent
+            name: Kit.selectionSymbol(root.selection)
+            size: root.size * 0.62
+            color: Theme.onAccent
+            visible: root.isFilled
+        }
+    }
+}

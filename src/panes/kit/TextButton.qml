@@ -1,0 +1,25 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+
+Pressable {
+    id: root
+
+    property real size: 12
+    property color color: Theme.accent
+    property bool isEnabled: true
+
+    pressableEnabled: root.isEnabled
+    implicitWidth: label.implicitWidth
+    implicitHeight: label.implicitHeight + 4
+
+    contentItem: KitText {
+        id: label
+        text: root.title
+        size: root.size
+        color: root.color
+        font.underline: root.hovered
+        opacity: !root.isEnabled ? 0.4 : root.down ? 0.6 : 1.0
+    }
+}

@@ -1,0 +1,116 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+Rectangle {
+    id: root
+
+    required property string title
+    required property string subtitle
+    property string actionTitle
+    property bool hasAction: true
+    property bool isBusy: false
+    property bool rowsShowLoader: false
+    property alias columns: header.columns
+    property alias headerButtons: extraButtons.data
+    property alias banner: bannerSlot.data
+    property alias filters: filterSlot.data
+    default property alias rows: rowsSlot.data
+    property alias footer: footerSlot.data
+    signal action()
+
+    readonly property toolPaneState shown: Kit.toolPane(root.actionTitle, root.hasAction, root.isBusy, root.rowsShowLoader)
+
+    color: Theme.canvas
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        RowLayout {
+            spacing: 10
+            Layout.fillWidth: true
+            Layout.leftMargin: Theme.sidePadding
+            Layout.rightMargin: Theme.sidePadding
+            Layout.topMargin: 18
+            Layout.bottomMargin: 16
+
+            ColumnLayout {
+                spacing: 3
+                Layout.fillWidth: true
+
+                KitText {
+                    objectName: "paneTitle"
+                    text: root.title
+                    font: Theme.paneTitle
+                    Layout.fillWidth: true
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+
+                KitText {
+                    objectName: "paneSubtitle"
+                    text: root.subtitle
+                    size: 12
+                    color: Theme.textSecondary
+                    Layout.fillWidth: true
+                }
+            }
+
+            CenteredRow {
+                id: extraButtons
+                spacing: 8
+                visible: children.length > 0
+            }
+
+            PrimaryButton {
+                objectName: "mainButton"
+                title: root.shown.buttonLabel
+                visible: root.shown.showsButton
+                onAction: root.action()
+            }
+        }
+
+        Loader {
+            objectName: "bar"
+            active: root.shown.showsBar
+            visible: active
+            sourceComponent: IndeterminateBar {}
+            Layout.fillWidth: true
+            Layout.preferredHeight: 2
+        }
+
+        Column {
+            id: bannerSlot
+            visible: children.length > 0
+            Layout.fillWidth: true
+        }
+
+        Column {
+            id: filterSlot
+            visible: children.length > 0
+            Layout.fillWidth: true
+        }
+
+        ColumnHeader {
+            id: header
+            columns: []
+            visible: root.columns.length > 0
+            Layout.fillWidth: true
+        }
+
+        Item {
+            id: rowsSlot
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+        }
+
+        Column {
+            id: footerSlot
+            visible: children.length > 0
+            Layout.fillWidth: true
+        }
+    }
+}

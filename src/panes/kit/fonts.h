@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QFont>
+
+namespace klarvik {
+
+/// Makes the symbols' font known to the program. Once, after the QGuiApplication is there; false
+/// when the font cannot be read.
+bool loadSymbolFont();
+
+/// Inter, or the nearest face that is installed. `size` in logical pixels, may be fractional.
+[[nodiscard]] QFont interfaceFont(qreal size, QFont::Weight weight);
+
+/// The face whose ligatures are the symbols.
+[[nodiscard]] QFont symbolFont(qreal size);
+
+}  // namespace klarvik

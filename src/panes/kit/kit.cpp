@@ -1,0 +1,124 @@
+#include "panes/kit/kit.h"
+
+#include <QQmlEngine>
+#include <QtGlobal>
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+#include "panes/kit/file_url.h"
+#include "panes/kit/fonts.h"
+#include "panes/kit/kit_enums.h"
+#include "panes/kit/loader_timeline.h"
+
+void qml_register_types_Klarvik_Kit();
+
+namespace klarvik {
+namespace {
+
+constexpr auto kitProperty = "klarvikKit";
+
+std::int64_t wholeBytes(double bytes) {
+  constexpr auto limit = static_cast<double>(std::numeric_limits<std::int64_t>::max());
+  if (bytes >= limit) return std::numeric_limits<std::int64_t>::max();
+  return bytes > -limit ? static_cast<std::int64_t>(bytes) : 0;
+}
+
+}  // namespace
+
+void installKit(QQmlEngine& engine, KitServices services) {
+  qml_register_types_Klarvik_Kit();
+  if (!loadSymbolFont()) qFatal("The symbol font is missing from the program.");
+  engine.addImportPath("qrc:/");
+  engine.setProperty(kitProperty, QVariant::fromValue(new Kit(std::move(services), &engine)));
+}
+
+Kit::Kit(KitServices services, QObject* parent) : QObject(parent), _services(std::move(services)) {
+  connect(&_motion, &MotionPreference::changed, this, &Kit::reduceMotionChanged);
+}
+
+Kit& Kit::of(const QQmlEngine& engine) {
+  return *engine.property(kitProperty).value<Kit*>();
+}
+
+Kit* Kit::create(QQmlEngine* engine, QJSEngine* /*scripts*/) {
+  Kit* kit = &of(*engine);
+  QJSEngine::setObjectOwnership(kit, QJSEngine::CppOwnership);
+  return kit;
+}
+
+QString Kit::byteText(double bytes) const {
+  return QString::fromStdString(_services.formatting.byteText(wholeBytes(bytes)));
+}
+
+QString Kit::folderLine(const QUrl& item) const {
+  return item.isEmpty() ? QString() : klarvik::folderLine(pathOfUrl(item), _services.home);
+}
+
+void Kit::reveal(const QUrl& item) {
+  if (hasPath(item)) _services.workspace.reveal(pathOfUrl(item));
+}
+
+ToolPaneState Kit::toolPane(const QString& actionTitle, bool hasAction, bool isBusy,
+                            bool rowsShowLoader) const {
+  return toolPaneState(actionTitle, hasAction, isBusy, rowsShowLoader);
+}
+
+ToolFooterState Kit::toolFooter(const QString& selectionSummary, const QString& explanation,
+                                const QString& buttonTitle, bool isEnabled, bool isBusy,
+                                const RemovalProgress& progress, bool canStop) const {
+  return toolFooterState({.selectionSummary = selectionSummary,
+                          .explanation = explanation,
+                          .buttonTitle = buttonTitle,
+                          .isEnabled = isEnabled,
+                          .isBusy = isBusy,
+                          .progress = progress.progress,
+                          .canStop = canStop},
+                         _services.formatting);
+}
+
+int Kit::placeholderTop(double progress, bool isBusy) const {
+  return klarvik::placeholderTop(progress, isBusy);
+}
+
+QString Kit::safetyText(int level) const {
+  return level == Safety::Caution ? QStringLiteral("Review") : QStringLiteral("Safe");
+}
+
+QString Kit::fateText(int fate) const {
+  return fate == Fate::Keep ? QStringLiteral("KEEP") : QStringLiteral("DELETE");
+}
+
+QString Kit::selectionSymbol(int selection) const {
+  switch (selection) {
+    case SelectionState::Partial:
+      return QStringLiteral("minus");
+    case SelectionState::All:
+      return QStringLiteral("checkmark");
+    default:
+      return {};
+  }
+}
+
+QList<DonutArc> Kit::donutArcs(const QList<DonutSlice>& slices) const {
+  return klarvik::donutArcs(slices);
+}
+
+QString Kit::donutSliceAt(const QList<DonutSlice>& slices, double x, double y, double size,
+                          double thickness) const {
+  return klarvik::donutSliceAt(slices, {x, y}, size, thickness);
+}
+
+double Kit::donutOpacity(const QString& id, const QString& highlighted) const {
+  return klarvik::donutOpacity(id, highlighted);
+}
+
+QString Kit::shareText(double share) const {
+  return klarvik::shareText(share);
+}
+
+double Kit::inlineLoaderOpacity(int dot, double seconds) const {
+  return klarvik::inlineLoaderOpacity(dot, seconds, reduceMotion());
+}
+
+}  // namespace klarvik

@@ -1,0 +1,36 @@
+#include "panes/kit/loader_timeline.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace klarvik {
+
+LoaderTimeline::LoaderTimeline(QObject* parent) : QObject(parent) {
+  _timer.setInterval(frame);
+  connect(&_timer, &QTimer::timeout, this, &LoaderTimeline::advance);
+}
+
+void LoaderTimeline::setRunning(bool running) {
+  if (running == isRunning()) return;
+  if (running) {
+    _sinceFrame.start();
+    _timer.start();
+  } else {
+    _timer.stop();
+  }
+  emit runningChanged();
+}
+
+void LoaderTimeline::advance() {
+  _seconds += static_cast<double>(_sinceFrame.restart()) / 1000;
+  emit secondsChanged();
+}
+
+double inlineLoaderOpacity(int dot, double seconds, bool reduceMotion) {
+  if (reduceMotion) return 1;
+  constexpr double period = 1.2;
+  const double phase = std::fmod(seconds - 0.15 * dot, period) / period;
+  return (0.5 - std::cos(2 * std::numbers::pi * phase) * 0.5) * 0.75 + 0.25;
+}
+
+}  // namespace klarvik

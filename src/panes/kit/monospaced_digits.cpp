@@ -1,0 +1,102 @@
+#include "panes/kit/monospaced_digits.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QStringView>
+#include <algorithm>
+#include <cmath>
+
+#include "panes/kit/fonts.h"
+
+namespace klarvik {
+namespace {
+
+bool isDigit(QChar character) {
+  return character >= u'0' && character <= u'9';
+}
+
+/// Calls `take` with each digit alone and with what stands between two digits as a whole.
+void forEachRun(const QString& text, auto take) {
+  qsizetype start = 0;
+  while (start < text.size()) {
+    qsizetype end = start + 1;
+    if (!isDigit(text[start])) {
+      while (end < text.size() && !isDigit(text[end])) ++end;
+    }
+    take(text.mid(start, end - start));
+    start = end;
+  }
+}
+
+}  // namespace
+
+MonospacedDigits::MonospacedDigits(QQuickItem* parent) : QQuickPaintedItem(parent) {
+  layOut();
+}
+
+void MonospacedDigits::setText(const QString& text) {
+  if (text == _text) return;
+  _text = text;
+  layOut();
+  emit textChanged();
+}
+
+void MonospacedDigits::setSize(qreal size) {
+  if (size == _size) return;
+  _size = size;
+  layOut();
+  emit fontChanged();
+}
+
+void MonospacedDigits::setWeight(int weight) {
+  if (weight == _weight) return;
+  _weight = weight;
+  layOut();
+  emit fontChanged();
+}
+
+void MonospacedDigits::setColor(const QColor& color) {
+  if (color == _color) return;
+  _color = color;
+  update();
+  emit colorChanged();
+}
+
+void MonospacedDigits::layOut() {
+  _font = interfaceFont(_size, static_cast<QFont::Weight>(_weight));
+  const QFontMetricsF metrics(_font);
+  const qreal cell = digitWidth();
+  qreal width = 0;
+  forEachRun(_text, [&](const QString& run) {
+    width += isDigit(run[0]) ? cell : metrics.horizontalAdvance(run);
+  });
+  setImplicitSize(std::ceil(width), std::ceil(metrics.height()));
+  setBaselineOffset(metrics.ascent());
+  update();
+}
+
+qreal MonospacedDigits::digitWidth() const {
+  const QFontMetricsF metrics(_font);
+  qreal widest = 0;
+  for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
+    widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
+  }
+  return std::round(widest);
+}
+
+void MonospacedDigits::paint(QPainter* painter) {
+  const QFontMetricsF metrics(_font);
+  const qreal cell = digitWidth();
+  painter->setFont(_font);
+  painter->setPen(_color);
+  const qreal baseline = std::round((height() - metrics.height()) / 2 + metrics.ascent());
+  qreal x = 0;
+  forEachRun(_text, [&](const QString& run) {
+    const qreal advance = metrics.horizontalAdvance(run);
+    const qreal slot = isDigit(run[0]) ? cell : advance;
+    painter->drawText(QPointF(x + (slot - advance) / 2, baseline), run);
+    x += slot;
+  });
+}
+
+}  // namespace klarvik

@@ -1,0 +1,85 @@
+#include "panes/kit/palette.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "panes/kit/fonts.h"
+#include "panes/kit/symbol_table.h"
+
+namespace klarvik {
+namespace {
+
+struct NamedColor {
+  std::string_view name;
+  SystemColor color;
+  QRgb rgb;
+};
+
+constexpr std::array<NamedColor, 11> systemColors{{
+    {"blue", SystemColor::blue, qRgb(10, 132, 255)},
+    {"purple", SystemColor::purple, qRgb(191, 90, 242)},
+    {"indigo", SystemColor::indigo, qRgb(94, 92, 230)},
+    {"orange", SystemColor::orange, qRgb(255, 159, 10)},
+    {"yellow", SystemColor::yellow, qRgb(255, 214, 10)},
+    {"green", SystemColor::green, qRgb(48, 209, 88)},
+    {"red", SystemColor::red, qRgb(255, 69, 58)},
+    {"cyan", SystemColor::cyan, qRgb(100, 210, 255)},
+    {"mint", SystemColor::mint, qRgb(99, 230, 226)},
+    {"teal", SystemColor::teal, qRgb(64, 200, 224)},
+    {"gray", SystemColor::gray, qRgb(152, 152, 157)},
+}};
+
+QColor colorWhere(auto matches) {
+  for (const NamedColor& entry : systemColors) {
+    if (matches(entry)) return QColor(entry.rgb);
+  }
+  return QColor(systemColors.back().rgb);
+}
+
+}  // namespace
+
+QFont Palette::paneTitle() const {
+  return font(17, QFont::DemiBold);
+}
+QFont Palette::groupTitle() const {
+  return font(13, QFont::Medium);
+}
+
+QFont Palette::font(qreal size, int weight, qreal tracking) const {
+  QFont face = interfaceFont(size, static_cast<QFont::Weight>(weight));
+  if (tracking != 0) face.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
+  return face;
+}
+
+QFont Palette::symbolFont(qreal size) const {
+  return klarvik::symbolFont(size);
+}
+
+QString Palette::glyph(const QString& symbol) const {
+  const std::string_view name = glyphOfSymbol(symbol.toStdString());
+  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+QColor Palette::white(qreal opacity) {
+  return QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity));
+}
+
+QColor Palette::shade(qreal opacity) {
+  return QColor::fromRgbF(0, 0, 0, static_cast<float>(opacity));
+}
+
+QColor Palette::systemColor(const QString& name) const {
+  const std::string wanted = name.toStdString();
+  return colorWhere([&](const NamedColor& entry) { return entry.name == wanted; });
+}
+
+QColor Palette::systemColor(int color) const {
+  return systemColor(static_cast<SystemColor>(color));
+}
+
+QColor Palette::systemColor(SystemColor color) {
+  return colorWhere([&](const NamedColor& entry) { return entry.color == color; });
+}
+
+}  // namespace klarvik

@@ -1,0 +1,57 @@
+#include "panes/kit/tool_rules.h"
+
+#include <algorithm>
+
+namespace klarvik {
+namespace {
+
+QString removalLine(const DeletionProgress& progress, const Formatting& formatting) {
+  const std::int64_t current = std::min(progress.total, progress.completed + 1);
+  return QStringLiteral("Removing %1 of %2 · %3 so far")
+      .arg(QString::number(current), QString::number(progress.total),
+           QString::fromStdString(formatting.byteText(progress.freed)));
+}
+
+double removalFraction(const DeletionProgress& progress) {
+  if (progress.total <= 0) return 0;
+  return std::min(1.0,
+                  static_cast<double>(progress.completed) / static_cast<double>(progress.total));
+}
+
+QString removalName(const DeletionProgress& progress) {
+  if (progress.currentName.empty()) return QStringLiteral("Starting…");
+  return QString::fromStdString(printable(progress.currentName));
+}
+
+}  // namespace
+
+ToolPaneState toolPaneState(const QString& actionTitle, bool hasAction, bool isBusy,
+                            bool rowsShowLoader) {
+  return {.showsButton = hasAction && !actionTitle.isEmpty(),
+          .buttonLabel = isBusy ? QStringLiteral("Stop") : actionTitle,
+          .showsBar = isBusy && !rowsShowLoader};
+}
+
+ToolFooterState toolFooterState(const ToolFooterInput& input, const Formatting& formatting) {
+  ToolFooterState state;
+  if (input.isBusy && input.progress) {
+    state.showsProgress = true;
+    state.firstLine = removalLine(*input.progress, formatting);
+    state.fraction = removalFraction(*input.progress);
+    state.lastLine = removalName(*input.progress);
+  } else {
+    state.firstLine = input.selectionSummary;
+    state.lastLine = input.explanation;
+  }
+  state.showsStop = input.isBusy && input.canStop;
+  state.buttonLabel = input.isBusy ? QStringLiteral("Working…") : input.buttonTitle;
+  state.buttonEnabled = input.isEnabled && !input.isBusy;
+  return state;
+}
+
+PlaceholderTop::Value placeholderTop(double progress, bool isBusy) {
+  if (progress >= 0) return PlaceholderTop::Progress;
+  return isBusy ? PlaceholderTop::Loader : PlaceholderTop::Icon;
+}
+
+}  // namespace klarvik

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QMetaType>
+#include <QString>
+#include <optional>
+
+#include "engine/scanner_engine.h"
+#include "panes/kit/kit_enums.h"
+#include "platform/formatting.h"
+
+namespace klarvik {
+
+/// A removal's progress on its way through QML, and whether there is one at all.
+struct RemovalProgress {
+  Q_GADGET
+  QML_VALUE_TYPE(removalProgress)
+  Q_PROPERTY(bool present READ present)
+
+ public:
+  RemovalProgress() = default;
+  // NOLINTNEXTLINE(google-explicit-constructor): a model hands its optional over as it is
+  RemovalProgress(std::optional<DeletionProgress> value) : progress(std::move(value)) {}
+
+  [[nodiscard]] bool present() const { return progress.has_value(); }
+  bool operator==(const RemovalProgress&) const = default;
+
+  std::optional<DeletionProgress> progress;
+};
+
+/// What the head of a pane shows.
+struct ToolPaneState {
+  Q_GADGET
+  QML_VALUE_TYPE(toolPaneState)
+  Q_PROPERTY(bool showsButton MEMBER showsButton)
+  Q_PROPERTY(QString buttonLabel MEMBER buttonLabel)
+  Q_PROPERTY(bool showsBar MEMBER showsBar)
+
+ public:
+  bool showsButton = false;
+  QString buttonLabel;
+  bool showsBar = false;
+
+  bool operator==(const ToolPaneState&) const = default;
+};
+
+[[nodiscard]] ToolPaneState toolPaneState(const QString& actionTitle, bool hasAction, bool isBusy,
+                                          bool rowsShowLoader);
+
+struct ToolFooterInput {
+  QString selectionSummary;
+  QString explanation;
+  QString buttonTitle;
+  bool isEnabled = false;
+  bool isBusy = false;
+  std::optional<DeletionProgress> progress;
+  bool canStop = false;
+};
+
+/// What the foot of a pane shows.
+struct ToolFooterState {
+  Q_GADGET
+  QML_VALUE_TYPE(toolFooterState)
+  Q_PROPERTY(bool showsProgress MEMBER showsProgress)
+  Q_PROPERTY(QString firstLine MEMBER firstLine)
+  Q_PROPERTY(double fraction MEMBER fraction)
+  Q_PROPERTY(QString lastLine MEMBER lastLine)
+  Q_PROPERTY(bool showsStop MEMBER showsStop)
+  Q_PROPERTY(QString buttonLabel MEMBER buttonLabel)
+  Q_PROPERTY(bool buttonEnabled MEMBER buttonEnabled)
+
+ public:
+  bool showsProgress = false;
+  QString firstLine;
+  double fraction = 0;  ///< 0 to 1
+  QString lastLine;
+  bool showsStop = false;
+  QString buttonLabel;
+  bool buttonEnabled = false;
+
+  bool operator==(const ToolFooterState&) const = default;
+};
+
+[[nodiscard]] ToolFooterState toolFooterState(const ToolFooterInput& input,
+                                              const Formatting& formatting);
+
+/// `progress` below 0 is absent.
+[[nodiscard]] PlaceholderTop::Value placeholderTop(double progress, bool isBusy);
+
+}  // namespace klarvik
