@@ -6,21 +6,20 @@ import Klarvik.Kit
 Item {
     id: root
 
-    default required property Component content
+    default property alias content: holder.data
     readonly property bool appeared: delay.raised
 
-    implicitWidth: loader.implicitWidth
-    implicitHeight: loader.implicitHeight
+    implicitWidth: holder.childrenRect.width
+    implicitHeight: holder.childrenRect.height
 
     DelayedFlag {
         id: delay
         running: root.visible
     }
 
-    Loader {
-        id: loader
-        anchors.centerIn: parent
-        active: root.appeared
-        sourceComponent: root.content
+    Item {
+        id: holder
+        anchors.fill: parent
+        visible: root.appeared
     }
 }

@@ -18,12 +18,12 @@ Item {
     component Layer: Rectangle {
         id: layer
 
-        required property real top
+        required property real offset
         required property color near
         required property color far
 
         x: 1.5 * root.unit
-        y: layer.top * root.unit
+        y: layer.offset * root.unit
         width: 15 * root.unit
         height: 3.4 * root.unit
         radius: height / 2
@@ -36,19 +36,19 @@ Item {
     }
 
     Layer {
-        top: 13.1
+        offset: 13.1
         near: Theme.markDeep
         far: Theme.accent
     }
 
     Layer {
-        top: 8.3
+        offset: 8.3
         near: Theme.accent
         far: Theme.markLight
     }
 
     Layer {
-        top: 2.6
+        offset: 2.6
         near: Theme.markLight
         far: Theme.markPale
         transformOrigin: Item.Left

@@ -25,8 +25,16 @@ Item {
             width: parent.width
             height: 44 + parts.spacing
 
-            Loader {
-                sourceComponent: root.style === LoadingStyle.Reading ? reading : working
+            SweepLoader {
+                anchors.centerIn: parent
+                size: 44
+                visible: root.style === LoadingStyle.Reading
+            }
+
+            LiftingLoader {
+                anchors.centerIn: parent
+                size: 44
+                visible: root.style === LoadingStyle.Working
             }
         }
 
@@ -50,15 +58,5 @@ Item {
             maximumLineCount: 12
             visible: text !== ""
         }
-    }
-
-    Component {
-        id: reading
-        SweepLoader { size: 44 }
-    }
-
-    Component {
-        id: working
-        LiftingLoader { size: 44 }
     }
 }

@@ -11,6 +11,7 @@ T.Popup {
     required property list<string> entries
     property int currentIndex: -1
     property bool marksCurrent: false
+    property real widestEntry: 120
     signal chosen(int index)
 
     padding: 5
@@ -18,7 +19,7 @@ T.Popup {
     modal: false
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-    implicitWidth: Math.max(120, list.contentItem.childrenRect.width) + 2 * root.padding
+    implicitWidth: root.widestEntry + 2 * root.padding
     implicitHeight: Math.min(320, list.contentHeight) + 2 * root.padding
     onAboutToShow: list.currentIndex = Math.max(0, root.currentIndex)
     onOpened: list.forceActiveFocus()
@@ -48,7 +49,8 @@ T.Popup {
             title: entry.modelData
             focusPolicy: Qt.NoFocus
             implicitWidth: Math.ceil(label.implicitWidth) + 48
-            width: Math.max(implicitWidth, ListView.view.width)
+            width: ListView.view.width
+            Component.onCompleted: root.widestEntry = Math.max(root.widestEntry, entry.implicitWidth)
             implicitHeight: 26
             Accessible.role: Accessible.MenuItem
             onHoveredChanged: {

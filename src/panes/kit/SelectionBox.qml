@@ -12,20 +12,13 @@ Pressable {
     property bool canToggle: true
     signal toggled()
 
-    // How far the area that answers a press reaches beyond the box, on each side.
-    readonly property real tapMargin: 6
     readonly property bool isFilled: root.selection !== SelectionState.None
 
     title: root.label
+    tapMargin: 6
     pressableEnabled: root.canToggle
     implicitWidth: root.size
     implicitHeight: root.size
-    containmentMask: QtObject {
-        function contains(point: point): bool {
-            return point.x >= -root.tapMargin && point.x <= root.width + root.tapMargin
-                && point.y >= -root.tapMargin && point.y <= root.height + root.tapMargin;
-        }
-    }
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: root.selection === SelectionState.All

@@ -56,10 +56,10 @@ Rectangle {
             }
         }
 
-        Loader {
-            active: root.hasPath
-            visible: active
-            sourceComponent: RevealButton { url: root.path }
+        RevealButton {
+            objectName: "revealButton"
+            url: root.path
+            visible: root.hasPath
         }
 
         CenteredRow {

@@ -73,11 +73,9 @@ Rectangle {
             }
         }
 
-        Loader {
+        IndeterminateBar {
             objectName: "bar"
-            active: root.shown.showsBar
-            visible: active
-            sourceComponent: IndeterminateBar {}
+            visible: root.shown.showsBar
             Layout.fillWidth: true
             Layout.preferredHeight: 2
         }

@@ -15,7 +15,7 @@ Item {
     property bool hasAction: true
     signal action()
 
-    readonly property int top: Kit.placeholderTop(root.progress, root.isBusy)
+    readonly property int topElement: Kit.placeholderTop(root.progress, root.isBusy)
     readonly property toolPaneState button: Kit.toolPane(root.actionTitle, root.hasAction, false, false)
 
     implicitWidth: 380
@@ -37,21 +37,23 @@ Item {
                 anchors.centerIn: parent
                 width: 220
                 value: root.progress
-                visible: root.top === PlaceholderTop.Progress
+                visible: root.topElement === PlaceholderTop.Progress
             }
 
-            Loader {
+            SweepLoader {
+                objectName: "loader"
                 anchors.centerIn: parent
-                active: root.top === PlaceholderTop.Loader
-                sourceComponent: SweepLoader { size: 44 }
+                size: 44
+                visible: root.topElement === PlaceholderTop.Loader
             }
 
             Symbol {
+                objectName: "icon"
                 anchors.centerIn: parent
                 name: root.icon
                 size: 30
                 color: Theme.textTertiary
-                visible: root.top === PlaceholderTop.Icon
+                visible: root.topElement === PlaceholderTop.Icon
             }
         }
 

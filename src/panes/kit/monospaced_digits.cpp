@@ -62,6 +62,13 @@ void MonospacedDigits::setColor(const QColor& color) {
   emit colorChanged();
 }
 
+void MonospacedDigits::setAlignment(Qt::Alignment alignment) {
+  if (alignment == _alignment) return;
+  _alignment = alignment;
+  update();
+  emit alignmentChanged();
+}
+
 void MonospacedDigits::layOut() {
   _font = interfaceFont(_size, static_cast<QFont::Weight>(_weight));
   const QFontMetricsF metrics(_font);
@@ -90,7 +97,8 @@ void MonospacedDigits::paint(QPainter* painter) {
   painter->setFont(_font);
   painter->setPen(_color);
   const qreal baseline = std::round((height() - metrics.height()) / 2 + metrics.ascent());
-  qreal x = 0;
+  const qreal spare = std::max(0.0, std::floor(width() - implicitWidth()));
+  qreal x = _alignment & Qt::AlignRight ? spare : _alignment & Qt::AlignHCenter ? spare / 2 : 0;
   forEachRun(_text, [&](const QString& run) {
     const qreal advance = metrics.horizontalAdvance(run);
     const qreal slot = isDigit(run[0]) ? cell : advance;

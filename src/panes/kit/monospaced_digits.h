@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QFont>
 #include <QString>
+
 #include <QtQuick/QQuickPaintedItem>
 
 namespace klarvik {
@@ -17,6 +18,7 @@ class MonospacedDigits : public QQuickPaintedItem {
   Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
   Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY fontChanged)
   Q_PROPERTY(int weight READ weight WRITE setWeight NOTIFY fontChanged)
+  Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment NOTIFY alignmentChanged)
   Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
  public:
@@ -31,12 +33,17 @@ class MonospacedDigits : public QQuickPaintedItem {
   [[nodiscard]] QColor color() const { return _color; }
   void setColor(const QColor& color);
 
+  /// Left, right or centre, in an item that is wider than its text.
+  [[nodiscard]] Qt::Alignment alignment() const { return _alignment; }
+  void setAlignment(Qt::Alignment alignment);
+
   void paint(QPainter* painter) override;
 
  signals:
   void textChanged();
   void fontChanged();
   void colorChanged();
+  void alignmentChanged();
 
  private:
   void layOut();
@@ -46,6 +53,7 @@ class MonospacedDigits : public QQuickPaintedItem {
   qreal _size = 13;
   int _weight = QFont::Normal;
   QColor _color = Qt::white;
+  Qt::Alignment _alignment = Qt::AlignLeft;
   QFont _font;
 };
 

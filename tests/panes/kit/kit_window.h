@@ -1,0 +1,103 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QSignalSpy>
+#include <QStringList>
+#include <QTest>
+#include <memory>
+
+#include "panes/kit/kit.h"
+#include "support/hand_moved_clock.h"
+#include "support/recording_workspace.h"
+
+namespace klarvik {
+
+/// A window with the kit in it, for a piece of QML. Whatever QML warns of fails the test.
+class KitWindow : public ::testing::Test {
+ protected:
+  KitWindow() {
+    warnings().clear();
+    previous = qInstallMessageHandler(collect);
+    QAccessible::setActive(true);
+    installKit(*view.engine(), {formatting, "/Users/ann", workspace, clock});
+    view.setColor(QColor(28, 28, 30));
+    view.setResizeMode(QQuickView::SizeViewToRootObject);
+  }
+  ~KitWindow() override { qInstallMessageHandler(previous); }
+
+  void TearDown() override { EXPECT_EQ(warnings().join("\n").toStdString(), ""); }
+
+  /// The root of `body`, shown and active; `initial` are its first values.
+  QQuickItem* show(const QByteArray& body, const QVariantMap& initial = {}) {
+    return showComponent("import QtQuick\nimport Klarvik.Kit\n" + body, QUrl("qrc:/test.qml"),
+                         initial);
+  }
+
+  QQuickItem* showComponent(const QByteArray& qml, const QUrl& url, const QVariantMap& initial) {
+    auto* component = new QQmlComponent(view.engine(), &view);
+    component->setData(qml, url);
+    EXPECT_TRUE(component->isReady()) << component->errorString().toStdString();
+    if (!component->isReady()) return nullptr;
+    QObject* object = component->createWithInitialProperties(initial);
+    EXPECT_NE(object, nullptr) << component->errorString().toStdString();
+    if (object == nullptr) return nullptr;
+    view.setContent(url, component, object);
+    view.show();
+    view.requestActivate();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+    settle();
+    return view.rootObject();
+  }
+
+  static void settle() { QCoreApplication::processEvents(); }
+
+  QQuickItem* part(const char* name) { return view.rootObject()->findChild<QQuickItem*>(name); }
+  static QString text(const QQuickItem* item) { return item->property("text").toString(); }
+
+  void click(QPointF scenePoint) {
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::NoModifier, scenePoint.toPoint());
+  }
+  void clickOn(QQuickItem* item) {
+    click(item->mapToScene({item->width() / 2, item->height() / 2}));
+  }
+  void press(Qt::Key key) { QTest::keyClick(&view, key); }
+
+  static QAccessibleInterface* accessible(QQuickItem* item) {
+    return QAccessible::queryAccessibleInterface(item);
+  }
+
+  QGuiApplication& application = theApplication();
+  Formatting formatting{"en_US"};
+  RecordingWorkspace workspace;
+  HandMovedClock clock;
+  QQuickView view;
+
+ private:
+  static QGuiApplication& theApplication() {
+    static int count = 1;
+    static char name[] = "kit_tests";
+    static char* arguments[] = {name, nullptr};
+    static QGuiApplication instance(count, arguments);
+    return instance;
+  }
+  static QStringList& warnings() {
+    static QStringList list;
+    return list;
+  }
+  static void collect(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (type == QtDebugMsg || type == QtInfoMsg) return;
+    warnings() << QString::fromUtf8(context.category) + ": " + message;
+  }
+
+  QtMessageHandler previous = nullptr;
+};
+
+}  // namespace klarvik
