@@ -7,7 +7,7 @@ import Klarvik.Kit
 Rectangle {
     id: root
 
-    required property list<ColumnSpec> columns
+    property list<ColumnSpec> columns
 
     implicitHeight: titles.implicitHeight + 16
     color: Theme.hairlineFaint

@@ -13,9 +13,9 @@ Item {
     required property list<DialogButton> buttons
 
     function cancel() {
-        for (const button of root.buttons) {
-            if (button.role === ButtonRole.Cancel) {
-                button.triggered();
+        for (let index = 0; index < root.buttons.length; ++index) {
+            if (root.buttons[index].role === ButtonRole.Cancel) {
+                root.buttons[index].triggered();
                 return;
             }
         }

@@ -69,12 +69,11 @@ Item {
         anchors.centerIn: parent
         spacing: 1
 
-        MonospacedDigits {
+        KitText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.centerTitle
             size: 21
             weight: Font.DemiBold
-            color: Theme.textPrimary
         }
 
         KitText {

@@ -16,7 +16,7 @@ Pressable {
     signal tap()
 
     title: root.slice.label
-    focusPolicy: root.canTap ? Qt.TabFocus : Qt.NoFocus
+    activeFocusOnTab: root.canTap
     implicitHeight: parts.implicitHeight + 12
     implicitWidth: parts.implicitWidth + 16
     leftPadding: 8

@@ -47,7 +47,7 @@ T.Popup {
             required property string modelData
 
             title: entry.modelData
-            focusPolicy: Qt.NoFocus
+            activeFocusOnTab: false
             implicitWidth: Math.ceil(label.implicitWidth) + 48
             width: ListView.view.width
             Component.onCompleted: root.widestEntry = Math.max(root.widestEntry, entry.implicitWidth)

@@ -1,10 +1,11 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Klarvik.Kit
 
-T.Control {
+// Built on a plain item: the controls of Qt 6.4 do not tell assistive tools the role that is set on
+// them.
+Item {
     id: root
 
     property string title
@@ -13,32 +14,61 @@ T.Control {
     // How far the area that answers a press reaches beyond the element, on each side.
     property real tapMargin: 0
     property real ringGap: 2
+    property real leftPadding: 0
+    property real rightPadding: 0
+    property Item background
+    property Item contentItem
     readonly property bool down: area.pressed && area.containsMouse
+    readonly property bool hovered: hover.hovered
+    readonly property bool visualFocus: root.activeFocus
     signal action()
 
+    function putInto(item: Item, slot: Item) {
+        if (!item)
+            return;
+        item.parent = slot;
+        item.anchors.fill = slot;
+    }
+
     enabled: root.pressableEnabled
-    hoverEnabled: true
-    focusPolicy: Qt.TabFocus
+    activeFocusOnTab: true
     Accessible.role: Accessible.Button
     Accessible.name: root.title
     Accessible.description: root.help
-    Accessible.focusable: true
+    Accessible.focusable: root.activeFocusOnTab
     Accessible.onPressAction: root.action()
+    Keys.onSpacePressed: root.action()
+    Keys.onReturnPressed: root.action()
+    Keys.onEnterPressed: root.action()
+    onBackgroundChanged: root.putInto(root.background, backgroundSlot)
+    onContentItemChanged: root.putInto(root.contentItem, contentSlot)
     onHoveredChanged: tip.setSource(root.hovered && root.help !== "" ? "KitToolTip.qml" : "", {
         text: root.help,
         shown: true
     })
-    Keys.onSpacePressed: root.action()
-    Keys.onReturnPressed: root.action()
-    Keys.onEnterPressed: root.action()
+
+    HoverHandler {
+        id: hover
+    }
+
+    Item {
+        id: backgroundSlot
+        anchors.fill: parent
+    }
 
     // Below the content, so that what can be pressed inside goes first.
     MouseArea {
         id: area
-        z: -1
         anchors.fill: parent
         anchors.margins: -root.tapMargin
         onClicked: root.action()
+    }
+
+    Item {
+        id: contentSlot
+        anchors.fill: parent
+        anchors.leftMargin: root.leftPadding
+        anchors.rightMargin: root.rightPadding
     }
 
     FocusRing {

@@ -19,7 +19,6 @@ Pressable {
         text: root.title
         size: root.size
         color: root.color
-        font.underline: root.hovered
-        opacity: !root.isEnabled ? 0.4 : root.down ? 0.6 : 1.0
+        opacity: !root.isEnabled ? 0.4 : root.down ? 0.6 : root.hovered ? 0.8 : 1.0
     }
 }

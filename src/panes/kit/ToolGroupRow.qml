@@ -23,8 +23,6 @@ Pressable {
     ringGap: -2
     leftPadding: Theme.sidePadding
     rightPadding: Theme.sidePadding
-    topPadding: 10
-    bottomPadding: 10
     onAction: {
         if (root.canToggleExpanded)
             root.toggleExpanded();

@@ -94,8 +94,8 @@ Rectangle {
 
         ColumnHeader {
             id: header
-            columns: []
-            visible: root.columns.length > 0
+            objectName: "columnHeader"
+            visible: header.columns.length > 0
             Layout.fillWidth: true
         }
 

@@ -8,7 +8,8 @@ namespace klarvik {
 /// when the font cannot be read.
 bool loadSymbolFont();
 
-/// Inter, or the nearest face that is installed. `size` in logical pixels, may be fractional.
+/// Inter, or the nearest face that is installed. `size` in logical pixels; Qt
+/// 6.4 draws whole ones only, so a half goes up.
 [[nodiscard]] QFont interfaceFont(qreal size, QFont::Weight weight);
 
 /// The face whose ligatures are the symbols.

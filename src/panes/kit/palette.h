@@ -75,7 +75,7 @@ class Palette : public QObject {
   [[nodiscard]] QFont paneTitle() const;
   [[nodiscard]] QFont groupTitle() const;
 
-  /// The interface's face. `size` in logical pixels, may be fractional; `weight` is one of
+  /// The interface's face. `size` in logical pixels, rounded; `weight` is one of
   /// `QFont::Weight`; `tracking` is added between letters.
   Q_INVOKABLE [[nodiscard]] QFont font(qreal size, int weight = QFont::Normal,
                                        qreal tracking = 0) const;

@@ -1,6 +1,5 @@
 #include "panes/kit/palette.h"
 
-#include <QFontMetricsF>
 #include <set>
 
 #include "kit_window.h"
@@ -39,13 +38,10 @@ TEST_F(PaletteOfTheKit, StylesTheTitles) {
   EXPECT_EQ(palette.groupTitle().weight(), QFont::Medium);
 }
 
-TEST_F(PaletteOfTheKit, TakesSizesBetweenTwoPixels) {
+TEST_F(PaletteOfTheKit, RoundsAHalfSizeUp) {
   const Palette palette;
-  const auto width = [&](qreal size) {
-    return QFontMetricsF(palette.font(size)).horizontalAdvance("a line of small print");
-  };
-  EXPECT_GT(width(10.5), width(10));
-  EXPECT_LT(width(10.5), width(11));
+  EXPECT_EQ(palette.font(10.5).pixelSize(), 11);
+  EXPECT_EQ(palette.font(13.5).pixelSize(), 14);
 }
 
 }  // namespace

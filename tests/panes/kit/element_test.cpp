@@ -1,0 +1,253 @@
+#include "kit_window.h"
+
+namespace klarvik {
+namespace {
+
+class Elements : public KitWindow {
+ protected:
+  /// Shows `element` in the middle of a window, so that there is room round it.
+  QQuickItem* showOne(const QByteArray& element) {
+    show("Item { width: 400; height: 300; " + element + " }");
+    return part("it");
+  }
+};
+
+struct PressableElement {
+  const char* qml;
+  const char* signal;
+  const char* name;
+  QAccessible::Role role;
+};
+
+const PressableElement pressables[] = {
+    {"PrimaryButton { title: 'Clean'", SIGNAL(action()), "Clean", QAccessible::Button},
+    {"SecondaryButton { title: 'Stop'", SIGNAL(action()), "Stop", QAccessible::Button},
+    {"TextButton { title: 'Open'", SIGNAL(action()), "Open", QAccessible::Button},
+    {"SymbolButton { title: 'Settings'; symbol: 'gear'", SIGNAL(action()), "Settings",
+     QAccessible::Button},
+    {"RevealButton { url: 'file:///a'", SIGNAL(action()), "Show in Finder", QAccessible::Button},
+    {"FilterChip { title: 'All kinds'", SIGNAL(action()), "All kinds", QAccessible::Button},
+    {"SelectionBox { selection: SelectionState.None; size: 16; label: 'Caches'", SIGNAL(toggled()),
+     "Caches", QAccessible::CheckBox},
+    {"CheckRow { title: 'Launch at login'; isOn: false", SIGNAL(toggled()), "Launch at login",
+     QAccessible::CheckBox},
+    {"ToolGroupRow { title: 'Logs'; selection: 0; isExpanded: false; width: 400",
+     SIGNAL(toggleExpanded()), "Logs", QAccessible::Button},
+};
+
+TEST_F(Elements, ThatCanBePressedTellTheirRoleAndName) {
+  for (const PressableElement& element : pressables) {
+    QQuickItem* item = showOne(QByteArray(element.qml) + "; objectName: 'it'; x: 40; y: 40 }");
+    ASSERT_NE(item, nullptr) << element.qml;
+    QAccessibleInterface* told = accessible(item);
+    ASSERT_NE(told, nullptr) << element.qml;
+    EXPECT_EQ(told->role(), element.role) << element.qml;
+    EXPECT_EQ(told->text(QAccessible::Name), element.name);
+  }
+}
+
+TEST_F(Elements, ThatCanBePressedAnswerThePointerSpaceAndReturn) {
+  for (const PressableElement& element : pressables) {
+    QQuickItem* item = showOne(QByteArray(element.qml) + "; objectName: 'it'; x: 40; y: 40 }");
+    ASSERT_NE(item, nullptr) << element.qml;
+    QSignalSpy presses(item, element.signal);
+    clickOn(item);
+    EXPECT_EQ(presses.size(), 1) << element.qml;
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(item->hasActiveFocus()) << element.qml;
+    EXPECT_TRUE(item->property("visualFocus").toBool()) << element.qml;
+    press(Qt::Key_Space);
+    EXPECT_EQ(presses.size(), 2) << element.qml;
+    press(Qt::Key_Return);
+    EXPECT_EQ(presses.size(), 3) << element.qml;
+  }
+}
+
+TEST_F(Elements, ThatAreDisabledAnswerNothing) {
+  QQuickItem* item =
+      showOne("PrimaryButton { objectName: 'it'; title: 'Clean'; isEnabled: false }");
+  QSignalSpy presses(item, SIGNAL(action()));
+  clickOn(item);
+  press(Qt::Key_Tab);
+  press(Qt::Key_Return);
+  EXPECT_EQ(presses.size(), 0);
+}
+
+TEST_F(Elements, AChipWithoutAnActionIsALabel) {
+  QQuickItem* chip = showOne("FilterChip { objectName: 'it'; title: 'a'; hasAction: false }");
+  QSignalSpy presses(chip, SIGNAL(action()));
+  clickOn(chip);
+  EXPECT_EQ(presses.size(), 0);
+  EXPECT_EQ(accessible(chip)->role(), QAccessible::StaticText);
+}
+
+TEST_F(Elements, TheSelectionBoxAnswersSixPointsAroundItAndNotSeven) {
+  QQuickItem* box = showOne(
+      "SelectionBox { objectName: 'it'; x: 100; y: 100; selection: SelectionState.All; size: 16;"
+      " label: 'a' }");
+  QSignalSpy toggles(box, SIGNAL(toggled()));
+  for (const QPointF inside :
+       {QPointF(95, 108), QPointF(121, 108), QPointF(108, 95), QPointF(108, 121)}) {
+    click(inside);
+  }
+  EXPECT_EQ(toggles.size(), 4);
+  for (const QPointF outside :
+       {QPointF(92, 108), QPointF(123, 108), QPointF(108, 92), QPointF(108, 123)}) {
+    click(outside);
+  }
+  EXPECT_EQ(toggles.size(), 4);
+}
+
+TEST_F(Elements, AGroupRowTellsItsBoxFromTheRestOfTheRow) {
+  QQuickItem* row = showOne(
+      "ToolGroupRow { objectName: 'it'; title: 'Logs'; selection: 0; isExpanded: false;"
+      " width: 400 }");
+  QSignalSpy selections(row, SIGNAL(toggleSelection()));
+  QSignalSpy expansions(row, SIGNAL(toggleExpanded()));
+  click({32, row->height() / 2});
+  EXPECT_EQ(selections.size(), 1);
+  EXPECT_EQ(expansions.size(), 0);
+  click({200, row->height() / 2});
+  EXPECT_EQ(selections.size(), 1);
+  EXPECT_EQ(expansions.size(), 1);
+}
+
+TEST_F(Elements, ADetailRowWithoutAPathHasNoFolderLineAndNoRevealButton) {
+  showOne("ToolDetailRow { objectName: 'it'; name: 'a'; width: 400 }");
+  EXPECT_FALSE(part("folderLine")->isVisible());
+  EXPECT_FALSE(part("revealButton")->isVisible());
+}
+
+TEST_F(Elements, ADetailRowWithAPathRevealsIt) {
+  showOne(
+      "ToolDetailRow { objectName: 'it'; name: 'a'; path: 'file:///Users/ann/b/a%FF'; width: 400 "
+      "}");
+  EXPECT_EQ(text(part("folderLine")), "~/b/");
+  clickOn(part("revealButton"));
+  ASSERT_EQ(workspace.revealedItems.size(), 1U);
+  EXPECT_EQ(workspace.revealedItems[0], Path("/Users/ann/b/a\xff"));
+}
+
+TEST_F(Elements, ANameIsNeverReadAsMarkup) {
+  const qreal marked = showOne("KitText { objectName: 'it'; text: '<b>a</b>' }")->implicitWidth();
+  const qreal plain = showOne("KitText { objectName: 'it'; text: 'aaaa' }")->implicitWidth();
+  EXPECT_GT(marked, plain);
+}
+
+TEST_F(Elements, APaneWithoutAnActionTitleShowsNoButtonBusyOrNot) {
+  for (const char* busy : {"true", "false"}) {
+    showOne(QByteArray("ToolPane { objectName: 'it'; title: 'a'; subtitle: 'b'; isBusy: ") + busy +
+            "; anchors.fill: parent }");
+    EXPECT_FALSE(part("mainButton")->isVisible());
+  }
+}
+
+TEST_F(Elements, ABusyPaneWithALoaderInItsRowsShowsStopAndNoBar) {
+  showOne(
+      "ToolPane { objectName: 'it'; title: 'a'; subtitle: 'b'; actionTitle: 'Rescan'; isBusy: true;"
+      " rowsShowLoader: true; anchors.fill: parent }");
+  EXPECT_EQ(part("mainButton")->property("title").toString(), "Stop");
+  EXPECT_FALSE(part("bar")->isVisible());
+  part("it")->setProperty("rowsShowLoader", false);
+  EXPECT_TRUE(part("bar")->isVisible());
+}
+
+TEST_F(Elements, APaneShowsItsColumns) {
+  showOne(
+      "ToolPane { objectName: 'it'; title: 'a'; subtitle: 'b'; anchors.fill: parent;"
+      " columns: [ColumnSpec { title: 'FILE' }, ColumnSpec { title: 'SIZE'; width: 90 }] }");
+  EXPECT_TRUE(part("columnHeader")->isVisible());
+}
+
+TEST_F(Elements, AFooterStopsWhileItIsBusyAndActsWhileItIsNot) {
+  QQuickItem* footer = showOne(
+      "ToolFooter { objectName: 'it'; selectionSummary: 's'; explanation: 'e'; buttonTitle: "
+      "'Clean';"
+      " canStop: true; isBusy: true; width: 400 }");
+  QSignalSpy stops(footer, SIGNAL(stop()));
+  QSignalSpy actions(footer, SIGNAL(action()));
+  EXPECT_EQ(text(part("firstLine")), "s");
+  EXPECT_EQ(part("mainButton")->property("title").toString(), "Working…");
+  clickOn(part("stopButton"));
+  clickOn(part("mainButton"));
+  EXPECT_EQ(stops.size(), 1);
+  EXPECT_EQ(actions.size(), 0);
+
+  footer->setProperty("isBusy", false);
+  EXPECT_FALSE(part("stopButton")->isVisible());
+  clickOn(part("mainButton"));
+  EXPECT_EQ(actions.size(), 1);
+}
+
+TEST_F(Elements, AFooterShowsTheProgressItIsGiven) {
+  QQuickItem* footer = showOne(
+      "ToolFooter { objectName: 'it'; selectionSummary: 's'; explanation: 'e'; buttonTitle: "
+      "'Clean';"
+      " isBusy: true; width: 400 }");
+  EXPECT_FALSE(part("progressLine")->isVisible());
+  footer->setProperty("progress", QVariant::fromValue(RemovalProgress(DeletionProgress{
+                                      .completed = 1, .total = 4, .currentName = {}, .freed = 0})));
+  EXPECT_EQ(text(part("firstLine")), "Removing 2 of 4 · Zero KB so far");
+  EXPECT_EQ(text(part("lastLine")), "Starting…");
+  EXPECT_TRUE(part("progressLine")->isVisible());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return part("progressLine")->width() == 320; }));
+}
+
+TEST_F(Elements, AChartAnswersATapOnASlice) {
+  const QVariant slices = QVariant::fromValue(
+      QList<DonutSlice>{{.id = "home", .label = "Home", .value = 1, .color = Qt::blue}});
+  QQuickItem* chart = show("DonutChart { size: 200; thickness: 30 }", {{"slices", slices}});
+  ASSERT_NE(chart, nullptr);
+  QSignalSpy selections(chart, SIGNAL(select(QString)));
+  click({100, 15});
+  ASSERT_EQ(selections.size(), 1);
+  EXPECT_EQ(selections[0][0], "home");
+  click({100, 100});
+  EXPECT_EQ(selections.size(), 1);
+}
+
+class Dialogs : public KitWindow {
+ protected:
+  QQuickItem* present() {
+    return show(
+        "Item { id: all; width: 600; height: 400; property string answer; property bool up: true;"
+        " PrimaryButton { objectName: 'behind'; title: 'behind'; onAction: all.answer = 'behind' }"
+        " ConfirmationDialog { isPresented: all.up; title: 'T'; message: 'M'; buttons: ["
+        " DialogButton { title: 'Empty Trash'; role: ButtonRole.Destructive;"
+        "   onTriggered: { all.answer = 'destroyed'; all.up = false } },"
+        " DialogButton { title: 'Cancel'; role: ButtonRole.Cancel;"
+        "   onTriggered: { all.answer = 'cancelled'; all.up = false } } ] } }");
+  }
+  QString answer() const { return view.rootObject()->property("answer").toString(); }
+};
+
+TEST_F(Dialogs, ReturnCancels) {
+  present();
+  press(Qt::Key_Return);
+  EXPECT_EQ(answer(), "cancelled");
+}
+
+TEST_F(Dialogs, EscapeCancels) {
+  present();
+  press(Qt::Key_Escape);
+  EXPECT_EQ(answer(), "cancelled");
+}
+
+TEST_F(Dialogs, TabReachesTheDestructiveButtonAndNeverLeavesTheDialog) {
+  present();
+  for (int step = 0; step < 5; ++step) {
+    press(Qt::Key_Tab);
+    EXPECT_NE(view.activeFocusItem(), part("behind"));
+  }
+  press(Qt::Key_Return);
+  EXPECT_EQ(answer(), "destroyed");
+}
+
+TEST_F(Dialogs, WhatLiesBehindCannotBePressed) {
+  present();
+  clickOn(part("behind"));
+  EXPECT_EQ(answer(), "");
+}
+
+}  // namespace
+}  // namespace klarvik
