@@ -26,6 +26,8 @@ struct Folder {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const Folder folder;
+  // Made anew, since some file systems sync a file that is cut to nothing and written again.
+  std::filesystem::remove(folder.path / "preferences.json");
   std::ofstream(folder.path / "preferences.json", std::ios::binary)
       .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
   static_cast<void>(klarvik::JsonUserDefaults(folder.path).object("key"));
