@@ -13,7 +13,7 @@ namespace klarvik {
 // Local snapshots of the disk. They are no files: each is named by its date text, and stands in
 // results under a path that exists nowhere, so that it can be selected and removed like any item.
 
-/// How `diskutil` not naming a size is told: 500 MiB, so that a snapshot never shows as nothing.
+/// What a snapshot counts for when no size is told: 500 MiB, so that it never shows as nothing.
 inline constexpr std::int64_t estimatedSnapshotBytes = 524'288'000;
 
 /// The texts that name snapshots in what `tmutil listlocalsnapshotdates` prints, in its order.
