@@ -27,7 +27,7 @@ function(klarvik_test name)
   endif()
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${TEST_LINKS} test_support GTest::gmock_main klarvik_warnings)
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES
     PROPERTIES TIMEOUT 300 ENVIRONMENT "${TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}")
 endfunction()
 
