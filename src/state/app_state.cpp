@@ -33,6 +33,11 @@ bool sameCategories(const std::vector<CleanCategory>& left,
   return std::ranges::equal(left, right, {}, &CleanCategory::id, &CleanCategory::id);
 }
 
+bool sameCategoriesInAnyOrder(const std::vector<CleanCategory>& left,
+                              const std::vector<CleanCategory>& right) {
+  return std::ranges::is_permutation(left, right, {}, &CleanCategory::id, &CleanCategory::id);
+}
+
 AppState::Scan scanWithFreshEngine(const Platform& platform) {
   return [&platform](std::stop_token stop, const ScannerEngine::UpdateSink& onUpdate,
                      const ScannerEngine::CategorySink& onCategory) {
@@ -173,6 +178,7 @@ bool AppState::hasNothingToShow() const {
 
 void AppState::selectSafeItems() {
   std::unordered_set<Uuid> ids;
+  ids.reserve(static_cast<std::size_t>(itemCount(_scanResults)));
   for (const CleanCategory& category : _scanResults) {
     if (!isSafe(category)) continue;
     for (const JunkItem& item : category.items) ids.insert(item.id);
@@ -186,8 +192,12 @@ void AppState::toggleCategoryExpansion(CategoryType type) {
 }
 
 void AppState::toggleItem(const Uuid& id) {
-  if (_selectedItems.erase(id) == 0) _selectedItems.insert(id);
-  recountSelected();
+  const bool select = _selectedItems.erase(id) == 0;
+  if (select) _selectedItems.insert(id);
+  if (const JunkItem* item = itemInResults(id)) {
+    _selected.size = addBytes(_selected.size, select ? item->size : -item->size);
+    _selected.count += select ? 1 : -1;
+  }
   emit selectedItemsChanged();
 }
 
@@ -211,8 +221,10 @@ void AppState::setScanState(ScanState state) {
 
 void AppState::setResults(std::vector<CleanCategory> results) {
   const bool changed = !sameCategories(_scanResults, results);
+  // Sorting what has arrived changes no count, however many items there are.
+  const bool recount = !sameCategoriesInAnyOrder(_scanResults, results);
   _scanResults = std::move(results);
-  recountSelected();
+  if (recount) recountSelected();
   if (changed) emit scanResultsChanged();
 }
 
@@ -228,8 +240,17 @@ void AppState::setSelectedItems(std::unordered_set<Uuid> ids) {
   emit selectedItemsChanged();
 }
 
+const JunkItem* AppState::itemInResults(const Uuid& id) const {
+  for (const CleanCategory& category : _scanResults) {
+    const auto found = std::ranges::find(category.items, id, &JunkItem::id);
+    if (found != category.items.end()) return &*found;
+  }
+  return nullptr;
+}
+
 void AppState::recountSelected() {
   _selected = {};
+  if (_selectedItems.empty()) return;
   for (const CleanCategory& category : _scanResults) {
     for (const JunkItem& item : category.items) {
       if (!_selectedItems.contains(item.id)) continue;

@@ -176,6 +176,8 @@ class AppState : public QObject {
   void recomputeTotal();
   void setSelectedItems(std::unordered_set<Uuid> ids);
   void recountSelected();
+  /// Nothing when no item of the results has this identifier.
+  [[nodiscard]] const JunkItem* itemInResults(const Uuid& id) const;
   void setLastClean(std::optional<CleanSummary> summary);
   void setCleanProgress(std::optional<DeletionProgress> progress);
   void writeTotal();
