@@ -1,0 +1,77 @@
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+/// What the last clean freed, and the way back from it.
+Rectangle {
+    id: root
+
+    required property CleanedBannerModel model
+
+    implicitHeight: content.implicitHeight + 24
+    radius: 10
+    color: Theme.raised
+    border.color: Theme.hairlineStrong
+    Accessible.role: Accessible.Notification
+    Accessible.name: headline.text
+
+    RowLayout {
+        id: content
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.leftMargin: 16
+        anchors.rightMargin: 10
+        spacing: 12
+
+        Symbol {
+            name: "checkmark.circle.fill"
+            size: 22
+            color: Theme.safe
+        }
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 3
+
+            KitText {
+                id: headline
+
+                Layout.fillWidth: true
+                text: root.model.headline
+                weight: Font.Medium
+            }
+
+            KitText {
+                Layout.fillWidth: true
+                text: root.model.detail
+                color: Theme.textSecondary
+                size: 12
+                elide: Text.ElideNone
+                maximumLineCount: 3
+                wrapMode: Text.WordWrap
+            }
+        }
+
+        SecondaryButton {
+            visible: root.model.isRestorable
+            title: qsTr("Empty Trash")
+            onAction: root.model.emptyTrash()
+        }
+
+        RestoreButton {
+            visible: root.model.isRestorable
+            isEnabled: !root.model.isRestoring
+            symbol: "arrow.uturn.backward"
+            title: qsTr("Restore")
+            onAction: root.model.restore()
+        }
+
+        SymbolButton {
+            symbol: "xmark"
+            title: qsTr("Dismiss")
+            onAction: root.model.dismiss()
+        }
+    }
+}

@@ -1,0 +1,74 @@
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+/// One category of a running scan: found already, or being measured.
+RowArrival {
+    id: root
+
+    required property string name
+    required property int safety
+    required property string items
+    required property string size
+    required property string description
+
+    readonly property bool isInProgress: safety === ScanningTableModel.InProgress
+
+    implicitHeight: TableMetrics.rowHeight
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.description
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.sidePadding
+        anchors.rightMargin: Theme.sidePadding
+        spacing: TableMetrics.columnSpacing
+
+        KitText {
+            Layout.fillWidth: true
+            text: root.name
+            weight: Font.Medium
+            color: root.isInProgress ? Theme.textSecondary : Theme.textPrimary
+        }
+
+        Item {
+            Layout.preferredWidth: TableMetrics.safetyWidth
+            Layout.fillHeight: true
+
+            SafetyTag {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: !root.isInProgress
+                level: root.isInProgress ? Safety.Safe : root.safety
+            }
+
+            DelayedAppearance {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.isInProgress
+
+                InlineLoader {
+                    size: 15
+                    tint: Theme.accent
+                }
+            }
+        }
+
+        Figure {
+            Layout.preferredWidth: TableMetrics.itemsWidth
+            text: root.items
+        }
+
+        Figure {
+            Layout.preferredWidth: TableMetrics.sizeWidth
+            text: root.size
+            isStrong: !root.isInProgress
+        }
+    }
+
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: 1
+        color: Theme.hairline
+    }
+}

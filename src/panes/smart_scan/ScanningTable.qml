@@ -1,0 +1,52 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+/// The table that grows while a scan runs, below the bar that says how far it is.
+ColumnLayout {
+    id: root
+
+    required property SmartScanModel model
+
+    spacing: 0
+
+    KitText {
+        Layout.fillWidth: true
+        Layout.leftMargin: Theme.sidePadding
+        Layout.rightMargin: Theme.sidePadding
+        Layout.topMargin: 8
+        text: root.model.scanningHeadline
+    }
+
+    ScanProgressBar {
+        Layout.fillWidth: true
+        Layout.leftMargin: Theme.sidePadding
+        Layout.rightMargin: Theme.sidePadding
+        Layout.topMargin: 10
+        Layout.bottomMargin: 18
+        progress: root.model.progress
+        isMeasuring: root.model.isMeasuring
+    }
+
+    TableHeader {
+        Layout.fillWidth: true
+        title: qsTr("FOUND SO FAR")
+    }
+
+    Item {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+
+        ToolListView {
+            id: list
+
+            model: root.model.scanningTable
+
+            delegate: FoundRow {
+                width: list.width
+            }
+        }
+    }
+}

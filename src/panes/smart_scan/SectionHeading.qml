@@ -1,0 +1,12 @@
+import QtQuick
+import Klarvik.Kit
+
+/// The small capitals above a group.
+KitText {
+    color: Theme.textTertiary
+    size: 11
+    weight: Font.DemiBold
+    font.letterSpacing: 0.4
+    Accessible.role: Accessible.Heading
+    Accessible.name: text
+}

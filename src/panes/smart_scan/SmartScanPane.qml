@@ -1,0 +1,97 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+/// The Smart Scan section: what the state calls for, and a footer to clean with.
+ToolPane {
+    id: root
+
+    required property SmartScanModel model
+
+    readonly property int body: model.body
+    readonly property bool isReviewing: body === SmartScanModel.Review
+
+    title: model.title
+    subtitle: model.subtitle
+    actionTitle: model.actionTitle
+    onAction: model.performAction()
+
+    headerButtons: SecondaryButton {
+        visible: root.model.offersSafeOnly
+        title: qsTr("Select safe only")
+        onAction: root.model.selectSafeOnly()
+    }
+
+    banner: CleanedBanner {
+        visible: root.model.banner.isShown
+        model: root.model.banner
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        Item {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+
+            ScanPreview {
+                anchors.fill: parent
+                visible: root.body === SmartScanModel.Preview
+                model: root.model.preview
+            }
+
+            ScanningTable {
+                anchors.fill: parent
+                visible: root.body === SmartScanModel.Scanning
+                model: root.model
+            }
+
+            ReviewTable {
+                anchors.fill: parent
+                visible: root.isReviewing
+                model: root.model.reviewTable
+            }
+
+            ToolPlaceholder {
+                anchors.fill: parent
+                visible: root.body === SmartScanModel.NothingFound
+                icon: "checkmark.circle"
+                title: qsTr("Nothing worth removing")
+                detail: qsTr("Klarvik found no junk in the places it looks.")
+            }
+        }
+
+        ElsewhereStrip {
+            Layout.fillWidth: true
+            visible: root.model.elsewhere.isShown
+                     && (root.isReviewing || root.body === SmartScanModel.NothingFound)
+            model: root.model.elsewhere
+        }
+    }
+
+    footer: CleanFooter {
+        visible: root.isReviewing
+        model: root.model.footer
+    }
+
+    ConfirmationDialog {
+        isPresented: root.model.isConfirming
+        title: qsTr("Your selection includes Review items")
+        message: qsTr("Review items are things you might want back — iPhone backups, Xcode archives, local snapshots. Everything goes to the Trash, so it can be restored until you empty it.\n\nTurn this warning off in Settings → General.")
+        buttons: [
+            DialogButton {
+                title: qsTr("Cancel")
+                role: ButtonRole.Cancel
+                onTriggered: root.model.cancelConfirmation()
+            },
+            DialogButton {
+                title: qsTr("Clean anyway")
+                role: ButtonRole.Destructive
+                onTriggered: root.model.confirmClean()
+            }
+        ]
+    }
+}

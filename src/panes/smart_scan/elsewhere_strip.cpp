@@ -1,0 +1,123 @@
+#include "panes/smart_scan/elsewhere_strip.h"
+
+#include <algorithm>
+
+#include "panes/smart_scan/row_text.h"
+
+namespace klarvik {
+namespace {
+
+bool isMeasuring(const ToolActivity::State& state) {
+  return std::holds_alternative<ToolActivity::Running>(state) ||
+         std::holds_alternative<ToolActivity::Progress>(state);
+}
+
+}  // namespace
+
+const std::array<ElsewhereStrip::Entry, 4>& ElsewhereStrip::entries() {
+  static constexpr std::array<Entry, 4> table{{
+      {"systemData", Section::systemData, "removable"},
+      {"duplicates", Section::duplicates, "in extra copies"},
+      {"largeFiles", Section::largeFiles, "in big files"},
+      {"privacy", Section::privacy, "of browsing trails"},
+  }};
+  return table;
+}
+
+ElsewhereStrip::ElsewhereStrip(const ScanCoordinator& coordinator, const ToolActivity& activity,
+                               Navigator& navigator, const Formatting& formatting,
+                               QObject* parent)
+    : QAbstractListModel(parent),
+      _coordinator(coordinator),
+      _activity(activity),
+      _navigator(navigator),
+      _formatting(formatting) {
+  connect(&coordinator, &ScanCoordinator::totalsChanged, this, &ElsewhereStrip::syncRows);
+  connect(&activity, &ToolActivity::statesChanged, this, &ElsewhereStrip::syncPending);
+  syncRows();
+  syncPending();
+}
+
+bool ElsewhereStrip::isShown() const {
+  return !_rows.empty() || _pending > 0;
+}
+
+QString ElsewhereStrip::pendingText() const {
+  return _pending > 0 ? QStringLiteral("%1 still measuring").arg(_pending) : QString();
+}
+
+void ElsewhereStrip::open(int row) {
+  if (hasIndex(row, 0)) {
+    _navigator.setSection(_rows[static_cast<std::size_t>(row)].entry->section);
+  }
+}
+
+int ElsewhereStrip::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(_rows.size());
+}
+
+QVariant ElsewhereStrip::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    return {};
+  }
+  const Row& row = _rows[static_cast<std::size_t>(index.row())];
+  switch (role) {
+    case SizeRole: return byteText(row.bytes, _formatting);
+    case NoteRole: return QString::fromUtf8(row.entry->note);
+    case HelpRole: return QStringLiteral("Open ") + printableText(title(row.entry->section));
+    default: return {};
+  }
+}
+
+QHash<int, QByteArray> ElsewhereStrip::roleNames() const {
+  return {{SizeRole, "size"}, {NoteRole, "note"}, {HelpRole, "toolHelp"}};
+}
+
+void ElsewhereStrip::syncRows() {
+  const std::vector<Row> current = currentRows();
+  for (std::size_t at = 0; at < _rows.size();) {
+    const bool stays = std::ranges::find(current, _rows[at].entry, &Row::entry) != current.end();
+    if (stays) {
+      ++at;
+      continue;
+    }
+    const int row = static_cast<int>(at);
+    beginRemoveRows({}, row, row);
+    _rows.erase(_rows.begin() + row);
+    endRemoveRows();
+  }
+  for (std::size_t at = 0; at < current.size(); ++at) {
+    const int row = static_cast<int>(at);
+    if (at == _rows.size() || _rows[at].entry != current[at].entry) {
+      beginInsertRows({}, row, row);
+      _rows.insert(_rows.begin() + row, current[at]);
+      endInsertRows();
+    } else if (_rows[at] != current[at]) {
+      _rows[at] = current[at];
+      emit dataChanged(index(row), index(row));
+    }
+  }
+  emit changed();
+}
+
+void ElsewhereStrip::syncPending() {
+  const auto pending = std::ranges::count_if(
+      entries(), [this](const Entry& entry) { return isMeasuring(_activity.state(entry.id)); });
+  if (_pending != pending) {
+    _pending = pending;
+    emit changed();
+  }
+}
+
+std::vector<ElsewhereStrip::Row> ElsewhereStrip::currentRows() const {
+  std::vector<Row> rows;
+  for (const Entry& entry : entries()) {
+    const auto total = _coordinator.totals().find(entry.id);
+    if (total != _coordinator.totals().end() && total->second.bytes >= 1) {
+      rows.push_back({&entry, total->second.bytes});
+    }
+  }
+  return rows;
+}
+
+}  // namespace klarvik

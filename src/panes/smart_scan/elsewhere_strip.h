@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QString>
+#include <array>
+#include <vector>
+
+#include "platform/formatting.h"
+#include "state/navigator.h"
+#include "state/scan_coordinator.h"
+#include "state/tool_activity.h"
+
+namespace klarvik {
+
+/// What the other tools have found. Main thread only.
+class ElsewhereStrip : public QAbstractListModel {
+  Q_OBJECT
+  Q_PROPERTY(bool isShown READ isShown NOTIFY changed)
+  Q_PROPERTY(QString pendingText READ pendingText NOTIFY changed)
+
+ public:
+  struct Entry {
+    const char* id;
+    Section section;
+    const char* note;
+  };
+  enum Role { SizeRole = Qt::UserRole, NoteRole, HelpRole };
+
+  [[nodiscard]] static const std::array<Entry, 4>& entries();
+
+  ElsewhereStrip(const ScanCoordinator& coordinator, const ToolActivity& activity,
+                 Navigator& navigator, const Formatting& formatting, QObject* parent = nullptr);
+
+  [[nodiscard]] bool isShown() const;
+  /// How many tools are still measuring; empty when none is.
+  [[nodiscard]] QString pendingText() const;
+  Q_INVOKABLE void open(int row);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+ signals:
+  void changed();
+
+ private:
+  struct Row {
+    const Entry* entry;
+    std::int64_t bytes;
+    bool operator==(const Row&) const = default;
+  };
+  void syncRows();
+  void syncPending();
+  [[nodiscard]] std::vector<Row> currentRows() const;
+
+  const ScanCoordinator& _coordinator;
+  const ToolActivity& _activity;
+  Navigator& _navigator;
+  const Formatting& _formatting;
+  std::vector<Row> _rows;
+  std::ptrdiff_t _pending = 0;
+};
+
+}  // namespace klarvik

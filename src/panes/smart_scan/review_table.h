@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <cstddef>
+#include <vector>
+
+#include "state/app_state.h"
+
+namespace klarvik {
+
+/// What a finished scan found, as one flat list for a virtualised view: a row for each category,
+/// and below an expanded one its largest items and, where there are more, a row that shows the
+/// rest. Rows come and go one by one, so that scroll position, focus and expansion survive. Main
+/// thread only.
+class ReviewTable : public QAbstractListModel {
+  Q_OBJECT
+ public:
+  enum class RowKind { category, item, showMore };
+  Q_ENUM(RowKind)
+  enum class Selection { none, partial, all };
+  Q_ENUM(Selection)
+  enum Role {
+    KindRole = Qt::UserRole,
+    NameRole,
+    PathRole,
+    UrlRole,
+    SymbolRole,
+    ColorRole,
+    SafetyRole,
+    SelectionRole,
+    ItemsRole,
+    SizeRole,
+    IsExpandedRole,
+    DescriptionRole,
+  };
+
+  /// Items of an expanded category that show before the user asks for the rest.
+  static constexpr std::size_t firstItems = 8;
+
+  ReviewTable(AppState& appState, const Formatting& formatting, QObject* parent = nullptr);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+  /// What pressing the row does: a category opens or closes, an item is selected or not, the last
+  /// row shows the rest.
+  Q_INVOKABLE void activate(int row);
+  /// What pressing the selection box of the row does. Nothing on a row that has none.
+  Q_INVOKABLE void toggleSelection(int row);
+
+ private:
+  struct ShownItem {
+    Uuid id;
+    std::size_t index = 0;  ///< in the category's items
+  };
+  struct ShownCategory {
+    CategoryType type = CategoryType::xcodeCache;
+    std::size_t selectedCount = 0;
+    bool isExpanded = false;
+    bool showsAll = false;
+    std::vector<ShownItem> items;
+    std::size_t hiddenCount = 0;  ///< items behind the row that shows the rest
+
+    [[nodiscard]] std::size_t rowCount() const { return 1 + items.size() + (hiddenCount > 0); }
+  };
+  struct Place {
+    std::size_t category = 0;  ///< in `_shown`
+    RowKind kind = RowKind::category;
+    std::size_t item = 0;  ///< in the items shown of that category
+  };
+
+  void syncResults();
+  void syncExpansion();
+  void syncSelection();
+
+  void insertCategory(std::size_t at, const CleanCategory& category);
+  void removeCategory(std::size_t at);
+  void updateCategory(std::size_t at);
+  void setExpanded(std::size_t at, bool expanded);
+  void showAll(std::size_t at);
+
+  void syncItems(std::size_t at);
+  void replaceItems(std::size_t at, std::vector<ShownItem> items);
+  void removeItems(std::size_t at, std::size_t first, std::size_t count);
+  void setHiddenCount(std::size_t at, std::size_t hiddenCount);
+  void rowChanged(std::size_t row, const QList<int>& roles = {});
+
+  [[nodiscard]] const std::vector<CleanCategory>& results() const;
+  [[nodiscard]] const CleanCategory* find(CategoryType type) const;
+  [[nodiscard]] std::vector<ShownItem> itemsToShow(const ShownCategory& shown) const;
+  [[nodiscard]] std::size_t countSelected(CategoryType type) const;
+  [[nodiscard]] std::size_t firstRow(std::size_t at) const;
+  [[nodiscard]] Place place(int row) const;
+  [[nodiscard]] const JunkItem* item(const Place& place) const;
+  [[nodiscard]] Selection selection(const ShownCategory& shown) const;
+  [[nodiscard]] QVariant categoryData(const ShownCategory& shown, int role) const;
+  [[nodiscard]] QVariant itemData(const JunkItem& item, CategoryType type, int role) const;
+
+  AppState& _appState;
+  const Formatting& _formatting;
+  std::vector<ShownCategory> _shown;
+};
+
+}  // namespace klarvik

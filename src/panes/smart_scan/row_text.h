@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <string_view>
+
+#include "core/junk_model.h"
+
+namespace klarvik {
+
+/// Bytes of the disk, made fit for one line of the screen: what is not UTF-8, and what would break
+/// the line or reverse it, becomes U+FFFD.
+[[nodiscard]] QString printableText(std::string_view bytes);
+[[nodiscard]] QString byteText(std::int64_t bytes, const Formatting& formatting);
+/// "Safe" or "Review".
+[[nodiscard]] QString verdictText(SafetyLevel level);
+/// What a screen reader says of a row: "App Caches, 1.2 GB, Safe".
+[[nodiscard]] QString rowDescription(const QString& name, const QString& size,
+                                     const QString& verdict);
+
+}  // namespace klarvik

@@ -1,0 +1,33 @@
+#include "panes/smart_scan/scan_preview.h"
+
+#include "panes/smart_scan/row_text.h"
+
+namespace klarvik {
+
+ScanPreview::ScanPreview(QObject* parent) : QAbstractListModel(parent) {
+  for (const CategoryType type : allCategoryTypes()) {
+    _rows.push_back({.name = std::string(rawValue(type)), .level = safety(type)});
+  }
+}
+
+int ScanPreview::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(_rows.size());
+}
+
+QVariant ScanPreview::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    return {};
+  }
+  const Row& row = _rows[static_cast<std::size_t>(index.row())];
+  switch (role) {
+    case NameRole: return printableText(row.name);
+    case SafetyRole: return static_cast<int>(row.level);
+    default: return {};
+  }
+}
+
+QHash<int, QByteArray> ScanPreview::roleNames() const {
+  return {{NameRole, "name"}, {SafetyRole, "safety"}};
+}
+
+}  // namespace klarvik

@@ -1,0 +1,119 @@
+#include "panes/smart_scan/scanning_table.h"
+
+#include <algorithm>
+
+#include "panes/smart_scan/row_text.h"
+
+namespace klarvik {
+namespace {
+
+ScanningTable::RowSafety rowSafety(const FoundRow::Safety& safety) {
+  const SafetyLevel* level = std::get_if<SafetyLevel>(&safety);
+  if (level == nullptr) {
+    return ScanningTable::RowSafety::inProgress;
+  }
+  return *level == SafetyLevel::safe ? ScanningTable::RowSafety::safe
+                                     : ScanningTable::RowSafety::review;
+}
+
+QString verdict(const FoundRow::Safety& safety) {
+  const SafetyLevel* level = std::get_if<SafetyLevel>(&safety);
+  return level != nullptr ? verdictText(*level) : QStringLiteral("Scanning");
+}
+
+bool isRunning(const FoundRow& row) {
+  return std::holds_alternative<FoundRow::InProgress>(row.safety);
+}
+
+/// Two rows that stand for the same thing, whatever has been counted by now.
+bool isSameLine(const FoundRow& left, const FoundRow& right) {
+  return isRunning(left) == isRunning(right) && (isRunning(left) || left.name == right.name);
+}
+
+}  // namespace
+
+ScanningTable::ScanningTable(const AppState& appState, const Formatting& formatting,
+                             QObject* parent)
+    : QAbstractListModel(parent), _appState(appState), _formatting(formatting) {
+  update();
+}
+
+void ScanningTable::update() {
+  const std::vector<FoundRow> current = currentRows();
+  for (std::size_t at = 0; at < current.size(); ++at) {
+    if (at == _rows.size() || (isRunning(_rows[at]) && !isRunning(current[at]))) {
+      insert(at, current[at]);
+    } else if (!isSameLine(_rows[at], current[at])) {
+      remove(at, _rows.size() - at);
+      insert(at, current[at]);
+    } else if (_rows[at] != current[at]) {
+      _rows[at] = current[at];
+      const QModelIndex changed = index(static_cast<int>(at));
+      emit dataChanged(changed, changed);
+    }
+  }
+  if (_rows.size() > current.size()) {
+    remove(current.size(), _rows.size() - current.size());
+  }
+}
+
+int ScanningTable::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(_rows.size());
+}
+
+QVariant ScanningTable::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    return {};
+  }
+  const FoundRow& row = _rows[static_cast<std::size_t>(index.row())];
+  switch (role) {
+    case NameRole: return printableText(row.name);
+    case SafetyRole: return static_cast<int>(rowSafety(row.safety));
+    case ItemsRole: return QString::number(row.items);
+    case SizeRole: return byteText(row.bytes, _formatting);
+    case DescriptionRole:
+      return rowDescription(printableText(row.name), byteText(row.bytes, _formatting),
+                            verdict(row.safety));
+    default: return {};
+  }
+}
+
+QHash<int, QByteArray> ScanningTable::roleNames() const {
+  return {{NameRole, "name"},
+          {SafetyRole, "safety"},
+          {ItemsRole, "items"},
+          {SizeRole, "size"},
+          {DescriptionRole, "description"}};
+}
+
+std::vector<FoundRow> ScanningTable::currentRows() const {
+  if (!std::holds_alternative<AppState::Scanning>(_appState.scanState())) {
+    return {};
+  }
+  std::vector<FoundRow> rows;
+  for (const CleanCategory& category : _appState.scanResults()) {
+    rows.push_back({std::string(rawValue(category.type)), safety(category.type),
+                    static_cast<std::int64_t>(category.items.size()), category.totalSize()});
+  }
+  const AppState::ScanActivity& activity = _appState.scanActivity();
+  if (!activity.categoryName.empty()) {
+    rows.push_back({activity.categoryName, FoundRow::InProgress{}, activity.partialItems,
+                    activity.partialBytes});
+  }
+  return rows;
+}
+
+void ScanningTable::remove(std::size_t first, std::size_t count) {
+  const auto begin = _rows.begin() + static_cast<std::ptrdiff_t>(first);
+  beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count - 1));
+  _rows.erase(begin, begin + static_cast<std::ptrdiff_t>(count));
+  endRemoveRows();
+}
+
+void ScanningTable::insert(std::size_t at, const FoundRow& row) {
+  beginInsertRows({}, static_cast<int>(at), static_cast<int>(at));
+  _rows.insert(_rows.begin() + static_cast<std::ptrdiff_t>(at), row);
+  endInsertRows();
+}
+
+}  // namespace klarvik

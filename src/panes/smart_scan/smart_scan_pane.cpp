@@ -1,0 +1,149 @@
+#include "panes/smart_scan/smart_scan_pane.h"
+
+#include <utility>
+
+#include "panes/smart_scan/smart_scan_texts.h"
+
+namespace klarvik {
+
+SmartScanPane::SmartScanPane(const Sources& sources, const Desktop& desktop, QObject* parent)
+    : QObject(parent),
+      _appState(sources.appState),
+      _desktop(desktop),
+      _scanningTable(sources.appState, desktop.formatting),
+      _reviewTable(sources.appState, desktop.formatting),
+      _footer(sources.appState, desktop.formatting),
+      _banner(sources.appState, sources.diskMonitor, sources.trashMonitor, desktop.formatting),
+      _elsewhere(sources.coordinator, sources.activity, sources.navigator, desktop.formatting) {
+  connect(&_appState, &AppState::scanStateChanged, this, &SmartScanPane::stateChanged);
+  connect(&_appState, &AppState::scanResultsChanged, this, &SmartScanPane::resultsChanged);
+  connect(&_appState, &AppState::totalSpaceFreeableChanged, this, &SmartScanPane::resultsChanged);
+  connect(&_appState, &AppState::scanActivityChanged, this, &SmartScanPane::progressMoved);
+  connect(&_appState, &AppState::lastCleanDateChanged, this, &SmartScanPane::progressMoved);
+  connect(&_appState, &AppState::pendingCleanConfirmationChanged, this,
+          &SmartScanPane::isConfirmingChanged);
+  _wasScanning = isScanning();
+  keepRelativeDateFresh();
+}
+
+QString SmartScanPane::title() const {
+  return QString::fromStdString(smart_scan::paneTitle(
+      _appState.scanState(), _appState.totalSpaceFreeable(), _desktop.formatting));
+}
+
+QString SmartScanPane::subtitle() const {
+  const auto text = [this]() -> std::string {
+    switch (body()) {
+      case Body::scanning:
+        return smart_scan::scanningSubtitle(_appState.scanActivity(), _desktop.files.home());
+      case Body::preview:
+        return smart_scan::idleSubtitle(_appState.lastCleanDate(), _desktop.clock.now(),
+                                        _desktop.formatting);
+      case Body::review:
+      case Body::nothingFound: return smart_scan::resultSubtitle(_appState.scanResults());
+    }
+    return {};
+  };
+  return QString::fromStdString(text());
+}
+
+QString SmartScanPane::actionTitle() const {
+  if (isScanning()) {
+    return QStringLiteral("Stop");
+  }
+  return _appState.scanResults().empty() ? QStringLiteral("Scan") : QStringLiteral("Rescan");
+}
+
+bool SmartScanPane::offersSafeOnly() const {
+  return std::holds_alternative<AppState::Done>(_appState.scanState()) &&
+         !_appState.scanResults().empty();
+}
+
+SmartScanPane::Body SmartScanPane::body() const {
+  if (isScanning()) {
+    return Body::scanning;
+  }
+  if (std::holds_alternative<AppState::Idle>(_appState.scanState())) {
+    return Body::preview;
+  }
+  return _appState.scanResults().empty() ? Body::nothingFound : Body::review;
+}
+
+QString SmartScanPane::scanningHeadline() const {
+  return QString::fromStdString(smart_scan::scanningHeadline(_appState.scanActivity()));
+}
+
+double SmartScanPane::progress() const {
+  const auto* scanning = std::get_if<AppState::Scanning>(&_appState.scanState());
+  return scanning != nullptr ? scanning->progress : 0;
+}
+
+bool SmartScanPane::isMeasuring() const {
+  return isScanning() && !_appState.scanActivity().categoryName.empty();
+}
+
+bool SmartScanPane::isConfirming() const {
+  return _appState.pendingCleanConfirmation();
+}
+
+void SmartScanPane::performAction() {
+  if (isScanning()) {
+    _appState.cancelScan();
+    return;
+  }
+  _appState.dismissLastClean();
+  _appState.startScan();
+}
+
+void SmartScanPane::selectSafeOnly() {
+  _appState.selectSafeItems();
+}
+
+void SmartScanPane::confirmClean() {
+  _appState.setPendingCleanConfirmation(false);
+  _appState.performClean();
+}
+
+void SmartScanPane::cancelConfirmation() {
+  _appState.setPendingCleanConfirmation(false);
+}
+
+void SmartScanPane::stateChanged() {
+  const bool wasScanning = std::exchange(_wasScanning, isScanning());
+  if (!wasScanning || !isScanning()) {
+    keepRelativeDateFresh();
+    emit headerChanged();
+  }
+  progressMoved();
+}
+
+void SmartScanPane::resultsChanged() {
+  if (!isScanning()) {
+    emit headerChanged();
+  }
+  progressMoved();
+}
+
+void SmartScanPane::progressMoved() {
+  _scanningTable.update();
+  emit progressChanged();
+}
+
+/// "Last clean 3 minutes ago" would otherwise stand still.
+void SmartScanPane::keepRelativeDateFresh() {
+  const bool isNeeded = body() == Body::preview && _appState.lastCleanDate().has_value();
+  if (!isNeeded) {
+    _minute.reset();
+    return;
+  }
+  _minute = _desktop.clock.wakeAfter(std::chrono::minutes(1), [this] {
+    emit progressChanged();
+    keepRelativeDateFresh();
+  });
+}
+
+bool SmartScanPane::isScanning() const {
+  return std::holds_alternative<AppState::Scanning>(_appState.scanState());
+}
+
+}  // namespace klarvik

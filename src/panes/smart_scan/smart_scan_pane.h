@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <memory>
+
+#include "panes/smart_scan/clean_footer.h"
+#include "panes/smart_scan/cleaned_banner.h"
+#include "panes/smart_scan/elsewhere_strip.h"
+#include "panes/smart_scan/review_table.h"
+#include "panes/smart_scan/scan_preview.h"
+#include "panes/smart_scan/scanning_table.h"
+#include "platform/platform.h"
+
+namespace klarvik {
+
+/// The first section of the main window: a view of `AppState`, which keeps no scan data of its own.
+/// What is shown when, every text that follows a rule, and what each control does. Main thread
+/// only; everything handed in must outlive it.
+class SmartScanPane : public QObject {
+  Q_OBJECT
+  Q_PROPERTY(QString title READ title NOTIFY headerChanged)
+  Q_PROPERTY(QString subtitle READ subtitle NOTIFY progressChanged)
+  Q_PROPERTY(QString actionTitle READ actionTitle NOTIFY headerChanged)
+  Q_PROPERTY(bool offersSafeOnly READ offersSafeOnly NOTIFY headerChanged)
+  Q_PROPERTY(Body body READ body NOTIFY headerChanged)
+  Q_PROPERTY(QString scanningHeadline READ scanningHeadline NOTIFY progressChanged)
+  Q_PROPERTY(double progress READ progress NOTIFY progressChanged)
+  Q_PROPERTY(bool isMeasuring READ isMeasuring NOTIFY progressChanged)
+  Q_PROPERTY(bool isConfirming READ isConfirming NOTIFY isConfirmingChanged)
+  Q_PROPERTY(klarvik::ScanPreview* preview READ preview CONSTANT)
+  Q_PROPERTY(klarvik::ScanningTable* scanningTable READ scanningTable CONSTANT)
+  Q_PROPERTY(klarvik::ReviewTable* reviewTable READ reviewTable CONSTANT)
+  Q_PROPERTY(klarvik::CleanFooter* footer READ footer CONSTANT)
+  Q_PROPERTY(klarvik::CleanedBanner* banner READ banner CONSTANT)
+  Q_PROPERTY(klarvik::ElsewhereStrip* elsewhere READ elsewhere CONSTANT)
+
+ public:
+  enum class Body { preview, scanning, review, nothingFound };
+  Q_ENUM(Body)
+
+  /// The observable objects that the pane looks at.
+  struct Sources {
+    AppState& appState;
+    DiskMonitor& diskMonitor;
+    TrashMonitor& trashMonitor;
+    ScanCoordinator& coordinator;
+    ToolActivity& activity;
+    Navigator& navigator;
+  };
+
+  SmartScanPane(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
+
+  [[nodiscard]] QString title() const;
+  [[nodiscard]] QString subtitle() const;
+  [[nodiscard]] QString actionTitle() const;
+  [[nodiscard]] bool offersSafeOnly() const;
+  [[nodiscard]] Body body() const;
+  [[nodiscard]] QString scanningHeadline() const;
+  [[nodiscard]] double progress() const;
+  /// A category is being measured right now.
+  [[nodiscard]] bool isMeasuring() const;
+  [[nodiscard]] bool isConfirming() const;
+
+  [[nodiscard]] ScanPreview* preview() { return &_preview; }
+  [[nodiscard]] ScanningTable* scanningTable() { return &_scanningTable; }
+  [[nodiscard]] ReviewTable* reviewTable() { return &_reviewTable; }
+  [[nodiscard]] CleanFooter* footer() { return &_footer; }
+  [[nodiscard]] CleanedBanner* banner() { return &_banner; }
+  [[nodiscard]] ElsewhereStrip* elsewhere() { return &_elsewhere; }
+
+  /// The header's main button: stops a running scan, else starts one.
+  Q_INVOKABLE void performAction();
+  Q_INVOKABLE void selectSafeOnly();
+  Q_INVOKABLE void confirmClean();
+  Q_INVOKABLE void cancelConfirmation();
+
+ signals:
+  void headerChanged();
+  void progressChanged();
+  void isConfirmingChanged();
+
+ private:
+  void stateChanged();
+  void resultsChanged();
+  void progressMoved();
+  void keepRelativeDateFresh();
+  [[nodiscard]] bool isScanning() const;
+
+  AppState& _appState;
+  const Desktop& _desktop;
+  std::unique_ptr<Clock::Alarm> _minute;
+  bool _wasScanning = false;
+
+  ScanPreview _preview;
+  ScanningTable _scanningTable;
+  ReviewTable _reviewTable;
+  CleanFooter _footer;
+  CleanedBanner _banner;
+  ElsewhereStrip _elsewhere;
+};
+
+}  // namespace klarvik

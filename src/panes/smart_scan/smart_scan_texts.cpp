@@ -1,0 +1,115 @@
+#include "panes/smart_scan/smart_scan_texts.h"
+
+#include <algorithm>
+
+namespace klarvik::smart_scan {
+namespace {
+
+std::string withTilde(std::string path, const std::string& home) {
+  if (home.empty() || home == "/") {
+    return path;
+  }
+  for (auto at = path.find(home); at != std::string::npos; at = path.find(home, at + 1)) {
+    path.replace(at, home.size(), "~");
+  }
+  return path;
+}
+
+}  // namespace
+
+std::string paneTitle(const AppState::ScanState& state, std::int64_t totalSpaceFreeable,
+                      const Formatting& formatting) {
+  if (std::holds_alternative<AppState::Scanning>(state)) {
+    return "Scanning";
+  }
+  if (std::holds_alternative<AppState::Idle>(state) || totalSpaceFreeable < 1) {
+    return "Smart Scan";
+  }
+  return formatting.byteText(totalSpaceFreeable) + " found";
+}
+
+std::string scanningSubtitle(const AppState::ScanActivity& activity, const Path& home) {
+  if (!activity.currentPath) {
+    return printable(activity.categoryName);
+  }
+  return printable(activity.categoryName + " · " +
+                   withTilde(*activity.currentPath, home.native()));
+}
+
+std::string idleSubtitle(std::optional<Date> lastCleanDate, Date now,
+                         const Formatting& formatting) {
+  return lastCleanDate ? "Last clean " + formatting.relative(*lastCleanDate, now)
+                       : "Nothing scanned yet";
+}
+
+std::string resultSubtitle(const std::vector<CleanCategory>& results) {
+  std::size_t items = 0;
+  for (const CleanCategory& category : results) {
+    items += category.items.size();
+  }
+  return std::to_string(results.size()) + " categories · " + std::to_string(items) + " items";
+}
+
+std::string scanningHeadline(const AppState::ScanActivity& activity) {
+  if (activity.totalCategories < 1) {
+    return "Starting scan";
+  }
+  const auto current = std::min(activity.totalCategories, activity.completedCategories + 1);
+  return "Scanning " + std::to_string(current) + " of " +
+         std::to_string(activity.totalCategories) + " categories";
+}
+
+std::string showMoreTitle(std::int64_t hidden) {
+  return "Show " + std::to_string(hidden) + " more";
+}
+
+std::string selectionSummary(std::int64_t selectedSize, std::int64_t selectedCount,
+                             const Formatting& formatting) {
+  return formatting.byteText(selectedSize) + " selected · " + std::to_string(selectedCount) +
+         " items";
+}
+
+std::string selectionHint(std::int64_t selectedCount, bool selectionIsAllSafe) {
+  if (selectedCount == 0) {
+    return "Select something to clean.";
+  }
+  const std::string verdict = selectionIsAllSafe ? "Everything selected is marked Safe."
+                                                 : "Your selection includes Review items.";
+  return verdict + " Items move to the Trash.";
+}
+
+std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting) {
+  return "Clean " + formatting.byteText(selectedSize);
+}
+
+std::string removingLine(const DeletionProgress& progress, const Formatting& formatting) {
+  return "Removing " + std::to_string(progress.completed) + " of " +
+         std::to_string(progress.total) + " · " + formatting.byteText(progress.freed) + " so far";
+}
+
+std::string removingName(const DeletionProgress& progress) {
+  return progress.currentName.empty() ? "Starting…" : printable(progress.currentName);
+}
+
+double removingFraction(const DeletionProgress& progress) {
+  if (progress.total < 1) {
+    return 0;
+  }
+  return std::min(1.0, static_cast<double>(progress.completed) /
+                           static_cast<double>(progress.total));
+}
+
+std::string cleanedHeadline(const AppState::CleanSummary& summary, const Formatting& formatting) {
+  return formatting.byteText(summary.freed) + " · " + std::to_string(summary.itemCount) +
+         " items " + (summary.restorable.empty() ? "removed" : "moved to Trash");
+}
+
+std::string cleanedDetail(const AppState::CleanSummary& summary, std::int64_t freeBytes,
+                          const Formatting& formatting) {
+  const std::string free = formatting.byteText(freeBytes) + " free on disk";
+  return summary.restorable.empty()
+             ? free
+             : free + " — the Trash still holds this space until you empty it";
+}
+
+}  // namespace klarvik::smart_scan

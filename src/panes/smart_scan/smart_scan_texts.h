@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/formatting.h"
+#include "state/app_state.h"
+
+/// Every sentence of the Smart Scan pane that follows a rule, as plain functions of what it tells
+/// of. All answers are UTF-8: names of the disk have been made printable.
+namespace klarvik::smart_scan {
+
+[[nodiscard]] std::string paneTitle(const AppState::ScanState& state,
+                                    std::int64_t totalSpaceFreeable, const Formatting& formatting);
+
+[[nodiscard]] std::string scanningSubtitle(const AppState::ScanActivity& activity,
+                                           const Path& home);
+[[nodiscard]] std::string idleSubtitle(std::optional<Date> lastCleanDate, Date now,
+                                       const Formatting& formatting);
+[[nodiscard]] std::string resultSubtitle(const std::vector<CleanCategory>& results);
+
+[[nodiscard]] std::string scanningHeadline(const AppState::ScanActivity& activity);
+
+/// The button that shows what an expanded category holds back; `hidden` is at least 1.
+[[nodiscard]] std::string showMoreTitle(std::int64_t hidden);
+
+[[nodiscard]] std::string selectionSummary(std::int64_t selectedSize, std::int64_t selectedCount,
+                                           const Formatting& formatting);
+[[nodiscard]] std::string selectionHint(std::int64_t selectedCount, bool selectionIsAllSafe);
+[[nodiscard]] std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting);
+[[nodiscard]] std::string removingLine(const DeletionProgress& progress,
+                                       const Formatting& formatting);
+[[nodiscard]] std::string removingName(const DeletionProgress& progress);
+/// How much of the removal is done, 0 to 1.
+[[nodiscard]] double removingFraction(const DeletionProgress& progress);
+
+[[nodiscard]] std::string cleanedHeadline(const AppState::CleanSummary& summary,
+                                          const Formatting& formatting);
+[[nodiscard]] std::string cleanedDetail(const AppState::CleanSummary& summary,
+                                        std::int64_t freeBytes, const Formatting& formatting);
+
+}  // namespace klarvik::smart_scan

@@ -1,0 +1,74 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+
+/// The sidebar, and beside it every pane that exists: all alive at once, one of them to be seen.
+Item {
+    id: root
+
+    required property AppShellModel shell
+
+    Sidebar {
+        id: sidebar
+
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        width: 232
+        shell: root.shell
+    }
+
+    Rectangle {
+        id: divider
+
+        anchors.left: sidebar.right
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        width: 1
+        color: Theme.hairlineStrong
+    }
+
+    Item {
+        anchors.left: divider.right
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+
+        Repeater {
+            model: root.shell.panes
+
+            Loader {
+                id: pane
+
+                required property url view
+                required property QtObject paneModel
+                required property bool isSelected
+
+                anchors.fill: parent
+                opacity: isSelected ? 1 : 0
+                enabled: isSelected
+
+                Component.onCompleted: setSource(view, { model: paneModel })
+            }
+        }
+    }
+
+    ConfirmationDialog {
+        isPresented: root.shell.trash.isConfirming
+        title: qsTr("Empty the Trash?")
+        message: root.shell.trash.confirmationMessage
+        buttons: [
+            DialogButton {
+                title: qsTr("Empty Trash")
+                role: ButtonRole.Destructive
+                onTriggered: root.shell.trash.confirmEmpty()
+            },
+            DialogButton {
+                title: qsTr("Cancel")
+                role: ButtonRole.Cancel
+                onTriggered: root.shell.trash.cancelConfirmation()
+            }
+        ]
+    }
+}

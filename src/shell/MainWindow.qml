@@ -1,0 +1,23 @@
+import QtQuick
+import QtQuick.Window
+import Klarvik.Kit
+
+/// The one main window.
+Window {
+    id: root
+
+    required property AppShellModel shell
+
+    title: "Klarvik"
+    minimumWidth: 920
+    minimumHeight: 640
+    width: 1080
+    height: 720
+    visible: true
+    color: Theme.canvas
+
+    AppShell {
+        anchors.fill: parent
+        shell: root.shell
+    }
+}

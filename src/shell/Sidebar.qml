@@ -1,0 +1,72 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+/// The program's dashboard: how full the disk is, the sections, and the Trash.
+Rectangle {
+    id: root
+
+    required property AppShellModel shell
+
+    color: Theme.raised
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.leftMargin: 16
+            Layout.topMargin: 18
+            Layout.bottomMargin: 16
+            spacing: 9
+
+            KlarvikMark {
+                size: 22
+            }
+
+            KitText {
+                text: "Klarvik"
+                size: 14
+                weight: Font.DemiBold
+            }
+        }
+
+        DiskBlock {
+            Layout.fillWidth: true
+            Layout.leftMargin: 16
+            Layout.rightMargin: 16
+            Layout.bottomMargin: 18
+            model: root.shell.disk
+        }
+
+        Repeater {
+            model: root.shell.sidebar
+
+            SidebarRow {
+                Layout.fillWidth: true
+                Layout.leftMargin: 8
+                Layout.rightMargin: 8
+                onAction: root.shell.sidebar.select(index)
+            }
+        }
+
+        Item {
+            Layout.fillHeight: true
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            implicitHeight: 1
+            color: Theme.hairlineStrong
+        }
+
+        TrashBlock {
+            Layout.fillWidth: true
+            Layout.margins: 8
+            model: root.shell.trash
+        }
+    }
+}

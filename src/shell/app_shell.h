@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+#include <vector>
+
+#include "platform/platform.h"
+#include "shell/disk_block.h"
+#include "shell/landed_pane.h"
+#include "shell/pane_stack.h"
+#include "shell/sidebar_model.h"
+#include "shell/trash_block.h"
+#include "state/app_state.h"
+#include "state/shared_state.h"
+
+namespace klarvik {
+
+/// The content of the main window: the sidebar and the panes beside it. Main thread only;
+/// everything handed in must outlive it.
+class AppShell : public QObject {
+  Q_OBJECT
+  Q_PROPERTY(klarvik::SidebarModel* sidebar READ sidebar CONSTANT)
+  Q_PROPERTY(klarvik::DiskBlock* disk READ disk CONSTANT)
+  Q_PROPERTY(klarvik::TrashBlock* trash READ trash CONSTANT)
+  Q_PROPERTY(klarvik::PaneStack* panes READ panes CONSTANT)
+
+ public:
+  AppShell(const std::vector<LandedPane>& panes, AppState& appState, SharedState& shared,
+           const Desktop& desktop, QObject* parent = nullptr);
+
+  [[nodiscard]] SidebarModel* sidebar() { return &_sidebar; }
+  [[nodiscard]] DiskBlock* disk() { return &_disk; }
+  [[nodiscard]] TrashBlock* trash() { return &_trash; }
+  [[nodiscard]] PaneStack* panes() { return &_panes; }
+
+ private:
+  SidebarModel _sidebar;
+  DiskBlock _disk;
+  TrashBlock _trash;
+  PaneStack _panes;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,64 @@
+#include "shell/klarvik_app.h"
+
+#include <QGuiApplication>
+
+namespace klarvik {
+
+KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, QObject* parent)
+    : QObject(parent), _desktop(desktop), _shared(shared) {
+  removeLeftoverKeys();
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+          [this](Qt::ApplicationState state) {
+            if (state == Qt::ApplicationActive) {
+              _desktop.notifications.post(applicationActiveNotification);
+            }
+          });
+}
+
+KlarvikApp::~KlarvikApp() {
+  _stop.request_stop();
+}
+
+AppState& KlarvikApp::appState() {
+  if (!_appState) {
+    _appState = std::make_unique<AppState>(_desktop, _shared.toolActivity(),
+                                           _shared.scanCoordinator(), _shared.scanHistory());
+  }
+  return *_appState;
+}
+
+bool KlarvikApp::openMainWindow() {
+  _shell = std::make_unique<AppShell>(landedPanes(), appState(), _shared, _desktop);
+  _window = MainWindow::open(*_shell);
+  if (!_window) {
+    return false;
+  }
+  QMetaObject::invokeMethod(this, [this] { launch(); }, Qt::QueuedConnection);
+  return true;
+}
+
+QQuickWindow* KlarvikApp::mainWindow() const {
+  return _window ? _window->window() : nullptr;
+}
+
+/// Two keys that a former feature has left behind.
+void KlarvikApp::removeLeftoverKeys() {
+  _desktop.defaults.remove("clean_schedule");
+  _desktop.defaults.remove("last_auto_clean");
+}
+
+std::vector<LandedPane> KlarvikApp::landedPanes() {
+  _smartScanPane = std::make_unique<SmartScanPane>(
+      SmartScanPane::Sources{appState(), _shared.diskMonitor(), _shared.trashMonitor(),
+                             _shared.scanCoordinator(), _shared.toolActivity(),
+                             _shared.navigator()},
+      _desktop);
+  return {{Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"),
+           _smartScanPane.get()}};
+}
+
+QCoro::Task<> KlarvikApp::launch() {
+  co_await appState().autoScanIfNeeded(_stop.get_token());
+}
+
+}  // namespace klarvik

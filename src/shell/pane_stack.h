@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <vector>
+
+#include "shell/landed_pane.h"
+#include "state/navigator.h"
+
+namespace klarvik {
+
+/// The landed panes in section order, all alive at once; selecting a section only changes which one
+/// can be seen and reached. Main thread only.
+class PaneStack : public QAbstractListModel {
+  Q_OBJECT
+ public:
+  enum Role { ViewRole = Qt::UserRole, ModelRole, IsSelectedRole };
+
+  PaneStack(std::vector<LandedPane> panes, const Navigator& navigator, QObject* parent = nullptr);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+ private:
+  std::vector<LandedPane> _panes;
+  const Navigator& _navigator;
+};
+
+}  // namespace klarvik

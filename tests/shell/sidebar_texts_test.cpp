@@ -1,0 +1,181 @@
+#include "shell/sidebar_texts.h"
+
+#include <gtest/gtest.h>
+
+namespace klarvik::sidebar {
+namespace {
+
+const Formatting& english() {
+  static const Formatting formatting("en_US");
+  return formatting;
+}
+
+Totals totalOf(Section section, std::int64_t bytes, std::int64_t items) {
+  return {{std::string(rawValue(section)), {bytes, items, Date{}}}};
+}
+
+std::string helpOf(Section section) {
+  return help(section, totalOf(section, 1'500'000, 1), english()).value_or("");
+}
+
+TEST(SidebarLook, GivesEachSectionItsSymbolAndGroup) {
+  struct Row {
+    Section section;
+    std::string_view symbol;
+    std::string_view group;
+  };
+  for (const Row& row : {Row{Section::smartScan, "", ""},
+                         Row{Section::storage, "chart.bar.fill", "STORAGE"},
+                         Row{Section::duplicates, "doc.on.doc", "STORAGE"},
+                         Row{Section::largeFiles, "doc.text.magnifyingglass", "STORAGE"},
+                         Row{Section::systemData, "externaldrive", "STORAGE"},
+                         Row{Section::uninstaller, "square.dashed", "APPS"},
+                         Row{Section::privacy, "shield", "APPS"}}) {
+    EXPECT_EQ(symbol(row.section), row.symbol) << rawValue(row.section);
+    EXPECT_EQ(group(row.section), row.group) << rawValue(row.section);
+  }
+}
+
+TEST(SidebarTrailing, IsTheTotalOfTheTool) {
+  for (const Section section : allSections()) {
+    const auto text = trailing(section, AppState::Done{}, totalOf(section, 12'000, 3), english());
+    if (section == Section::storage) {
+      EXPECT_FALSE(text.has_value());
+    } else {
+      EXPECT_EQ(text, "12 KB") << rawValue(section);
+    }
+  }
+}
+
+TEST(SidebarTrailing, IsAbsentWithoutATotalAndAtZeroBytes) {
+  EXPECT_FALSE(trailing(Section::privacy, AppState::Idle{}, {}, english()));
+  EXPECT_FALSE(trailing(Section::privacy, AppState::Idle{}, totalOf(Section::privacy, 0, 4),
+                        english()));
+}
+
+TEST(SidebarTrailing, IsTheTruncatedPercentageOfARunningSmartScanOnly) {
+  const AppState::ScanState scanning = AppState::Scanning{0.459, "Docker"};
+  Totals totals = totalOf(Section::smartScan, 12'000, 3);
+  totals.merge(totalOf(Section::privacy, 5'000, 1));
+  EXPECT_EQ(trailing(Section::smartScan, scanning, totals, english()), "45%");
+  EXPECT_EQ(trailing(Section::privacy, scanning, totals, english()), "5 KB");
+  EXPECT_EQ(trailing(Section::smartScan, AppState::Done{}, totals, english()), "12 KB");
+}
+
+TEST(SidebarHelp, IsASentenceForEachSectionWithFixedPlurals) {
+  EXPECT_EQ(helpOf(Section::smartScan), "1.5 MB of junk found in 1 items");
+  EXPECT_EQ(helpOf(Section::storage), "");
+  EXPECT_EQ(helpOf(Section::duplicates), "1.5 MB reclaimable across 1 extra copies");
+  EXPECT_EQ(helpOf(Section::largeFiles), "1 files over the size threshold, 1.5 MB in total");
+  EXPECT_EQ(helpOf(Section::systemData),
+            "1.5 MB Klarvik can remove from the folders macOS keeps out of Storage settings");
+  EXPECT_EQ(helpOf(Section::uninstaller), "1 apps installed, 1.5 MB on disk");
+  EXPECT_EQ(helpOf(Section::privacy), "1 trails, 1.5 MB");
+}
+
+TEST(SidebarHelp, IsAbsentWithoutATotalAndAtZeroBytes) {
+  for (const Section section : allSections()) {
+    EXPECT_FALSE(help(section, {}, english())) << rawValue(section);
+    EXPECT_FALSE(help(section, totalOf(section, 0, 9), english())) << rawValue(section);
+  }
+}
+
+TEST(SidebarRightHand, GivesTheActivityTheFirstWord) {
+  EXPECT_EQ(rightHand(ToolActivity::Progress{0.999}, "12 KB"), (RightHand{"99%", false}));
+  EXPECT_EQ(rightHand(ToolActivity::Finished{"3 MB"}, "12 KB"), (RightHand{"3 MB", true}));
+  EXPECT_EQ(rightHand(ToolActivity::Idle{}, "12 KB"), (RightHand{"12 KB", false}));
+  EXPECT_EQ(rightHand(ToolActivity::Running{}, "12 KB"), (RightHand{"12 KB", false}));
+  EXPECT_EQ(rightHand(ToolActivity::Idle{}, std::nullopt), (RightHand{"", false}));
+}
+
+TEST(SidebarRightHand, ShowsALoaderWhileTheToolWorks) {
+  EXPECT_TRUE(isWorking(ToolActivity::Running{}));
+  EXPECT_TRUE(isWorking(ToolActivity::Progress{0}));
+  EXPECT_FALSE(isWorking(ToolActivity::Idle{}));
+  EXPECT_FALSE(isWorking(ToolActivity::Finished{"3 MB"}));
+}
+
+TEST(DiskBlockTexts, TruncateThePercentage) {
+  EXPECT_EQ(percentFull({1000, 999, 1}), "99% full");
+  EXPECT_EQ(percentFull({1000, 1000, 0}), "100% full");
+  EXPECT_EQ(percentFull({0, 0, 0}), "0% full");
+}
+
+TEST(DiskBlockTexts, SayHowMuchIsFree) {
+  EXPECT_EQ(freeLine({500'000'000'000, 300'000'000'000, 200'000'000'000}, english()),
+            "200 GB free of 500 GB");
+}
+
+TEST(DiskBlockTexts, CallTheDiskNearlyFullStrictlyAboveNinetyPercent) {
+  EXPECT_FALSE(isNearlyFull({500'000'000'000, 450'000'000'000, 50'000'000'000}));
+  EXPECT_TRUE(isNearlyFull({500'000'000'000, 450'000'000'001, 49'999'999'999}));
+}
+
+TEST(DiskBlockTexts, NeverFillTheBarBelowNothing) {
+  EXPECT_EQ(usedFraction({0, 0, 0}), 0.0);
+  EXPECT_EQ(usedFraction({100, -5, 105}), 0.0);
+  EXPECT_EQ(usedFraction({100, 25, 75}), 0.25);
+}
+
+TrashFigures trashOf(std::int64_t items, std::int64_t bytes) {
+  TrashFigures trash;
+  trash.itemCount = items;
+  trash.bytes = bytes;
+  return trash;
+}
+
+TEST(TrashBlockTexts, SayHowManyItemsTakeHowMuch) {
+  EXPECT_EQ(trashSubtitle(trashOf(0, 0), english()), "Empty");
+  EXPECT_EQ(trashSubtitle(trashOf(1, 12'000), english()), "12 KB · 1 item");
+  EXPECT_EQ(trashSubtitle(trashOf(2, 12'000), english()), "12 KB · 2 items");
+}
+
+TEST(TrashBlockTexts, SayThatTheTrashIsBeingMeasured) {
+  TrashFigures trash = trashOf(1, 0);
+  trash.isMeasuring = true;
+  EXPECT_EQ(trashSubtitle(trash, english()), "1 item · measuring…");
+}
+
+TEST(TrashBlockTexts, SayThatAccessIsMissing) {
+  TrashFigures trash;
+  trash.isReadable = false;
+  EXPECT_EQ(trashSubtitle(trash, english()), "Needs Full Disk Access");
+  EXPECT_EQ(trashControl(trash), TrashControl::grant);
+  EXPECT_EQ(trashControlHelp(trash, english()), "macOS keeps the Trash behind Full Disk Access");
+}
+
+TEST(TrashBlockTexts, CountAnEmptyingUpToItsTotalAndNotBeyond) {
+  TrashFigures trash = trashOf(5, 12'000);
+  trash.isEmptying = true;
+  trash.isReadable = false;
+  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying…");
+  trash.emptyProgress = DeletionProgress{.completed = 0, .total = 0, .currentName = "", .freed = 0};
+  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying…");
+  trash.emptyProgress = DeletionProgress{.completed = 0, .total = 5, .currentName = "", .freed = 0};
+  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying 1 of 5");
+  trash.emptyProgress = DeletionProgress{.completed = 5, .total = 5, .currentName = "", .freed = 0};
+  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying 5 of 5");
+  EXPECT_EQ(trashControl(trash), TrashControl::progress);
+}
+
+TEST(TrashBlockTexts, OfferToEmptyOnlyWhatHoldsSomething) {
+  EXPECT_EQ(trashControl(trashOf(0, 0)), TrashControl::none);
+  EXPECT_EQ(trashControl(trashOf(3, 12'000)), TrashControl::empty);
+  EXPECT_EQ(trashControlHelp(trashOf(3, 12'000), english()),
+            "Delete everything in the Trash and reclaim 12 KB");
+}
+
+TEST(TrashBlockTexts, FillTheBinOnceThereIsSomethingInIt) {
+  EXPECT_EQ(trashSymbol(trashOf(0, 0)), "trash");
+  EXPECT_EQ(trashSymbol(trashOf(1, 0)), "trash.fill");
+}
+
+TEST(TrashBlockTexts, WarnBeforeEmptying) {
+  EXPECT_EQ(emptyTrashMessage(trashOf(1, 12'000), english()),
+            "1 item · 12 KB. This cannot be undone.");
+  EXPECT_EQ(emptyTrashMessage(trashOf(3, 12'000), english()),
+            "3 items · 12 KB. This cannot be undone.");
+}
+
+}  // namespace
+}  // namespace klarvik::sidebar
