@@ -40,7 +40,7 @@ Pressable {
         text: root.label
         size: 11
         weight: Font.DemiBold
-        font.letterSpacing: 0.4
+        tracking: 0.4
         color: Theme.textTertiary
     }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 #include "platform/platform.h"
@@ -18,6 +19,8 @@ namespace klarvik {
 /// everything handed in must outlive it.
 class AppShell : public QObject {
   Q_OBJECT
+  QML_NAMED_ELEMENT(AppShellModel)
+  QML_UNCREATABLE("The shell makes it.")
   Q_PROPERTY(klarvik::SidebarModel* sidebar READ sidebar CONSTANT)
   Q_PROPERTY(klarvik::DiskBlock* disk READ disk CONSTANT)
   Q_PROPERTY(klarvik::TrashBlock* trash READ trash CONSTANT)

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 #include "platform/platform.h"
 #include "state/disk_monitor.h"
@@ -11,6 +12,8 @@ namespace klarvik {
 /// How full the disk is, as the sidebar says it. Main thread only.
 class DiskBlock : public QObject {
   Q_OBJECT
+  QML_NAMED_ELEMENT(DiskBlockModel)
+  QML_UNCREATABLE("The shell makes it.")
   Q_PROPERTY(QString volumeName READ volumeName NOTIFY changed)
   Q_PROPERTY(QString percentFull READ percentFull NOTIFY changed)
   Q_PROPERTY(double usedFraction READ usedFraction NOTIFY changed)

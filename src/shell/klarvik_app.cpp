@@ -29,7 +29,7 @@ AppState& KlarvikApp::appState() {
 
 bool KlarvikApp::openMainWindow() {
   _shell = std::make_unique<AppShell>(landedPanes(), appState(), _shared, _desktop);
-  _window = MainWindow::open(*_shell);
+  _window = MainWindow::open(*_shell, _desktop);
   if (!_window) {
     return false;
   }

@@ -3,12 +3,19 @@
 #include <QUrl>
 #include <QVariant>
 
+#include "panes/kit/kit.h"
+
+void qml_register_types_Klarvik_SmartScan();
+void qml_register_types_Klarvik_Shell();
+
 namespace klarvik {
 
-std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell) {
+std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& desktop) {
   std::unique_ptr<MainWindow> opened(new MainWindow);
   QQmlApplicationEngine& engine = opened->_engine;
-  engine.addImportPath("qrc:/");
+  qml_register_types_Klarvik_SmartScan();
+  qml_register_types_Klarvik_Shell();
+  installKit(engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});
   engine.setInitialProperties({{"shell", QVariant::fromValue(&shell)}});
   engine.load(QUrl("qrc:/Klarvik/Shell/MainWindow.qml"));
   if (engine.rootObjects().isEmpty()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 #include "shell/landed_pane.h"
@@ -12,6 +13,8 @@ namespace klarvik {
 /// can be seen and reached. Main thread only.
 class PaneStack : public QAbstractListModel {
   Q_OBJECT
+  QML_NAMED_ELEMENT(PaneStackModel)
+  QML_UNCREATABLE("The shell makes it.")
  public:
   enum Role { ViewRole = Qt::UserRole, ModelRole, IsSelectedRole };
 

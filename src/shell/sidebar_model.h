@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <vector>
 
 #include "platform/formatting.h"
@@ -17,6 +18,8 @@ namespace klarvik {
 /// pane is not listed, nor is a heading without a section. Main thread only.
 class SidebarModel : public QAbstractListModel {
   Q_OBJECT
+  QML_NAMED_ELEMENT(SidebarModel)
+  QML_UNCREATABLE("The shell makes it.")
  public:
   enum Role {
     IsHeadingRole = Qt::UserRole,

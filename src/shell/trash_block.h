@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 #include "platform/platform.h"
 #include "state/permissions_manager.h"
@@ -12,6 +13,8 @@ namespace klarvik {
 /// What the Trash holds, and how to look into it or empty it. Main thread only.
 class TrashBlock : public QObject {
   Q_OBJECT
+  QML_NAMED_ELEMENT(TrashBlockModel)
+  QML_UNCREATABLE("The shell makes it.")
   Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
   Q_PROPERTY(QString subtitle READ subtitle NOTIFY changed)
   Q_PROPERTY(Control control READ control NOTIFY changed)

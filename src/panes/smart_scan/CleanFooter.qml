@@ -9,9 +9,8 @@ ToolFooter {
 
     selectionSummary: model.selectionSummary
     explanation: model.hint
-    buttonTitle: model.buttonTitle
-    isEnabled: model.isEnabled
-    isBusy: model.isBusy
-    onTriggered: model.clean()
-    onStopped: model.stop()
+    buttonTitle: model.shown.buttonLabel
+    shown: model.shown
+    onAction: model.clean()
+    onStop: model.stop()
 }

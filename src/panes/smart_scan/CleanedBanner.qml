@@ -3,26 +3,34 @@ import QtQuick.Layouts
 import Klarvik.Kit
 
 /// What the last clean freed, and the way back from it.
-Rectangle {
+Item {
     id: root
 
     required property CleanedBannerModel model
 
-    implicitHeight: content.implicitHeight + 24
-    radius: 10
-    color: Theme.raised
-    border.color: Theme.hairlineStrong
+    width: parent ? parent.width : implicitWidth
+    implicitHeight: content.implicitHeight + 24 + 14
     Accessible.role: Accessible.Notification
     Accessible.name: headline.text
+
+    Rectangle {
+        anchors.fill: content
+        anchors.margins: -12
+        anchors.leftMargin: -16
+        radius: 10
+        color: Theme.raised
+        border.color: Theme.hairlineStrong
+    }
 
     RowLayout {
         id: content
 
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.leftMargin: 16
-        anchors.rightMargin: 10
+        anchors.top: parent.top
+        anchors.topMargin: 12
+        anchors.leftMargin: Theme.sidePadding + 16
+        anchors.rightMargin: Theme.sidePadding + 12
         spacing: 12
 
         Symbol {

@@ -15,26 +15,27 @@ Pressable {
     implicitWidth: texts.implicitWidth + 24
     implicitHeight: 30
 
-    Rectangle {
-        anchors.fill: parent
+    background: Rectangle {
         radius: Theme.cornerRadius
         color: Theme.white(root.down ? 0.1 : root.hovered ? 0.07 : 0.04)
     }
 
-    Row {
-        id: texts
+    contentItem: Item {
+        Row {
+            id: texts
 
-        anchors.centerIn: parent
-        spacing: 5
+            anchors.centerIn: parent
+            spacing: 5
 
-        MonospacedDigits {
-            text: root.size
-            size: 13
-        }
+            MonospacedDigits {
+                text: root.size
+                size: 13
+            }
 
-        KitText {
-            text: root.note
-            color: Theme.textSecondary
+            KitText {
+                text: root.note
+                color: Theme.textSecondary
+            }
         }
     }
 }

@@ -142,7 +142,7 @@ Item {
     }
 
     FocusRing {
-        anchors.margins: 3
         shown: root.isMarked
+        gap: -3
     }
 }

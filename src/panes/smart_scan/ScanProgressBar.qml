@@ -13,7 +13,7 @@ Rectangle {
 
     implicitHeight: 6
     radius: 3
-    color: Qt.rgba(1, 1, 1, 0.08)
+    color: Theme.white(0.08)
     Accessible.role: Accessible.ProgressBar
     Accessible.name: qsTr("Scan progress")
 
@@ -34,22 +34,24 @@ Rectangle {
             }
         }
 
-        DelayedAppearance {
-            anchors.fill: parent
-            visible: root.moves
-
-            Rectangle {
-                x: -width + (fill.width + width) * root.sweep
-                width: 90
-                height: fill.height
-                gradient: Gradient {
-                    orientation: Gradient.Horizontal
-                    GradientStop { position: 0; color: "transparent" }
-                    GradientStop { position: 0.5; color: Qt.rgba(1, 1, 1, 0.45) }
-                    GradientStop { position: 1; color: "transparent" }
-                }
+        Rectangle {
+            visible: delay.raised
+            x: -width + (fill.width + width) * root.sweep
+            width: 90
+            height: fill.height
+            gradient: Gradient {
+                orientation: Gradient.Horizontal
+                GradientStop { position: 0; color: Theme.clear }
+                GradientStop { position: 0.5; color: Theme.white(0.45) }
+                GradientStop { position: 1; color: Theme.clear }
             }
         }
+    }
+
+    DelayedFlag {
+        id: delay
+
+        running: root.moves
     }
 
     NumberAnimation on sweep {

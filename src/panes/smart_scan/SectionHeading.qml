@@ -6,7 +6,7 @@ KitText {
     color: Theme.textTertiary
     size: 11
     weight: Font.DemiBold
-    font.letterSpacing: 0.4
+    tracking: 0.4
     Accessible.role: Accessible.Heading
     Accessible.name: text
 }

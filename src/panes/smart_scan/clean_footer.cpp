@@ -8,39 +8,25 @@ CleanFooter::CleanFooter(AppState& appState, const Formatting& formatting, QObje
     : QObject(parent), _appState(appState), _formatting(formatting) {
   connect(&appState, &AppState::selectedItemsChanged, this, &CleanFooter::readSelection);
   connect(&appState, &AppState::scanResultsChanged, this, &CleanFooter::readSelection);
-  connect(&appState, &AppState::scanStateChanged, this, &CleanFooter::readState);
-  connect(&appState, &AppState::cleanProgressChanged, this, &CleanFooter::progressChanged);
-  readState();
+  connect(&appState, &AppState::scanStateChanged, this, &CleanFooter::readSelection);
+  connect(&appState, &AppState::cleanProgressChanged, this, &CleanFooter::changed);
   readSelection();
 }
 
-QString CleanFooter::buttonTitle() const {
-  return _isBusy ? QStringLiteral("Cleaning…") : _cleanTitle;
-}
-
-bool CleanFooter::isEnabled() const {
-  return _hasSelection && !_isBusy;
-}
-
-bool CleanFooter::isBusy() const {
-  return _isBusy;
-}
-
-/// A late report may leave a progress behind after the clean has ended: the state decides.
-bool CleanFooter::hasProgress() const {
-  return _isBusy && _appState.cleanProgress().has_value();
-}
-
-QString CleanFooter::progressLine() const {
-  return QString::fromStdString(smart_scan::removingLine(progress(), _formatting));
-}
-
-QString CleanFooter::progressName() const {
-  return QString::fromStdString(smart_scan::removingName(progress()));
-}
-
-double CleanFooter::progressFraction() const {
-  return smart_scan::removingFraction(progress());
+ToolFooterState CleanFooter::shown() const {
+  ToolFooterState state;
+  state.buttonLabel = isBusy() ? QStringLiteral("Cleaning…") : _cleanTitle;
+  state.buttonEnabled = isEnabled();
+  state.showsStop = isBusy();
+  // A late report may leave a progress behind after the clean has ended: the state decides.
+  const std::optional<DeletionProgress>& progress = _appState.cleanProgress();
+  state.showsProgress = isBusy() && progress.has_value();
+  if (state.showsProgress) {
+    state.firstLine = QString::fromStdString(smart_scan::removingLine(*progress, _formatting));
+    state.fraction = smart_scan::removingFraction(*progress);
+    state.lastLine = QString::fromStdString(smart_scan::removingName(*progress));
+  }
+  return state;
 }
 
 void CleanFooter::clean() {
@@ -63,24 +49,13 @@ void CleanFooter::readSelection() {
   _hasSelection = count > 0;
   _selectionSummary =
       QString::fromStdString(smart_scan::selectionSummary(size, count, _formatting));
-  _hint = QString::fromStdString(
-      smart_scan::selectionHint(count, _appState.selectionIsAllSafe()));
+  _hint = QString::fromStdString(smart_scan::selectionHint(count, _appState.selectionIsAllSafe()));
   _cleanTitle = QString::fromStdString(smart_scan::cleanTitle(size, _formatting));
   emit changed();
 }
 
-void CleanFooter::readState() {
-  const bool wasBusy = _isBusy;
-  _isBusy = std::holds_alternative<AppState::Cleaning>(_appState.scanState());
-  if (_isBusy != wasBusy) {
-    emit changed();
-    emit progressChanged();
-  }
-  readSelection();
-}
-
-DeletionProgress CleanFooter::progress() const {
-  return _appState.cleanProgress().value_or(DeletionProgress{});
+bool CleanFooter::isBusy() const {
+  return std::holds_alternative<AppState::Cleaning>(_appState.scanState());
 }
 
 }  // namespace klarvik

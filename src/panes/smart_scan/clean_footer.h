@@ -2,7 +2,9 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
+#include "panes/kit/tool_rules.h"
 #include "platform/formatting.h"
 #include "state/app_state.h"
 
@@ -11,40 +13,31 @@ namespace klarvik {
 /// What is selected, what will become of it, and how far a running clean is. Main thread only.
 class CleanFooter : public QObject {
   Q_OBJECT
+  QML_NAMED_ELEMENT(CleanFooterModel)
+  QML_UNCREATABLE("The pane makes it.")
   Q_PROPERTY(QString selectionSummary READ selectionSummary NOTIFY changed)
   Q_PROPERTY(QString hint READ hint NOTIFY changed)
-  Q_PROPERTY(QString buttonTitle READ buttonTitle NOTIFY changed)
-  Q_PROPERTY(bool isEnabled READ isEnabled NOTIFY changed)
-  Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
-  Q_PROPERTY(bool hasProgress READ hasProgress NOTIFY progressChanged)
-  Q_PROPERTY(QString progressLine READ progressLine NOTIFY progressChanged)
-  Q_PROPERTY(QString progressName READ progressName NOTIFY progressChanged)
-  Q_PROPERTY(double progressFraction READ progressFraction NOTIFY progressChanged)
+  Q_PROPERTY(klarvik::ToolFooterState shown READ shown NOTIFY changed)
 
  public:
   CleanFooter(AppState& appState, const Formatting& formatting, QObject* parent = nullptr);
 
   [[nodiscard]] QString selectionSummary() const { return _selectionSummary; }
   [[nodiscard]] QString hint() const { return _hint; }
-  [[nodiscard]] QString buttonTitle() const;
-  [[nodiscard]] bool isEnabled() const;
-  [[nodiscard]] bool isBusy() const;
-  [[nodiscard]] bool hasProgress() const;
-  [[nodiscard]] QString progressLine() const;
-  [[nodiscard]] QString progressName() const;
-  [[nodiscard]] double progressFraction() const;
+  [[nodiscard]] bool isEnabled() const { return _hasSelection && !isBusy(); }
+  /// What the kit's footer draws. A clean tells how many items are done, and not, as other tools
+  /// do, which one is under way.
+  [[nodiscard]] ToolFooterState shown() const;
 
   Q_INVOKABLE void clean();
   Q_INVOKABLE void stop();
 
  signals:
   void changed();
-  void progressChanged();
 
  private:
   void readSelection();
-  void readState();
-  [[nodiscard]] DeletionProgress progress() const;
+  [[nodiscard]] bool isBusy() const;
 
   AppState& _appState;
   const Formatting& _formatting;
@@ -52,7 +45,6 @@ class CleanFooter : public QObject {
   QString _hint;
   QString _cleanTitle;
   bool _hasSelection = false;
-  bool _isBusy = false;
 };
 
 }  // namespace klarvik

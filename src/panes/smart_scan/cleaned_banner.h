@@ -3,6 +3,7 @@
 #include <QCoro/QCoroTask>
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 #include "platform/formatting.h"
 #include "state/app_state.h"
@@ -14,6 +15,8 @@ namespace klarvik {
 /// The result of the last clean, and the way back from it. Main thread only.
 class CleanedBanner : public QObject {
   Q_OBJECT
+  QML_NAMED_ELEMENT(CleanedBannerModel)
+  QML_UNCREATABLE("The pane makes it.")
   Q_PROPERTY(bool isShown READ isShown NOTIFY changed)
   Q_PROPERTY(QString headline READ headline NOTIFY changed)
   Q_PROPERTY(QString detail READ detail NOTIFY changed)

@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <array>
 #include <vector>
 
@@ -15,6 +16,8 @@ namespace klarvik {
 /// What the other tools have found. Main thread only.
 class ElsewhereStrip : public QAbstractListModel {
   Q_OBJECT
+  QML_NAMED_ELEMENT(ElsewhereStripModel)
+  QML_UNCREATABLE("The pane makes it.")
   Q_PROPERTY(bool isShown READ isShown NOTIFY changed)
   Q_PROPERTY(QString pendingText READ pendingText NOTIFY changed)
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <cstddef>
 #include <vector>
 
@@ -14,6 +15,8 @@ namespace klarvik {
 /// thread only.
 class ReviewTable : public QAbstractListModel {
   Q_OBJECT
+  QML_NAMED_ELEMENT(ReviewTableModel)
+  QML_UNCREATABLE("The pane makes it.")
  public:
   enum class RowKind { category, item, showMore };
   Q_ENUM(RowKind)

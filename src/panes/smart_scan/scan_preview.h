@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,8 @@ namespace klarvik {
 /// What an idle pane shows: the categories that a scan goes through. Never changes.
 class ScanPreview : public QAbstractListModel {
   Q_OBJECT
+  QML_NAMED_ELEMENT(ScanPreviewModel)
+  QML_UNCREATABLE("The pane makes it.")
  public:
   struct Row {
     Uuid id = Uuid::random();

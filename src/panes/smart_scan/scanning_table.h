@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
 #include <cstdint>
 #include <string>
 #include <variant>
@@ -29,6 +30,8 @@ struct FoundRow {
 /// added and changed in place. Main thread only.
 class ScanningTable : public QAbstractListModel {
   Q_OBJECT
+  QML_NAMED_ELEMENT(ScanningTableModel)
+  QML_UNCREATABLE("The pane makes it.")
  public:
   enum class RowSafety { safe, review, inProgress };
   Q_ENUM(RowSafety)

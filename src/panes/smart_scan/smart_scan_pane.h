@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 #include <memory>
 
 #include "panes/smart_scan/clean_footer.h"
@@ -19,6 +20,8 @@ namespace klarvik {
 /// only; everything handed in must outlive it.
 class SmartScanPane : public QObject {
   Q_OBJECT
+  QML_NAMED_ELEMENT(SmartScanModel)
+  QML_UNCREATABLE("The pane makes it.")
   Q_PROPERTY(QString title READ title NOTIFY headerChanged)
   Q_PROPERTY(QString subtitle READ subtitle NOTIFY progressChanged)
   Q_PROPERTY(QString actionTitle READ actionTitle NOTIFY headerChanged)

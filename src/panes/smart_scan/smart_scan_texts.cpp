@@ -2,20 +2,9 @@
 
 #include <algorithm>
 
+#include "panes/kit/file_url.h"
+
 namespace klarvik::smart_scan {
-namespace {
-
-std::string withTilde(std::string path, const std::string& home) {
-  if (home.empty() || home == "/") {
-    return path;
-  }
-  for (auto at = path.find(home); at != std::string::npos; at = path.find(home, at + 1)) {
-    path.replace(at, home.size(), "~");
-  }
-  return path;
-}
-
-}  // namespace
 
 std::string paneTitle(const AppState::ScanState& state, std::int64_t totalSpaceFreeable,
                       const Formatting& formatting) {
@@ -29,11 +18,10 @@ std::string paneTitle(const AppState::ScanState& state, std::int64_t totalSpaceF
 }
 
 std::string scanningSubtitle(const AppState::ScanActivity& activity, const Path& home) {
-  if (!activity.currentPath) {
-    return printable(activity.categoryName);
-  }
-  return printable(activity.categoryName + " · " +
-                   withTilde(*activity.currentPath, home.native()));
+  const std::string name = printable(activity.categoryName);
+  return activity.currentPath
+             ? name + " · " + abbreviated(*activity.currentPath, home).toStdString()
+             : name;
 }
 
 std::string idleSubtitle(std::optional<Date> lastCleanDate, Date now,

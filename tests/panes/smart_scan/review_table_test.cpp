@@ -1,0 +1,195 @@
+#include "panes/smart_scan/review_table.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+
+#include "pane_fixture.h"
+#include "panes/kit/file_url.h"
+#include "panes/smart_scan/row_text.h"
+
+namespace klarvik {
+namespace {
+
+class ReviewTableRows : public PaneFixture {
+ protected:
+  ReviewTable& table() { return *pane.reviewTable(); }
+
+  /// Fails the test when rows come and go other than a view can follow.
+  QAbstractItemModelTester _tester{pane.reviewTable(),
+                                   QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(ReviewTableRows, AreNoneBeforeTheFirstScanAndWhileOneRuns) {
+  addCache("a");
+  EXPECT_EQ(table().rowCount(), 0);
+  desk.gatedCommand = "docker";
+  desk.commandGate.close();
+  appState.startScan();
+  ASSERT_TRUE(turnUntil([this] { return desk.commandGate.waiting() == 1; }));
+  ASSERT_TRUE(turnUntil([this] { return !appState.scanResults().empty(); }));
+  EXPECT_EQ(table().rowCount(), 0);
+  desk.commandGate.open();
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
+  EXPECT_EQ(reviewedNames(), QStringList{"App Caches"});
+}
+
+TEST_F(ReviewTableRows, DescribeACategory) {
+  addCache("a", 3);
+  addCache("b", 2);
+  ASSERT_TRUE(scan());
+  EXPECT_EQ(reviewed(0, ReviewTable::KindRole).toInt(),
+            static_cast<int>(ReviewTable::RowKind::category));
+  EXPECT_EQ(reviewed(0, ReviewTable::NameRole), "App Caches");
+  EXPECT_EQ(reviewed(0, ReviewTable::ItemsRole), "2");
+  EXPECT_EQ(reviewed(0, ReviewTable::SymbolRole), "memorychip");
+  EXPECT_EQ(reviewed(0, ReviewTable::SafetyRole).toInt(), static_cast<int>(SafetyLevel::safe));
+  const QString size = byteText(appState.totalSpaceFreeable(), desk.formatting);
+  EXPECT_EQ(reviewed(0, ReviewTable::SizeRole), size);
+  EXPECT_EQ(reviewed(0, ReviewTable::DescriptionRole), "App Caches, " + size + ", Safe");
+}
+
+TEST_F(ReviewTableRows, ShowEightItemsWithoutAButtonForMore) {
+  for (int number = 0; number < 8; ++number) {
+    addCache("cache-" + std::to_string(number));
+  }
+  ASSERT_TRUE(scan());
+  table().activate(0);
+  EXPECT_EQ(table().rowCount(), 1 + 8);
+  EXPECT_FALSE(reviewedNames().contains("Show 0 more"));
+}
+
+TEST_F(ReviewTableRows, HoldTheNinthItemBackUntilAskedForAndThenShowAll) {
+  for (int number = 0; number < 9; ++number) {
+    addCache("cache-" + std::to_string(number), 10 - number);
+  }
+  ASSERT_TRUE(scan());
+  table().activate(0);
+  ASSERT_EQ(table().rowCount(), 1 + 8 + 1);
+  EXPECT_EQ(reviewed(9, ReviewTable::NameRole), "Show 1 more");
+  EXPECT_EQ(reviewed(1, ReviewTable::NameRole), "cache-0");
+  EXPECT_EQ(reviewed(8, ReviewTable::NameRole), "cache-7");
+
+  QSignalSpy reset(&table(), &ReviewTable::modelReset);
+  table().activate(9);
+  EXPECT_EQ(table().rowCount(), 1 + 9);
+  EXPECT_EQ(reviewed(9, ReviewTable::NameRole), "cache-8");
+  EXPECT_EQ(reset.count(), 0);
+}
+
+TEST_F(ReviewTableRows, GoWhenTheCategoryIsClosedAndStartWithEightWhenItIsOpenedAgain) {
+  for (int number = 0; number < 9; ++number) {
+    addCache("cache-" + std::to_string(number));
+  }
+  ASSERT_TRUE(scan());
+  table().activate(0);
+  table().activate(9);
+  table().activate(0);
+  EXPECT_EQ(table().rowCount(), 1);
+  table().activate(0);
+  EXPECT_EQ(table().rowCount(), 1 + 8 + 1);
+}
+
+TEST_F(ReviewTableRows, AreInTheOrderOfTheEngineWhateverTheOrderTheyWereFoundIn) {
+  for (int number = 0; number < 30; ++number) {
+    addCache("cache-" + std::to_string(number), 2 + (number * 7) % 5);
+  }
+  ASSERT_TRUE(scan());
+  table().activate(0);
+  table().activate(9);
+  std::vector<JunkItem> sorted = appState.scanResults().front().items;
+  sortItemsBySize(sorted);
+  ASSERT_EQ(table().rowCount(), 31);
+  for (int row = 1; row < table().rowCount(); ++row) {
+    EXPECT_EQ(reviewed(row, ReviewTable::NameRole).toString().toStdString(),
+              sorted[static_cast<std::size_t>(row - 1)].name);
+  }
+}
+
+TEST_F(ReviewTableRows, SelectAllOfACategoryUnlessAllAreSelected) {
+  addCache("a");
+  addCache("b");
+  ASSERT_TRUE(scan());
+  const auto selection = [this] {
+    return static_cast<ReviewTable::Selection>(reviewed(0, ReviewTable::SelectionRole).toInt());
+  };
+  EXPECT_EQ(selection(), ReviewTable::Selection::all);
+  table().toggleSelection(0);
+  EXPECT_EQ(selection(), ReviewTable::Selection::none);
+  table().activate(0);
+  table().toggleSelection(1);
+  EXPECT_EQ(selection(), ReviewTable::Selection::partial);
+  EXPECT_EQ(appState.selectedCount(), 1);
+  table().toggleSelection(0);
+  EXPECT_EQ(selection(), ReviewTable::Selection::all);
+}
+
+TEST_F(ReviewTableRows, SelectAnItemWhenPressed) {
+  addCache("a");
+  addCache("b");
+  ASSERT_TRUE(scan());
+  table().activate(0);
+  EXPECT_EQ(reviewed(1, ReviewTable::SelectionRole).toInt(),
+            static_cast<int>(ReviewTable::Selection::all));
+  table().activate(1);
+  EXPECT_EQ(reviewed(1, ReviewTable::SelectionRole).toInt(),
+            static_cast<int>(ReviewTable::Selection::none));
+}
+
+TEST_F(ReviewTableRows, IgnoreARowThatIsNotThere) {
+  addCache("a");
+  ASSERT_TRUE(scan());
+  for (const int row : {-1, 1, 99}) {
+    table().activate(row);
+    table().toggleSelection(row);
+  }
+  EXPECT_EQ(table().rowCount(), 1);
+  EXPECT_EQ(appState.selectedCount(), 1);
+}
+
+TEST_F(ReviewTableRows, ThatSurviveACleanStayOpenAndAreNotMadeAnew) {
+  for (int number = 0; number < 12; ++number) {
+    addCache("cache-" + std::to_string(number), 20 - number);
+  }
+  addArchive("Old");
+  ASSERT_TRUE(scan());
+  const int caches = static_cast<int>(reviewedNames().indexOf("App Caches"));
+  ASSERT_EQ(caches, 0);
+  table().activate(0);
+  table().toggleSelection(0);
+  table().toggleSelection(3);
+  table().toggleSelection(5);
+
+  QSignalSpy reset(&table(), &ReviewTable::modelReset);
+  const QPersistentModelIndex stays = table().index(4);
+  const QPersistentModelIndex goes = table().index(3);
+  ASSERT_TRUE(clean());
+  EXPECT_EQ(reset.count(), 0);
+  EXPECT_FALSE(goes.isValid());
+  ASSERT_TRUE(stays.isValid());
+  EXPECT_EQ(stays.row(), 3);
+  EXPECT_EQ(reviewedNames().mid(0, 10),
+            (QStringList{"App Caches", "cache-0", "cache-1", "cache-3", "cache-5", "cache-6",
+                         "cache-7", "cache-8", "cache-9", "Show 2 more"}));
+  EXPECT_EQ(reviewedNames().mid(10), QStringList{"Xcode Archives"});
+}
+
+TEST_F(ReviewTableRows, OfACategoryWithoutItemsLeftGo) {
+  addCache("a");
+  addArchive("Old");
+  ASSERT_TRUE(scan());
+  ASSERT_EQ(table().rowCount(), 2);
+  ASSERT_TRUE(clean());
+  EXPECT_EQ(reviewedNames(), QStringList{"Xcode Archives"});
+}
+
+TEST_F(ReviewTableRows, CarryANameThatIsNotUtf8OrBreaksTheLine) {
+  addCache("odd\xff\nname");
+  ASSERT_TRUE(scan());
+  table().activate(0);
+  EXPECT_EQ(reviewed(1, ReviewTable::NameRole).toString(), QStringLiteral("odd\uFFFD\uFFFDname"));
+  EXPECT_EQ(pathOfUrl(reviewed(1, ReviewTable::UrlRole).toUrl()),
+            Path("/Users/ann/Library/Caches/odd\xff\nname"));
+}
+
+}  // namespace
+}  // namespace klarvik

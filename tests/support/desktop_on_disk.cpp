@@ -1,0 +1,29 @@
+#include "support/desktop_on_disk.h"
+
+namespace klarvik {
+
+DesktopOnDisk::DesktopOnDisk(const std::optional<SampleDiskOptions>& options) {
+  if (!options) {
+    disk.makeFolder("/Users/ann");
+    return;
+  }
+  sample = buildSampleDisk(disk.path(), *options);
+  commands.answer("xcrun simctl list devices unavailable --json 2>/dev/null",
+                  sample->simulatorListing);
+}
+
+std::optional<std::string> DesktopOnDisk::GatedCommands::run(const std::string& commandLine) {
+  if (!_owner.gatedCommand.empty() &&
+      commandLine.find(_owner.gatedCommand) != std::string::npos) {
+    _owner.commandGate.pass();
+  }
+  return _owner.commands.run(commandLine);
+}
+
+std::optional<Path> DesktopOnDisk::GatedTrash::moveToTrash(const Path& item,
+                                                           const PlaceCheck& mayMove) {
+  _owner.trashGate.pass();
+  return LinuxTrash::moveToTrash(item, mayMove);
+}
+
+}  // namespace klarvik

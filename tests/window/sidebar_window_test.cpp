@@ -1,0 +1,128 @@
+#include "window_fixture.h"
+
+namespace klarvik {
+namespace {
+
+class SidebarWindow : public WindowFixture {
+ protected:
+  [[nodiscard]] bool trashIsMeasured() {
+    return turnUntil([this] { return !shared->trashMonitor().isMeasuring(); });
+  }
+};
+class SidebarWindowOverAnEmptyHome : public EmptyHomeWindowFixture {};
+
+TEST_F(SidebarWindow, ListsOnlySectionsThatHaveAPaneAndNoHeadingWithoutASection) {
+  openWindow();
+  EXPECT_TRUE(shows("Smart Scan"));
+  for (const char* absent : {"STORAGE", "APPS", "Storage", "Duplicates", "Large Files",
+                             "System Data", "Uninstaller", "Privacy", "Settings"}) {
+    EXPECT_FALSE(shows(absent)) << absent;
+  }
+}
+
+TEST_F(SidebarWindow, SaysHowFullTheDiskIs) {
+  openWindow();
+  EXPECT_TRUE(shows("Macintosh HD"));
+  EXPECT_TRUE(shows("60% full"));
+  EXPECT_TRUE(shows("200 GB free of 500 GB"));
+  desk->volume.setAvailableBytes(20'000'000'000);
+  shared->diskMonitor().refreshNow();
+  settle();
+  EXPECT_TRUE(shows("96% full"));
+  picture("disk_nearly_full");
+}
+
+TEST_F(SidebarWindow, EmptiesTheTrashAfterAskingAndTouchesNothingElse) {
+  openWindow();
+  ASSERT_TRUE(trashIsMeasured());
+  const std::size_t entries = desk->sample->trashEntries;
+  ASSERT_GT(entries, 1U);
+  settle();
+  EXPECT_TRUE(shows("Empty"));
+  picture("trash_full");
+  const DiskSnapshot before = snapshotOf(desk->disk.path());
+
+  click("Empty");
+  settle();
+  EXPECT_TRUE(shows("Empty the Trash?"));
+  EXPECT_TRUE(shows(QString("%1 items · ").arg(entries)));
+  picture("trash_dialog");
+  click("Cancel");
+  settle();
+  EXPECT_EQ(snapshotOf(desk->disk.path()), before);
+
+  click("Empty");
+  settle();
+  click("Empty Trash");
+  ASSERT_TRUE(turnUntil([this] {
+    return !shared->trashMonitor().isEmptying() && shared->trashMonitor().itemCount() == 0;
+  }));
+  settle();
+  EXPECT_EQ(trashCount(), 0U);
+  picture("trash_empty");
+  for (const auto& [place, content] : before) {
+    const bool isTrash = place.find(".Trash") != std::string::npos ||
+                         place.find("share/Trash") != std::string::npos;
+    EXPECT_TRUE(isTrash || desk->disk.holds("/" + place)) << place;
+  }
+}
+
+TEST_F(SidebarWindow, ShowsTheTrashWhenPressedBesideItsButton) {
+  openWindow();
+  ASSERT_TRUE(trashIsMeasured());
+  QQuickItem* block = find("Trash, ");
+  ASSERT_NE(block, nullptr);
+  clickAt(*block, QPointF(20, block->height() / 2));
+  EXPECT_EQ(desk->workspace.openedFolders,
+            std::vector<Path>{desk->desktop.trash.folders().front()});
+}
+
+TEST_F(SidebarWindowOverAnEmptyHome, OffersNothingForAnEmptyTrash) {
+  openWindow();
+  ASSERT_TRUE(turnUntil([this] { return !shared->trashMonitor().isMeasuring(); }));
+  EXPECT_TRUE(shows("Trash, Empty"));
+  EXPECT_FALSE(shows("Empty Trash"));
+}
+
+TEST_F(SidebarWindow, ShowsThePercentageOfARunningScanAndThenWhatItFound) {
+  desk->gatedCommand = "docker";
+  desk->commandGate.close();
+  openWindow();
+  click("Scan");
+  ASSERT_TRUE(turnUntil([this] {
+    return desk->commandGate.waiting() == 1 &&
+           app->appState().scanActivity().categoryName == "Docker";
+  }));
+  const auto percent = static_cast<int>(
+      std::get<AppState::Scanning>(app->appState().scanState()).progress * 100);
+  EXPECT_TRUE(shows(QString("Smart Scan, %1%").arg(percent)));
+  desk->commandGate.open();
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
+  const QString size = QString::fromStdString(
+      desk->formatting.byteText(app->appState().totalSpaceFreeable()));
+  EXPECT_TRUE(shows("Smart Scan, " + size));
+  desk->clock.advance(std::chrono::seconds(7));
+  settle();
+  EXPECT_TRUE(shows("Smart Scan, " + size));
+}
+
+TEST_F(SidebarWindow, ForgetsTheKeysThatAFormerFeatureLeftBehind) {
+  desk->defaults.set("clean_schedule", std::string("weekly"));
+  desk->defaults.set("last_auto_clean", std::int64_t{5});
+  openWindow();
+  EXPECT_FALSE(desk->defaults.object("clean_schedule"));
+  EXPECT_FALSE(desk->defaults.object("last_auto_clean"));
+  EXPECT_FALSE(desk->defaults.object("onboarding_complete"));
+  EXPECT_FALSE(desk->defaults.object("fda_prompt_shown"));
+}
+
+TEST_F(SidebarWindow, ReadsTheDiskAnewWhenTheApplicationComesToTheFront) {
+  openWindow();
+  desk->volume.setAvailableBytes(100'000'000'000);
+  emit qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+  settle();
+  EXPECT_TRUE(shows("80% full"));
+}
+
+}  // namespace
+}  // namespace klarvik

@@ -1,0 +1,275 @@
+#include "window_fixture.h"
+
+namespace klarvik {
+namespace {
+
+class SmartScanWindow : public WindowFixture {};
+class SmartScanWindowOverAnEmptyHome : public EmptyHomeWindowFixture {};
+
+TEST_F(SmartScanWindow, PreviewsWhatAScanLooksAt) {
+  openWindow();
+  EXPECT_EQ(window().title(), "Klarvik");
+  EXPECT_EQ(window().minimumSize(), QSize(920, 640));
+  EXPECT_TRUE(shows("WHAT A SCAN LOOKS AT"));
+  for (const CategoryType type : allCategoryTypes()) {
+    EXPECT_TRUE(shows(QString::fromStdString(std::string(rawValue(type)))));
+  }
+  EXPECT_TRUE(shows("Nothing is deleted by a scan. Items move to the Trash, never straight to "
+                    "permanent deletion, and system folders are refused outright."));
+  EXPECT_FALSE(shows("Clean "));
+  EXPECT_FALSE(shows("FOUND BY THE OTHER TOOLS"));
+  picture("idle_preview");
+  window().resize(920, 640);
+  picture("idle_preview_920x640");
+  window().resize(1600, 1000);
+  picture("idle_preview_1600x1000");
+}
+
+TEST_F(SmartScanWindow, ShowsAScanWhileItRunsAndKeepsWhatArrivedWhenStopped) {
+  desk->gatedCommand = "docker";
+  desk->commandGate.close();
+  openWindow();
+  click("Scan");
+  ASSERT_TRUE(turnUntil([this] {
+    return desk->commandGate.waiting() == 1 &&
+           app->appState().scanActivity().categoryName == "Docker";
+  }));
+  EXPECT_TRUE(shows("Scanning 9 of 11 categories"));
+  EXPECT_TRUE(shows("FOUND SO FAR"));
+  picture("scanning");
+  window().resize(920, 640);
+  picture("scanning_920x640");
+  const auto found = app->appState().scanResults().size();
+  ASSERT_GT(found, 3U);
+
+  click("Stop");
+  EXPECT_TRUE(is<AppState::Done>());
+  EXPECT_EQ(app->appState().scanResults().size(), found);
+  EXPECT_TRUE(shows("Rescan"));
+}
+
+TEST_F(SmartScanWindow, OpensACategoryShowsTheRestAndClosesIt) {
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  picture("done");
+  window().resize(920, 640);
+  picture("done_920x640");
+  window().resize(1600, 1000);
+  picture("done_1600x1000");
+
+  click("App Caches");
+  settle();
+  EXPECT_TRUE(shows("com.spotify.client"));
+  EXPECT_TRUE(shows("Show 2 more"));
+  picture("expanded");
+  click("Show 2 more");
+  settle();
+  EXPECT_TRUE(shows("CocoaPods"));
+  EXPECT_FALSE(shows("Show 2 more"));
+  picture("expanded_all");
+  click("App Caches");
+  settle();
+  EXPECT_FALSE(shows("com.spotify.client"));
+}
+
+TEST_F(SmartScanWindow, RevealsAnItemInTheFileManager) {
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  click("App Caches");
+  settle();
+  click("Show in Finder");
+  ASSERT_EQ(desk->workspace.revealedItems.size(), 1U);
+  EXPECT_EQ(desk->workspace.revealedItems.front().parent_path(),
+            desk->files.home() / "Library/Caches");
+}
+
+TEST_F(SmartScanWindow, CleansSafeItemsWithoutAskingAndTakesThemBack) {
+  openWindow();
+  const DiskSnapshot before = snapshotOf(desk->disk.path());
+  ASSERT_TRUE(scanToTheEnd());
+  ASSERT_TRUE(homeHolds("Library/Caches/com.spotify.client"));
+  click("App Caches");
+  clickSelectionBox("com.spotify.client");
+  settle();
+  picture("one_deselected");
+  click("Clean ");
+  EXPECT_FALSE(shows("Your selection includes Review items."));
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
+  settle();
+  EXPECT_TRUE(homeHolds("Library/Caches/com.spotify.client"));
+  EXPECT_FALSE(homeHolds("Library/Caches/com.acme.writer"));
+  EXPECT_TRUE(shows("Restore"));
+  picture("cleaned_banner");
+  window().resize(920, 640);
+  picture("cleaned_banner_920x640");
+
+  const auto restorable = app->appState().lastClean()->restorable;
+  ASSERT_FALSE(restorable.empty());
+  click("Restore");
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
+  for (const auto& [original, trashed] : restorable) {
+    EXPECT_TRUE(desk->disk.holds(original)) << original;
+  }
+  EXPECT_FALSE(shows("Restore"));
+  EXPECT_EQ(snapshotOf(desk->disk.onDisk("/Users/ann/Library/Caches")),
+            [&] {
+              DiskSnapshot caches;
+              const std::string prefix = "Users/ann/Library/Caches/";
+              for (const auto& [place, content] : before) {
+                if (place.starts_with(prefix)) {
+                  caches[place.substr(prefix.size())] = content;
+                }
+              }
+              return caches;
+            }());
+}
+
+TEST_F(SmartScanWindow, AsksBeforeReviewItemsGoAndCancelChangesNothing) {
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  clickSelectionBox("Xcode Archives");
+  const std::int64_t selected = app->appState().selectedCount();
+  const DiskSnapshot before = snapshotOf(desk->disk.path());
+  click("Clean ");
+  settle();
+  EXPECT_TRUE(shows("Your selection includes Review items"));
+  picture("review_dialog");
+  click("Cancel");
+  settle();
+  EXPECT_FALSE(shows("Clean anyway"));
+  EXPECT_TRUE(is<AppState::Done>());
+  EXPECT_EQ(app->appState().selectedCount(), selected);
+  EXPECT_EQ(snapshotOf(desk->disk.path()), before);
+
+  click("Clean ");
+  settle();
+  press(Qt::Key_Escape);
+  settle();
+  EXPECT_FALSE(shows("Clean anyway"));
+  EXPECT_EQ(snapshotOf(desk->disk.path()), before);
+
+  click("Clean ");
+  settle();
+  click("Clean anyway");
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
+  EXPECT_FALSE(app->appState().lastClean()->cleanedCategories.empty());
+  EXPECT_TRUE(app->appState().lastClean()->cleanedCategories.contains(
+      CategoryType::xcodeArchives));
+}
+
+TEST_F(SmartScanWindow, StopsACleanAndTellsWhatWentUntilThen) {
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  desk->trashGate.close();
+  click("Clean ");
+  ASSERT_TRUE(turnUntil([this] { return desk->trashGate.waiting() > 0; }));
+  settle();
+  EXPECT_TRUE(shows("Cleaning…"));
+  EXPECT_TRUE(shows("Removing "));
+  picture("cleaning");
+  click("Stop");
+  desk->trashGate.open();
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
+  const AppState::CleanSummary& summary = *app->appState().lastClean();
+  for (const auto& [original, trashed] : summary.restorable) {
+    EXPECT_FALSE(desk->disk.holds(original));
+    EXPECT_TRUE(desk->disk.holds(trashed));
+  }
+  EXPECT_FALSE(app->appState().scanResults().empty());
+}
+
+TEST_F(SmartScanWindow, QuittingDuringARemovalFinishesTheItemInHandAndLosesNothing) {
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  std::vector<Path> selected;
+  for (const CleanCategory& category : app->appState().scanResults()) {
+    for (const JunkItem& item : category.items) {
+      if (app->appState().selectedItems().contains(item.id) && category.type != CategoryType::trashBin) {
+        selected.push_back(item.path);
+      }
+    }
+  }
+  const std::size_t trashedBefore = trashCount();
+  desk->trashGate.close();
+  click("Clean ");
+  ASSERT_TRUE(turnUntil([this] { return desk->trashGate.waiting() > 0; }));
+  closeWindow();
+  std::size_t gone = 0;
+  for (const Path& item : selected) {
+    gone += desk->disk.holds(item) ? 0 : 1;
+  }
+  EXPECT_GT(gone, 0U);
+  EXPECT_LT(gone, selected.size());
+  EXPECT_LE(trashCount(), trashedBefore + gone);
+}
+
+TEST_F(SmartScanWindowOverAnEmptyHome, SaysThatNothingIsWorthRemoving) {
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  settle();
+  EXPECT_TRUE(shows("Nothing worth removing"));
+  EXPECT_TRUE(shows("Klarvik found no junk in the places it looks."));
+  EXPECT_FALSE(shows("Clean "));
+  picture("nothing_found");
+}
+
+TEST_F(SmartScanWindowOverAnEmptyHome, ShowsALongNameAndAnOddOneWithoutBreakingTheRow) {
+  const std::string longName(240, 'x');
+  desk->disk.makeFile(desk->files.home() / "Library/Caches" / longName / "data", 3'000'000);
+  desk->disk.makeFile(desk->files.home() / "Library/Caches" / "odd\xff\nname" / "data", 2'000'000);
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  click("App Caches");
+  settle();
+  EXPECT_TRUE(shows(QStringLiteral("odd\uFFFD\uFFFDname")));
+  picture("long_names");
+  click("Clean ");
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
+  EXPECT_FALSE(desk->disk.holds(desk->files.home() / "Library/Caches" / "odd\xff\nname"));
+}
+
+TEST_F(SmartScanWindow, IsUsedFromTheKeyboardAlone) {
+  openWindow();
+  ASSERT_TRUE(tabTo("Scan"));
+  press(Qt::Key_Space);
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
+  settle();
+  const auto& results = app->appState().scanResults();
+  const QString first =
+      QString::fromStdString(std::string(rawValue(results.front().type)));
+  ASSERT_TRUE(tabTo(first));
+  picture("keyboard_focus");
+  press(Qt::Key_Return);
+  settle();
+  EXPECT_TRUE(app->appState().expandedCategories().contains(results.front().type));
+  press(Qt::Key_Down);
+  const std::int64_t selected = app->appState().selectedCount();
+  press(Qt::Key_Space);
+  EXPECT_NE(app->appState().selectedCount(), selected);
+  press(Qt::Key_Space);
+  EXPECT_EQ(app->appState().selectedCount(), selected);
+  picture("keyboard_item");
+  ASSERT_TRUE(tabTo("Clean "));
+  press(Qt::Key_Return);
+  ASSERT_TRUE(turnUntil([this] { return !is<AppState::Done>(); }));
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
+  ASSERT_TRUE(tabTo("Restore"));
+  press(Qt::Key_Space);
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
+}
+
+TEST_F(SmartScanWindow, ScansByItselfAtLaunchUnlessThatIsTurnedOff) {
+  desk->defaults.remove("backgroundScanOnLaunch");
+  openWindow();
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
+  EXPECT_FALSE(app->appState().scanResults().empty());
+}
+
+TEST_F(SmartScanWindow, StaysIdleAtLaunchWhenAutomaticScansAreOff) {
+  openWindow();
+  settle();
+  EXPECT_TRUE(is<AppState::Idle>());
+}
+
+}  // namespace
+}  // namespace klarvik

@@ -1,0 +1,182 @@
+#include "window_fixture.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QImage>
+#include <QMutex>
+
+namespace klarvik {
+namespace {
+
+QStringList warnings;
+QMutex warningsMutex;
+
+void rememberWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type != QtDebugMsg && type != QtInfoMsg) {
+    const QMutexLocker lock(&warningsMutex);
+    warnings << message;
+  }
+}
+
+class ApplicationEnvironment final : public ::testing::Environment {
+ public:
+  void SetUp() override {
+    _application = std::make_unique<QGuiApplication>(_count, _arguments);
+    qInstallMessageHandler(rememberWarning);
+  }
+  void TearDown() override { _application.reset(); }
+
+ private:
+  int _count = 1;
+  char _name[8] = "klarvik";
+  char* _arguments[2] = {_name, nullptr};
+  std::unique_ptr<QGuiApplication> _application;
+};
+
+::testing::Environment* const applicationEnvironment =
+    ::testing::AddGlobalTestEnvironment(new ApplicationEnvironment);
+
+bool isOnScreen(const QQuickItem& item) {
+  if (!item.isVisible() || item.width() <= 0 || item.height() <= 0) {
+    return false;
+  }
+  for (const QQuickItem* at = &item; at != nullptr; at = at->parentItem()) {
+    if (at->opacity() == 0) {
+      return false;
+    }
+  }
+  const QRectF place = item.mapRectToScene(item.boundingRect());
+  return QRectF(QPointF(), item.window()->size()).intersects(place);
+}
+
+bool isCalled(const QQuickItem& item, const QString& name) {
+  for (const char* property : {"title", "description", "text"}) {
+    if (item.property(property).toString().startsWith(name)) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// The last one that is drawn, and so the one on top.
+QQuickItem* findIn(QQuickItem& item, const std::function<bool(const QQuickItem&)>& matches) {
+  QQuickItem* found = matches(item) && isOnScreen(item) ? &item : nullptr;
+  for (QQuickItem* child : item.childItems()) {
+    if (QQuickItem* inside = findIn(*child, matches)) {
+      found = found != nullptr && found == &item ? found : inside;
+    }
+  }
+  return found;
+}
+
+}  // namespace
+
+void WindowFixture::SetUp() {
+  warnings.clear();
+  desk = std::make_unique<DesktopOnDisk>(diskOptions);
+  shared = std::make_unique<SharedState>(desk->desktop);
+  desk->defaults.set("backgroundScanOnLaunch", false);
+}
+
+void WindowFixture::TearDown() {
+  closeWindow();
+  shared.reset();
+  const QMutexLocker lock(&warningsMutex);
+  EXPECT_TRUE(warnings.isEmpty()) << warnings.join('\n').toStdString();
+}
+
+void WindowFixture::openWindow() {
+  app = std::make_unique<KlarvikApp>(desk->desktop, *shared);
+  ASSERT_TRUE(app->openMainWindow());
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+  window().requestActivate();
+  settle();
+}
+
+void WindowFixture::closeWindow() {
+  desk->commandGate.open();
+  desk->trashGate.open();
+  app.reset();
+}
+
+bool WindowFixture::turnUntil(const std::function<bool()>& reached) {
+  const QDeadlineTimer giveUp(60'000);
+  while (!reached()) {
+    if (giveUp.hasExpired()) {
+      return false;
+    }
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    desk->clock.advance(std::chrono::milliseconds(5));
+  }
+  return true;
+}
+
+void WindowFixture::settle() {
+  for (int turn = 0; turn < 40; ++turn) {
+    QTest::qWait(15);
+    desk->clock.advance(std::chrono::milliseconds(15));
+  }
+}
+
+QQuickItem* WindowFixture::find(const QString& name) const {
+  return findIn(*window().contentItem(),
+                [&](const QQuickItem& item) { return isCalled(item, name); });
+}
+
+void WindowFixture::click(const QString& name) {
+  QQuickItem* item = find(name);
+  ASSERT_NE(item, nullptr) << name.toStdString() << " is not on the screen";
+  clickAt(*item, item->boundingRect().center());
+}
+
+void WindowFixture::clickAt(QQuickItem& item, QPointF place) {
+  QTest::mouseClick(&window(), Qt::LeftButton, {}, item.mapToScene(place).toPoint());
+  QCoreApplication::processEvents();
+}
+
+void WindowFixture::clickSelectionBox(const QString& row) {
+  QQuickItem* item = find(row);
+  ASSERT_NE(item, nullptr) << row.toStdString() << " is not on the screen";
+  QQuickItem* box = findIn(*item, [](const QQuickItem& part) {
+    return part.inherits("QQuickAbstractButton") && part.property("canToggle").toBool();
+  });
+  ASSERT_NE(box, nullptr);
+  clickAt(*box, box->boundingRect().center());
+}
+
+void WindowFixture::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(&window(), key, modifiers);
+  QCoreApplication::processEvents();
+}
+
+bool WindowFixture::tabTo(const QString& name) {
+  for (int step = 0; step < 60; ++step) {
+    if (focused().startsWith(name)) {
+      return true;
+    }
+    press(Qt::Key_Tab);
+  }
+  return false;
+}
+
+QString WindowFixture::focused() const {
+  const QQuickItem* item = window().activeFocusItem();
+  if (item == nullptr) {
+    return {};
+  }
+  const QString description = item->property("description").toString();
+  return description.isEmpty() ? item->property("title").toString() : description;
+}
+
+void WindowFixture::picture(const QString& name) {
+  settle();
+  QDir().mkpath(KLARVIK_SCREENSHOTS);
+  ASSERT_TRUE(window().grabWindow().save(QString(KLARVIK_SCREENSHOTS "/%1.png").arg(name)));
+}
+
+bool WindowFixture::scanToTheEnd() {
+  click("Scan");
+  return turnUntil([this] { return is<AppState::Done>(); });
+}
+
+}  // namespace klarvik

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QStringList>
+#include <QTest>
+#include <functional>
+#include <memory>
+
+#include "shell/klarvik_app.h"
+#include "state/shared_state.h"
+#include "support/desktop_on_disk.h"
+#include "support/disk_snapshot.h"
+
+namespace klarvik {
+
+/// The real main window, drawn without a display, over a real disk; used with real events. Any
+/// warning that Qt or a QML file gives fails the test.
+class WindowFixture : public ::testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+
+  /// Automatic scans are off unless a test turns them on before this.
+  void openWindow();
+  void closeWindow();
+
+  /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
+  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached);
+  /// Lets animations end and everything be drawn.
+  void settle();
+
+  /// The item on the screen that is called so: its title, its text or its spoken description
+  /// begins with `name`. Null when there is none.
+  [[nodiscard]] QQuickItem* find(const QString& name) const;
+  [[nodiscard]] bool shows(const QString& name) const { return find(name) != nullptr; }
+  void click(const QString& name);
+  void clickAt(QQuickItem& item, QPointF place);
+  /// The box in front of the row that is called so.
+  void clickSelectionBox(const QString& row);
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  /// Tab until the item called so has the focus. False when it never gets it.
+  [[nodiscard]] bool tabTo(const QString& name);
+  [[nodiscard]] QString focused() const;
+
+  /// Draws the window into build/screenshots.
+  void picture(const QString& name);
+
+  template <typename State>
+  [[nodiscard]] bool is() {
+    return std::holds_alternative<State>(app->appState().scanState());
+  }
+  [[nodiscard]] bool scanToTheEnd();
+  [[nodiscard]] QQuickWindow& window() const { return *app->mainWindow(); }
+  [[nodiscard]] bool homeHolds(const std::string& place) const {
+    return desk->disk.holds(desk->files.home() / place);
+  }
+  [[nodiscard]] std::size_t trashCount() const {
+    return desk->desktop.trash.list().value_or(std::vector<Path>{}).size();
+  }
+
+  /// What the disk under the window is furnished with; to be set before SetUp is through.
+  std::optional<SampleDiskOptions> diskOptions = SampleDiskOptions{};
+
+  std::unique_ptr<DesktopOnDisk> desk;
+  std::unique_ptr<SharedState> shared;
+  std::unique_ptr<KlarvikApp> app;
+};
+
+/// The same over an empty home.
+class EmptyHomeWindowFixture : public WindowFixture {
+ protected:
+  EmptyHomeWindowFixture() { diskOptions.reset(); }
+};
+
+}  // namespace klarvik
