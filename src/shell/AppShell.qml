@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
+import Klarvik.Shell
 
 /// The sidebar, and beside it every pane that exists: all alive at once, one of them to be seen.
 Item {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
+import Klarvik.Shell
 
 /// How full the disk is.
 ColumnLayout {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Window
 import Klarvik.Kit
+import Klarvik.Shell
 
 /// The one main window.
 Window {

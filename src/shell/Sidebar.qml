@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
+import Klarvik.Shell
 
 /// The program's dashboard: how full the disk is, the sections, and the Trash.
 Rectangle {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
+import Klarvik.Shell
 
 /// What the Trash holds; pressing it anywhere but on its button shows the Trash.
 Pressable {

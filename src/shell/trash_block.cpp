@@ -12,12 +12,12 @@ sidebar::TrashFigures figures(const TrashMonitor& monitor) {
 
 TrashBlock::Control control(sidebar::TrashControl control) {
   switch (control) {
-    case sidebar::TrashControl::none: return TrashBlock::Control::none;
-    case sidebar::TrashControl::progress: return TrashBlock::Control::progress;
-    case sidebar::TrashControl::grant: return TrashBlock::Control::grant;
-    case sidebar::TrashControl::empty: return TrashBlock::Control::empty;
+    case sidebar::TrashControl::none: return TrashBlock::Control::None;
+    case sidebar::TrashControl::progress: return TrashBlock::Control::Progress;
+    case sidebar::TrashControl::grant: return TrashBlock::Control::Grant;
+    case sidebar::TrashControl::empty: return TrashBlock::Control::Empty;
   }
-  return TrashBlock::Control::none;
+  return TrashBlock::Control::None;
 }
 
 }  // namespace
@@ -43,10 +43,10 @@ TrashBlock::Control TrashBlock::control() const {
 
 QString TrashBlock::controlTitle() const {
   switch (control()) {
-    case Control::grant: return QStringLiteral("Grant");
-    case Control::empty: return QStringLiteral("Empty");
-    case Control::none:
-    case Control::progress: return {};
+    case Control::Grant: return QStringLiteral("Grant");
+    case Control::Empty: return QStringLiteral("Empty");
+    case Control::None:
+    case Control::Progress: return {};
   }
   return {};
 }
@@ -70,10 +70,10 @@ void TrashBlock::open() {
 
 void TrashBlock::pressControl() {
   switch (control()) {
-    case Control::grant: _permissions.openFullDiskAccessSettings(); return;
-    case Control::empty: setConfirming(true); return;
-    case Control::none:
-    case Control::progress: return;
+    case Control::Grant: _permissions.openFullDiskAccessSettings(); return;
+    case Control::Empty: setConfirming(true); return;
+    case Control::None:
+    case Control::Progress: return;
   }
 }
 

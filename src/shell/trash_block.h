@@ -24,7 +24,7 @@ class TrashBlock : public QObject {
   Q_PROPERTY(QString confirmationMessage READ confirmationMessage NOTIFY changed)
 
  public:
-  enum class Control { none, progress, grant, empty };
+  enum class Control { None, Progress, Grant, Empty };
   Q_ENUM(Control)
 
   TrashBlock(TrashMonitor& monitor, PermissionsManager& permissions, const Desktop& desktop,

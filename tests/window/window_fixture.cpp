@@ -87,7 +87,7 @@ void WindowFixture::TearDown() {
 
 void WindowFixture::openWindow() {
   app = std::make_unique<KlarvikApp>(desk->desktop, *shared);
-  ASSERT_TRUE(app->openMainWindow());
+  ASSERT_TRUE(app->openMainWindow()) << warnings.join('\n').toStdString();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
   window().requestActivate();
   settle();
@@ -138,7 +138,7 @@ void WindowFixture::clickSelectionBox(const QString& row) {
   QQuickItem* item = find(row);
   ASSERT_NE(item, nullptr) << row.toStdString() << " is not on the screen";
   QQuickItem* box = findIn(*item, [](const QQuickItem& part) {
-    return part.inherits("QQuickAbstractButton") && part.property("canToggle").toBool();
+    return part.property("canToggle").toBool();
   });
   ASSERT_NE(box, nullptr);
   clickAt(*box, box->boundingRect().center());

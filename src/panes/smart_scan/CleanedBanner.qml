@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
+import Klarvik.SmartScan
 
 /// What the last clean freed, and the way back from it.
 Item {

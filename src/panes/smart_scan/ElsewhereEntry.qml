@@ -1,5 +1,6 @@
 import QtQuick
 import Klarvik.Kit
+import Klarvik.SmartScan
 
 /// One tool's line in the strip.
 Pressable {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
+import Klarvik.SmartScan
 
 /// One category of a running scan: found already, or being measured.
 RowArrival {

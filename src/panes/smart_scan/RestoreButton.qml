@@ -1,5 +1,6 @@
 import QtQuick
 import Klarvik.Kit
+import Klarvik.SmartScan
 
 /// A secondary button that leads with a symbol.
 SecondaryButton {

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
+import Klarvik.SmartScan
 
 /// One row of the review: a category, one of its items, or the row that shows the rest.
 Item {
@@ -38,8 +39,6 @@ Item {
     Accessible.focusable: true
     Accessible.checkable: !isShowMore
     Accessible.checked: selection === ReviewTableModel.All
-    Accessible.expandable: isCategory
-    Accessible.expanded: isExpanded
     Accessible.onPressAction: table.activate(index)
     Accessible.onToggleAction: table.toggleSelection(index)
 

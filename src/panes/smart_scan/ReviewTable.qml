@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
+import Klarvik.SmartScan
 
 /// What a scan found. Arrow keys move through the rows, Space selects, Return opens, closes or
 /// shows the rest.

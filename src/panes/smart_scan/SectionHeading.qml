@@ -1,5 +1,6 @@
 import QtQuick
 import Klarvik.Kit
+import Klarvik.SmartScan
 
 /// The small capitals above a group.
 KitText {

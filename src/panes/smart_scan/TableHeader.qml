@@ -1,5 +1,6 @@
 import QtQuick
 import Klarvik.Kit
+import Klarvik.SmartScan
 
 /// The column headings that the tables of this pane share.
 ColumnHeader {

@@ -69,7 +69,7 @@ int ReviewTable::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ReviewTable::data(const QModelIndex& index, int role) const {
-  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role < KindRole) {
     return {};
   }
   const Place at = place(index.row());
@@ -78,12 +78,12 @@ QVariant ReviewTable::data(const QModelIndex& index, int role) const {
     return static_cast<int>(at.kind);
   }
   switch (at.kind) {
-    case RowKind::category: return categoryData(shown, role);
-    case RowKind::item: {
+    case RowKind::Category: return categoryData(shown, role);
+    case RowKind::Item: {
       const JunkItem* found = item(at);
       return found != nullptr ? itemData(*found, shown.type, role) : nothing(role);
     }
-    case RowKind::showMore:
+    case RowKind::ShowMore:
       return role == NameRole || role == DescriptionRole
                  ? QString::fromStdString(smart_scan::showMoreTitle(
                        static_cast<std::int64_t>(shown.hiddenCount)))
@@ -113,9 +113,9 @@ void ReviewTable::activate(int row) {
   }
   const Place at = place(row);
   switch (at.kind) {
-    case RowKind::category: _appState.toggleCategoryExpansion(_shown[at.category].type); return;
-    case RowKind::item: toggleSelection(row); return;
-    case RowKind::showMore: showAll(at.category); return;
+    case RowKind::Category: _appState.toggleCategoryExpansion(_shown[at.category].type); return;
+    case RowKind::Item: toggleSelection(row); return;
+    case RowKind::ShowMore: showAll(at.category); return;
   }
 }
 
@@ -125,9 +125,9 @@ void ReviewTable::toggleSelection(int row) {
   }
   const Place at = place(row);
   const ShownCategory& shown = _shown[at.category];
-  if (at.kind == RowKind::category) {
+  if (at.kind == RowKind::Category) {
     if (const CleanCategory* category = find(shown.type)) {
-      _appState.setSelection(category->items, selection(shown) != Selection::all);
+      _appState.setSelection(category->items, selection(shown) != Selection::All);
     }
   } else if (const JunkItem* found = item(at)) {
     _appState.toggleItem(found->id);
@@ -340,17 +340,17 @@ ReviewTable::Place ReviewTable::place(int row) const {
     ++at;
   }
   if (rest == 0) {
-    return {at, RowKind::category, 0};
+    return {at, RowKind::Category, 0};
   }
   const std::size_t item = rest - 1;
-  return {at, item < _shown[at].items.size() ? RowKind::item : RowKind::showMore, item};
+  return {at, item < _shown[at].items.size() ? RowKind::Item : RowKind::ShowMore, item};
 }
 
 /// Nothing while the rows are being brought in line with new results that lack the item.
 const JunkItem* ReviewTable::item(const Place& at) const {
   const ShownCategory& shown = _shown[at.category];
   const CleanCategory* category = find(shown.type);
-  if (category == nullptr || at.kind != RowKind::item) {
+  if (category == nullptr || at.kind != RowKind::Item) {
     return nullptr;
   }
   const ShownItem& shownItem = shown.items[at.item];
@@ -362,9 +362,9 @@ const JunkItem* ReviewTable::item(const Place& at) const {
 ReviewTable::Selection ReviewTable::selection(const ShownCategory& shown) const {
   const CleanCategory* category = find(shown.type);
   if (category == nullptr || shown.selectedCount == 0) {
-    return Selection::none;
+    return Selection::None;
   }
-  return shown.selectedCount == category->items.size() ? Selection::all : Selection::partial;
+  return shown.selectedCount == category->items.size() ? Selection::All : Selection::Partial;
 }
 
 QVariant ReviewTable::categoryData(const ShownCategory& shown, int role) const {
@@ -397,8 +397,8 @@ QVariant ReviewTable::itemData(const JunkItem& item, CategoryType type, int role
     case SymbolRole: return QStringLiteral("folder");
     case SafetyRole: return static_cast<int>(safety(type));
     case SelectionRole:
-      return static_cast<int>(_appState.selectedItems().contains(item.id) ? Selection::all
-                                                                          : Selection::none);
+      return static_cast<int>(_appState.selectedItems().contains(item.id) ? Selection::All
+                                                                          : Selection::None);
     case SizeRole: return byteText(item.size, _formatting);
     case DescriptionRole:
       return rowDescription(name, byteText(item.size, _formatting), verdictText(safety(type)));

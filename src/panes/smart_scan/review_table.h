@@ -18,9 +18,9 @@ class ReviewTable : public QAbstractListModel {
   QML_NAMED_ELEMENT(ReviewTableModel)
   QML_UNCREATABLE("The pane makes it.")
  public:
-  enum class RowKind { category, item, showMore };
+  enum class RowKind { Category, Item, ShowMore };
   Q_ENUM(RowKind)
-  enum class Selection { none, partial, all };
+  enum class Selection { None, Partial, All };
   Q_ENUM(Selection)
   enum Role {
     KindRole = Qt::UserRole,
@@ -69,7 +69,7 @@ class ReviewTable : public QAbstractListModel {
   };
   struct Place {
     std::size_t category = 0;  ///< in `_shown`
-    RowKind kind = RowKind::category;
+    RowKind kind = RowKind::Category;
     std::size_t item = 0;  ///< in the items shown of that category
   };
 

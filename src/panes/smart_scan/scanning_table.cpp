@@ -10,10 +10,10 @@ namespace {
 ScanningTable::RowSafety rowSafety(const FoundRow::Safety& safety) {
   const SafetyLevel* level = std::get_if<SafetyLevel>(&safety);
   if (level == nullptr) {
-    return ScanningTable::RowSafety::inProgress;
+    return ScanningTable::RowSafety::InProgress;
   }
-  return *level == SafetyLevel::safe ? ScanningTable::RowSafety::safe
-                                     : ScanningTable::RowSafety::review;
+  return *level == SafetyLevel::safe ? ScanningTable::RowSafety::Safe
+                                     : ScanningTable::RowSafety::Review;
 }
 
 QString verdict(const FoundRow::Safety& safety) {

@@ -33,7 +33,7 @@ class ScanningTable : public QAbstractListModel {
   QML_NAMED_ELEMENT(ScanningTableModel)
   QML_UNCREATABLE("The pane makes it.")
  public:
-  enum class RowSafety { safe, review, inProgress };
+  enum class RowSafety { Safe, Review, InProgress };
   Q_ENUM(RowSafety)
   enum Role { NameRole = Qt::UserRole, SafetyRole, ItemsRole, SizeRole, DescriptionRole };
 

@@ -34,13 +34,13 @@ QString SmartScanPane::title() const {
 QString SmartScanPane::subtitle() const {
   const auto text = [this]() -> std::string {
     switch (body()) {
-      case Body::scanning:
+      case Body::Scanning:
         return smart_scan::scanningSubtitle(_appState.scanActivity(), _desktop.files.home());
-      case Body::preview:
+      case Body::Preview:
         return smart_scan::idleSubtitle(_appState.lastCleanDate(), _desktop.clock.now(),
                                         _desktop.formatting);
-      case Body::review:
-      case Body::nothingFound: return smart_scan::resultSubtitle(_appState.scanResults());
+      case Body::Review:
+      case Body::NothingFound: return smart_scan::resultSubtitle(_appState.scanResults());
     }
     return {};
   };
@@ -61,12 +61,12 @@ bool SmartScanPane::offersSafeOnly() const {
 
 SmartScanPane::Body SmartScanPane::body() const {
   if (isScanning()) {
-    return Body::scanning;
+    return Body::Scanning;
   }
   if (std::holds_alternative<AppState::Idle>(_appState.scanState())) {
-    return Body::preview;
+    return Body::Preview;
   }
-  return _appState.scanResults().empty() ? Body::nothingFound : Body::review;
+  return _appState.scanResults().empty() ? Body::NothingFound : Body::Review;
 }
 
 QString SmartScanPane::scanningHeadline() const {
@@ -131,7 +131,7 @@ void SmartScanPane::progressMoved() {
 
 /// "Last clean 3 minutes ago" would otherwise stand still.
 void SmartScanPane::keepRelativeDateFresh() {
-  const bool isNeeded = body() == Body::preview && _appState.lastCleanDate().has_value();
+  const bool isNeeded = body() == Body::Preview && _appState.lastCleanDate().has_value();
   if (!isNeeded) {
     _minute.reset();
     return;

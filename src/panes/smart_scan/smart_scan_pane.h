@@ -39,7 +39,7 @@ class SmartScanPane : public QObject {
   Q_PROPERTY(klarvik::ElsewhereStrip* elsewhere READ elsewhere CONSTANT)
 
  public:
-  enum class Body { preview, scanning, review, nothingFound };
+  enum class Body { Preview, Scanning, Review, NothingFound };
   Q_ENUM(Body)
 
   /// The observable objects that the pane looks at.

@@ -38,7 +38,7 @@ TEST_F(ReviewTableRows, DescribeACategory) {
   addCache("b", 2);
   ASSERT_TRUE(scan());
   EXPECT_EQ(reviewed(0, ReviewTable::KindRole).toInt(),
-            static_cast<int>(ReviewTable::RowKind::category));
+            static_cast<int>(ReviewTable::RowKind::Category));
   EXPECT_EQ(reviewed(0, ReviewTable::NameRole), "App Caches");
   EXPECT_EQ(reviewed(0, ReviewTable::ItemsRole), "2");
   EXPECT_EQ(reviewed(0, ReviewTable::SymbolRole), "memorychip");
@@ -112,15 +112,15 @@ TEST_F(ReviewTableRows, SelectAllOfACategoryUnlessAllAreSelected) {
   const auto selection = [this] {
     return static_cast<ReviewTable::Selection>(reviewed(0, ReviewTable::SelectionRole).toInt());
   };
-  EXPECT_EQ(selection(), ReviewTable::Selection::all);
+  EXPECT_EQ(selection(), ReviewTable::Selection::All);
   table().toggleSelection(0);
-  EXPECT_EQ(selection(), ReviewTable::Selection::none);
+  EXPECT_EQ(selection(), ReviewTable::Selection::None);
   table().activate(0);
   table().toggleSelection(1);
-  EXPECT_EQ(selection(), ReviewTable::Selection::partial);
+  EXPECT_EQ(selection(), ReviewTable::Selection::Partial);
   EXPECT_EQ(appState.selectedCount(), 1);
   table().toggleSelection(0);
-  EXPECT_EQ(selection(), ReviewTable::Selection::all);
+  EXPECT_EQ(selection(), ReviewTable::Selection::All);
 }
 
 TEST_F(ReviewTableRows, SelectAnItemWhenPressed) {
@@ -129,10 +129,10 @@ TEST_F(ReviewTableRows, SelectAnItemWhenPressed) {
   ASSERT_TRUE(scan());
   table().activate(0);
   EXPECT_EQ(reviewed(1, ReviewTable::SelectionRole).toInt(),
-            static_cast<int>(ReviewTable::Selection::all));
+            static_cast<int>(ReviewTable::Selection::All));
   table().activate(1);
   EXPECT_EQ(reviewed(1, ReviewTable::SelectionRole).toInt(),
-            static_cast<int>(ReviewTable::Selection::none));
+            static_cast<int>(ReviewTable::Selection::None));
 }
 
 TEST_F(ReviewTableRows, IgnoreARowThatIsNotThere) {

@@ -24,7 +24,7 @@ class SmartScanPaneModel : public PaneFixture {
 };
 
 TEST_F(SmartScanPaneModel, PreviewsAScanWhenIdle) {
-  EXPECT_EQ(pane.body(), Body::preview);
+  EXPECT_EQ(pane.body(), Body::Preview);
   EXPECT_EQ(pane.title(), "Smart Scan");
   EXPECT_EQ(pane.subtitle(), "Nothing scanned yet");
   EXPECT_EQ(pane.actionTitle(), "Scan");
@@ -43,7 +43,7 @@ TEST_F(SmartScanPaneModel, PreviewsEveryCategoryInOrderWithItsVerdict) {
 TEST_F(SmartScanPaneModel, ShowsARunningScanAndStopsIt) {
   addCache("a");
   ASSERT_TRUE(startScanAndHoldIt());
-  EXPECT_EQ(pane.body(), Body::scanning);
+  EXPECT_EQ(pane.body(), Body::Scanning);
   EXPECT_EQ(pane.title(), "Scanning");
   EXPECT_TRUE(pane.subtitle().startsWith("Docker"));
   EXPECT_EQ(pane.scanningHeadline(), "Scanning 9 of 11 categories");
@@ -60,7 +60,7 @@ TEST_F(SmartScanPaneModel, ShowsARunningScanAndStopsIt) {
   EXPECT_TRUE(std::holds_alternative<FoundRow::InProgress>(rows[1].safety));
 
   pane.performAction();
-  EXPECT_EQ(pane.body(), Body::review);
+  EXPECT_EQ(pane.body(), Body::Review);
   EXPECT_EQ(pane.actionTitle(), "Rescan");
   EXPECT_TRUE(pane.scanningTable()->rows().empty());
   desk.commandGate.open();
@@ -81,7 +81,7 @@ TEST_F(SmartScanPaneModel, SaysWhatAScanFound) {
   addCache("b");
   addArchive("Old");
   ASSERT_TRUE(scan());
-  EXPECT_EQ(pane.body(), Body::review);
+  EXPECT_EQ(pane.body(), Body::Review);
   EXPECT_EQ(pane.title(), size(appState.totalSpaceFreeable()) + " found");
   EXPECT_EQ(pane.subtitle(), "2 categories · 3 items");
   EXPECT_EQ(pane.actionTitle(), "Rescan");
@@ -90,7 +90,7 @@ TEST_F(SmartScanPaneModel, SaysWhatAScanFound) {
 
 TEST_F(SmartScanPaneModel, SaysThatNothingWasFound) {
   ASSERT_TRUE(scan());
-  EXPECT_EQ(pane.body(), Body::nothingFound);
+  EXPECT_EQ(pane.body(), Body::NothingFound);
   EXPECT_EQ(pane.title(), "Smart Scan");
   EXPECT_EQ(pane.subtitle(), "0 categories · 0 items");
   EXPECT_EQ(pane.actionTitle(), "Scan");
@@ -155,7 +155,7 @@ TEST_F(SmartScanPaneModel, AsksBeforeRemovingReviewItemsAndCancelLeavesTheSelect
   pane.confirmClean();
   EXPECT_FALSE(pane.isConfirming());
   ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
-  EXPECT_EQ(pane.body(), Body::nothingFound);
+  EXPECT_EQ(pane.body(), Body::NothingFound);
   EXPECT_FALSE(desk.disk.holds("/Users/ann/Library/Developer/Xcode/Archives/Old.xcarchive"));
 }
 
@@ -258,7 +258,7 @@ TEST_F(SmartScanPaneModel, SaysHowLongTheLastCleanIsAgoAndKeepsThatFresh) {
   desk.commandGate.close();
   pane.performAction();
   pane.performAction();
-  ASSERT_EQ(pane.body(), Body::preview);
+  ASSERT_EQ(pane.body(), Body::Preview);
   desk.clock.advance(std::chrono::minutes(5));
   EXPECT_EQ(pane.subtitle(), "Last clean 5 minutes ago");
   QSignalSpy changed(&pane, &SmartScanPane::progressChanged);

@@ -1,0 +1,146 @@
+#include "shell/sidebar_model.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+
+#include "shell/app_shell.h"
+#include "state/shared_state.h"
+#include "support/desktop_on_disk.h"
+
+namespace klarvik {
+namespace {
+
+class SidebarRows : public ::testing::Test {
+ protected:
+  [[nodiscard]] std::vector<LandedPane> landed(const std::vector<Section>& sections) {
+    std::vector<LandedPane> panes;
+    for (const Section section : sections) {
+      panes.push_back({section, QUrl("qrc:/none.qml"), &_model});
+    }
+    return panes;
+  }
+  [[nodiscard]] std::unique_ptr<AppShell> shellWith(const std::vector<Section>& sections) {
+    return std::make_unique<AppShell>(landed(sections), appState, shared, desk.desktop);
+  }
+  [[nodiscard]] std::unique_ptr<AppShell> shellWithAll() {
+    return shellWith({allSections().begin(), allSections().end()});
+  }
+  static QVariant row(AppShell& shell, int at, SidebarModel::Role role) {
+    return shell.sidebar()->index(at).data(role);
+  }
+  static QStringList labels(AppShell& shell) {
+    QStringList labels;
+    for (int at = 0; at < shell.sidebar()->rowCount(); ++at) {
+      labels << row(shell, at, SidebarModel::LabelRole).toString();
+    }
+    return labels;
+  }
+
+ private:
+  int _count = 1;
+  char _name[6] = "tests";
+  char* _arguments[2] = {_name, nullptr};
+  QCoreApplication _application{_count, _arguments};
+  QObject _model;
+
+ protected:
+  DesktopOnDisk desk;
+  SharedState shared{desk.desktop};
+  AppState appState{desk.desktop, shared.toolActivity(), shared.scanCoordinator(),
+                    shared.scanHistory()};
+};
+
+TEST_F(SidebarRows, StandInTheirOrderBelowTheHeadingsOfTheirGroups) {
+  EXPECT_EQ(labels(*shellWithAll()),
+            (QStringList{"Smart Scan", "STORAGE", "Storage", "Duplicates", "Large Files",
+                         "System Data", "APPS", "Uninstaller", "Privacy"}));
+}
+
+TEST_F(SidebarRows, LeaveOutSectionsWithoutAPaneAndHeadingsWithoutASection) {
+  EXPECT_EQ(labels(*shellWith({Section::smartScan})), QStringList{"Smart Scan"});
+  EXPECT_EQ(labels(*shellWith({Section::privacy, Section::smartScan})),
+            (QStringList{"Smart Scan", "APPS", "Privacy"}));
+}
+
+TEST_F(SidebarRows, SelectASectionButNeverAHeading) {
+  const auto shell = shellWithAll();
+  EXPECT_TRUE(row(*shell, 0, SidebarModel::IsSelectedRole).toBool());
+  shell->sidebar()->select(1);
+  EXPECT_EQ(shared.navigator().section(), Section::smartScan);
+  shell->sidebar()->select(3);
+  EXPECT_EQ(shared.navigator().section(), Section::duplicates);
+  EXPECT_FALSE(row(*shell, 0, SidebarModel::IsSelectedRole).toBool());
+  EXPECT_TRUE(row(*shell, 3, SidebarModel::IsSelectedRole).toBool());
+  shell->sidebar()->select(-1);
+  shell->sidebar()->select(99);
+  EXPECT_EQ(shared.navigator().section(), Section::duplicates);
+}
+
+TEST_F(SidebarRows, ShowTheTotalOfAToolAndItsSentence) {
+  const auto shell = shellWithAll();
+  EXPECT_EQ(row(*shell, 8, SidebarModel::RightHandRole), "");
+  EXPECT_EQ(row(*shell, 8, SidebarModel::HelpRole), "Privacy");
+  shared.scanCoordinator().setTotal("privacy", {12'000, 3, Date{}});
+  EXPECT_EQ(row(*shell, 8, SidebarModel::RightHandRole), "12 KB");
+  EXPECT_EQ(row(*shell, 8, SidebarModel::HelpRole), "3 trails, 12 KB");
+  EXPECT_EQ(row(*shell, 8, SidebarModel::DescriptionRole), "Privacy, 12 KB");
+  shared.scanCoordinator().setTotal("privacy", {0, 0, Date{}});
+  EXPECT_EQ(row(*shell, 8, SidebarModel::RightHandRole), "");
+  EXPECT_EQ(row(*shell, 8, SidebarModel::HelpRole), "Privacy");
+}
+
+TEST_F(SidebarRows, ShowWhatAToolIsDoingAndItsSummaryForSixSeconds) {
+  const auto shell = shellWithAll();
+  shared.scanCoordinator().setTotal("privacy", {12'000, 3, Date{}});
+  shared.toolActivity().start("privacy");
+  EXPECT_TRUE(row(*shell, 8, SidebarModel::IsWorkingRole).toBool());
+  EXPECT_EQ(row(*shell, 8, SidebarModel::RightHandRole), "12 KB");
+  shared.toolActivity().setProgress("privacy", 0.239);
+  EXPECT_EQ(row(*shell, 8, SidebarModel::RightHandRole), "23%");
+  shared.toolActivity().finish("privacy", "9 MB");
+  EXPECT_FALSE(row(*shell, 8, SidebarModel::IsWorkingRole).toBool());
+  EXPECT_TRUE(row(*shell, 8, SidebarModel::HasCheckmarkRole).toBool());
+  EXPECT_EQ(row(*shell, 8, SidebarModel::RightHandRole), "9 MB");
+  desk.clock.advance(std::chrono::seconds(6));
+  EXPECT_FALSE(row(*shell, 8, SidebarModel::HasCheckmarkRole).toBool());
+  EXPECT_EQ(row(*shell, 8, SidebarModel::RightHandRole), "12 KB");
+}
+
+TEST_F(SidebarRows, TellTheViewOnlyOfWhatHasReallyChanged) {
+  const auto shell = shellWithAll();
+  shared.toolActivity().setProgress("privacy", 0.231);
+  QSignalSpy changed(shell->sidebar(), &SidebarModel::dataChanged);
+  shared.toolActivity().setProgress("privacy", 0.232);
+  EXPECT_EQ(changed.count(), 0);
+  shared.toolActivity().setProgress("privacy", 0.241);
+  EXPECT_EQ(changed.count(), 1);
+}
+
+TEST_F(SidebarRows, KeepEveryPaneAliveAndShowTheSelectedOne) {
+  const auto shell = shellWithAll();
+  PaneStack& panes = *shell->panes();
+  ASSERT_EQ(panes.rowCount(), static_cast<int>(sectionCount));
+  QSignalSpy removed(&panes, &PaneStack::rowsRemoved);
+  const auto isSelected = [&](int at) {
+    return panes.index(at).data(PaneStack::IsSelectedRole).toBool();
+  };
+  EXPECT_TRUE(isSelected(0));
+  shared.navigator().setSection(Section::largeFiles);
+  EXPECT_FALSE(isSelected(0));
+  EXPECT_TRUE(isSelected(3));
+  EXPECT_EQ(removed.count(), 0);
+}
+
+TEST_F(SidebarRows, CallTheDiskByItsNameOrByTheUsualOne) {
+  const auto shell = shellWithAll();
+  EXPECT_EQ(shell->disk()->volumeName(), "Macintosh HD");
+  desk.volume.setName("Data\xff");
+  EXPECT_EQ(shell->disk()->volumeName(), QStringLiteral("Data\uFFFD"));
+  desk.volume.setName(std::nullopt);
+  EXPECT_EQ(shell->disk()->volumeName(), "Macintosh HD");
+}
+
+}  // namespace
+}  // namespace klarvik
