@@ -8,7 +8,7 @@ Rectangle {
 
     property real progress: 0
     property bool isMeasuring: false
-    property real sweep: 0
+    property real sweep
 
     readonly property bool moves: isMeasuring && visible && !Kit.reduceMotion
 
