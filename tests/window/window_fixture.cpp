@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QImage>
 #include <QMutex>
+#include <filesystem>
 
 namespace klarvik {
 namespace {
@@ -166,6 +167,16 @@ QString WindowFixture::focused() const {
   }
   const QString description = item->property("description").toString();
   return description.isEmpty() ? item->property("title").toString() : description;
+}
+
+WindowFixture::Listing WindowFixture::listing(const Path& folder) const {
+  Listing found;
+  const Path start = desk->disk.onDisk(folder);
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(start)) {
+    const bool isFile = entry.is_regular_file() && !entry.is_symlink();
+    found[entry.path().lexically_relative(start).native()] = isFile ? entry.file_size() : 0;
+  }
+  return found;
 }
 
 void WindowFixture::picture(const QString& name) {

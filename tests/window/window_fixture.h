@@ -8,12 +8,13 @@
 #include <QStringList>
 #include <QTest>
 #include <functional>
+#include <map>
 #include <memory>
+#include <string>
 
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
 #include "support/desktop_on_disk.h"
-#include "support/disk_snapshot.h"
 
 namespace klarvik {
 
@@ -61,6 +62,11 @@ class WindowFixture : public ::testing::Test {
   [[nodiscard]] std::size_t trashCount() const {
     return desk->desktop.trash.list().value_or(std::vector<Path>{}).size();
   }
+
+  /// Everything below a folder of the disk, with the size of what is a file. The sample disk holds
+  /// files of many gigabytes, most of it holes, whose content no test could read through.
+  using Listing = std::map<std::string, std::uintmax_t>;
+  [[nodiscard]] Listing listing(const Path& folder = "/") const;
 
   /// What the disk under the window is furnished with; to be set before SetUp is through.
   std::optional<SampleDiskOptions> diskOptions = SampleDiskOptions{};

@@ -17,7 +17,7 @@ Rectangle {
     signal action()
     signal stop()
 
-    readonly property toolFooterState shown: Kit.toolFooter(root.selectionSummary, root.explanation,
+    property toolFooterState shown: Kit.toolFooter(root.selectionSummary, root.explanation,
                                                             root.buttonTitle, root.isEnabled, root.isBusy,
                                                             root.progress, root.canStop)
 
