@@ -32,7 +32,8 @@ ColumnLayout {
             activeFocusOnTab: true
             model: root.model
             highlightMoveDuration: 0
-            reuseItems: true
+            // A row kept for later use would go on being told to a screen reader.
+            reuseItems: false
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Categories found")
 

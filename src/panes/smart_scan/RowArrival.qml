@@ -15,7 +15,7 @@ Item {
     Behavior on opacity {
         SequentialAnimation {
             PauseAnimation {
-                duration: Math.min(root.index, 10) * 25
+                duration: Math.max(0, Math.min(root.index, 10)) * 25
             }
             NumberAnimation {
                 duration: 220

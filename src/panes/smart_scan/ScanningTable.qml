@@ -44,6 +44,7 @@ ColumnLayout {
             id: list
 
             model: root.model.scanningTable
+            reuseItems: false
 
             delegate: FoundRow {
                 width: list.width
