@@ -114,8 +114,8 @@ int main(int argumentCount, char** arguments) {
       QCoreApplication::exit(0);
     }
   });
-  QMetaObject::invokeMethod(&application, [&] { app.appState().startScan(); },
-                            Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      &application, [&] { app.appState().startScan(); }, Qt::QueuedConnection);
   QGuiApplication::exec();
   if (times.isEmpty()) {
     std::fputs("frames: the scan ended before a frame was drawn\n", stderr);

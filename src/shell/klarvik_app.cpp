@@ -33,7 +33,8 @@ bool KlarvikApp::openMainWindow() {
   if (!_window) {
     return false;
   }
-  QMetaObject::invokeMethod(this, [this] { launch(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this] { launch(); }, Qt::QueuedConnection);
   return true;
 }
 
@@ -53,8 +54,8 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
                              _shared.scanCoordinator(), _shared.toolActivity(),
                              _shared.navigator()},
       _desktop);
-  return {{Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"),
-           _smartScanPane.get()}};
+  return {
+      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()}};
 }
 
 QCoro::Task<> KlarvikApp::launch() {

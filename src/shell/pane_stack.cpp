@@ -25,10 +25,14 @@ QVariant PaneStack::data(const QModelIndex& index, int role) const {
   }
   const LandedPane& pane = _panes[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case ViewRole: return pane.view;
-    case ModelRole: return QVariant::fromValue(pane.model);
-    case IsSelectedRole: return pane.section == _navigator.section();
-    default: return {};
+    case ViewRole:
+      return pane.view;
+    case ModelRole:
+      return QVariant::fromValue(pane.model);
+    case IsSelectedRole:
+      return pane.section == _navigator.section();
+    default:
+      return {};
   }
 }
 

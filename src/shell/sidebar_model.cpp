@@ -59,25 +59,34 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const {
   }
   const Row& row = _rows[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case IsHeadingRole: return !row.section.has_value();
-    case LabelRole: return row.title;
-    case SymbolRole: return row.symbol;
-    case HelpRole: return row.help;
-    case RightHandRole: return row.rightHand;
-    case HasCheckmarkRole: return row.hasCheckmark;
-    case IsWorkingRole: return row.isWorking;
-    case IsSelectedRole: return row.isSelected;
+    case IsHeadingRole:
+      return !row.section.has_value();
+    case LabelRole:
+      return row.title;
+    case SymbolRole:
+      return row.symbol;
+    case HelpRole:
+      return row.help;
+    case RightHandRole:
+      return row.rightHand;
+    case HasCheckmarkRole:
+      return row.hasCheckmark;
+    case IsWorkingRole:
+      return row.isWorking;
+    case IsSelectedRole:
+      return row.isSelected;
     case DescriptionRole:
       return row.rightHand.isEmpty() ? row.title : row.title + QStringLiteral(", ") + row.rightHand;
-    default: return {};
+    default:
+      return {};
   }
 }
 
 QHash<int, QByteArray> SidebarModel::roleNames() const {
-  return {{IsHeadingRole, "isHeading"}, {LabelRole, "label"},
-          {SymbolRole, "symbol"},       {HelpRole, "toolHelp"},
-          {RightHandRole, "rightHand"}, {HasCheckmarkRole, "hasCheckmark"},
-          {IsWorkingRole, "isWorking"}, {IsSelectedRole, "isSelected"},
+  return {{IsHeadingRole, "isHeading"},    {LabelRole, "label"},
+          {SymbolRole, "symbol"},          {HelpRole, "toolHelp"},
+          {RightHandRole, "rightHand"},    {HasCheckmarkRole, "hasCheckmark"},
+          {IsWorkingRole, "isWorking"},    {IsSelectedRole, "isSelected"},
           {DescriptionRole, "description"}};
 }
 
@@ -105,8 +114,8 @@ SidebarModel::Row SidebarModel::row(Section section) const {
   const std::string key(rawValue(section));
   const ToolActivity::State activity = _activity.state(key);
   const sidebar::RightHand rightHand = sidebar::rightHand(
-      activity, sidebar::trailing(section, _appState.scanState(), _coordinator.totals(),
-                                  _formatting));
+      activity,
+      sidebar::trailing(section, _appState.scanState(), _coordinator.totals(), _formatting));
   const auto help = sidebar::help(section, _coordinator.totals(), _formatting);
   Row row;
   row.title = text(title(section));

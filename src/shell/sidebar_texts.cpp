@@ -43,8 +43,8 @@ std::string emptyingText(const std::optional<DeletionProgress>& progress) {
   if (!progress || progress->total < 1) {
     return "Emptying…";
   }
-  return "Emptying " + std::to_string(std::min(progress->total, progress->completed + 1)) +
-         " of " + std::to_string(progress->total);
+  return "Emptying " + std::to_string(std::min(progress->total, progress->completed + 1)) + " of " +
+         std::to_string(progress->total);
 }
 
 }  // namespace
@@ -79,16 +79,20 @@ std::optional<std::string> help(Section section, const Totals& totals,
   const std::string bytes = formatting.byteText(total->bytes);
   const std::string items = std::to_string(total->items);
   switch (section) {
-    case Section::smartScan: return bytes + " of junk found in " + items + " items";
-    case Section::storage: return std::nullopt;
-    case Section::duplicates: return bytes + " reclaimable across " + items + " extra copies";
+    case Section::smartScan:
+      return bytes + " of junk found in " + items + " items";
+    case Section::storage:
+      return std::nullopt;
+    case Section::duplicates:
+      return bytes + " reclaimable across " + items + " extra copies";
     case Section::largeFiles:
       return items + " files over the size threshold, " + bytes + " in total";
     case Section::systemData:
-      return bytes +
-             " Klarvik can remove from the folders macOS keeps out of Storage settings";
-    case Section::uninstaller: return items + " apps installed, " + bytes + " on disk";
-    case Section::privacy: return items + " trails, " + bytes;
+      return bytes + " Klarvik can remove from the folders macOS keeps out of Storage settings";
+    case Section::uninstaller:
+      return items + " apps installed, " + bytes + " on disk";
+    case Section::privacy:
+      return items + " trails, " + bytes;
   }
   return std::nullopt;
 }
@@ -113,8 +117,7 @@ double usedFraction(const DiskStats& stats) {
   if (stats.totalBytes < 1) {
     return 0;
   }
-  const double used =
-      static_cast<double>(stats.usedBytes) / static_cast<double>(stats.totalBytes);
+  const double used = static_cast<double>(stats.usedBytes) / static_cast<double>(stats.totalBytes);
   return std::clamp(used, 0.0, 1.0);
 }
 
@@ -127,8 +130,7 @@ std::string percentFull(const DiskStats& stats) {
 }
 
 std::string freeLine(const DiskStats& stats, const Formatting& formatting) {
-  return formatting.byteText(stats.freeBytes) + " free of " +
-         formatting.byteText(stats.totalBytes);
+  return formatting.byteText(stats.freeBytes) + " free of " + formatting.byteText(stats.totalBytes);
 }
 
 std::string_view trashSymbol(const TrashFigures& trash) {
@@ -162,11 +164,13 @@ TrashControl trashControl(const TrashFigures& trash) {
 
 std::string trashControlHelp(const TrashFigures& trash, const Formatting& formatting) {
   switch (trashControl(trash)) {
-    case TrashControl::grant: return "macOS keeps the Trash behind Full Disk Access";
+    case TrashControl::grant:
+      return "macOS keeps the Trash behind Full Disk Access";
     case TrashControl::empty:
       return "Delete everything in the Trash and reclaim " + formatting.byteText(trash.bytes);
     case TrashControl::none:
-    case TrashControl::progress: return "";
+    case TrashControl::progress:
+      return "";
   }
   return "";
 }

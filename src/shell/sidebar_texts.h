@@ -61,8 +61,7 @@ enum class TrashControl { none, progress, grant, empty };
 [[nodiscard]] std::string_view trashSymbol(const TrashFigures& trash);
 [[nodiscard]] std::string trashSubtitle(const TrashFigures& trash, const Formatting& formatting);
 [[nodiscard]] TrashControl trashControl(const TrashFigures& trash);
-[[nodiscard]] std::string trashControlHelp(const TrashFigures& trash,
-                                           const Formatting& formatting);
+[[nodiscard]] std::string trashControlHelp(const TrashFigures& trash, const Formatting& formatting);
 [[nodiscard]] std::string emptyTrashMessage(const TrashFigures& trash,
                                             const Formatting& formatting);
 

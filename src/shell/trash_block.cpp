@@ -12,10 +12,14 @@ sidebar::TrashFigures figures(const TrashMonitor& monitor) {
 
 TrashBlock::Control control(sidebar::TrashControl control) {
   switch (control) {
-    case sidebar::TrashControl::none: return TrashBlock::Control::None;
-    case sidebar::TrashControl::progress: return TrashBlock::Control::Progress;
-    case sidebar::TrashControl::grant: return TrashBlock::Control::Grant;
-    case sidebar::TrashControl::empty: return TrashBlock::Control::Empty;
+    case sidebar::TrashControl::none:
+      return TrashBlock::Control::None;
+    case sidebar::TrashControl::progress:
+      return TrashBlock::Control::Progress;
+    case sidebar::TrashControl::grant:
+      return TrashBlock::Control::Grant;
+    case sidebar::TrashControl::empty:
+      return TrashBlock::Control::Empty;
   }
   return TrashBlock::Control::None;
 }
@@ -33,8 +37,7 @@ QString TrashBlock::symbol() const {
 }
 
 QString TrashBlock::subtitle() const {
-  return QString::fromStdString(
-      sidebar::trashSubtitle(figures(_monitor), _desktop.formatting));
+  return QString::fromStdString(sidebar::trashSubtitle(figures(_monitor), _desktop.formatting));
 }
 
 TrashBlock::Control TrashBlock::control() const {
@@ -43,22 +46,23 @@ TrashBlock::Control TrashBlock::control() const {
 
 QString TrashBlock::controlTitle() const {
   switch (control()) {
-    case Control::Grant: return QStringLiteral("Grant");
-    case Control::Empty: return QStringLiteral("Empty");
+    case Control::Grant:
+      return QStringLiteral("Grant");
+    case Control::Empty:
+      return QStringLiteral("Empty");
     case Control::None:
-    case Control::Progress: return {};
+    case Control::Progress:
+      return {};
   }
   return {};
 }
 
 QString TrashBlock::controlHelp() const {
-  return QString::fromStdString(
-      sidebar::trashControlHelp(figures(_monitor), _desktop.formatting));
+  return QString::fromStdString(sidebar::trashControlHelp(figures(_monitor), _desktop.formatting));
 }
 
 QString TrashBlock::confirmationMessage() const {
-  return QString::fromStdString(
-      sidebar::emptyTrashMessage(figures(_monitor), _desktop.formatting));
+  return QString::fromStdString(sidebar::emptyTrashMessage(figures(_monitor), _desktop.formatting));
 }
 
 void TrashBlock::open() {
@@ -70,10 +74,15 @@ void TrashBlock::open() {
 
 void TrashBlock::pressControl() {
   switch (control()) {
-    case Control::Grant: _permissions.openFullDiskAccessSettings(); return;
-    case Control::Empty: setConfirming(true); return;
+    case Control::Grant:
+      _permissions.openFullDiskAccessSettings();
+      return;
+    case Control::Empty:
+      setConfirming(true);
+      return;
     case Control::None:
-    case Control::Progress: return;
+    case Control::Progress:
+      return;
   }
 }
 

@@ -24,13 +24,13 @@ TEST(SidebarLook, GivesEachSectionItsSymbolAndGroup) {
     std::string_view symbol;
     std::string_view group;
   };
-  for (const Row& row : {Row{Section::smartScan, "", ""},
-                         Row{Section::storage, "chart.bar.fill", "STORAGE"},
-                         Row{Section::duplicates, "doc.on.doc", "STORAGE"},
-                         Row{Section::largeFiles, "doc.text.magnifyingglass", "STORAGE"},
-                         Row{Section::systemData, "externaldrive", "STORAGE"},
-                         Row{Section::uninstaller, "square.dashed", "APPS"},
-                         Row{Section::privacy, "shield", "APPS"}}) {
+  for (const Row& row :
+       {Row{Section::smartScan, "", ""}, Row{Section::storage, "chart.bar.fill", "STORAGE"},
+        Row{Section::duplicates, "doc.on.doc", "STORAGE"},
+        Row{Section::largeFiles, "doc.text.magnifyingglass", "STORAGE"},
+        Row{Section::systemData, "externaldrive", "STORAGE"},
+        Row{Section::uninstaller, "square.dashed", "APPS"},
+        Row{Section::privacy, "shield", "APPS"}}) {
     EXPECT_EQ(symbol(row.section), row.symbol) << rawValue(row.section);
     EXPECT_EQ(group(row.section), row.group) << rawValue(row.section);
   }
@@ -49,8 +49,8 @@ TEST(SidebarTrailing, IsTheTotalOfTheTool) {
 
 TEST(SidebarTrailing, IsAbsentWithoutATotalAndAtZeroBytes) {
   EXPECT_FALSE(trailing(Section::privacy, AppState::Idle{}, {}, english()));
-  EXPECT_FALSE(trailing(Section::privacy, AppState::Idle{}, totalOf(Section::privacy, 0, 4),
-                        english()));
+  EXPECT_FALSE(
+      trailing(Section::privacy, AppState::Idle{}, totalOf(Section::privacy, 0, 4), english()));
 }
 
 TEST(SidebarTrailing, IsTheTruncatedPercentageOfARunningSmartScanOnly) {

@@ -13,8 +13,7 @@ DesktopOnDisk::DesktopOnDisk(const std::optional<SampleDiskOptions>& options) {
 }
 
 std::optional<std::string> DesktopOnDisk::GatedCommands::run(const std::string& commandLine) {
-  if (!_owner.gatedCommand.empty() &&
-      commandLine.find(_owner.gatedCommand) != std::string::npos) {
+  if (!_owner.gatedCommand.empty() && commandLine.find(_owner.gatedCommand) != std::string::npos) {
     _owner.commandGate.pass();
   }
   return _owner.commands.run(commandLine);

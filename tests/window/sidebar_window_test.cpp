@@ -61,8 +61,8 @@ TEST_F(SidebarWindow, EmptiesTheTrashAfterAskingAndTouchesNothingElse) {
   EXPECT_EQ(trashCount(), 0U);
   picture("trash_empty");
   for (const auto& [place, size] : before) {
-    const bool isTrash = place.find(".Trash") != std::string::npos ||
-                         place.find("share/Trash") != std::string::npos;
+    const bool isTrash =
+        place.find(".Trash") != std::string::npos || place.find("share/Trash") != std::string::npos;
     EXPECT_TRUE(isTrash || desk->disk.holds("/" + place)) << place;
   }
 }
@@ -93,13 +93,13 @@ TEST_F(SidebarWindow, ShowsThePercentageOfARunningScanAndThenWhatItFound) {
     return desk->commandGate.waiting() == 1 &&
            app->appState().scanActivity().categoryName == "Docker";
   }));
-  const auto percent = static_cast<int>(
-      std::get<AppState::Scanning>(app->appState().scanState()).progress * 100);
+  const auto percent =
+      static_cast<int>(std::get<AppState::Scanning>(app->appState().scanState()).progress * 100);
   EXPECT_TRUE(shows(QString("Smart Scan, %1%").arg(percent)));
   desk->commandGate.open();
   ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
-  const QString size = QString::fromStdString(
-      desk->formatting.byteText(app->appState().totalSpaceFreeable()));
+  const QString size =
+      QString::fromStdString(desk->formatting.byteText(app->appState().totalSpaceFreeable()));
   EXPECT_TRUE(shows("Smart Scan, " + size));
   desk->clock.advance(std::chrono::seconds(7));
   settle();

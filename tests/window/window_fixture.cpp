@@ -138,9 +138,8 @@ void WindowFixture::clickAt(QQuickItem& item, QPointF place) {
 void WindowFixture::clickSelectionBox(const QString& row) {
   QQuickItem* item = find(row);
   ASSERT_NE(item, nullptr) << row.toStdString() << " is not on the screen";
-  QQuickItem* box = findIn(*item, [](const QQuickItem& part) {
-    return part.property("canToggle").toBool();
-  });
+  QQuickItem* box =
+      findIn(*item, [](const QQuickItem& part) { return part.property("canToggle").toBool(); });
   ASSERT_NE(box, nullptr);
   clickAt(*box, box->boundingRect().center());
 }

@@ -15,6 +15,8 @@ CleanFooter::CleanFooter(AppState& appState, const Formatting& formatting, QObje
 
 ToolFooterState CleanFooter::shown() const {
   ToolFooterState state;
+  state.firstLine = _selectionSummary;
+  state.lastLine = _hint;
   state.buttonLabel = isBusy() ? QStringLiteral("Cleaning…") : _cleanTitle;
   state.buttonEnabled = isEnabled();
   state.showsStop = isBusy();

@@ -25,8 +25,7 @@ const std::array<ElsewhereStrip::Entry, 4>& ElsewhereStrip::entries() {
 }
 
 ElsewhereStrip::ElsewhereStrip(const ScanCoordinator& coordinator, const ToolActivity& activity,
-                               Navigator& navigator, const Formatting& formatting,
-                               QObject* parent)
+                               Navigator& navigator, const Formatting& formatting, QObject* parent)
     : QAbstractListModel(parent),
       _coordinator(coordinator),
       _activity(activity),
@@ -62,10 +61,14 @@ QVariant ElsewhereStrip::data(const QModelIndex& index, int role) const {
   }
   const Row& row = _rows[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case SizeRole: return byteText(row.bytes, _formatting);
-    case NoteRole: return QString::fromUtf8(row.entry->note);
-    case HelpRole: return QStringLiteral("Open ") + printableText(title(row.entry->section));
-    default: return {};
+    case SizeRole:
+      return byteText(row.bytes, _formatting);
+    case NoteRole:
+      return QString::fromUtf8(row.entry->note);
+    case HelpRole:
+      return QStringLiteral("Open ") + printableText(title(row.entry->section));
+    default:
+      return {};
   }
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 #include <QString>
-#include <QtQml/qqmlregistration.h>
 #include <array>
 #include <vector>
 

@@ -42,10 +42,14 @@ QVariant nothing(int role) {
   switch (role) {
     case ReviewTable::ColorRole:
     case ReviewTable::SafetyRole:
-    case ReviewTable::SelectionRole: return 0;
-    case ReviewTable::IsExpandedRole: return false;
-    case ReviewTable::UrlRole: return QUrl();
-    default: return QString();
+    case ReviewTable::SelectionRole:
+      return 0;
+    case ReviewTable::IsExpandedRole:
+      return false;
+    case ReviewTable::UrlRole:
+      return QUrl();
+    default:
+      return QString();
   }
 }
 
@@ -78,15 +82,16 @@ QVariant ReviewTable::data(const QModelIndex& index, int role) const {
     return static_cast<int>(at.kind);
   }
   switch (at.kind) {
-    case RowKind::Category: return categoryData(shown, role);
+    case RowKind::Category:
+      return categoryData(shown, role);
     case RowKind::Item: {
       const JunkItem* found = item(at);
       return found != nullptr ? itemData(*found, shown.type, role) : nothing(role);
     }
     case RowKind::ShowMore:
       return role == NameRole || role == DescriptionRole
-                 ? QString::fromStdString(smart_scan::showMoreTitle(
-                       static_cast<std::int64_t>(shown.hiddenCount)))
+                 ? QString::fromStdString(
+                       smart_scan::showMoreTitle(static_cast<std::int64_t>(shown.hiddenCount)))
                  : nothing(role);
   }
   return {};
@@ -113,9 +118,15 @@ void ReviewTable::activate(int row) {
   }
   const Place at = place(row);
   switch (at.kind) {
-    case RowKind::Category: _appState.toggleCategoryExpansion(_shown[at.category].type); return;
-    case RowKind::Item: toggleSelection(row); return;
-    case RowKind::ShowMore: showAll(at.category); return;
+    case RowKind::Category:
+      _appState.toggleCategoryExpansion(_shown[at.category].type);
+      return;
+    case RowKind::Item:
+      toggleSelection(row);
+      return;
+    case RowKind::ShowMore:
+      showAll(at.category);
+      return;
   }
 }
 
@@ -326,10 +337,9 @@ std::size_t ReviewTable::countSelected(CategoryType type) const {
 }
 
 std::size_t ReviewTable::firstRow(std::size_t at) const {
-  return std::accumulate(_shown.begin(), _shown.begin() + static_cast<std::ptrdiff_t>(at),
-                         std::size_t{0}, [](std::size_t rows, const ShownCategory& shown) {
-                           return rows + shown.rowCount();
-                         });
+  return std::accumulate(
+      _shown.begin(), _shown.begin() + static_cast<std::ptrdiff_t>(at), std::size_t{0},
+      [](std::size_t rows, const ShownCategory& shown) { return rows + shown.rowCount(); });
 }
 
 ReviewTable::Place ReviewTable::place(int row) const {
@@ -375,34 +385,51 @@ QVariant ReviewTable::categoryData(const ShownCategory& shown, int role) const {
   const QString name = printableText(rawValue(shown.type));
   const QString size = QString::fromStdString(category->formattedSize(_formatting));
   switch (role) {
-    case NameRole: return name;
-    case SymbolRole: return printableText(icon(shown.type));
-    case ColorRole: return static_cast<int>(color(shown.type));
-    case SafetyRole: return static_cast<int>(safety(shown.type));
-    case SelectionRole: return static_cast<int>(selection(shown));
-    case ItemsRole: return QString::number(category->items.size());
-    case SizeRole: return size;
-    case IsExpandedRole: return shown.isExpanded;
-    case DescriptionRole: return rowDescription(name, size, verdictText(safety(shown.type)));
-    default: return nothing(role);
+    case NameRole:
+      return name;
+    case SymbolRole:
+      return printableText(icon(shown.type));
+    case ColorRole:
+      return static_cast<int>(color(shown.type));
+    case SafetyRole:
+      return static_cast<int>(safety(shown.type));
+    case SelectionRole:
+      return static_cast<int>(selection(shown));
+    case ItemsRole:
+      return QString::number(category->items.size());
+    case SizeRole:
+      return size;
+    case IsExpandedRole:
+      return shown.isExpanded;
+    case DescriptionRole:
+      return rowDescription(name, size, verdictText(safety(shown.type)));
+    default:
+      return nothing(role);
   }
 }
 
 QVariant ReviewTable::itemData(const JunkItem& item, CategoryType type, int role) const {
   const QString name = printableText(item.name);
   switch (role) {
-    case NameRole: return name;
-    case PathRole: return printableText(item.path.native());
-    case UrlRole: return urlOfPath(item.path);
-    case SymbolRole: return QStringLiteral("folder");
-    case SafetyRole: return static_cast<int>(safety(type));
+    case NameRole:
+      return name;
+    case PathRole:
+      return printableText(item.path.native());
+    case UrlRole:
+      return urlOfPath(item.path);
+    case SymbolRole:
+      return QStringLiteral("folder");
+    case SafetyRole:
+      return static_cast<int>(safety(type));
     case SelectionRole:
       return static_cast<int>(_appState.selectedItems().contains(item.id) ? Selection::All
                                                                           : Selection::None);
-    case SizeRole: return byteText(item.size, _formatting);
+    case SizeRole:
+      return byteText(item.size, _formatting);
     case DescriptionRole:
       return rowDescription(name, byteText(item.size, _formatting), verdictText(safety(type)));
-    default: return nothing(role);
+    default:
+      return nothing(role);
   }
 }
 

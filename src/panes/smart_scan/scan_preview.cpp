@@ -20,9 +20,12 @@ QVariant ScanPreview::data(const QModelIndex& index, int role) const {
   }
   const Row& row = _rows[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case NameRole: return printableText(row.name);
-    case SafetyRole: return static_cast<int>(row.level);
-    default: return {};
+    case NameRole:
+      return printableText(row.name);
+    case SafetyRole:
+      return static_cast<int>(row.level);
+    default:
+      return {};
   }
 }
 

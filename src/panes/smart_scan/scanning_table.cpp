@@ -67,14 +67,19 @@ QVariant ScanningTable::data(const QModelIndex& index, int role) const {
   }
   const FoundRow& row = _rows[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case NameRole: return printableText(row.name);
-    case SafetyRole: return static_cast<int>(rowSafety(row.safety));
-    case ItemsRole: return QString::number(row.items);
-    case SizeRole: return byteText(row.bytes, _formatting);
+    case NameRole:
+      return printableText(row.name);
+    case SafetyRole:
+      return static_cast<int>(rowSafety(row.safety));
+    case ItemsRole:
+      return QString::number(row.items);
+    case SizeRole:
+      return byteText(row.bytes, _formatting);
     case DescriptionRole:
       return rowDescription(printableText(row.name), byteText(row.bytes, _formatting),
                             verdict(row.safety));
-    default: return {};
+    default:
+      return {};
   }
 }
 

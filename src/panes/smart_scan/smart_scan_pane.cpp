@@ -40,7 +40,8 @@ QString SmartScanPane::subtitle() const {
         return smart_scan::idleSubtitle(_appState.lastCleanDate(), _desktop.clock.now(),
                                         _desktop.formatting);
       case Body::Review:
-      case Body::NothingFound: return smart_scan::resultSubtitle(_appState.scanResults());
+      case Body::NothingFound:
+        return smart_scan::resultSubtitle(_appState.scanResults());
     }
     return {};
   };

@@ -43,8 +43,8 @@ std::string scanningHeadline(const AppState::ScanActivity& activity) {
     return "Starting scan";
   }
   const auto current = std::min(activity.totalCategories, activity.completedCategories + 1);
-  return "Scanning " + std::to_string(current) + " of " +
-         std::to_string(activity.totalCategories) + " categories";
+  return "Scanning " + std::to_string(current) + " of " + std::to_string(activity.totalCategories) +
+         " categories";
 }
 
 std::string showMoreTitle(std::int64_t hidden) {
@@ -83,8 +83,8 @@ double removingFraction(const DeletionProgress& progress) {
   if (progress.total < 1) {
     return 0;
   }
-  return std::min(1.0, static_cast<double>(progress.completed) /
-                           static_cast<double>(progress.total));
+  return std::min(1.0,
+                  static_cast<double>(progress.completed) / static_cast<double>(progress.total));
 }
 
 std::string cleanedHeadline(const AppState::CleanSummary& summary, const Formatting& formatting) {

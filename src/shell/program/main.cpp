@@ -32,7 +32,8 @@ int main(int argumentCount, char** arguments) {
 
   const auto platform = klarvik::DesktopPlatform::ofThisUser();
   if (!platform) {
-    return refuse("Klarvik needs a home folder of your own, and found none: it cleans nothing else.");
+    return refuse(
+        "Klarvik needs a home folder of your own, and found none: it cleans nothing else.");
   }
   const klarvik::Desktop desktop = platform->desktop();
   klarvik::SharedState shared(desktop);

@@ -128,8 +128,7 @@ TEST_F(SmartScanPaneModel, TellsWhatIsSelectedAndWhatItIsMarkedAs) {
   const QString selected = size(appState.selectedSize());
   EXPECT_TRUE(pane.footer()->isEnabled());
   EXPECT_EQ(pane.footer()->selectionSummary(), selected + " selected · 1 items");
-  EXPECT_EQ(pane.footer()->hint(),
-            "Everything selected is marked Safe. Items move to the Trash.");
+  EXPECT_EQ(pane.footer()->hint(), "Everything selected is marked Safe. Items move to the Trash.");
   EXPECT_EQ(pane.footer()->shown().buttonLabel, "Clean " + selected);
   for (const CleanCategory& category : appState.scanResults()) {
     appState.setSelection(category.items, true);
@@ -166,9 +165,8 @@ TEST_F(SmartScanPaneModel, ShowsARunningCleanAndStopsIt) {
   ASSERT_TRUE(scan());
   desk.trashGate.close();
   pane.footer()->clean();
-  ASSERT_TRUE(turnUntil([this] {
-    return desk.trashGate.waiting() == ScannerEngine::deletionWidth;
-  }));
+  ASSERT_TRUE(
+      turnUntil([this] { return desk.trashGate.waiting() == ScannerEngine::deletionWidth; }));
   ToolFooterState footer = pane.footer()->shown();
   EXPECT_TRUE(footer.showsProgress);
   EXPECT_TRUE(footer.showsStop);

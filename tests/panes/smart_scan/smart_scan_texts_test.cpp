@@ -43,14 +43,13 @@ TEST(ScanningSubtitle, IsTheCategoryAloneWithoutAPath) {
 }
 
 TEST(ScanningSubtitle, ShowsEveryHomeInThePathAsATilde) {
-  EXPECT_EQ(scanningSubtitle({.categoryName = "App Caches",
-                              .currentPath = "/Users/ann/Library/Caches/x"},
-                             "/Users/ann"),
-            "App Caches · ~/Library/Caches/x");
   EXPECT_EQ(
-      scanningSubtitle({.categoryName = "Trash", .currentPath = "/Users/ann/a/Users/ann/b"},
+      scanningSubtitle({.categoryName = "App Caches", .currentPath = "/Users/ann/Library/Caches/x"},
                        "/Users/ann"),
-      "Trash · ~/a~/b");
+      "App Caches · ~/Library/Caches/x");
+  EXPECT_EQ(scanningSubtitle({.categoryName = "Trash", .currentPath = "/Users/ann/a/Users/ann/b"},
+                             "/Users/ann"),
+            "Trash · ~/a~/b");
 }
 
 TEST(ScanningSubtitle, MakesAPathThatIsNotUtf8Printable) {
@@ -71,8 +70,8 @@ TEST(IdleSubtitle, SaysHowLongTheLastCleanIsAgo) {
 TEST(ResultSubtitle, CountsCategoriesAndItemsWithFixedPlurals) {
   EXPECT_EQ(resultSubtitle({}), "0 categories · 0 items");
   EXPECT_EQ(resultSubtitle({categoryOf(CategoryType::appCaches, 1)}), "1 categories · 1 items");
-  EXPECT_EQ(resultSubtitle({categoryOf(CategoryType::appCaches, 3),
-                            categoryOf(CategoryType::dockerData, 4)}),
+  EXPECT_EQ(resultSubtitle(
+                {categoryOf(CategoryType::appCaches, 3), categoryOf(CategoryType::dockerData, 4)}),
             "2 categories · 7 items");
 }
 
@@ -107,8 +106,7 @@ TEST(SelectionHint, AsksForASelectionWhenThereIsNone) {
 }
 
 TEST(SelectionHint, SaysWhatTheSelectionIsMarkedAs) {
-  EXPECT_EQ(selectionHint(2, true),
-            "Everything selected is marked Safe. Items move to the Trash.");
+  EXPECT_EQ(selectionHint(2, true), "Everything selected is marked Safe. Items move to the Trash.");
   EXPECT_EQ(selectionHint(2, false),
             "Your selection includes Review items. Items move to the Trash.");
 }
