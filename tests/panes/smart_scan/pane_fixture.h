@@ -20,10 +20,10 @@ class PaneFixture : public ::testing::Test {
   void addCache(const std::string& name, std::int64_t megabytes = 2) const {
     desk.disk.makeFile(Path("/Users/ann/Library/Caches") / name / "data", megabytes * megabyte);
   }
+  /// Something to review; all of them are one item.
   void addArchive(const std::string& name) const {
-    desk.disk.makeFile(
-        Path("/Users/ann/Library/Developer/Xcode/Archives") / (name + ".xcarchive") / "data",
-        2 * megabyte);
+    desk.disk.makeFile(Path("/Users/ann/Library/Developer/Xcode/Archives") / name / "notes",
+                       2 * megabyte);
   }
 
   /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
