@@ -172,7 +172,7 @@ WindowFixture::Listing WindowFixture::listing(const Path& folder) const {
   Listing found;
   const Path start = desk->disk.onDisk(folder);
   for (const auto& entry : std::filesystem::recursive_directory_iterator(start)) {
-    const bool isFile = entry.is_regular_file() && !entry.is_symlink();
+    const bool isFile = !entry.is_symlink() && entry.is_regular_file();
     found[entry.path().lexically_relative(start).native()] = isFile ? entry.file_size() : 0;
   }
   return found;
