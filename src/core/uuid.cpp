@@ -1,14 +1,20 @@
 #include "core/uuid.h"
 
+#include <openssl/rand.h>
 #include <uuid/uuid.h>
 
+#include <cstdlib>
 #include <cstring>
 
 namespace klarvik {
 
 Uuid Uuid::random() {
+  // A scan makes one for every item: drawn from a generator in this process, and not with a call of
+  // the system each.
   Uuid id;
-  uuid_generate_random(id._bytes.data());
+  if (RAND_bytes(id._bytes.data(), static_cast<int>(id._bytes.size())) != 1) std::abort();
+  id._bytes[6] = static_cast<std::uint8_t>((id._bytes[6] & 0x0F) | 0x40);  // version 4, random
+  id._bytes[8] = static_cast<std::uint8_t>((id._bytes[8] & 0x3F) | 0x80);  // of the usual variant
   return id;
 }
 

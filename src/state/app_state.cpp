@@ -58,8 +58,8 @@ AppState::AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinat
 
 AppState::~AppState() {
   blockSignals(true);
-  _lifetime.request_stop();
-  _engineWork.finish();
+  finishRemovals();
+  _scanWork.finish();
 }
 
 bool AppState::selectionIsAllSafe() const {
@@ -97,13 +97,15 @@ QCoro::Task<> AppState::runScan(std::stop_token cancelled) {
         token, [&](const ScanUpdate& update) { reports.post(update); },
         [&](const CleanCategory& category) { reports.post(category); });
   };
-  std::vector<CleanCategory> found = co_await onEngineThread(_engineWork, std::move(scan));
+  std::vector<CleanCategory> found = co_await onEngineThread(_scanWork, std::move(scan));
   reports.empty();
   if (!stop.token().stop_requested()) finishScan(std::move(found));
 }
 
 void AppState::apply(ScanReport report) {
-  if (_lifetime.stop_requested()) return;
+  // A scan that was stopped still ends the row in hand; what it says of that must not bring back a
+  // state that the user has left.
+  if (_lifetime.stop_requested() || !std::holds_alternative<Scanning>(_scanState)) return;
   if (const auto* update = std::get_if<ScanUpdate>(&report)) {
     applyUpdate(*update);
   } else {

@@ -125,6 +125,9 @@ class AppState : public QObject {
   /// Starts no further removal; what has gone by then is summarised and recorded like a whole
   /// clean.
   void cancelClean();
+  /// For the end of the program: starts no further removal, waits for the items in hand, and puts
+  /// what went on record. A scan is not waited for. Nothing may be started afterwards.
+  void finishRemovals();
   /// Takes items out of the results; it removes nothing from the disk.
   void removeItems(const std::unordered_set<Uuid>& ids);
   /// Moves what the last clean put into the Trash back to where it was, and scans again if anything
@@ -201,7 +204,8 @@ class AppState : public QObject {
   std::stop_source _scanTask{std::nostopstate};
   std::stop_source _cleanTask{std::nostopstate};
   std::stop_source _lifetime;
-  EngineWork _engineWork;
+  EngineWork _scanWork;
+  EngineWork _removalWork;
 };
 
 }  // namespace klarvik

@@ -57,7 +57,7 @@ QCoro::Task<> AppState::runClean(CleanPlan plan, std::stop_token cancelled) {
                               [&](const DeletionProgress& progress) { reports.post(progress); });
   };
   const std::vector<DeletionOutcome> outcomes =
-      co_await onEngineThread(_engineWork, std::move(clean));
+      co_await onEngineThread(_removalWork, std::move(clean));
   reports.empty();
   finishClean(plan, outcomes);
 }
@@ -93,6 +93,11 @@ void AppState::cancelClean() {
   _cleanTask.request_stop();
 }
 
+void AppState::finishRemovals() {
+  _lifetime.request_stop();
+  _removalWork.finish();
+}
+
 void AppState::removeItems(const std::unordered_set<Uuid>& ids) {
   if (ids.empty()) return;
   std::vector<CleanCategory> remaining;
@@ -125,7 +130,7 @@ QCoro::Task<std::int64_t> AppState::restoreLastClean() {
       }
       return count;
     };
-    restored = co_await onEngineThread(_engineWork, std::move(restore));
+    restored = co_await onEngineThread(_removalWork, std::move(restore));
   }
   setLastClean(std::nullopt);
   _desktop.notifications.post(diskChangedNotification);

@@ -44,8 +44,8 @@ TrashMonitor::TrashMonitor(const Desktop& desktop, QObject* parent)
 
 TrashMonitor::~TrashMonitor() {
   blockSignals(true);
-  _lifetime.request_stop();
-  _engineWork.finish();
+  finishEmptying();
+  _measuringWork.finish();
 }
 
 void TrashMonitor::refresh(bool force) {
@@ -68,7 +68,7 @@ QCoro::Task<> TrashMonitor::measure(std::vector<Path> entries, std::optional<Dat
     return sizeOf(files, entries, stop);
   };
   const std::int64_t bytes =
-      co_await onEngineThread(_engineWork, std::move(sum), EngineWork::Priority::background);
+      co_await onEngineThread(_measuringWork, std::move(sum), EngineWork::Priority::background);
   _lastStamp = stamp;
   setBytes(bytes);
   setMeasuring(false);
@@ -86,12 +86,17 @@ QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {
     return engine.emptyTrash(stop,
                              [&](const DeletionProgress& progress) { reports.post(progress); });
   };
-  const std::int64_t freed = co_await onEngineThread(_engineWork, std::move(empty));
+  const std::int64_t freed = co_await onEngineThread(_emptyingWork, std::move(empty));
   setEmptyProgress(std::nullopt);
   setEmptying(false);
   _desktop.notifications.post(diskChangedNotification);
   refresh(true);
   co_return freed;
+}
+
+void TrashMonitor::finishEmptying() {
+  _lifetime.request_stop();
+  _emptyingWork.finish();
 }
 
 void TrashMonitor::setContents(bool readable, std::int64_t itemCount) {

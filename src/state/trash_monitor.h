@@ -38,6 +38,9 @@ class TrashMonitor : public QObject {
   void refresh(bool force);
   /// Bytes reclaimed; 0 at once while an emptying is under way.
   QCoro::Task<std::int64_t> emptyTrash();
+  /// For the end of the program: removes no further entry, and waits for those in hand. Nothing may
+  /// be started afterwards.
+  void finishEmptying();
 
  signals:
   void changed();
@@ -62,7 +65,8 @@ class TrashMonitor : public QObject {
   NotificationCenter::Subscription _onActive;
   RepeatingTimer _timer;
   std::stop_source _lifetime;
-  EngineWork _engineWork;
+  EngineWork _measuringWork;
+  EngineWork _emptyingWork;
 };
 
 }  // namespace klarvik

@@ -264,6 +264,18 @@ TEST_F(LongClean, QuittingDuringARemovalFinishesTheItemsInHandAndPutsThemOnRecor
   turnMainLoop();
 }
 
+TEST_F(LongClean, TheEndOfTheProgramWaitsForARemovalButNotForAScan) {
+  scans.endsWhenAskedToStop = false;
+  state->startScan();
+  ASSERT_TRUE(turnMainLoopUntil([&] { return scans.runsBegun() == 2; }));
+  std::thread later([this] { letGo.release(100); });
+  state->finishRemovals();
+  later.join();
+  EXPECT_EQ(history.cleans().size(), 1U);
+  EXPECT_EQ(scans.runsEnded(), 1);
+  scans.finish(1, {});
+}
+
 TEST_F(LongClean, ARescanDuringARemovalDeletesNothingStaleAndNothingNew) {
   const JunkItem foundMeanwhile = onDisk("found meanwhile", 5);
   state->startScan();

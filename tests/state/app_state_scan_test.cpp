@@ -148,15 +148,22 @@ TEST_F(AppStateScan, CancelledAfterTwoCategoriesItEndsDoneWithThemAndTheirSafeIt
   EXPECT_TRUE(coordinator.totals().empty());
 }
 
-TEST_F(AppStateScan, WhatACancelledScanStillReportsIsShown) {
+TEST_F(AppStateScan, WhatACancelledScanSaysOfItsLastRowChangesNothing) {
   scans.endsWhenAskedToStop = false;
   state->startScan();
   ASSERT_TRUE(turnMainLoopUntil([&] { return scans.runsBegun() == 1; }));
   state->cancelScan();
   scans.category(0, caches);
+  ScanUpdate last;
+  last.categoryName = "Scan stopped";
+  scans.update(0, last);
   scans.finish(0, {caches});
-  ASSERT_TRUE(arrived(1));
-  EXPECT_EQ(state->selectedCount(), 2);
+  ASSERT_TRUE(turnMainLoopUntil([&] { return scans.runsEnded() == 1; }));
+  turnMainLoop();
+  EXPECT_TRUE(is(AppState::Idle{}));
+  EXPECT_EQ(shownActivity(), ToolActivity::State(ToolActivity::Idle{}));
+  EXPECT_TRUE(state->scanResults().empty());
+  EXPECT_EQ(state->selectedCount(), 0);
   EXPECT_TRUE(history.scans().empty());
 }
 
