@@ -38,6 +38,11 @@ bool KlarvikApp::openMainWindow() {
   return true;
 }
 
+void KlarvikApp::finishRemovals() {
+  appState().finishRemovals();
+  _shared.trashMonitor().finishEmptying();
+}
+
 QQuickWindow* KlarvikApp::mainWindow() const {
   return _window ? _window->window() : nullptr;
 }

@@ -30,6 +30,9 @@ class KlarvikApp : public QObject {
   bool openMainWindow();
   /// Nothing until it has been opened.
   [[nodiscard]] QQuickWindow* mainWindow() const;
+  /// For the end of the program: no further item is removed, and those in hand are finished and put
+  /// on record. Nothing may be started afterwards.
+  void finishRemovals();
 
  private:
   void removeLeftoverKeys();

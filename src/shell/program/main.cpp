@@ -41,5 +41,9 @@ int main(int argumentCount, char** arguments) {
   if (!app.openMainWindow()) {
     return refuse("Klarvik could not draw its window.");
   }
-  return QGuiApplication::exec();
+  const int status = QGuiApplication::exec();
+  app.finishRemovals();
+  // A scan may be in the middle of a long walk, or wait for a tool that never answers. It changes
+  // nothing, so nobody has to wait for it.
+  std::_Exit(status);
 }
