@@ -9,7 +9,7 @@ from process_test import ProcessTest, picture_of
 
 
 class KilledClean(ProcessTest):
-    ITEMS = 300
+    ITEMS = 600
 
     def setUp(self):
         super().setUp()

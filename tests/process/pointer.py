@@ -8,8 +8,6 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-from virtual_desktop import wait_until  # noqa: E402
-
 
 class Pointer:
     """Only one a process: the library below binds to the first message bus it meets."""
@@ -33,7 +31,7 @@ class Pointer:
         button = self._find(klarvik, name, Atspi.StateType.SENSITIVE)
         if button is None:
             return False
-        place = button.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+        place = Atspi.Component.get_extents(button, Atspi.CoordType.SCREEN)
         x, y = place.x + place.width // 2, place.y + place.height // 2
         self._desktop.run("xdotool", "mousemove", "--sync", str(x), str(y), "click", "1")
         return True

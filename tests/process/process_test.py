@@ -29,9 +29,13 @@ class ProcessTest(unittest.TestCase):
         return self.enterContext(Klarvik(self.desktop, self.home, BUILD))
 
 
+LARGE = 64 * 1024 * 1024
+
+
 def picture_of(tree, leave_out):
-    """Everything in `tree` by its path: kind, mode, time of the last change and content. A folder's
-    time is left out, for it changes with what happens to its children."""
+    """Everything in `tree` by its path: kind, mode, time of the last change, size and content (not of
+    large files, which are mostly holes). A folder's time is left out, for it changes with what
+    happens to its children."""
 
     def look(path):
         status = path.lstat()
@@ -40,8 +44,9 @@ def picture_of(tree, leave_out):
         if stat.S_ISDIR(status.st_mode):
             return ("folder", status.st_mode)
         if stat.S_ISREG(status.st_mode):
-            content = hashlib.sha256(path.read_bytes()).hexdigest()
-            return ("file", status.st_mode, status.st_mtime_ns, content)
+            small = status.st_size < LARGE
+            content = hashlib.sha256(path.read_bytes()).hexdigest() if small else None
+            return ("file", status.st_mode, status.st_mtime_ns, status.st_size, content)
         return ("other", status.st_mode)
 
     return {
