@@ -65,7 +65,7 @@ class FrameTimes {
 void furnish(MemoryFileSystem& files) {
   files.addFolder("/Users/ann");
   for (int number = 0; number < itemCount; ++number) {
-    files.addFile("/Users/ann/Library/Caches/com.example.cache-" + std::to_string(number) + "/data",
+    files.addFile("/Users/ann/Library/Caches/com.example.cache-" + std::to_string(number),
                   2'000'000 + number);
   }
 }

@@ -186,7 +186,9 @@ void WindowFixture::picture(const QString& name) {
 
 bool WindowFixture::scanToTheEnd() {
   click("Scan");
-  return turnUntil([this] { return is<AppState::Done>(); });
+  const bool isDone = turnUntil([this] { return is<AppState::Done>(); });
+  settle();
+  return isDone;
 }
 
 }  // namespace klarvik
