@@ -125,9 +125,13 @@ void AppState::applyUpdate(const ScanUpdate& update) {
 
 void AppState::applyCategory(CleanCategory category) {
   const bool select = isSafe(category);
+  if (select) _selectedItems.reserve(_selectedItems.size() + category.items.size());
   for (const JunkItem& item : category.items) {
-    if (select) _selectedItems.insert(item.id);
-    if (!_selectedItems.contains(item.id)) continue;
+    if (select) {
+      _selectedItems.insert(item.id);
+    } else if (!_selectedItems.contains(item.id)) {
+      continue;
+    }
     _selected.size = addBytes(_selected.size, item.size);
     ++_selected.count;
   }
