@@ -55,7 +55,7 @@ Pressable {
             tint: Theme.textSecondary
         }
 
-        SecondaryButton {
+        TextButton {
             visible: root.model.controlTitle !== ""
             title: root.model.controlTitle
             help: root.model.controlHelp

@@ -136,6 +136,7 @@ void WindowFixture::clickAt(QQuickItem& item, QPointF place) {
 }
 
 void WindowFixture::clickSelectionBox(const QString& row) {
+  settle();
   QQuickItem* item = find(row);
   ASSERT_NE(item, nullptr) << row.toStdString() << " is not on the screen";
   QQuickItem* box =
