@@ -125,6 +125,7 @@ QQuickItem* WindowFixture::find(const QString& name) const {
 }
 
 void WindowFixture::click(const QString& name) {
+  turnUntil([&] { return find(name) != nullptr; });
   QQuickItem* item = find(name);
   ASSERT_NE(item, nullptr) << name.toStdString() << " is not on the screen";
   clickAt(*item, item->boundingRect().center());
@@ -137,6 +138,7 @@ void WindowFixture::clickAt(QQuickItem& item, QPointF place) {
 
 void WindowFixture::clickSelectionBox(const QString& row) {
   settle();
+  turnUntil([&] { return find(row) != nullptr; });
   QQuickItem* item = find(row);
   ASSERT_NE(item, nullptr) << row.toStdString() << " is not on the screen";
   QQuickItem* box =

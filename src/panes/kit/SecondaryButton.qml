@@ -7,6 +7,8 @@ Pressable {
     id: root
 
     property bool isEnabled: true
+    // Leads the title where there is one.
+    property string symbol
 
     pressableEnabled: root.isEnabled
     implicitWidth: Math.max(64, label.implicitWidth + 24)
@@ -20,10 +22,26 @@ Pressable {
         opacity: root.isEnabled ? 1.0 : 0.5
     }
 
-    contentItem: KitText {
-        id: label
-        text: root.title
+    contentItem: Item {
         opacity: root.isEnabled ? 1.0 : 0.5
-        horizontalAlignment: Text.AlignHCenter
+
+        Row {
+            id: label
+
+            anchors.centerIn: parent
+            spacing: 6
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.symbol !== ""
+                name: root.symbol
+                size: 12
+            }
+
+            KitText {
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.title
+            }
+        }
     }
 }

@@ -69,7 +69,7 @@ Item {
             onAction: root.model.emptyTrash()
         }
 
-        RestoreButton {
+        SecondaryButton {
             visible: root.model.isRestorable
             isEnabled: !root.model.isRestoring
             symbol: "arrow.uturn.backward"
