@@ -75,6 +75,7 @@ void AppState::startScan() {
   setScanState(Scanning{0, "Starting scan"});
   setResults({});
   setSelectedItems({});
+  _selectionIsAsFound = true;
   if (changeTo(_expandedCategories, {})) emit expandedCategoriesChanged();
   recomputeTotal();
   if (changeTo(_scanActivity, {})) emit scanActivityChanged();
@@ -95,7 +96,7 @@ QCoro::Task<> AppState::runScan(std::stop_token cancelled) {
   auto scan = [&run = _scan, &reports, token = stop.token()] {
     return run(
         token, [&](const ScanUpdate& update) { reports.post(update); },
-        [&](const CleanCategory& category) { reports.post(category); });
+        [&](const CleanCategory& category) { reports.post(FoundCategory(category)); });
   };
   std::vector<CleanCategory> found = co_await onEngineThread(_scanWork, std::move(scan));
   reports.empty();
@@ -109,7 +110,7 @@ void AppState::apply(ScanReport report) {
   if (const auto* update = std::get_if<ScanUpdate>(&report)) {
     applyUpdate(*update);
   } else {
-    applyCategory(std::get<CleanCategory>(std::move(report)));
+    applyCategory(std::get<FoundCategory>(std::move(report)));
   }
 }
 
@@ -123,29 +124,28 @@ void AppState::applyUpdate(const ScanUpdate& update) {
   }
 }
 
-void AppState::applyCategory(CleanCategory category) {
-  const bool select = isSafe(category);
-  if (select) _selectedItems.reserve(_selectedItems.size() + category.items.size());
-  for (const JunkItem& item : category.items) {
-    if (select) {
-      _selectedItems.insert(item.id);
-    } else if (!_selectedItems.contains(item.id)) {
-      continue;
-    }
-    _selected.size = addBytes(_selected.size, item.size);
-    ++_selected.count;
-  }
-  const bool selectionGrew = select && !category.items.empty();
-  _scanResults.push_back(std::move(category));
+AppState::FoundCategory::FoundCategory(CleanCategory found) : category(std::move(found)) {
+  if (!isSafe(category)) return;
+  safeIds.reserve(category.items.size());
+  for (const JunkItem& item : category.items) safeIds.insert(item.id);
+}
+
+void AppState::applyCategory(FoundCategory found) {
+  const std::size_t selectedBefore = _selectedItems.size();
+  if (found.safeIds.size() > _selectedItems.size()) _selectedItems.swap(found.safeIds);
+  _selectedItems.merge(found.safeIds);
+  addToSelected(found.category);
+  _scanResults.push_back(std::move(found.category));
   emit scanResultsChanged();
   recomputeTotal();
-  if (selectionGrew) emit selectedItemsChanged();
+  if (_selectedItems.size() != selectedBefore) emit selectedItemsChanged();
 }
 
 void AppState::finishScan(std::vector<CleanCategory> found) {
+  const bool sameAsArrived = sameCategoriesInAnyOrder(_scanResults, found);
   setResults(std::move(found));
   recomputeTotal();
-  selectSafeItems();
+  if (!sameAsArrived || !_selectionIsAsFound) selectSafeItems();
   setScanState(Done{});
   _activity.finish(smartScanKey(), _desktop.formatting.byteText(_totalSpaceFreeable));
   writeTotal();
@@ -198,6 +198,7 @@ void AppState::toggleCategoryExpansion(CategoryType type) {
 }
 
 void AppState::toggleItem(const Uuid& id) {
+  _selectionIsAsFound = false;
   const bool select = _selectedItems.erase(id) == 0;
   if (select) _selectedItems.insert(id);
   if (const JunkItem* item = itemInResults(id)) {
@@ -208,6 +209,7 @@ void AppState::toggleItem(const Uuid& id) {
 }
 
 void AppState::setSelection(const std::vector<JunkItem>& items, bool selected) {
+  _selectionIsAsFound = false;
   const std::size_t before = _selectedItems.size();
   for (const JunkItem& item : items) {
     if (selected) {
@@ -229,7 +231,7 @@ void AppState::setResults(std::vector<CleanCategory> results) {
   const bool changed = !sameCategories(_scanResults, results);
   // Sorting what has arrived changes no count, however many items there are.
   const bool recount = !sameCategoriesInAnyOrder(_scanResults, results);
-  _scanResults = std::move(results);
+  _scanWork.discard(std::exchange(_scanResults, std::move(results)));
   if (recount) recountSelected();
   if (changed) emit scanResultsChanged();
 }
@@ -241,7 +243,8 @@ void AppState::recomputeTotal() {
 }
 
 void AppState::setSelectedItems(std::unordered_set<Uuid> ids) {
-  if (!changeTo(_selectedItems, std::move(ids))) return;
+  if (_selectedItems == ids) return;
+  _scanWork.discard(std::exchange(_selectedItems, std::move(ids)));
   recountSelected();
   emit selectedItemsChanged();
 }
@@ -257,12 +260,14 @@ const JunkItem* AppState::itemInResults(const Uuid& id) const {
 void AppState::recountSelected() {
   _selected = {};
   if (_selectedItems.empty()) return;
-  for (const CleanCategory& category : _scanResults) {
-    for (const JunkItem& item : category.items) {
-      if (!_selectedItems.contains(item.id)) continue;
-      _selected.size = addBytes(_selected.size, item.size);
-      ++_selected.count;
-    }
+  for (const CleanCategory& category : _scanResults) addToSelected(category);
+}
+
+void AppState::addToSelected(const CleanCategory& category) {
+  for (const JunkItem& item : category.items) {
+    if (!_selectedItems.contains(item.id)) continue;
+    _selected.size = addBytes(_selected.size, item.size);
+    ++_selected.count;
   }
 }
 

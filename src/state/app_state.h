@@ -147,7 +147,14 @@ class AppState : public QObject {
   void cleanProgressChanged();
 
  private:
-  using ScanReport = std::variant<ScanUpdate, CleanCategory>;
+  /// A category with what the main thread would otherwise have to put together of its items: there
+  /// may be very many, and no frame waits for them.
+  struct FoundCategory {
+    explicit FoundCategory(CleanCategory found);
+    CleanCategory category;
+    std::unordered_set<Uuid> safeIds;
+  };
+  using ScanReport = std::variant<ScanUpdate, FoundCategory>;
   struct Sum {
     std::int64_t size = 0;  ///< bytes
     std::int64_t count = 0;
@@ -156,7 +163,7 @@ class AppState : public QObject {
   QCoro::Task<> runScan(std::stop_token cancelled);
   void apply(ScanReport report);
   void applyUpdate(const ScanUpdate& update);
-  void applyCategory(CleanCategory category);
+  void applyCategory(FoundCategory found);
   void finishScan(std::vector<CleanCategory> found);
   [[nodiscard]] bool hasNothingToShow() const;
 
@@ -179,6 +186,7 @@ class AppState : public QObject {
   void recomputeTotal();
   void setSelectedItems(std::unordered_set<Uuid> ids);
   void recountSelected();
+  void addToSelected(const CleanCategory& category);
   /// Nothing when no item of the results has this identifier.
   [[nodiscard]] const JunkItem* itemInResults(const Uuid& id) const;
   void setLastClean(std::optional<CleanSummary> summary);
@@ -196,6 +204,8 @@ class AppState : public QObject {
   std::unordered_set<Uuid> _selectedItems;
   Sum _selected;
   std::optional<Date> _lastCleanDate;
+  /// Nothing but the safe items of what has arrived is selected, and all of those.
+  bool _selectionIsAsFound = true;
   bool _pendingCleanConfirmation = false;
   std::set<CategoryType> _expandedCategories;
   std::optional<CleanSummary> _lastClean;

@@ -34,6 +34,16 @@ class EngineWork final : public QObject {
   /// them.
   void finish();
 
+  /// Frees `garbage` off the main thread, where freeing very much of it would hold up a frame.
+  template <typename Garbage>
+  void discard(Garbage garbage) {
+    if (garbage.size() == 0) return;
+    auto release = [kept = std::make_shared<Garbage>(std::move(garbage))]() mutable {
+      kept.reset();
+    };
+    start(std::move(release), std::noop_coroutine(), Priority::background);
+  }
+
   /// For `onEngineThread`: runs `body` on a thread of its own, then resumes `waiter`.
   void start(std::function<void()> body, std::coroutine_handle<> waiter, Priority priority);
 

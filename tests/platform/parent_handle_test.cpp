@@ -102,10 +102,10 @@ TEST_F(ParentHandleTest, RefusesWhatReallyLiesOutsideTheRoot) {
 }
 
 TEST_F(ParentHandleTest, TellsARootFromASiblingThatSharesItsPrefix) {
-  disk.makeFolder("/root");
-  disk.makeFolder("/root2/in");
-  disk.makeLink("/root/link", "../root2");
-  EXPECT_FALSE(openParent(disk.onDisk("/root"), "/link/in"));
+  disk.makeFolder("/base");
+  disk.makeFolder("/base2/in");
+  disk.makeLink("/base/link", "../base2");
+  EXPECT_FALSE(openParent(disk.onDisk("/base"), "/link/in"));
 }
 
 TEST_F(ParentHandleTest, ReachesARootThatIsNamedThroughALink) {

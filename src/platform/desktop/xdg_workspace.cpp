@@ -26,8 +26,8 @@ constexpr std::array<SettingsPage, 2> settingsPages{{
     {"KDE", "systemsettings", "kcm_flatpak"},
 }};
 
-// The program outlives this one, and with it whoever reads what is printed: a pipe that nobody holds
-// any more would be its end.
+// The program outlives this one, and with it whoever reads what is printed: a pipe that nobody
+// holds any more would be its end.
 bool start(const QString& program, const QStringList& arguments) {
   QProcess process;
   process.setProgram(program);

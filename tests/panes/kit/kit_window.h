@@ -85,8 +85,9 @@ class KitWindow : public ::testing::Test {
     static int count = 1;
     static char name[] = "kit_tests";
     static char* arguments[] = {name, nullptr};
-    static QGuiApplication instance(count, arguments);
-    return instance;
+    // Lives until the process ends: at exit, Qt's own statics go before those of a test.
+    static auto* const instance = new QGuiApplication(count, arguments);
+    return *instance;
   }
   static QStringList& warnings() {
     static QStringList list;
