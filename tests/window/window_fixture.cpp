@@ -124,9 +124,14 @@ QQuickItem* WindowFixture::find(const QString& name) const {
                 [&](const QQuickItem& item) { return isCalled(item, name); });
 }
 
+QQuickItem* WindowFixture::waitFor(const QString& name) {
+  QQuickItem* item = nullptr;
+  const bool came = turnUntil([&] { return (item = find(name)) != nullptr; });
+  return came ? item : nullptr;
+}
+
 void WindowFixture::click(const QString& name) {
-  turnUntil([&] { return find(name) != nullptr; });
-  QQuickItem* item = find(name);
+  QQuickItem* item = waitFor(name);
   ASSERT_NE(item, nullptr) << name.toStdString() << " is not on the screen";
   clickAt(*item, item->boundingRect().center());
 }
@@ -138,8 +143,7 @@ void WindowFixture::clickAt(QQuickItem& item, QPointF place) {
 
 void WindowFixture::clickSelectionBox(const QString& row) {
   settle();
-  turnUntil([&] { return find(row) != nullptr; });
-  QQuickItem* item = find(row);
+  QQuickItem* item = waitFor(row);
   ASSERT_NE(item, nullptr) << row.toStdString() << " is not on the screen";
   QQuickItem* box =
       findIn(*item, [](const QQuickItem& part) { return part.property("canToggle").toBool(); });

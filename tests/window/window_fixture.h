@@ -37,6 +37,8 @@ class WindowFixture : public ::testing::Test {
   /// The item on the screen that is called so: its title, its text or its spoken description
   /// begins with `name`. Null when there is none.
   [[nodiscard]] QQuickItem* find(const QString& name) const;
+  /// What `find` answers, once it answers anything.
+  [[nodiscard]] QQuickItem* waitFor(const QString& name);
   [[nodiscard]] bool shows(const QString& name) const { return find(name) != nullptr; }
   void click(const QString& name);
   void clickAt(QQuickItem& item, QPointF place);
