@@ -70,7 +70,7 @@ constexpr std::array<std::string_view, 5> cleanableOutsideHome{
     "/private/tmp/", "/tmp/", "/.MobileBackups/", "/Library/Caches/", "/private/var/log/"};
 
 template <class... Parts>
-Refusal refuse(Parts... parts) {
+Refusal refuse(const Parts&... parts) {
   std::string sentence;
   (sentence.append(parts), ...);
   return sentence;

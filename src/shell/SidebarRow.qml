@@ -1,7 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.Shell
 
 /// A section to go to, or the heading of a group of them.
 Pressable {

@@ -1,6 +1,5 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SmartScan
 
 /// One line that gives up its middle when it does not fit.
 KitText {

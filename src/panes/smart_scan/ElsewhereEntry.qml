@@ -1,6 +1,5 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SmartScan
 
 /// One tool's line in the strip.
 Pressable {

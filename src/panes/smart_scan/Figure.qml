@@ -1,6 +1,5 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SmartScan
 
 /// A number in a column: digits of one width, held to the right.
 Item {

@@ -1,6 +1,5 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SmartScan
 
 /// A row that fades in when it is made, a little later the further down it stands.
 Item {

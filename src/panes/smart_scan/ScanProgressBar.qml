@@ -1,6 +1,5 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SmartScan
 
 /// How far the scan is, with a light moving through it while a category is being measured.
 Rectangle {

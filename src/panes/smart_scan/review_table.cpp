@@ -83,10 +83,10 @@ QVariant ReviewTable::data(const QModelIndex& index, int role) const {
   }
   switch (at.kind) {
     case RowKind::Category:
-      return categoryData(shown, role);
+      return rowDataOfCategory(shown, role);
     case RowKind::Item: {
       const JunkItem* found = item(at);
-      return found != nullptr ? itemData(*found, shown.type, role) : nothing(role);
+      return found != nullptr ? rowDataOfItem(*found, shown.type, role) : nothing(role);
     }
     case RowKind::ShowMore:
       return role == NameRole || role == DescriptionRole
@@ -377,7 +377,7 @@ ReviewTable::Selection ReviewTable::selection(const ShownCategory& shown) const 
   return shown.selectedCount == category->items.size() ? Selection::All : Selection::Partial;
 }
 
-QVariant ReviewTable::categoryData(const ShownCategory& shown, int role) const {
+QVariant ReviewTable::rowDataOfCategory(const ShownCategory& shown, int role) const {
   const CleanCategory* category = find(shown.type);
   if (category == nullptr) {
     return nothing(role);
@@ -408,7 +408,7 @@ QVariant ReviewTable::categoryData(const ShownCategory& shown, int role) const {
   }
 }
 
-QVariant ReviewTable::itemData(const JunkItem& item, CategoryType type, int role) const {
+QVariant ReviewTable::rowDataOfItem(const JunkItem& item, CategoryType type, int role) const {
   const QString name = printableText(item.name);
   switch (role) {
     case NameRole:

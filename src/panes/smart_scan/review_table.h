@@ -97,8 +97,8 @@ class ReviewTable : public QAbstractListModel {
   [[nodiscard]] Place place(int row) const;
   [[nodiscard]] const JunkItem* item(const Place& place) const;
   [[nodiscard]] Selection selection(const ShownCategory& shown) const;
-  [[nodiscard]] QVariant categoryData(const ShownCategory& shown, int role) const;
-  [[nodiscard]] QVariant itemData(const JunkItem& item, CategoryType type, int role) const;
+  [[nodiscard]] QVariant rowDataOfCategory(const ShownCategory& shown, int role) const;
+  [[nodiscard]] QVariant rowDataOfItem(const JunkItem& item, CategoryType type, int role) const;
 
   AppState& _appState;
   const Formatting& _formatting;

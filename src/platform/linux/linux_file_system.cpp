@@ -47,7 +47,7 @@ class LinuxFileReader final : public FileReader {
 
 }  // namespace
 
-LinuxFileSystem::LinuxFileSystem(Path root, Path home)
+LinuxFileSystem::LinuxFileSystem(const Path& root, Path home)
     : _root(withoutTrailingSlashes(root)), _home(std::move(home)) {}
 
 Path LinuxFileSystem::diskPath(const Path& logical) const {

@@ -12,7 +12,7 @@ namespace klarvik {
 class LinuxFileSystem final : public FileSystem {
  public:
   /// `root` is where the logical "/" lies on the machine; `home` is a logical path.
-  LinuxFileSystem(Path root, Path home);
+  LinuxFileSystem(const Path& root, Path home);
 
   [[nodiscard]] Path diskPath(const Path& logical) const override;
   [[nodiscard]] std::optional<Path> logicalPath(const Path& disk) const override;
