@@ -1,7 +1,7 @@
-# klarvik_test(NAME LINKS target... [ENVIRONMENT NAME=value...] [LABELS label...])
+# klarvik_test(NAME LINKS target... [ENVIRONMENT NAME=value] [LABEL label])
 #
 # A GoogleTest program of every *_test.cpp in the current folder; each of its tests is one of
-# CTest's. LABELS: "concurrent" has the tests run under ThreadSanitizer as well.
+# CTest's. LABEL: "concurrent" has the tests run under ThreadSanitizer as well.
 #
 # Every NAME_fuzz.cpp there (a LLVMFuzzerTestOneInput) becomes a fuzz target in the "fuzz" preset. It
 # is run from the samples in the folder NAME_corpus beside it, where there is one, with the same seed
@@ -16,7 +16,7 @@ if(KLARVIK_SANITIZE STREQUAL "fuzzer")
 endif()
 
 function(klarvik_test name)
-  cmake_parse_arguments(TEST "" "" "LINKS;ENVIRONMENT;LABELS;FUZZ_SOURCES" ${ARGN})
+  cmake_parse_arguments(TEST "" "ENVIRONMENT;LABEL" "LINKS;FUZZ_SOURCES" ${ARGN})
   klarvik_fuzz_targets("${TEST_LINKS}" "${TEST_FUZZ_SOURCES}")
   if(KLARVIK_SANITIZE STREQUAL "fuzzer")
     return()
@@ -27,8 +27,16 @@ function(klarvik_test name)
   endif()
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${TEST_LINKS} test_support GTest::gmock_main klarvik_warnings)
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES
-    PROPERTIES TIMEOUT 300 ENVIRONMENT "${TEST_ENVIRONMENT}" LABELS "${TEST_LABELS}")
+  # The discovery takes the properties apart at every space between them: one value each, and none
+  # that is empty.
+  set(properties TIMEOUT 300)
+  if(TEST_LABEL)
+    list(APPEND properties LABELS ${TEST_LABEL})
+  endif()
+  if(TEST_ENVIRONMENT)
+    list(APPEND properties ENVIRONMENT ${TEST_ENVIRONMENT})
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES PROPERTIES ${properties})
 endfunction()
 
 function(klarvik_fuzz_targets links shared_sources)

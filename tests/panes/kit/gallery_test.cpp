@@ -18,7 +18,7 @@ QVariant manySlices() {
 class Gallery : public KitWindow {};
 
 TEST_F(Gallery, DrawsEveryElementWithoutAWarning) {
-  QFile file(qEnvironmentVariable("KLARVIK_GALLERY"));
+  QFile file(KLARVIK_GALLERY);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const RemovalProgress progress(DeletionProgress{
       .completed = 2, .total = 10, .currentName = "DerivedData", .freed = 1'200'000});
@@ -31,7 +31,7 @@ TEST_F(Gallery, DrawsEveryElementWithoutAWarning) {
   const QImage picture = view.grabWindow();
   ASSERT_EQ(picture.size(), QSize(1400, 1130));
   EXPECT_EQ(picture.pixelColor(890, 5), QColor(28, 28, 30));
-  const QDir folder(qEnvironmentVariable("KLARVIK_SCREENSHOTS"));
+  const QDir folder(KLARVIK_SCREENSHOTS);
   ASSERT_TRUE(folder.mkpath("."));
   EXPECT_TRUE(picture.save(folder.filePath("kit.png")));
 }
