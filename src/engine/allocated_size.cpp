@@ -6,8 +6,6 @@ namespace klarvik {
 
 namespace {
 
-constexpr WalkOptions withoutHiddenOrPackaged{.skipHidden = true, .skipPackageContents = true};
-
 /// What the item itself takes, for one that cannot be walked: a plain file, but never a link.
 std::int64_t ownAllocation(const FileSystem& files, const Path& path) {
   const auto attributes = files.attributes(path);
@@ -15,17 +13,28 @@ std::int64_t ownAllocation(const FileSystem& files, const Path& path) {
   return attributes->allocatedBytes;
 }
 
-}  // namespace
-
-std::int64_t allocatedSize(const FileSystem& files, const Path& path) {
+std::int64_t sumOfAllocations(const FileSystem& files, const Path& path, WalkOptions options,
+                              const std::stop_token& stop) {
   std::int64_t total = 0;
-  const auto outcome = files.walk(path, withoutHiddenOrPackaged, [&](WalkEntry& entry) {
+  const auto outcome = files.walk(path, options, [&](WalkEntry& entry) {
+    if (stop.stop_requested()) return WalkStep::stop;
     if (entry.kind() != FileKind::directory && entry.kind() != FileKind::symbolicLink) {
       total = addBytes(total, entry.allocatedBytes());
     }
     return WalkStep::proceed;
   });
   return outcome == WalkOutcome::refused ? ownAllocation(files, path) : total;
+}
+
+}  // namespace
+
+std::int64_t allocatedSize(const FileSystem& files, const Path& path) {
+  return sumOfAllocations(files, path, {.skipHidden = true, .skipPackageContents = true}, {});
+}
+
+std::int64_t wholeAllocatedSize(const FileSystem& files, const Path& path,
+                                const std::stop_token& stop) {
+  return sumOfAllocations(files, path, {}, stop);
 }
 
 }  // namespace klarvik

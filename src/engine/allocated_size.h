@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <stop_token>
 
 #include "platform/file_system.h"
 
@@ -11,5 +12,10 @@ namespace klarvik {
 /// plain file counts its own allocation. May be called from any thread; takes as long as the tree
 /// is large.
 [[nodiscard]] std::int64_t allocatedSize(const FileSystem& files, const Path& path);
+
+/// What a thing takes of the disk, everything in it counted: hidden files and the contents of
+/// packages too. Else as above; it can therefore be more. Ends early at a stop, with what it has.
+[[nodiscard]] std::int64_t wholeAllocatedSize(const FileSystem& files, const Path& path,
+                                              const std::stop_token& stop = {});
 
 }  // namespace klarvik

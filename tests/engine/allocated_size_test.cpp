@@ -122,5 +122,23 @@ TEST_F(AllocatedSizeOnADisk, CountsNamesThatAreNotUtf8) {
   EXPECT_GE(allocatedSize(files, "/x"), 10'000);
 }
 
+TEST(AllocatedSize, OfTheWholeCountsWhatIsHiddenAndWhatIsInPackages) {
+  MemoryFileSystem files;
+  files.addFile("/x/a", 512);
+  files.addFile("/x/.hidden/b", 4'096);
+  files.addFile("/x/Acme.app/Contents/binary", 8'192);
+  files.addLink("/x/link");
+  EXPECT_EQ(wholeAllocatedSize(files, "/x"), 512 + 4'096 + 8'192);
+  EXPECT_EQ(wholeAllocatedSize(files, "/x/link"), 0);
+}
+
+TEST(AllocatedSize, OfTheWholeEndsAtAStopWithWhatItHas) {
+  MemoryFileSystem files;
+  files.addFile("/x/a", 512);
+  std::stop_source stop;
+  stop.request_stop();
+  EXPECT_EQ(wholeAllocatedSize(files, "/x", stop.get_token()), 0);
+}
+
 }  // namespace
 }  // namespace klarvik
