@@ -91,24 +91,25 @@ std::vector<DeletionOutcome> ScannerEngine::deleteItems(const std::vector<JunkIt
   return outcomes;
 }
 
-PickedFileOutcome ScannerEngine::trashFile(const PickedFile& file) {
+PickedFileOutcome ScannerEngine::trashFile(const PickedFile& file, const PickedFileCheck& check) {
   const Path named = standardizedPath(file.url);
   const auto scope = DeletionScope::pickedFile();
   const FileSystem& files = _platform.files;
   const bool moved =
-      mayRemove(files, named, scope) &&
+      mayRemove(files, named, scope) && (!check || check(file)) &&
       _platform.trash.moveToTrash(named, placeCheck(files, named, scope)).has_value();
   return {.url = file.url, .bytes = moved ? file.size : 0, .moved = moved};
 }
 
 std::set<Path> ScannerEngine::trashFiles(const std::vector<PickedFile>& files, std::stop_token stop,
-                                         const DeletionSink& progress) {
+                                         const DeletionSink& progress,
+                                         const PickedFileCheck& check) {
   std::vector<PickedFileOutcome> byNumber(files.size());
   std::set<Path> moved;
   Tally tally(files.size(), stop, progress);
   performInSlidingGroup(
       files.size(), deletionWidth, stop,
-      [&](std::size_t number) { byNumber[number] = trashFile(files[number]); },
+      [&](std::size_t number) { byNumber[number] = trashFile(files[number], check); },
       [&](std::size_t number) {
         const PickedFileOutcome& outcome = byNumber[number];
         if (outcome.moved) moved.insert(outcome.url);

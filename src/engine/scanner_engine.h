@@ -69,6 +69,9 @@ class ScannerEngine {
   using UpdateSink = std::function<void(const ScanUpdate&)>;
   using CategorySink = std::function<void(const CleanCategory&)>;
   using DeletionSink = std::function<void(const DeletionProgress&)>;
+  /// Asked of each picked file right before it goes, on any of the removal's threads, several at a
+  /// time; a file that gets a no stays.
+  using PickedFileCheck = std::function<bool(const PickedFile&)>;
 
   /// No more removals than this are under way at any time.
   static constexpr std::size_t deletionWidth = 6;
@@ -86,10 +89,10 @@ class ScannerEngine {
   std::vector<DeletionOutcome> deleteItems(const std::vector<JunkItem>& items, bool useTrash,
                                            std::stop_token stop = {},
                                            const DeletionSink& progress = {});
-  PickedFileOutcome trashFile(const PickedFile& file);
+  PickedFileOutcome trashFile(const PickedFile& file, const PickedFileCheck& check = {});
   /// The files that were really moved. Stopping is as in `deleteItems`.
   std::set<Path> trashFiles(const std::vector<PickedFile>& files, std::stop_token stop,
-                            const DeletionSink& progress);
+                            const DeletionSink& progress, const PickedFileCheck& check = {});
   bool restoreItem(const Path& trashedURL, const Path& originalURL);
   /// Bytes reclaimed. Entries that come into the Trash meanwhile stay.
   std::int64_t emptyTrash(std::stop_token stop = {}, const DeletionSink& progress = {});

@@ -95,4 +95,13 @@ QCoro::Task<> holdTurn(ScanCoordinator& coordinator, Clock& clock, std::function
   coordinator.finishTurn();
 }
 
+QCoro::Task<> runAutoScan(ScanCoordinator& coordinator, Clock& clock, AutoScan scan,
+                          std::stop_token stop) {
+  if (!scan.isNeeded()) co_return;
+  if (!co_await coordinator.beginAutoScan(scan.key, stop)) co_return;
+  if (scan.isNeeded()) scan.start();
+  co_await holdTurn(
+      coordinator, clock, [&scan] { return !scan.isRunning(); }, stop);
+}
+
 }  // namespace klarvik

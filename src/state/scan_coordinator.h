@@ -76,4 +76,17 @@ class ScanCoordinator : public QObject {
 QCoro::Task<> holdTurn(ScanCoordinator& coordinator, Clock& clock, std::function<bool()> over,
                        std::stop_token stop);
 
+/// The scan that a tool makes by itself, once, when its turn comes.
+struct AutoScan {
+  std::string key;
+  std::function<bool()> isNeeded;  ///< asked before the wait for the turn, and again after it
+  std::function<void()> start;
+  std::function<bool()> isRunning;
+};
+
+/// From the wait for the turn to giving it up. None of the functions is called once a stop has been
+/// requested.
+QCoro::Task<> runAutoScan(ScanCoordinator& coordinator, Clock& clock, AutoScan scan,
+                          std::stop_token stop);
+
 }  // namespace klarvik

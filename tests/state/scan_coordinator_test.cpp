@@ -205,5 +205,56 @@ TEST_F(HoldTurn, PassesTheTurnAtOnceWhenThereIsNothingToWaitFor) {
   EXPECT_TRUE(turnPassed());
 }
 
+class RunAutoScan : public HoldTurn {
+ protected:
+  void run(const std::string& key) {
+    runAutoScan(*coordinator, clock,
+                {.key = key,
+                 .isNeeded = [this] { return !scanned && !running; },
+                 .start = [this] { running = true, ++starts; },
+                 .isRunning = [this] { return running; }},
+                stop.get_token());
+  }
+
+  bool scanned = false;
+  bool running = false;
+  int starts = 0;
+};
+
+TEST_F(RunAutoScan, ScansWhenItsTurnComesAndPassesTheTurnOn) {
+  run("systemData");
+  EXPECT_EQ(starts, 0);
+  coordinator->finishTurn();
+  EXPECT_EQ(starts, 1);
+  running = false;
+  clock.advance(250ms);
+  EXPECT_TRUE(turnPassed());
+}
+
+TEST_F(RunAutoScan, StartsNothingWhenTheUserWasQuickerAndHoldsTheTurnUntilThatScanEnds) {
+  run("systemData");
+  running = true;
+  coordinator->finishTurn();
+  clock.advance(1s);
+  EXPECT_EQ(starts, 0);
+  EXPECT_FALSE(turnPassed());
+  running = false;
+  clock.advance(250ms);
+  EXPECT_TRUE(turnPassed());
+}
+
+TEST_F(RunAutoScan, TakesNoTurnWhenThereIsNothingToScan) {
+  scanned = true;
+  run("systemData");
+  EXPECT_FALSE(coordinator->completedAutoScans().contains("systemData"));
+}
+
+TEST_F(RunAutoScan, AsksNothingMoreOnceStoppedInTheQueue) {
+  run("systemData");
+  stop.request_stop();
+  coordinator->finishTurn();
+  EXPECT_EQ(starts, 0);
+}
+
 }  // namespace
 }  // namespace klarvik

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "panes/smart_scan/row_text.h"
+#include "panes/kit/row_text.h"
 
 namespace klarvik {
 namespace {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "panes/kit/file_url.h"
-#include "panes/smart_scan/row_text.h"
+#include "panes/kit/row_text.h"
 #include "panes/smart_scan/smart_scan_texts.h"
 
 namespace klarvik {

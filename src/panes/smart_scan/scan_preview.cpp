@@ -1,6 +1,6 @@
 #include "panes/smart_scan/scan_preview.h"
 
-#include "panes/smart_scan/row_text.h"
+#include "panes/kit/row_text.h"
 
 namespace klarvik {
 

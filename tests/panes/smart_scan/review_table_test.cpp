@@ -5,7 +5,7 @@
 
 #include "pane_fixture.h"
 #include "panes/kit/file_url.h"
-#include "panes/smart_scan/row_text.h"
+#include "panes/kit/row_text.h"
 
 namespace klarvik {
 namespace {

@@ -3,7 +3,7 @@
 #include <QSignalSpy>
 
 #include "pane_fixture.h"
-#include "panes/smart_scan/row_text.h"
+#include "panes/kit/row_text.h"
 
 namespace klarvik {
 namespace {

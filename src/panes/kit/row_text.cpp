@@ -1,4 +1,4 @@
-#include "panes/smart_scan/row_text.h"
+#include "panes/kit/row_text.h"
 
 #include <QStringList>
 

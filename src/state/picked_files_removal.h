@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QCoro/QCoroTask>
+#include <QObject>
+#include <optional>
+#include <set>
+#include <stop_token>
+#include <vector>
+
+#include "engine/scanner_engine.h"
+#include "platform/platform.h"
+#include "state/engine_work.h"
+
+namespace klarvik {
+
+/// Moves files that the user picked to the Trash, for a pane that shows how it goes. One removal at
+/// a time. Main thread only. An owner that awaits `trash` begins its destructor with `finish`, so
+/// that it need not ask afterwards whether it still lives.
+class PickedFilesRemoval : public QObject {
+  Q_OBJECT
+ public:
+  explicit PickedFilesRemoval(const Desktop& desktop, QObject* parent = nullptr);
+  /// Starts no further file, and waits for those in hand; whoever awaits `trash` is resumed first.
+  ~PickedFilesRemoval() override;
+
+  [[nodiscard]] bool isRunning() const { return _isRunning; }
+  [[nodiscard]] const std::optional<DeletionProgress>& progress() const { return _progress; }
+
+  /// The files that were really moved, also after a cancellation. `check` is asked on an engine
+  /// thread, of each file right before it goes. Must not be called while one is running; none is
+  /// running any more when the answer comes.
+  QCoro::Task<std::set<Path>> trash(std::vector<PickedFile> files,
+                                    ScannerEngine::PickedFileCheck check = {});
+  void cancel();
+  /// For the end of the program: as the destructor does. Nothing may be started afterwards.
+  void finish();
+
+ signals:
+  void changed();
+
+ private:
+  const Desktop& _desktop;
+  bool _isRunning = false;
+  std::optional<DeletionProgress> _progress;
+  std::stop_source _stop;
+  EngineWork _work;
+};
+
+}  // namespace klarvik
