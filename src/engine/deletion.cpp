@@ -1,6 +1,6 @@
 // Every removal of a found item or a picked file, and the way back.
 
-#include "core/deletion_guard.h"
+#include "core/removal_check.h"
 #include "engine/allocated_size.h"
 #include "engine/local_snapshots.h"
 #include "engine/scanner_engine.h"
@@ -33,17 +33,6 @@ class Tally {
   DeletionProgress _told;
   bool _silent = false;
 };
-
-bool mayRemove(const FileSystem& files, const Path& named, const DeletionScope& scope) {
-  return !DeletionGuard::refusalReason(named, scope, files.home());
-}
-
-/// Links among the folders above may lead an allowed path to a place that is not.
-PlaceCheck placeCheck(const FileSystem& files, const Path& named, const DeletionScope& scope) {
-  return [&files, named, scope](const Path& real) {
-    return real == named || !DeletionGuard::refusalReason(real, scope, files.realHome());
-  };
-}
 
 bool removeSnapshot(CommandRunner& commands, const Path& named) {
   const auto command = snapshotRemovalCommand(named);

@@ -1,0 +1,15 @@
+#include "core/removal_check.h"
+
+namespace klarvik {
+
+bool mayRemove(const FileSystem& files, const Path& named, const DeletionScope& scope) {
+  return !DeletionGuard::refusalReason(named, scope, files.home());
+}
+
+PlaceCheck placeCheck(const FileSystem& files, const Path& named, const DeletionScope& scope) {
+  return [&files, named, scope](const Path& real) {
+    return real == named || !DeletionGuard::refusalReason(real, scope, files.realHome());
+  };
+}
+
+}  // namespace klarvik
