@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/uuid.h"
+#include "platform/file_system.h"
+
+namespace klarvik {
+
+/// What a leftover of an application is, by the Library folder it lies in.
+enum class ResidualCategory {
+  preferences,
+  caches,
+  appSupport,
+  logs,
+  containers,
+  savedState,
+  cookies,
+  other,
+};
+
+inline constexpr std::size_t residualCategoryCount = 8;
+[[nodiscard]] const std::array<ResidualCategory, residualCategoryCount>& allResidualCategories();
+/// The name that the user reads.
+[[nodiscard]] std::string_view rawValue(ResidualCategory category);
+
+/// One file or folder that an application has left in a Library folder.
+struct ResidualFile {
+  Uuid id = Uuid::random();  ///< new in each search
+  Path url;
+  std::int64_t size = 0;  ///< bytes of content, hidden things left out; at least 1
+  ResidualCategory category = ResidualCategory::other;
+  bool isSelected = true;
+
+  bool operator==(const ResidualFile&) const = default;
+};
+
+/// One installed application.
+struct AppInfo {
+  Uuid id = Uuid::random();  ///< new in each listing
+  std::string name;          ///< may hold bytes that are not UTF-8 where it is the folder's
+  std::string bundleID;
+  Path appURL;               ///< the .app folder
+  std::int64_t appSize = 0;  ///< bytes of content, hidden things left out
+  std::vector<ResidualFile> residuals{};
+
+  bool operator==(const AppInfo&) const = default;
+};
+
+}  // namespace klarvik
+
+template <>
+struct std::hash<klarvik::ResidualFile> {
+  [[nodiscard]] std::size_t operator()(const klarvik::ResidualFile& residual) const noexcept {
+    return std::hash<klarvik::Uuid>{}(residual.id);
+  }
+};

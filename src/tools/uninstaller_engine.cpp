@@ -1,0 +1,119 @@
+#include "tools/uninstaller_engine.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/junk_model.h"
+#include "core/removal_check.h"
+#include "platform/application_bundle.h"
+#include "tools/file_size.h"
+#include "tools/residual_matcher.h"
+
+namespace klarvik {
+
+namespace {
+
+struct SearchRoot {
+  std::string_view folder;  ///< below the home, unless absolute
+  ResidualCategory category;
+};
+
+constexpr std::array<SearchRoot, 12> searchRoots{{
+    {"Library/Preferences", ResidualCategory::preferences},
+    {"Library/Caches", ResidualCategory::caches},
+    {"Library/Application Support", ResidualCategory::appSupport},
+    {"Library/Logs", ResidualCategory::logs},
+    {"Library/Containers", ResidualCategory::containers},
+    {"Library/Group Containers", ResidualCategory::containers},
+    {"Library/Saved Application State", ResidualCategory::savedState},
+    {"Library/Cookies", ResidualCategory::cookies},
+    {"Library/HTTPStorages", ResidualCategory::caches},
+    {"/Library/Preferences", ResidualCategory::preferences},
+    {"/Library/Application Support", ResidualCategory::appSupport},
+    {"/Library/Caches", ResidualCategory::caches},
+}};
+
+bool isApplicationName(const Path& path) {
+  return path.extension() == ".app";
+}
+
+std::vector<Path> visibleEntries(const FileSystem& files, const Path& folder) {
+  std::vector<Path> entries = files.list(folder).value_or(std::vector<Path>{});
+  std::erase_if(entries,
+                [](const Path& entry) { return entry.filename().native().starts_with('.'); });
+  return entries;
+}
+
+std::optional<AppInfo> appAt(const FileSystem& files, const Path& path) {
+  if (!isApplicationName(path)) return std::nullopt;
+  const auto bundle = ApplicationBundle::at(files, path);
+  if (!bundle) return std::nullopt;
+  return AppInfo{.name = bundle->displayName.value_or(bundle->name.value_or(path.stem().native())),
+                 .bundleID = bundle->identifier,
+                 .appURL = path,
+                 .appSize = contentSize(files, path)};
+}
+
+bool removeResidual(FileSystem& files, const Path& url, const DeletionScope& scope) {
+  const Path named = standardizedPath(url);
+  return mayRemove(files, named, scope) && files.remove(named, placeCheck(files, named, scope));
+}
+
+/// No rule is asked for an application that the user chose to remove: it can be put back.
+bool moveToTrash(Trash& trash, const Path& app) {
+  const Path named = standardizedPath(app);
+  const auto anywhere = [](const Path&) { return true; };
+  return isApplicationName(named) && trash.moveToTrash(named, anywhere).has_value();
+}
+
+}  // namespace
+
+UninstallerEngine::UninstallerEngine(const Platform& platform) : _platform(platform) {}
+
+std::vector<AppInfo> UninstallerEngine::listApps() {
+  const std::lock_guard lock(_working);
+  const FileSystem& files = _platform.files;
+  std::vector<AppInfo> apps;
+  for (const Path& folder : {Path("/Applications"), files.home() / "Applications"}) {
+    for (const Path& entry : visibleEntries(files, folder)) {
+      if (auto app = appAt(files, entry)) apps.push_back(*std::move(app));
+    }
+  }
+  std::ranges::stable_sort(apps, {}, &AppInfo::name);
+  return apps;
+}
+
+std::vector<ResidualFile> UninstallerEngine::findResiduals(const AppInfo& app) {
+  const std::lock_guard lock(_working);
+  const FileSystem& files = _platform.files;
+  const ResidualMatcher matcher(app);
+  std::vector<ResidualFile> found;
+  for (const SearchRoot& root : searchRoots) {
+    for (const Path& entry : visibleEntries(files, files.home() / root.folder)) {
+      if (!matcher.matches(entry.filename().native())) continue;
+      const std::int64_t size = contentSize(files, entry);
+      if (size > 0) found.push_back({.url = entry, .size = size, .category = root.category});
+    }
+  }
+  std::ranges::stable_sort(found, std::ranges::greater{}, &ResidualFile::size);
+  return found;
+}
+
+std::int64_t UninstallerEngine::uninstall(const AppInfo& app,
+                                          const std::vector<ResidualFile>& residuals) {
+  const std::lock_guard lock(_working);
+  const auto scope = DeletionScope::residual(residualIdentifiers(app));
+  std::int64_t freed = 0;
+  for (const ResidualFile& residual : residuals) {
+    if (removeResidual(_platform.files, residual.url, scope))
+      freed = addBytes(freed, residual.size);
+  }
+  if (moveToTrash(_platform.trash, app.appURL)) freed = addBytes(freed, app.appSize);
+  return freed;
+}
+
+std::vector<std::string> UninstallerEngine::residualIdentifiers(const AppInfo& app) {
+  return guardIdentifiers(app);
+}
+
+}  // namespace klarvik

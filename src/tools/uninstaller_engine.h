@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+#include "tools/app_info.h"
+
+namespace klarvik {
+
+/// Lists the installed applications, finds what one of them has left in the Library folders, and
+/// removes it.
+///
+/// Owned by whoever started the work; cheap to make, holds nothing between two calls, and must not
+/// outlive the platform. Operations are synchronous, run one at a time, and are meant to be called
+/// off the main thread. None of them can be stopped: whoever no longer wants the answer ignores it.
+/// Nothing throws: what fails counts as not found or not removed.
+class UninstallerEngine {
+ public:
+  explicit UninstallerEngine(const Platform& platform);
+
+  /// What lies directly in /Applications and in the user's own Applications folder and has a bundle
+  /// identifier, by name. No residuals yet.
+  [[nodiscard]] std::vector<AppInfo> listApps();
+
+  /// What bears the application's name or identifier at the top level of a Library folder, largest
+  /// first. Empty things are left out, and so is what belongs to the system.
+  [[nodiscard]] std::vector<ResidualFile> findResiduals(const AppInfo& app);
+
+  /// Removes `residuals` for good, one after the other, each only if `DeletionGuard` lets it go as
+  /// a residual of `app`; then moves the application to the Trash. Answers the bytes freed: of each
+  /// thing that is gone, what it measured when it was found.
+  std::int64_t uninstall(const AppInfo& app, const std::vector<ResidualFile>& residuals);
+
+  /// The words by which `DeletionGuard` knows what is a residual of `app`.
+  [[nodiscard]] static std::vector<std::string> residualIdentifiers(const AppInfo& app);
+
+ private:
+  const Platform& _platform;
+  std::mutex _working;
+};
+
+}  // namespace klarvik
