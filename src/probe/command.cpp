@@ -24,7 +24,7 @@ std::vector<std::string> readEntries(std::istream& input, const Invocation& call
 }
 
 std::span<const Command> commands() {
-  static const std::array<Command, 7> all{{
+  static const std::array<Command, 10> all{{
       {"guard",
        "[-0] general|pickedFile|residual [IDENTIFIER...]  < paths",
        {"-0"},
@@ -37,6 +37,9 @@ std::span<const Command> commands() {
       {"trash-files", "[-0]  < paths", {"-0"}, 0, 0, trashFiles},
       {"restore", "[-0]  < trashed path and original path, in turn", {"-0"}, 0, 0, restore},
       {"empty-trash", "", {}, 0, 0, emptyTrash},
+      {"apps", "", {}, 0, 0, apps},
+      {"residuals", "BUNDLE-ID", {}, 1, 1, residuals},
+      {"uninstall", "BUNDLE-ID", {}, 1, 1, uninstall},
   }};
   return all;
 }
