@@ -28,18 +28,33 @@ AppState& KlarvikApp::appState() {
 }
 
 bool KlarvikApp::openMainWindow() {
-  _shell = std::make_unique<AppShell>(landedPanes(), appState(), _shared, _desktop);
+  _panes = landedPanes();
+  _shell = std::make_unique<AppShell>(_panes, appState(), _shared, _desktop);
   _window = MainWindow::open(*_shell, _desktop);
   if (!_window) {
     return false;
   }
   QMetaObject::invokeMethod(
-      this, [this] { launch(); }, Qt::QueuedConnection);
+      this,
+      [this] {
+        launch();
+        for (const LandedPane& pane : _panes) {
+          if (pane.appear) {
+            pane.appear();
+          }
+        }
+      },
+      Qt::QueuedConnection);
   return true;
 }
 
 void KlarvikApp::finishRemovals() {
   appState().finishRemovals();
+  for (const LandedPane& pane : _panes) {
+    if (pane.finishRemovals) {
+      pane.finishRemovals();
+    }
+  }
   _shared.trashMonitor().finishEmptying();
 }
 

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <memory>
 #include <stop_token>
+#include <vector>
 
 #include "panes/smart_scan/smart_scan_pane.h"
 #include "platform/platform.h"
@@ -44,6 +45,7 @@ class KlarvikApp : public QObject {
   std::stop_source _stop;
   std::unique_ptr<AppState> _appState;
   std::unique_ptr<SmartScanPane> _smartScanPane;
+  std::vector<LandedPane> _panes;  ///< in section order
   std::unique_ptr<AppShell> _shell;
   std::unique_ptr<MainWindow> _window;
 };

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QUrl>
+#include <functional>
 
 #include "state/section.h"
 
@@ -12,6 +13,10 @@ struct LandedPane {
   Section section = Section::smartScan;
   QUrl view;
   QObject* model = nullptr;  ///< lives as long as the window
+  /// Once, when the window is on the screen: where a pane starts what it does by itself.
+  std::function<void()> appear = {};
+  /// For the end of the program: starts no further removal, and waits for those in hand.
+  std::function<void()> finishRemovals = {};
 };
 
 }  // namespace klarvik
