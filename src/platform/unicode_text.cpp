@@ -65,6 +65,17 @@ std::string lowercased(std::string_view text) {
   return result;
 }
 
+std::string capitalized(std::string_view text) {
+  std::size_t firstLength = 0;
+  if (text.empty() || takeCodePoint(text, firstLength) < 0) return std::string(text);
+  std::string result;
+  UErrorCode status = U_ZERO_ERROR;
+  icu::StringByteSink<std::string> sink(&result);
+  const auto size = static_cast<std::int32_t>(firstLength);
+  icu::CaseMap::utf8ToUpper("", 0, icu::StringPiece(text.data(), size), sink, nullptr, status);
+  return result.append(text.substr(firstLength));
+}
+
 std::size_t characterCount(std::string_view text) {
   std::size_t count = 0;
   takeApart(

@@ -10,6 +10,9 @@ namespace klarvik {
 /// stay as they are, so that two texts that differ in them do not become the same.
 [[nodiscard]] std::string lowercased(std::string_view text);
 
+/// `text` with its first character in upper case, by the same rules. One that is not UTF-8 stays.
+[[nodiscard]] std::string capitalized(std::string_view text);
+
 /// How many characters a reader sees in `text`: a letter and its accents are one. Each byte that is
 /// not UTF-8 counts as one.
 [[nodiscard]] std::size_t characterCount(std::string_view text);

@@ -9,18 +9,7 @@
 
 namespace klarvik {
 
-namespace {
-
 using namespace std::chrono_literals;
-
-DiskStats readStats(const Volume& volume) {
-  const std::int64_t total = volume.totalBytes().value_or(0);
-  const auto available = volume.availableBytes();
-  if (!available) return {total, total, 0};
-  return {total, total - *available, *available};
-}
-
-}  // namespace
 
 DiskMonitor& DiskMonitor::shared() {
   return SharedState::instance().diskMonitor();
@@ -29,7 +18,7 @@ DiskMonitor& DiskMonitor::shared() {
 DiskMonitor::DiskMonitor(const Desktop& desktop, QObject* parent)
     : QObject(parent),
       _desktop(desktop),
-      _stats(readStats(desktop.volume)),
+      _stats(readDiskStats(desktop.volume)),
       _onDiskChanged(
           desktop.notifications.observe(diskChangedNotification, [this] { diskChanged(); })),
       _onActive(
@@ -41,7 +30,7 @@ DiskMonitor::~DiskMonitor() {
 }
 
 void DiskMonitor::refreshNow() {
-  if (changeTo(_stats, readStats(_desktop.volume))) emit statsChanged();
+  if (changeTo(_stats, readDiskStats(_desktop.volume))) emit statsChanged();
 }
 
 void DiskMonitor::diskChanged() {

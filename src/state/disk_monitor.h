@@ -4,20 +4,13 @@
 #include <QObject>
 #include <array>
 #include <chrono>
-#include <cstdint>
 #include <stop_token>
 
+#include "core/disk_stats.h"
 #include "platform/platform.h"
 #include "state/repeating_timer.h"
 
 namespace klarvik {
-
-struct DiskStats {
-  std::int64_t totalBytes = 0;
-  std::int64_t usedBytes = 0;
-  std::int64_t freeBytes = 0;
-  bool operator==(const DiskStats&) const = default;
-};
 
 /// How full the volume is. Reads every 5 seconds, when the application becomes active, and several
 /// times after "klarvik.diskChanged". Main thread only.

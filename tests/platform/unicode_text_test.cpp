@@ -14,6 +14,19 @@ TEST(Lowercased, KeepsBytesThatAreNotUtf8) {
   EXPECT_EQ(lowercased("A\xff\xfe\xc3"), "a\xff\xfe\xc3");
 }
 
+TEST(Capitalized, ChangesTheFirstCharacterOnly) {
+  EXPECT_EQ(capitalized("mail"), "Mail");
+  EXPECT_EQ(capitalized("äpfel iota"), "Äpfel iota");
+  EXPECT_EQ(capitalized("ßa"), "SSa");
+  EXPECT_EQ(capitalized("3com"), "3com");
+  EXPECT_EQ(capitalized(""), "");
+}
+
+TEST(Capitalized, KeepsBytesThatAreNotUtf8) {
+  EXPECT_EQ(capitalized("\xff mail"), "\xff mail");
+  EXPECT_EQ(capitalized("a\xff"), "A\xff");
+}
+
 TEST(CharacterCount, CountsWhatAReaderSees) {
   EXPECT_EQ(characterCount(""), 0U);
   EXPECT_EQ(characterCount("acme"), 4U);

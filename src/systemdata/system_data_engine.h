@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+#include "systemdata/system_data_item.h"
+
+namespace klarvik {
+
+/// Finds out where the space went that the system's own storage report lumps together. Reads sizes
+/// only, and removes nothing.
+///
+/// Owned by whoever started the work; cheap to make, and made afresh for each run. Operations are
+/// synchronous and are meant to be called off the main thread; analyses of one engine run one after
+/// the other. Nothing throws: what cannot be read is not found.
+class SystemDataEngine {
+ public:
+  /// Comes on the calling thread, and must not call back into the engine. `fraction` is of the
+  /// whole analysis, from 0 to 1.
+  using ProgressSink = std::function<void(const std::string& label, double fraction)>;
+
+  explicit SystemDataEngine(const Platform& platform) : _platform(platform) {}
+
+  /// Goes through all passes, each of which is reported before it begins. An analysis cannot be
+  /// stopped half-way. The free bytes of the result are left at 0 for the caller to fill in. Items
+  /// come shortest path first, and none lies inside another.
+  [[nodiscard]] SystemDataResult analyse(const ProgressSink& progress);
+
+  /// Bytes allocated on the disk for a path and all it holds, hidden files and the contents of
+  /// packages included. 0 for a link and for what cannot be read.
+  [[nodiscard]] std::int64_t measure(const Path& url) const;
+  /// Of the volume, for the user; 0 where it does not tell.
+  [[nodiscard]] std::int64_t freeBytes() const;
+  /// One item for each child of at least `minimumSize` bytes, links left out, largest first.
+  [[nodiscard]] std::vector<SystemDataItem> listChildren(const Path& url,
+                                                         SystemDataSubCategory kind,
+                                                         std::int64_t minimumSize) const;
+
+ private:
+  const Platform& _platform;
+  std::mutex _analysing;
+};
+
+}  // namespace klarvik

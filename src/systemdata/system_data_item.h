@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/uuid.h"
+#include "platform/file_system.h"
+#include "platform/formatting.h"
+#include "systemdata/system_data_sub_category.h"
+
+namespace klarvik {
+
+/// One finding of the analysis.
+struct SystemDataItem {
+  Uuid id = Uuid::random();
+  std::string name;  ///< what the row shows; bytes of the disk, made printable only at the screen
+  Path path;         ///< what was measured
+  std::int64_t size = 0;  ///< bytes
+  SystemDataSubCategory subCategory = SystemDataSubCategory::otherLibrary;
+  /// Where this item differs from its kind.
+  std::optional<ItemSafety> safetyOverride = std::nullopt;
+
+  [[nodiscard]] ItemSafety safety() const;
+  /// Whether a pane may select, count as removable, or remove it.
+  [[nodiscard]] bool isRemovable() const;
+
+  bool operator==(const SystemDataItem&) const = default;
+};
+
+/// The verdict on several items together. That of no items is `protected_`, and a mix of `safe` and
+/// `protected_` is `safe`.
+[[nodiscard]] ItemSafety groupSafety(std::span<const SystemDataItem> items);
+/// The sum of their sizes as text.
+[[nodiscard]] std::string formattedSize(std::span<const SystemDataItem> items,
+                                        const Formatting& formatting);
+
+/// The outcome of one analysis. Other items make another result; how much is free may be told later
+/// and again.
+class SystemDataResult {
+ public:
+  explicit SystemDataResult(std::vector<SystemDataItem> items, std::int64_t freeBytes = 0)
+      : freeBytesAtMeasurement(freeBytes), _items(std::move(items)) {}
+
+  [[nodiscard]] const std::vector<SystemDataItem>& items() const { return _items; }
+
+  std::int64_t freeBytesAtMeasurement = 0;  ///< of the volume
+
+ private:
+  std::vector<SystemDataItem> _items;
+};
+
+}  // namespace klarvik
+
+template <>
+struct std::hash<klarvik::SystemDataItem> {
+  [[nodiscard]] std::size_t operator()(const klarvik::SystemDataItem& item) const noexcept;
+};

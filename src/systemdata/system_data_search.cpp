@@ -1,0 +1,175 @@
+#include "systemdata/system_data_search.h"
+
+#include <algorithm>
+#include <array>
+
+#include "engine/allocated_size.h"
+#include "engine/local_snapshots.h"
+#include "engine/shell.h"
+#include "engine/tool_text.h"
+#include "systemdata/friendly_name.h"
+#include "systemdata/snapshot_listing.h"
+
+namespace klarvik {
+
+namespace {
+
+constexpr std::int64_t smallestSwapFile = 100'000'001;
+constexpr std::int64_t smallestFirmware = 50'000'001;
+constexpr std::int64_t smallestRemainder = 10'000'001;
+constexpr std::size_t snapshotNameCharacters = 30;
+
+constexpr std::array<std::string_view, 3> firmwareFolders{
+    "Library/iTunes/iPhone Software Updates",
+    "Library/iTunes/iPad Software Updates",
+    "Library/iTunes/iPod Software Updates",
+};
+
+/// Folders of the home's Library that have a pass of their own.
+constexpr std::array<std::string_view, 12> coveredLibraryFolders{
+    "Application Support",
+    "Containers",
+    "Group Containers",
+    "Caches",
+    "Developer",
+    "Mail",
+    "Logs",
+    "Preferences",
+    "Cookies",
+    "HTTPStorages",
+    "Saved Application State",
+    "Mobile Documents",
+};
+
+bool isFirmware(const Path& file) {
+  const Path extension = file.extension();
+  return extension == ".ipsw" || extension == ".ipa";
+}
+
+void sortBySize(std::vector<SystemDataItem>& items) {
+  std::ranges::stable_sort(items, std::ranges::greater{}, &SystemDataItem::size);
+}
+
+template <class... Cases>
+struct Overloaded : Cases... {
+  using Cases::operator()...;
+};
+
+}  // namespace
+
+SystemDataSearch::Items SystemDataSearch::find(const Pass& pass) const {
+  return std::visit(
+      Overloaded{[&](const ChildFolder& folder) {
+                   return children(inHome(folder.path), pass.kind, folder.minimumSize);
+                 },
+                 [&](std::span<const WholePlace> places) { return wholePlaces(places, pass.kind); },
+                 [&](OwnSearch search) { return (this->*search)(pass.kind); }},
+      pass.places);
+}
+
+SystemDataSearch::Items SystemDataSearch::wholePlaces(std::span<const WholePlace> places,
+                                                      SystemDataSubCategory kind) const {
+  Items items;
+  for (const WholePlace& place : places) {
+    const Path path = inHome(place.path);
+    const auto size = sizeOf(path);
+    if (size < place.minimumSize) continue;
+    items.push_back({.name = std::string(place.name),
+                     .path = path,
+                     .size = size,
+                     .subCategory = kind,
+                     .safetyOverride = place.safetyOverride});
+  }
+  return items;
+}
+
+SystemDataSearch::Items SystemDataSearch::children(const Path& folder, SystemDataSubCategory kind,
+                                                   std::int64_t minimumSize) const {
+  return childrenExcept({}, folder, kind, minimumSize);
+}
+
+SystemDataSearch::Items SystemDataSearch::libraryRemainder(SystemDataSubCategory kind) const {
+  return childrenExcept(coveredLibraryFolders, inHome("Library"), kind, smallestRemainder);
+}
+
+SystemDataSearch::Items SystemDataSearch::childrenExcept(std::span<const std::string_view> names,
+                                                         const Path& folder,
+                                                         SystemDataSubCategory kind,
+                                                         std::int64_t minimumSize) const {
+  Items items;
+  for (const Path& child : list(folder)) {
+    const Path name = child.filename();
+    if (std::ranges::find(names, name.native()) != names.end() || isLink(child)) continue;
+    const auto size = sizeOf(child);
+    if (size < minimumSize) continue;
+    items.push_back(
+        {.name = friendlyName(name.native()), .path = child, .size = size, .subCategory = kind});
+  }
+  sortBySize(items);
+  return items;
+}
+
+SystemDataSearch::Items SystemDataSearch::snapshots(SystemDataSubCategory kind) const {
+  Items items;
+  const auto listing = runShell(_platform.commands, "tmutil listlocalsnapshots / 2>/dev/null");
+  for (const std::string& text : listedSnapshots(listing)) {
+    const auto command = listedSnapshotSizeCommand(text);
+    const auto told = command ? runShell(_platform.commands, *command) : std::string();
+    const auto beginning = firstCharacters(text, snapshotNameCharacters);
+    items.push_back({.name = "Snapshot: " + std::string(beginning),
+                     .path = snapshotPath(text),
+                     .size = listedSnapshotBytes(told),
+                     .subCategory = kind});
+  }
+  return items;
+}
+
+SystemDataSearch::Items SystemDataSearch::swapFiles(SystemDataSubCategory kind) const {
+  Items items;
+  for (const Path& file : list("/private/var/vm")) {
+    const auto attributes = _platform.files.attributes(file);
+    if (!attributes || attributes->kind == FileKind::directory) continue;
+    // Swap files are as large as they say, however little of them the disk has given yet.
+    if (attributes->logicalBytes < smallestSwapFile) continue;
+    items.push_back({.name = file.filename().native(),
+                     .path = file,
+                     .size = attributes->logicalBytes,
+                     .subCategory = kind});
+  }
+  return items;
+}
+
+SystemDataSearch::Items SystemDataSearch::firmware(SystemDataSubCategory kind) const {
+  Items items;
+  for (const std::string_view folder : firmwareFolders) {
+    for (const Path& file : list(inHome(folder))) {
+      if (!isFirmware(file)) continue;
+      const auto size = sizeOf(file);
+      if (size < smallestFirmware) continue;
+      items.push_back({.name = "Firmware: " + file.filename().native(),
+                       .path = file,
+                       .size = size,
+                       .subCategory = kind});
+    }
+  }
+  return items;
+}
+
+Path SystemDataSearch::inHome(std::string_view path) const {
+  return _platform.files.home() / path;
+}
+
+std::vector<Path> SystemDataSearch::list(const Path& folder) const {
+  return _platform.files.list(folder).value_or(std::vector<Path>{});
+}
+
+bool SystemDataSearch::isLink(const Path& path) const {
+  const auto attributes = _platform.files.attributes(path);
+  return attributes && attributes->kind == FileKind::symbolicLink;
+}
+
+std::int64_t SystemDataSearch::sizeOf(const Path& path) const {
+  return wholeAllocatedSize(_platform.files, path);
+}
+
+}  // namespace klarvik

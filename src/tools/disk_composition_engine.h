@@ -1,0 +1,46 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <mutex>
+#include <stop_token>
+#include <string>
+
+#include "platform/platform.h"
+#include "tools/disk_composition.h"
+
+namespace klarvik {
+
+/// Measures the places that people keep things in, and sets their sum against what the volume says
+/// is used. Reads sizes only.
+///
+/// Owned by whoever started the work; cheap to make, and made afresh for each run. Operations are
+/// synchronous and are meant to be called off the main thread; measurements of one engine run one
+/// after the other. Nothing throws: what cannot be read counts among the remainder.
+class DiskCompositionEngine {
+ public:
+  /// Comes on the calling thread, and must not call back into the engine. `fraction` is from 0 to
+  /// 1.
+  using ProgressSink = std::function<void(const std::string& label, double fraction)>;
+  using PresentTime = std::function<Date()>;
+
+  explicit DiskCompositionEngine(const Platform& platform,
+                                 PresentTime now = std::chrono::system_clock::now);
+
+  /// A stop is seen between the places and inside them, at each entry. The answer then holds what
+  /// was measured until the stop, and its remainder all the rest.
+  [[nodiscard]] DiskComposition measureDisk(std::stop_token stop, const ProgressSink& progress);
+
+  /// Bytes allocated on the disk for a path and all it holds, hidden files and the contents of
+  /// packages included. 0 for a link and for what cannot be read. Ends early at a stop, with what
+  /// it has.
+  [[nodiscard]] std::int64_t measure(const Path& url, std::stop_token stop = {}) const;
+
+ private:
+  const Platform& _platform;
+  PresentTime _now;
+  std::mutex _measuring;
+};
+
+}  // namespace klarvik
