@@ -13,7 +13,7 @@ namespace {
 constexpr std::array<std::string_view, 2> kPlaces{"Contents/Info.plist", "Info.plist"};
 
 /// Real ones take some kilobytes.
-constexpr std::int64_t kMostBytes = 16 * 1'048'576;
+constexpr std::size_t kMostBytes = 4 * 1'048'576;
 
 std::optional<std::string> contentOf(FileReader& file) {
   std::string content;

@@ -2,6 +2,8 @@
 
 #include <plist/plist.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <limits>
 
@@ -11,24 +13,56 @@
 namespace klarvik {
 namespace {
 
-/// Each is one level of the stack when the library lets go of a list that nests them all.
-constexpr std::size_t kMostContainers = 10'000;
+/// How often these may occur in an XML list, comments and all. The library frees one container
+/// inside the other on the stack, compares the keys of a dictionary with one another, and moves the
+/// rest of a text for each entity in it.
+struct Bound {
+  std::string_view word;
+  std::size_t most;
+};
+constexpr std::array<Bound, 4> kBounds{
+    {{"<dict", 10'000}, {"<array", 10'000}, {"<key", 5'000}, {"&", 2'000}}};
 
-std::size_t countOf(std::string_view word, std::string_view text) {
-  std::size_t count = 0;
-  for (std::size_t at = text.find(word); at != std::string_view::npos;
-       at = text.find(word, at + word.size())) {
-    ++count;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// Calls `visit` with what follows each `word`, until it answers false. Whether it never did.
+template <class Visit>
+bool forEach(std::string_view word, std::string_view text, Visit visit) {
+  for (std::size_t at = text.find(word); at != std::string_view::npos; at = text.find(word, at)) {
+    at += word.size();
+    if (!visit(text.substr(at))) return false;
   }
-  return count;
+  return true;
 }
 
-/// Whatever else the text holds, comments included, it opens no more containers than these words.
+bool holdsAtMost(const Bound& bound, std::string_view text) {
+  std::size_t count = 0;
+  return forEach(bound.word, text, [&](std::string_view) { return ++count <= bound.most; });
+}
+
+/// "2026-01-31T23:59:59Z" and the end of the element. With any other month the library looks up its
+/// length where there is none.
+bool isDate(std::string_view text) {
+  constexpr std::string_view form = "0000-00-00T00:00:00Z</date>";
+  if (text.size() < form.size()) return false;
+  const auto fits = [](char expected, char found) {
+    return expected == '0' ? found >= '0' && found <= '9' : found == expected;
+  };
+  const std::string_view month = text.substr(5, 2);
+  return std::equal(form.begin(), form.end(), text.begin(), fits) && month >= "01" && month <= "12";
+}
+
 bool isBoundedXml(std::string_view content) {
-  return countOf("<dict", content) + countOf("<array", content) <= kMostContainers;
+  const auto isSoundDate = [](std::string_view rest) {
+    return rest.starts_with("/>") || (rest.starts_with('>') && isDate(rest.substr(1)));
+  };
+  return std::ranges::all_of(kBounds,
+                             [&](const Bound& bound) { return holdsAtMost(bound, content); }) &&
+         forEach("<date", content, isSoundDate);
 }
 
 plist_t rootOf(std::string_view content) {
+  if (content.starts_with(kByteOrderMark)) content.remove_prefix(kByteOrderMark.size());
   const auto size = static_cast<std::uint32_t>(content.size());
   plist_t root = nullptr;
   if (isBinaryPropertyList(content)) {

@@ -33,7 +33,7 @@ inline constexpr std::size_t residualCategoryCount = 8;
 /// One file or folder that an application has left in a Library folder.
 struct ResidualFile {
   Uuid id = Uuid::random();  ///< new in each search
-  Path url;
+  Path url{};
   std::int64_t size = 0;  ///< bytes of content, hidden things left out; at least 1
   ResidualCategory category = ResidualCategory::other;
   bool isSelected = true;
@@ -46,7 +46,7 @@ struct AppInfo {
   Uuid id = Uuid::random();  ///< new in each listing
   std::string name;          ///< may hold bytes that are not UTF-8 where it is the folder's
   std::string bundleID;
-  Path appURL;               ///< the .app folder
+  Path appURL{};             ///< the .app folder
   std::int64_t appSize = 0;  ///< bytes of content, hidden things left out
   std::vector<ResidualFile> residuals{};
 

@@ -11,6 +11,8 @@
 #include <system_error>
 #include <vector>
 
+#include "support/property_lists.h"
+
 namespace klarvik {
 
 namespace {
@@ -158,33 +160,25 @@ struct SampleApplication {
   std::string_view name;
   std::string_view bundleId;
   std::int64_t kilobytes;
+  std::string (*propertyList)(const PropertyListTexts&);
 };
 
 constexpr std::array<SampleApplication, 8> applications{{
-    {"/Applications", "Acme Writer", "com.acme.writer", 1'500},
-    {"/Applications", "Booth", "com.shutter.booth", 900},
-    {"/Applications", "Note", "com.note.app", 400},
-    {"/Applications", "Notebook", "com.paper.notebook", 400},
-    {"/Applications", "App 11", "com.eleven.app", 200},
-    {"/Applications", "Spotify", "com.spotify.client", 1'200},
-    {"/Applications", "Slack", "com.tinyspeck.slackmacgap", 1'000},
-    {"Applications", "Mini Tool", "com.mini.tool", 150},
+    {"/Applications", "Acme Writer", "com.acme.writer", 1'500, binaryPropertyList},
+    {"/Applications", "Booth", "com.shutter.booth", 900, binaryPropertyList},
+    {"/Applications", "Note", "com.note.app", 400, xmlPropertyList},
+    {"/Applications", "Notebook", "com.paper.notebook", 400, xmlPropertyList},
+    {"/Applications", "App 11", "com.eleven.app", 200, xmlPropertyList},
+    {"/Applications", "Spotify", "com.spotify.client", 1'200, binaryPropertyList},
+    {"/Applications", "Slack", "com.tinyspeck.slackmacgap", 1'000, xmlPropertyList},
+    {"Applications", "Mini Tool", "com.mini.tool", 150, binaryPropertyList},
 }};
 
-std::string informationList(std::string_view name, std::string_view bundleId) {
-  std::string text =
-      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-      "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-      "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-      "<plist version=\"1.0\">\n<dict>\n";
-  const auto entry = [&](std::string_view key, std::string_view value) {
-    text.append("\t<key>").append(key).append("</key>\n\t<string>").append(value);
-    text.append("</string>\n");
-  };
-  entry("CFBundleName", name);
-  entry("CFBundleShortVersionString", "1.0");
-  if (!bundleId.empty()) entry("CFBundleIdentifier", bundleId);
-  return text + "</dict>\n</plist>\n";
+PropertyListTexts information(std::string_view name, std::string_view bundleId) {
+  PropertyListTexts texts{{"CFBundleName", std::string(name)},
+                          {"CFBundleShortVersionString", "1.0"}};
+  if (!bundleId.empty()) texts.emplace_back("CFBundleIdentifier", bundleId);
+  return texts;
 }
 
 /// Puts the disk together, one subject after the other.
@@ -270,21 +264,34 @@ class SampleDiskBuilder {
     _writer.text("/private/etc/hosts", "127.0.0.1 localhost\n");
   }
 
-  void application(const Path& place, std::string_view name, std::string_view bundleId,
+  void application(const Path& place, std::string_view name, std::string_view propertyList,
                    std::int64_t bytes) {
-    _writer.text(place / "Contents/Info.plist", informationList(name, bundleId));
+    _writer.text(place / "Contents/Info.plist", propertyList);
     _writer.file(place / "Contents/MacOS" / name, bytes);
     _writer.file(place / "Contents/Resources/.hidden", 2 * kilobyte);
   }
 
   void userApplications() {
     for (const SampleApplication& each : applications) {
-      application(_home / each.folder / (std::string(each.name) + ".app"), each.name, each.bundleId,
+      application(_home / each.folder / (std::string(each.name) + ".app"), each.name,
+                  each.propertyList(information(each.name, each.bundleId)),
                   each.kilobytes * kilobyte);
     }
     _disk.applications = applications.size();
-    application("/Applications/Nameless.app", "Nameless", "", 10 * kilobyte);
-    application("/Applications/Suite/Inner.app", "Inner", "com.suite.inner", 10 * kilobyte);
+    application("/Applications/Nameless.app", "Nameless",
+                xmlPropertyList(information("Nameless", "")), 10 * kilobyte);
+    application("/Applications/Suite/Inner.app", "Inner",
+                xmlPropertyList(information("Inner", "com.suite.inner")), 10 * kilobyte);
+    // What is flat is an application as well, with the name that it shows.
+    _writer.text("/Applications/Pocket.app/Info.plist",
+                 binaryPropertyList({{"CFBundleDisplayName", "Pocket Reader"},
+                                     {"CFBundleName", "Pocket"},
+                                     {"CFBundleIdentifier", "com.pocket.reader"}}));
+    _writer.file("/Applications/Pocket.app/Pocket", 300 * kilobyte);
+    ++_disk.applications;
+    // One in each folder, and the cache and the preferences of its sister, which bears its vendor's
+    // name.
+    _disk.residuals = 12 + 2;
     _writer.folder("/Applications/Empty.app");
     _writer.text("/Applications/Broken.app/Contents/Info.plist", "<plist><dict><key>");
   }
@@ -360,6 +367,7 @@ class SampleDiskBuilder {
 
   void leftovers() {
     _writer.files(inLibrary("Cookies"), 3, 20'400 * kilobyte * _scale);
+    _writer.file(inLibrary("Cookies/com.acme.writer.binarycookies"), 2 * kilobyte);
     _writer.files(inLibrary("HTTPStorages/com.acme.writer"), 2, 1 * megabyte * _scale);
     _writer.files(inLibrary("Saved Application State/com.acme.writer.savedState"), 4,
                   2 * megabyte * _scale);

@@ -31,8 +31,9 @@ struct SampleDisk {
   std::string simulatorListing;
   std::size_t simulatorRows = 0;
 
-  std::size_t trashEntries = 0;     ///< in both of the home's Trash folders, hidden ones included
-  std::size_t applications = 0;     ///< with a bundle identifier, in both Applications folders
+  std::size_t trashEntries = 0;  ///< in both of the home's Trash folders, hidden ones included
+  std::size_t applications = 0;  ///< with a bundle identifier, in both Applications folders
+  std::size_t residuals = 0;     ///< of com.acme.writer, in all twelve folders where it is sought
   std::size_t duplicateGroups = 0;  ///< files of the same content in Documents, Downloads, Pictures
   std::size_t duplicateCopies = 0;  ///< files in these groups
   std::size_t largeFiles = 0;       ///< of 100 MiB and more where the large file finder looks

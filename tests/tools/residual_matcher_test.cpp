@@ -1,0 +1,168 @@
+#include "tools/residual_matcher.h"
+
+#include <gmock/gmock.h>
+
+#include <random>
+
+#include "platform/unicode_text.h"
+#include "tools/uninstaller_engine.h"
+
+namespace klarvik {
+namespace {
+
+using testing::ElementsAre;
+
+AppInfo app(const std::string& name, const std::string& bundleID) {
+  return {.name = name, .bundleID = bundleID};
+}
+
+bool matches(const AppInfo& application, std::string_view name) {
+  return ResidualMatcher(application).matches(name);
+}
+
+TEST(ResidualMatcher, TakesATokenAsAWholeWordOnly) {
+  const AppInfo note = app("Note", "com.paper.n");
+  for (const char* const name : {"note", "Note", "NOTE-cache", "note-cache", "com.note.app",
+                                 "com_note_app", "my note", "note.plist", "-note-", ".note"}) {
+    EXPECT_TRUE(matches(note, name)) << name;
+  }
+  for (const char* const name : {"notebook.plist", "notebook", "anote", "com.notes.app", "note1",
+                                 "not", "no-te", "note+cache", "note/", "", "com.keynote.app"}) {
+    EXPECT_FALSE(matches(note, name)) << name;
+  }
+}
+
+TEST(ResidualMatcher, APartOfTheIdentifierThatHoldsACapitalLetterCannotMatchByItself) {
+  const AppInfo tool = app("Xy", "com.acme.Tool");
+  EXPECT_FALSE(matches(tool, "tool"));
+  EXPECT_FALSE(matches(tool, "org.Tool.plist"));
+  EXPECT_TRUE(matches(tool, "com.acme.Tool"));
+  EXPECT_TRUE(matches(tool, "com.acme.tool"));
+}
+
+TEST(ResidualMatcher, TheNameFindsWhatSuchAPartCannot) {
+  const AppInfo tool = app("Tool", "com.acme.Tool");
+  EXPECT_TRUE(matches(tool, "tool"));
+  EXPECT_TRUE(matches(tool, "com.acme.tool.plist"));
+}
+
+TEST(ResidualMatcher, ANameWithBlanksIsFoundWholeWithoutThemAndWithHyphens) {
+  const AppInfo writer = app("Big Ink Pot", "com.x.y");
+  EXPECT_TRUE(matches(writer, "Big Ink Pot"));
+  EXPECT_TRUE(matches(writer, "com.bigInkPot.helper"));
+  EXPECT_TRUE(matches(writer, "big-ink-pot"));
+  EXPECT_FALSE(matches(writer, "Big"));
+  EXPECT_FALSE(matches(writer, "ink pot"));
+  EXPECT_FALSE(matches(writer, "Big_Ink_Pot"));
+  EXPECT_FALSE(matches(writer, "Big Ink Pot 2"));
+}
+
+TEST(ResidualMatcher, ANameOfThreeCharactersOrFewerGivesNoTokens) {
+  const AppInfo git = app("Git", "com.acme.scm");
+  EXPECT_FALSE(matches(git, "git"));
+  EXPECT_FALSE(matches(git, "git.plist"));
+  EXPECT_TRUE(matches(git, "acme-data"));
+  EXPECT_TRUE(matches(git, "COM.ACME.SCM"));
+}
+
+TEST(ResidualMatcher, CountsCharactersAndNotBytes) {
+  EXPECT_FALSE(matches(app("äöü", "a.b"), "äöü"));
+  EXPECT_TRUE(matches(app("äöüß", "a.b"), "ÄÖÜß"));
+  EXPECT_FALSE(matches(app("👩‍👩‍👧‍👦👩‍👩‍👧‍👦", "a.b"),
+                       "👩‍👩‍👧‍👦👩‍👩‍👧‍👦"));
+}
+
+TEST(ResidualMatcher, AnEntryNamedExactlyLikeTheIdentifierMatchesAlsoWhenItIsShort) {
+  EXPECT_TRUE(matches(app("X", "a.b"), "a.b"));
+  EXPECT_TRUE(matches(app("X", "A.B"), "a.B"));
+  EXPECT_FALSE(matches(app("X", "a.b"), "a.b.plist"));
+  EXPECT_FALSE(matches(app("X", "a.b"), "a"));
+}
+
+TEST(ResidualMatcher, AnIdentifierOfGenericOrShortPartsMatchesOnlyWhole) {
+  const AppInfo vague = app("It", "com.app.it");
+  EXPECT_TRUE(matches(vague, "com.app.it"));
+  for (const char* const name :
+       {"com", "app", "it", "com.app", "com.app.it.plist", "com.apple.x"}) {
+    EXPECT_FALSE(matches(vague, name)) << name;
+  }
+}
+
+TEST(ResidualMatcher, NeighboursDoNotTakeOneAnothersFilesByAPartOfAWord) {
+  EXPECT_FALSE(matches(app("A", "com.a.b"), "com.a.bc"));
+  EXPECT_FALSE(matches(app("A", "com.a.b"), "com.a.bc.plist"));
+  EXPECT_FALSE(matches(app("A", "com.a.bc"), "com.a.b"));
+  EXPECT_FALSE(matches(app("App", "io.x.y"), "App 11"));
+  EXPECT_FALSE(matches(app("App 11", "io.x.z"), "App"));
+  EXPECT_FALSE(matches(app("App 11", "io.x.z"), "App 110.plist"));
+  EXPECT_FALSE(matches(app("App 11", "io.x.z"), "App 1"));
+  EXPECT_TRUE(matches(app("App 11", "io.x.z"), "App 11"));
+}
+
+TEST(ResidualMatcher, AProtectedNameIsNeverAResidual) {
+  for (const char* const name :
+       {"com.apple.Music",       "com.apple.TV",          "com.apple.podcasts",
+        "com.apple.iTunes",      "com.apple.Photos",      "com.apple.PhotoLibrary",
+        "com.apple.CloudPhotos", "com.apple.PhotoBooth",  "com.apple.AddressBook",
+        "com.apple.ContactsUI",  "com.apple.iCal",        "com.apple.reminders",
+        "com.apple.mail",        "com.apple.Safari",      "com.apple.Notes",
+        "com.apple.Home",        "com.apple.AMS",         "com.apple.AppleMediaServices",
+        "com.apple.MarkupUI",    "group.com.apple.music", "group.com.apple.photos"}) {
+    const std::string lower = lowercased(name);
+    for (const std::string& entry : {std::string(name), lower, lower + ".plist", lower + "x"}) {
+      for (const AppInfo& application :
+           {app(name, name), app(entry, entry), app("Apple", "com.apple.apple"),
+            app("Music Photos Notes", "com.apple.music")}) {
+        EXPECT_FALSE(matches(application, entry)) << entry;
+      }
+    }
+  }
+  EXPECT_TRUE(matches(app("Xcode", "com.apple.dt.Xcode"), "com.apple.dt.Xcode.plist"));
+  EXPECT_TRUE(matches(app("Music", "com.x.y"), "Music"));
+}
+
+TEST(ResidualMatcher, WhateverTheApplicationIsCalledNoTokenMatchesInsideAWord) {
+  const std::vector<std::string> pieces{"a", "com", "note", "Note", "book", ".",  "-",   "_",
+                                        " ", "ä",   "📱",    "İ",    "/",    "\n", "\xff"};
+  std::mt19937 random(11);
+  const auto text = [&] {
+    std::string made;
+    for (std::size_t count = random() % 6; count > 0; --count)
+      made += pieces[random() % pieces.size()];
+    return made;
+  };
+  int matched = 0;
+  for (int round = 0; round < 20'000; ++round) {
+    const AppInfo application = app(text(), text());
+    const std::string entry = text();
+    const ResidualMatcher matcher(application);
+    if (!matcher.matches(entry)) continue;
+    ++matched;
+    // The same entry with a letter grown onto every word of it belongs to somebody else.
+    std::string grown = "z";
+    for (const char character : entry) {
+      const bool separates = std::string_view(".-_ ").find(character) != std::string_view::npos;
+      grown += separates ? std::string("z") + character + "z" : std::string(1, character);
+    }
+    EXPECT_FALSE(matcher.matches(grown + "z"))
+        << entry << " of " << application.name << ", " << application.bundleID;
+  }
+  EXPECT_GT(matched, 100);
+}
+
+TEST(GuardIdentifiers, AreTheTokensWithThePartsOfTheIdentifierInLowerCase) {
+  EXPECT_THAT(
+      UninstallerEngine::residualIdentifiers(app("Big Tool", "com.Acme.BigTool.Helper")),
+      ElementsAre("acme", "bigtool", "helper", "big tool", "big-tool", "com.acme.bigtool.helper"));
+  EXPECT_THAT(UninstallerEngine::residualIdentifiers(app("Tool", "com.acme.Tool")),
+              ElementsAre("acme", "tool", "com.acme.tool"));
+}
+
+TEST(GuardIdentifiers, OfShortAndGenericTextsAreOnlyTheIdentifierItself) {
+  EXPECT_THAT(UninstallerEngine::residualIdentifiers(app("It", "com.App.it")),
+              ElementsAre("com.app.it"));
+  EXPECT_THAT(UninstallerEngine::residualIdentifiers(app("", "")), ElementsAre(""));
+}
+
+}  // namespace
+}  // namespace klarvik
