@@ -17,6 +17,8 @@
 #include "support/fixed_volume.h"
 #include "support/memory_defaults.h"
 #include "support/memory_file_system.h"
+#include "support/memory_pasteboard.h"
+#include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
 
 namespace {
@@ -86,13 +88,17 @@ int main(int argumentCount, char** arguments) {
   FixedVolume volume;
   Formatting formatting("en_US");
   const ApplicationInfo info;
+  RecordingRecentDocuments recentDocuments;
   QtClock clock;
   NotificationCenter notifications;
   RecordingWorkspace workspace;
-  const Desktop desktop{{files, trash, commands, defaults, volume, formatting, info},
-                        clock,
-                        notifications,
-                        workspace};
+  MemoryPasteboard pasteboard;
+  const Desktop desktop{
+      {files, trash, commands, defaults, volume, formatting, info, recentDocuments},
+      clock,
+      notifications,
+      workspace,
+      pasteboard};
   SharedState shared(desktop);
   KlarvikApp app(desktop, shared);
   if (!app.openMainWindow()) {

@@ -6,6 +6,8 @@
 #include "platform/file_system.h"
 #include "platform/formatting.h"
 #include "platform/notification_center.h"
+#include "platform/pasteboard.h"
+#include "platform/recent_documents.h"
 #include "platform/trash.h"
 #include "platform/user_defaults.h"
 #include "platform/volume.h"
@@ -23,6 +25,7 @@ struct Platform {
   Volume& volume;
   Formatting& formatting;
   const ApplicationInfo& info;
+  RecentDocuments& recentDocuments;
 };
 
 /// The same, with what only a program that has a main loop and a desktop around it can offer.
@@ -30,6 +33,7 @@ struct Desktop : Platform {
   Clock& clock;
   NotificationCenter& notifications;
   Workspace& workspace;
+  Pasteboard& pasteboard;
 };
 
 }  // namespace klarvik

@@ -24,7 +24,7 @@ std::vector<std::string> readEntries(std::istream& input, const Invocation& call
 }
 
 std::span<const Command> commands() {
-  static const std::array<Command, 10> all{{
+  static const auto all = std::to_array<Command>({
       {"guard",
        "[-0] general|pickedFile|residual [IDENTIFIER...]  < paths",
        {"-0"},
@@ -40,7 +40,14 @@ std::span<const Command> commands() {
       {"apps", "", {}, 0, 0, apps},
       {"residuals", "BUNDLE-ID", {}, 1, 1, residuals},
       {"uninstall", "BUNDLE-ID", {}, 1, 1, uninstall},
-  }};
+      {"large",
+       "[--lists] BYTES  (--lists: each report with its whole list)",
+       {"--lists"},
+       1,
+       1,
+       large},
+      {"privacy", "[clear]  (without the clipboard: a terminal has none)", {}, 0, 1, privacy},
+  });
   return all;
 }
 

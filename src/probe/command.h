@@ -45,5 +45,7 @@ int emptyTrash(const Invocation& call);
 int apps(const Invocation& call);
 int residuals(const Invocation& call);
 int uninstall(const Invocation& call);
+int large(const Invocation& call);
+int privacy(const Invocation& call);
 
 }  // namespace klarvik::probe

@@ -19,11 +19,6 @@ std::string hexadecimal(std::string_view bytes) {
   return text;
 }
 
-Report dateReport(const std::optional<Date>& date) {
-  if (!date) return nullptr;
-  return std::chrono::duration_cast<std::chrono::nanoseconds>(date->time_since_epoch()).count();
-}
-
 Report itemReport(const JunkItem& item) {
   return {{"name", textReport(item.name)},
           {"path", pathReport(item.path)},
@@ -40,6 +35,11 @@ Report textReport(std::string_view bytes) {
 
 Report pathReport(const std::optional<Path>& path) {
   return path ? textReport(path->native()) : Report(nullptr);
+}
+
+Report dateReport(const std::optional<Date>& date) {
+  if (!date) return nullptr;
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(date->time_since_epoch()).count();
 }
 
 Report updateReport(const ScanUpdate& update) {

@@ -7,6 +7,7 @@
 #include "support/fixed_volume.h"
 #include "support/memory_defaults.h"
 #include "support/memory_file_system.h"
+#include "support/recording_recent_documents.h"
 
 namespace klarvik {
 
@@ -20,7 +21,8 @@ class EngineFixture : public testing::Test {
   FixedVolume volume;
   Formatting formatting{"en_US"};
   ApplicationInfo info;
-  Platform platform{files, trash, commands, defaults, volume, formatting, info};
+  RecordingRecentDocuments recentDocuments;
+  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
   ScannerEngine engine{platform};
 
   [[nodiscard]] std::vector<CleanCategory> scan() { return engine.scanAll({}, {}, {}); }

@@ -26,7 +26,7 @@ class RemovalOnADisk : public testing::Test {
   TemporaryFolder& disk = world.disk;
   FaultingFileSystem files{world.files};
   Platform platform{files,        world.trash,      world.commands, world.defaults,
-                    world.volume, world.formatting, world.info};
+                    world.volume, world.formatting, world.info,     world.recentDocuments};
   ScannerEngine engine{platform};
   const Path caches = "/Users/ann/Library/Caches";
   const Path trashed = "/Users/ann/.local/share/Trash/files";

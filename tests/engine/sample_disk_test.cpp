@@ -12,6 +12,7 @@
 #include "support/canned_command_runner.h"
 #include "support/fixed_volume.h"
 #include "support/memory_defaults.h"
+#include "support/recording_recent_documents.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -56,7 +57,8 @@ struct SampleEngine {
   FixedVolume volume;
   Formatting formatting{"en_US"};
   ApplicationInfo info;
-  Platform platform{files, trash, commands, defaults, volume, formatting, info};
+  RecordingRecentDocuments recentDocuments;
+  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
   ScannerEngine engine{platform};
 
   std::map<CategoryType, std::size_t> itemsFound() {

@@ -48,10 +48,11 @@ class AppStateFixture : public ::testing::Test {
 
   DesktopAround around;
   Desktop desktop{{around.files, around.trash, around.commands, around.defaults, around.volume,
-                   around.formatting, around.info},
+                   around.formatting, around.info, around.recentDocuments},
                   around.clock,
                   around.notifications,
-                  around.workspace};
+                  around.workspace,
+                  around.pasteboard};
   ToolActivity activity{around.clock};
   ScanCoordinator coordinator{around.defaults};
   ScanHistory history{around.defaults, around.clock};

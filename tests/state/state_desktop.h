@@ -8,6 +8,8 @@
 #include "support/fixed_volume.h"
 #include "support/hand_moved_clock.h"
 #include "support/memory_defaults.h"
+#include "support/memory_pasteboard.h"
+#include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
 #include "support/temporary_folder.h"
 
@@ -24,13 +26,16 @@ struct StateDesktop {
   FixedVolume volume;
   Formatting formatting{"en_US"};
   ApplicationInfo info;
+  RecordingRecentDocuments recentDocuments;
   HandMovedClock clock;
   NotificationCenter notifications;
   RecordingWorkspace workspace;
-  Desktop desktop{{files, trash, commands, defaults, volume, formatting, info},
+  MemoryPasteboard pasteboard;
+  Desktop desktop{{files, trash, commands, defaults, volume, formatting, info, recentDocuments},
                   clock,
                   notifications,
-                  workspace};
+                  workspace,
+                  pasteboard};
 };
 
 }  // namespace klarvik

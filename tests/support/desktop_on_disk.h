@@ -11,6 +11,8 @@
 #include "support/gate.h"
 #include "support/hand_moved_clock.h"
 #include "support/memory_defaults.h"
+#include "support/memory_pasteboard.h"
+#include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
 #include "support/sample_disk.h"
 #include "support/temporary_folder.h"
@@ -38,9 +40,11 @@ class DesktopOnDisk {
   FixedVolume volume;
   Formatting formatting{"en_US"};
   ApplicationInfo info;
+  RecordingRecentDocuments recentDocuments;
   HandMovedClock clock;
   NotificationCenter notifications;
   RecordingWorkspace workspace;
+  MemoryPasteboard pasteboard;
 
  private:
   class GatedCommands final : public CommandRunner {
@@ -64,10 +68,12 @@ class DesktopOnDisk {
   GatedTrash _gatedTrash{*this};
 
  public:
-  Desktop desktop{{files, _gatedTrash, _gatedCommands, defaults, volume, formatting, info},
-                  clock,
-                  notifications,
-                  workspace};
+  Desktop desktop{
+      {files, _gatedTrash, _gatedCommands, defaults, volume, formatting, info, recentDocuments},
+      clock,
+      notifications,
+      workspace,
+      pasteboard};
 };
 
 }  // namespace klarvik

@@ -7,10 +7,11 @@ TestDesktop::TestDesktop() {
 }
 
 Desktop TestDesktop::desktop() {
-  return {{files, trash, commands, defaults, volume, formatting, info},
+  return {{files, trash, commands, defaults, volume, formatting, info, recentDocuments},
           clock,
           notifications,
-          workspace};
+          workspace,
+          pasteboard};
 }
 
 }  // namespace klarvik

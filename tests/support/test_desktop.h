@@ -7,6 +7,8 @@
 #include "support/fixed_volume.h"
 #include "support/hand_moved_clock.h"
 #include "support/memory_defaults.h"
+#include "support/memory_pasteboard.h"
+#include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
 #include "support/temporary_folder.h"
 
@@ -24,9 +26,11 @@ struct TestDesktop {
   FixedVolume volume;
   Formatting formatting{"en_US"};
   ApplicationInfo info{{"CFBundleShortVersionString", "1.2.3"}, {"CFBundleVersion", "45"}};
+  RecordingRecentDocuments recentDocuments;
   HandMovedClock clock;
   NotificationCenter notifications;
   RecordingWorkspace workspace;
+  MemoryPasteboard pasteboard;
 
   TestDesktop();
   /// Refers to this object.

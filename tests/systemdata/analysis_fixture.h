@@ -6,6 +6,7 @@
 #include "support/fixed_volume.h"
 #include "support/memory_defaults.h"
 #include "support/memory_file_system.h"
+#include "support/recording_recent_documents.h"
 #include "systemdata/system_data_engine.h"
 
 namespace klarvik {
@@ -20,7 +21,8 @@ class AnalysisFixture : public testing::Test {
   FixedVolume volume;
   Formatting formatting{"en_US"};
   ApplicationInfo info;
-  Platform platform{files, trash, commands, defaults, volume, formatting, info};
+  RecordingRecentDocuments recentDocuments;
+  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
   SystemDataEngine engine{platform};
 
   [[nodiscard]] std::vector<SystemDataItem> analyse() {

@@ -21,7 +21,7 @@ class UninstallerTest : public testing::Test {
   TemporaryFolder& disk = world.disk;
   FaultingFileSystem files{world.files};
   Platform platform{files,        world.trash,      world.commands, world.defaults,
-                    world.volume, world.formatting, world.info};
+                    world.volume, world.formatting, world.info,     world.recentDocuments};
   UninstallerEngine engine{platform};
   const Path library = "/Users/ann/Library";
   const Path trashed = "/Users/ann/.local/share/Trash/files";

@@ -11,7 +11,7 @@ DesktopPlatform::DesktopPlatform(const Path& root, const UserFolders& folders)
     : _system(root, folders), _workspace(_system.platform().files) {}
 
 Desktop DesktopPlatform::desktop() {
-  return {_system.platform(), _clock, _notifications, _workspace};
+  return {_system.platform(), _clock, _notifications, _workspace, _pasteboard};
 }
 
 }  // namespace klarvik

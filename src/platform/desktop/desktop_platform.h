@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "platform/desktop/qt_clock.h"
+#include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/xdg_workspace.h"
 #include "platform/linux/linux_platform.h"
 #include "platform/platform.h"
@@ -27,6 +28,7 @@ class DesktopPlatform {
   QtClock _clock;
   NotificationCenter _notifications;
   XdgWorkspace _workspace;
+  QtPasteboard _pasteboard;
 };
 
 }  // namespace klarvik

@@ -1,6 +1,7 @@
 #include "platform/linux/atomic_write.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -29,13 +30,14 @@ void syncFolder(const Path& folder) {
 
 }  // namespace
 
-bool writeAtomically(const Path& file, std::string_view content) {
+bool writeAtomically(const Path& file, std::string_view content, ::mode_t mode) {
   const Path fresh = Path(file) += ".new";
   ::unlink(fresh.c_str());  // of a run that was killed
   UniqueFd fd{::open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
   if (!fd) return false;
-  const bool stored = writeAll(fd.get(), content) && ::fsync(fd.get()) == 0 &&
-                      ::close(fd.release()) == 0 && ::rename(fresh.c_str(), file.c_str()) == 0;
+  const bool stored = ::fchmod(fd.get(), mode) == 0 && writeAll(fd.get(), content) &&
+                      ::fsync(fd.get()) == 0 && ::close(fd.release()) == 0 &&
+                      ::rename(fresh.c_str(), file.c_str()) == 0;
   if (stored) {
     syncFolder(file.parent_path());
   } else {

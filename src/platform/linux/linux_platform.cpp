@@ -7,10 +7,11 @@ LinuxPlatform::LinuxPlatform(const Path& root, const UserFolders& folders)
       _trash(root, folders.home, folders.data),
       _defaults(_files.diskPath(folders.configuration) / "klarvik"),
       _volume(root),
-      _info(builtInApplicationInfo()) {}
+      _info(builtInApplicationInfo()),
+      _recentDocuments(_files.diskPath(folders.data) / "recently-used.xbel") {}
 
 Platform LinuxPlatform::platform() {
-  return {_files, _trash, _commands, _defaults, _volume, _formatting, _info};
+  return {_files, _trash, _commands, _defaults, _volume, _formatting, _info, _recentDocuments};
 }
 
 }  // namespace klarvik

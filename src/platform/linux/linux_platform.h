@@ -4,6 +4,7 @@
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_trash.h"
 #include "platform/linux/mounted_volume.h"
+#include "platform/linux/recently_used_list.h"
 #include "platform/linux/shell_command_runner.h"
 #include "platform/linux/user_folders.h"
 #include "platform/platform.h"
@@ -28,6 +29,7 @@ class LinuxPlatform {
   MountedVolume _volume;
   Formatting _formatting;
   const ApplicationInfo _info;
+  RecentlyUsedList _recentDocuments;
 };
 
 }  // namespace klarvik

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace klarvik {
+
+/// What the user copied last. May be called from any thread.
+class Pasteboard {
+ public:
+  virtual ~Pasteboard() = default;
+  /// Whether there is a text or a picture to paste. A mere reference to files is neither.
+  [[nodiscard]] virtual bool holdsTextOrImage() = 0;
+  virtual void clear() = 0;
+};
+
+}  // namespace klarvik

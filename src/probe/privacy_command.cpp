@@ -1,0 +1,50 @@
+#include <iostream>
+
+#include "probe/command.h"
+#include "probe/report.h"
+#include "tools/privacy_scanner.h"
+
+namespace klarvik::probe {
+
+namespace {
+
+constexpr int usageError = 2;
+
+/// A terminal has no clipboard, and this program no window that could ask for the desktop's.
+class NoPasteboard final : public Pasteboard {
+ public:
+  [[nodiscard]] bool holdsTextOrImage() override { return false; }
+  void clear() override {}
+};
+
+Report itemReport(const PrivacyItem& item) {
+  return {{"id", item.id.text()},       {"category", rawValue(item.category)},
+          {"name", item.name},          {"path", pathReport(item.path)},
+          {"count", item.count},        {"size", item.size},
+          {"selected", item.isSelected}};
+}
+
+}  // namespace
+
+int privacy(const Invocation& call) {
+  const bool clears = !call.arguments.empty();
+  if (clears && call.arguments[0] != "clear") {
+    std::cerr << "klarvik-probe: privacy: only \"clear\" may follow\n";
+    return usageError;
+  }
+  NoPasteboard pasteboard;
+  PrivacyScanner scanner(call.platform.files, pasteboard, call.platform.recentDocuments);
+  const auto found = scanner.scan([](double fraction, std::string_view line) {
+    print({{"event", "update"}, {"fraction", fraction}, {"line", line}});
+  });
+  Report items = Report::array();
+  for (const PrivacyItem& item : found) items.push_back(itemReport(item));
+  print({{"event", "result"}, {"items", std::move(items)}});
+  if (clears) {
+    const PrivacyClearance done = scanner.clear(found);
+    print({{"event", "cleared"}, {"cleaned", done.cleaned}, {"freed", done.freed}});
+  }
+  return 0;
+}
+
+}  // namespace klarvik::probe

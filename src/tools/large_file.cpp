@@ -1,0 +1,107 @@
+#include "tools/large_file.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/unicode_text.h"
+
+namespace klarvik {
+
+namespace {
+
+struct Kind {
+  std::string_view name;
+  std::array<std::string_view, 7> extensions;
+};
+
+constexpr std::array<Kind, 7> kinds{{
+    {"Video", {"mp4", "mov", "avi", "mkv", "m4v"}},
+    {"Audio", {"m4a", "mp3", "wav", "aiff", "flac"}},
+    {"Archive", {"zip", "tar", "gz", "rar", "7z"}},
+    {"Disk image", {"dmg", "iso", "pkg", "sparsebundle"}},
+    {"Developer", {"xcarchive", "ipa", "dsym"}},
+    {"Document", {"pdf", "doc", "docx", "xls", "xlsx", "key", "pages"}},
+    {"Design", {"psd", "ai", "sketch", "fig"}},
+}};
+
+bool isLarger(const LargeFileList::value_type& left, const LargeFileList::value_type& right) {
+  return left->size > right->size;
+}
+
+// No date is the earliest of all.
+bool isLongerUnopened(const LargeFileList::value_type& left,
+                      const LargeFileList::value_type& right) {
+  return left->lastOpened < right->lastOpened;
+}
+
+void sortByName(LargeFileList& files, const Formatting& formatting) {
+  struct Named {
+    std::string name;
+    LargeFileList::value_type file;
+  };
+  std::vector<Named> named;
+  named.reserve(files.size());
+  for (auto& file : files) named.push_back({file->url.filename(), std::move(file)});
+  std::stable_sort(named.begin(), named.end(), [&](const Named& left, const Named& right) {
+    return formatting.compareNames(left.name, right.name) < 0;
+  });
+  std::transform(named.begin(), named.end(), files.begin(),
+                 [](Named& each) { return std::move(each.file); });
+}
+
+}  // namespace
+
+std::string_view LargeFile::kind() const {
+  const std::string extension = lowercased(url.extension().native());
+  if (extension.size() > 1) {
+    const std::string_view wanted = std::string_view(extension).substr(1);
+    for (const Kind& kind : kinds) {
+      const auto& known = kind.extensions;
+      if (std::find(known.begin(), known.end(), wanted) != known.end()) return kind.name;
+    }
+  }
+  return isDirectory ? "Folder" : "Other";
+}
+
+std::string LargeFile::lastOpenedText(const Formatting& formatting, Date now) const {
+  return lastOpened ? formatting.relative(*lastOpened, now) : "never";
+}
+
+std::string_view label(LargeFileSort sort) {
+  switch (sort) {
+    case LargeFileSort::size:
+      return "Size";
+    case LargeFileSort::date:
+      return "Last opened";
+    case LargeFileSort::name:
+      return "Name";
+  }
+  return {};
+}
+
+void sortFiles(LargeFileList& files, LargeFileSort sort, const Formatting& formatting) {
+  switch (sort) {
+    case LargeFileSort::size:
+      return std::stable_sort(files.begin(), files.end(), isLarger);
+    case LargeFileSort::date:
+      return std::stable_sort(files.begin(), files.end(), isLongerUnopened);
+    case LargeFileSort::name:
+      return sortByName(files, formatting);
+  }
+}
+
+void mergeBySize(LargeFileList& sorted, LargeFileList fresh) {
+  std::stable_sort(fresh.begin(), fresh.end(), isLarger);
+  const auto known = static_cast<std::ptrdiff_t>(sorted.size());
+  sorted.resize(sorted.size() + fresh.size());
+  auto rest = sorted.begin() + known;
+  auto gap = sorted.end();
+  for (auto file = fresh.rbegin(); file != fresh.rend(); ++file) {
+    const auto place = std::upper_bound(sorted.begin(), rest, *file, isLarger);
+    gap = std::move_backward(place, rest, gap);
+    rest = place;
+    *--gap = std::move(*file);
+  }
+}
+
+}  // namespace klarvik

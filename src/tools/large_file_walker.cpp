@@ -1,0 +1,133 @@
+#include "tools/large_file_walker.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace klarvik {
+
+namespace {
+
+constexpr std::array<std::string_view, 8> roots{
+    "Documents", "Downloads", "Desktop",           "Movies",
+    "Music",     "Pictures",  "Library/Developer", "Library/Caches"};
+
+/// Folders that build tools and package managers fill.
+constexpr std::array<std::string_view, 8> skippedComponents{
+    "node_modules", ".git", ".build", "DerivedData", "Pods", ".gradle", "build", "__pycache__"};
+
+constexpr std::array<std::string_view, 10> libraryExtensions{
+    "photoslibrary",        "musiclibrary",  "tvlibrary", "aplibrary", "photolibrary",
+    "migratedphotolibrary", "imovielibrary", "theater",   "logicx",    "band"};
+
+constexpr std::array<std::string_view, 3> libraryNames{
+    "Photos Library.photoslibrary", "Music Library.musiclibrary", "TV Library.tvlibrary"};
+
+constexpr std::int64_t visitsAReport = 500;
+constexpr double visitsOfAFullBar = 80000.0;
+constexpr double highestFraction = 0.95;
+
+template <std::size_t count>
+bool holds(const std::array<std::string_view, count>& names, std::string_view name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// No letter outside of ASCII is one of theirs in lower case.
+bool isInLowerCase(std::string_view text, std::string_view lowerCase) {
+  const auto same = [](char letter, char lower) {
+    return (letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter) == lower;
+  };
+  return text.size() == lowerCase.size() &&
+         std::equal(text.begin(), text.end(), lowerCase.begin(), same);
+}
+
+bool isLibraryName(std::string_view name) {
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string_view::npos) return false;
+  const std::string_view extension = name.substr(dot + 1);
+  return std::any_of(libraryExtensions.begin(), libraryExtensions.end(),
+                     [&](std::string_view known) { return isInLowerCase(extension, known); }) ||
+         holds(libraryNames, name);
+}
+
+/// Whether nothing of this name, and nothing below it, is ever listed.
+bool isPassedOver(std::string_view name) {
+  return holds(skippedComponents, name) || isLibraryName(name);
+}
+
+bool liesInPassedOver(const Path& path) {
+  return std::any_of(path.begin(), path.end(),
+                     [](const Path& part) { return isPassedOver(part.native()); });
+}
+
+/// One run through the roots.
+class Run {
+ public:
+  Run(const FileSystem& files, std::int64_t thresholdBytes, std::stop_token stop,
+      const LargeFileWalker::UpdateSink& onProgress)
+      : _files(files), _threshold(thresholdBytes), _stop(std::move(stop)), _sink(onProgress) {}
+
+  LargeFileList found() {
+    for (const std::string_view root : roots) {
+      if (_stop.stop_requested()) break;
+      walkRoot(_files.home() / root);
+    }
+    mergeBySize(_update.files, std::exchange(_fresh, {}));
+    return std::move(_update.files);
+  }
+
+ private:
+  void walkRoot(const Path& root) {
+    if (liesInPassedOver(root)) return;
+    _files.walk(root, {.skipHidden = true, .skipPackageContents = true}, [this](WalkEntry& entry) {
+      if (_stop.stop_requested()) return WalkStep::stop;
+      if (isPassedOver(entry.name())) return WalkStep::skipDescendants;
+      visit(entry);
+      return WalkStep::proceed;
+    });
+  }
+
+  void visit(WalkEntry& entry) {
+    ++_visited;
+    if (_visited % visitsAReport == 0) report(entry.name());
+    if (entry.kind() != FileKind::regular) return;
+    const auto attributes = entry.attributes();
+    if (!attributes || attributes->kind != FileKind::regular) return;
+    if (attributes->logicalBytes < _threshold) return;
+    _fresh.push_back(std::make_shared<const LargeFile>(LargeFile{
+        .url = entry.path(),
+        .size = attributes->logicalBytes,
+        .modifiedDate = attributes->modified,
+        .lastOpened = attributes->accessed,
+    }));
+  }
+
+  void report(std::string_view name) {
+    mergeBySize(_update.files, std::exchange(_fresh, {}));
+    _update.fraction = std::min(static_cast<double>(_visited) / visitsOfAFullBar, highestFraction);
+    _update.currentName = name;
+    if (_sink) _sink(_update);
+  }
+
+  const FileSystem& _files;
+  const std::int64_t _threshold;
+  const std::stop_token _stop;
+  const LargeFileWalker::UpdateSink& _sink;
+  std::int64_t _visited = 0;
+  LargeFileUpdate _update;
+  LargeFileList _fresh;  // found since the last report
+};
+
+}  // namespace
+
+LargeFileList LargeFileWalker::walk(std::int64_t thresholdBytes, std::stop_token stop,
+                                    const UpdateSink& onProgress) const {
+  return Run(_files, thresholdBytes, std::move(stop), onProgress).found();
+}
+
+bool LargeFileWalker::isMediaLibrary(const Path& url) {
+  return std::any_of(url.begin(), url.end(),
+                     [](const Path& part) { return isLibraryName(part.native()); });
+}
+
+}  // namespace klarvik

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <mutex>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "platform/pasteboard.h"
+#include "platform/recent_documents.h"
+#include "tools/privacy_item.h"
+
+namespace klarvik {
+
+/// What a clearing did, as it is told to the user.
+struct PrivacyClearance {
+  std::int64_t cleaned = 0;  ///< trails
+  std::int64_t freed = 0;    ///< bytes
+
+  bool operator==(const PrivacyClearance&) const = default;
+};
+
+/// Looks for the trails that a machine keeps of what its user did, and clears those selected. It
+/// looks into no file: a trail is measured by sizes alone.
+///
+/// Operations are synchronous and are meant to be called off the main thread; of one scanner they
+/// run one after the other. Nothing throws: what is missing or cannot be read adds nothing.
+/// Whatever is handed in must outlive the scanner.
+class PrivacyScanner {
+ public:
+  /// Called on the scanning thread, with a share of 1 and a line that says what comes next.
+  using ProgressSink = std::function<void(double fraction, std::string_view line)>;
+
+  PrivacyScanner(FileSystem& files, Pasteboard& pasteboard, RecentDocuments& recentDocuments)
+      : _files(files), _pasteboard(pasteboard), _recentDocuments(recentDocuments) {}
+
+  /// One item for each kind of trail there is. Short, and so not to be stopped.
+  [[nodiscard]] std::vector<PrivacyItem> scan(const ProgressSink& progress);
+
+  /// Clears what it can. The recent documents and the clipboard are emptied; a thing with a path is
+  /// removed for good, when `DeletionGuard` lets it. Every other item is told as cleared, its bytes
+  /// as freed, and stays as it is: there is no one thing to remove.
+  PrivacyClearance clear(const std::vector<PrivacyItem>& items);
+
+ private:
+  [[nodiscard]] PrivacyClearance clearItem(const PrivacyItem& item);
+  [[nodiscard]] bool remove(const Path& path);
+
+  FileSystem& _files;
+  Pasteboard& _pasteboard;
+  RecentDocuments& _recentDocuments;
+  std::mutex _working;
+};
+
+}  // namespace klarvik
