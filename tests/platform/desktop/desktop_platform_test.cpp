@@ -4,12 +4,18 @@
 
 #include <cstdlib>
 
+#include "main_loop.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
 namespace {
 
-TEST(DesktopPlatform, HandsOutTheMachineAsTheUserSeesIt) {
+class DesktopPlatformTest : public testing::Test {
+ protected:
+  DesktopPlatformTest() { needApplication(); }
+};
+
+TEST_F(DesktopPlatformTest, HandsOutTheMachineAsTheUserSeesIt) {
   const TemporaryFolder home;
   ::setenv("HOME", home.path().c_str(), 1);
   const auto platform = DesktopPlatform::ofThisUser();
@@ -25,14 +31,14 @@ TEST(DesktopPlatform, HandsOutTheMachineAsTheUserSeesIt) {
   EXPECT_TRUE(home.holds(".config/klarvik/preferences.json"));
 }
 
-TEST(DesktopPlatform, IsNotThereForAUserWithoutAHome) {
+TEST_F(DesktopPlatformTest, IsNotThereForAUserWithoutAHome) {
   for (const auto* home : {"", "/", "//", "/.", "/home/..", "home/ann", "."}) {
     ::setenv("HOME", home, 1);
     EXPECT_EQ(DesktopPlatform::ofThisUser(), nullptr) << home;
   }
 }
 
-TEST(DesktopPlatform, LiesWhollyBelowItsRoot) {
+TEST_F(DesktopPlatformTest, LiesWhollyBelowItsRoot) {
   const TemporaryFolder root;
   root.makeFolder("/Users/ann");
   DesktopPlatform platform(root.path(), UserFolders::in("/Users/ann"));
@@ -40,6 +46,9 @@ TEST(DesktopPlatform, LiesWhollyBelowItsRoot) {
   EXPECT_TRUE(desktop.defaults.set("useTrash", false));
   EXPECT_TRUE(root.holds("/Users/ann/.config/klarvik/preferences.json"));
   root.makeFile("/Users/ann/x");
+  root.makeFile("/Users/ann/.local/share/recently-used.xbel", "<xbel/>");
+  EXPECT_TRUE(desktop.recentDocuments.clear());
+  EXPECT_NE(root.contentOf("/Users/ann/.local/share/recently-used.xbel"), "<xbel/>");
   EXPECT_TRUE(desktop.trash.moveToTrash("/Users/ann/x", [](const Path&) { return true; }));
   EXPECT_TRUE(root.holds("/Users/ann/.local/share/Trash/files/x"));
 }
