@@ -4,14 +4,28 @@
 
 namespace klarvik {
 
+namespace {
+
+constexpr const char* signingIdentityKey = "KlarvikHasSigningIdentity";
+
+}  // namespace
+
 ApplicationInfo builtInApplicationInfo() {
   ApplicationInfo info{
       {"CFBundleShortVersionString", std::string(KLARVIK_VERSION)},
       {"CFBundleVersion", std::string(KLARVIK_BUILD_NUMBER)},
   };
+  if (KLARVIK_IS_RELEASED) info[signingIdentityKey] = true;
   constexpr std::string_view feed = KLARVIK_FEED_URL;
   if (!feed.empty()) info["SUFeedURL"] = std::string(feed);
   return info;
+}
+
+bool hasSigningIdentity(const ApplicationInfo& info) {
+  const auto found = info.find(signingIdentityKey);
+  if (found == info.end()) return false;
+  const bool* const has = std::get_if<bool>(&found->second);
+  return has != nullptr && *has;
 }
 
 }  // namespace klarvik

@@ -13,4 +13,8 @@ using ApplicationInfo = std::map<std::string, DefaultsValue>;
 /// What was laid down when this program was built.
 [[nodiscard]] ApplicationInfo builtInApplicationInfo();
 
+/// Whether the system takes this build and the one after it for the same program, and so keeps the
+/// permissions it was given. False for what a developer builds.
+[[nodiscard]] bool hasSigningIdentity(const ApplicationInfo& info);
+
 }  // namespace klarvik

@@ -55,6 +55,10 @@ Item {
         }
     }
 
+    FullDiskAccessView {
+        model: root.shell.access
+    }
+
     ConfirmationDialog {
         isPresented: root.shell.trash.isConfirming
         title: qsTr("Empty the Trash?")

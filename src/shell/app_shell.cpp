@@ -9,6 +9,7 @@ AppShell::AppShell(const std::vector<LandedPane>& panes, AppState& appState, Sha
                desktop.formatting),
       _disk(shared.diskMonitor(), desktop),
       _trash(shared.trashMonitor(), shared.permissionsManager(), desktop),
-      _panes(panes, shared.navigator()) {}
+      _panes(panes, shared.navigator()),
+      _access(shared.permissionsManager(), desktop) {}
 
 }  // namespace klarvik

@@ -6,6 +6,7 @@
 
 #include "platform/platform.h"
 #include "shell/disk_block.h"
+#include "shell/full_disk_access_view.h"
 #include "shell/landed_pane.h"
 #include "shell/pane_stack.h"
 #include "shell/sidebar_model.h"
@@ -25,6 +26,7 @@ class AppShell : public QObject {
   Q_PROPERTY(klarvik::DiskBlock* disk READ disk CONSTANT)
   Q_PROPERTY(klarvik::TrashBlock* trash READ trash CONSTANT)
   Q_PROPERTY(klarvik::PaneStack* panes READ panes CONSTANT)
+  Q_PROPERTY(klarvik::FullDiskAccessView* access READ access CONSTANT)
 
  public:
   AppShell(const std::vector<LandedPane>& panes, AppState& appState, SharedState& shared,
@@ -34,12 +36,14 @@ class AppShell : public QObject {
   [[nodiscard]] DiskBlock* disk() { return &_disk; }
   [[nodiscard]] TrashBlock* trash() { return &_trash; }
   [[nodiscard]] PaneStack* panes() { return &_panes; }
+  [[nodiscard]] FullDiskAccessView* access() { return &_access; }
 
  private:
   SidebarModel _sidebar;
   DiskBlock _disk;
   TrashBlock _trash;
   PaneStack _panes;
+  FullDiskAccessView _access;
 };
 
 }  // namespace klarvik

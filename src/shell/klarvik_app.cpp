@@ -79,6 +79,7 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
 }
 
 QCoro::Task<> KlarvikApp::launch() {
+  _shell->access()->askOnce();
   co_await appState().autoScanIfNeeded(_stop.get_token());
 }
 
