@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "support/program.h"
+#include "support/property_lists.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -115,6 +116,8 @@ TEST_F(Probe, AnswersAUsageTextToWhatItDoesNotUnderstand) {
       command({"measure"}),
       command({"measure", "/a", "/b"}),
       command({"clean", "--everything"}),
+      command({"residuals"}),
+      command({"uninstall", "com.a", "com.b"}),
       command({"guard"}),
       command({"guard", "anything"}),
       command({"guard", "general", "identifier"}),
@@ -292,6 +295,30 @@ TEST_F(Probe, AnInterruptStopsARemovalAndTellsAllThatWent) {
   EXPECT_EQ(program.wait(), 0);
   EXPECT_EQ(told, countTrashed(files));
   EXPECT_LT(told, manyItems);
+}
+
+TEST_F(Probe, ListsApplicationsFindsWhatTheyLeftAndRemovesBoth) {
+  const std::string app = "/Applications/Writer.app";
+  const std::string cache = "/Users/ann/Library/Caches/com.acme.writer";
+  const std::string list =
+      binaryPropertyList({{"CFBundleIdentifier", "com.acme.writer"}, {"CFBundleName", "Writer"}});
+  disk.makeFile(app + "/Contents/Info.plist", list);
+  disk.makeFile(cache + "/blob", 10);
+  const json listed{{"event", "app"},
+                    {"name", "Writer"},
+                    {"bundleID", "com.acme.writer"},
+                    {"path", app},
+                    {"size", list.size()}};
+  const json found{{"event", "residual"}, {"category", "Caches"}, {"path", cache}, {"size", 10}};
+  const json result{{"event", "result"}, {"freed", list.size() + 10}};
+  EXPECT_THAT(run({"apps"}), ElementsAre(listed));
+  EXPECT_THAT(run({"residuals", "com.acme.writer"}), ElementsAre(found));
+  EXPECT_THAT(run({"uninstall", "com.acme.writer"}), ElementsAre(found, result));
+  EXPECT_FALSE(disk.holds(cache));
+  EXPECT_TRUE(disk.holds(trashed / "Writer.app"));
+  Program again(command({"uninstall", "com.acme.writer"}));
+  EXPECT_THAT(again.readToEnd(), IsEmpty());
+  EXPECT_EQ(again.wait(), 1);
 }
 
 TEST_F(Probe, BuildsItsSampleDiskOnlyInAnEmptyFolder) {
