@@ -1,5 +1,7 @@
+#include <set>
+
 #include "support/child_process.h"
-#include "support/sample_disk.h"
+#include "support/desktop_on_disk.h"
 #include "uninstaller_fixture.h"
 
 namespace klarvik {
@@ -151,15 +153,10 @@ TEST_F(UninstallerResiduals, OfAHomeThatIsNotThereAreThoseOutsideOfIt) {
 }
 
 TEST(UninstallerOnTheSampleDisk, FindsWhatIsThereAndLeavesTheRestAsItIs) {
-  const TemporaryFolder folder;
-  const SampleDisk sample = buildSampleDisk(folder.path());
-  LinuxFileSystem files(sample.root, sample.home);
-  LinuxTrash trash(sample.root, sample.home);
-  TestDesktop others;
-  const Platform platform{files,           trash,         others.commands,
-                          others.defaults, others.volume, others.formatting,
-                          others.info};
-  UninstallerEngine engine(platform);
+  DesktopOnDisk world{SampleDiskOptions{}};
+  const SampleDisk& sample = *world.sample;
+  const FileSystem& files = world.files;
+  UninstallerEngine engine(world.desktop);
 
   const auto apps = engine.listApps();
   EXPECT_THAT(apps, SizeIs(sample.applications));
