@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -19,6 +20,14 @@ using Path = std::filesystem::path;
 
 enum class FileKind { directory, regular, symbolicLink, other };
 
+/// What makes a file or folder the same one under all of its names.
+struct FileIdentity {
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
+
+  auto operator<=>(const FileIdentity&) const = default;
+};
+
 /// What one `statx` tells of an entry itself: a symbolic link is never followed.
 struct FileAttributes {
   FileKind kind = FileKind::other;
@@ -27,6 +36,8 @@ struct FileAttributes {
   std::optional<Date> modified;
   std::optional<Date> accessed;
   std::optional<Date> created;
+  std::optional<FileIdentity> identity = std::nullopt;  ///< nothing where files have none
+  std::uint64_t names = 1;  ///< how many names the disk keeps for the file
 };
 
 struct WalkOptions {

@@ -37,6 +37,7 @@ std::span<const Command> commands() {
       {"trash-files", "[-0]  < paths", {"-0"}, 0, 0, trashFiles},
       {"restore", "[-0]  < trashed path and original path, in turn", {"-0"}, 0, 0, restore},
       {"empty-trash", "", {}, 0, 0, emptyTrash},
+      {"duplicates", "MINSIZE DIR...", {}, 2, anyNumber, duplicates},
       {"apps", "", {}, 0, 0, apps},
       {"residuals", "BUNDLE-ID", {}, 1, 1, residuals},
       {"uninstall", "BUNDLE-ID", {}, 1, 1, uninstall},

@@ -42,6 +42,7 @@ int clean(const Invocation& call);
 int trashFiles(const Invocation& call);
 int restore(const Invocation& call);
 int emptyTrash(const Invocation& call);
+int duplicates(const Invocation& call);
 int apps(const Invocation& call);
 int residuals(const Invocation& call);
 int uninstall(const Invocation& call);

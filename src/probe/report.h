@@ -17,6 +17,9 @@ using Report = nlohmann::ordered_json;
 /// Nanoseconds since 1970.
 [[nodiscard]] Report dateReport(const std::optional<Date>& date);
 
+/// Nanoseconds since 1970-01-01.
+[[nodiscard]] Report dateReport(const std::optional<Date>& date);
+
 [[nodiscard]] Report updateReport(const ScanUpdate& update);
 [[nodiscard]] Report categoryReport(const CleanCategory& category);
 [[nodiscard]] Report progressReport(const DeletionProgress& progress);

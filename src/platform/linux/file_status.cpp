@@ -1,5 +1,7 @@
 #include "platform/linux/file_status.h"
 
+#include <sys/sysmacros.h>
+
 #include <chrono>
 
 #include "platform/linux/uninterrupted.h"
@@ -54,7 +56,10 @@ FileAttributes attributesOf(const struct statx& status) {
           .logicalBytes = static_cast<std::int64_t>(status.stx_size),
           .modified = dateIf(status, STATX_MTIME, status.stx_mtime),
           .accessed = dateIf(status, STATX_ATIME, status.stx_atime),
-          .created = dateIf(status, STATX_BTIME, status.stx_btime)};
+          .created = dateIf(status, STATX_BTIME, status.stx_btime),
+          .identity = FileIdentity{.device = ::makedev(status.stx_dev_major, status.stx_dev_minor),
+                                   .inode = status.stx_ino},
+          .names = status.stx_nlink};
 }
 
 }  // namespace klarvik

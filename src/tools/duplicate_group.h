@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/uuid.h"
+#include "platform/file_system.h"
+
+namespace klarvik {
+
+/// One copy of a content that the disk holds more than once.
+struct DuplicateFile {
+  Uuid id = Uuid::random();  ///< valid within one result: selections refer to it
+  Path url = {};
+  std::int64_t size = 0;                            ///< bytes; 0 when the file could not be asked
+  std::optional<Date> modifiedDate = std::nullopt;  ///< nothing when the file could not be asked
+  bool isSelected = false;
+
+  bool operator==(const DuplicateFile&) const = default;
+};
+
+/// All copies of one content.
+struct DuplicateGroup {
+  Uuid id = Uuid::random();          ///< valid within one result
+  std::string hash;                  ///< SHA-256 of the content, 64 lower-case hexadecimal digits
+  std::vector<DuplicateFile> files;  ///< as a scan answers it: two or more, newest first
+
+  /// Sum in bytes of all sizes but the largest, whichever copy stays.
+  [[nodiscard]] std::int64_t reclaimableBytes() const;
+
+  bool operator==(const DuplicateGroup&) const = default;
+};
+
+}  // namespace klarvik
+
+template <>
+struct std::hash<klarvik::DuplicateFile> {
+  [[nodiscard]] std::size_t operator()(const klarvik::DuplicateFile& file) const noexcept {
+    return std::hash<klarvik::Uuid>()(file.id);
+  }
+};

@@ -1,0 +1,222 @@
+#include "tools/duplicate_scanner.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <functional>
+#include <iterator>
+#include <set>
+#include <thread>
+#include <unordered_map>
+#include <utility>
+
+#include "platform/packages.h"
+#include "tools/found_files.h"
+#include "tools/parallel_hashing.h"
+
+namespace klarvik {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> skippedNames{"node_modules", ".git", ".build", "Pods",
+                                                       "__pycache__"};
+constexpr std::size_t filesAReport = 10;
+constexpr std::size_t greatestWidth = 12;  // each has a buffer of 4 MiB
+
+using FileNumbers = std::vector<std::size_t>;
+
+struct DigestHash {
+  std::size_t operator()(const Digest& digest) const {
+    std::size_t part = 0;
+    std::memcpy(&part, digest.data(), sizeof part);
+    return part;
+  }
+};
+
+/// Which files hold which content. Contents keep the order of their first files.
+class Contents {
+ public:
+  Contents() = default;
+  Contents(Contents&&) = default;
+
+  void add(const Digest& digest, std::size_t number) {
+    const auto [content, isNew] = _holders.try_emplace(digest);
+    if (isNew) _inOrder.push_back(&*content);
+    content->second.push_back(number);
+    if (content->second.size() == 2) ++_shared;
+  }
+
+  /// How many contents more than one file holds.
+  [[nodiscard]] std::int64_t shared() const { return _shared; }
+
+  template <typename Each>
+  void forEachShared(const Each& each) const {
+    for (const auto* content : _inOrder) {
+      if (content->second.size() > 1) each(content->first, content->second);
+    }
+  }
+
+ private:
+  using Holders = std::unordered_map<Digest, FileNumbers, DigestHash>;
+  Holders _holders;
+  std::vector<const Holders::value_type*> _inOrder;
+  std::int64_t _shared = 0;
+};
+
+/// Collects the files of some folders.
+class Collection {
+ public:
+  Collection(const FileSystem& files, std::int64_t minimumSize)
+      : _files(files), _minimumSize(minimumSize) {}
+
+  void addFolder(const Path& folder) {
+    if (!isNew(_files.attributes(folder))) return;
+    _files.walk(folder, {.skipHidden = true, .skipPackageContents = true},
+                [this](WalkEntry& entry) {
+                  if (entry.kind() == FileKind::directory) {
+                    const bool isEntered = isPackageName(entry.name()) || isNew(entry.attributes());
+                    return isEntered ? WalkStep::proceed : WalkStep::skipDescendants;
+                  }
+                  if (isEligible(entry)) _found.add(entry);
+                  return WalkStep::proceed;
+                });
+  }
+
+  [[nodiscard]] FoundFiles take() { return std::move(_found); }
+
+ private:
+  /// Whether a folder has not been met before.
+  bool isNew(const std::optional<FileAttributes>& folder) {
+    return !folder || !folder->identity || _met.insert(*folder->identity).second;
+  }
+
+  [[nodiscard]] bool isEligible(WalkEntry& entry) const {
+    if (entry.kind() != FileKind::regular) return false;
+    if (std::ranges::find(skippedNames, entry.name()) != skippedNames.end()) return false;
+    const auto attributes = entry.attributes();
+    return attributes && attributes->kind == FileKind::regular &&
+           attributes->logicalBytes >= _minimumSize;
+  }
+
+  const FileSystem& _files;
+  const std::int64_t _minimumSize;
+  FoundFiles _found;
+  std::set<FileIdentity> _met;
+};
+
+FoundFiles collected(const FileSystem& files, const std::vector<Path>& directories,
+                     std::int64_t minimumSize) {
+  Collection collection(files, minimumSize);
+  for (const Path& folder : directories) collection.addFolder(folder);
+  return collection.take();
+}
+
+/// Those whose size others have as well: the largest first, so that at the end no core is left
+/// alone with a huge file.
+FileNumbers sameSized(const FileSystem& files, const FoundFiles& found) {
+  struct Sized {
+    std::int64_t size;
+    std::size_t number;
+  };
+  std::vector<Sized> sized;
+  for (std::size_t number = 0; number < found.size(); ++number) {
+    const auto now = files.attributes(found.path(number));
+    if (now && now->kind != FileKind::directory) sized.push_back({now->logicalBytes, number});
+  }
+  std::ranges::stable_sort(sized, std::ranges::greater(), &Sized::size);
+
+  FileNumbers numbers;
+  for (auto first = sized.begin(); first != sized.end();) {
+    const auto end = std::find_if(first, sized.end(),
+                                  [&](const Sized& other) { return other.size != first->size; });
+    if (end - first > 1) {
+      std::transform(first, end, std::back_inserter(numbers), std::mem_fn(&Sized::number));
+    }
+    first = end;
+  }
+  return numbers;
+}
+
+using Report = std::function<void(double fraction, std::int64_t groupsFound, std::string line)>;
+
+Contents hashed(const FileSystem& files, const FoundFiles& found, const FileNumbers& numbers,
+                std::size_t width, const Report& report) {
+  Contents contents;
+  ParallelHashing hashing(
+      files, numbers.size(), [&](std::size_t at) { return found.path(numbers[at]); }, width);
+  const auto count = static_cast<double>(numbers.size());
+  for (std::size_t at = 0; at < numbers.size(); ++at) {
+    if (at % filesAReport == 0) {
+      report(0.15 + static_cast<double>(at) / count * 0.8, contents.shared(),
+             found.name(numbers[at]));
+    }
+    if (const auto digest = hashing.next()) contents.add(*digest, numbers[at]);
+  }
+  return contents;
+}
+
+DuplicateFile duplicateFile(const FileSystem& files, Path path) {
+  const auto now = files.attributes(path);
+  DuplicateFile file{.url = std::move(path)};
+  if (!now) return file;
+  file.size = now->kind == FileKind::directory ? 0 : now->logicalBytes;
+  file.modifiedDate = now->modified;
+  return file;
+}
+
+DuplicateGroup duplicateGroup(const FileSystem& files, const FoundFiles& found,
+                              const Digest& digest, const FileNumbers& holders) {
+  DuplicateGroup group{.hash = hexadecimal(digest), .files = {}};
+  for (const std::size_t number : holders) {
+    group.files.push_back(duplicateFile(files, found.path(number)));
+  }
+  std::ranges::stable_sort(group.files, std::ranges::greater(), [](const DuplicateFile& file) {
+    return file.modifiedDate.value_or(Date::min());
+  });
+  return group;
+}
+
+}  // namespace
+
+DuplicateScanner::DuplicateScanner(const FileSystem& files, std::size_t hashedAtOnce)
+    : _files(files), _hashedAtOnce(hashedAtOnce) {}
+
+std::size_t DuplicateScanner::usualWidth() {
+  return std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, greatestWidth);
+}
+
+std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& directories,
+                                                   std::int64_t minimumSize,
+                                                   const ProgressSink& progress) {
+  const std::scoped_lock lock(_scanning);
+  const Report report = [&](double fraction, std::int64_t groupsFound, std::string line) {
+    if (progress) progress({fraction, groupsFound, std::move(line)});
+  };
+
+  report(0.05, 0, "Collecting files...");
+  const FoundFiles found = collected(_files, directories, minimumSize);
+  if (found.size() == 0) return {};
+
+  report(0.15, 0, "Grouping by size (" + std::to_string(found.size()) + " files)...");
+  const FileNumbers numbers = sameSized(_files, found);
+  if (numbers.empty()) return {};
+
+  const Contents contents = hashed(_files, found, numbers, _hashedAtOnce, report);
+
+  report(0.97, 0, "Building results...");
+  std::vector<DuplicateGroup> groups;
+  contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
+    groups.push_back(duplicateGroup(_files, found, digest, holders));
+  });
+  report(1.0, static_cast<std::int64_t>(groups.size()), "Done");
+  std::ranges::stable_sort(groups, std::ranges::greater(), &DuplicateGroup::reclaimableBytes);
+  return groups;
+}
+
+std::optional<std::string> DuplicateScanner::hashFile(const Path& url) {
+  const std::scoped_lock lock(_scanning);
+  const auto digest = ContentHasher().digest(_files, url);
+  return digest ? std::optional(hexadecimal(*digest)) : std::nullopt;
+}
+
+}  // namespace klarvik
