@@ -1,15 +1,20 @@
-// How smoothly the real window is drawn while a scan reports 200,000 items: the time between two
-// frames, without what the thread waited for a processor that others had.
+// frames [ITEMS]: how smoothly the real window is drawn while a scan finds 200,000 items, or as
+// many as it is told, and while the user goes on to work with them: the time between two frames,
+// without what the thread waited for a processor that others had.
 
 #include <QGuiApplication>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <numeric>
 #include <vector>
 
+#include "panes/smart_scan/review_table.h"
 #include "platform/desktop/qt_clock.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
@@ -25,8 +30,6 @@ namespace {
 
 using namespace klarvik;
 
-constexpr int itemCount = 200'000;
-
 /// Nanoseconds that the calling thread has spent ready to run while others ran.
 std::int64_t waitedForProcessor() {
   std::ifstream statistics("/proc/thread-self/schedstat");
@@ -36,40 +39,104 @@ std::int64_t waitedForProcessor() {
   return waited;
 }
 
-class FrameTimes {
+/// The frames of one window, which are asked for as fast as they can be drawn.
+class Frames {
  public:
+  explicit Frames(QQuickWindow& window) : _window(window) {
+    QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [this] {
+      drawn();
+      _window.requestUpdate();
+    });
+  }
+
+  /// Prints how long the frames took from `action` until `isOver` and a few more were drawn.
+  void measure(
+      const char* name, const std::function<void()>& action,
+      const std::function<bool()>& isOver = [] { return true; }) {
+    start();
+    action();
+    while (!isOver()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    const std::size_t enough = _gaps.size() + 5;
+    while (_gaps.size() < enough) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    const double sum = std::accumulate(_gaps.begin(), _gaps.end(), 0.0);
+    std::printf("frames %-17s longest %5.1f mean %5.1f count %zu\n", name,
+                *std::ranges::max_element(_gaps), sum / static_cast<double>(_gaps.size()),
+                _gaps.size());
+    std::fflush(stdout);
+  }
+
+ private:
+  void start() {
+    _gaps.clear();
+    _last = std::chrono::steady_clock::now();
+    _waited = waitedForProcessor();
+    _window.requestUpdate();
+  }
+
   void drawn() {
     const auto now = std::chrono::steady_clock::now();
     const std::int64_t waited = waitedForProcessor();
-    if (_hasFirst) {
-      const std::chrono::duration<double, std::milli> gap = now - _last;
-      _gaps.push_back(gap.count() - static_cast<double>(waited - _waited) / 1e6);
-    }
-    _hasFirst = true;
+    const std::chrono::duration<double, std::milli> gap = now - _last;
+    _gaps.push_back(gap.count() - static_cast<double>(waited - _waited) / 1e6);
     _last = now;
     _waited = waited;
   }
 
-  void print() const {
-    const double sum = std::accumulate(_gaps.begin(), _gaps.end(), 0.0);
-    std::printf("frames longest %.1f mean %.1f count %zu\n", *std::ranges::max_element(_gaps),
-                sum / static_cast<double>(_gaps.size()), _gaps.size());
-  }
-  [[nodiscard]] bool isEmpty() const { return _gaps.empty(); }
-
- private:
+  QQuickWindow& _window;
   std::chrono::steady_clock::time_point _last;
   std::int64_t _waited = 0;
-  bool _hasFirst = false;
   std::vector<double> _gaps;
 };
 
-void furnish(MemoryFileSystem& files) {
+void furnish(MemoryFileSystem& files, int itemCount) {
   files.addFolder("/Users/ann");
   for (int number = 0; number < itemCount; ++number) {
     files.addFile("/Users/ann/Library/Caches/com.example.cache-" + std::to_string(number),
                   2'000'000 + number);
   }
+}
+
+/// The view of what a scan found.
+QQuickItem* reviewList(QQuickItem& item) {
+  if (qobject_cast<ReviewTable*>(item.property("model").value<QObject*>()) != nullptr) {
+    if (item.property("contentY").isValid()) return &item;
+  }
+  for (QQuickItem* child : item.childItems()) {
+    if (QQuickItem* found = reviewList(*child)) return found;
+  }
+  return nullptr;
+}
+
+void useTheWindow(KlarvikApp& app) {
+  AppState& state = app.appState();
+  QQuickItem* list = reviewList(*app.mainWindow()->contentItem());
+  if (list == nullptr) {
+    std::fputs("frames: the window has no table of results\n", stderr);
+    std::exit(1);
+  }
+  auto& table = *qobject_cast<ReviewTable*>(list->property("model").value<QObject*>());
+  const int moreRow = 1 + static_cast<int>(ReviewTable::firstItems);
+  const auto isDone = [&] { return std::holds_alternative<AppState::Done>(state.scanState()); };
+  const auto isCleanDone = [&] {
+    return std::holds_alternative<AppState::CleanDone>(state.scanState());
+  };
+
+  Frames frames(*app.mainWindow());
+  frames.measure(
+      "scan", [&] { state.startScan(); }, isDone);
+  frames.measure("deselect all", [&] { table.toggleSelection(0); });
+  frames.measure("select all", [&] { table.toggleSelection(0); });
+  frames.measure("expand", [&] { table.activate(0); });
+  frames.measure("show all", [&] { table.activate(moreRow); });
+  frames.measure("scroll to the end", [&] {
+    list->setProperty("contentY", list->property("contentHeight").toDouble() - list->height());
+  });
+  frames.measure("deselect one", [&] { table.toggleSelection(table.rowCount() - 1); });
+  frames.measure("start of a clean", [&] { state.performClean(); });
+  frames.measure(
+      "rest of it", [] {}, isCleanDone);
+  frames.measure(
+      "scan again", [&] { state.startScan(); }, isDone);
 }
 
 }  // namespace
@@ -78,9 +145,10 @@ int main(int argumentCount, char** arguments) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
   QGuiApplication application(argumentCount, arguments);
+  const int itemCount = argumentCount > 1 ? std::atoi(arguments[1]) : 200'000;
 
   MemoryFileSystem files;
-  furnish(files);
+  furnish(files, itemCount);
   MemoryTrash trash(files);
   CannedCommandRunner commands;
   MemoryDefaults defaults;
@@ -105,28 +173,6 @@ int main(int argumentCount, char** arguments) {
     return 1;
   }
 
-  FrameTimes times;
-  bool isScanning = false;
-  QObject::connect(app.mainWindow(), &QQuickWindow::frameSwapped, &application, [&] {
-    if (isScanning) {
-      times.drawn();
-    }
-    app.mainWindow()->requestUpdate();
-  });
-  QObject::connect(&app.appState(), &AppState::scanStateChanged, &application, [&] {
-    const auto& state = app.appState().scanState();
-    isScanning = std::holds_alternative<AppState::Scanning>(state);
-    if (std::holds_alternative<AppState::Done>(state)) {
-      QCoreApplication::exit(0);
-    }
-  });
-  QMetaObject::invokeMethod(
-      &application, [&] { app.appState().startScan(); }, Qt::QueuedConnection);
-  QGuiApplication::exec();
-  if (times.isEmpty()) {
-    std::fputs("frames: the scan ended before a frame was drawn\n", stderr);
-    return 1;
-  }
-  times.print();
+  useTheWindow(app);
   return 0;
 }

@@ -17,25 +17,10 @@ const std::string& smartScanKey() {
   return key;
 }
 
-std::int64_t itemCount(const std::vector<CleanCategory>& categories) {
-  std::size_t count = 0;
-  for (const CleanCategory& category : categories) count += category.items.size();
-  return static_cast<std::int64_t>(count);
-}
-
-bool isSafe(const CleanCategory& category) {
-  return safety(category.type) == SafetyLevel::safe;
-}
-
 /// A category never changes once it is made, so its identity stands for its content.
 bool sameCategories(const std::vector<CleanCategory>& left,
                     const std::vector<CleanCategory>& right) {
   return std::ranges::equal(left, right, {}, &CleanCategory::id, &CleanCategory::id);
-}
-
-bool sameCategoriesInAnyOrder(const std::vector<CleanCategory>& left,
-                              const std::vector<CleanCategory>& right) {
-  return std::ranges::is_permutation(left, right, {}, &CleanCategory::id, &CleanCategory::id);
 }
 
 AppState::Scan scanWithFreshEngine(const Platform& platform) {
@@ -62,22 +47,11 @@ AppState::~AppState() {
   _scanWork.finish();
 }
 
-bool AppState::selectionIsAllSafe() const {
-  return std::ranges::all_of(_scanResults, [&](const CleanCategory& category) {
-    return isSafe(category) || std::ranges::none_of(category.items, [&](const JunkItem& item) {
-             return _selectedItems.contains(item.id);
-           });
-  });
-}
-
 void AppState::startScan() {
   _scanTask.request_stop();
   setScanState(Scanning{0, "Starting scan"});
-  setResults({});
-  setSelectedItems({});
-  _selectionIsAsFound = true;
+  setResults({}, {});
   if (changeTo(_expandedCategories, {})) emit expandedCategoriesChanged();
-  recomputeTotal();
   if (changeTo(_scanActivity, {})) emit scanActivityChanged();
   setLastClean(std::nullopt);
   _activity.start(smartScanKey());
@@ -94,11 +68,24 @@ QCoro::Task<> AppState::runScan(std::stop_token cancelled) {
                std::holds_alternative<ScanUpdate>(older);
       });
   auto scan = [&run = _scan, &reports, token = stop.token()] {
-    return run(
+    std::map<Uuid, ItemSelection::Items> ranked;
+    const auto rank = [&](const CleanCategory& category) {
+      ItemSelection::Items& items = ranked[category.id];
+      if (items == nullptr) items = std::make_shared<const RankedItems>(category.items);
+      return items;
+    };
+    Found found;
+    found.categories = run(
         token, [&](const ScanUpdate& update) { reports.post(update); },
-        [&](const CleanCategory& category) { reports.post(FoundCategory(category)); });
+        [&](const CleanCategory& category) {
+          reports.post(FoundCategory{category, rank(category)});
+        });
+    ItemSelection nothing;
+    for (const CleanCategory& category : found.categories) nothing.add(category, rank(category));
+    found.safeItems = nothing.safeItems();
+    return found;
   };
-  std::vector<CleanCategory> found = co_await onEngineThread(_scanWork, std::move(scan));
+  Found found = co_await onEngineThread(_scanWork, std::move(scan));
   reports.empty();
   if (!stop.token().stop_requested()) finishScan(std::move(found));
 }
@@ -124,39 +111,29 @@ void AppState::applyUpdate(const ScanUpdate& update) {
   }
 }
 
-AppState::FoundCategory::FoundCategory(CleanCategory found) : category(std::move(found)) {
-  if (!isSafe(category)) return;
-  safeIds.reserve(category.items.size());
-  for (const JunkItem& item : category.items) safeIds.insert(item.id);
-}
-
 void AppState::applyCategory(FoundCategory found) {
-  const std::size_t selectedBefore = _selectedItems.size();
-  if (found.safeIds.size() > _selectedItems.size()) _selectedItems.swap(found.safeIds);
-  _selectedItems.merge(found.safeIds);
-  addToSelected(found.category);
-  _scanResults.push_back(std::move(found.category));
+  const bool isSafe = safety(found.category.type) == SafetyLevel::safe;
+  _selectedItems.add(found.category, std::move(found.items));
+  const bool selects = isSafe && _selectedItems.setAll(found.category.id, true);
+  _scanResults->push_back(std::move(found.category));
   emit scanResultsChanged();
   recomputeTotal();
-  if (_selectedItems.size() != selectedBefore) emit selectedItemsChanged();
+  if (selects) emit selectedItemsChanged();
 }
 
-void AppState::finishScan(std::vector<CleanCategory> found) {
-  const bool sameAsArrived = sameCategoriesInAnyOrder(_scanResults, found);
-  setResults(std::move(found));
-  recomputeTotal();
-  if (!sameAsArrived || !_selectionIsAsFound) selectSafeItems();
+void AppState::finishScan(Found found) {
+  setResults(std::move(found.categories), std::move(found.safeItems));
   setScanState(Done{});
   _activity.finish(smartScanKey(), _desktop.formatting.byteText(_totalSpaceFreeable));
   writeTotal();
-  _history.recordScan(_scanResults);
+  _history.recordScan(*_scanResults);
 }
 
 void AppState::cancelScan() {
   _scanTask.request_stop();
   _activity.clear(smartScanKey());
   recomputeTotal();
-  if (_scanResults.empty()) {
+  if (_scanResults->empty()) {
     setScanState(Idle{});
   } else {
     setScanState(Done{});
@@ -179,17 +156,11 @@ QCoro::Task<> AppState::autoScanIfNeeded(std::stop_token stop) {
 }
 
 bool AppState::hasNothingToShow() const {
-  return !std::holds_alternative<Scanning>(_scanState) && _scanResults.empty();
+  return !std::holds_alternative<Scanning>(_scanState) && _scanResults->empty();
 }
 
 void AppState::selectSafeItems() {
-  std::unordered_set<Uuid> ids;
-  ids.reserve(static_cast<std::size_t>(itemCount(_scanResults)));
-  for (const CleanCategory& category : _scanResults) {
-    if (!isSafe(category)) continue;
-    for (const JunkItem& item : category.items) ids.insert(item.id);
-  }
-  setSelectedItems(std::move(ids));
+  if (changeTo(_selectedItems, _selectedItems.safeItems())) emit selectedItemsChanged();
 }
 
 void AppState::toggleCategoryExpansion(CategoryType type) {
@@ -198,82 +169,45 @@ void AppState::toggleCategoryExpansion(CategoryType type) {
 }
 
 void AppState::toggleItem(const Uuid& id) {
-  _selectionIsAsFound = false;
-  const bool select = _selectedItems.erase(id) == 0;
-  if (select) _selectedItems.insert(id);
-  if (const JunkItem* item = itemInResults(id)) {
-    _selected.size = addBytes(_selected.size, select ? item->size : -item->size);
-    _selected.count += select ? 1 : -1;
-  }
+  _selectedItems.toggle(id);
   emit selectedItemsChanged();
 }
 
 void AppState::setSelection(const std::vector<JunkItem>& items, bool selected) {
-  _selectionIsAsFound = false;
-  const std::size_t before = _selectedItems.size();
-  for (const JunkItem& item : items) {
-    if (selected) {
-      _selectedItems.insert(item.id);
-    } else {
-      _selectedItems.erase(item.id);
-    }
+  const auto whole = std::ranges::find(
+      *_scanResults, &items, [](const CleanCategory& category) { return &category.items; });
+  bool changed = false;
+  if (whole != _scanResults->end()) {
+    changed = _selectedItems.setAll(whole->id, selected);
+  } else {
+    for (const JunkItem& item : items) changed |= _selectedItems.set(item.id, selected);
   }
-  if (_selectedItems.size() == before) return;
-  recountSelected();
-  emit selectedItemsChanged();
+  if (changed) emit selectedItemsChanged();
 }
 
 void AppState::setScanState(ScanState state) {
   if (changeTo(_scanState, std::move(state))) emit scanStateChanged();
 }
 
-void AppState::setResults(std::vector<CleanCategory> results) {
-  const bool changed = !sameCategories(_scanResults, results);
-  // Sorting what has arrived changes no count, however many items there are.
-  const bool recount = !sameCategoriesInAnyOrder(_scanResults, results);
-  _scanWork.discard(std::exchange(_scanResults, std::move(results)));
-  if (recount) recountSelected();
-  if (changed) emit scanResultsChanged();
+void AppState::setResults(std::vector<CleanCategory> results, ItemSelection selection) {
+  const bool resultsChange = !sameCategories(*_scanResults, results);
+  const bool selectionChanges = _selectedItems != selection;
+  auto former =
+      std::exchange(_scanResults, std::make_shared<std::vector<CleanCategory>>(std::move(results)));
+  if (!former->empty()) _scanWork.discard(std::move(former));
+  _selectedItems = std::move(selection);
+  if (resultsChange) emit scanResultsChanged();
+  recomputeTotal();
+  if (selectionChanges) emit selectedItemsChanged();
 }
 
 void AppState::recomputeTotal() {
-  std::int64_t total = 0;
-  for (const CleanCategory& category : _scanResults) total = addBytes(total, category.totalSize());
-  if (changeTo(_totalSpaceFreeable, total)) emit totalSpaceFreeableChanged();
-}
-
-void AppState::setSelectedItems(std::unordered_set<Uuid> ids) {
-  if (_selectedItems == ids) return;
-  _scanWork.discard(std::exchange(_selectedItems, std::move(ids)));
-  recountSelected();
-  emit selectedItemsChanged();
-}
-
-const JunkItem* AppState::itemInResults(const Uuid& id) const {
-  for (const CleanCategory& category : _scanResults) {
-    const auto found = std::ranges::find(category.items, id, &JunkItem::id);
-    if (found != category.items.end()) return &*found;
-  }
-  return nullptr;
-}
-
-void AppState::recountSelected() {
-  _selected = {};
-  if (_selectedItems.empty()) return;
-  for (const CleanCategory& category : _scanResults) addToSelected(category);
-}
-
-void AppState::addToSelected(const CleanCategory& category) {
-  for (const JunkItem& item : category.items) {
-    if (!_selectedItems.contains(item.id)) continue;
-    _selected.size = addBytes(_selected.size, item.size);
-    ++_selected.count;
-  }
+  if (changeTo(_totalSpaceFreeable, _selectedItems.total().size)) emit totalSpaceFreeableChanged();
 }
 
 void AppState::writeTotal() {
   _coordinator.setTotal(smartScanKey(),
-                        {_totalSpaceFreeable, itemCount(_scanResults), _desktop.clock.now()});
+                        {_totalSpaceFreeable, _selectedItems.total().count, _desktop.clock.now()});
 }
 
 }  // namespace klarvik

@@ -5,11 +5,11 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
 #include <stop_token>
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 #include <variant>
@@ -19,6 +19,7 @@
 #include "engine/scanner_engine.h"
 #include "platform/platform.h"
 #include "state/engine_work.h"
+#include "state/item_selection.h"
 #include "state/scan_coordinator.h"
 #include "state/scan_history.h"
 #include "state/tool_activity.h"
@@ -81,10 +82,10 @@ class AppState : public QObject {
   /// the items that a removal has in hand; what a clean has removed is put on record first.
   ~AppState() override;
 
-  [[nodiscard]] const std::vector<CleanCategory>& scanResults() const { return _scanResults; }
+  [[nodiscard]] const std::vector<CleanCategory>& scanResults() const { return *_scanResults; }
   [[nodiscard]] const ScanState& scanState() const { return _scanState; }
   [[nodiscard]] std::int64_t totalSpaceFreeable() const { return _totalSpaceFreeable; }
-  [[nodiscard]] const std::unordered_set<Uuid>& selectedItems() const { return _selectedItems; }
+  [[nodiscard]] const ItemSelection& selectedItems() const { return _selectedItems; }
   [[nodiscard]] std::optional<Date> lastCleanDate() const { return _lastCleanDate; }
   [[nodiscard]] bool pendingCleanConfirmation() const { return _pendingCleanConfirmation; }
   void setPendingCleanConfirmation(bool pending);
@@ -97,12 +98,11 @@ class AppState : public QObject {
   [[nodiscard]] const std::optional<DeletionProgress>& cleanProgress() const {
     return _cleanProgress;
   }
-  /// Bytes and number of the selected items that are in `scanResults`. Both are kept up to date, so
-  /// that asking costs nothing.
-  [[nodiscard]] std::int64_t selectedSize() const { return _selected.size; }
-  [[nodiscard]] std::int64_t selectedCount() const { return _selected.count; }
+  /// Bytes and number of the selected items that are in `scanResults`.
+  [[nodiscard]] std::int64_t selectedSize() const { return _selectedItems.selected().size; }
+  [[nodiscard]] std::int64_t selectedCount() const { return _selectedItems.selected().count; }
   /// Whether nothing is selected that asks for a review.
-  [[nodiscard]] bool selectionIsAllSafe() const;
+  [[nodiscard]] bool selectionIsAllSafe() const { return _selectedItems.isAllSafe(); }
 
   /// Starts anew, also while a scan or a clean is running. A running scan is asked to stop, and
   /// what it still reports until it does is shown like any other report.
@@ -116,6 +116,7 @@ class AppState : public QObject {
   void selectSafeItems();
   void toggleCategoryExpansion(CategoryType type);
   void toggleItem(const Uuid& id);
+  /// The items of a whole category of `scanResults` are selected at once, however many.
   void setSelection(const std::vector<JunkItem>& items, bool selected);
 
   /// Cleans at once, or raises `pendingCleanConfirmation` where the selection asks for a review.
@@ -147,48 +148,50 @@ class AppState : public QObject {
   void cleanProgressChanged();
 
  private:
-  /// A category with what the main thread would otherwise have to put together of its items: there
-  /// may be very many, and no frame waits for them.
+  /// As they were when they were last replaced, for whoever works on them off the main thread; only
+  /// a running scan adds to them in place.
+  using Results = std::shared_ptr<std::vector<CleanCategory>>;
+
   struct FoundCategory {
-    explicit FoundCategory(CleanCategory found);
     CleanCategory category;
-    std::unordered_set<Uuid> safeIds;
+    ItemSelection::Items items;
   };
   using ScanReport = std::variant<ScanUpdate, FoundCategory>;
-  struct Sum {
-    std::int64_t size = 0;  ///< bytes
-    std::int64_t count = 0;
+
+  /// What a scan came back with.
+  struct Found {
+    std::vector<CleanCategory> categories;
+    ItemSelection safeItems;
   };
 
   QCoro::Task<> runScan(std::stop_token cancelled);
   void apply(ScanReport report);
   void applyUpdate(const ScanUpdate& update);
   void applyCategory(FoundCategory found);
-  void finishScan(std::vector<CleanCategory> found);
+  void finishScan(Found found);
   [[nodiscard]] bool hasNothingToShow() const;
 
-  /// What a clean is to remove, and which item each path stands for.
-  struct CleanPlan {
-    struct Target {
-      Uuid id;
-      CategoryType type;
-    };
-    std::vector<JunkItem> items;
-    std::unordered_map<std::string, Target> targets;  ///< by path
+  struct CleanPlan;
+  /// What a clean did.
+  struct Cleaned {
+    CleanSummary summary;
+    std::unordered_set<Uuid> removed;
+    Results results;  ///< that it was of
+    std::vector<ItemSelection::Remainder> left;
   };
 
-  [[nodiscard]] CleanPlan planClean() const;
-  QCoro::Task<> runClean(CleanPlan plan, std::stop_token cancelled);
-  void finishClean(const CleanPlan& plan, const std::vector<DeletionOutcome>& outcomes);
+  QCoro::Task<> runClean(Results results, ItemSelection selection, std::stop_token cancelled);
+  [[nodiscard]] static CleanPlan planClean(const std::vector<CleanCategory>& results,
+                                           const ItemSelection& selection);
+  [[nodiscard]] static Cleaned sumUp(const CleanPlan& plan,
+                                     const std::vector<DeletionOutcome>& outcomes, Results results);
+  void finishClean(Cleaned cleaned);
+  void keepOnly(std::vector<ItemSelection::Remainder> left,
+                const std::unordered_set<Uuid>& removed);
 
   void setScanState(ScanState state);
-  void setResults(std::vector<CleanCategory> results);
+  void setResults(std::vector<CleanCategory> results, ItemSelection selection);
   void recomputeTotal();
-  void setSelectedItems(std::unordered_set<Uuid> ids);
-  void recountSelected();
-  void addToSelected(const CleanCategory& category);
-  /// Nothing when no item of the results has this identifier.
-  [[nodiscard]] const JunkItem* itemInResults(const Uuid& id) const;
   void setLastClean(std::optional<CleanSummary> summary);
   void setCleanProgress(std::optional<DeletionProgress> progress);
   void writeTotal();
@@ -198,14 +201,11 @@ class AppState : public QObject {
   ScanCoordinator& _coordinator;
   ScanHistory& _history;
   Scan _scan;
-  std::vector<CleanCategory> _scanResults;
+  Results _scanResults = std::make_shared<std::vector<CleanCategory>>();
   ScanState _scanState;
   std::int64_t _totalSpaceFreeable = 0;
-  std::unordered_set<Uuid> _selectedItems;
-  Sum _selected;
+  ItemSelection _selectedItems;
   std::optional<Date> _lastCleanDate;
-  /// Nothing but the safe items of what has arrived is selected, and all of those.
-  bool _selectionIsAsFound = true;
   bool _pendingCleanConfirmation = false;
   std::set<CategoryType> _expandedCategories;
   std::optional<CleanSummary> _lastClean;

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <iterator>
+#include <unordered_map>
 #include <utility>
 
 #include "state/app_state.h"
@@ -7,6 +10,35 @@
 #include "state/section.h"
 
 namespace klarvik {
+
+namespace {
+
+/// Every category that keeps an item, under a new identity.
+std::vector<ItemSelection::Remainder> leftWithout(const std::unordered_set<Uuid>& removed,
+                                                  const std::vector<CleanCategory>& results) {
+  std::vector<ItemSelection::Remainder> left;
+  for (const CleanCategory& category : results) {
+    CleanCategory kept{.type = category.type, .items = {}};
+    std::ranges::copy_if(category.items, std::back_inserter(kept.items),
+                         [&](const JunkItem& item) { return !removed.contains(item.id); });
+    if (kept.items.empty()) continue;
+    auto items = std::make_shared<const RankedItems>(kept.items);
+    left.push_back({category.id, std::move(kept), std::move(items)});
+  }
+  return left;
+}
+
+}  // namespace
+
+/// What a clean is to remove, and which item each path stands for.
+struct AppState::CleanPlan {
+  struct Target {
+    Uuid id;
+    CategoryType type;
+  };
+  std::vector<JunkItem> items;
+  std::unordered_map<std::string, Target> targets;  ///< by path
+};
 
 void AppState::setPendingCleanConfirmation(bool pending) {
   if (changeTo(_pendingCleanConfirmation, pending)) emit pendingCleanConfirmationChanged();
@@ -26,18 +58,38 @@ void AppState::requestClean() {
 
 void AppState::performClean() {
   setScanState(Cleaning{});
-  CleanPlan plan = planClean();
-  setCleanProgress(
-      DeletionProgress{.total = static_cast<std::int64_t>(plan.items.size()), .currentName = ""});
+  setCleanProgress(DeletionProgress{.total = selectedCount(), .currentName = ""});
   _cleanTask = std::stop_source();
-  runClean(std::move(plan), _cleanTask.get_token());
+  runClean(_scanResults, _selectedItems, _cleanTask.get_token());
 }
 
-AppState::CleanPlan AppState::planClean() const {
+QCoro::Task<> AppState::runClean(Results results, ItemSelection selection,
+                                 std::stop_token cancelled) {
+  const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
+  ScannerEngine engine(_desktop);
+  ReportMailbox<DeletionProgress> reports(
+      _desktop.clock, [this](DeletionProgress progress) { setCleanProgress(std::move(progress)); },
+      [](const DeletionProgress&, const DeletionProgress&) { return true; });
+  const bool useTrash = _desktop.defaults.boolean("useTrash", true);
+  auto clean = [&engine, &reports, &selection, useTrash, results = std::move(results),
+                token = stop.token()] {
+    const CleanPlan plan = planClean(*results, selection);
+    const auto outcomes =
+        engine.deleteItems(plan.items, useTrash, token,
+                           [&](const DeletionProgress& progress) { reports.post(progress); });
+    return sumUp(plan, outcomes, results);
+  };
+  Cleaned cleaned = co_await onEngineThread(_removalWork, std::move(clean));
+  reports.empty();
+  finishClean(std::move(cleaned));
+}
+
+AppState::CleanPlan AppState::planClean(const std::vector<CleanCategory>& results,
+                                        const ItemSelection& selection) {
   CleanPlan plan;
-  for (const CleanCategory& category : _scanResults) {
+  for (const CleanCategory& category : results) {
     for (const JunkItem& item : category.items) {
-      if (!_selectedItems.contains(item.id)) continue;
+      if (!selection.contains(item.id)) continue;
       plan.items.push_back(item);
       plan.targets.try_emplace(item.path.native(), item.id, category.type);
     }
@@ -45,48 +97,44 @@ AppState::CleanPlan AppState::planClean() const {
   return plan;
 }
 
-QCoro::Task<> AppState::runClean(CleanPlan plan, std::stop_token cancelled) {
-  const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
-  ScannerEngine engine(_desktop);
-  ReportMailbox<DeletionProgress> reports(
-      _desktop.clock, [this](DeletionProgress progress) { setCleanProgress(std::move(progress)); },
-      [](const DeletionProgress&, const DeletionProgress&) { return true; });
-  const bool useTrash = _desktop.defaults.boolean("useTrash", true);
-  auto clean = [&engine, &reports, &plan, useTrash, token = stop.token()] {
-    return engine.deleteItems(plan.items, useTrash, token,
-                              [&](const DeletionProgress& progress) { reports.post(progress); });
-  };
-  const std::vector<DeletionOutcome> outcomes =
-      co_await onEngineThread(_removalWork, std::move(clean));
-  reports.empty();
-  finishClean(plan, outcomes);
-}
-
-void AppState::finishClean(const CleanPlan& plan, const std::vector<DeletionOutcome>& outcomes) {
-  CleanSummary summary;
-  std::unordered_set<Uuid> removed;
+AppState::Cleaned AppState::sumUp(const CleanPlan& plan,
+                                  const std::vector<DeletionOutcome>& outcomes, Results results) {
+  Cleaned cleaned;
+  CleanSummary& summary = cleaned.summary;
   for (const DeletionOutcome& outcome : outcomes) {
     if (outcome.reclaimed < 1) continue;
     const auto target = plan.targets.find(outcome.originalURL.native());
     if (target == plan.targets.end()) continue;
     const auto& [id, type] = target->second;
     summary.freed = addBytes(summary.freed, outcome.reclaimed);
-    removed.insert(id);
+    cleaned.removed.insert(id);
     if (outcome.trashedURL) {
       summary.restorable.emplace_back(outcome.originalURL, *outcome.trashedURL);
     }
-    std::int64_t& cleaned = summary.cleanedCategories[type];
-    cleaned = addBytes(cleaned, outcome.reclaimed);
+    std::int64_t& ofCategory = summary.cleanedCategories[type];
+    ofCategory = addBytes(ofCategory, outcome.reclaimed);
   }
-  summary.itemCount = static_cast<std::int64_t>(removed.size());
+  summary.itemCount = static_cast<std::int64_t>(cleaned.removed.size());
+  cleaned.left = leftWithout(cleaned.removed, *results);
+  cleaned.results = std::move(results);
+  return cleaned;
+}
 
-  setLastClean(summary);
-  _history.recordClean(summary.freed, summary.cleanedCategories);
-  removeItems(removed);
+void AppState::finishClean(Cleaned cleaned) {
+  const std::int64_t freed = cleaned.summary.freed;
+  const auto cleanedCategories = cleaned.summary.cleanedCategories;
+  setLastClean(std::move(cleaned.summary));
+  _history.recordClean(freed, cleanedCategories);
+  if (cleaned.results != _scanResults) {
+    removeItems(cleaned.removed);
+  } else if (!cleaned.removed.empty()) {
+    keepOnly(std::exchange(cleaned.left, {}), cleaned.removed);
+  }
+  _removalWork.discard(std::move(cleaned));
   _desktop.notifications.post(diskChangedNotification);
   if (changeTo(_lastCleanDate, _desktop.clock.now())) emit lastCleanDateChanged();
   setCleanProgress(std::nullopt);
-  setScanState(CleanDone{summary.freed});
+  setScanState(CleanDone{freed});
 }
 
 void AppState::cancelClean() {
@@ -99,20 +147,17 @@ void AppState::finishRemovals() {
 }
 
 void AppState::removeItems(const std::unordered_set<Uuid>& ids) {
-  if (ids.empty()) return;
+  if (!ids.empty()) keepOnly(leftWithout(ids, *_scanResults), ids);
+}
+
+void AppState::keepOnly(std::vector<ItemSelection::Remainder> left,
+                        const std::unordered_set<Uuid>& removed) {
+  ItemSelection selection = _selectedItems.without(removed, left);
   std::vector<CleanCategory> remaining;
-  for (const CleanCategory& category : _scanResults) {
-    CleanCategory kept{.type = category.type, .items = {}};
-    for (const JunkItem& item : category.items) {
-      if (!ids.contains(item.id)) kept.items.push_back(item);
-    }
-    if (!kept.items.empty()) remaining.push_back(std::move(kept));
+  for (ItemSelection::Remainder& remainder : left) {
+    remaining.push_back(std::move(remainder.category));
   }
-  std::unordered_set<Uuid> stillSelected = _selectedItems;
-  for (const Uuid& id : ids) stillSelected.erase(id);
-  setResults(std::move(remaining));
-  setSelectedItems(std::move(stillSelected));
-  recomputeTotal();
+  setResults(std::move(remaining), std::move(selection));
   writeTotal();
 }
 
@@ -139,7 +184,10 @@ QCoro::Task<std::int64_t> AppState::restoreLastClean() {
 }
 
 void AppState::setLastClean(std::optional<CleanSummary> summary) {
-  if (changeTo(_lastClean, std::move(summary))) emit lastCleanChanged();
+  if (_lastClean == summary) return;
+  auto former = std::exchange(_lastClean, std::move(summary));
+  if (former) _removalWork.discard(std::move(former));
+  emit lastCleanChanged();
 }
 
 void AppState::setCleanProgress(std::optional<DeletionProgress> progress) {

@@ -37,7 +37,6 @@ class EngineWork final : public QObject {
   /// Frees `garbage` off the main thread, where freeing very much of it would hold up a frame.
   template <typename Garbage>
   void discard(Garbage garbage) {
-    if (garbage.size() == 0) return;
     auto release = [kept = std::make_shared<Garbage>(std::move(garbage))]() mutable {
       kept.reset();
     };

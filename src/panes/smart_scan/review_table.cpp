@@ -16,27 +16,6 @@ namespace {
 /// Above this many separate gaps it is cheaper, also for the view, to list the items anew.
 constexpr std::size_t mostGaps = 64;
 
-/// The places of the items in `sortItemsBySize` order; only the first `count` are put in order.
-std::vector<std::size_t> largestFirst(const std::vector<JunkItem>& items, std::size_t count) {
-  std::vector<std::pair<std::int64_t, std::size_t>> keys;
-  keys.reserve(items.size());
-  for (std::size_t at = 0; at < items.size(); ++at) {
-    keys.emplace_back(items[at].size, at);
-  }
-  const auto comesFirst = [](const auto& left, const auto& right) {
-    return left.first != right.first ? left.first > right.first : left.second < right.second;
-  };
-  const auto end = keys.begin() + static_cast<std::ptrdiff_t>(count);
-  std::nth_element(keys.begin(), end, keys.end(), comesFirst);
-  std::sort(keys.begin(), end, comesFirst);
-
-  std::vector<std::size_t> places;
-  places.reserve(count);
-  std::transform(keys.begin(), end, std::back_inserter(places),
-                 [](const auto& key) { return key.second; });
-  return places;
-}
-
 /// What a row says that has nothing to say: a view binds every role of every row.
 QVariant nothing(int role) {
   switch (role) {
@@ -138,7 +117,7 @@ void ReviewTable::toggleSelection(int row) {
   const ShownCategory& shown = _shown[at.category];
   if (at.kind == RowKind::Category) {
     if (const CleanCategory* category = find(shown.type)) {
-      _appState.setSelection(category->items, selection(shown) != Selection::All);
+      _appState.setSelection(category->items, selection(*category) != Selection::All);
     }
   } else if (const JunkItem* found = item(at)) {
     _appState.toggleItem(found->id);
@@ -172,10 +151,8 @@ void ReviewTable::syncExpansion() {
 
 void ReviewTable::syncSelection() {
   for (std::size_t at = 0; at < _shown.size(); ++at) {
-    ShownCategory& shown = _shown[at];
-    shown.selectedCount = countSelected(shown.type);
     const int first = static_cast<int>(firstRow(at));
-    const int last = first + static_cast<int>(shown.items.size());
+    const int last = first + static_cast<int>(_shown[at].ranks.size());
     emit dataChanged(index(first), index(last), {SelectionRole});
   }
 }
@@ -184,7 +161,6 @@ void ReviewTable::insertCategory(std::size_t at, const CleanCategory& category) 
   const int row = static_cast<int>(firstRow(at));
   ShownCategory shown;
   shown.type = category.type;
-  shown.selectedCount = countSelected(category.type);
   beginInsertRows({}, row, row);
   _shown.insert(_shown.begin() + static_cast<std::ptrdiff_t>(at), std::move(shown));
   endInsertRows();
@@ -200,7 +176,6 @@ void ReviewTable::removeCategory(std::size_t at) {
 }
 
 void ReviewTable::updateCategory(std::size_t at) {
-  _shown[at].selectedCount = countSelected(_shown[at].type);
   rowChanged(firstRow(at));
   syncItems(at);
 }
@@ -224,20 +199,26 @@ void ReviewTable::showAll(std::size_t at) {
 void ReviewTable::syncItems(std::size_t at) {
   const ShownCategory& shown = _shown[at];
   const CleanCategory* category = find(shown.type);
-  replaceItems(at, itemsToShow(shown));
-  setHiddenCount(at, shown.isExpanded && category != nullptr
-                         ? category->items.size() - shown.items.size()
-                         : 0);
+  if (category == nullptr || !shown.isExpanded) {
+    replaceItems(at, nullptr, 0);
+    setHiddenCount(at, 0);
+    return;
+  }
+  const std::size_t count = category->items.size();
+  const std::size_t shownCount = shown.showsAll ? count : std::min(count, firstItems);
+  replaceItems(at, _appState.selectedItems().items(category->id), shownCount);
+  setHiddenCount(at, count - shownCount);
 }
 
-/// Items keep their order from one result to the next, so whatever is met out of turn is gone, and
-/// what is left over at the end is new.
-void ReviewTable::replaceItems(std::size_t at, std::vector<ShownItem> items) {
+/// The first `count` of `items` take the place of those shown. Items keep their order from one
+/// result to the next, so whatever is met out of turn is gone, and what is left over at the end is
+/// new.
+void ReviewTable::replaceItems(std::size_t at, ItemSelection::Items items, std::size_t count) {
   ShownCategory& shown = _shown[at];
   std::vector<std::pair<std::size_t, std::size_t>> gaps;  // first, count
   std::size_t kept = 0;
-  for (std::size_t old = 0; old < shown.items.size(); ++old) {
-    if (kept < items.size() && shown.items[old].id == items[kept].id) {
+  for (std::size_t old = 0; old < shown.ranks.size(); ++old) {
+    if (kept < count && (*shown.items)[shown.ranks[old]].id == (*items)[kept].id) {
       ++kept;
     } else if (!gaps.empty() && gaps.back().first + gaps.back().second == old) {
       ++gaps.back().second;
@@ -246,28 +227,30 @@ void ReviewTable::replaceItems(std::size_t at, std::vector<ShownItem> items) {
     }
   }
   if (gaps.size() > mostGaps) {
-    gaps = {{0, shown.items.size()}};
+    gaps = {{0, shown.ranks.size()}};
     kept = 0;
   }
   for (auto gap = gaps.rbegin(); gap != gaps.rend(); ++gap) {
     removeItems(at, gap->first, gap->second);
   }
-  if (kept == items.size()) {
-    shown.items = std::move(items);
+  shown.items = std::move(items);
+  std::iota(shown.ranks.begin(), shown.ranks.end(), std::size_t{0});
+  if (kept == count) {
     return;
   }
   const std::size_t first = firstRow(at) + 1;
-  beginInsertRows({}, static_cast<int>(first + kept), static_cast<int>(first + items.size() - 1));
-  shown.items = std::move(items);
+  beginInsertRows({}, static_cast<int>(first + kept), static_cast<int>(first + count - 1));
+  shown.ranks.resize(count);
+  std::iota(shown.ranks.begin(), shown.ranks.end(), std::size_t{0});
   endInsertRows();
 }
 
 void ReviewTable::removeItems(std::size_t at, std::size_t first, std::size_t count) {
-  std::vector<ShownItem>& items = _shown[at].items;
+  std::vector<std::size_t>& ranks = _shown[at].ranks;
   const std::size_t row = firstRow(at) + 1 + first;
-  const auto begin = items.begin() + static_cast<std::ptrdiff_t>(first);
+  const auto begin = ranks.begin() + static_cast<std::ptrdiff_t>(first);
   beginRemoveRows({}, static_cast<int>(row), static_cast<int>(row + count - 1));
-  items.erase(begin, begin + static_cast<std::ptrdiff_t>(count));
+  ranks.erase(begin, begin + static_cast<std::ptrdiff_t>(count));
   endRemoveRows();
 }
 
@@ -277,7 +260,7 @@ void ReviewTable::setHiddenCount(std::size_t at, std::size_t hiddenCount) {
   if (before == hiddenCount) {
     return;
   }
-  const std::size_t row = firstRow(at) + 1 + shown.items.size();
+  const std::size_t row = firstRow(at) + 1 + shown.ranks.size();
   const int modelRow = static_cast<int>(row);
   if (before == 0) {
     beginInsertRows({}, modelRow, modelRow);
@@ -311,31 +294,6 @@ const CleanCategory* ReviewTable::find(CategoryType type) const {
   return found != results().end() ? &*found : nullptr;
 }
 
-std::vector<ReviewTable::ShownItem> ReviewTable::itemsToShow(const ShownCategory& shown) const {
-  const CleanCategory* category = find(shown.type);
-  if (category == nullptr || !shown.isExpanded) {
-    return {};
-  }
-  const std::vector<JunkItem>& items = category->items;
-  const std::size_t count = shown.showsAll ? items.size() : std::min(items.size(), firstItems);
-  std::vector<ShownItem> shownItems;
-  shownItems.reserve(count);
-  for (const std::size_t index : largestFirst(items, count)) {
-    shownItems.push_back({items[index].id, index});
-  }
-  return shownItems;
-}
-
-std::size_t ReviewTable::countSelected(CategoryType type) const {
-  const CleanCategory* category = find(type);
-  const std::unordered_set<Uuid>& selected = _appState.selectedItems();
-  if (category == nullptr || selected.empty()) {
-    return 0;
-  }
-  return static_cast<std::size_t>(std::ranges::count_if(
-      category->items, [&](const JunkItem& item) { return selected.contains(item.id); }));
-}
-
 std::size_t ReviewTable::firstRow(std::size_t at) const {
   return std::accumulate(
       _shown.begin(), _shown.begin() + static_cast<std::ptrdiff_t>(at), std::size_t{0},
@@ -353,7 +311,7 @@ ReviewTable::Place ReviewTable::place(int row) const {
     return {at, RowKind::Category, 0};
   }
   const std::size_t item = rest - 1;
-  return {at, item < _shown[at].items.size() ? RowKind::Item : RowKind::ShowMore, item};
+  return {at, item < _shown[at].ranks.size() ? RowKind::Item : RowKind::ShowMore, item};
 }
 
 /// Nothing while the rows are being brought in line with new results that lack the item.
@@ -363,18 +321,19 @@ const JunkItem* ReviewTable::item(const Place& at) const {
   if (category == nullptr || at.kind != RowKind::Item) {
     return nullptr;
   }
-  const ShownItem& shownItem = shown.items[at.item];
-  const bool isThere = shownItem.index < category->items.size() &&
-                       category->items[shownItem.index].id == shownItem.id;
-  return isThere ? &category->items[shownItem.index] : nullptr;
+  const RankedItems::Item& ranked = (*shown.items)[shown.ranks[at.item]];
+  const bool isThere =
+      ranked.place < category->items.size() && category->items[ranked.place].id == ranked.id;
+  return isThere ? &category->items[ranked.place] : nullptr;
 }
 
-ReviewTable::Selection ReviewTable::selection(const ShownCategory& shown) const {
-  const CleanCategory* category = find(shown.type);
-  if (category == nullptr || shown.selectedCount == 0) {
+ReviewTable::Selection ReviewTable::selection(const CleanCategory& category) const {
+  const auto selected =
+      static_cast<std::size_t>(_appState.selectedItems().selected(category.id).count);
+  if (selected == 0) {
     return Selection::None;
   }
-  return shown.selectedCount == category->items.size() ? Selection::All : Selection::Partial;
+  return selected == category.items.size() ? Selection::All : Selection::Partial;
 }
 
 QVariant ReviewTable::rowDataOfCategory(const ShownCategory& shown, int role) const {
@@ -383,7 +342,7 @@ QVariant ReviewTable::rowDataOfCategory(const ShownCategory& shown, int role) co
     return nothing(role);
   }
   const QString name = printableText(rawValue(shown.type));
-  const QString size = QString::fromStdString(category->formattedSize(_formatting));
+  const QString size = byteText(_appState.selectedItems().total(category->id).size, _formatting);
   switch (role) {
     case NameRole:
       return name;
@@ -394,7 +353,7 @@ QVariant ReviewTable::rowDataOfCategory(const ShownCategory& shown, int role) co
     case SafetyRole:
       return static_cast<int>(safety(shown.type));
     case SelectionRole:
-      return static_cast<int>(selection(shown));
+      return static_cast<int>(selection(*category));
     case ItemsRole:
       return QString::number(category->items.size());
     case SizeRole:

@@ -53,24 +53,20 @@ class ReviewTable : public QAbstractListModel {
   Q_INVOKABLE void toggleSelection(int row);
 
  private:
-  struct ShownItem {
-    Uuid id;
-    std::size_t index = 0;  ///< in the category's items
-  };
   struct ShownCategory {
     CategoryType type = CategoryType::xcodeCache;
-    std::size_t selectedCount = 0;
     bool isExpanded = false;
     bool showsAll = false;
-    std::vector<ShownItem> items;
-    std::size_t hiddenCount = 0;  ///< items behind the row that shows the rest
+    ItemSelection::Items items;
+    std::vector<std::size_t> ranks;  ///< of the items that have a row
+    std::size_t hiddenCount = 0;     ///< items behind the row that shows the rest
 
-    [[nodiscard]] std::size_t rowCount() const { return 1 + items.size() + (hiddenCount > 0); }
+    [[nodiscard]] std::size_t rowCount() const { return 1 + ranks.size() + (hiddenCount > 0); }
   };
   struct Place {
     std::size_t category = 0;  ///< in `_shown`
     RowKind kind = RowKind::Category;
-    std::size_t item = 0;  ///< in the items shown of that category
+    std::size_t item = 0;  ///< in the ranks shown of that category
   };
 
   void syncResults();
@@ -84,19 +80,17 @@ class ReviewTable : public QAbstractListModel {
   void showAll(std::size_t at);
 
   void syncItems(std::size_t at);
-  void replaceItems(std::size_t at, std::vector<ShownItem> items);
+  void replaceItems(std::size_t at, ItemSelection::Items items, std::size_t count);
   void removeItems(std::size_t at, std::size_t first, std::size_t count);
   void setHiddenCount(std::size_t at, std::size_t hiddenCount);
   void rowChanged(std::size_t row, const QList<int>& roles = {});
 
   [[nodiscard]] const std::vector<CleanCategory>& results() const;
   [[nodiscard]] const CleanCategory* find(CategoryType type) const;
-  [[nodiscard]] std::vector<ShownItem> itemsToShow(const ShownCategory& shown) const;
-  [[nodiscard]] std::size_t countSelected(CategoryType type) const;
   [[nodiscard]] std::size_t firstRow(std::size_t at) const;
   [[nodiscard]] Place place(int row) const;
   [[nodiscard]] const JunkItem* item(const Place& place) const;
-  [[nodiscard]] Selection selection(const ShownCategory& shown) const;
+  [[nodiscard]] Selection selection(const CleanCategory& category) const;
   [[nodiscard]] QVariant rowDataOfCategory(const ShownCategory& shown, int role) const;
   [[nodiscard]] QVariant rowDataOfItem(const JunkItem& item, CategoryType type, int role) const;
 

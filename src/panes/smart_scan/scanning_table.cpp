@@ -97,8 +97,9 @@ std::vector<FoundRow> ScanningTable::currentRows() const {
   }
   std::vector<FoundRow> rows;
   for (const CleanCategory& category : _appState.scanResults()) {
-    rows.push_back({std::string(rawValue(category.type)), safety(category.type),
-                    static_cast<std::int64_t>(category.items.size()), category.totalSize()});
+    const ItemSum found = _appState.selectedItems().total(category.id);
+    rows.push_back(
+        {std::string(rawValue(category.type)), safety(category.type), found.count, found.size});
   }
   const AppState::ScanActivity& activity = _appState.scanActivity();
   if (!activity.categoryName.empty()) {

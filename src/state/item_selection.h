@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <set>
+#include <unordered_set>
+#include <vector>
+
+#include "core/junk_model.h"
+#include "state/ranked_items.h"
+
+namespace klarvik {
+
+/// A set of items' identifiers that knows which of them belong to the results of a scan, and what
+/// those add up to. A category is selected as a whole, counted and summed without going through its
+/// items, however many it has; a copy costs a bit for each of them.
+class ItemSelection {
+ public:
+  using Items = std::shared_ptr<const RankedItems>;
+
+  /// What is left of a category after some of its items have gone.
+  struct Remainder {
+    Uuid before;  ///< the category that it was
+    CleanCategory category;
+    Items items;
+  };
+
+  /// A category joins the results. None of its items is selected by that.
+  void add(const CleanCategory& category, Items items);
+
+  [[nodiscard]] bool contains(const Uuid& id) const;
+  [[nodiscard]] bool empty() const { return size() == 0; }
+  [[nodiscard]] std::size_t size() const;
+
+  /// These tell whether that changed anything.
+  bool set(const Uuid& id, bool selected);
+  /// Nothing when there is no such category.
+  bool setAll(const Uuid& category, bool selected);
+  void toggle(const Uuid& id) { set(id, !contains(id)); }
+
+  /// Exactly the items of the safe categories of the same results.
+  [[nodiscard]] ItemSelection safeItems() const;
+  /// The same selection without `gone`, over results of which no more than `kept` is left.
+  [[nodiscard]] ItemSelection without(const std::unordered_set<Uuid>& gone,
+                                      const std::vector<Remainder>& kept) const;
+
+  /// What is selected of the results, and of one category of theirs.
+  [[nodiscard]] ItemSum selected() const;
+  [[nodiscard]] ItemSum selected(const Uuid& category) const;
+  /// What there is, selected or not.
+  [[nodiscard]] ItemSum total() const;
+  [[nodiscard]] ItemSum total(const Uuid& category) const;
+  /// Nothing when there is no such category.
+  [[nodiscard]] Items items(const Uuid& category) const;
+  /// Whether nothing of the results is selected that asks for a review.
+  [[nodiscard]] bool isAllSafe() const;
+
+  /// Whether the same identifiers are selected, whatever the results.
+  bool operator==(const ItemSelection& other) const;
+
+ private:
+  struct Group {
+    Uuid category;
+    CategoryType type;
+    Items items;
+    std::vector<bool> isSelected;  ///< by rank
+    ItemSum selected;
+
+    bool set(std::size_t rank, bool select);
+    bool setAll(bool select);
+    [[nodiscard]] bool isWithin(const ItemSelection& other) const;
+  };
+
+  [[nodiscard]] const Group* find(const Uuid& category) const;
+
+  std::vector<Group> _groups;
+  std::set<Uuid> _strangers;  ///< selected, but not in the results
+};
+
+}  // namespace klarvik

@@ -1,0 +1,39 @@
+#include "state/ranked_items.h"
+
+#include <algorithm>
+
+namespace klarvik {
+
+ItemSum& ItemSum::operator+=(const ItemSum& other) {
+  size = addBytes(size, other.size);
+  count += other.count;
+  return *this;
+}
+
+ItemSum& ItemSum::operator-=(const ItemSum& other) {
+  return *this += {-other.size, -other.count};
+}
+
+RankedItems::RankedItems(const std::vector<JunkItem>& items) {
+  _items.reserve(items.size());
+  for (const JunkItem& item : items) {
+    _items.push_back({item.id, static_cast<std::uint32_t>(_items.size()), item.size});
+    _total += _items.back().sum();
+  }
+  std::ranges::sort(_items, [](const Item& left, const Item& right) {
+    return left.size != right.size ? left.size > right.size : left.place < right.place;
+  });
+  _ranks.reserve(_items.size());
+  for (const Item& item : _items) {
+    _ranks.emplace_back(item.id, static_cast<std::uint32_t>(_ranks.size()));
+  }
+  std::ranges::sort(_ranks);
+}
+
+std::optional<std::size_t> RankedItems::rankOf(const Uuid& id) const {
+  const auto found = std::ranges::lower_bound(_ranks, id, {}, &decltype(_ranks)::value_type::first);
+  if (found == _ranks.end() || found->first != id) return std::nullopt;
+  return found->second;
+}
+
+}  // namespace klarvik
