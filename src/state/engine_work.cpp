@@ -1,6 +1,6 @@
 #include "state/engine_work.h"
 
-#include <QThread>
+#include "platform/background_thread.h"
 
 namespace klarvik {
 
@@ -8,9 +8,7 @@ void EngineWork::start(std::function<void()> body, std::coroutine_handle<> waite
                        Priority priority) {
   const std::uint64_t number = _callsEverStarted++;
   std::thread thread([this, number, priority, body = std::move(body)] {
-    if (priority == Priority::background) {
-      QThread::currentThread()->setPriority(QThread::IdlePriority);
-    }
+    if (priority == Priority::background) becomeBackgroundThread();
     body();
     QMetaObject::invokeMethod(
         this, [this, number] { resume(number); }, Qt::QueuedConnection);

@@ -1,0 +1,32 @@
+#include "platform/background_thread.h"
+
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <thread>
+
+namespace klarvik {
+namespace {
+
+int niceness() {
+  return ::getpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()));
+}
+
+TEST(BackgroundThread, GetsOutOfTheWayAloneAndIsNeverStarved) {
+  const int before = niceness();
+  int inBackground = before;
+  int policy = SCHED_IDLE;
+  std::thread([&] {
+    becomeBackgroundThread();
+    inBackground = niceness();
+    policy = ::sched_getscheduler(0);
+  }).join();
+  EXPECT_GT(inBackground, before);
+  EXPECT_EQ(niceness(), before);
+  EXPECT_EQ(policy, SCHED_OTHER);
+}
+
+}  // namespace
+}  // namespace klarvik
