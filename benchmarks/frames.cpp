@@ -45,7 +45,7 @@ class Frames {
   explicit Frames(QQuickWindow& window) : _window(window) {
     QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [this] {
       drawn();
-      _window.requestUpdate();
+      _window.update();
     });
   }
 
@@ -70,7 +70,7 @@ class Frames {
     _gaps.clear();
     _last = std::chrono::steady_clock::now();
     _waited = waitedForProcessor();
-    _window.requestUpdate();
+    _window.update();
   }
 
   void drawn() {

@@ -119,10 +119,9 @@ std::optional<std::vector<Path>> MemoryFileSystem::list(const Path& folder) cons
     return std::nullopt;
   }
   const std::scoped_lock lock(_mutex);
-  std::vector<Path> children;
-  for (const auto& [path, attributes] : _entries) {
-    if (path.parent_path() == folder && path != folder) children.push_back(path);
-  }
+  std::vector<Path> children = subtree(folder);
+  std::erase_if(children,
+                [&](const Path& path) { return path.parent_path() != folder || path == folder; });
   return children;
 }
 
@@ -160,10 +159,12 @@ bool MemoryFileSystem::createDirectories(const Path& folder) {
   return true;
 }
 
+/// Paths are in the order of their components, so that an item stands just before what it holds.
 std::vector<Path> MemoryFileSystem::subtree(const Path& item) const {
   std::vector<Path> paths;
-  for (const auto& [path, attributes] : _entries) {
-    if (path == item || isBelow(item, path)) paths.push_back(path);
+  for (auto entry = _entries.lower_bound(item); entry != _entries.end(); ++entry) {
+    if (entry->first != item && !isBelow(item, entry->first)) break;
+    paths.push_back(entry->first);
   }
   return paths;
 }

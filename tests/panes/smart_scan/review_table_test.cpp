@@ -123,6 +123,28 @@ TEST_F(ReviewTableRows, SelectAllOfACategoryUnlessAllAreSelected) {
   EXPECT_EQ(selection(), ReviewTable::Selection::All);
 }
 
+/// What a million rows would cost is counted on fewer: the view is told of all of them at once.
+TEST_F(ReviewTableRows, AsManyAsThereAreComeGoAndAreSelectedInOneStep) {
+  for (int number = 0; number < 300; ++number) {
+    addCache("cache-" + std::to_string(number));
+  }
+  ASSERT_TRUE(scan());
+  table().activate(0);
+  QSignalSpy inserted(&table(), &ReviewTable::rowsInserted);
+  QSignalSpy removed(&table(), &ReviewTable::rowsRemoved);
+  QSignalSpy changed(&table(), &ReviewTable::dataChanged);
+  table().activate(9);
+  EXPECT_EQ(table().rowCount(), 301);
+  EXPECT_EQ(inserted.count(), 1);
+  EXPECT_EQ(removed.count(), 1);
+  table().toggleSelection(0);
+  EXPECT_EQ(changed.count(), 1);
+  table().activate(0);
+  EXPECT_EQ(table().rowCount(), 1);
+  EXPECT_EQ(inserted.count(), 1);
+  EXPECT_EQ(removed.count(), 2);
+}
+
 TEST_F(ReviewTableRows, SelectAnItemWhenPressed) {
   addCache("a");
   addCache("b");

@@ -1,0 +1,52 @@
+#include "state/ranked_items.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/scanner_engine.h"
+
+namespace klarvik {
+namespace {
+
+std::vector<JunkItem> itemsOfSizes(const std::vector<std::int64_t>& sizes) {
+  std::vector<JunkItem> items;
+  for (const std::int64_t size : sizes) {
+    items.push_back({.name = std::to_string(items.size()), .path = {}, .size = size});
+  }
+  return items;
+}
+
+TEST(RankedItems, AreInTheOrderOfTheEngineWithThePlaceThatEachHas) {
+  const std::vector<JunkItem> items = itemsOfSizes({3, 9, 3, 1, 9, 3});
+  std::vector<JunkItem> sorted = items;
+  sortItemsBySize(sorted);
+  const RankedItems ranked(items);
+  ASSERT_EQ(ranked.size(), items.size());
+  for (std::size_t rank = 0; rank < ranked.size(); ++rank) {
+    EXPECT_EQ(ranked[rank].id, sorted[rank].id);
+    EXPECT_EQ(ranked[rank].size, sorted[rank].size);
+    EXPECT_EQ(items[ranked[rank].place], sorted[rank]);
+  }
+}
+
+TEST(RankedItems, AreFoundByTheirIdentifier) {
+  const RankedItems ranked(itemsOfSizes({3, 9, 3, 1, 9, 3}));
+  for (std::size_t rank = 0; rank < ranked.size(); ++rank) {
+    EXPECT_EQ(ranked.rankOf(ranked[rank].id), rank);
+  }
+  EXPECT_EQ(ranked.rankOf(Uuid::random()), std::nullopt);
+}
+
+TEST(RankedItems, KnowWhatTheyAddUpTo) {
+  EXPECT_EQ(RankedItems(itemsOfSizes({3, 9, 1})).total(), (ItemSum{13, 3}));
+  EXPECT_EQ(RankedItems(itemsOfSizes({})).total(), ItemSum{});
+}
+
+using RankedItemsDeathTest = ::testing::Test;
+
+TEST_F(RankedItemsDeathTest, ThatNoLongerAddUpIn64BitsEndTheProgram) {
+  const auto most = std::numeric_limits<std::int64_t>::max();
+  EXPECT_DEATH(RankedItems(itemsOfSizes({most, 1})), "");
+}
+
+}  // namespace
+}  // namespace klarvik
