@@ -1,5 +1,5 @@
-// bare_loop FOLDER: prints the bytes that all files below FOLDER take on the disk. Nothing but the
-// system calls that such a sum needs: the yardstick for the walk of the program.
+// bare_loop FOLDER...: prints the bytes that all files below the folders take on the disk. Nothing
+// but the system calls that such a sum needs: the yardstick for the walk of the program.
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -46,12 +46,19 @@ void sum(int folder) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const int folder = argc == 2 ? ::open(argv[1], O_RDONLY | O_DIRECTORY) : -1;
-  if (folder < 0) {
-    std::fprintf(stderr, "usage: %s FOLDER\n", argv[0]);
+  if (argc < 2) {
+    std::fprintf(stderr, "usage: %s FOLDER...\n", argv[0]);
     return 2;
   }
-  sum(folder);
+  for (int at = 1; at < argc; ++at) {
+    const int folder = ::open(argv[at], O_RDONLY | O_DIRECTORY);
+    if (folder < 0) {
+      std::perror(argv[at]);
+      return 1;
+    }
+    sum(folder);
+    ::close(folder);
+  }
   std::printf("%lld\n", total);
   return 0;
 }

@@ -48,6 +48,8 @@ std::span<const Command> commands() {
        1,
        large},
       {"privacy", "[clear]  (without the clipboard: a terminal has none)", {}, 0, 1, privacy},
+      {"system-data", "", {}, 0, 0, systemData},
+      {"composition", "", {}, 0, 0, composition},
   });
   return all;
 }

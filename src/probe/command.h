@@ -48,5 +48,7 @@ int residuals(const Invocation& call);
 int uninstall(const Invocation& call);
 int large(const Invocation& call);
 int privacy(const Invocation& call);
+int systemData(const Invocation& call);
+int composition(const Invocation& call);
 
 }  // namespace klarvik::probe

@@ -99,9 +99,9 @@ SystemDataSearch::Items SystemDataSearch::childrenExcept(std::span<const std::st
   Items items;
   for (const Path& child : list(folder)) {
     const Path name = child.filename();
-    if (std::ranges::find(names, name.native()) != names.end() || isLink(child)) continue;
+    if (std::ranges::find(names, name.native()) != names.end()) continue;
     const auto size = sizeOf(child);
-    if (size < minimumSize) continue;
+    if (size < minimumSize || isLink(child)) continue;
     items.push_back(
         {.name = friendlyName(name.native()), .path = child, .size = size, .subCategory = kind});
   }

@@ -18,16 +18,16 @@ struct DiskComposition {
     std::string id;
     std::string label;
     std::int64_t bytes = 0;
-    RgbColor color;
+    RgbColor color{};
     std::optional<Path> url = std::nullopt;  ///< the folder; nothing for what is no one folder
 
     bool operator==(const Bucket&) const = default;
   };
 
-  std::vector<Bucket> buckets;  ///< measured places in a fixed order, then the remainder
-  std::int64_t usedBytes = 0;   ///< of the volume, when it was measured
+  std::vector<Bucket> buckets{};  ///< measured places in a fixed order, then the remainder
+  std::int64_t usedBytes = 0;     ///< of the volume, when it was measured
   std::int64_t freeBytes = 0;
-  Date measuredAt;  ///< when the result was finished
+  Date measuredAt{};  ///< when the result was finished
 
   /// What to draw: the buckets by size, largest first, and last one bucket for all those below
   /// `smallestShare` (0 to 1) of the used bytes together.

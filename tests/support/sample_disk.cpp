@@ -200,6 +200,7 @@ class SampleDiskBuilder {
     leftovers();
     libraryData();
     packageManagers();
+    systemDataPlaces();
     documents();
     pictures();
     largeFiles();
@@ -418,6 +419,39 @@ class SampleDiskBuilder {
     _writer.files(inHome("go/pkg/mod"), 20 * _scale, 1 * megabyte * _scale);
     _writer.file(inHome(".zshrc"), 2 * kilobyte);
     _writer.file(inHome(".config/klarvik-sample.toml"), 1 * kilobyte);
+  }
+
+  /// What the analysis of System Data looks at and nobody else makes here.
+  void systemDataPlaces() {
+    for (const std::string_view place :
+         {"Developer/Xcode/UserData", "Developer/Xcode/watchOS DeviceSupport",
+          "Developer/Xcode/macOS DeviceSupport", "Developer/Xcode/Products",
+          "Developer/Xcode/DocumentationCache", "Developer/CoreSimulator/Images",
+          "Developer/XCPGDevices", "Developer/XCTestDevices", "Android/sdk"}) {
+      _writer.files(inLibrary(place), 2, 200 * kilobyte * _scale);
+    }
+    _writer.file(inLibrary("Android/settings.xml"), 20 * kilobyte);
+    rows(CategoryType::xcodeCache) += 1;  // the watch
+
+    for (const std::string_view place :
+         {".android", ".yarn", ".pnpm-store", ".cocoapods", ".gradle", ".m2", ".nuget", ".gem",
+          ".pub-cache", ".cache/pip", ".cache/go-build", ".rustup", ".pyenv", ".nvm", ".rbenv",
+          ".conda", "miniconda3", "anaconda3"}) {
+      _writer.files(inHome(place), 2, 200 * kilobyte * _scale);
+    }
+
+    _writer.file(inLibrary("iTunes/iPad Software Updates/iPad13,1_17.0_Restore.ipsw"),
+                 100 * kilobyte);
+    _writer.file(inLibrary("iTunes/iPod Software Updates/iPod9,1_15.0_Restore.ipa"),
+                 100 * kilobyte);
+
+    for (const std::string_view place :
+         {"/Library/Developer/CommandLineTools", "/Library/Developer/CoreSimulator",
+          "/Library/Frameworks/Acme.framework", "/Library/Extensions/Acme.kext",
+          "/Library/Audio/Plug-Ins", "/private/var/tmp", "/private/var/db/oah",
+          "/opt/homebrew/Cellar", "/usr/local/Cellar/acme", "/usr/share/dict"}) {
+      _writer.files(place, 2, 200 * kilobyte * _scale);
+    }
   }
 
   /// The same content in several places.

@@ -12,7 +12,7 @@ namespace klarvik {
 
 struct SampleDiskOptions {
   /// How many times as many small files, and how many times the size of what is big. At 1 the disk
-  /// takes about 150 MB.
+  /// takes about 160 MB.
   std::int64_t scale = 1;
   Path home = "/Users/ann";  ///< logical
 };

@@ -1,0 +1,252 @@
+#include "tools/disk_composition_engine.h"
+
+#include <gmock/gmock.h>
+
+#include "platform/linux/linux_file_system.h"
+#include "support/canned_command_runner.h"
+#include "support/faulting_file_system.h"
+#include "support/fixed_volume.h"
+#include "support/memory_defaults.h"
+#include "support/memory_file_system.h"
+#include "support/recording_recent_documents.h"
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+namespace {
+
+using testing::ElementsAre;
+using Bucket = DiskComposition::Bucket;
+using Step = std::pair<std::string, double>;
+
+constexpr std::int64_t gigabyte = 1'000'000'000;
+
+class CompositionOfADisk : public testing::Test {
+ protected:
+  MemoryFileSystem files;
+  MemoryTrash trash{files};
+  CannedCommandRunner commands;
+  MemoryDefaults defaults;
+  FixedVolume volume;
+  Formatting formatting{"en_US"};
+  ApplicationInfo info;
+  RecordingRecentDocuments recentDocuments;
+  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
+  const Date now{std::chrono::seconds(1'772'644'000)};
+  DiskCompositionEngine engine{platform, [this] { return now; }};
+  std::vector<Step> steps;
+
+  void fill(const Path& folder, std::int64_t bytes) { files.addFile(folder / "data", bytes); }
+  void fillHome(const Path& folder, std::int64_t bytes) { fill("/Users/ann" / folder, bytes); }
+
+  DiskComposition measure(std::stop_token stop = {}) {
+    return engine.measureDisk(
+        stop, [this](const std::string& label, double part) { steps.emplace_back(label, part); });
+  }
+
+  static std::vector<std::string> ids(const DiskComposition& disk) {
+    std::vector<std::string> all;
+    for (const Bucket& bucket : disk.buckets) all.push_back(bucket.id);
+    return all;
+  }
+};
+
+TEST_F(CompositionOfADisk, HasEveryPlaceInOrderAndThenTheRemainder) {
+  fill("/Applications/A.app/Contents", 1);
+  fillHome("Documents", 2);
+  fillHome("Desktop", 3);
+  fillHome("Downloads", 4);
+  fillHome("Pictures", 5);
+  fillHome("Music", 6);
+  fillHome("Movies", 7);
+  fillHome("Library/Developer", 8);
+  fillHome("Library/Mobile Documents", 9);
+  fillHome("Library/Mail", 10);
+  fillHome("Library/Containers", 11);
+  fillHome("Library/Application Support", 12);
+  fillHome("Library/Caches", 13);
+  const auto disk = measure();
+  const RgbColor gray{0.443, 0.443, 0.463};
+  const Path home = "/Users/ann";
+  EXPECT_THAT(
+      disk.buckets,
+      ElementsAre(
+          Bucket{"applications", "Applications", 1, {0.224, 0.529, 0.898}, "/Applications"},
+          Bucket{"documents", "Documents", 2, {0.851, 0.349, 0.149}, home / "Documents"},
+          Bucket{"desktop", "Desktop", 3, {0.098, 0.62, 0.439}, home / "Desktop"},
+          Bucket{"downloads", "Downloads", 4, {0.788, 0.522, 0.0}, home / "Downloads"},
+          Bucket{"photos", "Photos", 5, {0.835, 0.318, 0.506}, home / "Pictures"},
+          Bucket{"music", "Music", 6, {0.0, 0.514, 0.0}, home / "Music"},
+          Bucket{"movies", "Movies", 7, {0.565, 0.522, 0.914}, home / "Movies"},
+          Bucket{"developer", "Developer", 8, {0.902, 0.404, 0.404}, home / "Library/Developer"},
+          Bucket{"icloud", "iCloud Drive (local)", 9, gray, home / "Library/Mobile Documents"},
+          Bucket{"mail", "Mail", 10, gray, home / "Library/Mail"},
+          Bucket{"containers", "App containers", 11, gray, home / "Library/Containers"},
+          Bucket{"appSupport", "App support", 12, gray, home / "Library/Application Support"},
+          Bucket{"caches", "Caches", 13, gray, home / "Library/Caches"},
+          Bucket{"system",
+                 "macOS and everything else",
+                 300 * gigabyte - 91,
+                 {0.34, 0.34, 0.34},
+                 std::nullopt}));
+  EXPECT_EQ(disk.usedBytes, 300 * gigabyte);
+  EXPECT_EQ(disk.freeBytes, 200 * gigabyte);
+  EXPECT_EQ(disk.measuredAt, now);
+}
+
+TEST_F(CompositionOfADisk, TheFractionCountsPlacesHoweverFewOfThemAreThere) {
+  measure();
+  EXPECT_THAT(steps, ElementsAre(Step("Applications", 0.0), Step("Documents", 1 / 14.0),
+                                 Step("Desktop", 2 / 14.0), Step("Downloads", 3 / 14.0),
+                                 Step("Photos", 4 / 14.0), Step("Music", 5 / 14.0),
+                                 Step("Movies", 6 / 14.0), Step("Developer", 7 / 14.0),
+                                 Step("iCloud Drive (local)", 8 / 14.0), Step("Mail", 9 / 14.0),
+                                 Step("App containers", 10 / 14.0), Step("App support", 11 / 14.0),
+                                 Step("Caches", 12 / 14.0), Step("The rest of the disk", 13 / 14.0),
+                                 Step("Done", 1.0)));
+}
+
+TEST_F(CompositionOfADisk, AMissingMailFolderIsNoBucketAndDisturbsNothing) {
+  fillHome("Library/Containers", 5);
+  EXPECT_THAT(ids(measure()), ElementsAre("containers", "system"));
+  EXPECT_EQ(steps[9], Step("Mail", 9 / 14.0));
+  EXPECT_EQ(steps[10], Step("App containers", 10 / 14.0));
+}
+
+TEST_F(CompositionOfADisk, AMeasuredSumAboveTheUsedBytesLeavesNoRemainder) {
+  fillHome("Movies", 300 * gigabyte - 1);
+  EXPECT_THAT(ids(measure()), ElementsAre("movies", "system"));
+  fillHome("Music", 1);
+  EXPECT_THAT(ids(measure()), ElementsAre("music", "movies"));
+}
+
+TEST_F(CompositionOfADisk, CountsHiddenFilesAndPackagesAndNoLinks) {
+  files.addFile("/Users/ann/Pictures/Library.photoslibrary/originals/a", 100);
+  files.addFile("/Users/ann/Pictures/.hidden/b", 20);
+  files.addLink("/Users/ann/Pictures/link");
+  files.addLink("/Users/ann/Music");
+  files.addFile("/Users/ann/Movies", 3);
+  EXPECT_EQ(engine.measure("/Users/ann/Pictures"), 120);
+  EXPECT_EQ(engine.measure("/Users/ann/Music"), 0);
+  EXPECT_EQ(engine.measure("/Users/ann/Movies"), 3);
+  EXPECT_EQ(engine.measure("/Users/ann/missing"), 0);
+}
+
+TEST_F(CompositionOfADisk, AFolderThatMayNotBeReadFallsIntoTheRemainder) {
+  fillHome("Documents", 5 * gigabyte);
+  fillHome("Desktop/secret", 4 * gigabyte);
+  fillHome("Desktop", 1 * gigabyte);
+  files.makeUnreadable("/Users/ann/Documents");
+  files.makeUnreadable("/Users/ann/Desktop/secret");
+  const auto disk = measure();
+  ASSERT_THAT(ids(disk), ElementsAre("desktop", "system"));
+  EXPECT_EQ(disk.buckets[0].bytes, 1 * gigabyte);
+  EXPECT_EQ(disk.buckets[1].bytes, 299 * gigabyte);
+}
+
+TEST_F(CompositionOfADisk, AVolumeThatTellsNothingHasNoRemainder) {
+  volume.setTotalBytes(std::nullopt);
+  volume.setAvailableBytes(std::nullopt);
+  fillHome("Movies", 7);
+  const auto disk = measure();
+  EXPECT_THAT(ids(disk), ElementsAre("movies"));
+  EXPECT_EQ(disk.usedBytes, 0);
+  EXPECT_EQ(disk.freeBytes, 0);
+}
+
+TEST_F(CompositionOfADisk, AVolumeThatDoesNotTellWhatIsFreeCountsAsFull) {
+  volume.setAvailableBytes(std::nullopt);
+  EXPECT_EQ(measure().usedBytes, 500 * gigabyte);
+}
+
+TEST_F(CompositionOfADisk, AStopBeforeTheStartLeavesEverythingToTheRemainder) {
+  fillHome("Movies", 7);
+  std::stop_source source;
+  source.request_stop();
+  const auto disk = measure(source.get_token());
+  EXPECT_THAT(ids(disk), ElementsAre("system"));
+  EXPECT_EQ(disk.buckets[0].bytes, 300 * gigabyte);
+  EXPECT_THAT(steps, ElementsAre(Step("The rest of the disk", 13 / 14.0), Step("Done", 1.0)));
+  EXPECT_EQ(disk.measuredAt, now);
+}
+
+TEST_F(CompositionOfADisk, AStopBetweenTwoPlacesKeepsWhatWasMeasured) {
+  fillHome("Documents", 1 * gigabyte);
+  fillHome("Downloads", 2 * gigabyte);
+  std::stop_source source;
+  const auto disk = engine.measureDisk(source.get_token(), [&](const std::string& label, double) {
+    if (label == "Downloads") source.request_stop();
+  });
+  ASSERT_THAT(ids(disk), ElementsAre("documents", "system"));
+  EXPECT_EQ(disk.buckets[1].bytes, 299 * gigabyte);
+}
+
+/// The same on a disk of the machine.
+class CompositionOnDisk : public CompositionOfADisk {
+ protected:
+  TemporaryFolder folder;
+  LinuxFileSystem disk{folder.path(), "/Users/ann"};
+  FaultingFileSystem faulting{disk};
+  Platform realPlatform{faulting, trash,      commands, defaults,
+                        volume,   formatting, info,     recentDocuments};
+  DiskCompositionEngine onDisk{realPlatform};
+  const Path music = "/Users/ann/Music";
+
+  DiskComposition measureFolder(const std::stop_token& stop = {}) {
+    return onDisk.measureDisk(stop, [](const std::string&, double) {});
+  }
+};
+
+TEST_F(CompositionOnDisk, AStopInsideAWalkEndsItAtTheNextEntry) {
+  for (const char* const name : {"a", "b", "c", "d"}) {
+    folder.makeFile(music / name, 1);
+    faulting.overlaySize(music / name, 10);
+  }
+  std::stop_source source;
+  for (const char* const name : {"a", "b", "c", "d"}) {
+    faulting.before(FaultingFileSystem::Operation::attributes, music / name,
+                    [&] { source.request_stop(); });
+  }
+  folder.makeFile("/Users/ann/Movies/a", 1'000);
+  const auto stopped = measureFolder(source.get_token());
+  ASSERT_THAT(ids(stopped), ElementsAre("music", "system"));
+  EXPECT_EQ(stopped.buckets[0].bytes, 10);
+  EXPECT_EQ(stopped.buckets[1].bytes, 300 * gigabyte - 10);
+  EXPECT_THAT(ids(measureFolder()), ElementsAre("music", "movies", "system"));
+}
+
+TEST_F(CompositionOnDisk, ALinkAsAPlaceAndLinksInsideOneAddNothing) {
+  folder.makeFile("/elsewhere/a", 100'000);
+  folder.makeLink("/Users/ann/Movies", folder.onDisk("/elsewhere"));
+  folder.makeLink(music / "out", folder.onDisk("/elsewhere"));
+  folder.makeLink(music / "loop", "..");
+  EXPECT_THAT(ids(measureFolder()), ElementsAre("system"));
+}
+
+TEST_F(CompositionOnDisk, ASparseFileOfATerabyteCountsByWhatIsAllocated) {
+  folder.makeSparseFile(music / "a", 1'000'000'000'000);
+  EXPECT_LT(onDisk.measure(music), 1'000'000);
+}
+
+TEST_F(CompositionOnDisk, AFolderThatVanishesAsItIsMeasuredIsNoBucket) {
+  folder.makeFile(music / "a", 1'000);
+  faulting.vanishBefore(FaultingFileSystem::Operation::walk, music);
+  EXPECT_THAT(ids(measureFolder()), ElementsAre("system"));
+}
+
+TEST_F(CompositionOnDisk, NamesOfAnyBytesAreCounted) {
+  for (const char* const name : {"not utf-8 \xff", "two\nlines", "-rf", "$(id)"}) {
+    folder.makeFile(music / name / "a", 1);
+    faulting.overlaySize(music / name / "a", 10);
+  }
+  EXPECT_EQ(onDisk.measure(music), 40);
+}
+
+TEST_F(CompositionOnDisk, SaysWhenItWasMeasured) {
+  const auto before = std::chrono::system_clock::now();
+  const auto measured = measureFolder().measuredAt;
+  EXPECT_GE(measured, before);
+  EXPECT_LE(measured, std::chrono::system_clock::now());
+}
+
+}  // namespace
+}  // namespace klarvik
