@@ -118,6 +118,8 @@ TEST_F(Probe, AnswersAUsageTextToWhatItDoesNotUnderstand) {
       command({"clean", "--everything"}),
       command({"residuals"}),
       command({"uninstall", "com.a", "com.b"}),
+      command({"duplicates", "1"}),
+      command({"duplicates", "1 MB", "/"}),
       command({"guard"}),
       command({"guard", "anything"}),
       command({"guard", "general", "identifier"}),
@@ -152,6 +154,17 @@ TEST_F(Probe, MeasuresAPath) {
   ASSERT_THAT(reports, SizeIs(1));
   EXPECT_EQ(reports[0]["path"], "/x");
   EXPECT_GE(reports[0]["size"], 100'000);
+}
+
+TEST_F(Probe, FindsDuplicatesAndPrintsEveryReport) {
+  disk.makeFile("/x/a", "content");
+  disk.makeFile("/y/\xff", "content");
+  const auto reports = run({"duplicates", "1", "/x", "/y"});
+  ASSERT_THAT(reports, SizeIs(6));
+  EXPECT_EQ(reports[4],
+            (json{{"event", "progress"}, {"fraction", 1.0}, {"groupsFound", 1}, {"line", "Done"}}));
+  EXPECT_EQ(reports[5]["reclaimableBytes"], 7);
+  EXPECT_THAT(reports[5]["files"], SizeIs(2));
 }
 
 TEST_F(Probe, ScansAndPrintsEveryUpdate) {

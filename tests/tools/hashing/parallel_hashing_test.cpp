@@ -1,0 +1,163 @@
+#include "tools/parallel_hashing.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <random>
+
+#include "platform/linux/linux_file_system.h"
+#include "support/faulting_file_system.h"
+#include "support/gate.h"
+#include "support/temporary_folder.h"
+#include "tools/duplicate_scanner.h"
+
+namespace klarvik {
+namespace {
+
+using testing::ElementsAre;
+using Operation = FaultingFileSystem::Operation;
+
+class ParallelHashingTest : public testing::Test {
+ protected:
+  /// What a scan shows of itself but for the identifiers, which are new each time.
+  struct Shown {
+    std::vector<DuplicateProgress> reports;
+    std::vector<std::string> groups;
+
+    bool operator==(const Shown&) const = default;
+  };
+
+  [[nodiscard]] static Shown scan(const FileSystem& files, std::size_t width) {
+    Shown shown;
+    const auto keep = [&](const DuplicateProgress& progress) { shown.reports.push_back(progress); };
+    for (const DuplicateGroup& group : DuplicateScanner(files, width).scan({"/"}, 0, keep)) {
+      std::string& text = shown.groups.emplace_back(group.hash);
+      for (const DuplicateFile& file : group.files) {
+        text += ' ' + file.url.native() + ' ' + std::to_string(file.size);
+      }
+    }
+    return shown;
+  }
+
+  /// Files of few sizes and fewer contents, in folders of up to three levels.
+  static void makeVariedTree(const TemporaryFolder& disk, unsigned seed) {
+    std::mt19937 random(seed);
+    for (int number = 0; number < 150; ++number) {
+      Path place = "/";
+      for (auto depth = random() % 4; depth > 0; --depth) place /= std::to_string(random() % 3);
+      const auto size = random() % 6 * 20'000;
+      disk.makeFile(place / ("file " + std::to_string(number)),
+                    std::string(size, static_cast<char>('a' + random() % 3)));
+    }
+  }
+
+  TemporaryFolder disk;
+  LinuxFileSystem real{disk.path(), "/Users/ann"};
+  FaultingFileSystem files{real};
+};
+
+TEST_F(ParallelHashingTest, GivesTheSameReportsAndGroupsOnOneCoreAndOnMany) {
+  for (const unsigned seed : {1U, 2U, 3U}) {
+    const TemporaryFolder tree;
+    makeVariedTree(tree, seed);
+    const LinuxFileSystem place(tree.path(), "/Users/ann");
+    const Shown oneByOne = scan(place, 1);
+    EXPECT_GT(oneByOne.groups.size(), 5U);
+    EXPECT_GT(oneByOne.reports.size(), 10U);
+    for (const std::size_t width : {2, 3, 8, 64}) EXPECT_EQ(scan(place, width), oneByOne);
+  }
+}
+
+TEST_F(ParallelHashingTest, HandsTheDigestsOutInTheOrderOfTheList) {
+  constexpr std::size_t count = 200;
+  std::vector<std::optional<Digest>> expected;
+  ContentHasher hasher;
+  for (std::size_t number = 0; number < count; ++number) {
+    const Path place = "/" + std::to_string(number);
+    if (number % 17 != 0) disk.makeFile(place, std::string(number * 997 % 50'000, 'x'));
+    expected.push_back(hasher.digest(real, place));
+    EXPECT_EQ(expected.back().has_value(), number % 17 != 0);
+  }
+  for (const std::size_t width : {1, 2, 5}) {
+    ParallelHashing hashing(
+        real, count, [](std::size_t number) { return Path("/" + std::to_string(number)); }, width);
+    for (const auto& digest : expected) EXPECT_EQ(hashing.next(), digest);
+  }
+}
+
+TEST_F(ParallelHashingTest, WhileOneFileTakesLongTheOthersAreHashedAndNoReportComesEarly) {
+  constexpr int count = 35;
+  for (int number = 0; number < count; ++number) {
+    disk.makeFile("/" + std::to_string(number), "content " + std::to_string(10 + number));
+  }
+  disk.makeFile("/large", std::string(100, 'x'));
+  disk.makeFile("/large too", std::string(100, 'x'));
+
+  std::mutex guardsReported;
+  std::size_t reported = 0;
+  std::size_t reportedMeanwhile = 0;
+  std::atomic<int> opened = 0;
+  Gate gate;
+  gate.close();
+  files.before(Operation::openForReading, "/large", [&] { gate.pass(); });
+  for (int number = 0; number < count; ++number) {
+    files.before(Operation::openForReading, "/" + std::to_string(number), [&] {
+      if (++opened < count) return;
+      const std::scoped_lock lock(guardsReported);
+      reportedMeanwhile = reported;
+      gate.open();
+    });
+  }
+  const auto groups = DuplicateScanner(files, 2).scan({"/"}, 1, [&](const DuplicateProgress&) {
+    const std::scoped_lock lock(guardsReported);
+    ++reported;
+  });
+  EXPECT_EQ(groups.size(), 1U);
+  EXPECT_EQ(reported, 8U);
+  EXPECT_LE(reportedMeanwhile, 3U);
+}
+
+TEST_F(ParallelHashingTest, TheLargestFilesAreHashedFirst) {
+  std::vector<std::string> opened;
+  for (const int size : {2, 9, 5}) {
+    for (const char* name : {"a", "b"}) {
+      const Path place = "/" + std::to_string(size) + name;
+      disk.makeFile(place, std::string(static_cast<std::size_t>(size), 'x'));
+      files.before(Operation::openForReading, place,
+                   [&opened, size] { opened.push_back(std::to_string(size)); });
+    }
+  }
+  EXPECT_EQ(scan(files, 1).groups.size(), 3U);
+  EXPECT_THAT(opened, ElementsAre("9", "9", "5", "5", "2", "2"));
+}
+
+TEST_F(ParallelHashingTest, MayBeGivenUpBeforeItsEnd) {
+  for (int number = 0; number < 50; ++number) {
+    disk.makeFile("/" + std::to_string(number), std::string(10'000, 'x'));
+  }
+  ParallelHashing hashing(
+      real, 50, [](std::size_t number) { return Path("/" + std::to_string(number)); }, 4);
+  EXPECT_TRUE(hashing.next());
+}
+
+TEST_F(ParallelHashingTest, OneScannerScansForOneCallerAfterTheOther) {
+  makeVariedTree(disk, 4);
+  DuplicateScanner scanner(real, 2);
+  std::atomic<int> scanning = 0;
+  std::atomic<bool> together = false;
+  const auto run = [&] {
+    static_cast<void>(scanner.scan({"/"}, 0, [&](const DuplicateProgress& progress) {
+      if (progress.fraction == 0.05 && ++scanning > 1) together = true;
+      if (progress.fraction == 1.0) --scanning;
+    }));
+  };
+  {
+    const std::jthread first(run);
+    const std::jthread second(run);
+  }
+  EXPECT_FALSE(together);
+}
+
+}  // namespace
+}  // namespace klarvik
