@@ -5,7 +5,8 @@ import shutil
 
 from harness import run
 
-BUILD = pathlib.Path(__file__).resolve().parents[1] / "build/release/bin"
+ROOT = pathlib.Path(__file__).resolve().parents[1]
+BUILD = ROOT / "build/release/bin"
 
 
 def make_tree(folder, files):
