@@ -74,8 +74,15 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
                              _shared.scanCoordinator(), _shared.toolActivity(),
                              _shared.navigator()},
       _desktop);
+  _uninstaller = std::make_unique<AppUninstallerView>(
+      AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                                  _shared.navigator()},
+      _desktop);
   return {
-      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()}};
+      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()},
+      {Section::uninstaller, QUrl("qrc:/Klarvik/Uninstaller/AppUninstallerView.qml"),
+       _uninstaller.get(), [this] { _uninstaller->appear(); },
+       [this] { _uninstaller->finishRemovals(); }}};
 }
 
 QCoro::Task<> KlarvikApp::launch() {

@@ -12,6 +12,8 @@ Pressable {
     pressableEnabled: root.isEnabled
     implicitWidth: Math.max(72, label.implicitWidth + 28)
     implicitHeight: 30
+    leftPadding: 10
+    rightPadding: 10
 
     background: Rectangle {
         radius: Theme.cornerRadius
@@ -33,5 +35,6 @@ Pressable {
         color: Theme.onAccent
         opacity: root.isEnabled ? 1.0 : 0.6
         horizontalAlignment: Text.AlignHCenter
+        elide: Text.ElideMiddle
     }
 }

@@ -78,6 +78,7 @@ Rectangle {
 
         PrimaryButton {
             objectName: "mainButton"
+            Layout.maximumWidth: Math.max(72, root.width / 2)
             title: root.shown.buttonLabel
             isEnabled: root.shown.buttonEnabled
             onAction: root.action()

@@ -1,0 +1,104 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.Uninstaller
+
+/// The Uninstaller section: every application, or the opened one with what it left behind.
+ToolPane {
+    id: root
+
+    required property AppUninstallerModel model
+
+    readonly property placeholder instead: model.placeholder
+    readonly property list<ColumnSpec> appColumns: [
+        ColumnSpec {
+            title: qsTr("BUNDLE")
+        },
+        ColumnSpec {
+            title: qsTr("TOTAL")
+            width: UninstallerMetrics.sizeWidth
+            alignment: Qt.AlignRight
+        }
+    ]
+    readonly property list<ColumnSpec> leftoverColumns: [
+        ColumnSpec {
+            title: qsTr("LEFTOVER")
+        },
+        ColumnSpec {
+            title: qsTr("WHAT IT IS")
+            width: UninstallerMetrics.whatItIsWidth
+        },
+        ColumnSpec {
+            title: qsTr("SIZE")
+            width: UninstallerMetrics.sizeWidth
+            alignment: Qt.AlignRight
+        }
+    ]
+
+    title: model.title
+    subtitle: model.subtitle
+    hasAction: false
+    isBusy: model.isUninstalling
+    columns: model.isDetail ? leftoverColumns : appColumns
+
+    filters: FilterBar {
+        SearchField {
+            visible: !root.model.isDetail
+            placeholder: qsTr("Search apps")
+            text: root.model.searchText
+            onEdited: text => root.model.searchText = text
+        }
+
+        FilterLabel {
+            visible: !root.model.isDetail
+            text: qsTr("Sorted by total size")
+        }
+
+        FilterChip {
+            id: backChip
+
+            visible: root.model.isDetail
+            title: qsTr("All apps")
+            help: qsTr("Back to the list of all apps")
+            pressableEnabled: !root.model.isUninstalling
+            onAction: {
+                root.model.showAllApps();
+                apps.takeFocus();
+            }
+        }
+    }
+
+    AppTable {
+        id: apps
+
+        anchors.fill: parent
+        visible: !root.model.isDetail && !root.instead.isShown
+        model: root.model
+        onOpenedByKey: backChip.forceActiveFocus(Qt.OtherFocusReason)
+    }
+
+    LeftoverTable {
+        anchors.fill: parent
+        visible: root.model.isDetail && !root.instead.isShown
+        model: root.model
+    }
+
+    ToolPlaceholder {
+        visible: root.instead.isShown
+        isBusy: root.instead.isBusy
+        icon: root.instead.icon
+        title: root.instead.title
+        detail: root.instead.detail
+    }
+
+    footer: ToolFooter {
+        visible: root.model.isDetail
+        selectionSummary: root.model.selectionSummary
+        explanation: root.model.selectionHint
+        buttonTitle: root.model.title
+        isEnabled: root.model.canUninstall
+        isBusy: root.model.isUninstalling
+        onAction: root.model.uninstall()
+    }
+}

@@ -1,0 +1,227 @@
+#include "panes/uninstaller/app_uninstaller_view.h"
+
+#include <chrono>
+#include <string>
+#include <utility>
+
+#include "core/junk_model.h"
+#include "panes/uninstaller/uninstaller_texts.h"
+#include "state/section.h"
+#include "tools/uninstaller_engine.h"
+
+namespace klarvik {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// After this long the list is read anew when the user comes back to it.
+constexpr auto freshness = 300s;
+
+const std::string key{rawValue(Section::uninstaller)};
+
+}  // namespace
+
+AppUninstallerView::AppUninstallerView(const Sources& sources, const Desktop& desktop,
+                                       QObject* parent)
+    : QObject(parent),
+      _coordinator(sources.coordinator),
+      _activity(sources.activity),
+      _navigator(sources.navigator),
+      _desktop(desktop),
+      _appList(desktop.formatting),
+      _leftoverList(desktop.formatting) {
+  connect(&_navigator, &Navigator::sectionChanged, this, &AppUninstallerView::sectionChanged);
+  connect(&_leftoverList, &LeftoverList::selectionChanged, this,
+          &AppUninstallerView::selectionChanged);
+}
+
+AppUninstallerView::~AppUninstallerView() {
+  _stop.request_stop();
+  _loadTask.request_stop();
+  _findTask.request_stop();
+  _removals.finish();
+  _readings.finish();
+}
+
+void AppUninstallerView::setSearchText(const QString& searchText) {
+  if (_appList.searchText() == searchText) return;
+  _appList.setSearchText(searchText);
+  emit searchTextChanged();
+  emit stateChanged();
+}
+
+QString AppUninstallerView::title() const {
+  return _selectedApp ? uninstaller::uninstallTitle(_selectedApp->name)
+                      : QStringLiteral("Uninstaller");
+}
+
+QString AppUninstallerView::subtitle() const {
+  if (!_selectedApp) {
+    return uninstaller::listSubtitle(_isWaitingForTurn, _isLoading, apps().size());
+  }
+  return uninstaller::detailSubtitle(residuals().size(),
+                                     addBytes(_selectedApp->appSize, _leftoverList.totalSize()),
+                                     _desktop.formatting);
+}
+
+Placeholder AppUninstallerView::placeholder() const {
+  return _selectedApp ? detailPlaceholder() : listPlaceholder();
+}
+
+Placeholder AppUninstallerView::listPlaceholder() const {
+  if (_isWaitingForTurn) {
+    return Placeholder::busy(
+        QStringLiteral("Waiting for the disk"),
+        QStringLiteral("Another tool is measuring. Open this pane and Klarvik reads your "
+                       "applications straight away."));
+  }
+  if (_isLoading) {
+    return Placeholder::busy(
+        QStringLiteral("Reading applications"),
+        QStringLiteral("Measuring every app in /Applications and ~/Applications."));
+  }
+  if (!_hasLoaded || _appList.rowCount() > 0) return {};
+  if (apps().empty()) {
+    return Placeholder::idle(QStringLiteral("square.dashed"), QStringLiteral("No apps"),
+                             QStringLiteral("Nothing found in /Applications."));
+  }
+  return Placeholder::idle(QStringLiteral("magnifyingglass"), QStringLiteral("No apps match"),
+                           uninstaller::noMatch(searchText()));
+}
+
+Placeholder AppUninstallerView::detailPlaceholder() const {
+  if (_isFindingResiduals) {
+    return Placeholder::busy(
+        QStringLiteral("Looking for leftovers"),
+        QStringLiteral("Checking Preferences, Caches, Application Support, Containers and Logs."));
+  }
+  if (!residuals().empty()) return {};
+  return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("No leftovers"),
+                           uninstaller::noLeftovers(_selectedApp->name));
+}
+
+bool AppUninstallerView::canUninstall() const {
+  return _selectedApp.has_value() && !_isFindingResiduals && !_isUninstalling;
+}
+
+QString AppUninstallerView::selectionSummary() const {
+  return uninstaller::selectionSummary(_leftoverList.selectedSize(), selectedResiduals().size(),
+                                       residuals().size(), _desktop.formatting);
+}
+
+QString AppUninstallerView::selectionHint() const {
+  return uninstaller::selectionHint(selectedResiduals().size(), residuals().size());
+}
+
+QCoro::Task<> AppUninstallerView::appear() {
+  if (!needsReading()) co_return;
+  const std::stop_token stop = _stop.get_token();
+  setIsWaitingForTurn(true);
+  const bool hasTurn = co_await _coordinator.beginAutoScan(key, stop);
+  // Whoever waits for a turn may outlive the pane.
+  if (stop.stop_requested()) co_return;
+  setIsWaitingForTurn(false);
+  if (!hasTurn) co_return;
+  if (needsReading()) readApps();
+  co_await holdTurn(
+      _coordinator, _desktop.clock, [this] { return !_isLoading; }, stop);
+}
+
+/// Whoever looks at the pane is not kept waiting for a turn.
+void AppUninstallerView::sectionChanged() {
+  if (_navigator.section() != Section::uninstaller || _isLoading) return;
+  const bool isStale = _loadedAt && _desktop.clock.now() - *_loadedAt > freshness;
+  if (_hasLoaded && !isStale) return;
+  setIsWaitingForTurn(false);
+  readApps();
+}
+
+void AppUninstallerView::setIsWaitingForTurn(bool isWaiting) {
+  if (std::exchange(_isWaitingForTurn, isWaiting) != isWaiting) emit stateChanged();
+}
+
+QCoro::Task<> AppUninstallerView::readApps() {
+  _isLoading = true;
+  _loadTask = std::stop_source();
+  emit stateChanged();
+  _activity.start(key);
+
+  UninstallerEngine engine(_desktop);
+  const std::stop_token stop = _loadTask.get_token();
+  std::vector<AppInfo> read =
+      co_await onEngineThread(_readings, [&engine] { return engine.listApps(); });
+  if (stop.stop_requested()) co_return;
+
+  _appList.setApps(std::move(read));
+  _isLoading = false;
+  _hasLoaded = true;
+  _loadedAt = _desktop.clock.now();
+  emit stateChanged();
+  std::int64_t bytes = 0;
+  for (const AppInfo& app : apps()) bytes = addBytes(bytes, app.appSize);
+  _activity.finish(key, std::to_string(apps().size()) + " apps");
+  _coordinator.setTotal(key, {bytes, static_cast<std::int64_t>(apps().size()), *_loadedAt});
+}
+
+void AppUninstallerView::open(int row) {
+  const AppInfo* app = _appList.appAt(row);
+  if (app == nullptr || _isUninstalling) return;
+  _leftoverList.clear();
+  _selectedApp = *app;
+  findResiduals(*app);
+  emit levelChanged();
+}
+
+QCoro::Task<> AppUninstallerView::findResiduals(AppInfo app) {
+  _findTask.request_stop();
+  _findTask = std::stop_source();
+  _isFindingResiduals = true;
+  emit stateChanged();
+
+  UninstallerEngine engine(_desktop);
+  const std::stop_token stop = _findTask.get_token();
+  std::vector<ResidualFile> found =
+      co_await onEngineThread(_readings, [&] { return engine.findResiduals(app); });
+  if (stop.stop_requested()) co_return;
+
+  _leftoverList.show(std::move(found));
+  _isFindingResiduals = false;
+  emit stateChanged();
+}
+
+void AppUninstallerView::showAllApps() {
+  if (!_selectedApp || _isUninstalling) return;
+  closeDetail();
+}
+
+void AppUninstallerView::toggleLeftover(int row) {
+  if (!_isUninstalling) _leftoverList.toggle(row);
+}
+
+void AppUninstallerView::uninstall() {
+  if (canUninstall()) remove(*_selectedApp, _leftoverList.selectedResiduals());
+}
+
+QCoro::Task<> AppUninstallerView::remove(AppInfo app, std::vector<ResidualFile> residuals) {
+  _isUninstalling = true;
+  emit stateChanged();
+
+  UninstallerEngine engine(_desktop);
+  co_await onEngineThread(_removals, [&] { return engine.uninstall(app, residuals); });
+
+  _appList.remove(app.appURL);
+  _isUninstalling = false;
+  closeDetail();
+  _desktop.notifications.post(diskChangedNotification);
+}
+
+void AppUninstallerView::closeDetail() {
+  _findTask.request_stop();
+  _isFindingResiduals = false;
+  _leftoverList.clear();
+  _selectedApp.reset();
+  emit levelChanged();
+  emit stateChanged();
+}
+
+}  // namespace klarvik

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "platform/formatting.h"
+#include "tools/app_info.h"
+
+/// The texts of the Uninstaller pane that follow a rule. Names of applications are handed over as
+/// the disk has them, and come back printable.
+namespace klarvik::uninstaller {
+
+[[nodiscard]] QString listSubtitle(bool isWaitingForTurn, bool isLoading, std::size_t appCount);
+[[nodiscard]] QString detailSubtitle(std::size_t residualCount, std::int64_t totalBytes,
+                                     const Formatting& formatting);
+/// The title of the detail level, and of the button that does it.
+[[nodiscard]] QString uninstallTitle(std::string_view appName);
+[[nodiscard]] QString whatItIs(ResidualCategory category);
+
+[[nodiscard]] QString noLeftovers(std::string_view appName);
+[[nodiscard]] QString noMatch(const QString& searchText);
+
+[[nodiscard]] QString selectionSummary(std::int64_t selectedBytes, std::size_t selectedCount,
+                                       std::size_t residualCount, const Formatting& formatting);
+[[nodiscard]] QString selectionHint(std::size_t selectedCount, std::size_t residualCount);
+
+}  // namespace klarvik::uninstaller

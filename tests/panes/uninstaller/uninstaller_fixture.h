@@ -1,0 +1,137 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "panes/uninstaller/app_uninstaller_view.h"
+#include "state/shared_state.h"
+#include "support/desktop_on_disk.h"
+#include "support/faulting_file_system.h"
+
+namespace klarvik {
+
+/// An Uninstaller pane over a real disk, in a program of its own with a main loop. The engine can
+/// be held up at any folder that it lists.
+class UninstallerFixture : public ::testing::Test {
+ protected:
+  using Operation = FaultingFileSystem::Operation;
+  static constexpr std::int64_t kilobyte = 1'000;
+
+  UninstallerFixture() {
+    view.emplace(AppUninstallerView::Sources{shared.scanCoordinator(), shared.toolActivity(),
+                                             shared.navigator()},
+                 desktop);
+  }
+  ~UninstallerFixture() override { gate.open(); }
+
+  void addApp(const std::string& name, const std::string& bundleID, std::int64_t bytes,
+              const Path& folder = "/Applications") const {
+    const Path contents = folder / (name + ".app") / "Contents";
+    desk.disk.makeFile(contents / "Info.plist",
+                       "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key><string>" +
+                           bundleID + "</string></dict></plist>");
+    desk.disk.makeFile(contents / "MacOS/program", bytes);
+  }
+  /// Below the Library folder of the home.
+  void addLeftover(const std::string& place, std::int64_t bytes) const {
+    desk.disk.makeFile(desk.files.home() / "Library" / place, bytes);
+  }
+  [[nodiscard]] bool libraryHolds(const std::string& place) const {
+    return desk.disk.holds(desk.files.home() / "Library" / place);
+  }
+  [[nodiscard]] std::size_t trashCount() {
+    return desk.desktop.trash.list().value_or(std::vector<Path>{}).size();
+  }
+
+  /// Whoever lists the folder next waits until the gate opens.
+  void holdAt(const Path& folder) {
+    gate.close();
+    files.before(Operation::list, folder, [this] { gate.pass(); });
+  }
+  [[nodiscard]] bool isHeld() {
+    return turnUntil([this] { return gate.waiting() == 1; });
+  }
+
+  /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
+  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
+    const QDeadlineTimer giveUp(60'000);
+    while (!reached()) {
+      if (giveUp.hasExpired()) return false;
+      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+      desk.clock.advance(std::chrono::milliseconds(1));
+    }
+    return true;
+  }
+
+  void navigateTo(Section section) { shared.navigator().setSection(section); }
+  void comeBack() {
+    navigateTo(Section::smartScan);
+    navigateTo(Section::uninstaller);
+  }
+  [[nodiscard]] bool readByNavigating() {
+    navigateTo(Section::uninstaller);
+    return turnUntil([this] { return view->hasLoaded(); });
+  }
+  [[nodiscard]] bool open(const std::string& name) {
+    for (int row = 0; row < view->appList()->rowCount(); ++row) {
+      if (view->appList()->appAt(row)->name != name) continue;
+      view->open(row);
+      return turnUntil([this] { return !view->isFindingResiduals(); });
+    }
+    return false;
+  }
+  [[nodiscard]] bool uninstall() {
+    view->uninstall();
+    return turnUntil([this] { return !view->isUninstalling(); });
+  }
+
+  QStringList names() {
+    QStringList shown;
+    for (int row = 0; row < view->appList()->rowCount(); ++row) {
+      shown << view->appList()->index(row).data(AppList::NameRole).toString();
+    }
+    return shown;
+  }
+  QVariant leftover(int row, LeftoverList::Role role) {
+    return view->leftoverList()->index(row).data(role);
+  }
+  /// Headings stand between brackets.
+  QStringList leftoverNames() {
+    QStringList shown;
+    for (int row = 0; row < view->leftoverList()->rowCount(); ++row) {
+      const QString name = leftover(row, LeftoverList::NameRole).toString();
+      const bool isHeading = leftover(row, LeftoverList::KindRole).toInt() ==
+                             static_cast<int>(LeftoverList::RowKind::Heading);
+      shown << (isHeading ? "[" + name + "]" : name);
+    }
+    return shown;
+  }
+  [[nodiscard]] int leftoverRow(const QString& name) {
+    return static_cast<int>(leftoverNames().indexOf(name));
+  }
+
+ private:
+  int _count = 1;
+  char _name[6] = "tests";
+  char* _arguments[2] = {_name, nullptr};
+  QCoreApplication _application{_count, _arguments};
+
+ protected:
+  DesktopOnDisk desk;
+  Gate gate;
+  FaultingFileSystem files{desk.files};
+  Desktop desktop{{files, desk.desktop.trash, desk.desktop.commands, desk.defaults, desk.volume,
+                   desk.formatting, desk.info},
+                  desk.clock,
+                  desk.notifications,
+                  desk.workspace};
+  SharedState shared{desktop};
+  std::optional<AppUninstallerView> view;
+};
+
+}  // namespace klarvik
