@@ -43,6 +43,8 @@ ToolPane {
     columns: model.isDetail ? leftoverColumns : appColumns
 
     filters: FilterBar {
+        implicitHeight: UninstallerMetrics.filterHeight
+
         SearchField {
             visible: !root.model.isDetail
             placeholder: qsTr("Search apps")

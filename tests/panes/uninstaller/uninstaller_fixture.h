@@ -126,10 +126,11 @@ class UninstallerFixture : public ::testing::Test {
   Gate gate;
   FaultingFileSystem files{desk.files};
   Desktop desktop{{files, desk.desktop.trash, desk.desktop.commands, desk.defaults, desk.volume,
-                   desk.formatting, desk.info},
+                   desk.formatting, desk.info, desk.recentDocuments},
                   desk.clock,
                   desk.notifications,
-                  desk.workspace};
+                  desk.workspace,
+                  desk.pasteboard};
   SharedState shared{desktop};
   std::optional<AppUninstallerView> view;
 };
