@@ -1,0 +1,97 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.LargeFiles
+
+/// The Large Files section: a list that grows while the home is walked, and a footer to move what
+/// is picked to the Trash.
+ToolPane {
+    id: root
+
+    required property LargeFileFinderModel model
+
+    title: model.title
+    subtitle: model.subtitle
+    actionTitle: model.actionTitle
+    isBusy: model.isScanning
+    rowsShowLoader: true
+    columns: [
+        ColumnSpec { title: qsTr("FILE") },
+        ColumnSpec { title: qsTr("KIND"); width: TableMetrics.kindWidth },
+        ColumnSpec { title: qsTr("LAST OPENED"); width: TableMetrics.lastOpenedWidth },
+        ColumnSpec { title: qsTr("SIZE"); width: TableMetrics.sizeWidth; alignment: Qt.AlignRight }
+    ]
+    onAction: model.performAction()
+
+    filters: FilterBar {
+        FilterLabel { text: qsTr("Over") }
+
+        FilterMenu {
+            entries: root.model.thresholds
+            currentIndex: root.model.thresholdIndex
+            onChosen: index => root.model.chooseThreshold(index)
+        }
+
+        FilterDivider {}
+
+        FilterChip {
+            title: qsTr("All kinds")
+            isSelected: root.model.activeKind === ""
+            onAction: root.model.showAllKinds()
+        }
+
+        // One for each place, so that a chip with the focus keeps it while kinds are found.
+        Repeater {
+            model: 4
+
+            FilterChip {
+                required property int index
+
+                visible: index < root.model.kinds.length
+                title: root.model.kinds[index] ?? ""
+                isSelected: visible && title === root.model.activeKind
+                onAction: root.model.toggleKind(title)
+            }
+        }
+
+        FilterDivider {}
+
+        FilterMenu {
+            entries: root.model.sorts
+            currentIndex: root.model.sortIndex
+            onChosen: index => root.model.chooseSort(index)
+        }
+    }
+
+    LargeFileTable {
+        visible: root.model.body === LargeFileFinderModel.Rows
+        model: root.model
+    }
+
+    LoadingPane {
+        visible: root.model.body === LargeFileFinderModel.Measuring
+        title: root.model.placeholderTitle
+        detail: root.model.placeholderDetail
+        style: LoadingStyle.Reading
+    }
+
+    ToolPlaceholder {
+        visible: root.model.body === LargeFileFinderModel.Placeholder
+        icon: root.model.placeholderIcon
+        title: root.model.placeholderTitle
+        detail: root.model.placeholderDetail
+    }
+
+    footer: ToolFooter {
+        selectionSummary: root.model.selectionSummary
+        explanation: root.model.footerHint
+        buttonTitle: root.model.trashButtonTitle
+        isEnabled: root.model.canTrash
+        isBusy: root.model.isDeleting
+        progress: root.model.deleteProgress
+        canStop: true
+        onAction: root.model.trashSelected()
+        onStop: root.model.stopTrashing()
+    }
+}

@@ -1,0 +1,353 @@
+#include "panes/large_files/large_file_finder_view.h"
+
+#include <QPointer>
+#include <algorithm>
+#include <chrono>
+#include <iterator>
+#include <numeric>
+#include <utility>
+
+#include "state/change_to.h"
+#include "state/report_mailbox.h"
+#include "state/section.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::int64_t bytesPerMegabyte = 1'048'576;
+
+constexpr std::array sortOrders{LargeFileSort::size, LargeFileSort::date, LargeFileSort::name};
+
+const std::string& toolKey() {
+  static const std::string key(rawValue(Section::largeFiles));
+  return key;
+}
+
+template <typename Choices, typename Choice>
+int indexIn(const Choices& choices, const Choice& choice) {
+  return static_cast<int>(
+      std::distance(choices.begin(), std::find(choices.begin(), choices.end(), choice)));
+}
+
+std::vector<PickedFile> picked(const LargeFileList& files) {
+  std::vector<PickedFile> all;
+  all.reserve(files.size());
+  std::ranges::transform(files, std::back_inserter(all), [](const auto& file) {
+    return PickedFile{file->url, file->url.filename().native(), file->size};
+  });
+  return all;
+}
+
+}  // namespace
+
+LargeFileFinderView::LargeFileFinderView(const Sources& sources, const Desktop& desktop,
+                                         QObject* parent)
+    : QObject(parent),
+      _coordinator(sources.coordinator),
+      _activity(sources.activity),
+      _permissions(sources.permissions),
+      _desktop(desktop),
+      _rows(_selected, desktop),
+      _removal(desktop) {
+  connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
+          &LargeFileFinderView::bodyChanged);
+  connect(&_removal, &PickedFilesRemoval::changed, this, &LargeFileFinderView::deletionChanged);
+}
+
+LargeFileFinderView::~LargeFileFinderView() {
+  _lifetime.request_stop();
+  if (_scanTask) _scanTask->request_stop();
+  ++_scansStarted;  // what the walk brings now is nobody's
+  _removal.finish();
+  _work.finish();
+}
+
+LargeFileList LargeFileFinderView::selectedFiles() const {
+  LargeFileList files;
+  std::ranges::copy_if(*_files, std::back_inserter(files),
+                       [this](const auto& file) { return _selected.contains(file->id); });
+  return files;
+}
+
+QString LargeFileFinderView::title() const {
+  return QStringLiteral("Large Files");
+}
+
+QString LargeFileFinderView::subtitle() const {
+  if (_isScanning) return large_files::scanningSubtitle(_currentPath);
+  return _hasScanned ? large_files::foundSubtitle(_files->size(), _thresholdMB)
+                     : large_files::unscannedSubtitle();
+}
+
+QString LargeFileFinderView::actionTitle() const {
+  return QStringLiteral("Rescan");
+}
+
+LargeFileFinderView::Body LargeFileFinderView::body() const {
+  if (!_files->empty()) return Body::Rows;
+  return _isScanning ? Body::Measuring : Body::Placeholder;
+}
+
+large_files::Placeholder LargeFileFinderView::placeholder() const {
+  if (_isScanning) return large_files::measuring();
+  return _hasScanned ? large_files::nothingFound(_thresholdMB)
+                     : large_files::notScanned(_permissions.hasFullDiskAccess());
+}
+
+QStringList LargeFileFinderView::thresholds() const {
+  QStringList texts;
+  for (const double step : thresholdSteps) texts << large_files::thresholdText(step);
+  return texts;
+}
+
+int LargeFileFinderView::thresholdIndex() const {
+  return indexIn(thresholdSteps, _thresholdMB);
+}
+
+QStringList LargeFileFinderView::sorts() const {
+  QStringList labels;
+  for (const Sort sort : sortOrders) labels << QString::fromStdString(std::string(label(sort)));
+  return labels;
+}
+
+int LargeFileFinderView::sortIndex() const {
+  return indexIn(sortOrders, _view.sort);
+}
+
+QString LargeFileFinderView::activeKind() const {
+  return QString::fromStdString(_view.kind.value_or(""));
+}
+
+QString LargeFileFinderView::selectionSummary() const {
+  return large_files::selectionSummary(_selectedBytes, _selected.size(), _desktop.formatting);
+}
+
+QString LargeFileFinderView::trashButtonTitle() const {
+  return large_files::trashButtonTitle(_selectedBytes, _desktop.formatting);
+}
+
+QString LargeFileFinderView::footerHint() const {
+  return large_files::footerHint();
+}
+
+void LargeFileFinderView::appear() {
+  if (_isScanning || _hasScanned) return;
+  _permissions.refreshAccess();
+  if (!_permissions.hasFullDiskAccess()) return;
+  runAutoScan(_coordinator, _desktop.clock,
+              {.key = toolKey(),
+               .isNeeded = [this] { return !_isScanning && !_hasScanned; },
+               .start = [this] { startScan(); },
+               .isRunning = [this] { return _isScanning; }},
+              _lifetime.get_token());
+}
+
+void LargeFileFinderView::finishRemovals() {
+  _removal.finish();
+}
+
+void LargeFileFinderView::performAction() {
+  if (_isScanning) return stopScan();
+  _permissions.ensureAccess([pane = QPointer(this)] {
+    if (pane) pane->startScan();
+  });
+}
+
+void LargeFileFinderView::startScan() {
+  // The prompt may have ended after a scan was started another way.
+  if (_isScanning) return;
+  _currentPath.clear();
+  setScanning(true, _hasScanned);
+  setFiles({});
+  clearSelection();
+  _trashed.clear();
+  _progress = 0;
+  _activity.start(toolKey());
+  scan(++_scansStarted, _scanTask.emplace().get_token());
+}
+
+/// The walk ends at its next look at the stop, and still brings what it found.
+void LargeFileFinderView::stopScan() {
+  _scanTask->request_stop();
+  _scanTask.reset();
+  setScanning(false, true);
+  _activity.clear(toolKey());
+}
+
+QCoro::Task<> LargeFileFinderView::scan(std::uint64_t number, std::stop_token stop) {
+  const std::int64_t thresholdBytes = static_cast<std::int64_t>(_thresholdMB) * bytesPerMegabyte;
+  ReportMailbox<LargeFileUpdate> reports(
+      _desktop.clock,
+      [this, stop](LargeFileUpdate update) {
+        if (!stop.stop_requested()) scanMovedOn(std::move(update));
+      },
+      [](const LargeFileUpdate&, const LargeFileUpdate&) { return true; });
+  const LargeFileWalker walker(_desktop.files);
+  auto walk = [&walker, &reports, thresholdBytes, stop] {
+    return walker.walk(thresholdBytes, stop,
+                       [&](const LargeFileUpdate& update) { reports.post(update); });
+  };
+  LargeFileList files = co_await onEngineThread(_work, std::move(walk));
+  if (number == _scansStarted) scanFinished(std::move(files));
+}
+
+void LargeFileFinderView::scanMovedOn(LargeFileUpdate update) {
+  _progress = update.fraction;
+  _currentPath = std::move(update.currentName);
+  setFiles(std::move(update.files));
+  _activity.setProgress(toolKey(), _progress);
+  emit subtitleChanged();
+}
+
+void LargeFileFinderView::scanFinished(LargeFileList files) {
+  _scanTask.reset();
+  _progress = 1;
+  setFiles(std::move(files));
+  setScanning(false, true);
+  _activity.finish(toolKey(), large_files::finishedSummary(_files->size()));
+  writeTotal();
+}
+
+void LargeFileFinderView::setScanning(bool isScanning, bool hasScanned) {
+  const bool isOther = changeTo(_isScanning, isScanning);
+  if (!changeTo(_hasScanned, hasScanned) && !isOther) return;
+  emit isScanningChanged();
+  emit subtitleChanged();
+  emit bodyChanged();
+}
+
+void LargeFileFinderView::setFiles(LargeFileList files) {
+  std::erase_if(files, [this](const auto& file) {
+    return !_trashed.empty() && _trashed.contains(file->url.native());
+  });
+  if (files == *_files) return;
+  const Body before = body();
+  _files = std::make_shared<const LargeFileList>(std::move(files));
+  if (body() != before) emit bodyChanged();
+  if (!_isScanning) emit subtitleChanged();
+  if (!_minute) keepDatesFresh();
+  arrangeRows();
+}
+
+void LargeFileFinderView::setView(FileView view) {
+  _view = std::move(view);
+  arrangeRows();
+}
+
+QCoro::Task<> LargeFileFinderView::arrangeRows() {
+  _areRowsStale = true;
+  if (std::exchange(_isArranging, true)) co_return;
+  while (std::exchange(_areRowsStale, false)) {
+    const bool isOtherView = _arrangedView != _view;
+    _arrangedView = _view;
+    auto work = [files = _files, view = _view, &rows = _rows.files(),
+                 inSight = isOtherView ? RowsInSight{} : _rows.inSight(),
+                 &formatting = _desktop.formatting] {
+      return arrange(*files, view, rows, inSight, formatting);
+    };
+    RowArrangement arrangement = co_await onEngineThread(_work, std::move(work));
+    setKinds(arrangement.kinds);
+    _work.discard(_rows.apply(std::move(arrangement)));
+    if (isOtherView) emit viewChanged();
+  }
+  _isArranging = false;
+}
+
+void LargeFileFinderView::setKinds(const std::vector<std::string_view>& kinds) {
+  QStringList names;
+  for (const std::string_view kind : kinds) names << QString::fromStdString(std::string(kind));
+  if (changeTo(_kinds, names)) emit kindsChanged();
+}
+
+void LargeFileFinderView::keepDatesFresh() {
+  if (_files->empty()) return _minute.reset();
+  _minute = _desktop.clock.wakeAfter(std::chrono::minutes(1), [this] {
+    _rows.refreshDates();
+    keepDatesFresh();
+  });
+}
+
+void LargeFileFinderView::chooseThreshold(int index) {
+  if (changeTo(_thresholdMB, thresholdSteps.at(static_cast<std::size_t>(index)))) {
+    emit thresholdChanged();
+    emit subtitleChanged();
+    emit bodyChanged();
+  }
+}
+
+void LargeFileFinderView::chooseSort(int index) {
+  const Sort sort = sortOrders.at(static_cast<std::size_t>(index));
+  if (sort == _view.sort) return;
+  setView({_view.kind, sort});
+  emit sortChanged();
+}
+
+void LargeFileFinderView::toggleKind(const QString& kind) {
+  if (kind == activeKind()) return showAllKinds();
+  setView({kind.toStdString(), _view.sort});
+  emit kindFilterChanged();
+}
+
+void LargeFileFinderView::showAllKinds() {
+  if (!_view.kind) return;
+  setView({std::nullopt, _view.sort});
+  emit kindFilterChanged();
+}
+
+void LargeFileFinderView::toggleSelection(int row) {
+  if (row < 0 || row >= _rows.rowCount()) return;
+  const auto& file = _rows.files()[static_cast<std::size_t>(row)];
+  // The rows come a moment after the files, and may still show one that is gone.
+  if (std::ranges::find(*_files, file) == _files->end()) return;
+  if (_selected.insert(file->id).second) {
+    _selectedBytes += file->size;
+  } else {
+    _selected.erase(file->id);
+    _selectedBytes -= file->size;
+  }
+  _rows.selectionChanged(row);
+  emit selectionChanged();
+}
+
+void LargeFileFinderView::clearSelection() {
+  if (_selected.empty()) return;
+  _selected.clear();
+  _selectedBytes = 0;
+  emit selectionChanged();
+}
+
+void LargeFileFinderView::trashSelected() {
+  if (!_selected.empty() && !isDeleting()) moveSelectedToTrash();
+}
+
+void LargeFileFinderView::stopTrashing() {
+  _removal.cancel();
+}
+
+QCoro::Task<> LargeFileFinderView::moveSelectedToTrash() {
+  const std::set<Path> trashed = co_await _removal.trash(picked(selectedFiles()));
+  forget(trashed);
+  writeTotal();
+  _desktop.notifications.post(diskChangedNotification);
+}
+
+void LargeFileFinderView::forget(const std::set<Path>& trashed) {
+  for (const Path& url : trashed) _trashed.insert(url.native());
+  for (const auto& file : *_files) {
+    if (!_trashed.contains(file->url.native())) continue;
+    if (_selected.erase(file->id) > 0) _selectedBytes -= file->size;
+  }
+  setFiles(*_files);
+  emit selectionChanged();
+}
+
+void LargeFileFinderView::writeTotal() {
+  const std::int64_t bytes =
+      std::accumulate(_files->begin(), _files->end(), std::int64_t{0},
+                      [](std::int64_t sum, const auto& file) { return sum + file->size; });
+  _coordinator.setTotal(toolKey(), {.bytes = bytes,
+                                    .items = static_cast<std::int64_t>(_files->size()),
+                                    .measuredAt = _desktop.clock.now()});
+}
+
+}  // namespace klarvik

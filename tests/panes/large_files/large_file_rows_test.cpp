@@ -1,0 +1,149 @@
+#include "panes/large_files/large_file_rows.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QUrl>
+#include <random>
+
+#include "panes/kit/file_url.h"
+#include "support/test_desktop.h"
+
+namespace klarvik {
+namespace {
+
+class LargeFileRowsTest : public ::testing::Test {
+ protected:
+  static LargeFileList::value_type file(const Path& name, std::int64_t size = 1'000'000) {
+    return std::make_shared<const LargeFile>(
+        LargeFile{.url = "/Users/ann/Documents" / name, .size = size});
+  }
+  static LargeFileList numbered(std::size_t count) {
+    LargeFileList files;
+    for (std::size_t number = 0; number < count; ++number) {
+      files.push_back(file(std::to_string(number)));
+    }
+    return files;
+  }
+  void show(const LargeFileList& files) {
+    (void)rows.apply(arrange(files, {}, rows.files(), rows.inSight(), around.formatting));
+  }
+  [[nodiscard]] QVariant at(int row, LargeFileRows::Role role) const {
+    return rows.index(row).data(role);
+  }
+
+  TestDesktop around;
+  Desktop desktop = around.desktop();
+  std::unordered_set<Uuid> selected;
+  LargeFileRows rows{selected, desktop};
+  QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(LargeFileRowsTest, ARowSaysWhatTheFileIs) {
+  show({file("Archive/film.mov", 700'000'000)});
+  EXPECT_EQ(at(0, LargeFileRows::NameRole), "film.mov");
+  EXPECT_EQ(at(0, LargeFileRows::FolderRole), "~/Documents/Archive/");
+  EXPECT_EQ(at(0, LargeFileRows::PathRole), "/Users/ann/Documents/Archive/film.mov");
+  EXPECT_EQ(at(0, LargeFileRows::UrlRole).toUrl(),
+            urlOfPath("/Users/ann/Documents/Archive/film.mov"));
+  EXPECT_EQ(at(0, LargeFileRows::KindRole), "Video");
+  EXPECT_EQ(at(0, LargeFileRows::LastOpenedRole), "never");
+  EXPECT_EQ(at(0, LargeFileRows::SizeRole), "700 MB");
+  EXPECT_EQ(at(0, LargeFileRows::IsSelectedRole), false);
+  EXPECT_EQ(at(0, LargeFileRows::DescriptionRole),
+            "film.mov, 700 MB, Video, last opened never");
+}
+
+TEST_F(LargeFileRowsTest, WhenAFileWasLastOpenedIsSeenFromNow) {
+  LargeFile opened = *file("a");
+  opened.lastOpened = around.clock.now() - std::chrono::minutes(1);
+  show({std::make_shared<const LargeFile>(opened)});
+  EXPECT_EQ(at(0, LargeFileRows::LastOpenedRole), "1 minute ago");
+  around.clock.advance(std::chrono::minutes(1));
+  QSignalSpy changed(&rows, &LargeFileRows::dataChanged);
+  rows.refreshDates();
+  EXPECT_EQ(changed.count(), 1);
+  EXPECT_EQ(at(0, LargeFileRows::LastOpenedRole), "2 minutes ago");
+}
+
+TEST_F(LargeFileRowsTest, NamesOf4000CharactersRightToLeftEmojiAndBadUtf8AreShown) {
+  const std::string longName(4'000, 'x');
+  show({file(longName), file("\u202Egnp.exe"), file("\U0001F600.mov"), file("a\xff\nb")});
+  EXPECT_EQ(at(0, LargeFileRows::NameRole).toString().size(), 4'000);
+  EXPECT_EQ(at(1, LargeFileRows::NameRole), QStringLiteral("\uFFFDgnp.exe"));
+  EXPECT_EQ(at(2, LargeFileRows::NameRole), QString::fromUtf8("\U0001F600.mov"));
+  EXPECT_EQ(at(3, LargeFileRows::NameRole), QStringLiteral("a\uFFFD\uFFFDb"));
+  EXPECT_EQ(pathOfUrl(at(3, LargeFileRows::UrlRole).toUrl()), "/Users/ann/Documents/a\xff\nb");
+}
+
+TEST_F(LargeFileRowsTest, ASelectedFileShowsIt) {
+  const LargeFileList files = numbered(2);
+  show(files);
+  selected.insert(files[1]->id);
+  QSignalSpy changed(&rows, &LargeFileRows::dataChanged);
+  rows.selectionChanged(1);
+  EXPECT_EQ(changed.count(), 1);
+  EXPECT_EQ(at(0, LargeFileRows::IsSelectedRole), false);
+  EXPECT_EQ(at(1, LargeFileRows::IsSelectedRole), true);
+}
+
+TEST_F(LargeFileRowsTest, NewRowsInARowAreOneInsertion) {
+  const LargeFileList all = numbered(1'000);
+  show({all.begin(), all.begin() + 10});
+  QSignalSpy inserted(&rows, &LargeFileRows::rowsInserted);
+  QSignalSpy changed(&rows, &LargeFileRows::dataChanged);
+  show(all);
+  ASSERT_EQ(inserted.count(), 1);
+  EXPECT_EQ(inserted.front().at(1).toInt(), 10);
+  EXPECT_EQ(inserted.front().at(2).toInt(), 999);
+  EXPECT_EQ(changed.count(), 0);
+}
+
+TEST_F(LargeFileRowsTest, WhatIsNoLongerNeededIsHandedBack) {
+  LargeFileList files = numbered(3);
+  show(files);
+  const std::weak_ptr<const LargeFile> last = files.back();
+  files.clear();
+  LargeFileList rest =
+      rows.apply(arrange({}, {}, rows.files(), rows.inSight(), around.formatting));
+  EXPECT_EQ(rows.rowCount(), 0);
+  EXPECT_FALSE(last.expired()) << "freed while the caller had no say";
+  rest.clear();
+  EXPECT_TRUE(last.expired());
+}
+
+TEST_F(LargeFileRowsTest, WhateverChangesTheRowsAreRightAndThoseInSightAreFollowedNeverReset) {
+  std::mt19937 random(7);
+  const auto any = [&](std::size_t below) { return random() % below; };
+  LargeFileList all = numbered(3'000);
+  LargeFileList shown;
+  QSignalSpy reset(&rows, &LargeFileRows::modelReset);
+  for (int round = 0; round < 60; ++round) {
+    const auto first = static_cast<int>(any(2'500));
+    rows.lookAt(first, static_cast<int>(any(3'000)));
+    std::vector<std::pair<QPersistentModelIndex, const LargeFile*>> inSight;
+    for (int row = first; row < std::min(rows.rowCount(), first + 30); ++row) {
+      inSight.emplace_back(rows.index(row), rows.files()[static_cast<std::size_t>(row)].get());
+    }
+
+    const std::size_t share = 1 + any(8);
+    LargeFileList next;
+    std::copy_if(all.begin(), all.end(), std::back_inserter(next),
+                 [&](const auto&) { return any(8) < share; });
+    show(next);
+
+    ASSERT_EQ(rows.files(), next);
+    for (const auto& [index, before] : inSight) {
+      const bool isStillThere = std::any_of(
+          next.begin(), next.end(), [&](const auto& file) { return file.get() == before; });
+      if (!isStillThere) continue;
+      ASSERT_TRUE(index.isValid());
+      EXPECT_EQ(rows.files()[static_cast<std::size_t>(index.row())].get(), before);
+    }
+  }
+  EXPECT_EQ(reset.count(), 0);
+}
+
+}  // namespace
+}  // namespace klarvik
