@@ -83,6 +83,15 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       {Section::uninstaller, QUrl("qrc:/Klarvik/Uninstaller/AppUninstallerView.qml"),
        _uninstaller.get(), [this] { _uninstaller->appear(); },
        [this] { _uninstaller->finishRemovals(); }}};
+  _largeFilesPane = std::make_unique<LargeFileFinderView>(
+      LargeFileFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                                   _shared.permissionsManager()},
+      _desktop);
+  return {
+      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()},
+      {Section::largeFiles, QUrl("qrc:/Klarvik/LargeFiles/LargeFileFinderView.qml"),
+       _largeFilesPane.get(), [this] { _largeFilesPane->appear(); },
+       [this] { _largeFilesPane->finishRemovals(); }}};
 }
 
 QCoro::Task<> KlarvikApp::launch() {

@@ -6,6 +6,7 @@
 #include <stop_token>
 #include <vector>
 
+#include "panes/large_files/large_file_finder_view.h"
 #include "panes/smart_scan/smart_scan_pane.h"
 #include "panes/uninstaller/app_uninstaller_view.h"
 #include "platform/platform.h"
@@ -47,6 +48,7 @@ class KlarvikApp : public QObject {
   std::unique_ptr<AppState> _appState;
   std::unique_ptr<SmartScanPane> _smartScanPane;
   std::unique_ptr<AppUninstallerView> _uninstaller;
+  std::unique_ptr<LargeFileFinderView> _largeFilesPane;
   std::vector<LandedPane> _panes;  ///< in section order
   std::unique_ptr<AppShell> _shell;
   std::unique_ptr<MainWindow> _window;

@@ -5,6 +5,7 @@
 
 #include "panes/kit/kit.h"
 
+void qml_register_types_Klarvik_LargeFiles();
 void qml_register_types_Klarvik_SmartScan();
 void qml_register_types_Klarvik_Uninstaller();
 void qml_register_types_Klarvik_Shell();
@@ -14,6 +15,7 @@ namespace klarvik {
 std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& desktop) {
   std::unique_ptr<MainWindow> opened(new MainWindow);
   QQmlApplicationEngine& engine = opened->_engine;
+  qml_register_types_Klarvik_LargeFiles();
   qml_register_types_Klarvik_SmartScan();
   qml_register_types_Klarvik_Uninstaller();
   qml_register_types_Klarvik_Shell();

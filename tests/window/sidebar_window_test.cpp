@@ -18,6 +18,11 @@ TEST_F(SidebarWindow, ListsOnlySectionsThatHaveAPaneAndNoHeadingWithoutASection)
   EXPECT_TRUE(shows("Uninstaller"));
   for (const char* absent :
        {"STORAGE", "Storage", "Duplicates", "Large Files", "System Data", "Privacy", "Settings"}) {
+  for (const char* present : {"Smart Scan", "STORAGE", "Large Files"}) {
+    EXPECT_TRUE(shows(present)) << present;
+  }
+  for (const char* absent :
+       {"APPS", "Storage", "Duplicates", "System Data", "Uninstaller", "Privacy", "Settings"}) {
     EXPECT_FALSE(shows(absent)) << absent;
   }
 }

@@ -29,8 +29,8 @@ namespace klarvik {
 /// The Large Files section: lists the biggest files of the home while they are found, and moves
 /// those that the user picks to the Trash. Main thread only; everything handed in must outlive it.
 ///
-/// `files` changes with every report of the walk; the rows follow as soon as they have been filtered,
-/// ordered and compared off the main thread.
+/// `files` changes with every report of the walk; the rows follow as soon as they have been
+/// filtered, ordered and compared off the main thread.
 class LargeFileFinderView : public QObject {
   Q_OBJECT
   QML_NAMED_ELEMENT(LargeFileFinderModel)

@@ -46,8 +46,7 @@ QVariant LargeFileRows::data(const QModelIndex& index, int role) const {
     case KindRole:
       return printableText(file.kind());
     case LastOpenedRole:
-      return QString::fromStdString(
-          file.lastOpenedText(_desktop.formatting, _desktop.clock.now()));
+      return QString::fromStdString(file.lastOpenedText(_desktop.formatting, _desktop.clock.now()));
     case SizeRole:
       return byteText(file.size, _desktop.formatting);
     case IsSelectedRole:
@@ -60,10 +59,14 @@ QVariant LargeFileRows::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> LargeFileRows::roleNames() const {
-  return {{NameRole, "name"},           {FolderRole, "folder"},
-          {PathRole, "path"},           {UrlRole, "url"},
-          {KindRole, "kind"},           {LastOpenedRole, "lastOpened"},
-          {SizeRole, "size"},           {IsSelectedRole, "isSelected"},
+  return {{NameRole, "name"},
+          {FolderRole, "folder"},
+          {PathRole, "path"},
+          {UrlRole, "url"},
+          {KindRole, "kind"},
+          {LastOpenedRole, "lastOpened"},
+          {SizeRole, "size"},
+          {IsSelectedRole, "isSelected"},
           {DescriptionRole, "description"}};
 }
 
@@ -76,8 +79,7 @@ LargeFileList LargeFileRows::apply(RowArrangement arrangement) {
 }
 
 void LargeFileRows::lookAt(int firstRow, int currentRow) {
-  _inSight = {.first = static_cast<std::size_t>(std::max(0, firstRow)),
-              .count = mostRowsOnScreen};
+  _inSight = {.first = static_cast<std::size_t>(std::max(0, firstRow)), .count = mostRowsOnScreen};
   if (currentRow >= 0) _inSight.current = static_cast<std::size_t>(currentRow);
 }
 

@@ -23,8 +23,7 @@ QString foundSubtitle(std::size_t files, double thresholdMB) {
 }
 
 QString unscannedSubtitle() {
-  return QStringLiteral(
-      "Finds the biggest files in your home folder. Nothing is pre-selected.");
+  return QStringLiteral("Finds the biggest files in your home folder. Nothing is pre-selected.");
 }
 
 Placeholder measuring() {
@@ -73,10 +72,10 @@ std::string finishedSummary(std::size_t files) {
 }
 
 QString description(const LargeFile& file, const Formatting& formatting, Date now) {
-  return QStringList{printableText(file.url.filename().native()),
-                     byteText(file.size, formatting), printableText(file.kind()),
-                     QStringLiteral("last opened ") +
-                         QString::fromStdString(file.lastOpenedText(formatting, now))}
+  return QStringList{
+      printableText(file.url.filename().native()), byteText(file.size, formatting),
+      printableText(file.kind()),
+      QStringLiteral("last opened ") + QString::fromStdString(file.lastOpenedText(formatting, now))}
       .join(QStringLiteral(", "));
 }
 

@@ -66,9 +66,8 @@ LargeFileList displayed(const LargeFileList& files, const FileView& view,
                         const Formatting& formatting) {
   LargeFileList shown;
   shown.reserve(files.size());
-  std::ranges::copy_if(files, std::back_inserter(shown), [&](const auto& file) {
-    return !view.kind || file->kind() == *view.kind;
-  });
+  std::ranges::copy_if(files, std::back_inserter(shown),
+                       [&](const auto& file) { return !view.kind || file->kind() == *view.kind; });
   if (view.sort != LargeFileSort::size) sortFiles(shown, view.sort, formatting);
   return shown;
 }

@@ -74,7 +74,8 @@ TEST_F(LargeFileFinderViewTest, ListsWhatAScanFoundLargestFirstAndSelectsNothing
 TEST_F(LargeFileFinderViewTest, AFinishedScanTellsTheSidebarAndTheTotals) {
   add("Movies/film.mov", 700);
   add("Documents/old.zip", 100);
-  ASSERT_TRUE(scan());
+  pane->performAction();
+  ASSERT_TRUE(turnUntil([this] { return !pane->isScanning(); }));
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Finished{"2 files"}));
   ASSERT_TRUE(total());
   EXPECT_EQ(total()->bytes, 800 * mebibyte);
@@ -142,10 +143,10 @@ TEST_F(LargeFileFinderViewTest, StopEndsTheScanAtOnceAndTheListFoundSoFarStillCo
 
   walkGate.open();
   ASSERT_TRUE(turnUntil([this] { return total().has_value(); }));
+  EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Finished{"1 files"}));
   EXPECT_EQ(total()->items, 1);
   EXPECT_TRUE(shows({"film.mov"}));
   EXPECT_EQ(pane->progress(), 1);
-  EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Finished{"1 files"}));
 }
 
 TEST_F(LargeFileFinderViewTest, WhatAStoppedScanBringsLateDoesNotMixWithTheNextOne) {
@@ -395,9 +396,8 @@ TEST_F(LargeFileFinderViewTest, AFolderRemovedWhileItIsScannedEndsInFewerRows) {
   add("Documents/old.zip", 600);
   add("Pictures/Deep/z.psd", 200);
   holdTheNextWalk();
-  files.before(Operation::attributes, heldFile, [this] {
-    std::filesystem::remove_all(desk.disk.onDisk("/Users/ann/Pictures"));
-  });
+  files.before(Operation::attributes, heldFile,
+               [this] { std::filesystem::remove_all(desk.disk.onDisk("/Users/ann/Pictures")); });
   walkGate.open();
   pane->performAction();
   ASSERT_TRUE(turnUntil([this] { return !pane->isScanning(); }));

@@ -92,9 +92,7 @@ class LargeFilesFixture : public ::testing::Test {
     for (const auto& file : pane->files()) places.insert(file->url);
     return places;
   }
-  [[nodiscard]] ToolActivity::State activity() {
-    return shared.toolActivity().state("largeFiles");
-  }
+  [[nodiscard]] ToolActivity::State activity() { return shared.toolActivity().state("largeFiles"); }
   [[nodiscard]] std::optional<ScanCoordinator::Total> total() {
     const auto& totals = shared.scanCoordinator().totals();
     const auto found = totals.find("largeFiles");
@@ -124,10 +122,11 @@ class LargeFilesFixture : public ::testing::Test {
   DesktopOnDisk desk;
   FaultingFileSystem files{desk.files};
   Desktop desktop{{files, desk.desktop.trash, desk.desktop.commands, desk.defaults, desk.volume,
-                   desk.formatting, desk.info},
+                   desk.formatting, desk.info, desk.recentDocuments},
                   desk.clock,
                   desk.notifications,
-                  desk.workspace};
+                  desk.workspace,
+                  desk.pasteboard};
   SharedState shared{desktop};
   std::unique_ptr<LargeFileFinderView> pane = std::make_unique<LargeFileFinderView>(
       LargeFileFinderView::Sources{shared.scanCoordinator(), shared.toolActivity(),

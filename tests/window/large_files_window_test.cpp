@@ -1,0 +1,197 @@
+#include <algorithm>
+
+#include "window_fixture.h"
+
+namespace klarvik {
+namespace {
+
+/// What the pane does, wherever the disk came from.
+template <typename Fixture>
+class WithLargeFiles : public Fixture {
+ protected:
+  void openLargeFiles() {
+    this->openWindow();
+    this->click("Large Files");
+    this->settle();
+  }
+  /// The first scan; the placeholder names the button, too.
+  [[nodiscard]] bool rescan() {
+    const auto buttons = this->window().contentItem()->template findChildren<QQuickItem*>(
+        QStringLiteral("mainButton"));
+    const auto button = std::ranges::find_if(buttons, [](const QQuickItem* item) {
+      return item->isEnabled() && item->property("title").toString() == "Rescan";
+    });
+    if (button == buttons.end()) return false;
+    this->clickAt(**button, (*button)->boundingRect().center());
+    const bool ended = this->turnUntil([this] {
+      return !this->shows("Finds the biggest files") && !this->shows("Scanning your home folder");
+    });
+    this->settle();
+    return ended;
+  }
+  void addFile(const std::string& place, std::int64_t mebibytes) const {
+    this->desk->disk.makeSparseFile(this->desk->files.home() / place, mebibytes * 1'048'576);
+  }
+};
+
+class LargeFilesWindow : public WithLargeFiles<WindowFixture> {};
+class LargeFilesWindowOverAnEmptyHome : public WithLargeFiles<EmptyHomeWindowFixture> {};
+
+TEST_F(LargeFilesWindow, SaysWhatItIsForBeforeAScan) {
+  openLargeFiles();
+  EXPECT_TRUE(shows("Finds the biggest files in your home folder. Nothing is pre-selected."));
+  EXPECT_TRUE(shows("No scan yet"));
+  for (const char* column : {"FILE", "KIND", "LAST OPENED", "SIZE"}) EXPECT_TRUE(shows(column));
+  for (const char* part : {"Over", "100 MB", "All kinds", "Size"}) EXPECT_TRUE(shows(part)) << part;
+  EXPECT_TRUE(shows("Zero KB selected · 0 files"));
+  picture("large-files-empty");
+}
+
+TEST_F(LargeFilesWindow, ListsTheFilesAndMovesThePickedOneToTheTrash) {
+  openLargeFiles();
+  const Listing before = listing("/Users/ann/Documents");
+  const std::size_t trashed = trashCount();
+  ASSERT_TRUE(rescan());
+  const std::string found = std::to_string(desk->sample->largeFiles);
+  EXPECT_TRUE(shows(QString::fromStdString(found + " files over 100 MB in your home folder")));
+  picture("large-files-full");
+  window().resize(920, 640);
+  picture("large-files-full_920x640");
+  window().resize(2560, 1440);
+  picture("large-files-full_2560x1440");
+  window().resize(1180, 760);
+  settle();
+
+  clickSelectionBox("holiday.MOV");
+  settle();
+  EXPECT_TRUE(shows("734 MB selected · 1 file"));
+  picture("large-files-selected");
+  click("Move 734 MB to Trash");
+  ASSERT_TRUE(turnUntil([this] { return shows("Zero KB selected"); }));
+  settle();
+  EXPECT_FALSE(homeHolds("Movies/holiday.MOV"));
+  EXPECT_TRUE(homeHolds("Movies/birthday.mp4"));
+  EXPECT_EQ(trashCount(), trashed + 1);
+  EXPECT_FALSE(shows("holiday.MOV"));
+  EXPECT_EQ(listing("/Users/ann/Documents"), before);
+  picture("large-files-after");
+}
+
+TEST_F(LargeFilesWindow, FiltersByKindAndOrdersByName) {
+  openLargeFiles();
+  ASSERT_TRUE(rescan());
+  click("Archive");
+  settle();
+  EXPECT_TRUE(shows("2019.zip"));
+  EXPECT_FALSE(shows("holiday.MOV"));
+  picture("large-files-filtered");
+  click("All kinds");
+  settle();
+  EXPECT_TRUE(shows("holiday.MOV"));
+
+  ASSERT_LT(find("holiday.MOV")->mapToScene({}).y(), find("birthday.mp4")->mapToScene({}).y());
+  click("Size");
+  settle();
+  picture("large-files-sort-menu");
+  click("Name");
+  settle();
+  EXPECT_GT(find("holiday.MOV")->mapToScene({}).y(), find("birthday.mp4")->mapToScene({}).y());
+}
+
+TEST_F(LargeFilesWindow, RevealsAFileInTheFileManager) {
+  openLargeFiles();
+  ASSERT_TRUE(rescan());
+  click("Show in Finder");
+  EXPECT_EQ(desk->workspace.revealedItems.size(), 1U);
+}
+
+TEST_F(LargeFilesWindow, IsUsedFromTheKeyboardAlone) {
+  openLargeFiles();
+  ASSERT_TRUE(tabTo("Rescan"));
+  press(Qt::Key_Space);
+  ASSERT_TRUE(turnUntil([this] { return shows("holiday.MOV"); }));
+  settle();
+  ASSERT_TRUE(tabTo("holiday.MOV"));
+  press(Qt::Key_Down);
+  press(Qt::Key_Space);
+  EXPECT_TRUE(shows("157.3 MB selected · 1 file"));
+  picture("large-files-focus");
+  press(Qt::Key_Home);
+  press(Qt::Key_Return);
+  EXPECT_TRUE(shows("891.3 MB selected · 2 files"));
+  ASSERT_TRUE(tabTo("Move "));
+  press(Qt::Key_Return);
+  ASSERT_TRUE(turnUntil([this] { return !homeHolds("Movies/holiday.MOV"); }));
+}
+
+TEST_F(LargeFilesWindow, IsClosedDuringARemovalWithoutLosingAFile) {
+  openLargeFiles();
+  ASSERT_TRUE(rescan());
+  clickSelectionBox("holiday.MOV");
+  settle();
+  desk->trashGate.close();
+  const std::size_t trashed = trashCount();
+  click("Move 734 MB to Trash");
+  ASSERT_TRUE(turnUntil([this] { return desk->trashGate.waiting() == 1; }));
+  picture("large-files-busy");
+  EXPECT_TRUE(shows("Removing 1 of 1"));
+  closeWindow();
+  EXPECT_FALSE(homeHolds("Movies/holiday.MOV"));
+  EXPECT_EQ(trashCount(), trashed + 1);
+}
+
+TEST_F(LargeFilesWindow, ScansByItselfAtLaunch) {
+  desk->defaults.remove("backgroundScanOnLaunch");
+  openWindow();
+  click("Large Files");
+  // The tools before it in the queue keep the turn for as long as what they found is looked at.
+  EXPECT_TRUE(turnUntil([this] {
+    desk->clock.advance(std::chrono::minutes(1));
+    return shows("holiday.MOV");
+  }));
+}
+
+TEST_F(LargeFilesWindowOverAnEmptyHome, SaysThatNothingIsThatBig) {
+  openLargeFiles();
+  ASSERT_TRUE(rescan());
+  EXPECT_TRUE(shows("Nothing that big"));
+  EXPECT_TRUE(shows("No files over 100 MB matched."));
+  click("100 MB");
+  settle();
+  picture("large-files-threshold-menu");
+  click("1000 MB");
+  settle();
+  EXPECT_TRUE(shows("No files over 1000 MB matched."));
+  picture("large-files-nothing");
+}
+
+TEST_F(LargeFilesWindowOverAnEmptyHome, ShowsLongOddAndForeignNamesWithoutBreakingTheRow) {
+  const std::string longFolder = "Documents/" + std::string(200, 'd') + "/" + std::string(200, 'e');
+  addFile(longFolder + "/" + std::string(240, 'x') + ".mov", 400);
+  addFile("Documents/odd\xff\nname.zip", 300);
+  addFile("Documents/\u05E9\u05DC\u05D5\u05DD.pdf", 250);
+  addFile("Documents/\U0001F3AC film.mp4", 200);
+  openLargeFiles();
+  ASSERT_TRUE(rescan());
+  EXPECT_TRUE(shows(QStringLiteral("odd\uFFFD\uFFFDname.zip")));
+  window().resize(920, 640);
+  picture("large-files-names_920x640");
+}
+
+TEST_F(LargeFilesWindowOverAnEmptyHome, AListThatGrowsAtTheTopIsFollowedFromTheTop) {
+  for (int number = 0; number < 200; ++number) {
+    addFile("Documents/" + std::to_string(number) + ".zip", 100 + number);
+  }
+  openLargeFiles();
+  ASSERT_TRUE(rescan());
+  EXPECT_TRUE(shows("199.zip"));
+  EXPECT_FALSE(shows("0.zip"));
+  ASSERT_TRUE(tabTo("199.zip"));
+  press(Qt::Key_End);
+  settle();
+  EXPECT_TRUE(shows("0.zip"));
+  picture("large-files-end");
+}
+
+}  // namespace
+}  // namespace klarvik
