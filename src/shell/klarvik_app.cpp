@@ -92,6 +92,14 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       {Section::largeFiles, QUrl("qrc:/Klarvik/LargeFiles/LargeFileFinderView.qml"),
        _largeFilesPane.get(), [this] { _largeFilesPane->appear(); },
        [this] { _largeFilesPane->finishRemovals(); }}};
+  _storagePane = std::make_unique<StorageAnalyticsView>(
+      StorageAnalyticsView::Sources{_shared.scanHistory(), _shared.diskMonitor(),
+                                    _shared.permissionsManager()},
+      _desktop);
+  return {
+      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()},
+      {Section::storage, QUrl("qrc:/Klarvik/Storage/StorageAnalyticsView.qml"),
+       _storagePane.get()}};
 }
 
 QCoro::Task<> KlarvikApp::launch() {

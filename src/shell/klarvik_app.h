@@ -9,6 +9,7 @@
 #include "panes/large_files/large_file_finder_view.h"
 #include "panes/smart_scan/smart_scan_pane.h"
 #include "panes/uninstaller/app_uninstaller_view.h"
+#include "panes/storage/storage_analytics_view.h"
 #include "platform/platform.h"
 #include "shell/app_shell.h"
 #include "shell/main_window.h"
@@ -49,6 +50,7 @@ class KlarvikApp : public QObject {
   std::unique_ptr<SmartScanPane> _smartScanPane;
   std::unique_ptr<AppUninstallerView> _uninstaller;
   std::unique_ptr<LargeFileFinderView> _largeFilesPane;
+  std::unique_ptr<StorageAnalyticsView> _storagePane;
   std::vector<LandedPane> _panes;  ///< in section order
   std::unique_ptr<AppShell> _shell;
   std::unique_ptr<MainWindow> _window;

@@ -23,6 +23,11 @@ TEST_F(SidebarWindow, ListsOnlySectionsThatHaveAPaneAndNoHeadingWithoutASection)
   }
   for (const char* absent :
        {"APPS", "Storage", "Duplicates", "System Data", "Uninstaller", "Privacy", "Settings"}) {
+  for (const char* present : {"Smart Scan", "STORAGE", "Storage"}) {
+    EXPECT_TRUE(shows(present)) << present;
+  }
+  for (const char* absent :
+       {"APPS", "Duplicates", "Large Files", "System Data", "Uninstaller", "Privacy", "Settings"}) {
     EXPECT_FALSE(shows(absent)) << absent;
   }
 }
