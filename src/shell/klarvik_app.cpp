@@ -4,6 +4,23 @@
 
 namespace klarvik {
 
+namespace {
+
+/// A pane as the window shows it, with what it starts and finishes by itself, where it does.
+template <typename Pane>
+LandedPane landed(Section section, const QString& view, Pane& pane) {
+  LandedPane landed{section, QUrl("qrc:/Klarvik/" + view), &pane};
+  if constexpr (requires { pane.appear(); }) {
+    landed.appear = [&pane] { pane.appear(); };
+  }
+  if constexpr (requires { pane.finishRemovals(); }) {
+    landed.finishRemovals = [&pane] { pane.finishRemovals(); };
+  }
+  return landed;
+}
+
+}  // namespace
+
 KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, QObject* parent)
     : QObject(parent), _desktop(desktop), _shared(shared) {
   removeLeftoverKeys();
@@ -74,32 +91,24 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
                              _shared.scanCoordinator(), _shared.toolActivity(),
                              _shared.navigator()},
       _desktop);
-  _uninstaller = std::make_unique<AppUninstallerView>(
-      AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                  _shared.navigator()},
-      _desktop);
-  return {
-      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()},
-      {Section::uninstaller, QUrl("qrc:/Klarvik/Uninstaller/AppUninstallerView.qml"),
-       _uninstaller.get(), [this] { _uninstaller->appear(); },
-       [this] { _uninstaller->finishRemovals(); }}};
-  _largeFilesPane = std::make_unique<LargeFileFinderView>(
-      LargeFileFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                   _shared.permissionsManager()},
-      _desktop);
-  return {
-      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()},
-      {Section::largeFiles, QUrl("qrc:/Klarvik/LargeFiles/LargeFileFinderView.qml"),
-       _largeFilesPane.get(), [this] { _largeFilesPane->appear(); },
-       [this] { _largeFilesPane->finishRemovals(); }}};
   _storagePane = std::make_unique<StorageAnalyticsView>(
       StorageAnalyticsView::Sources{_shared.scanHistory(), _shared.diskMonitor(),
                                     _shared.permissionsManager()},
       _desktop);
+  _largeFilesPane = std::make_unique<LargeFileFinderView>(
+      LargeFileFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                                   _shared.permissionsManager()},
+      _desktop);
+  _uninstallerPane = std::make_unique<AppUninstallerView>(
+      AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                                  _shared.navigator()},
+      _desktop);
   return {
-      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()},
-      {Section::storage, QUrl("qrc:/Klarvik/Storage/StorageAnalyticsView.qml"),
-       _storagePane.get()}};
+      landed(Section::smartScan, "SmartScan/SmartScanPane.qml", *_smartScanPane),
+      landed(Section::storage, "Storage/StorageAnalyticsView.qml", *_storagePane),
+      landed(Section::largeFiles, "LargeFiles/LargeFileFinderView.qml", *_largeFilesPane),
+      landed(Section::uninstaller, "Uninstaller/AppUninstallerView.qml", *_uninstallerPane),
+  };
 }
 
 QCoro::Task<> KlarvikApp::launch() {

@@ -48,9 +48,9 @@ class KlarvikApp : public QObject {
   std::stop_source _stop;
   std::unique_ptr<AppState> _appState;
   std::unique_ptr<SmartScanPane> _smartScanPane;
-  std::unique_ptr<AppUninstallerView> _uninstaller;
-  std::unique_ptr<LargeFileFinderView> _largeFilesPane;
   std::unique_ptr<StorageAnalyticsView> _storagePane;
+  std::unique_ptr<LargeFileFinderView> _largeFilesPane;
+  std::unique_ptr<AppUninstallerView> _uninstallerPane;
   std::vector<LandedPane> _panes;  ///< in section order
   std::unique_ptr<AppShell> _shell;
   std::unique_ptr<MainWindow> _window;

@@ -5,10 +5,10 @@
 
 #include "panes/kit/kit.h"
 
-void qml_register_types_Klarvik_LargeFiles();
 void qml_register_types_Klarvik_SmartScan();
-void qml_register_types_Klarvik_Uninstaller();
 void qml_register_types_Klarvik_Storage();
+void qml_register_types_Klarvik_LargeFiles();
+void qml_register_types_Klarvik_Uninstaller();
 void qml_register_types_Klarvik_Shell();
 
 namespace klarvik {
@@ -16,10 +16,10 @@ namespace klarvik {
 std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& desktop) {
   std::unique_ptr<MainWindow> opened(new MainWindow);
   QQmlApplicationEngine& engine = opened->_engine;
-  qml_register_types_Klarvik_LargeFiles();
   qml_register_types_Klarvik_SmartScan();
-  qml_register_types_Klarvik_Uninstaller();
   qml_register_types_Klarvik_Storage();
+  qml_register_types_Klarvik_LargeFiles();
+  qml_register_types_Klarvik_Uninstaller();
   qml_register_types_Klarvik_Shell();
   installKit(engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});
   engine.setInitialProperties({{"shell", QVariant::fromValue(&shell)}});

@@ -29,18 +29,5 @@ KitText {
         id: tipLoader
 
         anchors.fill: parent
-    elide: Text.ElideMiddle
-
-    HoverHandler {
-        id: hover
-    }
-
-    Loader {
-        anchors.fill: parent
-        active: hover.hovered && (root.truncated || root.fullText !== "")
-        sourceComponent: KitToolTip {
-            shown: true
-            text: root.fullText !== "" ? root.fullText : root.text
-        }
     }
 }
