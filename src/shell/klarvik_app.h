@@ -8,8 +8,8 @@
 
 #include "panes/large_files/large_file_finder_view.h"
 #include "panes/smart_scan/smart_scan_pane.h"
-#include "panes/uninstaller/app_uninstaller_view.h"
 #include "panes/storage/storage_analytics_view.h"
+#include "panes/uninstaller/app_uninstaller_view.h"
 #include "platform/platform.h"
 #include "shell/app_shell.h"
 #include "shell/main_window.h"
