@@ -269,18 +269,18 @@ TEST_F(PrivacyScannerTest, ClearingBrowserHistoryTellsItsSizeAsFreedAndLeavesThe
 }
 
 TEST_F(PrivacyScannerTest, ClearingItemsWithoutAPathTouchesNothing) {
-  const TemporaryFolder folder;
-  const SampleDisk sample = buildSampleDisk(folder.path());
-  LinuxFileSystem sampleFiles(sample.root, sample.home);
-  PrivacyScanner sampleScanner(sampleFiles, world.pasteboard, world.recentDocuments);
-  auto items = sampleScanner.scan({});
+  disk.makeFile(chrome / "History", 1);
+  disk.makeFile(chrome / "Cookies", 10);
+  disk.makeFile(library / "Caches/Firefox/a", 100);
+  disk.makeFile(recentLists / "com.apple.LSSharedFileList.RecentDownloads.sfl2", 1'000);
+  disk.makeFile(library / "Caches/locationd/a", 10'000);
+  auto items = scan();
   std::erase_if(items, [](const PrivacyItem& each) { return each.path.has_value(); });
   ASSERT_THAT(items, SizeIs(5));
-  std::int64_t bytes = 0;
-  for (const PrivacyItem& each : items) bytes += each.size;
-  const DiskSnapshot before = snapshotOf(folder.path());
-  EXPECT_EQ(sampleScanner.clear(items), (PrivacyClearance{5, bytes}));
-  EXPECT_EQ(unexpectedDifferences(before, snapshotOf(folder.path()), {}), "");
+  const DiskSnapshot before = snapshotOf(disk.path());
+  EXPECT_EQ(scanner.clear(items), (PrivacyClearance{5, 11'111}));
+  EXPECT_EQ(unexpectedDifferences(before, snapshotOf(disk.path()), {}), "");
+  EXPECT_THAT(files.removals(), IsEmpty());
 }
 
 TEST_F(PrivacyScannerTest, ClearingRecentFilesEmptiesTheListOfDocumentsAndLeavesTheFolder) {
