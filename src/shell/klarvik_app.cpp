@@ -74,8 +74,14 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
                              _shared.scanCoordinator(), _shared.toolActivity(),
                              _shared.navigator()},
       _desktop);
+  _storagePane = std::make_unique<StorageAnalyticsView>(
+      StorageAnalyticsView::Sources{_shared.scanHistory(), _shared.diskMonitor(),
+                                    _shared.permissionsManager()},
+      _desktop);
   return {
-      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()}};
+      {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()},
+      {Section::storage, QUrl("qrc:/Klarvik/Storage/StorageAnalyticsView.qml"),
+       _storagePane.get()}};
 }
 
 QCoro::Task<> KlarvikApp::launch() {

@@ -6,6 +6,7 @@
 #include "panes/kit/kit.h"
 
 void qml_register_types_Klarvik_SmartScan();
+void qml_register_types_Klarvik_Storage();
 void qml_register_types_Klarvik_Shell();
 
 namespace klarvik {
@@ -14,6 +15,7 @@ std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& des
   std::unique_ptr<MainWindow> opened(new MainWindow);
   QQmlApplicationEngine& engine = opened->_engine;
   qml_register_types_Klarvik_SmartScan();
+  qml_register_types_Klarvik_Storage();
   qml_register_types_Klarvik_Shell();
   installKit(engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});
   engine.setInitialProperties({{"shell", QVariant::fromValue(&shell)}});

@@ -82,4 +82,9 @@ QColor Palette::systemColor(SystemColor color) {
   return colorWhere([&](const NamedColor& entry) { return entry.color == color; });
 }
 
+QColor Palette::color(const RgbColor& color) {
+  return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
+                          static_cast<float>(color.blue));
+}
+
 }  // namespace klarvik

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "core/junk_model.h"
+#include "core/rgb_color.h"
 
 namespace klarvik {
 
@@ -89,6 +90,7 @@ class Palette : public QObject {
   Q_INVOKABLE [[nodiscard]] QColor systemColor(const QString& name) const;
   Q_INVOKABLE [[nodiscard]] QColor systemColor(int color) const;
   [[nodiscard]] static QColor systemColor(SystemColor color);
+  [[nodiscard]] static QColor color(const RgbColor& color);
 };
 
 }  // namespace klarvik

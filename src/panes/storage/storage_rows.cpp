@@ -1,0 +1,60 @@
+#include "panes/storage/storage_rows.h"
+
+#include <algorithm>
+
+#include "panes/kit/palette.h"
+#include "panes/kit/row_text.h"
+#include "panes/storage/storage_texts.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::size_t mostBars = 30;
+
+}  // namespace
+
+QList<StorageLegendRow> legendRows(const std::vector<DiskComposition::Bucket>& buckets,
+                                   const Formatting& formatting) {
+  std::int64_t sum = 0;
+  for (const DiskComposition::Bucket& bucket : buckets) sum = addBytes(sum, bucket.bytes);
+
+  QList<StorageLegendRow> rows;
+  for (const DiskComposition::Bucket& bucket : buckets) {
+    rows.append({.slice = {.id = QString::fromStdString(bucket.id),
+                           .label = QString::fromStdString(bucket.label),
+                           .value = bucket.bytes,
+                           .color = Palette::color(bucket.color)},
+                 .share = static_cast<double>(bucket.bytes) / static_cast<double>(sum),
+                 .size = byteText(bucket.bytes, formatting)});
+  }
+  return rows;
+}
+
+QList<GrowthRow> growthRows(const std::vector<Growth>& grown, const Formatting& formatting) {
+  QList<GrowthRow> rows;
+  for (const Growth& growth : grown) {
+    rows.append(
+        {.name = printableText(growth.name),
+         .figure = QString::fromStdString(storage::growthFigure(growth.delta, formatting))});
+  }
+  return rows;
+}
+
+QList<CleanBar> cleanBars(const std::vector<ScanHistoryEntry>& cleans,
+                          const Formatting& formatting) {
+  if (cleans.size() < 2) return {};
+  const std::size_t count = std::min(cleans.size(), mostBars);
+  std::int64_t highest = 1;
+  for (std::size_t at = 0; at < count; ++at) highest = std::max(highest, cleans[at].totalJunk);
+
+  QList<CleanBar> bars;
+  for (std::size_t at = count; at-- > 0;) {
+    const std::int64_t reclaimed = std::max<std::int64_t>(cleans[at].totalJunk, 0);
+    bars.append({.height = static_cast<double>(reclaimed) / static_cast<double>(highest),
+                 .description = byteText(reclaimed, formatting) + QStringLiteral(" · ") +
+                                QString::fromStdString(formatting.dateAndTime(cleans[at].date))});
+  }
+  return bars;
+}
+
+}  // namespace klarvik

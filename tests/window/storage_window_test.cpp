@@ -1,0 +1,114 @@
+#include "window_fixture.h"
+
+namespace klarvik {
+namespace {
+
+class StorageWindow : public WindowFixture {
+ protected:
+  /// A disk of a size that the files on it matter to.
+  void SetUp() override {
+    WindowFixture::SetUp();
+    desk->volume.setTotalBytes(400'000'000);
+    desk->volume.setAvailableBytes(120'000'000);
+    shared->diskMonitor().refreshNow();
+  }
+
+  void recordHistory() {
+    const auto scanned = [](CategoryType type, std::int64_t size) {
+      JunkItem item;
+      item.size = size;
+      return CleanCategory{.type = type, .items = {item}};
+    };
+    shared->scanHistory().recordScan({scanned(CategoryType::xcodeCache, 2'000'000'000)});
+    shared->scanHistory().recordScan({scanned(CategoryType::xcodeCache, 9'500'000'000),
+                                      scanned(CategoryType::dockerData, 3'100'000'000)});
+    for (int number = 0; number < 30; ++number) {
+      shared->scanHistory().recordClean((number * 37 % 11 + 1) * 400'000'000, {});
+    }
+  }
+  void openStorage() {
+    openWindow();
+    click("Storage");
+    settle();
+  }
+  [[nodiscard]] bool measureToTheEnd() {
+    click("Measure");
+    const bool came = turnUntil([this] { return shows("Re-measure"); });
+    settle();
+    return came;
+  }
+  void pointAt(QQuickItem& item, QPointF place) {
+    QTest::mouseMove(&window(), item.mapToScene(place).toPoint());
+    settle();
+  }
+  [[nodiscard]] bool isHighlighted(const QString& legendRow) {
+    const QQuickItem* row = find(legendRow);
+    return row != nullptr && row->property("isHighlighted").toBool();
+  }
+};
+
+TEST_F(StorageWindow, SaysWhatThereIsToSayBeforeAnythingIsMeasured) {
+  openStorage();
+  EXPECT_TRUE(shows("WHAT FILLS THE DISK"));
+  EXPECT_TRUE(
+      shows("Nothing measured yet. Walking your folders takes about a minute and reads "
+            "sizes only."));
+  EXPECT_TRUE(shows("GROWING FASTEST"));
+  EXPECT_TRUE(shows("Two scans are needed before growth means anything."));
+  EXPECT_TRUE(shows("RECLAIMED PER CLEAN"));
+  EXPECT_TRUE(shows("Two cleans are needed before a trend means anything."));
+  EXPECT_TRUE(shows("120 MB free of 400 MB"));
+  picture("storage-empty");
+}
+
+TEST_F(StorageWindow, MeasuresAndExplainsTheDiskWithoutChangingIt) {
+  recordHistory();
+  openStorage();
+  const Listing before = listing();
+  ASSERT_TRUE(measureToTheEnd());
+  EXPECT_TRUE(shows("280 MB"));
+  EXPECT_TRUE(shows("in use"));
+  EXPECT_TRUE(shows("macOS and everything else"));
+  EXPECT_TRUE(shows("120 MB free of 400 MB · measured "));
+  EXPECT_TRUE(shows("Xcode Cache, +7.5 GB"));
+  EXPECT_EQ(listing(), before);
+  picture("storage-full");
+  window().resize(920, 640);
+  picture("storage-full_920x640");
+  window().resize(2560, 1440);
+  picture("storage-full_2560x1440");
+}
+
+TEST_F(StorageWindow, LinksTheChartAndItsLegendByHoverBothWays) {
+  openStorage();
+  ASSERT_TRUE(measureToTheEnd());
+  QQuickItem* chart = find("280 MB")->parentItem()->parentItem();
+  // The first slice begins at the top of the ring, where it lies 13 points from the edge.
+  QQuickItem* first = find("macOS and everything else");
+  ASSERT_NE(first, nullptr);
+  pointAt(*chart, {chart->width() / 2 + 4, 13});
+  EXPECT_TRUE(isHighlighted("macOS and everything else"));
+  picture("storage-hover");
+  pointAt(*chart, {chart->width() / 2, chart->height() / 2});
+  EXPECT_FALSE(isHighlighted("macOS and everything else"));
+  pointAt(*first, first->boundingRect().center());
+  EXPECT_TRUE(isHighlighted("macOS and everything else"));
+}
+
+TEST_F(StorageWindow, IsUsedFromTheKeyboardAlone) {
+  openStorage();
+  ASSERT_TRUE(tabTo("Measure"));
+  picture("storage-focus");
+  press(Qt::Key_Return);
+  ASSERT_TRUE(turnUntil([this] { return shows("Re-measure"); }));
+}
+
+TEST_F(StorageWindow, CanBeClosedInMidMeasurement) {
+  openStorage();
+  click("Measure");
+  closeWindow();
+  EXPECT_TRUE(homeHolds("Library"));
+}
+
+}  // namespace
+}  // namespace klarvik
