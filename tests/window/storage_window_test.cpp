@@ -22,7 +22,7 @@ class StorageWindow : public WindowFixture {
     shared->scanHistory().recordScan({scanned(CategoryType::xcodeCache, 2'000'000'000)});
     shared->scanHistory().recordScan({scanned(CategoryType::xcodeCache, 9'500'000'000),
                                       scanned(CategoryType::dockerData, 3'100'000'000)});
-    for (int number = 0; number < 30; ++number) {
+    for (std::int64_t number = 0; number < 30; ++number) {
       shared->scanHistory().recordClean((number * 37 % 11 + 1) * 400'000'000, {});
     }
   }
@@ -100,6 +100,7 @@ TEST_F(StorageWindow, IsUsedFromTheKeyboardAlone) {
   ASSERT_TRUE(tabTo("Measure"));
   picture("storage-focus");
   press(Qt::Key_Return);
+  EXPECT_TRUE(window().grabWindow().save(KLARVIK_SCREENSHOTS "/storage-busy.png"));
   ASSERT_TRUE(turnUntil([this] { return shows("Re-measure"); }));
 }
 

@@ -44,7 +44,6 @@ RowLayout {
 
     Column {
         Layout.fillWidth: true
-        Layout.maximumWidth: 560
         Layout.alignment: Qt.AlignVCenter
 
         Repeater {
@@ -63,9 +62,5 @@ RowLayout {
                 onHover: inside => root.model.hover(row.modelData.slice.id, inside)
             }
         }
-    }
-
-    Item {
-        Layout.fillWidth: true
     }
 }

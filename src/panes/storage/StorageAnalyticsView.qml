@@ -63,7 +63,7 @@ ToolPane {
                     required property growthRow modelData
                     readonly property string description: grown.modelData.name + ", " + grown.modelData.figure
 
-                    width: parent ? Math.min(parent.width, 640) : implicitWidth
+                    width: parent ? parent.width : implicitWidth
                     implicitHeight: 20
                     Accessible.role: Accessible.ListItem
                     Accessible.name: grown.description

@@ -16,10 +16,8 @@ Item {
     Column {
         id: parts
 
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.leftMargin: Theme.sidePadding
-        anchors.rightMargin: Theme.sidePadding
+        x: Theme.sidePadding
+        width: Math.min(1120, root.width - 2 * Theme.sidePadding)
         spacing: 10
 
         SectionHeading {
