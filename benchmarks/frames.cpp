@@ -25,6 +25,7 @@
 #include "support/memory_pasteboard.h"
 #include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
+#include "support/scripted_open_panel.h"
 
 namespace {
 
@@ -161,12 +162,14 @@ int main(int argumentCount, char** arguments) {
   NotificationCenter notifications;
   RecordingWorkspace workspace;
   MemoryPasteboard pasteboard;
+  ScriptedOpenPanel openPanel;
   const Desktop desktop{
       {files, trash, commands, defaults, volume, formatting, info, recentDocuments},
       clock,
       notifications,
       workspace,
-      pasteboard};
+      pasteboard,
+      openPanel};
   SharedState shared(desktop);
   KlarvikApp app(desktop, shared);
   if (!app.openMainWindow()) {

@@ -6,6 +6,7 @@
 #include "platform/file_system.h"
 #include "platform/formatting.h"
 #include "platform/notification_center.h"
+#include "platform/open_panel.h"
 #include "platform/pasteboard.h"
 #include "platform/recent_documents.h"
 #include "platform/trash.h"
@@ -34,6 +35,7 @@ struct Desktop : Platform {
   NotificationCenter& notifications;
   Workspace& workspace;
   Pasteboard& pasteboard;
+  OpenPanel& openPanel;
 };
 
 }  // namespace klarvik

@@ -103,9 +103,14 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
                                   _shared.navigator()},
       _desktop);
+  _duplicatesPane = std::make_unique<DuplicateFinderView>(
+      DuplicateFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                                   _shared.permissionsManager()},
+      _desktop);
   return {
       landed(Section::smartScan, "SmartScan/SmartScanPane.qml", *_smartScanPane),
       landed(Section::storage, "Storage/StorageAnalyticsView.qml", *_storagePane),
+      landed(Section::duplicates, "Duplicates/DuplicateFinderView.qml", *_duplicatesPane),
       landed(Section::largeFiles, "LargeFiles/LargeFileFinderView.qml", *_largeFilesPane),
       landed(Section::uninstaller, "Uninstaller/AppUninstallerView.qml", *_uninstallerPane),
   };

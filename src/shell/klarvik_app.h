@@ -6,6 +6,7 @@
 #include <stop_token>
 #include <vector>
 
+#include "panes/duplicates/duplicate_finder_view.h"
 #include "panes/large_files/large_file_finder_view.h"
 #include "panes/smart_scan/smart_scan_pane.h"
 #include "panes/storage/storage_analytics_view.h"
@@ -49,6 +50,7 @@ class KlarvikApp : public QObject {
   std::unique_ptr<AppState> _appState;
   std::unique_ptr<SmartScanPane> _smartScanPane;
   std::unique_ptr<StorageAnalyticsView> _storagePane;
+  std::unique_ptr<DuplicateFinderView> _duplicatesPane;
   std::unique_ptr<LargeFileFinderView> _largeFilesPane;
   std::unique_ptr<AppUninstallerView> _uninstallerPane;
   std::vector<LandedPane> _panes;  ///< in section order

@@ -5,6 +5,7 @@
 
 #include "panes/kit/kit.h"
 
+void qml_register_types_Klarvik_Duplicates();
 void qml_register_types_Klarvik_SmartScan();
 void qml_register_types_Klarvik_Storage();
 void qml_register_types_Klarvik_LargeFiles();
@@ -16,6 +17,7 @@ namespace klarvik {
 std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& desktop) {
   std::unique_ptr<MainWindow> opened(new MainWindow);
   QQmlApplicationEngine& engine = opened->_engine;
+  qml_register_types_Klarvik_Duplicates();
   qml_register_types_Klarvik_SmartScan();
   qml_register_types_Klarvik_Storage();
   qml_register_types_Klarvik_LargeFiles();

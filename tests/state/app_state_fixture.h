@@ -52,7 +52,8 @@ class AppStateFixture : public ::testing::Test {
                   around.clock,
                   around.notifications,
                   around.workspace,
-                  around.pasteboard};
+                  around.pasteboard,
+                  around.openPanel};
   ToolActivity activity{around.clock};
   ScanCoordinator coordinator{around.defaults};
   ScanHistory history{around.defaults, around.clock};

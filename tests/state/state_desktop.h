@@ -11,6 +11,7 @@
 #include "support/memory_pasteboard.h"
 #include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
+#include "support/scripted_open_panel.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -31,11 +32,13 @@ struct StateDesktop {
   NotificationCenter notifications;
   RecordingWorkspace workspace;
   MemoryPasteboard pasteboard;
+  ScriptedOpenPanel openPanel;
   Desktop desktop{{files, trash, commands, defaults, volume, formatting, info, recentDocuments},
                   clock,
                   notifications,
                   workspace,
-                  pasteboard};
+                  pasteboard,
+                  openPanel};
 };
 
 }  // namespace klarvik

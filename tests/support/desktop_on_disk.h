@@ -15,6 +15,7 @@
 #include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
 #include "support/sample_disk.h"
+#include "support/scripted_open_panel.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -45,6 +46,7 @@ class DesktopOnDisk {
   NotificationCenter notifications;
   RecordingWorkspace workspace;
   MemoryPasteboard pasteboard;
+  ScriptedOpenPanel openPanel;
 
  private:
   class GatedCommands final : public CommandRunner {
@@ -73,7 +75,8 @@ class DesktopOnDisk {
       clock,
       notifications,
       workspace,
-      pasteboard};
+      pasteboard,
+      openPanel};
 };
 
 }  // namespace klarvik

@@ -11,7 +11,8 @@ Desktop TestDesktop::desktop() {
           clock,
           notifications,
           workspace,
-          pasteboard};
+          pasteboard,
+          openPanel};
 }
 
 }  // namespace klarvik

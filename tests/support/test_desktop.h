@@ -10,6 +10,7 @@
 #include "support/memory_pasteboard.h"
 #include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
+#include "support/scripted_open_panel.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -31,6 +32,7 @@ struct TestDesktop {
   NotificationCenter notifications;
   RecordingWorkspace workspace;
   MemoryPasteboard pasteboard;
+  ScriptedOpenPanel openPanel;
 
   TestDesktop();
   /// Refers to this object.

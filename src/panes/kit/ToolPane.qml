@@ -11,6 +11,7 @@ Rectangle {
     required property string subtitle
     property string actionTitle
     property bool hasAction: true
+    property bool isActionEnabled: true
     property bool isBusy: false
     property bool rowsShowLoader: false
     property alias columns: header.columns
@@ -69,6 +70,7 @@ Rectangle {
                 objectName: "mainButton"
                 title: root.shown.buttonLabel
                 visible: root.shown.showsButton
+                isEnabled: root.isActionEnabled
                 onAction: root.action()
             }
         }

@@ -8,10 +8,12 @@ std::unique_ptr<DesktopPlatform> DesktopPlatform::ofThisUser() {
 }
 
 DesktopPlatform::DesktopPlatform(const Path& root, const UserFolders& folders)
-    : _system(root, folders), _workspace(_system.platform().files) {}
+    : _system(root, folders),
+      _workspace(_system.platform().files),
+      _openPanel(_system.platform().files) {}
 
 Desktop DesktopPlatform::desktop() {
-  return {_system.platform(), _clock, _notifications, _workspace, _pasteboard};
+  return {_system.platform(), _clock, _notifications, _workspace, _pasteboard, _openPanel};
 }
 
 }  // namespace klarvik

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "platform/desktop/qt_clock.h"
+#include "platform/desktop/qt_open_panel.h"
 #include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/xdg_workspace.h"
 #include "platform/linux/linux_platform.h"
@@ -11,7 +12,7 @@
 namespace klarvik {
 
 /// Owns the real thing of everything that a program with a window asks of the system. Main thread
-/// only; needs a `QGuiApplication` as long as it is in use.
+/// only; needs a `QApplication` as long as it is in use.
 class DesktopPlatform {
  public:
   /// The whole machine, as the user who runs this program sees it. Nothing when that user has no
@@ -29,6 +30,7 @@ class DesktopPlatform {
   NotificationCenter _notifications;
   XdgWorkspace _workspace;
   QtPasteboard _pasteboard;
+  QtOpenPanel _openPanel;
 };
 
 }  // namespace klarvik

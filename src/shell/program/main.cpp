@@ -1,4 +1,4 @@
-#include <QGuiApplication>
+#include <QApplication>
 #include <cstdio>
 #include <cstdlib>
 
@@ -24,11 +24,11 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
 
 int main(int argumentCount, char** arguments) {
   const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
-  QGuiApplication application(argumentCount, arguments);
+  QApplication application(argumentCount, arguments);
   qInstallMessageHandler(usual);
-  QGuiApplication::setApplicationName("Klarvik");
-  QGuiApplication::setApplicationDisplayName("Klarvik");
-  QGuiApplication::setDesktopFileName("klarvik");
+  QApplication::setApplicationName("Klarvik");
+  QApplication::setApplicationDisplayName("Klarvik");
+  QApplication::setDesktopFileName("klarvik");
 
   const auto platform = klarvik::DesktopPlatform::ofThisUser();
   if (!platform) {
@@ -41,7 +41,7 @@ int main(int argumentCount, char** arguments) {
   if (!app.openMainWindow()) {
     return refuse("Klarvik could not draw its window.");
   }
-  const int status = QGuiApplication::exec();
+  const int status = QApplication::exec();
   app.finishRemovals();
   // A scan may be in the middle of a long walk, or wait for a tool that never answers. It changes
   // nothing, so nobody has to wait for it.

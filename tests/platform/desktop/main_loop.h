@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QApplication>
 #include <QDeadlineTimer>
-#include <QGuiApplication>
 #include <functional>
 
 namespace klarvik {
@@ -11,7 +11,7 @@ inline void needApplication() {
   static int argumentCount = 1;
   static char name[] = "desktop_tests";
   static char* arguments[] = {name, nullptr};
-  static QGuiApplication application(argumentCount, arguments);
+  static QApplication application(argumentCount, arguments);
 }
 
 /// Runs the main loop until `condition` holds; false when it still does not after a minute.

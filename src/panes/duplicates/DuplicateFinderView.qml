@@ -1,0 +1,64 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.Duplicates
+
+/// The Duplicates section: groups of equal files, the copy of each that stays, and a footer to move
+/// the others to the Trash.
+ToolPane {
+    id: root
+
+    required property DuplicateFinderModel model
+
+    title: model.title
+    subtitle: model.subtitle
+    actionTitle: model.actionTitle
+    isActionEnabled: model.canScan
+    isBusy: model.isScanning
+    rowsShowLoader: true
+    columns: [
+        ColumnSpec { title: qsTr("FILE") },
+        ColumnSpec { title: qsTr("COPIES"); width: TableMetrics.copiesWidth; alignment: Qt.AlignRight },
+        ColumnSpec { title: qsTr("EACH"); width: TableMetrics.eachWidth; alignment: Qt.AlignRight },
+        ColumnSpec { title: qsTr("RECLAIMABLE"); width: TableMetrics.reclaimableWidth; alignment: Qt.AlignRight }
+    ]
+    onAction: model.performAction()
+
+    filters: FolderStrip {
+        model: root.model
+    }
+
+    DuplicateTable {
+        visible: root.model.body === DuplicateFinderModel.Rows
+        model: root.model
+    }
+
+    LoadingPane {
+        visible: root.model.body === DuplicateFinderModel.Hashing
+        title: root.model.placeholderTitle
+        detail: root.model.placeholderDetail
+        style: LoadingStyle.Reading
+    }
+
+    ToolPlaceholder {
+        visible: root.model.body === DuplicateFinderModel.Placeholder
+        icon: root.model.placeholderIcon
+        title: root.model.placeholderTitle
+        detail: root.model.placeholderDetail
+        actionTitle: root.model.placeholderAction
+        onAction: root.model.chooseFolders()
+    }
+
+    footer: ToolFooter {
+        selectionSummary: root.model.selectionSummary
+        explanation: root.model.footerHint
+        buttonTitle: root.model.deleteButtonTitle
+        isEnabled: root.model.canDelete
+        isBusy: root.model.isDeleting
+        progress: root.model.deleteProgress
+        canStop: true
+        onAction: root.model.deleteSelected()
+        onStop: root.model.stopDeleting()
+    }
+}

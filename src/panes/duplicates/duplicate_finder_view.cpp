@@ -1,0 +1,327 @@
+#include "panes/duplicates/duplicate_finder_view.h"
+
+#include <QPointer>
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "core/deletion_guard.h"
+#include "state/change_to.h"
+#include "state/report_mailbox.h"
+#include "state/section.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::int64_t bytesPerMegabyte = 1'048'576;
+
+const std::string& toolKey() {
+  static const std::string key(rawValue(Section::duplicates));
+  return key;
+}
+
+std::vector<PickedFile> picked(const std::vector<DuplicateFile>& files) {
+  std::vector<PickedFile> all;
+  all.reserve(files.size());
+  std::ranges::transform(files, std::back_inserter(all), [](const DuplicateFile& file) {
+    return PickedFile{file.url, file.url.filename().native(), file.size};
+  });
+  return all;
+}
+
+}  // namespace
+
+DuplicateFinderView::DuplicateFinderView(const Sources& sources, const Desktop& desktop,
+                                         QObject* parent)
+    : QObject(parent),
+      _coordinator(sources.coordinator),
+      _activity(sources.activity),
+      _permissions(sources.permissions),
+      _desktop(desktop),
+      _rows(_choice, desktop),
+      _removal(desktop) {
+  for (const char* name : {"Documents", "Downloads", "Desktop"}) {
+    _scanDirs.push_back(desktop.files.home() / name);
+  }
+  connect(&_removal, &PickedFilesRemoval::changed, this, &DuplicateFinderView::deletionChanged);
+}
+
+DuplicateFinderView::~DuplicateFinderView() {
+  _lifetime.request_stop();
+  if (_scanTask) _scanTask->request_stop();
+  finishRemovals();
+  _work.finish();
+}
+
+QString DuplicateFinderView::title() const {
+  return duplicates::title(groups().size(), reclaimable(), _desktop.formatting);
+}
+
+QString DuplicateFinderView::subtitle() const {
+  if (_isScanning) {
+    return duplicates::scanningSubtitle(foundCount(), currentPath(), _desktop.files.home());
+  }
+  return _hasScanned ? duplicates::foundSubtitle(groups().size(), extraCopies())
+                     : duplicates::unscannedSubtitle();
+}
+
+QString DuplicateFinderView::actionTitle() const {
+  return QStringLiteral("Rescan");
+}
+
+DuplicateFinderView::Body DuplicateFinderView::body() const {
+  if (!groups().empty()) return Body::Rows;
+  return _isScanning ? Body::Hashing : Body::Placeholder;
+}
+
+duplicates::Placeholder DuplicateFinderView::placeholder() const {
+  if (_isScanning) return duplicates::hashing();
+  return _hasScanned ? duplicates::nothingFound() : duplicates::notScanned(_scanDirs);
+}
+
+QStringList DuplicateFinderView::folderHelps() const {
+  return duplicates::folderHelps(_scanDirs, _desktop.files.home());
+}
+
+QStringList DuplicateFinderView::keepRules() const {
+  QStringList labels;
+  for (const KeepRule rule : DuplicateSelection::allKeepRules) {
+    labels << QString::fromStdString(std::string(DuplicateSelection::label(rule)));
+  }
+  return labels;
+}
+
+int DuplicateFinderView::keepRuleIndex() const {
+  const auto& rules = DuplicateSelection::allKeepRules;
+  return static_cast<int>(
+      std::distance(rules.begin(), std::ranges::find(rules, _choice.keepRule())));
+}
+
+QString DuplicateFinderView::selectionSummary() const {
+  const auto& totals = _choice.totals();
+  return duplicates::selectionSummary(totals.selectedBytes, totals.selectedCount,
+                                      _desktop.formatting);
+}
+
+QString DuplicateFinderView::deleteButtonTitle() const {
+  return duplicates::deleteButtonTitle(_choice.totals().selectedBytes, _desktop.formatting);
+}
+
+void DuplicateFinderView::appear() {
+  if (_isScanning || _hasScanned) return;
+  _permissions.refreshAccess();
+  if (!_permissions.hasFullDiskAccess()) return;
+  runAutoScan(_coordinator, _desktop.clock,
+              {.key = toolKey(),
+               .isNeeded = [this] { return !_isScanning && !_hasScanned; },
+               .start = [this] { startScan(); },
+               .isRunning = [this] { return _isScanning; }},
+              _lifetime.get_token());
+}
+
+void DuplicateFinderView::finishRemovals() {
+  if (_deleteTask) _deleteTask->request_stop();
+  _removal.finish();
+}
+
+void DuplicateFinderView::performAction() {
+  if (isDeleting()) return;
+  if (_isScanning) return cancelScan();
+  askAndScan();
+}
+
+void DuplicateFinderView::askAndScan() {
+  _permissions.ensureAccess([pane = QPointer(this)] {
+    if (pane) pane->startScan();
+  });
+}
+
+void DuplicateFinderView::startScan() {
+  // The prompt may have ended after a scan or a deletion was started another way.
+  if (_isScanning || isDeleting()) return;
+  _report = {};
+  setScanning(true, _hasScanned);
+  setGroups({});
+  _activity.start(toolKey());
+  scan(_scanTask.emplace().get_token());
+}
+
+/// The search itself runs on to its end; what it brings is nobody's.
+void DuplicateFinderView::cancelScan() {
+  _scanTask->request_stop();
+  _scanTask.reset();
+  setScanning(false, true);
+  _activity.clear(toolKey());
+}
+
+QCoro::Task<> DuplicateFinderView::scan(std::stop_token stop) {
+  ReportMailbox<DuplicateProgress> reports(
+      _desktop.clock,
+      [this, stop](DuplicateProgress report) {
+        if (!stop.stop_requested()) scanMovedOn(std::move(report));
+      },
+      [](const DuplicateProgress&, const DuplicateProgress&) { return true; });
+  auto search = [&files = _desktop.files, folders = _scanDirs, &reports] {
+    DuplicateScanner scanner(files);
+    return unchosen(scanner.scan(folders, static_cast<std::int64_t>(minSizeMB) * bytesPerMegabyte,
+                                 [&](const DuplicateProgress& report) { reports.post(report); }));
+  };
+  ChosenGroups found = co_await onEngineThread(_work, std::move(search));
+  reports.empty();
+  if (stop.stop_requested()) {
+    _work.discard(std::move(found));
+  } else {
+    scanFinished(std::move(found));
+  }
+}
+
+void DuplicateFinderView::scanMovedOn(DuplicateProgress report) {
+  _report = std::move(report);
+  _activity.setProgress(toolKey(), _report.fraction);
+  emit subtitleChanged();
+}
+
+void DuplicateFinderView::scanFinished(ChosenGroups groups) {
+  _scanTask.reset();
+  setGroups(std::move(groups));
+  setScanning(false, true);
+  _activity.finish(toolKey(), duplicates::finishedSummary(_choice.groups().size()));
+  writeTotal();
+}
+
+void DuplicateFinderView::setScanning(bool isScanning, bool hasScanned) {
+  const bool isOther = changeTo(_isScanning, isScanning);
+  if (!changeTo(_hasScanned, hasScanned) && !isOther) return;
+  if (isOther) emit isScanningChanged();
+  emit subtitleChanged();
+  emit bodyChanged();
+}
+
+void DuplicateFinderView::setGroups(ChosenGroups groups) {
+  const Body before = body();
+  _rows.removeAll();
+  _work.discard(_choice.replace(std::move(groups)));
+  _rows.insertAll();
+  if (body() != before) emit bodyChanged();
+  emit totalsChanged();
+}
+
+void DuplicateFinderView::chooseFolders() {
+  _desktop.openPanel.chooseFolders(
+      {"Scan This Folder", "Klarvik reads only the folders listed here.", _desktop.files.home()},
+      [pane = QPointer(this)](const std::vector<Path>& folders) {
+        if (pane && !folders.empty()) pane->addFolders(folders);
+      });
+}
+
+void DuplicateFinderView::addFolders(const std::vector<Path>& folders) {
+  for (const Path& chosen : folders) {
+    const Path folder = standardizedPath(chosen);
+    const bool isListed = std::ranges::find(_scanDirs, folder) != _scanDirs.end();
+    if (!isListed) _scanDirs.push_back(folder);
+  }
+  emit scanDirsChanged();
+  emit bodyChanged();
+  if (!_isScanning && !isDeleting()) askAndScan();
+}
+
+void DuplicateFinderView::removeFolder(int index) {
+  if (_scanDirs.size() < 2 || index < 0 || static_cast<std::size_t>(index) >= _scanDirs.size()) {
+    return;
+  }
+  _scanDirs.erase(_scanDirs.begin() + index);
+  emit scanDirsChanged();
+  emit bodyChanged();
+}
+
+void DuplicateFinderView::chooseKeepRule(int index) {
+  const KeepRule rule = DuplicateSelection::allKeepRules.at(static_cast<std::size_t>(index));
+  if (rule == _choice.keepRule()) return;
+  _choice.setKeepRule(rule);
+  _rows.allChanged();
+  emit keepRuleChanged();
+  emit totalsChanged();
+}
+
+void DuplicateFinderView::activate(int row) {
+  if (!holds(row)) return;
+  if (_rows.at(row).isGroup()) {
+    _rows.toggleExpanded(row);
+  } else {
+    toggleSelection(row);
+  }
+}
+
+void DuplicateFinderView::toggleSelection(int row) {
+  if (!holds(row)) return;
+  const DuplicateRows::Row& pressed = _rows.at(row);
+  if (pressed.isGroup()) {
+    _choice.toggle(*pressed.group);
+  } else {
+    _choice.toggle(*pressed.group, pressed.file);
+  }
+  _rows.groupChanged(row);
+  emit totalsChanged();
+}
+
+void DuplicateFinderView::keepInstead(int row) {
+  if (!holds(row)) return;
+  const DuplicateRows::Row& pressed = _rows.at(row);
+  if (pressed.isGroup() || pressed.file == pressed.group->keeper) return;
+  _choice.keepInstead(*pressed.group, pressed.file);
+  _rows.groupChanged(row);
+  emit totalsChanged();
+}
+
+void DuplicateFinderView::deleteSelected() {
+  if (canDelete() && !isDeleting() && !_isScanning) moveSelectedToTrash();
+}
+
+void DuplicateFinderView::stopDeleting() {
+  if (_deleteTask) _deleteTask->request_stop();
+  _removal.cancel();
+}
+
+QCoro::Task<> DuplicateFinderView::moveSelectedToTrash() {
+  auto check = keeperCheck(_desktop.files, keptCopies(), _deleteTask.emplace().get_token());
+  const std::set<Path> trashed = co_await _removal.trash(picked(selectedFiles()), std::move(check));
+  _deleteTask.reset();
+  forget(trashed);
+  writeTotal();
+  _desktop.notifications.post(diskChangedNotification);
+}
+
+KeptCopies DuplicateFinderView::keptCopies() const {
+  KeptCopies kept;
+  for (const auto& group : groups()) {
+    const std::vector<DuplicateFile>& files = group->group.files;
+    if (group->selectedCount == 0) continue;
+    const auto keeper =
+        std::make_shared<const KeptCopy>(KeptCopy{files[group->keeper].url, group->group.hash});
+    for (std::size_t file = 0; file < files.size(); ++file) {
+      if (_choice.isSelected(*group, file)) kept.try_emplace(files[file].url.native(), keeper);
+    }
+  }
+  return kept;
+}
+
+void DuplicateFinderView::forget(const std::set<Path>& trashed) {
+  DuplicateChoice::Paths gone;
+  for (const Path& url : trashed) gone.insert(url.native());
+  const Body before = body();
+  const DuplicateChoice::GroupSet dissolved = _choice.dissolvedBy(gone);
+  _rows.removeFiles(gone, dissolved);
+  _work.discard(_choice.remove(gone, dissolved));
+  _rows.allChanged();
+  if (body() != before) emit bodyChanged();
+  emit subtitleChanged();
+  emit totalsChanged();
+}
+
+void DuplicateFinderView::writeTotal() {
+  _coordinator.setTotal(
+      toolKey(),
+      {.bytes = reclaimable(), .items = extraCopies(), .measuredAt = _desktop.clock.now()});
+}
+
+}  // namespace klarvik

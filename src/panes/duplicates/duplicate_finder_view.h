@@ -1,0 +1,190 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QCoro/QCoroTask>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <stop_token>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "panes/duplicates/duplicate_choice.h"
+#include "panes/duplicates/duplicate_rows.h"
+#include "panes/duplicates/duplicates_texts.h"
+#include "panes/duplicates/keeper_check.h"
+#include "panes/kit/tool_rules.h"
+#include "platform/platform.h"
+#include "state/engine_work.h"
+#include "state/permissions_manager.h"
+#include "state/picked_files_removal.h"
+#include "state/scan_coordinator.h"
+#include "state/tool_activity.h"
+#include "tools/duplicate_scanner.h"
+
+namespace klarvik {
+
+/// The Duplicates section: finds equal files in the folders that the user names, and moves all but
+/// one copy of each to the Trash. Right before a copy goes, the one that stays is read again: where
+/// it is gone or has changed, the copy stays as well. Main thread only; everything handed in must
+/// outlive it.
+class DuplicateFinderView : public QObject {
+  Q_OBJECT
+  QML_NAMED_ELEMENT(DuplicateFinderModel)
+  QML_UNCREATABLE("The pane makes it.")
+  Q_PROPERTY(QString title READ title NOTIFY totalsChanged)
+  Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged)
+  Q_PROPERTY(QString actionTitle READ actionTitle CONSTANT)
+  Q_PROPERTY(bool canScan READ canScan NOTIFY deletionChanged)
+  Q_PROPERTY(bool isScanning READ isScanning NOTIFY isScanningChanged)
+  Q_PROPERTY(Body body READ body NOTIFY bodyChanged)
+  Q_PROPERTY(QString placeholderIcon READ placeholderIcon NOTIFY bodyChanged)
+  Q_PROPERTY(QString placeholderTitle READ placeholderTitle NOTIFY bodyChanged)
+  Q_PROPERTY(QString placeholderDetail READ placeholderDetail NOTIFY bodyChanged)
+  Q_PROPERTY(QString placeholderAction READ placeholderAction NOTIFY bodyChanged)
+  Q_PROPERTY(QStringList folderNames READ folderNames NOTIFY scanDirsChanged)
+  Q_PROPERTY(QStringList folderHelps READ folderHelps NOTIFY scanDirsChanged)
+  Q_PROPERTY(QStringList keepRules READ keepRules CONSTANT)
+  Q_PROPERTY(int keepRuleIndex READ keepRuleIndex NOTIFY keepRuleChanged)
+  Q_PROPERTY(QString minSizeText READ minSizeText CONSTANT)
+  Q_PROPERTY(klarvik::DuplicateRows* rows READ rows CONSTANT)
+  Q_PROPERTY(QString selectionSummary READ selectionSummary NOTIFY totalsChanged)
+  Q_PROPERTY(QString deleteButtonTitle READ deleteButtonTitle NOTIFY totalsChanged)
+  Q_PROPERTY(bool canDelete READ canDelete NOTIFY totalsChanged)
+  Q_PROPERTY(QString footerHint READ footerHint CONSTANT)
+  Q_PROPERTY(bool isDeleting READ isDeleting NOTIFY deletionChanged)
+  Q_PROPERTY(klarvik::RemovalProgress deleteProgress READ deleteProgress NOTIFY deletionChanged)
+
+ public:
+  using KeepRule = DuplicateSelection::KeepRule;
+  enum class Body { Rows, Hashing, Placeholder };
+  Q_ENUM(Body)
+
+  /// The observable objects that the pane uses.
+  struct Sources {
+    ScanCoordinator& coordinator;
+    ToolActivity& activity;
+    PermissionsManager& permissions;
+  };
+
+  static constexpr double minSizeMB = 1.0;
+
+  DuplicateFinderView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
+  /// Starts no further removal and waits for those in hand; waits for scans as well, also for those
+  /// that were cancelled, since they cannot be stopped.
+  ~DuplicateFinderView() override;
+
+  [[nodiscard]] const ChosenGroups& groups() const { return _choice.groups(); }
+  [[nodiscard]] const std::unordered_set<Uuid>& expanded() const { return _rows.expanded(); }
+  [[nodiscard]] const std::unordered_set<Uuid>& deselected() const { return _choice.deselected(); }
+  [[nodiscard]] const std::unordered_map<Uuid, Uuid>& keepOverrides() const {
+    return _choice.keepOverrides();
+  }
+  [[nodiscard]] bool isScanning() const { return _isScanning; }
+  [[nodiscard]] bool hasScanned() const { return _hasScanned; }
+  [[nodiscard]] double progress() const { return _report.fraction; }
+  [[nodiscard]] std::int64_t foundCount() const { return _report.groupsFound; }
+  [[nodiscard]] const std::string& currentPath() const { return _report.line; }
+  [[nodiscard]] bool isDeleting() const { return _removal.isRunning(); }
+  [[nodiscard]] RemovalProgress deleteProgress() const { return _removal.progress(); }
+  [[nodiscard]] KeepRule keepRule() const { return _choice.keepRule(); }
+  [[nodiscard]] const std::vector<Path>& scanDirs() const { return _scanDirs; }
+
+  /// Bytes of all copies that may go, selected or not.
+  [[nodiscard]] std::int64_t reclaimable() const { return _choice.totals().reclaimable; }
+  [[nodiscard]] std::int64_t extraCopies() const { return _choice.totals().extraCopies; }
+  [[nodiscard]] std::vector<DuplicateFile> selectedFiles() const { return _choice.selectedFiles(); }
+  [[nodiscard]] QString folderList() const { return duplicates::folderList(_scanDirs); }
+
+  [[nodiscard]] QString title() const;
+  [[nodiscard]] QString subtitle() const;
+  [[nodiscard]] QString actionTitle() const;
+  [[nodiscard]] bool canScan() const { return !isDeleting(); }
+  [[nodiscard]] Body body() const;
+  [[nodiscard]] QString placeholderIcon() const { return placeholder().icon; }
+  [[nodiscard]] QString placeholderTitle() const { return placeholder().title; }
+  [[nodiscard]] QString placeholderDetail() const { return placeholder().detail; }
+  [[nodiscard]] QString placeholderAction() const { return placeholder().actionTitle; }
+  [[nodiscard]] QStringList folderNames() const { return duplicates::folderNames(_scanDirs); }
+  [[nodiscard]] QStringList folderHelps() const;
+  [[nodiscard]] QStringList keepRules() const;
+  [[nodiscard]] int keepRuleIndex() const;
+  [[nodiscard]] QString minSizeText() const { return duplicates::minSizeText(minSizeMB); }
+  [[nodiscard]] DuplicateRows* rows() { return &_rows; }
+  [[nodiscard]] QString selectionSummary() const;
+  [[nodiscard]] QString deleteButtonTitle() const;
+  [[nodiscard]] bool canDelete() const { return _choice.totals().selectedCount > 0; }
+  [[nodiscard]] QString footerHint() const { return duplicates::footerHint(); }
+
+  /// For the moment when the pane is first there: scans by itself, once its turn has come.
+  void appear();
+  /// For the end of the program: starts no further removal, and waits for those in hand.
+  void finishRemovals();
+
+  /// The header's main button: gives a running scan up, else starts one. Nothing during a deletion.
+  Q_INVOKABLE void performAction();
+  Q_INVOKABLE void chooseFolders();
+  /// The last folder stays.
+  Q_INVOKABLE void removeFolder(int index);
+  Q_INVOKABLE void chooseKeepRule(int index);
+  /// What pressing the row does: a group opens or closes, a copy is selected or not.
+  Q_INVOKABLE void activate(int row);
+  /// What pressing the selection box of the row does. Nothing on a row that has none.
+  Q_INVOKABLE void toggleSelection(int row);
+  /// The entry in the menu of a copy that would go. Nothing on any other row.
+  Q_INVOKABLE void keepInstead(int row);
+  Q_INVOKABLE void deleteSelected();
+  Q_INVOKABLE void stopDeleting();
+
+ signals:
+  void totalsChanged();
+  void subtitleChanged();
+  void isScanningChanged();
+  void bodyChanged();
+  void scanDirsChanged();
+  void keepRuleChanged();
+  void deletionChanged();
+
+ private:
+  void askAndScan();
+  void startScan();
+  void cancelScan();
+  QCoro::Task<> scan(std::stop_token stop);
+  void scanMovedOn(DuplicateProgress report);
+  void scanFinished(ChosenGroups groups);
+  void setScanning(bool isScanning, bool hasScanned);
+  void setGroups(ChosenGroups groups);
+  void addFolders(const std::vector<Path>& folders);
+
+  QCoro::Task<> moveSelectedToTrash();
+  void forget(const std::set<Path>& trashed);
+  void writeTotal();
+  [[nodiscard]] KeptCopies keptCopies() const;
+  [[nodiscard]] bool holds(int row) const { return row >= 0 && row < _rows.rowCount(); }
+  [[nodiscard]] duplicates::Placeholder placeholder() const;
+
+  ScanCoordinator& _coordinator;
+  ToolActivity& _activity;
+  PermissionsManager& _permissions;
+  const Desktop& _desktop;
+
+  std::vector<Path> _scanDirs;
+  DuplicateChoice _choice;
+  DuplicateRows _rows;
+  bool _isScanning = false;
+  bool _hasScanned = false;
+  DuplicateProgress _report;  ///< the latest one
+
+  std::optional<std::stop_source> _scanTask;
+  std::optional<std::stop_source> _deleteTask;
+  std::stop_source _lifetime;
+  PickedFilesRemoval _removal;
+  EngineWork _work;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <memory>
+#include <stop_token>
+#include <string>
+#include <unordered_map>
+
+#include "engine/scanner_engine.h"
+
+namespace klarvik {
+
+/// The copy of a group that stays.
+struct KeptCopy {
+  Path url;
+  std::string hash;  ///< as in `DuplicateGroup`
+};
+
+/// Which copy stays in the place of which: by the path of the one that goes.
+using KeptCopies = std::unordered_map<std::string, std::shared_ptr<const KeptCopy>>;
+
+/// Asked right before a copy goes, on any of the removal's threads: it may only if the one that
+/// stays was just now read whole, holds the same content, and is another file, or the same file
+/// under a name of its own. Nothing that stays for the sake of any copy may go. After a stop
+/// request nothing may. Must not outlive `files`.
+[[nodiscard]] ScannerEngine::PickedFileCheck keeperCheck(const FileSystem& files,
+                                                         KeptCopies keptCopies,
+                                                         std::stop_token stop);
+
+}  // namespace klarvik

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QFileDialog>
+#include <memory>
+
+#include "platform/open_panel.h"
+
+namespace klarvik {
+
+/// The folder panel that Qt draws itself, since the desktops' own ones let choose a single folder.
+/// Needs a `QApplication` as long as it is in use.
+class QtOpenPanel final : public OpenPanel {
+ public:
+  explicit QtOpenPanel(const FileSystem& files);
+
+  void chooseFolders(const Request& request, Answer answer) override;
+
+ private:
+  [[nodiscard]] std::vector<Path> chosen() const;
+
+  const FileSystem& _files;
+  std::unique_ptr<QFileDialog> _dialog;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,178 @@
+#include "panes/duplicates/duplicate_rows.h"
+
+#include <gmock/gmock.h>
+
+#include <QAbstractItemModelTester>
+#include <QPersistentModelIndex>
+#include <QSignalSpy>
+
+#include "panes/kit/file_url.h"
+#include "panes/kit/kit_enums.h"
+#include "support/test_desktop.h"
+
+namespace klarvik {
+namespace {
+
+class DuplicateRowsTest : public testing::Test {
+ protected:
+  /// Groups of `copies` files, the first of which stays: "/0/0", "/0/1"; "/1/0"...
+  void show(std::size_t groups, std::size_t copies) {
+    std::vector<DuplicateGroup> all(groups);
+    for (std::size_t group = 0; group < groups; ++group) {
+      for (std::size_t file = 0; file < copies; ++file) {
+        all[group].files.push_back({.url = path(group, file), .size = 1000});
+      }
+    }
+    rows.removeAll();
+    former = choice.replace(unchosen(std::move(all)));
+    rows.insertAll();
+  }
+  [[nodiscard]] static Path path(std::size_t group, std::size_t file) {
+    return Path("/") / std::to_string(group) / std::to_string(file);
+  }
+  void remove(const std::vector<Path>& files) {
+    DuplicateChoice::Paths gone;
+    for (const Path& file : files) gone.insert(file.native());
+    const auto dissolved = choice.dissolvedBy(gone);
+    rows.removeFiles(gone, dissolved);
+    former = choice.remove(gone, dissolved);
+    rows.allChanged();
+  }
+  /// Whatever was done, the rows are those that the choice and the open groups ask for.
+  void expectRight() const {
+    int row = 0;
+    for (const auto& group : choice.groups()) {
+      ASSERT_LT(row, rows.rowCount());
+      ASSERT_EQ(rows.at(row).group, group.get());
+      ASSERT_TRUE(rows.at(row++).isGroup());
+      if (!rows.expanded().contains(group->group.id)) continue;
+      for (std::size_t file = 0; file < group->group.files.size(); ++file) {
+        ASSERT_LT(row, rows.rowCount());
+        ASSERT_EQ(rows.at(row).group, group.get());
+        ASSERT_EQ(rows.at(row++).file, file);
+      }
+    }
+    EXPECT_EQ(row, rows.rowCount());
+  }
+  [[nodiscard]] QVariant at(int row, int role) const { return rows.index(row).data(role); }
+
+  TestDesktop around;
+  Desktop desktop = around.desktop();
+  DuplicateChoice choice;
+  ChosenGroups former;
+  DuplicateRows rows{choice, desktop};
+  QSignalSpy reset{&rows, &QAbstractItemModel::modelReset};
+};
+
+TEST_F(DuplicateRowsTest, TheFirstGroupStandsOpen) {
+  show(2, 2);
+  EXPECT_EQ(rows.rowCount(), 4);
+  EXPECT_EQ(at(0, DuplicateRows::IsExpandedRole), true);
+  EXPECT_EQ(at(3, DuplicateRows::IsExpandedRole), false);
+  expectRight();
+}
+
+TEST_F(DuplicateRowsTest, AGroupRowAndACopyRowSayWhatTheyAre) {
+  show(1, 3);
+  EXPECT_EQ(at(0, DuplicateRows::NameRole), "0");
+  EXPECT_EQ(at(0, DuplicateRows::CopiesRole), "3");
+  EXPECT_EQ(at(0, DuplicateRows::EachRole), "1 KB");
+  EXPECT_EQ(at(0, DuplicateRows::ReclaimableRole), "2 KB");
+  EXPECT_EQ(at(0, DuplicateRows::SelectionRole), static_cast<int>(SelectionState::All));
+  EXPECT_EQ(at(0, DuplicateRows::DescriptionRole), "0, 3 copies, 2 KB reclaimable");
+  EXPECT_EQ(at(1, DuplicateRows::FateRole), static_cast<int>(Fate::Keep));
+  EXPECT_EQ(at(1, DuplicateRows::CanToggleRole), false);
+  EXPECT_EQ(at(1, DuplicateRows::MenuEntryRole), "This copy stays");
+  EXPECT_EQ(at(2, DuplicateRows::NameRole), "1");
+  EXPECT_EQ(at(2, DuplicateRows::FolderRole), "/0/");
+  EXPECT_EQ(at(2, DuplicateRows::PathRole), "/0/1");
+  EXPECT_EQ(at(2, DuplicateRows::FateRole), static_cast<int>(Fate::Delete));
+  EXPECT_EQ(at(2, DuplicateRows::CanToggleRole), true);
+  EXPECT_EQ(at(2, DuplicateRows::SelectionRole), static_cast<int>(SelectionState::All));
+  EXPECT_EQ(at(2, DuplicateRows::MenuEntryRole), "Keep this copy instead");
+  EXPECT_EQ(at(2, DuplicateRows::DescriptionRole), "1, 1 KB, delete, /0/");
+}
+
+TEST_F(DuplicateRowsTest, TheBoxOfAGroupHasThreeStates) {
+  show(1, 3);
+  choice.toggle(*choice.groups()[0], 1);
+  EXPECT_EQ(at(0, DuplicateRows::SelectionRole), static_cast<int>(SelectionState::Partial));
+  EXPECT_EQ(at(2, DuplicateRows::SelectionRole), static_cast<int>(SelectionState::None));
+  choice.toggle(*choice.groups()[0], 2);
+  EXPECT_EQ(at(0, DuplicateRows::SelectionRole), static_cast<int>(SelectionState::None));
+}
+
+TEST_F(DuplicateRowsTest, OpeningAndClosingTellsTheViewEveryRow) {
+  const QAbstractItemModelTester tester(&rows,
+                                        QAbstractItemModelTester::FailureReportingMode::Fatal);
+  show(3, 3);
+  rows.toggleExpanded(2);
+  EXPECT_EQ(rows.rowCount(), 3);
+  rows.toggleExpanded(1);
+  expectRight();
+  rows.toggleExpanded(0);
+  expectRight();
+  rows.toggleExpanded(0);
+  expectRight();
+  EXPECT_EQ(rows.rowCount(), 6);
+  EXPECT_EQ(reset.count(), 0);
+}
+
+TEST_F(DuplicateRowsTest, ARemovalTakesTheirRowsAndLeavesTheOthersWhereTheyAre) {
+  const QAbstractItemModelTester tester(&rows,
+                                        QAbstractItemModelTester::FailureReportingMode::Fatal);
+  show(4, 3);
+  const QPersistentModelIndex last(rows.index(rows.rowCount() - 1));
+  remove({path(0, 1), path(2, 1), path(2, 2)});
+  expectRight();
+  EXPECT_EQ(rows.rowCount(), 5);
+  EXPECT_EQ(last.row(), 4);
+  EXPECT_EQ(at(0, DuplicateRows::CopiesRole), "2");
+  EXPECT_EQ(at(2, DuplicateRows::PathRole), "/0/2");
+  EXPECT_EQ(reset.count(), 0);
+}
+
+TEST_F(DuplicateRowsTest, ARemovalAllOverTheListKeepsWhatIsInSightWhereItIs) {
+  show(1000, 2);
+  rows.lookAt(502);
+  const QPersistentModelIndex inSight(rows.index(503));
+  const ChosenGroup* group = rows.at(503).group;
+  QSignalSpy removals(&rows, &QAbstractItemModel::rowsRemoved);
+  std::vector<Path> gone;
+  for (std::size_t number = 0; number < 1000; number += 2) gone.push_back(path(number, 1));
+  ASSERT_EQ(rows.at(503).group, choice.groups()[501].get());
+  remove(gone);
+  expectRight();
+  EXPECT_EQ(rows.rowCount(), 500);
+  EXPECT_LE(removals.count(), 2);
+  ASSERT_TRUE(inSight.isValid());
+  EXPECT_EQ(rows.at(inSight.row()).group, group);
+  EXPECT_EQ(reset.count(), 0);
+}
+
+TEST_F(DuplicateRowsTest, NewGroupsComeAsRowsAndNotAsAReset) {
+  show(2, 2);
+  show(3, 2);
+  expectRight();
+  show(0, 0);
+  EXPECT_EQ(rows.rowCount(), 0);
+  EXPECT_EQ(reset.count(), 0);
+}
+
+TEST_F(DuplicateRowsTest, AGroupWithoutFilesIsUnknown) {
+  show(1, 0);
+  EXPECT_EQ(at(0, DuplicateRows::NameRole), "Unknown");
+  EXPECT_EQ(at(0, DuplicateRows::SelectionRole), static_cast<int>(SelectionState::None));
+}
+
+TEST_F(DuplicateRowsTest, AnOddNameIsMadePrintableAndItsUrlHoldsTheBytes) {
+  std::vector<DuplicateGroup> groups(1);
+  groups[0].files = {{.url = "/a\xff\n"}, {.url = "/b"}};
+  former = choice.replace(unchosen(std::move(groups)));
+  rows.insertAll();
+  EXPECT_EQ(at(1, DuplicateRows::NameRole).toString(), QStringLiteral("a\uFFFD\uFFFD"));
+  EXPECT_EQ(pathOfUrl(at(1, DuplicateRows::UrlRole).toUrl()), Path("/a\xff\n"));
+}
+
+}  // namespace
+}  // namespace klarvik
