@@ -5,9 +5,9 @@
 
 #include "panes/kit/kit.h"
 
-void qml_register_types_Klarvik_Duplicates();
 void qml_register_types_Klarvik_SmartScan();
 void qml_register_types_Klarvik_Storage();
+void qml_register_types_Klarvik_Duplicates();
 void qml_register_types_Klarvik_LargeFiles();
 void qml_register_types_Klarvik_Uninstaller();
 void qml_register_types_Klarvik_Shell();
@@ -17,9 +17,9 @@ namespace klarvik {
 std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& desktop) {
   std::unique_ptr<MainWindow> opened(new MainWindow);
   QQmlApplicationEngine& engine = opened->_engine;
-  qml_register_types_Klarvik_Duplicates();
   qml_register_types_Klarvik_SmartScan();
   qml_register_types_Klarvik_Storage();
+  qml_register_types_Klarvik_Duplicates();
   qml_register_types_Klarvik_LargeFiles();
   qml_register_types_Klarvik_Uninstaller();
   qml_register_types_Klarvik_Shell();
