@@ -107,11 +107,16 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       DuplicateFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
                                    _shared.permissionsManager()},
       _desktop);
+  _systemDataPane = std::make_unique<SystemDataView>(
+      SystemDataView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                              _shared.permissionsManager(), _shared.trashMonitor()},
+      _desktop);
   return {
       landed(Section::smartScan, "SmartScan/SmartScanPane.qml", *_smartScanPane),
       landed(Section::storage, "Storage/StorageAnalyticsView.qml", *_storagePane),
       landed(Section::duplicates, "Duplicates/DuplicateFinderView.qml", *_duplicatesPane),
       landed(Section::largeFiles, "LargeFiles/LargeFileFinderView.qml", *_largeFilesPane),
+      landed(Section::systemData, "SystemData/SystemDataView.qml", *_systemDataPane),
       landed(Section::uninstaller, "Uninstaller/AppUninstallerView.qml", *_uninstallerPane),
   };
 }

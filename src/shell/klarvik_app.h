@@ -10,6 +10,7 @@
 #include "panes/large_files/large_file_finder_view.h"
 #include "panes/smart_scan/smart_scan_pane.h"
 #include "panes/storage/storage_analytics_view.h"
+#include "panes/system_data/system_data_view.h"
 #include "panes/uninstaller/app_uninstaller_view.h"
 #include "platform/platform.h"
 #include "shell/app_shell.h"
@@ -52,6 +53,7 @@ class KlarvikApp : public QObject {
   std::unique_ptr<StorageAnalyticsView> _storagePane;
   std::unique_ptr<DuplicateFinderView> _duplicatesPane;
   std::unique_ptr<LargeFileFinderView> _largeFilesPane;
+  std::unique_ptr<SystemDataView> _systemDataPane;
   std::unique_ptr<AppUninstallerView> _uninstallerPane;
   std::vector<LandedPane> _panes;  ///< in section order
   std::unique_ptr<AppShell> _shell;

@@ -9,6 +9,7 @@ void qml_register_types_Klarvik_SmartScan();
 void qml_register_types_Klarvik_Storage();
 void qml_register_types_Klarvik_Duplicates();
 void qml_register_types_Klarvik_LargeFiles();
+void qml_register_types_Klarvik_SystemData();
 void qml_register_types_Klarvik_Uninstaller();
 void qml_register_types_Klarvik_Shell();
 
@@ -21,6 +22,7 @@ std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& des
   qml_register_types_Klarvik_Storage();
   qml_register_types_Klarvik_Duplicates();
   qml_register_types_Klarvik_LargeFiles();
+  qml_register_types_Klarvik_SystemData();
   qml_register_types_Klarvik_Uninstaller();
   qml_register_types_Klarvik_Shell();
   installKit(engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});
