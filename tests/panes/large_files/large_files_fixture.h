@@ -126,7 +126,8 @@ class LargeFilesFixture : public ::testing::Test {
                   desk.clock,
                   desk.notifications,
                   desk.workspace,
-                  desk.pasteboard};
+                  desk.pasteboard,
+                  desk.openPanel};
   SharedState shared{desktop};
   std::unique_ptr<LargeFileFinderView> pane = std::make_unique<LargeFileFinderView>(
       LargeFileFinderView::Sources{shared.scanCoordinator(), shared.toolActivity(),

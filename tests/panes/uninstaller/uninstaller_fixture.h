@@ -130,7 +130,8 @@ class UninstallerFixture : public ::testing::Test {
                   desk.clock,
                   desk.notifications,
                   desk.workspace,
-                  desk.pasteboard};
+                  desk.pasteboard,
+                  desk.openPanel};
   SharedState shared{desktop};
   std::optional<AppUninstallerView> view;
 };
