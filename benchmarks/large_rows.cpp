@@ -27,6 +27,7 @@
 #include "support/memory_pasteboard.h"
 #include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
+#include "support/scripted_open_panel.h"
 
 namespace {
 
@@ -103,11 +104,13 @@ struct Around {
   RecordingWorkspace workspace;
   RecordingRecentDocuments recentDocuments;
   MemoryPasteboard pasteboard;
+  ScriptedOpenPanel openPanel;
   Desktop desktop{{files, trash, commands, defaults, volume, formatting, info, recentDocuments},
                   clock,
                   notifications,
                   workspace,
-                  pasteboard};
+                  pasteboard,
+                  openPanel};
 };
 
 /// Lets the main loop run as fast as it can until `isOver`, and keeps the time of its turns.

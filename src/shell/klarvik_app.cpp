@@ -95,22 +95,24 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       StorageAnalyticsView::Sources{_shared.scanHistory(), _shared.diskMonitor(),
                                     _shared.permissionsManager()},
       _desktop);
-  _largeFilesPane = std::make_unique<LargeFileFinderView>(
-      LargeFileFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                   _shared.permissionsManager()},
-      _desktop);
-  _uninstallerPane = std::make_unique<AppUninstallerView>(
-      AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                  _shared.navigator()},
-      _desktop);
   _duplicatesPane = std::make_unique<DuplicateFinderView>(
       DuplicateFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                                   _shared.permissionsManager()},
+      _desktop);
+  _largeFilesPane = std::make_unique<LargeFileFinderView>(
+      LargeFileFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
                                    _shared.permissionsManager()},
       _desktop);
   _systemDataPane = std::make_unique<SystemDataView>(
       SystemDataView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
                               _shared.permissionsManager(), _shared.trashMonitor()},
       _desktop);
+  _uninstallerPane = std::make_unique<AppUninstallerView>(
+      AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                                  _shared.navigator()},
+      _desktop);
+  _privacyPane = std::make_unique<PrivacyCleanerView>(
+      PrivacyCleanerView::Sources{_shared.scanCoordinator(), _shared.toolActivity()}, _desktop);
   return {
       landed(Section::smartScan, "SmartScan/SmartScanPane.qml", *_smartScanPane),
       landed(Section::storage, "Storage/StorageAnalyticsView.qml", *_storagePane),
@@ -118,6 +120,7 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       landed(Section::largeFiles, "LargeFiles/LargeFileFinderView.qml", *_largeFilesPane),
       landed(Section::systemData, "SystemData/SystemDataView.qml", *_systemDataPane),
       landed(Section::uninstaller, "Uninstaller/AppUninstallerView.qml", *_uninstallerPane),
+      landed(Section::privacy, "Privacy/PrivacyCleanerView.qml", *_privacyPane),
   };
 }
 

@@ -8,6 +8,7 @@
 
 #include "panes/duplicates/duplicate_finder_view.h"
 #include "panes/large_files/large_file_finder_view.h"
+#include "panes/privacy/privacy_cleaner_view.h"
 #include "panes/smart_scan/smart_scan_pane.h"
 #include "panes/storage/storage_analytics_view.h"
 #include "panes/system_data/system_data_view.h"
@@ -55,6 +56,7 @@ class KlarvikApp : public QObject {
   std::unique_ptr<LargeFileFinderView> _largeFilesPane;
   std::unique_ptr<SystemDataView> _systemDataPane;
   std::unique_ptr<AppUninstallerView> _uninstallerPane;
+  std::unique_ptr<PrivacyCleanerView> _privacyPane;
   std::vector<LandedPane> _panes;  ///< in section order
   std::unique_ptr<AppShell> _shell;
   std::unique_ptr<MainWindow> _window;

@@ -11,6 +11,7 @@ void qml_register_types_Klarvik_Duplicates();
 void qml_register_types_Klarvik_LargeFiles();
 void qml_register_types_Klarvik_SystemData();
 void qml_register_types_Klarvik_Uninstaller();
+void qml_register_types_Klarvik_Privacy();
 void qml_register_types_Klarvik_Shell();
 
 namespace klarvik {
@@ -24,6 +25,7 @@ std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& des
   qml_register_types_Klarvik_LargeFiles();
   qml_register_types_Klarvik_SystemData();
   qml_register_types_Klarvik_Uninstaller();
+  qml_register_types_Klarvik_Privacy();
   qml_register_types_Klarvik_Shell();
   installKit(engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});
   engine.setInitialProperties({{"shell", QVariant::fromValue(&shell)}});

@@ -10,6 +10,7 @@ class FullDiskAccessWindow : public EmptyHomeWindowFixture {
   void SetUp() override {
     EmptyHomeWindowFixture::SetUp();
     desk->disk.makeFolder(protectedFile);
+    desk->defaults.remove("fda_prompt_shown");
   }
 };
 

@@ -16,13 +16,7 @@ class WithLargeFiles : public Fixture {
   }
   /// The first scan; the placeholder names the button, too.
   [[nodiscard]] bool rescan() {
-    const auto buttons = this->window().contentItem()->template findChildren<QQuickItem*>(
-        QStringLiteral("mainButton"));
-    const auto button = std::ranges::find_if(buttons, [](const QQuickItem* item) {
-      return item->isEnabled() && item->property("title").toString() == "Rescan";
-    });
-    if (button == buttons.end()) return false;
-    this->clickAt(**button, (*button)->boundingRect().center());
+    this->clickMainButton("Rescan");
     const bool ended = this->turnUntil([this] {
       return !this->shows("Finds the biggest files") && !this->shows("Scanning your home folder");
     });

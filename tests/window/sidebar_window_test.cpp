@@ -11,14 +11,11 @@ class SidebarWindow : public WindowFixture {
 };
 class SidebarWindowOverAnEmptyHome : public EmptyHomeWindowFixture {};
 
-TEST_F(SidebarWindow, ListsOnlySectionsThatHaveAPaneAndNoHeadingWithoutASection) {
+TEST_F(SidebarWindow, ListsEverySectionBelowItsHeading) {
   openWindow();
-  for (const char* present : {"Smart Scan", "STORAGE", "Storage", "Duplicates", "Large Files",
-                              "System Data", "APPS", "Uninstaller"}) {
-    EXPECT_TRUE(shows(present)) << present;
-  }
-  for (const char* absent : {"Privacy", "Settings"}) {
-    EXPECT_FALSE(shows(absent)) << absent;
+  for (const char* row : {"Smart Scan", "STORAGE", "Storage", "Duplicates", "Large Files",
+                          "System Data", "APPS", "Uninstaller", "Privacy"}) {
+    EXPECT_TRUE(shows(row)) << row;
   }
 }
 
@@ -115,7 +112,6 @@ TEST_F(SidebarWindow, ForgetsTheKeysThatAFormerFeatureLeftBehind) {
   EXPECT_FALSE(desk->defaults.object("clean_schedule"));
   EXPECT_FALSE(desk->defaults.object("last_auto_clean"));
   EXPECT_FALSE(desk->defaults.object("onboarding_complete"));
-  EXPECT_FALSE(desk->defaults.object("fda_prompt_shown"));
 }
 
 TEST_F(SidebarWindow, ReadsTheDiskAnewWhenTheApplicationComesToTheFront) {

@@ -18,22 +18,9 @@ class UninstallerWindow : public WindowFixture {
     click("Acme Writer, ");
     return waitFor("com.acme.writer.plist, ") != nullptr;
   }
-  /// The footer's button below `item`; the head of the pane bears the same words.
-  [[nodiscard]] static QQuickItem* uninstallButton(QQuickItem& item) {
-    if (item.objectName() == "mainButton" && item.isVisible() &&
-        item.property("title").toString().startsWith("Uninstall ")) {
-      return &item;
-    }
-    for (QQuickItem* child : item.childItems()) {
-      if (QQuickItem* found = uninstallButton(*child)) return found;
-    }
-    return nullptr;
-  }
   void clickUninstall() {
     settle();
-    QQuickItem* button = uninstallButton(*window().contentItem());
-    ASSERT_NE(button, nullptr);
-    clickAt(*button, button->boundingRect().center());
+    clickMainButton("Uninstall ");
   }
   void pictureOfEverySize(const QString& name) {
     picture(name);

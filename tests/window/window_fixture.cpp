@@ -77,6 +77,7 @@ void WindowFixture::SetUp() {
   desk = std::make_unique<DesktopOnDisk>(diskOptions);
   shared = std::make_unique<SharedState>(desk->desktop);
   desk->defaults.set("backgroundScanOnLaunch", false);
+  desk->defaults.set("fda_prompt_shown", true);
 }
 
 void WindowFixture::TearDown() {
@@ -134,6 +135,14 @@ void WindowFixture::click(const QString& name) {
   QQuickItem* item = waitFor(name);
   ASSERT_NE(item, nullptr) << name.toStdString() << " is not on the screen";
   clickAt(*item, item->boundingRect().center());
+}
+
+void WindowFixture::clickMainButton(const QString& title) {
+  QQuickItem* button = findIn(*window().contentItem(), [&](const QQuickItem& item) {
+    return item.objectName() == "mainButton" && item.property("title").toString().startsWith(title);
+  });
+  ASSERT_NE(button, nullptr) << title.toStdString() << " is no button on the screen";
+  clickAt(*button, button->boundingRect().center());
 }
 
 void WindowFixture::clickAt(QQuickItem& item, QPointF place) {

@@ -25,7 +25,8 @@ class WindowFixture : public ::testing::Test {
   void SetUp() override;
   void TearDown() override;
 
-  /// Automatic scans are off unless a test turns them on before this.
+  /// Automatic scans are off, and the permission is not asked for, unless a test changes that
+  /// before this.
   void openWindow();
   void closeWindow();
 
@@ -42,6 +43,9 @@ class WindowFixture : public ::testing::Test {
   [[nodiscard]] bool shows(const QString& name) const { return find(name) != nullptr; }
   void click(const QString& name);
   void clickAt(QQuickItem& item, QPointF place);
+  /// The button of that title that does what the pane, its placeholder or its footer is for; other
+  /// texts may begin with the same words.
+  void clickMainButton(const QString& title);
   /// The box in front of the row that is called so.
   void clickSelectionBox(const QString& row);
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

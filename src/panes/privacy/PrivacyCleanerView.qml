@@ -1,0 +1,64 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.Privacy
+
+/// The Privacy section: the trails found, and what clearing each of them costs.
+ToolPane {
+    id: root
+
+    required property PrivacyCleanerModel model
+
+    readonly property placeholder instead: model.placeholder
+
+    title: qsTr("Privacy")
+    subtitle: model.subtitle
+    actionTitle: qsTr("Rescan")
+    isBusy: model.isScanning
+    rowsShowLoader: true
+    columns: [
+        ColumnSpec {
+            title: qsTr("TRAIL")
+        },
+        ColumnSpec {
+            title: qsTr("WHAT CLEARING COSTS")
+            width: PrivacyMetrics.costWidth
+        },
+        ColumnSpec {
+            title: qsTr("ITEMS")
+            width: PrivacyMetrics.itemsWidth
+            alignment: Qt.AlignRight
+        },
+        ColumnSpec {
+            title: qsTr("SIZE")
+            width: PrivacyMetrics.sizeWidth
+            alignment: Qt.AlignRight
+        }
+    ]
+    onAction: model.performAction()
+
+    TrailTable {
+        anchors.fill: parent
+        visible: !root.instead.isShown
+        model: root.model
+    }
+
+    ToolPlaceholder {
+        visible: root.instead.isShown
+        isBusy: root.instead.isBusy
+        icon: root.instead.icon
+        title: root.instead.title
+        detail: root.instead.detail
+    }
+
+    footer: ToolFooter {
+        visible: !root.instead.isShown
+        selectionSummary: root.model.selectionSummary
+        explanation: root.model.selectionHint
+        buttonTitle: root.model.clearTitle
+        isEnabled: root.model.canClear
+        isBusy: root.model.isCleaning
+        onAction: root.model.clear()
+    }
+}

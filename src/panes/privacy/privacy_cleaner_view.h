@@ -1,0 +1,125 @@
+#pragma once
+
+#include <QCoro/QCoroTask>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+#include <optional>
+#include <stop_token>
+#include <unordered_set>
+#include <vector>
+
+#include "panes/kit/placeholder.h"
+#include "panes/privacy/trail_list.h"
+#include "platform/platform.h"
+#include "state/engine_work.h"
+#include "state/scan_coordinator.h"
+#include "state/tool_activity.h"
+#include "tools/privacy_scanner.h"
+
+namespace klarvik {
+
+/// The pane that shows the trails of use, tells for each what clearing costs,
+/// and clears those selected. Main thread only; everything handed in must
+/// outlive it, and its destructor waits for a clearing under way.
+class PrivacyCleanerView : public QObject {
+  Q_OBJECT
+  QML_NAMED_ELEMENT(PrivacyCleanerModel)
+  QML_UNCREATABLE("The program makes it.")
+  Q_PROPERTY(QString subtitle READ subtitle NOTIFY stateChanged)
+  Q_PROPERTY(
+      klarvik::Placeholder placeholder READ placeholder NOTIFY stateChanged)
+  Q_PROPERTY(bool isScanning READ isScanning NOTIFY stateChanged)
+  Q_PROPERTY(bool isCleaning READ isCleaning NOTIFY stateChanged)
+  Q_PROPERTY(bool hasItems READ hasItems NOTIFY stateChanged)
+  Q_PROPERTY(
+      QString selectionSummary READ selectionSummary NOTIFY selectionChanged)
+  Q_PROPERTY(QString selectionHint READ selectionHint NOTIFY selectionChanged)
+  Q_PROPERTY(QString clearTitle READ clearTitle NOTIFY selectionChanged)
+  Q_PROPERTY(bool canClear READ canClear NOTIFY selectionChanged)
+  Q_PROPERTY(klarvik::TrailList *trailList READ trailList CONSTANT)
+
+public:
+  /// The observable objects that the pane uses.
+  struct Sources {
+    ScanCoordinator &coordinator;
+    ToolActivity &activity;
+  };
+
+  PrivacyCleanerView(const Sources &sources, const Desktop &desktop,
+                     QObject *parent = nullptr);
+  ~PrivacyCleanerView() override;
+
+  [[nodiscard]] const std::vector<PrivacyItem> &items() const {
+    return _trailList.items();
+  }
+  [[nodiscard]] const std::unordered_set<Uuid> &selected() const {
+    return _trailList.selected();
+  }
+  [[nodiscard]] bool isScanning() const { return _isScanning; }
+  [[nodiscard]] bool hasScanned() const { return _hasScanned; }
+  /// A share of 1.
+  [[nodiscard]] double progress() const { return _progress; }
+  [[nodiscard]] const QString &currentTask() const { return _currentTask; }
+  [[nodiscard]] bool isCleaning() const { return _isCleaning; }
+  /// What the last clearing did, until the next scan.
+  [[nodiscard]] const std::optional<PrivacyClearance> &lastResult() const {
+    return _lastResult;
+  }
+
+  [[nodiscard]] QString subtitle() const;
+  [[nodiscard]] Placeholder placeholder() const;
+  [[nodiscard]] bool hasItems() const { return !items().empty(); }
+  [[nodiscard]] QString selectionSummary() const;
+  [[nodiscard]] QString selectionHint() const;
+  [[nodiscard]] QString clearTitle() const;
+  [[nodiscard]] bool canClear() const;
+  [[nodiscard]] TrailList *trailList() { return &_trailList; }
+
+  /// Scans when the turn of this tool comes. To be called once.
+  QCoro::Task<> appear();
+  /// For the end of the program: waits for a clearing under way.
+  void finishRemovals() { _clearings.finish(); }
+
+  /// The header's main button: stops a running scan, else starts one.
+  Q_INVOKABLE void performAction();
+  Q_INVOKABLE void toggle(int row);
+  /// Clears what is selected.
+  Q_INVOKABLE void clear();
+
+signals:
+  void stateChanged();
+  void selectionChanged();
+
+private:
+  struct Report {
+    double fraction = 0;
+    QString line;
+  };
+
+  void startScan();
+  void cancelScan();
+  QCoro::Task<> scan();
+  void showReport(const Report &report);
+  void finishScan(std::vector<PrivacyItem> found);
+  QCoro::Task<> clearItems(std::vector<PrivacyItem> items);
+
+  ScanCoordinator &_coordinator;
+  ToolActivity &_activity;
+  const Desktop &_desktop;
+
+  TrailList _trailList;
+  bool _isScanning = false;
+  bool _hasScanned = false;
+  double _progress = 0;
+  QString _currentTask;
+  bool _isCleaning = false;
+  std::optional<PrivacyClearance> _lastResult;
+
+  std::stop_source _stop;
+  std::stop_source _scanTask;
+  EngineWork _scans;
+  EngineWork _clearings;
+};
+
+} // namespace klarvik

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <cstddef>
+#include <cstdint>
+
+#include "platform/formatting.h"
+#include "tools/privacy_item.h"
+#include "tools/privacy_scanner.h"
+
+/// The texts of the Privacy pane that follow a rule.
+namespace klarvik::privacy {
+
+/// What clearing a trail of this kind costs the user.
+[[nodiscard]] QString cost(PrivacyCategory category);
+/// How many entries a trail has; a dash where they are not counted.
+[[nodiscard]] QString entryCount(const PrivacyItem &item);
+
+[[nodiscard]] QString clearedSubtitle(const PrivacyClearance &result,
+                                      const Formatting &formatting);
+[[nodiscard]] QString selectionSummary(std::size_t selectedCount,
+                                       std::int64_t selectedBytes,
+                                       const Formatting &formatting);
+[[nodiscard]] QString selectionHint(bool holdsWhatHurts);
+[[nodiscard]] QString clearTitle(std::size_t selectedCount);
+
+} // namespace klarvik::privacy

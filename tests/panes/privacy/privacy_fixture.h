@@ -1,0 +1,143 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <atomic>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "panes/privacy/privacy_cleaner_view.h"
+#include "state/shared_state.h"
+#include "support/desktop_on_disk.h"
+#include "support/faulting_file_system.h"
+
+namespace klarvik {
+
+/// A Privacy pane over a real disk, in a program of its own with a main loop. A
+/// scan can be held up while it looks for the browser history, a clearing
+/// before it removes the list of recent apps.
+class PrivacyFixture : public ::testing::Test {
+ protected:
+  using Operation = FaultingFileSystem::Operation;
+  static constexpr std::int64_t kilobyte = 1'000;
+
+  PrivacyFixture() {
+    view.emplace(PrivacyCleanerView::Sources{shared.scanCoordinator(), shared.toolActivity()},
+                 desktop);
+  }
+  ~PrivacyFixture() override { gate.open(); }
+
+  [[nodiscard]] Path inLibrary(const std::string& place) const {
+    return desk.files.home() / "Library" / place;
+  }
+  void add(const std::string& place, std::int64_t bytes) const {
+    desk.disk.makeFile(inLibrary(place), bytes);
+  }
+  void addHistory() const { add("Safari/History.db", 500 * kilobyte); }
+  void addCookies() const {
+    add("Application Support/Google/Chrome/Default/Cookies", 60 * kilobyte);
+  }
+  void addRecentApps() const { add("Preferences/com.apple.dock.plist", 8 * kilobyte); }
+  void addRecentFiles() const {
+    add("Application Support/com.apple.sharedfilelist/a.sfl2", 6 * kilobyte);
+    add("Application Support/com.apple.sharedfilelist/b.sfl2", 4 * kilobyte);
+  }
+  /// A trail of every kind that a scan finds.
+  void addEverything() {
+    addHistory();
+    addCookies();
+    addRecentApps();
+    add("Caches/Firefox/data", 900 * kilobyte);
+    addRecentFiles();
+    add("Preferences/com.apple.LaunchServices.QuarantineEventsV2", 90 * kilobyte);
+    add("Caches/locationd/data", 20 * kilobyte);
+    desk.pasteboard.isFilled = true;
+  }
+
+  void holdScan() {
+    gate.close();
+    files.before(Operation::exists, inLibrary("Safari/History.db"), [this] { gate.pass(); });
+  }
+  /// There must be recent files to clear.
+  void holdClearing() { gate.close(); }
+  [[nodiscard]] bool isHeld() {
+    return turnUntil([this] { return gate.waiting() == 1; });
+  }
+
+  /// Turns the main loop, and moves the clock on, until `reached` holds. False
+  /// when it never does.
+  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
+    const QDeadlineTimer giveUp(60'000);
+    while (!reached()) {
+      if (giveUp.hasExpired()) return false;
+      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+      desk.clock.advance(std::chrono::milliseconds(1));
+    }
+    return true;
+  }
+  [[nodiscard]] bool scan() {
+    view->performAction();
+    return turnUntil([this] { return !view->isScanning(); });
+  }
+  [[nodiscard]] bool clear() {
+    view->clear();
+    return turnUntil([this] { return !view->isCleaning(); });
+  }
+
+  QVariant row(int at, TrailList::Role role) { return view->trailList()->index(at).data(role); }
+  /// Headings stand between brackets.
+  QStringList names() {
+    QStringList shown;
+    for (int at = 0; at < view->trailList()->rowCount(); ++at) {
+      const QString name = row(at, TrailList::NameRole).toString();
+      const bool isHeading =
+          row(at, TrailList::KindRole).toInt() == static_cast<int>(TrailList::RowKind::Heading);
+      shown << (isHeading ? "[" + name + "]" : name);
+    }
+    return shown;
+  }
+  void toggle(const QString& name) { view->toggle(static_cast<int>(names().indexOf(name))); }
+  [[nodiscard]] bool isSelected(const QString& name) {
+    return row(static_cast<int>(names().indexOf(name)), TrailList::IsSelectedRole).toBool();
+  }
+
+ private:
+  int _count = 1;
+  char _name[6] = "tests";
+  char* _arguments[2] = {_name, nullptr};
+  QCoreApplication _application{_count, _arguments};
+
+  class GatedRecentDocuments final : public RecentDocuments {
+   public:
+    explicit GatedRecentDocuments(Gate& gate) : _gate(gate) {}
+    bool clear() override {
+      _gate.pass();
+      ++clearings;
+      return true;
+    }
+    std::atomic<int> clearings = 0;
+
+   private:
+    Gate& _gate;
+  };
+
+ protected:
+  DesktopOnDisk desk;
+  Gate gate;
+  GatedRecentDocuments recentDocuments{gate};
+  FaultingFileSystem files{desk.files};
+  Desktop desktop{{files, desk.desktop.trash, desk.desktop.commands, desk.defaults, desk.volume,
+                   desk.formatting, desk.info, recentDocuments},
+                  desk.clock,
+                  desk.notifications,
+                  desk.workspace,
+                  desk.pasteboard,
+                  desk.openPanel};
+  SharedState shared{desktop};
+  std::optional<PrivacyCleanerView> view;
+};
+
+}  // namespace klarvik

@@ -1,0 +1,160 @@
+#include "window_fixture.h"
+
+namespace klarvik {
+namespace {
+
+/// The button in the head of the pane that is seen; the placeholder begins with the same word.
+QQuickItem* rescanButton(QQuickItem& item) {
+  if (item.opacity() == 0 || !item.isVisible()) return nullptr;
+  if (item.objectName() == "mainButton" && item.property("title") == "Rescan") return &item;
+  for (QQuickItem* child : item.childItems()) {
+    if (QQuickItem* found = rescanButton(*child)) return found;
+  }
+  return nullptr;
+}
+
+class PrivacyWindow : public WindowFixture {
+ protected:
+  void clickRescan() {
+    QQuickItem* button = rescanButton(*window().contentItem());
+    ASSERT_NE(button, nullptr);
+    clickAt(*button, button->boundingRect().center());
+  }
+  [[nodiscard]] bool openPane() {
+    openWindow();
+    click("Privacy");
+    settle();
+    return shows("No scan yet");
+  }
+  [[nodiscard]] bool openAndScan() {
+    if (!openPane()) return false;
+    clickRescan();
+    return waitFor("Browser History, ") != nullptr;
+  }
+  void pictureOfEverySize(const QString& name) {
+    picture(name);
+    window().resize(920, 640);
+    picture(name + "_920x640");
+    window().resize(2560, 1440);
+    picture(name + "_2560x1440");
+  }
+};
+class PrivacyWindowOverAnEmptyHome : public EmptyHomeWindowFixture {};
+
+TEST_F(PrivacyWindow, OffersAScanWhereThereWasNone) {
+  ASSERT_TRUE(openPane());
+  EXPECT_TRUE(shows("Rescan to see what your Mac has recorded."));
+  EXPECT_TRUE(
+      shows("Clearing a trail is not the same as freeing space. Each "
+            "row says what it costs you."));
+  for (const char* text : {"TRAIL", "WHAT CLEARING COSTS", "ITEMS", "SIZE"}) {
+    EXPECT_TRUE(shows(text)) << text;
+  }
+  EXPECT_FALSE(shows("Clear 0 trails"));
+  picture("privacy-empty");
+}
+
+TEST_F(PrivacyWindow, ShowsEveryTrailAndWhatClearingItCosts) {
+  desk->pasteboard.isFilled = true;
+  ASSERT_TRUE(openAndScan());
+  settle();
+  for (const char* text :
+       {"SAFARI, CHROME, FIREFOX", "MACOS RECENTS", "SYSTEM TRAILS", "Browser Cookies, ",
+        "Recent Files, ", "Recent Apps, ", "Downloads List, ", "Quarantine DB, ", "Clipboard, ",
+        "Clearing a trail is permanent, but nothing you rely on is removed."}) {
+    EXPECT_TRUE(shows(text)) << text;
+  }
+  pictureOfEverySize("privacy-full");
+}
+
+TEST_F(PrivacyWindow, ClearsWhatIsSelectedAndTouchesNoFile) {
+  desk->pasteboard.isFilled = true;
+  ASSERT_TRUE(openAndScan());
+  clickSelectionBox("Browser Cookies, ");
+  settle();
+  EXPECT_TRUE(shows("Your selection signs you out of sites. This cannot be undone."));
+  picture("privacy-cookies");
+  clickSelectionBox("Browser Cookies, ");
+  settle();
+  EXPECT_TRUE(shows("Clearing a trail is permanent, but nothing you rely on is removed."));
+  clickSelectionBox("Recent Apps, ");
+  clickSelectionBox("Clipboard, ");
+  const Listing before = listing();
+  const std::size_t trashed = trashCount();
+  click("Clear ");
+  ASSERT_NE(waitFor("Cleared "), nullptr);
+  settle();
+  picture("privacy-after");
+  EXPECT_TRUE(shows("Recent Apps, "));
+  EXPECT_FALSE(shows("Quarantine DB, "));
+
+  EXPECT_EQ(listing(), before);
+  EXPECT_EQ(trashCount(), trashed);
+  EXPECT_FALSE(desk->pasteboard.isFilled);
+  EXPECT_EQ(desk->recentDocuments.clearings, 1);
+}
+
+TEST_F(PrivacyWindow, RevealsATrailWithoutDeselectingIt) {
+  ASSERT_TRUE(openAndScan());
+  settle();
+  QQuickItem* row = find("Recent Apps, ");
+  ASSERT_NE(row, nullptr);
+  QQuickItem* reveal = nullptr;
+  for (QQuickItem* part : row->findChildren<QQuickItem*>()) {
+    if (part->property("title") == "Show in Finder") reveal = part;
+  }
+  ASSERT_NE(reveal, nullptr);
+  clickAt(*reveal, reveal->boundingRect().center());
+  EXPECT_EQ(desk->workspace.revealedItems,
+            std::vector<Path>{desk->files.home() / "Library/Preferences/com.apple.dock.plist"});
+  EXPECT_TRUE(row->property("isSelected").toBool());
+}
+
+TEST_F(PrivacyWindow, IsUsedFromTheKeyboardAlone) {
+  ASSERT_TRUE(openPane());
+  ASSERT_TRUE(tabTo("Rescan"));
+  press(Qt::Key_Space);
+  ASSERT_NE(waitFor("Browser History, "), nullptr);
+  settle();
+  ASSERT_TRUE(tabTo("SAFARI, CHROME, FIREFOX"));
+  while (!focused().startsWith("Browser History, ")) press(Qt::Key_Down);
+  press(Qt::Key_Space);
+  settle();
+  EXPECT_FALSE(find("Browser History, ")->property("isSelected").toBool());
+  picture("privacy-keyboard");
+  ASSERT_TRUE(tabTo("Clear "));
+  press(Qt::Key_Return);
+  ASSERT_NE(waitFor("Cleared "), nullptr);
+  EXPECT_TRUE(shows("Browser History, "));
+  EXPECT_FALSE(shows("Recent Files, "));
+  EXPECT_EQ(desk->recentDocuments.clearings, 1);
+}
+
+TEST_F(PrivacyWindow, ScansInItsTurnAtLaunch) {
+  desk->defaults.remove("backgroundScanOnLaunch");
+  openWindow();
+  ASSERT_TRUE(turnUntil([this] { return shared->scanCoordinator().totals().contains("privacy"); }));
+  EXPECT_GT(shared->scanCoordinator().totals().at("privacy").items, 5);
+}
+
+TEST_F(PrivacyWindow, ClosedDuringAClearingFinishesIt) {
+  ASSERT_TRUE(openAndScan());
+  settle();
+  click("Clear ");
+  closeWindow();
+  EXPECT_EQ(desk->recentDocuments.clearings, 1);
+}
+
+TEST_F(PrivacyWindowOverAnEmptyHome, SaysThatThereIsNothingToClear) {
+  openWindow();
+  click("Privacy");
+  settle();
+  QQuickItem* button = rescanButton(*window().contentItem());
+  ASSERT_NE(button, nullptr);
+  clickAt(*button, button->boundingRect().center());
+  ASSERT_NE(waitFor("Nothing to clear"), nullptr);
+  picture("privacy-nothing");
+}
+
+}  // namespace
+}  // namespace klarvik
