@@ -130,8 +130,10 @@ TEST_F(DuplicatesWindowOverAnEmptyHome, ChangesTheRuleAndTheFolders) {
   settle();
   EXPECT_FALSE(shows("Downloads"));
   EXPECT_TRUE(shows("Music"));
-  for (const char* folder : {"Documents", "Desktop", "Music"}) click(folder);
-  settle();
+  for (const char* folder : {"Documents", "Desktop", "Music"}) {
+    click(folder);
+    settle();
+  }
   EXPECT_TRUE(shows("Music")) << "the last folder stays";
   picture("duplicates-one-folder");
 }

@@ -125,6 +125,7 @@ TEST_F(PrivacyWindow, IsUsedFromTheKeyboardAlone) {
   ASSERT_TRUE(tabTo("Clear "));
   press(Qt::Key_Return);
   ASSERT_NE(waitFor("Cleared "), nullptr);
+  settle();
   EXPECT_TRUE(shows("Browser History, "));
   EXPECT_FALSE(shows("Recent Files, "));
   EXPECT_EQ(desk->recentDocuments.clearings, 1);

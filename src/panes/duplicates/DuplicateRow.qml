@@ -26,7 +26,7 @@ Item {
     required property string description
 
     property bool isMarked: false
-    /// A row that is kept for later use is not there for a screen reader.
+    /// A row that is kept for later use is not there, for a screen reader neither.
     property bool isPooled: false
 
     signal pressed
@@ -42,7 +42,7 @@ Item {
     implicitHeight: isGroup ? TableMetrics.groupHeight : TableMetrics.copyHeight
     ListView.onPooled: isPooled = true
     ListView.onReused: isPooled = false
-    Accessible.ignored: isPooled
+    visible: !isPooled
     Accessible.role: isGroup ? Accessible.TreeItem : Accessible.CheckBox
     Accessible.name: description
     Accessible.focusable: true
@@ -106,6 +106,7 @@ Item {
         }
 
         FateTag {
+            Layout.preferredWidth: width
             visible: !root.isGroup
             fate: root.fate
         }
@@ -118,6 +119,7 @@ Item {
                 Layout.fillWidth: true
                 text: root.name
                 fullText: root.path
+                horizontalAlignment: Text.AlignLeft
                 font: root.isGroup ? Theme.groupTitle : Theme.font(12, Font.Normal)
             }
 
@@ -126,6 +128,7 @@ Item {
                 visible: !root.isGroup
                 text: root.folder
                 fullText: root.path
+                horizontalAlignment: Text.AlignLeft
                 size: 10.5
                 color: Theme.textTertiary
             }

@@ -11,17 +11,19 @@ Item {
     id: root
 
     required property DuplicateFinderModel model
+    /// What a focus ring takes up around a chip.
+    readonly property int ringRoom: 4
 
-    implicitHeight: line.implicitHeight + 28
+    implicitHeight: line.implicitHeight - 2 * ringRoom + 28
     width: parent ? parent.width : implicitWidth
 
     RowLayout {
         id: line
         anchors.left: parent.left
-        anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         anchors.leftMargin: Theme.sidePadding
-        anchors.rightMargin: Theme.sidePadding
+        // The usual folders fit into the smallest window.
+        width: Math.min(implicitWidth, root.width - Theme.sidePadding - root.ringRoom)
         spacing: 10
 
         FilterLabel { text: qsTr("Folders") }
@@ -32,19 +34,23 @@ Item {
             Layout.fillWidth: true
             Layout.minimumWidth: 60
             Layout.maximumWidth: implicitWidth
+            Layout.leftMargin: -root.ringRoom
+            Layout.rightMargin: -root.ringRoom
             implicitWidth: Math.ceil(chips.implicitWidth)
             implicitHeight: chips.implicitHeight
-            contentWidth: chips.implicitWidth
+            contentWidth: implicitWidth
             contentHeight: height
             flickableDirection: Flickable.HorizontalFlick
             boundsBehavior: Flickable.StopAtBounds
             clip: contentWidth > width
 
             function show(chip: Item) {
-                if (chip.x < contentX)
-                    contentX = chip.x;
-                else if (chip.x + chip.width > contentX + width)
-                    contentX = chip.x + chip.width - width;
+                const left = chip.x - root.ringRoom;
+                const right = chip.x + chip.width + root.ringRoom;
+                if (left < contentX)
+                    contentX = left;
+                else if (right > contentX + width)
+                    contentX = right - width;
             }
 
             WheelHandler {
@@ -58,6 +64,7 @@ Item {
 
             Row {
                 id: chips
+                padding: root.ringRoom
                 spacing: 10
 
                 Repeater {
@@ -93,7 +100,5 @@ Item {
         }
 
         FilterLabel { text: root.model.minSizeText }
-
-        Item { Layout.fillWidth: true }
     }
 }

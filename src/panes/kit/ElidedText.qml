@@ -18,14 +18,16 @@ KitText {
 
     HoverHandler {
         id: hover
+
+        onHoveredChanged: tipLoader.setSource(hover.hovered && root.tip !== "" ? "KitToolTip.qml" : "", {
+            text: root.tip,
+            shown: true
+        })
     }
 
     Loader {
+        id: tipLoader
+
         anchors.fill: parent
-        active: hover.hovered && root.tip !== ""
-        sourceComponent: KitToolTip {
-            shown: true
-            text: root.tip
-        }
     }
 }

@@ -21,16 +21,16 @@ Item {
     required property string description
 
     property bool isMarked: false
-    /// A row that is kept for later use is not there for a screen reader.
     property bool isPooled: false
 
     signal pressed
     signal toggled
 
     implicitHeight: TableMetrics.rowHeight
+    // A row kept for later use is not drawn, and must not be told to a screen reader either.
+    visible: !isPooled
     ListView.onPooled: isPooled = true
     ListView.onReused: isPooled = false
-    Accessible.ignored: isPooled
     Accessible.role: Accessible.CheckBox
     Accessible.name: description
     Accessible.focusable: true

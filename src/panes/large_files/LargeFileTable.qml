@@ -35,7 +35,12 @@ Item {
 
         onFirstRowChanged: lookAtRows()
         onCurrentIndexChanged: lookAtRows()
-        onActiveFocusChanged: marksCurrentRow = activeFocus
+        onActiveFocusChanged: {
+            marksCurrentRow = activeFocus;
+            // Who comes back by Tab begins with the row, not with the button in it.
+            if (!activeFocus && currentItem)
+                currentItem.focus = true;
+        }
         Keys.onPressed: event => {
             const page = Math.max(1, Math.floor(height / TableMetrics.rowHeight) - 1);
             const steps = {

@@ -20,7 +20,7 @@ Item {
     required property bool isSelected
     required property string description
 
-    property bool canToggle: true
+    property bool isLocked: false
     property bool isMarked: false
 
     readonly property bool isTrail: kind === TrailListModel.Trail
@@ -70,7 +70,7 @@ Item {
             size: 16
             selection: root.isSelected ? SelectionState.All : SelectionState.None
             label: root.name
-            canToggle: root.canToggle
+            canToggle: !root.isLocked
             activeFocusOnTab: false
             onToggled: root.pressed()
         }

@@ -35,7 +35,7 @@ Item {
 
         delegate: TrailRow {
             width: list.width
-            canToggle: !root.model.isCleaning
+            isLocked: root.model.isCleaning
             isMarked: activeFocus && list.marksCurrentRow
             onPressed: {
                 list.currentIndex = index;
