@@ -78,10 +78,17 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       StorageAnalyticsView::Sources{_shared.scanHistory(), _shared.diskMonitor(),
                                     _shared.permissionsManager()},
       _desktop);
+  _systemDataPane = std::make_unique<SystemDataView>(
+      SystemDataView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                              _shared.permissionsManager(), _shared.trashMonitor()},
+      _desktop);
   return {
       {Section::smartScan, QUrl("qrc:/Klarvik/SmartScan/SmartScanPane.qml"), _smartScanPane.get()},
-      {Section::storage, QUrl("qrc:/Klarvik/Storage/StorageAnalyticsView.qml"),
-       _storagePane.get()}};
+      {Section::storage, QUrl("qrc:/Klarvik/Storage/StorageAnalyticsView.qml"), _storagePane.get()},
+      {.section = Section::systemData,
+       .view = QUrl("qrc:/Klarvik/SystemData/SystemDataView.qml"),
+       .model = _systemDataPane.get(),
+       .finishRemovals = [pane = _systemDataPane.get()] { pane->finishRemovals(); }}};
 }
 
 QCoro::Task<> KlarvikApp::launch() {

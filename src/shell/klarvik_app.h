@@ -8,6 +8,7 @@
 
 #include "panes/smart_scan/smart_scan_pane.h"
 #include "panes/storage/storage_analytics_view.h"
+#include "panes/system_data/system_data_view.h"
 #include "platform/platform.h"
 #include "shell/app_shell.h"
 #include "shell/main_window.h"
@@ -47,6 +48,7 @@ class KlarvikApp : public QObject {
   std::unique_ptr<AppState> _appState;
   std::unique_ptr<SmartScanPane> _smartScanPane;
   std::unique_ptr<StorageAnalyticsView> _storagePane;
+  std::unique_ptr<SystemDataView> _systemDataPane;
   std::vector<LandedPane> _panes;  ///< in section order
   std::unique_ptr<AppShell> _shell;
   std::unique_ptr<MainWindow> _window;

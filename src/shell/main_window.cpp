@@ -7,6 +7,7 @@
 
 void qml_register_types_Klarvik_SmartScan();
 void qml_register_types_Klarvik_Storage();
+void qml_register_types_Klarvik_SystemData();
 void qml_register_types_Klarvik_Shell();
 
 namespace klarvik {
@@ -16,6 +17,7 @@ std::unique_ptr<MainWindow> MainWindow::open(AppShell& shell, const Desktop& des
   QQmlApplicationEngine& engine = opened->_engine;
   qml_register_types_Klarvik_SmartScan();
   qml_register_types_Klarvik_Storage();
+  qml_register_types_Klarvik_SystemData();
   qml_register_types_Klarvik_Shell();
   installKit(engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});
   engine.setInitialProperties({{"shell", QVariant::fromValue(&shell)}});

@@ -55,6 +55,8 @@ Rectangle {
                     text: root.subtitle
                     size: 12
                     color: Theme.textSecondary
+                    wrapMode: Text.WordWrap
+                    maximumLineCount: 2
                     Layout.fillWidth: true
                 }
             }

@@ -1,7 +1,9 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Klarvik.Kit
 
-/// A number in a column: digits of one width, held to the right.
+// A number in a column: digits of one width, held to the right.
 Item {
     id: root
 

@@ -1,0 +1,31 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+/// A line of the empty state: what it is about, and a word about it.
+RowLayout {
+    id: root
+
+    required property string name
+    required property string word
+    property color wordColor: Theme.textTertiary
+    readonly property string description: root.name + ", " + root.word
+
+    implicitHeight: 38
+    spacing: Theme.partSpacing
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.description
+
+    KitText {
+        Layout.fillWidth: true
+        text: root.name
+    }
+
+    KitText {
+        text: root.word
+        size: 11
+        color: root.wordColor
+    }
+}

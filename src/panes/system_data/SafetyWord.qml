@@ -1,0 +1,11 @@
+import QtQuick
+import Klarvik.Kit
+import Klarvik.SystemData
+
+/// A verdict in words, in the colour that goes with it.
+KitText {
+    required property int safety
+
+    size: 11
+    color: safety === SystemDataModel.Safe ? Theme.safe : safety === SystemDataModel.Review ? Theme.review : Theme.textTertiary
+}

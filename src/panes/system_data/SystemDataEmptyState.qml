@@ -1,0 +1,113 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+import Klarvik.SystemData
+
+/// What an analysis will look at, for a pane that has not made one yet.
+Item {
+    id: root
+
+    required property SystemDataModel model
+
+    ColumnLayout {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.leftMargin: Theme.sidePadding
+        anchors.rightMargin: Theme.sidePadding
+        spacing: 12
+
+        SectionHeading {
+            text: qsTr("WHAT THE ANALYSIS WILL LOOK AT")
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            Layout.maximumWidth: 1120
+            implicitHeight: places.implicitHeight + 12
+            radius: 10
+            color: Theme.raised
+            border.color: Theme.hairline
+
+            ColumnLayout {
+                id: places
+
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                anchors.leftMargin: 18
+                anchors.rightMargin: 18
+                spacing: 0
+
+                EmptyStateRow {
+                    Layout.fillWidth: true
+                    name: qsTr("Device backups, Mail downloads, Homebrew and other caches")
+                    word: root.model.safetyText(SystemDataModel.Safe)
+                    wordColor: Theme.safe
+                }
+
+                EmptyStateRow {
+                    Layout.fillWidth: true
+                    name: qsTr("Local Time Machine snapshots")
+                    word: root.model.safetyText(SystemDataModel.Review)
+                    wordColor: Theme.review
+                }
+
+                EmptyStateRow {
+                    Layout.fillWidth: true
+                    name: qsTr("Swap, iCloud local copies, system frameworks")
+                    word: root.model.safetyText(SystemDataModel.Protected)
+                }
+            }
+        }
+
+        KitText {
+            Layout.fillWidth: true
+            Layout.maximumWidth: 640
+            text: qsTr("Walking these folders takes about 40 seconds, which is why it is not part of a normal scan. It reads sizes only — nothing is selected, moved or deleted until you say so.")
+            color: Theme.textTertiary
+            size: 12
+            lineHeight: 1.3
+            elide: Text.ElideNone
+            maximumLineCount: 4
+            wrapMode: Text.WordWrap
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            Layout.maximumWidth: 1120
+            Layout.topMargin: 8
+            implicitHeight: outlook.implicitHeight + 12
+            radius: 10
+            color: Theme.raised
+            border.color: Theme.hairline
+
+            ColumnLayout {
+                id: outlook
+
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                anchors.leftMargin: 18
+                anchors.rightMargin: 18
+                spacing: 0
+
+                EmptyStateRow {
+                    Layout.fillWidth: true
+                    name: qsTr("System Data · after analysis")
+                    word: qsTr("Unknown until it is measured")
+                }
+
+                EmptyStateRow {
+                    Layout.fillWidth: true
+                    visible: !root.model.hasFullDiskAccess
+                    name: qsTr("Needs Full Disk Access")
+                    word: qsTr("Not granted")
+                    wordColor: Theme.review
+                }
+            }
+        }
+    }
+}

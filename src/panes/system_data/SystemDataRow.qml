@@ -1,0 +1,220 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+import Klarvik.SystemData
+
+/// One row of the findings: a kind, what an open kind is, or one of its items.
+Item {
+    id: root
+
+    required property int index
+    required property int rowKind
+    required property string kindName
+    required property string name
+    required property string detail
+    required property string path
+    required property url url
+    required property string symbol
+    required property color color
+    required property int safety
+    required property string safetyText
+    required property int selection
+    required property bool canToggle
+    required property string selectionHelp
+    required property string share
+    required property string size
+    required property bool isExpanded
+    required property string description
+
+    property SystemDataModel model
+    property bool isMarked: false
+
+    readonly property bool isKind: rowKind === SystemDataTableModel.Kind
+    readonly property bool isHeader: rowKind === SystemDataTableModel.Header
+    readonly property bool isItem: rowKind === SystemDataTableModel.Item
+    readonly property bool isHighlighted: isKind && model.highlighted === kindName
+
+    signal pressed
+
+    implicitHeight: isHeader ? explanation.implicitHeight : SystemDataMetrics.rowHeight
+    Accessible.role: isKind ? Accessible.TreeItem : isItem && canToggle ? Accessible.CheckBox : Accessible.StaticText
+    Accessible.name: description
+    Accessible.focusable: !isHeader
+    Accessible.checkable: canToggle
+    Accessible.checked: selection === SelectionState.All
+    Accessible.onPressAction: model.table.activate(index)
+    Accessible.onToggleAction: model.table.toggleSelection(index)
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.white(root.isHighlighted ? 0.06 : rowHover.hovered && !root.isHeader ? 0.03 : root.isKind ? 0 : 0.02)
+    }
+
+    HoverHandler {
+        id: rowHover
+
+        onHoveredChanged: root.model.hover(root.kindName, hovered)
+    }
+
+    TapHandler {
+        enabled: !root.isHeader
+        onTapped: {
+            root.pressed();
+            root.model.table.activate(root.index);
+        }
+    }
+
+    ColumnLayout {
+        id: explanation
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: Theme.sidePadding + SystemDataMetrics.indent
+        anchors.rightMargin: Theme.sidePadding
+        visible: root.isHeader
+        spacing: 8
+
+        KitText {
+            Layout.fillWidth: true
+            Layout.maximumWidth: 760
+            Layout.topMargin: 10
+            text: root.isHeader ? root.name : ""
+            size: 12
+            color: Theme.textSecondary
+            lineHeight: 1.25
+            elide: Text.ElideNone
+            maximumLineCount: 5
+            wrapMode: Text.WordWrap
+        }
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.bottomMargin: 8
+            spacing: SystemDataMetrics.columnSpacing
+
+            SectionHeading {
+                Layout.fillWidth: true
+                text: qsTr("WHAT IT IS")
+                size: 10
+            }
+
+            SectionHeading {
+                Layout.preferredWidth: SystemDataMetrics.statusWidth
+                text: qsTr("STATUS")
+                size: 10
+            }
+
+            SectionHeading {
+                Layout.preferredWidth: SystemDataMetrics.shareWidth
+                text: qsTr("SHARE")
+                size: 10
+                horizontalAlignment: Text.AlignRight
+            }
+
+            SectionHeading {
+                Layout.preferredWidth: SystemDataMetrics.sizeWidth
+                text: qsTr("SIZE")
+                size: 10
+                horizontalAlignment: Text.AlignRight
+            }
+        }
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.sidePadding + (root.isItem ? SystemDataMetrics.indent : 0)
+        anchors.rightMargin: Theme.sidePadding
+        visible: !root.isHeader
+        spacing: SystemDataMetrics.columnSpacing
+
+        Item {
+            Layout.preferredWidth: 16
+            Layout.preferredHeight: 16
+
+            SelectionBox {
+                visible: root.canToggle
+                size: 16
+                selection: root.selection
+                label: root.name
+                help: root.selectionHelp
+                canToggle: root.canToggle
+                activeFocusOnTab: false
+                onToggled: {
+                    root.pressed();
+                    root.model.table.toggleSelection(root.index);
+                }
+            }
+        }
+
+        Symbol {
+            Layout.preferredWidth: 14
+            visible: root.isKind
+            name: root.isExpanded ? "chevron.down" : "chevron.right"
+            size: 10
+            color: Theme.textTertiary
+        }
+
+        Symbol {
+            Layout.preferredWidth: 20
+            visible: root.isKind
+            name: root.symbol
+            size: 16
+            color: root.color
+        }
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 2
+
+            ElidedText {
+                Layout.fillWidth: true
+                text: root.name
+                fullText: root.path
+                size: root.isKind ? 13 : 12
+                weight: root.isKind ? Font.Medium : Font.Normal
+            }
+
+            KitText {
+                Layout.fillWidth: true
+                text: root.detail
+                size: 10.5
+                color: Theme.textTertiary
+                elide: Text.ElideMiddle
+            }
+        }
+
+        RevealButton {
+            visible: root.isItem
+            activeFocusOnTab: root.ListView.isCurrentItem
+            url: root.url
+        }
+
+        SafetyWord {
+            Layout.preferredWidth: SystemDataMetrics.statusWidth
+            safety: root.safety
+            text: root.safetyText
+        }
+
+        Figure {
+            Layout.preferredWidth: SystemDataMetrics.shareWidth
+            text: root.share
+        }
+
+        Figure {
+            Layout.preferredWidth: SystemDataMetrics.sizeWidth
+            text: root.size
+            isStrong: root.isKind
+        }
+    }
+
+    Separator {
+        anchors.bottom: parent.bottom
+    }
+
+    FocusRing {
+        shown: root.isMarked
+        gap: -3
+    }
+}

@@ -1,0 +1,73 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+import Klarvik.SystemData
+
+/// The ring of the kinds, whose legend are the rows below it, and what of it can go.
+Item {
+    id: root
+
+    required property SystemDataModel model
+
+    implicitHeight: 190
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.sidePadding
+        anchors.rightMargin: Theme.sidePadding
+        anchors.bottomMargin: 16
+        spacing: 32
+
+        DonutChart {
+            id: chart
+
+            Layout.alignment: Qt.AlignVCenter
+            slices: root.model.slices
+            size: 164
+            thickness: 22
+            centerTitle: root.model.totalText
+            centerSubtitle: qsTr("System Data")
+            highlighted: root.model.highlighted
+
+            SliceHover {
+                chart: chart
+                onMoved: (slice, inside) => root.model.hover(slice, inside)
+            }
+        }
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            Layout.alignment: Qt.AlignVCenter
+            spacing: 6
+
+            KitText {
+                Layout.fillWidth: true
+                text: root.model.removableSummary
+                size: 17
+                weight: Font.DemiBold
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
+            KitText {
+                Layout.fillWidth: true
+                text: root.model.protectedSummary
+                size: 13
+                color: Theme.textSecondary
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
+            KitText {
+                Layout.fillWidth: true
+                Layout.topMargin: 6
+                visible: root.model.highlighted !== ""
+                text: root.model.highlighted
+                size: 12
+                color: Theme.textTertiary
+            }
+        }
+    }
+}

@@ -1,0 +1,317 @@
+#include "panes/system_data/system_data_view.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "panes/kit/palette.h"
+#include "panes/kit/row_text.h"
+#include "panes/system_data/system_data_texts.h"
+#include "state/change_to.h"
+#include "state/report_mailbox.h"
+#include "state/section.h"
+
+namespace klarvik {
+namespace {
+
+const std::string& systemDataKey() {
+  static const std::string key(rawValue(Section::systemData));
+  return key;
+}
+
+SystemDataView::Analyse analyseWithFreshEngine(const Platform& platform) {
+  return [&platform](const SystemDataEngine::ProgressSink& progress) {
+    SystemDataEngine engine(platform);
+    SystemDataResult result = engine.analyse(progress);
+    result.freeBytesAtMeasurement = engine.freeBytes();
+    return result;
+  };
+}
+
+std::vector<PickedFile> pickedFiles(const std::vector<SystemDataItem>& items) {
+  std::vector<PickedFile> files;
+  files.reserve(items.size());
+  for (const SystemDataItem& item : items) files.push_back({item.path, item.name, item.size});
+  return files;
+}
+
+}  // namespace
+
+SystemDataView::SystemDataView(const Sources& sources, const Desktop& desktop, QObject* parent,
+                               Analyse analyse)
+    : QObject(parent),
+      _coordinator(sources.coordinator),
+      _activity(sources.activity),
+      _permissions(sources.permissions),
+      _trash(sources.trash),
+      _desktop(desktop),
+      _analyse(analyse ? std::move(analyse) : analyseWithFreshEngine(desktop)),
+      _table(_findings, desktop.formatting, desktop.files.home()),
+      _removal(desktop) {
+  connect(&_table, &SystemDataTable::selectionToggled, this, &SystemDataView::selectionToggled);
+  connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
+          &SystemDataView::hasFullDiskAccessChanged);
+  connect(&_trash, &TrashMonitor::changed, this, [this] {
+    if (isBannerShown()) emit bannerChanged();
+  });
+  connect(&_removal, &PickedFilesRemoval::changed, this, &SystemDataView::removalChanged);
+}
+
+SystemDataView::~SystemDataView() {
+  blockSignals(true);
+  _scanTask.request_stop();
+  _removal.finish();
+  _scanWork.finish();
+}
+
+QString SystemDataView::title() const {
+  const auto total =
+      _findings.result() ? std::optional(_findings.totalBytes()) : std::optional<std::int64_t>();
+  return QString::fromStdString(system_data::paneTitle(total, _desktop.formatting));
+}
+
+QString SystemDataView::subtitle() const {
+  const auto removable = _findings.result() ? std::optional(_findings.removable().bytes)
+                                            : std::optional<std::int64_t>();
+  return QString::fromStdString(system_data::subtitle(removable, _desktop.formatting));
+}
+
+QString SystemDataView::actionTitle() const {
+  return QString::fromStdString(
+      system_data::actionTitle(_isScanning, _findings.result().has_value()));
+}
+
+SystemDataView::Body SystemDataView::body() const {
+  if (_findings.result()) return Body::Result;
+  return _isScanning ? Body::Analysing : Body::Empty;
+}
+
+QList<DonutSlice> SystemDataView::slices() const {
+  QList<DonutSlice> slices;
+  for (const SystemDataKind& kind : _findings.kinds()) {
+    const QString name = QString::fromStdString(std::string(rawValue(kind.kind)));
+    slices.append({.id = name,
+                   .label = name,
+                   .value = kind.bytes,
+                   .color = Palette::color(color(kind.kind))});
+  }
+  return slices;
+}
+
+QString SystemDataView::totalText() const {
+  return byteText(_findings.totalBytes(), _desktop.formatting);
+}
+
+QString SystemDataView::removableSummary() const {
+  return QString::fromStdString(
+      system_data::removableSummary(_findings.removable().bytes, _desktop.formatting));
+}
+
+QString SystemDataView::protectedSummary() const {
+  return QString::fromStdString(
+      system_data::protectedSummary(_findings.protectedBytes(), _desktop.formatting));
+}
+
+QString SystemDataView::selectionSummary() const {
+  return QString::fromStdString(system_data::selectionSummary(_findings.selected().count));
+}
+
+QString SystemDataView::removalTitle() const {
+  return QString::fromStdString(
+      system_data::removalTitle(_findings.selected().bytes, _desktop.formatting));
+}
+
+QString SystemDataView::confirmationTitle() const {
+  return QString::fromStdString(system_data::confirmationTitle(_findings.selected().count));
+}
+
+QString SystemDataView::confirmationMessage() const {
+  return QString::fromStdString(
+      system_data::confirmationMessage(_findings.selected().bytes, _desktop.formatting));
+}
+
+QString SystemDataView::bannerHeadline() const {
+  const Removal removal = _lastRemoval.value_or(Removal{});
+  return QString::fromStdString(
+      system_data::removedHeadline(removal.itemCount, removal.bytes, _desktop.formatting));
+}
+
+QString SystemDataView::bannerDetail() const {
+  return QString::fromStdString(system_data::removedDetail(trashHoldsIt()));
+}
+
+QString SystemDataView::bannerHelp() const {
+  const auto count = _lastRemoval ? _lastRemoval->itemCount : 0;
+  QStringList names;
+  for (auto item = _removedItems.end() - count; item != _removedItems.end(); ++item) {
+    names << printableText(item->name);
+  }
+  return names.join('\n');
+}
+
+/// While the Trash is being measured its size is that of before, and must not be told as nothing.
+bool SystemDataView::trashHoldsIt() const {
+  return _trash.bytes() != 0 || _trash.isMeasuring();
+}
+
+void SystemDataView::performAction() {
+  if (_isScanning) {
+    stopAnalysis();
+  } else {
+    startAnalysis();
+  }
+}
+
+void SystemDataView::hover(const QString& kind, bool inside) {
+  if (inside) {
+    setHighlighted(kind);
+  } else if (_highlighted == kind) {
+    setHighlighted({});
+  }
+}
+
+void SystemDataView::requestRemoval() {
+  if (canRemove() && !isDeleting()) setConfirmDelete(true);
+}
+
+void SystemDataView::confirmRemoval() {
+  if (!_confirmDelete) return;
+  setConfirmDelete(false);
+  remove(_findings.selectable());
+}
+
+void SystemDataView::cancelConfirmation() {
+  setConfirmDelete(false);
+}
+
+void SystemDataView::stopRemoval() {
+  _removal.cancel();
+}
+
+void SystemDataView::emptyTrash() {
+  _trash.emptyTrash();
+}
+
+QString SystemDataView::safetyText(int safety) const {
+  return QString::fromStdString(system_data::safetyText(static_cast<ItemSafety>(safety)));
+}
+
+void SystemDataView::finishRemovals() {
+  _removal.finish();
+}
+
+void SystemDataView::startAnalysis() {
+  _isScanning = true;
+  _scanLabel.clear();
+  _scanProgress = 0;
+  _movedWhileScanning.clear();
+  _activity.start(systemDataKey());
+  emit scanProgressChanged();
+  emit stateChanged();
+  _scanTask = std::stop_source();
+  analyse(_scanTask.get_token());
+}
+
+/// The pass under way cannot be stopped: what it still finds is dropped.
+void SystemDataView::stopAnalysis() {
+  _scanTask.request_stop();
+  _isScanning = false;
+  _activity.clear(systemDataKey());
+  emit stateChanged();
+}
+
+QCoro::Task<> SystemDataView::analyse(std::stop_token stopped) {
+  ReportMailbox<ScanReport> reports(
+      _desktop.clock,
+      [this, stopped](const ScanReport& report) {
+        if (!stopped.stop_requested()) apply(report);
+      },
+      [](const ScanReport&, const ScanReport&) { return true; });
+  auto run = [&analyse = _analyse, &reports] {
+    return analyse([&](const std::string& label, double fraction) {
+      reports.post({label, fraction});
+    });
+  };
+  const SystemDataResult result = co_await onEngineThread(_scanWork, std::move(run));
+  if (!stopped.stop_requested()) finishAnalysis(result);
+}
+
+void SystemDataView::apply(const ScanReport& report) {
+  _scanLabel = report.label;
+  _scanProgress = report.fraction;
+  _activity.setProgress(systemDataKey(), std::min(report.fraction, 1.0));
+  emit scanProgressChanged();
+}
+
+void SystemDataView::finishAnalysis(const SystemDataResult& result) {
+  _isScanning = false;
+  // A place may have been measured before it went to the Trash.
+  _findings.setResult(without(result, _movedWhileScanning));
+  _removedItems.clear();
+  _lastRemoval.reset();
+  findingsChanged();
+  emit stateChanged();
+  emit bannerChanged();
+  writeTotal();
+  _activity.finish(systemDataKey(), _desktop.formatting.byteText(_findings.removable().bytes));
+}
+
+QCoro::Task<> SystemDataView::remove(std::vector<SystemDataItem> items) {
+  const std::set<Path> moved = co_await _removal.trash(pickedFiles(items));
+  finishRemoval(items, moved);
+}
+
+/// By path, since an analysis may have come in between and named everything anew.
+void SystemDataView::finishRemoval(const std::vector<SystemDataItem>& items,
+                                   const std::set<Path>& moved) {
+  std::vector<SystemDataItem> removed;
+  std::ranges::copy_if(items, std::back_inserter(removed),
+                       [&](const SystemDataItem& item) { return moved.contains(item.path); });
+  if (_isScanning) _movedWhileScanning.insert(moved.begin(), moved.end());
+
+  Removal removal;
+  for (const SystemDataItem& item : removed) {
+    removal.bytes = addBytes(removal.bytes, item.size);
+    ++removal.itemCount;
+  }
+  _findings.removePaths(moved, SystemDataEngine(_desktop).freeBytes());
+  _findings.deselect(removed);
+  std::ranges::move(removed, std::back_inserter(_removedItems));
+  _lastRemoval = removal;
+  findingsChanged();
+  writeTotal();
+  _desktop.notifications.post(diskChangedNotification);
+  emit bannerChanged();
+}
+
+void SystemDataView::findingsChanged() {
+  _table.syncRows();
+  const bool isStillThere = std::ranges::any_of(_findings.kinds(), [this](const auto& kind) {
+    return _highlighted.toStdString() == rawValue(kind.kind);
+  });
+  if (!isStillThere) setHighlighted({});
+  emit resultChanged();
+  selectionToggled();
+}
+
+void SystemDataView::selectionToggled() {
+  emit selectionChanged();
+  // Nothing is left of what the question was about.
+  if (!canRemove()) setConfirmDelete(false);
+}
+
+void SystemDataView::writeTotal() {
+  const SystemDataFindings::Sum& removable = _findings.removable();
+  _coordinator.setTotal(systemDataKey(), {removable.bytes, removable.count, _desktop.clock.now()});
+}
+
+void SystemDataView::setHighlighted(const QString& kind) {
+  if (changeTo(_highlighted, kind)) emit highlightedChanged();
+}
+
+void SystemDataView::setConfirmDelete(bool confirm) {
+  if (changeTo(_confirmDelete, confirm)) emit confirmDeleteChanged();
+}
+
+}  // namespace klarvik
