@@ -10,18 +10,24 @@ KitText {
     // What the tooltip says; the text itself, and only when it is cut, as long as this is empty.
     property string fullText: ""
 
+    readonly property string tip: root.fullText !== "" ? root.fullText : root.truncated ? root.text : ""
+
     elide: Text.ElideMiddle
+    // Also a name that is read from the right begins where its column does.
+    horizontalAlignment: Text.AlignLeft
 
     HoverHandler {
         id: hover
+
+        onHoveredChanged: tipLoader.setSource(hover.hovered && root.tip !== "" ? "KitToolTip.qml" : "", {
+            text: root.tip,
+            shown: true
+        })
     }
 
     Loader {
+        id: tipLoader
+
         anchors.fill: parent
-        active: hover.hovered && (root.truncated || root.fullText !== "")
-        sourceComponent: KitToolTip {
-            shown: true
-            text: root.fullText !== "" ? root.fullText : root.text
-        }
     }
 }

@@ -11,13 +11,17 @@ Item {
 
     required property SystemDataModel model
 
-    implicitHeight: 190
+    implicitHeight: 156
+
+    Separator {
+        anchors.bottom: parent.bottom
+    }
 
     RowLayout {
         anchors.fill: parent
         anchors.leftMargin: Theme.sidePadding
         anchors.rightMargin: Theme.sidePadding
-        anchors.bottomMargin: 16
+        anchors.bottomMargin: 14
         spacing: 32
 
         DonutChart {
@@ -25,8 +29,8 @@ Item {
 
             Layout.alignment: Qt.AlignVCenter
             slices: root.model.slices
-            size: 164
-            thickness: 22
+            size: 140
+            thickness: 19
             centerTitle: root.model.totalText
             centerSubtitle: qsTr("System Data")
             highlighted: root.model.highlighted
