@@ -13,7 +13,7 @@ RowLayout {
     property color wordColor: Theme.textTertiary
     readonly property string description: root.name + ", " + root.word
 
-    implicitHeight: 38
+    Layout.preferredHeight: 38
     spacing: Theme.partSpacing
     Accessible.role: Accessible.ListItem
     Accessible.name: root.description

@@ -30,6 +30,7 @@ Item {
     }
 
     KitToolTip {
+        x: Theme.sidePadding
         shown: over.hovered
         text: root.model.bannerHelp
     }

@@ -67,7 +67,6 @@ Item {
             KitText {
                 Layout.fillWidth: true
                 Layout.topMargin: 6
-                visible: root.model.highlighted !== ""
                 text: root.model.highlighted
                 size: 12
                 color: Theme.textTertiary
