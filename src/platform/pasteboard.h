@@ -6,7 +6,8 @@ namespace klarvik {
 class Pasteboard {
  public:
   virtual ~Pasteboard() = default;
-  /// Whether there is a text or a picture to paste. A mere reference to files is neither.
+  /// Whether there is a text or a picture to paste. A mere reference to files is neither; where the
+  /// program that copied it offers a text beside it, there is a text.
   [[nodiscard]] virtual bool holdsTextOrImage() = 0;
   virtual void clear() = 0;
 };
