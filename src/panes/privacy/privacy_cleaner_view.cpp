@@ -15,22 +15,22 @@ namespace {
 
 const std::string key{rawValue(Section::privacy)};
 
-std::int64_t totalSize(const std::vector<PrivacyItem> &items) {
+std::int64_t totalSize(const std::vector<PrivacyItem>& items) {
   std::int64_t sum = 0;
-  for (const PrivacyItem &item : items)
-    sum = addBytes(sum, item.size);
+  for (const PrivacyItem& item : items) sum = addBytes(sum, item.size);
   return sum;
 }
 
-} // namespace
+}  // namespace
 
-PrivacyCleanerView::PrivacyCleanerView(const Sources &sources,
-                                       const Desktop &desktop, QObject *parent)
-    : QObject(parent), _coordinator(sources.coordinator),
-      _activity(sources.activity), _desktop(desktop),
+PrivacyCleanerView::PrivacyCleanerView(const Sources& sources, const Desktop& desktop,
+                                       QObject* parent)
+    : QObject(parent),
+      _coordinator(sources.coordinator),
+      _activity(sources.activity),
+      _desktop(desktop),
       _trailList(desktop.formatting) {
-  connect(&_trailList, &TrailList::selectionChanged, this,
-          &PrivacyCleanerView::selectionChanged);
+  connect(&_trailList, &TrailList::selectionChanged, this, &PrivacyCleanerView::selectionChanged);
 }
 
 PrivacyCleanerView::~PrivacyCleanerView() {
@@ -41,12 +41,11 @@ PrivacyCleanerView::~PrivacyCleanerView() {
 }
 
 QString PrivacyCleanerView::subtitle() const {
-  if (_isScanning)
-    return _currentTask;
-  if (_lastResult)
-    return privacy::clearedSubtitle(*_lastResult, _desktop.formatting);
-  return QStringLiteral("Clearing a trail is not the same as freeing space. "
-                        "Each row says what it costs you.");
+  if (_isScanning) return _currentTask;
+  if (_lastResult) return privacy::clearedSubtitle(*_lastResult, _desktop.formatting);
+  return QStringLiteral(
+      "Clearing a trail is not the same as freeing space. "
+      "Each row says what it costs you.");
 }
 
 Placeholder PrivacyCleanerView::placeholder() const {
@@ -54,28 +53,23 @@ Placeholder PrivacyCleanerView::placeholder() const {
     return Placeholder::busy(QStringLiteral("Reading trails"),
                              QStringLiteral("Nothing is cleared by a scan."));
   }
-  if (hasItems())
-    return {};
+  if (hasItems()) return {};
   if (!_hasScanned) {
-    return Placeholder::idle(
-        QStringLiteral("shield"), QStringLiteral("No scan yet"),
-        QStringLiteral("Rescan to see what your Mac has recorded."));
+    return Placeholder::idle(QStringLiteral("shield"), QStringLiteral("No scan yet"),
+                             QStringLiteral("Rescan to see what your Mac has recorded."));
   }
-  return Placeholder::idle(
-      QStringLiteral("checkmark.circle"), QStringLiteral("Nothing to clear"),
-      QStringLiteral("No browsing or system trails were found."));
+  return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("Nothing to clear"),
+                           QStringLiteral("No browsing or system trails were found."));
 }
 
 QString PrivacyCleanerView::selectionSummary() const {
-  return privacy::selectionSummary(selected().size(),
-                                   totalSize(_trailList.selectedItems()),
+  return privacy::selectionSummary(selected().size(), totalSize(_trailList.selectedItems()),
                                    _desktop.formatting);
 }
 
 QString PrivacyCleanerView::selectionHint() const {
   const std::vector<PrivacyItem> chosen = _trailList.selectedItems();
-  return privacy::selectionHint(
-      std::ranges::any_of(chosen, hurts, &PrivacyItem::category));
+  return privacy::selectionHint(std::ranges::any_of(chosen, hurts, &PrivacyItem::category));
 }
 
 QString PrivacyCleanerView::clearTitle() const {
@@ -87,13 +81,11 @@ bool PrivacyCleanerView::canClear() const {
 }
 
 QCoro::Task<> PrivacyCleanerView::appear() {
-  const AutoScan autoScan{
-      .key = key,
-      .isNeeded = [this] { return !_hasScanned && !_isScanning; },
-      .start = [this] { startScan(); },
-      .isRunning = [this] { return _isScanning; }};
-  co_await runAutoScan(_coordinator, _desktop.clock, autoScan,
-                       _stop.get_token());
+  const AutoScan autoScan{.key = key,
+                          .isNeeded = [this] { return !_hasScanned && !_isScanning; },
+                          .start = [this] { startScan(); },
+                          .isRunning = [this] { return _isScanning; }};
+  co_await runAutoScan(_coordinator, _desktop.clock, autoScan, _stop.get_token());
 }
 
 void PrivacyCleanerView::performAction() {
@@ -125,26 +117,23 @@ void PrivacyCleanerView::startScan() {
 QCoro::Task<> PrivacyCleanerView::scan() {
   _scanTask = std::stop_source();
   const std::stop_token stop = _scanTask.get_token();
-  PrivacyScanner scanner(_desktop.files, _desktop.pasteboard,
-                         _desktop.recentDocuments);
+  PrivacyScanner scanner(_desktop.files, _desktop.pasteboard, _desktop.recentDocuments);
   ReportMailbox<Report> reports(
       _desktop.clock,
-      [this, stop](const Report &report) {
-        if (!stop.stop_requested())
-          showReport(report);
+      [this, stop](const Report& report) {
+        if (!stop.stop_requested()) showReport(report);
       },
-      [](const Report &, const Report &) { return true; });
+      [](const Report&, const Report&) { return true; });
   const auto report = [&reports](double fraction, std::string_view line) {
     reports.post({fraction, printableText(line)});
   };
   std::vector<PrivacyItem> found =
       co_await onEngineThread(_scans, [&] { return scanner.scan(report); });
   reports.empty();
-  if (!stop.stop_requested())
-    finishScan(std::move(found));
+  if (!stop.stop_requested()) finishScan(std::move(found));
 }
 
-void PrivacyCleanerView::showReport(const Report &report) {
+void PrivacyCleanerView::showReport(const Report& report) {
   _progress = report.fraction;
   _currentTask = report.line;
   _activity.setProgress(key, report.fraction);
@@ -157,19 +146,16 @@ void PrivacyCleanerView::finishScan(std::vector<PrivacyItem> found) {
   _hasScanned = true;
   emit stateChanged();
   _activity.finish(key, std::to_string(items().size()) + " trails");
-  _coordinator.setTotal(key, {totalSize(items()),
-                              static_cast<std::int64_t>(items().size()),
-                              _desktop.clock.now()});
+  _coordinator.setTotal(
+      key, {totalSize(items()), static_cast<std::int64_t>(items().size()), _desktop.clock.now()});
 }
 
 void PrivacyCleanerView::toggle(int row) {
-  if (!_isCleaning)
-    _trailList.toggle(row);
+  if (!_isCleaning) _trailList.toggle(row);
 }
 
 void PrivacyCleanerView::clear() {
-  if (canClear())
-    clearItems(_trailList.selectedItems());
+  if (canClear()) clearItems(_trailList.selectedItems());
 }
 
 QCoro::Task<> PrivacyCleanerView::clearItems(std::vector<PrivacyItem> items) {
@@ -177,8 +163,7 @@ QCoro::Task<> PrivacyCleanerView::clearItems(std::vector<PrivacyItem> items) {
   emit stateChanged();
   emit selectionChanged();
 
-  PrivacyScanner scanner(_desktop.files, _desktop.pasteboard,
-                         _desktop.recentDocuments);
+  PrivacyScanner scanner(_desktop.files, _desktop.pasteboard, _desktop.recentDocuments);
   const PrivacyClearance done =
       co_await onEngineThread(_clearings, [&] { return scanner.clear(items); });
 
@@ -189,4 +174,4 @@ QCoro::Task<> PrivacyCleanerView::clearItems(std::vector<PrivacyItem> items) {
   _desktop.notifications.post(diskChangedNotification);
 }
 
-} // namespace klarvik
+}  // namespace klarvik

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QCoro/QCoroTask>
 #include <QObject>
 #include <QString>
-#include <QtQml/qqmlregistration.h>
 #include <optional>
 #include <stop_token>
 #include <unordered_set>
@@ -27,45 +27,36 @@ class PrivacyCleanerView : public QObject {
   QML_NAMED_ELEMENT(PrivacyCleanerModel)
   QML_UNCREATABLE("The program makes it.")
   Q_PROPERTY(QString subtitle READ subtitle NOTIFY stateChanged)
-  Q_PROPERTY(
-      klarvik::Placeholder placeholder READ placeholder NOTIFY stateChanged)
+  Q_PROPERTY(klarvik::Placeholder placeholder READ placeholder NOTIFY stateChanged)
   Q_PROPERTY(bool isScanning READ isScanning NOTIFY stateChanged)
   Q_PROPERTY(bool isCleaning READ isCleaning NOTIFY stateChanged)
   Q_PROPERTY(bool hasItems READ hasItems NOTIFY stateChanged)
-  Q_PROPERTY(
-      QString selectionSummary READ selectionSummary NOTIFY selectionChanged)
+  Q_PROPERTY(QString selectionSummary READ selectionSummary NOTIFY selectionChanged)
   Q_PROPERTY(QString selectionHint READ selectionHint NOTIFY selectionChanged)
   Q_PROPERTY(QString clearTitle READ clearTitle NOTIFY selectionChanged)
   Q_PROPERTY(bool canClear READ canClear NOTIFY selectionChanged)
-  Q_PROPERTY(klarvik::TrailList *trailList READ trailList CONSTANT)
+  Q_PROPERTY(klarvik::TrailList* trailList READ trailList CONSTANT)
 
-public:
+ public:
   /// The observable objects that the pane uses.
   struct Sources {
-    ScanCoordinator &coordinator;
-    ToolActivity &activity;
+    ScanCoordinator& coordinator;
+    ToolActivity& activity;
   };
 
-  PrivacyCleanerView(const Sources &sources, const Desktop &desktop,
-                     QObject *parent = nullptr);
+  PrivacyCleanerView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
   ~PrivacyCleanerView() override;
 
-  [[nodiscard]] const std::vector<PrivacyItem> &items() const {
-    return _trailList.items();
-  }
-  [[nodiscard]] const std::unordered_set<Uuid> &selected() const {
-    return _trailList.selected();
-  }
+  [[nodiscard]] const std::vector<PrivacyItem>& items() const { return _trailList.items(); }
+  [[nodiscard]] const std::unordered_set<Uuid>& selected() const { return _trailList.selected(); }
   [[nodiscard]] bool isScanning() const { return _isScanning; }
   [[nodiscard]] bool hasScanned() const { return _hasScanned; }
   /// A share of 1.
   [[nodiscard]] double progress() const { return _progress; }
-  [[nodiscard]] const QString &currentTask() const { return _currentTask; }
+  [[nodiscard]] const QString& currentTask() const { return _currentTask; }
   [[nodiscard]] bool isCleaning() const { return _isCleaning; }
   /// What the last clearing did, until the next scan.
-  [[nodiscard]] const std::optional<PrivacyClearance> &lastResult() const {
-    return _lastResult;
-  }
+  [[nodiscard]] const std::optional<PrivacyClearance>& lastResult() const { return _lastResult; }
 
   [[nodiscard]] QString subtitle() const;
   [[nodiscard]] Placeholder placeholder() const;
@@ -74,7 +65,7 @@ public:
   [[nodiscard]] QString selectionHint() const;
   [[nodiscard]] QString clearTitle() const;
   [[nodiscard]] bool canClear() const;
-  [[nodiscard]] TrailList *trailList() { return &_trailList; }
+  [[nodiscard]] TrailList* trailList() { return &_trailList; }
 
   /// Scans when the turn of this tool comes. To be called once.
   QCoro::Task<> appear();
@@ -87,11 +78,11 @@ public:
   /// Clears what is selected.
   Q_INVOKABLE void clear();
 
-signals:
+ signals:
   void stateChanged();
   void selectionChanged();
 
-private:
+ private:
   struct Report {
     double fraction = 0;
     QString line;
@@ -100,13 +91,13 @@ private:
   void startScan();
   void cancelScan();
   QCoro::Task<> scan();
-  void showReport(const Report &report);
+  void showReport(const Report& report);
   void finishScan(std::vector<PrivacyItem> found);
   QCoro::Task<> clearItems(std::vector<PrivacyItem> items);
 
-  ScanCoordinator &_coordinator;
-  ToolActivity &_activity;
-  const Desktop &_desktop;
+  ScanCoordinator& _coordinator;
+  ToolActivity& _activity;
+  const Desktop& _desktop;
 
   TrailList _trailList;
   bool _isScanning = false;
@@ -122,4 +113,4 @@ private:
   EngineWork _clearings;
 };
 
-} // namespace klarvik
+}  // namespace klarvik

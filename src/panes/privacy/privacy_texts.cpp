@@ -10,60 +10,61 @@ QString trails(std::size_t count) {
          (count == 1 ? QStringLiteral(" trail") : QStringLiteral(" trails"));
 }
 
-} // namespace
+}  // namespace
 
 QString cost(PrivacyCategory category) {
   switch (category) {
-  case PrivacyCategory::browserHistory:
-    return QStringLiteral("Autocomplete forgets sites");
-  case PrivacyCategory::browserCookies:
-    return QStringLiteral("Signs you out everywhere");
-  case PrivacyCategory::browserCache:
-    return QStringLiteral("Sites reload once, slower");
-  case PrivacyCategory::recentFiles:
-    return QStringLiteral("Recent menus empty out");
-  case PrivacyCategory::recentApps:
-    return QStringLiteral("Recent apps list empties");
-  case PrivacyCategory::downloadsList:
-    return QStringLiteral("Download history forgotten");
-  case PrivacyCategory::clipboard:
-    return QStringLiteral("Whatever you last copied");
-  case PrivacyCategory::quarantine:
-    return QStringLiteral("Downloaded-from records go");
-  case PrivacyCategory::trashHistory:
-    return QStringLiteral("Where trashed files came from");
-  case PrivacyCategory::locationHistory:
-    return QStringLiteral("Cached location lookups");
+    case PrivacyCategory::browserHistory:
+      return QStringLiteral("Autocomplete forgets sites");
+    case PrivacyCategory::browserCookies:
+      return QStringLiteral("Signs you out everywhere");
+    case PrivacyCategory::browserCache:
+      return QStringLiteral("Sites reload once, slower");
+    case PrivacyCategory::recentFiles:
+      return QStringLiteral("Recent menus empty out");
+    case PrivacyCategory::recentApps:
+      return QStringLiteral("Recent apps list empties");
+    case PrivacyCategory::downloadsList:
+      return QStringLiteral("Download history forgotten");
+    case PrivacyCategory::clipboard:
+      return QStringLiteral("Whatever you last copied");
+    case PrivacyCategory::quarantine:
+      return QStringLiteral("Downloaded-from records go");
+    case PrivacyCategory::trashHistory:
+      return QStringLiteral("Where trashed files came from");
+    case PrivacyCategory::locationHistory:
+      return QStringLiteral("Cached location lookups");
   }
   return {};
 }
 
-QString entryCount(const PrivacyItem &item) {
+QString entryCount(const PrivacyItem& item) {
   return item.count > 0 ? QString::number(item.count) : QStringLiteral("—");
 }
 
-QString clearedSubtitle(const PrivacyClearance &result,
-                        const Formatting &formatting) {
+QString clearedSubtitle(const PrivacyClearance& result, const Formatting& formatting) {
   return QStringLiteral("Cleared ") + QString::number(result.cleaned) +
          QStringLiteral(" trails · ") + byteText(result.freed, formatting) +
          QStringLiteral(" freed");
 }
 
 QString selectionSummary(std::size_t selectedCount, std::int64_t selectedBytes,
-                         const Formatting &formatting) {
+                         const Formatting& formatting) {
   return trails(selectedCount) + QStringLiteral(" selected · ") +
          byteText(selectedBytes, formatting);
 }
 
 QString selectionHint(bool holdsWhatHurts) {
-  return holdsWhatHurts ? QStringLiteral("Your selection signs you out of "
-                                         "sites. This cannot be undone.")
-                        : QStringLiteral("Clearing a trail is permanent, but "
-                                         "nothing you rely on is removed.");
+  return holdsWhatHurts ? QStringLiteral(
+                              "Your selection signs you out of "
+                              "sites. This cannot be undone.")
+                        : QStringLiteral(
+                              "Clearing a trail is permanent, but "
+                              "nothing you rely on is removed.");
 }
 
 QString clearTitle(std::size_t selectedCount) {
   return QStringLiteral("Clear ") + trails(selectedCount);
 }
 
-} // namespace klarvik::privacy
+}  // namespace klarvik::privacy

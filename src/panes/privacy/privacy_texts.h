@@ -14,14 +14,12 @@ namespace klarvik::privacy {
 /// What clearing a trail of this kind costs the user.
 [[nodiscard]] QString cost(PrivacyCategory category);
 /// How many entries a trail has; a dash where they are not counted.
-[[nodiscard]] QString entryCount(const PrivacyItem &item);
+[[nodiscard]] QString entryCount(const PrivacyItem& item);
 
-[[nodiscard]] QString clearedSubtitle(const PrivacyClearance &result,
-                                      const Formatting &formatting);
-[[nodiscard]] QString selectionSummary(std::size_t selectedCount,
-                                       std::int64_t selectedBytes,
-                                       const Formatting &formatting);
+[[nodiscard]] QString clearedSubtitle(const PrivacyClearance& result, const Formatting& formatting);
+[[nodiscard]] QString selectionSummary(std::size_t selectedCount, std::int64_t selectedBytes,
+                                       const Formatting& formatting);
 [[nodiscard]] QString selectionHint(bool holdsWhatHurts);
 [[nodiscard]] QString clearTitle(std::size_t selectedCount);
 
-} // namespace klarvik::privacy
+}  // namespace klarvik::privacy

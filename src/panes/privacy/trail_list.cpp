@@ -13,47 +13,44 @@
 namespace klarvik {
 namespace {
 
-constexpr std::array sectionTitles{"SAFARI, CHROME, FIREFOX", "MACOS RECENTS",
-                                   "SYSTEM TRAILS"};
+constexpr std::array sectionTitles{"SAFARI, CHROME, FIREFOX", "MACOS RECENTS", "SYSTEM TRAILS"};
 
 std::size_t sectionOf(PrivacyCategory category) {
   switch (category) {
-  case PrivacyCategory::browserHistory:
-  case PrivacyCategory::browserCookies:
-  case PrivacyCategory::browserCache:
-    return 0;
-  case PrivacyCategory::recentFiles:
-  case PrivacyCategory::recentApps:
-  case PrivacyCategory::downloadsList:
-  case PrivacyCategory::trashHistory:
-    return 1;
-  case PrivacyCategory::clipboard:
-  case PrivacyCategory::quarantine:
-  case PrivacyCategory::locationHistory:
-    return 2;
+    case PrivacyCategory::browserHistory:
+    case PrivacyCategory::browserCookies:
+    case PrivacyCategory::browserCache:
+      return 0;
+    case PrivacyCategory::recentFiles:
+    case PrivacyCategory::recentApps:
+    case PrivacyCategory::downloadsList:
+    case PrivacyCategory::trashHistory:
+      return 1;
+    case PrivacyCategory::clipboard:
+    case PrivacyCategory::quarantine:
+    case PrivacyCategory::locationHistory:
+      return 2;
   }
   return 2;
 }
 
-} // namespace
+}  // namespace
 
 bool hurts(PrivacyCategory category) {
-  return category == PrivacyCategory::browserCookies ||
-         category == PrivacyCategory::clipboard;
+  return category == PrivacyCategory::browserCookies || category == PrivacyCategory::clipboard;
 }
 
-TrailList::TrailList(const Formatting &formatting, QObject *parent)
+TrailList::TrailList(const Formatting& formatting, QObject* parent)
     : QAbstractListModel(parent), _formatting(formatting) {}
 
-int TrailList::rowCount(const QModelIndex &parent) const {
+int TrailList::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(_rows.size());
 }
 
-QVariant TrailList::data(const QModelIndex &index, int role) const {
-  if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-    return {};
-  const Row &row = _rows[static_cast<std::size_t>(index.row())];
-  const auto *heading = std::get_if<Heading>(&row);
+QVariant TrailList::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+  const Row& row = _rows[static_cast<std::size_t>(index.row())];
+  const auto* heading = std::get_if<Heading>(&row);
   return heading != nullptr ? headingData(*heading, role)
                             : trailData(item(std::get<Uuid>(row)), role);
 }
@@ -72,20 +69,17 @@ QHash<int, QByteArray> TrailList::roleNames() const {
 
 std::vector<PrivacyItem> TrailList::selectedItems() const {
   std::vector<PrivacyItem> chosen;
-  std::ranges::copy_if(
-      _items, std::back_inserter(chosen),
-      [this](const PrivacyItem &item) { return _selected.contains(item.id); });
+  std::ranges::copy_if(_items, std::back_inserter(chosen),
+                       [this](const PrivacyItem& item) { return _selected.contains(item.id); });
   return chosen;
 }
 
 void TrailList::show(std::vector<PrivacyItem> items) {
   clear();
   std::vector<Row> rows = rowsOf(items);
-  if (rows.empty())
-    return;
-  for (const PrivacyItem &item : items) {
-    if (!hurts(item.category))
-      _selected.insert(item.id);
+  if (rows.empty()) return;
+  for (const PrivacyItem& item : items) {
+    if (!hurts(item.category)) _selected.insert(item.id);
   }
   beginInsertRows({}, 0, static_cast<int>(rows.size()) - 1);
   _items = std::move(items);
@@ -95,8 +89,7 @@ void TrailList::show(std::vector<PrivacyItem> items) {
 }
 
 void TrailList::clear() {
-  if (_rows.empty())
-    return;
+  if (_rows.empty()) return;
   beginRemoveRows({}, 0, rowCount() - 1);
   _rows.clear();
   _items.clear();
@@ -105,51 +98,40 @@ void TrailList::clear() {
   emit selectionChanged();
 }
 
-void TrailList::remove(const std::vector<PrivacyItem> &items) {
+void TrailList::remove(const std::vector<PrivacyItem>& items) {
   std::unordered_set<Uuid> leaving;
-  for (const PrivacyItem &item : items)
-    leaving.insert(item.id);
+  for (const PrivacyItem& item : items) leaving.insert(item.id);
 
   bool sectionIsEmpty = true;
   for (std::size_t row = _rows.size(); row > 0; --row) {
-    const auto *id = std::get_if<Uuid>(&_rows[row - 1]);
+    const auto* id = std::get_if<Uuid>(&_rows[row - 1]);
     const bool goes = id != nullptr ? leaving.contains(*id) : sectionIsEmpty;
     sectionIsEmpty = id == nullptr || (goes && sectionIsEmpty);
-    if (goes)
-      removeRow(row - 1);
+    if (goes) removeRow(row - 1);
   }
-  std::erase_if(_items, [&](const PrivacyItem &item) {
-    return leaving.contains(item.id);
-  });
-  for (const Uuid &id : leaving)
-    _selected.erase(id);
+  std::erase_if(_items, [&](const PrivacyItem& item) { return leaving.contains(item.id); });
+  for (const Uuid& id : leaving) _selected.erase(id);
   emit selectionChanged();
 }
 
 void TrailList::toggle(int row) {
-  if (!hasIndex(row, 0))
-    return;
-  const auto *id = std::get_if<Uuid>(&_rows[static_cast<std::size_t>(row)]);
-  if (id == nullptr)
-    return;
-  if (_selected.erase(*id) == 0)
-    _selected.insert(*id);
+  if (!hasIndex(row, 0)) return;
+  const auto* id = std::get_if<Uuid>(&_rows[static_cast<std::size_t>(row)]);
+  if (id == nullptr) return;
+  if (_selected.erase(*id) == 0) _selected.insert(*id);
   emit dataChanged(index(row), index(row), {IsSelectedRole});
   emit selectionChanged();
 }
 
-std::vector<TrailList::Row>
-TrailList::rowsOf(const std::vector<PrivacyItem> &items) {
+std::vector<TrailList::Row> TrailList::rowsOf(const std::vector<PrivacyItem>& items) {
   std::vector<PrivacyItem> bySize = items;
   std::ranges::stable_sort(bySize, std::ranges::greater{}, &PrivacyItem::size);
   std::vector<Row> rows;
   for (std::size_t section = 0; section < sectionTitles.size(); ++section) {
     bool hasHeading = false;
-    for (const PrivacyItem &item : bySize) {
-      if (sectionOf(item.category) != section)
-        continue;
-      if (!std::exchange(hasHeading, true))
-        rows.emplace_back(Heading{sectionTitles.at(section)});
+    for (const PrivacyItem& item : bySize) {
+      if (sectionOf(item.category) != section) continue;
+      if (!std::exchange(hasHeading, true)) rows.emplace_back(Heading{sectionTitles.at(section)});
       rows.emplace_back(item.id);
     }
   }
@@ -163,57 +145,57 @@ void TrailList::removeRow(std::size_t row) {
 }
 
 /// Of one that is listed.
-const PrivacyItem &TrailList::item(const Uuid &id) const {
+const PrivacyItem& TrailList::item(const Uuid& id) const {
   return *std::ranges::find(_items, id, &PrivacyItem::id);
 }
 
-QVariant TrailList::headingData(const Heading &heading, int role) {
+QVariant TrailList::headingData(const Heading& heading, int role) {
   switch (role) {
-  case KindRole:
-    return static_cast<int>(RowKind::Heading);
-  case NameRole:
-  case DescriptionRole:
-    return QString::fromLatin1(heading.title);
-  case UrlRole:
-    return QUrl();
-  case PathRole:
-  case CostRole:
-  case CountRole:
-  case SizeRole:
-    return QString();
-  case IsSelectedRole:
-    return false;
-  default:
-    return {};
+    case KindRole:
+      return static_cast<int>(RowKind::Heading);
+    case NameRole:
+    case DescriptionRole:
+      return QString::fromLatin1(heading.title);
+    case UrlRole:
+      return QUrl();
+    case PathRole:
+    case CostRole:
+    case CountRole:
+    case SizeRole:
+      return QString();
+    case IsSelectedRole:
+      return false;
+    default:
+      return {};
   }
 }
 
-QVariant TrailList::trailData(const PrivacyItem &item, int role) const {
+QVariant TrailList::trailData(const PrivacyItem& item, int role) const {
   const QString name = printableText(rawValue(item.category));
   const QString size = byteText(item.size, _formatting);
   const Path path = item.path.value_or(Path());
   switch (role) {
-  case KindRole:
-    return static_cast<int>(RowKind::Trail);
-  case NameRole:
-    return name;
-  case PathRole:
-    return printableText(path.native());
-  case UrlRole:
-    return urlOfPath(path);
-  case CostRole:
-    return privacy::cost(item.category);
-  case CountRole:
-    return privacy::entryCount(item);
-  case SizeRole:
-    return size;
-  case IsSelectedRole:
-    return _selected.contains(item.id);
-  case DescriptionRole:
-    return rowDescription(name, size, privacy::cost(item.category));
-  default:
-    return {};
+    case KindRole:
+      return static_cast<int>(RowKind::Trail);
+    case NameRole:
+      return name;
+    case PathRole:
+      return printableText(path.native());
+    case UrlRole:
+      return urlOfPath(path);
+    case CostRole:
+      return privacy::cost(item.category);
+    case CountRole:
+      return privacy::entryCount(item);
+    case SizeRole:
+      return size;
+    case IsSelectedRole:
+      return _selected.contains(item.id);
+    case DescriptionRole:
+      return rowDescription(name, size, privacy::cost(item.category));
+    default:
+      return {};
   }
 }
 
-} // namespace klarvik
+}  // namespace klarvik

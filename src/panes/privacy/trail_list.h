@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
 #include <cstddef>
 #include <cstdint>
 #include <unordered_set>
@@ -19,7 +19,7 @@ class TrailList : public QAbstractListModel {
   Q_OBJECT
   QML_NAMED_ELEMENT(TrailListModel)
   QML_UNCREATABLE("The pane makes it.")
-public:
+ public:
   enum class RowKind { Heading, Trail };
   Q_ENUM(RowKind)
   enum Role {
@@ -34,46 +34,42 @@ public:
     DescriptionRole,
   };
 
-  explicit TrailList(const Formatting &formatting, QObject *parent = nullptr);
+  explicit TrailList(const Formatting& formatting, QObject* parent = nullptr);
 
-  [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-  [[nodiscard]] QVariant data(const QModelIndex &index,
-                              int role) const override;
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
   /// In the order in which they were found.
-  [[nodiscard]] const std::vector<PrivacyItem> &items() const { return _items; }
-  [[nodiscard]] const std::unordered_set<Uuid> &selected() const {
-    return _selected;
-  }
+  [[nodiscard]] const std::vector<PrivacyItem>& items() const { return _items; }
+  [[nodiscard]] const std::unordered_set<Uuid>& selected() const { return _selected; }
   [[nodiscard]] std::vector<PrivacyItem> selectedItems() const;
 
   /// Selects all but those whose clearing hurts.
   void show(std::vector<PrivacyItem> items);
   void clear();
   /// Rows of other trails stay where they are.
-  void remove(const std::vector<PrivacyItem> &items);
+  void remove(const std::vector<PrivacyItem>& items);
   /// Selects the trail of the row, or no longer. Nothing on a heading.
   void toggle(int row);
 
-signals:
+ signals:
   /// Also when what is selected came or went.
   void selectionChanged();
 
-private:
+ private:
   struct Heading {
-    const char *title = "";
+    const char* title = "";
   };
   using Row = std::variant<Heading, Uuid>;
 
-  [[nodiscard]] static std::vector<Row>
-  rowsOf(const std::vector<PrivacyItem> &items);
+  [[nodiscard]] static std::vector<Row> rowsOf(const std::vector<PrivacyItem>& items);
   void removeRow(std::size_t row);
-  [[nodiscard]] const PrivacyItem &item(const Uuid &id) const;
-  [[nodiscard]] static QVariant headingData(const Heading &heading, int role);
-  [[nodiscard]] QVariant trailData(const PrivacyItem &item, int role) const;
+  [[nodiscard]] const PrivacyItem& item(const Uuid& id) const;
+  [[nodiscard]] static QVariant headingData(const Heading& heading, int role);
+  [[nodiscard]] QVariant trailData(const PrivacyItem& item, int role) const;
 
-  const Formatting &_formatting;
+  const Formatting& _formatting;
   std::vector<PrivacyItem> _items;
   std::unordered_set<Uuid> _selected;
   std::vector<Row> _rows;
@@ -83,4 +79,4 @@ private:
 /// miss.
 [[nodiscard]] bool hurts(PrivacyCategory category);
 
-} // namespace klarvik
+}  // namespace klarvik
