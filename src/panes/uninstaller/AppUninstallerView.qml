@@ -40,7 +40,8 @@ ToolPane {
     subtitle: model.subtitle
     hasAction: false
     isBusy: model.isUninstalling
-    columns: model.isDetail ? leftoverColumns : appColumns
+    // The linter does not know that a list property takes another one's value.
+    columns: model.isDetail ? leftoverColumns : appColumns // qmllint disable type
 
     filters: FilterBar {
         implicitHeight: UninstallerMetrics.filterHeight
