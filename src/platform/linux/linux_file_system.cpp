@@ -68,13 +68,22 @@ Path LinuxFileSystem::realHome() const {
   return inHome ? inHome->realPath.parent_path() : _home;
 }
 
+std::string LinuxFileSystem::diskText(const Path& logical) const {
+  const std::string& text = logical.native();
+  const std::size_t first = text.find_first_not_of('/');
+  if (first == std::string::npos) return _root.native();
+  std::string disk = _root.native();
+  if (!disk.ends_with('/')) disk += '/';
+  return disk.append(text, first, text.find_last_not_of('/') - first + 1);
+}
+
 int LinuxFileSystem::Location::at() const {
   return folder ? folder.get() : AT_FDCWD;
 }
 
 std::optional<LinuxFileSystem::Location> LinuxFileSystem::locate(const Path& path) const {
   if (!path.is_absolute() || path.native().find('\0') != std::string::npos) return std::nullopt;
-  std::string disk = withoutTrailingSlashes(diskPath(path)).native();
+  std::string disk = diskText(path);
   if (disk.size() < PATH_MAX) return Location{{}, std::move(disk)};
   auto parent = openParent(_root, withoutTrailingSlashes(path));
   if (!parent) return std::nullopt;
@@ -121,7 +130,7 @@ std::unique_ptr<FileReader> LinuxFileSystem::openForReading(const Path& path) co
   const auto location = locate(path);
   if (!location || !isRegular(statusOf(location->at(), location->name.c_str()))) return nullptr;
   // Should it have become a pipe by now, opening it does not wait for a writer.
-  UniqueFd file = open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+  UniqueFd file = openAt(*location, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
   if (!file || !isRegular(statusOf(file.get(), ""))) return nullptr;
   return std::make_unique<LinuxFileReader>(std::move(file));
 }
@@ -152,9 +161,12 @@ bool LinuxFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
 
 UniqueFd LinuxFileSystem::open(const Path& path, int flags) const {
   const auto location = locate(path);
-  if (!location) return {};
+  return location ? openAt(*location, flags) : UniqueFd();
+}
+
+UniqueFd LinuxFileSystem::openAt(const Location& location, int flags) {
   return UniqueFd(uninterrupted(
-      [&] { return ::openat(location->at(), location->name.c_str(), flags | O_CLOEXEC); }));
+      [&] { return ::openat(location.at(), location.name.c_str(), flags | O_CLOEXEC); }));
 }
 
 }  // namespace klarvik

@@ -39,6 +39,9 @@ class LinuxFileSystem final : public FileSystem {
     [[nodiscard]] int at() const;
   };
   [[nodiscard]] std::optional<Location> locate(const Path& path) const;
+  /// Without trailing slashes. Plain text: this is asked for every file that a scan reads.
+  [[nodiscard]] std::string diskText(const Path& logical) const;
+  [[nodiscard]] static UniqueFd openAt(const Location& location, int flags);
   [[nodiscard]] UniqueFd open(const Path& path, int flags) const;
 
   Path _root;
