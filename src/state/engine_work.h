@@ -34,13 +34,15 @@ class EngineWork final : public QObject {
   /// them.
   void finish();
 
-  /// Frees `garbage` off the main thread, where freeing very much of it would hold up a frame.
+  /// Frees `garbage` off the main thread, where freeing very much of it would hold up a frame. Not
+  /// in the background: a thread that is kept waiting while it frees keeps waiting whoever else
+  /// needs the allocator's lock, such as the main thread.
   template <typename Garbage>
   void discard(Garbage garbage) {
     auto release = [kept = std::make_shared<Garbage>(std::move(garbage))]() mutable {
       kept.reset();
     };
-    start(std::move(release), std::noop_coroutine(), Priority::background);
+    start(std::move(release), std::noop_coroutine(), Priority::normal);
   }
 
   /// For `onEngineThread`: runs `body` on a thread of its own, then resumes `waiter`.
