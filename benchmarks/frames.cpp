@@ -6,39 +6,21 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <functional>
 #include <numeric>
 #include <vector>
 
+#include "own_time.h"
 #include "panes/smart_scan/review_table.h"
-#include "platform/desktop/qt_clock.h"
+#include "remembered_desktop.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
-#include "support/canned_command_runner.h"
-#include "support/fixed_volume.h"
-#include "support/memory_defaults.h"
-#include "support/memory_file_system.h"
-#include "support/memory_pasteboard.h"
-#include "support/recording_recent_documents.h"
-#include "support/recording_workspace.h"
-#include "support/scripted_open_panel.h"
 
 namespace {
 
 using namespace klarvik;
-
-/// Nanoseconds that the calling thread has spent ready to run while others ran.
-std::int64_t waitedForProcessor() {
-  std::ifstream statistics("/proc/thread-self/schedstat");
-  std::int64_t ran = 0;
-  std::int64_t waited = 0;
-  statistics >> ran >> waited;
-  return waited;
-}
 
 /// The frames of one window, which are asked for as fast as they can be drawn.
 class Frames {
@@ -69,23 +51,18 @@ class Frames {
  private:
   void start() {
     _gaps.clear();
-    _last = std::chrono::steady_clock::now();
-    _waited = waitedForProcessor();
+    _last = {};
     _window.update();
   }
 
   void drawn() {
-    const auto now = std::chrono::steady_clock::now();
-    const std::int64_t waited = waitedForProcessor();
-    const std::chrono::duration<double, std::milli> gap = now - _last;
-    _gaps.push_back(gap.count() - static_cast<double>(waited - _waited) / 1e6);
+    const OwnMoment now;
+    _gaps.push_back(now.since(_last));
     _last = now;
-    _waited = waited;
   }
 
   QQuickWindow& _window;
-  std::chrono::steady_clock::time_point _last;
-  std::int64_t _waited = 0;
+  OwnMoment _last;
   std::vector<double> _gaps;
 };
 
@@ -148,30 +125,11 @@ int main(int argumentCount, char** arguments) {
   QGuiApplication application(argumentCount, arguments);
   const int itemCount = argumentCount > 1 ? std::atoi(arguments[1]) : 200'000;
 
-  MemoryFileSystem files;
-  furnish(files, itemCount);
-  MemoryTrash trash(files);
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  defaults.set("backgroundScanOnLaunch", false);
-  FixedVolume volume;
-  Formatting formatting("en_US");
-  const ApplicationInfo info;
-  RecordingRecentDocuments recentDocuments;
-  QtClock clock;
-  NotificationCenter notifications;
-  RecordingWorkspace workspace;
-  MemoryPasteboard pasteboard;
-  ScriptedOpenPanel openPanel;
-  const Desktop desktop{
-      {files, trash, commands, defaults, volume, formatting, info, recentDocuments},
-      clock,
-      notifications,
-      workspace,
-      pasteboard,
-      openPanel};
-  SharedState shared(desktop);
-  KlarvikApp app(desktop, shared);
+  RememberedDesktop around;
+  furnish(around.files, itemCount);
+  around.defaults.set("backgroundScanOnLaunch", false);
+  SharedState shared(around.desktop);
+  KlarvikApp app(around.desktop, shared);
   if (!app.openMainWindow()) {
     return 1;
   }

@@ -11,23 +11,15 @@
 #include <QTimer>
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdio>
-#include <fstream>
 #include <functional>
+#include <optional>
 #include <utility>
 
-#include "platform/desktop/qt_clock.h"
+#include "own_time.h"
+#include "remembered_desktop.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
-#include "support/canned_command_runner.h"
-#include "support/fixed_volume.h"
-#include "support/memory_defaults.h"
-#include "support/memory_file_system.h"
-#include "support/memory_pasteboard.h"
-#include "support/recording_recent_documents.h"
-#include "support/recording_workspace.h"
-#include "support/scripted_open_panel.h"
 
 namespace {
 
@@ -35,31 +27,18 @@ using namespace klarvik;
 
 constexpr std::uint32_t fileCount = 100'000;
 
-/// Nanoseconds that the calling thread has spent ready to run while others ran.
-std::int64_t waitedForProcessor() {
-  std::ifstream statistics("/proc/thread-self/schedstat");
-  std::int64_t ran = 0;
-  std::int64_t waited = 0;
-  statistics >> ran >> waited;
-  return waited;
-}
-
 /// The time from one moment to the next, in milliseconds.
 class Gaps {
  public:
   void moment() {
-    const auto now = std::chrono::steady_clock::now();
-    const std::int64_t waited = waitedForProcessor();
-    if (_hasFirst) {
-      const std::chrono::duration<double, std::milli> gap = now - _last;
-      const double mine = gap.count() - static_cast<double>(waited - _waited) / 1e6;
+    const OwnMoment now;
+    if (_last) {
+      const double mine = now.since(*_last);
       _longest = std::max(_longest, mine);
       _sum += mine;
       ++_count;
     }
-    _hasFirst = true;
     _last = now;
-    _waited = waited;
   }
   void print(const char* what) const {
     std::printf("large_rows %-22s longest %.1f ms mean %.2f ms count %zu\n", what, _longest,
@@ -68,9 +47,7 @@ class Gaps {
   }
 
  private:
-  std::chrono::steady_clock::time_point _last;
-  std::int64_t _waited = 0;
-  bool _hasFirst = false;
+  std::optional<OwnMoment> _last;
   double _longest = 0;
   double _sum = 0;
   std::size_t _count = 0;
@@ -90,29 +67,6 @@ void furnish(MemoryFileSystem& files) {
   }
 }
 
-/// A program around the pane, on a disk that is only remembered.
-struct Around {
-  MemoryFileSystem files;
-  MemoryTrash trash{files};
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  FixedVolume volume;
-  Formatting formatting{"en_US"};
-  const ApplicationInfo info;
-  QtClock clock;
-  NotificationCenter notifications;
-  RecordingWorkspace workspace;
-  RecordingRecentDocuments recentDocuments;
-  MemoryPasteboard pasteboard;
-  ScriptedOpenPanel openPanel;
-  Desktop desktop{{files, trash, commands, defaults, volume, formatting, info, recentDocuments},
-                  clock,
-                  notifications,
-                  workspace,
-                  pasteboard,
-                  openPanel};
-};
-
 /// Lets the main loop run as fast as it can until `isOver`, and keeps the time of its turns.
 Gaps turnsUntil(const std::function<bool()>& isOver) {
   Gaps gaps;
@@ -128,7 +82,7 @@ Gaps turnsUntilRows(LargeFileFinderView& pane, std::size_t rows) {
       [&] { return !pane.isScanning() && pane.rows()->rowCount() == static_cast<int>(rows); });
 }
 
-void measureModel(Around& around) {
+void measureModel(RememberedDesktop& around) {
   SharedState shared(around.desktop);
   LargeFileFinderView pane(
       {shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager()},
@@ -159,7 +113,7 @@ std::pair<QQuickItem*, Model*> drawnFrom(QQuickItem& item) {
   return {};
 }
 
-bool measureWindow(Around& around) {
+bool measureWindow(RememberedDesktop& around) {
   SharedState shared(around.desktop);
   KlarvikApp app(around.desktop, shared);
   if (!app.openMainWindow()) return false;
@@ -204,7 +158,7 @@ int main(int argumentCount, char** arguments) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
   const QGuiApplication application(argumentCount, arguments);
-  Around around;
+  RememberedDesktop around;
   around.defaults.set("backgroundScanOnLaunch", false);
   furnish(around.files);
   measureModel(around);

@@ -47,13 +47,7 @@ class AppStateFixture : public ::testing::Test {
   [[nodiscard]] ToolActivity::State shownActivity() const { return activity.state("smartScan"); }
 
   DesktopAround around;
-  Desktop desktop{{around.files, around.trash, around.commands, around.defaults, around.volume,
-                   around.formatting, around.info, around.recentDocuments},
-                  around.clock,
-                  around.notifications,
-                  around.workspace,
-                  around.pasteboard,
-                  around.openPanel};
+  Desktop desktop = around.around(around.files, around.trash, around.clock);
   ToolActivity activity{around.clock};
   ScanCoordinator coordinator{around.defaults};
   ScanHistory history{around.defaults, around.clock};

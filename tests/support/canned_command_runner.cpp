@@ -17,11 +17,23 @@ std::vector<std::string> CannedCommandRunner::commandsRun() const {
   return _commandsRun;
 }
 
+void CannedCommandRunner::holdAt(const std::string& text, Gate& gate) {
+  const std::lock_guard lock(_mutex);
+  _heldText = text;
+  _gate = &gate;
+}
+
 std::optional<std::string> CannedCommandRunner::run(const std::string& commandLine) {
+  if (Gate* gate = gateOf(commandLine)) gate->pass();
   const std::lock_guard lock(_mutex);
   _commandsRun.push_back(commandLine);
   const auto found = _answers.find(commandLine);
   return found != _answers.end() ? found->second : "";
+}
+
+Gate* CannedCommandRunner::gateOf(const std::string& commandLine) const {
+  const std::lock_guard lock(_mutex);
+  return commandLine.find(_heldText) != std::string::npos ? _gate : nullptr;
 }
 
 }  // namespace klarvik

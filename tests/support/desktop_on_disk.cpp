@@ -12,13 +12,6 @@ DesktopOnDisk::DesktopOnDisk(const std::optional<SampleDiskOptions>& options) {
                   sample->simulatorListing);
 }
 
-std::optional<std::string> DesktopOnDisk::GatedCommands::run(const std::string& commandLine) {
-  if (!_owner.gatedCommand.empty() && commandLine.find(_owner.gatedCommand) != std::string::npos) {
-    _owner.commandGate.pass();
-  }
-  return _owner.commands.run(commandLine);
-}
-
 std::optional<Path> DesktopOnDisk::GatedTrash::moveToTrash(const Path& item,
                                                            const PlaceCheck& mayMove) {
   _owner.trashGate.pass();

@@ -7,12 +7,7 @@ TestDesktop::TestDesktop() {
 }
 
 Desktop TestDesktop::desktop() {
-  return {{files, trash, commands, defaults, volume, formatting, info, recentDocuments},
-          clock,
-          notifications,
-          workspace,
-          pasteboard,
-          openPanel};
+  return around(files, trash, clock);
 }
 
 }  // namespace klarvik

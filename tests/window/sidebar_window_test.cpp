@@ -84,7 +84,7 @@ TEST_F(SidebarWindowOverAnEmptyHome, OffersNothingForAnEmptyTrash) {
 }
 
 TEST_F(SidebarWindow, ShowsThePercentageOfARunningScanAndThenWhatItFound) {
-  desk->gatedCommand = "docker";
+  desk->commands.holdAt("docker", desk->commandGate);
   desk->commandGate.close();
   openWindow();
   click("Scan");

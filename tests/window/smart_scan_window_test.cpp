@@ -27,7 +27,7 @@ TEST_F(SmartScanWindow, PreviewsWhatAScanLooksAt) {
 }
 
 TEST_F(SmartScanWindow, ShowsAScanWhileItRunsAndKeepsWhatArrivedWhenStopped) {
-  desk->gatedCommand = "docker";
+  desk->commands.holdAt("docker", desk->commandGate);
   desk->commandGate.close();
   openWindow();
   click("Scan");

@@ -63,7 +63,7 @@ TEST_F(SystemDataWindow, SaysThatThePermissionIsMissing) {
 }
 
 TEST_F(SystemDataWindow, ShowsAnAnalysisWhileItRuns) {
-  desk->gatedCommand = "tmutil";
+  desk->commands.holdAt("tmutil", desk->commandGate);
   desk->commandGate.close();
   openSystemData();
   click("Analyse");

@@ -123,7 +123,7 @@ TEST_F(DuplicateFinderViewTest, ACancelledScanRunsOnUnseenAndItsResultIsDropped)
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Idle{}));
   EXPECT_EQ(pane->placeholderTitle(), "No duplicates");
 
-  scanGate.open();
+  gate.open();
   for (int turn = 0; turn < 100; ++turn) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 2);
     desk.clock.advance(std::chrono::milliseconds(5));
@@ -144,7 +144,7 @@ TEST_F(DuplicateFinderViewTest, ANewScanMayStartWhileACancelledOneRunsOn) {
   const Uuid id = pane->groups()[0]->group.id;
   const auto measured = total();
 
-  scanGate.open();
+  gate.open();
   for (int turn = 0; turn < 100; ++turn) QCoreApplication::processEvents(QEventLoop::AllEvents, 2);
   EXPECT_EQ(pane->groups()[0]->group.id, id);
   EXPECT_EQ(total(), measured);

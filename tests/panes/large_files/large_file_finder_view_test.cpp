@@ -112,7 +112,7 @@ TEST_F(LargeFileFinderViewTest, TheListGrowsDuringTheScanAndTheSidebarShowsHowFa
   EXPECT_EQ(pane->progress(), 500 / 80'000.0);
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Progress{500 / 80'000.0}));
 
-  walkGate.open();
+  gate.open();
   EXPECT_TRUE(turnUntil([this] { return !pane->isScanning(); }));
   EXPECT_TRUE(shows({"film.mov", "z.psd"}));
 }
@@ -124,7 +124,7 @@ TEST_F(LargeFileFinderViewTest, ARowSelectedDuringTheScanStaysSelected) {
   ASSERT_TRUE(shows({"film.mov"}));
   select("film.mov");
   const Uuid id = pane->files().front()->id;
-  walkGate.open();
+  gate.open();
   ASSERT_TRUE(turnUntil([this] { return !pane->isScanning(); }));
   ASSERT_TRUE(shows({"z.psd", "film.mov"}));
   EXPECT_THAT(pane->selected(), UnorderedElementsAre(id));
@@ -141,7 +141,7 @@ TEST_F(LargeFileFinderViewTest, StopEndsTheScanAtOnceAndTheListFoundSoFarStillCo
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Idle{}));
   EXPECT_FALSE(total());
 
-  walkGate.open();
+  gate.open();
   ASSERT_TRUE(turnUntil([this] { return total().has_value(); }));
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Finished{"1 files"}));
   EXPECT_EQ(total()->items, 1);
@@ -163,8 +163,8 @@ TEST_F(LargeFileFinderViewTest, WhatAStoppedScanBringsLateDoesNotMixWithTheNextO
   EXPECT_NE(latter, former);
   const auto measured = total();
 
-  walkGate.open();
-  ASSERT_TRUE(turnUntil([this] { return walkGate.waiting() == 0; }));
+  gate.open();
+  ASSERT_TRUE(turnUntil([this] { return gate.waiting() == 0; }));
   for (int turn = 0; turn < 50; ++turn) QCoreApplication::processEvents();
   EXPECT_EQ(pane->files().front()->id, latter);
   EXPECT_EQ(total(), measured);
@@ -368,7 +368,7 @@ TEST_F(LargeFileFinderViewTest, AFileTrashedDuringTheScanDoesNotComeBackWithItsN
   select("film.mov");
   ASSERT_TRUE(trash());
   EXPECT_FALSE(desk.disk.holds(film));
-  walkGate.open();
+  gate.open();
   ASSERT_TRUE(turnUntil([this] { return !pane->isScanning(); }));
   EXPECT_TRUE(shows({"z.psd"}));
   EXPECT_EQ(total()->items, 1);
@@ -398,7 +398,7 @@ TEST_F(LargeFileFinderViewTest, AFolderRemovedWhileItIsScannedEndsInFewerRows) {
   holdTheNextWalk();
   files.before(Operation::attributes, heldFile,
                [this] { std::filesystem::remove_all(desk.disk.onDisk("/Users/ann/Pictures")); });
-  walkGate.open();
+  gate.open();
   pane->performAction();
   ASSERT_TRUE(turnUntil([this] { return !pane->isScanning(); }));
   EXPECT_TRUE(listed().contains("/Users/ann/Documents/old.zip"));
@@ -476,7 +476,7 @@ TEST_F(LargeFileFinderViewTest, NothingRunsByItselfAfterAScanOfTheUsers) {
 
 TEST_F(LargeFileFinderViewTest, ClosedDuringAScanItEndsTheWalk) {
   ASSERT_TRUE(startScanAndHoldIt());
-  std::thread opener([this] { walkGate.open(); });
+  std::thread opener([this] { gate.open(); });
   pane.reset();
   opener.join();
   EXPECT_FALSE(total());

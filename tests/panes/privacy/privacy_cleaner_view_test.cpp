@@ -237,7 +237,7 @@ TEST_F(PrivacyClearing, EmptiesTheRecentDocumentsAndTouchesNoFile) {
   const DiskSnapshot before = snapshotOf(desk.disk.path());
   ASSERT_TRUE(clear());
   EXPECT_EQ(differences(before, snapshotOf(desk.disk.path())), "");
-  EXPECT_EQ(recentDocuments.clearings, 1);
+  EXPECT_EQ(desk.recentDocuments.clearings, 1);
   EXPECT_EQ(desk.pasteboard.clearings, 0);
 }
 
@@ -343,7 +343,7 @@ TEST_F(PrivacyClearing, IsFinishedBeforeTheProgramEnds) {
   view->clear();
   view->finishRemovals();
   EXPECT_FALSE(view->isCleaning());
-  EXPECT_EQ(recentDocuments.clearings, 1);
+  EXPECT_EQ(desk.recentDocuments.clearings, 1);
   EXPECT_EQ(view->lastResult(), (PrivacyClearance{.cleaned = 1, .freed = 0}));
 }
 
@@ -352,7 +352,7 @@ TEST_F(PrivacyClearing, IsFinishedBeforeThePaneGoes) {
   ASSERT_TRUE(scan());
   view->clear();
   view.reset();
-  EXPECT_EQ(recentDocuments.clearings, 1);
+  EXPECT_EQ(desk.recentDocuments.clearings, 1);
 }
 
 }  // namespace

@@ -1,34 +1,23 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <atomic>
-#include <functional>
 #include <optional>
 #include <string>
 
+#include "../pane_fixture.h"
 #include "panes/privacy/privacy_cleaner_view.h"
-#include "state/shared_state.h"
-#include "support/desktop_on_disk.h"
-#include "support/faulting_file_system.h"
 
 namespace klarvik {
 
 /// A Privacy pane over a real disk, in a program of its own with a main loop. A
 /// scan can be held up while it looks for the browser history, a clearing
 /// before it removes the list of recent apps.
-class PrivacyFixture : public ::testing::Test {
+class PrivacyFixture : public PaneFixture {
  protected:
-  using Operation = FaultingFileSystem::Operation;
-  static constexpr std::int64_t kilobyte = 1'000;
-
   PrivacyFixture() {
     view.emplace(PrivacyCleanerView::Sources{shared.scanCoordinator(), shared.toolActivity()},
                  desktop);
   }
-  ~PrivacyFixture() override { gate.open(); }
 
   [[nodiscard]] Path inLibrary(const std::string& place) const {
     return desk.files.home() / "Library" / place;
@@ -62,22 +51,14 @@ class PrivacyFixture : public ::testing::Test {
     files.before(Operation::exists, inLibrary("Safari/History.db"), [this] { gate.pass(); });
   }
   /// There must be recent files to clear.
-  void holdClearing() { gate.close(); }
+  void holdClearing() {
+    gate.close();
+    desk.recentDocuments.gate = &gate;
+  }
   [[nodiscard]] bool isHeld() {
     return turnUntil([this] { return gate.waiting() == 1; });
   }
 
-  /// Turns the main loop, and moves the clock on, until `reached` holds. False
-  /// when it never does.
-  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
-    const QDeadlineTimer giveUp(60'000);
-    while (!reached()) {
-      if (giveUp.hasExpired()) return false;
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-      desk.clock.advance(std::chrono::milliseconds(1));
-    }
-    return true;
-  }
   [[nodiscard]] bool scan() {
     view->performAction();
     return turnUntil([this] { return !view->isScanning(); });
@@ -104,39 +85,7 @@ class PrivacyFixture : public ::testing::Test {
     return row(static_cast<int>(names().indexOf(name)), TrailList::IsSelectedRole).toBool();
   }
 
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
-  class GatedRecentDocuments final : public RecentDocuments {
-   public:
-    explicit GatedRecentDocuments(Gate& gate) : _gate(gate) {}
-    bool clear() override {
-      _gate.pass();
-      ++clearings;
-      return true;
-    }
-    std::atomic<int> clearings = 0;
-
-   private:
-    Gate& _gate;
-  };
-
  protected:
-  DesktopOnDisk desk;
-  Gate gate;
-  GatedRecentDocuments recentDocuments{gate};
-  FaultingFileSystem files{desk.files};
-  Desktop desktop{{files, desk.desktop.trash, desk.desktop.commands, desk.defaults, desk.volume,
-                   desk.formatting, desk.info, recentDocuments},
-                  desk.clock,
-                  desk.notifications,
-                  desk.workspace,
-                  desk.pasteboard,
-                  desk.openPanel};
-  SharedState shared{desktop};
   std::optional<PrivacyCleanerView> view;
 };
 

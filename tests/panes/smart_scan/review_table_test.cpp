@@ -3,14 +3,14 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
-#include "pane_fixture.h"
 #include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
+#include "smart_scan_fixture.h"
 
 namespace klarvik {
 namespace {
 
-class ReviewTableRows : public PaneFixture {
+class ReviewTableRows : public SmartScanFixture {
  protected:
   ReviewTable& table() { return *pane.reviewTable(); }
 
@@ -22,13 +22,13 @@ class ReviewTableRows : public PaneFixture {
 TEST_F(ReviewTableRows, AreNoneBeforeTheFirstScanAndWhileOneRuns) {
   addCache("a");
   EXPECT_EQ(table().rowCount(), 0);
-  desk.gatedCommand = "docker";
-  desk.commandGate.close();
+  desk.commands.holdAt("docker", gate);
+  gate.close();
   appState.startScan();
-  ASSERT_TRUE(turnUntil([this] { return desk.commandGate.waiting() == 1; }));
+  ASSERT_TRUE(turnUntil([this] { return gate.waiting() == 1; }));
   ASSERT_TRUE(turnUntil([this] { return !appState.scanResults().empty(); }));
   EXPECT_EQ(table().rowCount(), 0);
-  desk.commandGate.open();
+  gate.open();
   ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
   EXPECT_EQ(reviewedNames(), QStringList{"App Caches"});
 }

@@ -2,24 +2,23 @@
 
 #include <QSignalSpy>
 
-#include "pane_fixture.h"
 #include "panes/kit/row_text.h"
+#include "smart_scan_fixture.h"
 
 namespace klarvik {
 namespace {
 
 using Body = SmartScanPane::Body;
 
-class SmartScanPaneModel : public PaneFixture {
+class SmartScanPaneModel : public SmartScanFixture {
  protected:
   [[nodiscard]] QString size(std::int64_t bytes) const { return byteText(bytes, desk.formatting); }
   [[nodiscard]] bool startScanAndHoldIt() {
-    desk.gatedCommand = "docker";
-    desk.commandGate.close();
+    desk.commands.holdAt("docker", gate);
+    gate.close();
     pane.performAction();
-    return turnUntil([this] {
-      return desk.commandGate.waiting() == 1 && appState.scanActivity().categoryName == "Docker";
-    });
+    return turnUntil(
+        [this] { return gate.waiting() == 1 && appState.scanActivity().categoryName == "Docker"; });
   }
 };
 
@@ -63,7 +62,7 @@ TEST_F(SmartScanPaneModel, ShowsARunningScanAndStopsIt) {
   EXPECT_EQ(pane.body(), Body::Review);
   EXPECT_EQ(pane.actionTitle(), "Rescan");
   EXPECT_TRUE(pane.scanningTable()->rows().empty());
-  desk.commandGate.open();
+  gate.open();
 }
 
 TEST_F(SmartScanPaneModel, GrowsTheScanningTableRowByRow) {
@@ -73,7 +72,7 @@ TEST_F(SmartScanPaneModel, GrowsTheScanningTableRowByRow) {
   ASSERT_TRUE(startScanAndHoldIt());
   EXPECT_GE(inserted.count(), 2);
   EXPECT_EQ(reset.count(), 0);
-  desk.commandGate.open();
+  gate.open();
 }
 
 TEST_F(SmartScanPaneModel, SaysWhatAScanFound) {
@@ -252,8 +251,8 @@ TEST_F(SmartScanPaneModel, SaysHowLongTheLastCleanIsAgoAndKeepsThatFresh) {
   addCache("a");
   ASSERT_TRUE(scan());
   ASSERT_TRUE(clean());
-  desk.gatedCommand = "xcrun";
-  desk.commandGate.close();
+  desk.commands.holdAt("xcrun", gate);
+  gate.close();
   pane.performAction();
   pane.performAction();
   ASSERT_EQ(pane.body(), Body::Preview);
@@ -263,10 +262,10 @@ TEST_F(SmartScanPaneModel, SaysHowLongTheLastCleanIsAgoAndKeepsThatFresh) {
   desk.clock.advance(std::chrono::minutes(1));
   EXPECT_GE(changed.count(), 1);
   EXPECT_EQ(pane.subtitle(), "Last clean 6 minutes ago");
-  desk.commandGate.open();
+  gate.open();
 }
 
-class ElsewhereStripEntries : public PaneFixture {
+class ElsewhereStripEntries : public SmartScanFixture {
  protected:
   void setTotal(const std::string& key, std::int64_t bytes) {
     shared.scanCoordinator().setTotal(key, {bytes, 1, Date{}});

@@ -2,14 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QSignalSpy>
-#include <functional>
 
+#include "../pane_fixture.h"
 #include "core/storage_palette.h"
-#include "state/shared_state.h"
-#include "support/desktop_on_disk.h"
 
 namespace klarvik {
 namespace {
@@ -17,14 +13,11 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::int64_t gigabyte = 1'000'000'000;
-const Path protectedFile = "/Users/ann/Library/Application Support/com.apple.TCC/TCC.db";
 
 /// The pane in a program of its own with a main loop, over measurements that a test lays down and
 /// can hold half-way.
-class StorageAnalyticsModel : public ::testing::Test {
+class StorageAnalyticsModel : public PaneFixture {
  protected:
-  ~StorageAnalyticsModel() override { gate.open(); }
-
   static DiskComposition compositionOf(std::vector<std::pair<std::string, std::int64_t>> sizes,
                                        std::int64_t usedBytes = 100 * gigabyte) {
     DiskComposition composition;
@@ -45,15 +38,6 @@ class StorageAnalyticsModel : public ::testing::Test {
     return answer;
   }
 
-  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
-    const QDeadlineTimer giveUp(60'000);
-    while (!reached()) {
-      if (giveUp.hasExpired()) return false;
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-      desk.clock.advance(5ms);
-    }
-    return true;
-  }
   [[nodiscard]] bool measureToTheEnd() {
     pane.performAction();
     return turnUntil([this] { return !pane.isMeasuring(); });
@@ -69,21 +53,12 @@ class StorageAnalyticsModel : public ::testing::Test {
     return ids;
   }
 
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
  protected:
-  Gate gate;
   DiskComposition answer = compositionOf({{"documents", 60 * gigabyte}, {"music", 20 * gigabyte}});
   std::atomic<int> measurements = 0;
-  DesktopOnDisk desk;
-  SharedState shared{desk.desktop};
   StorageAnalyticsView pane{
       {shared.scanHistory(), shared.diskMonitor(), shared.permissionsManager()},
-      desk.desktop,
+      desktop,
       nullptr,
       [this](std::stop_token stop, const DiskCompositionEngine::ProgressSink& progress) {
         return measureAsLaidDown(std::move(stop), progress);
@@ -184,8 +159,7 @@ TEST_F(StorageAnalyticsModel, DropsWhatAStoppedMeasurementStillSaysWhileTheNextO
 }
 
 TEST_F(StorageAnalyticsModel, AsksForThePermissionBeforeItMeasures) {
-  desk.disk.makeFolder(protectedFile);
-  shared.permissionsManager().refreshAccess();
+  denyFullDiskAccess();
   EXPECT_TRUE(pane.nothingMeasured().contains("waits for you to ask"));
 
   pane.performAction();
@@ -203,11 +177,9 @@ TEST_F(StorageAnalyticsModel, AsksForThePermissionBeforeItMeasures) {
 }
 
 TEST_F(StorageAnalyticsModel, SaysWhenThePermissionHasCome) {
-  desk.disk.makeFolder(protectedFile);
-  shared.permissionsManager().refreshAccess();
+  denyFullDiskAccess();
   QSignalSpy changed(&pane, &StorageAnalyticsView::nothingMeasuredChanged);
-  std::filesystem::remove(desk.disk.onDisk(protectedFile));
-  shared.permissionsManager().refreshAccess();
+  grantFullDiskAccess();
   EXPECT_EQ(changed.count(), 1);
   EXPECT_EQ(pane.nothingMeasured(),
             "Nothing measured yet. Walking your folders takes about a minute and reads sizes "
@@ -293,10 +265,10 @@ TEST_F(StorageAnalyticsModel, FollowsTheHistoryOfCleans) {
 }
 
 TEST_F(StorageAnalyticsModel, SurvivesAPermissionThatComesAfterThePaneHasGone) {
-  desk.disk.makeFolder(protectedFile);
+  denyFullDiskAccess();
   {
     StorageAnalyticsView other(
-        {shared.scanHistory(), shared.diskMonitor(), shared.permissionsManager()}, desk.desktop);
+        {shared.scanHistory(), shared.diskMonitor(), shared.permissionsManager()}, desktop);
     other.performAction();
   }
   shared.permissionsManager().finishAccessRequest();
@@ -309,7 +281,7 @@ TEST_F(StorageAnalyticsModel, MeasuresTheDiskItselfAndSurvivesAFolderThatGoesMea
   desk.volume.setTotalBytes(20'000'000);
   desk.volume.setAvailableBytes(10'000'000);
   StorageAnalyticsView real(
-      {shared.scanHistory(), shared.diskMonitor(), shared.permissionsManager()}, desk.desktop);
+      {shared.scanHistory(), shared.diskMonitor(), shared.permissionsManager()}, desktop);
   real.performAction();
   std::filesystem::remove_all(desk.disk.onDisk("/Users/ann/Music"));
   ASSERT_TRUE(turnUntil([&] { return real.isMeasured(); }));

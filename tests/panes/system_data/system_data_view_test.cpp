@@ -2,17 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QSignalSpy>
 #include <atomic>
-#include <functional>
 
+#include "../pane_fixture.h"
 #include "found_items.h"
 #include "panes/kit/kit_enums.h"
 #include "state/section.h"
-#include "state/shared_state.h"
-#include "support/desktop_on_disk.h"
 
 namespace klarvik {
 namespace {
@@ -27,13 +23,8 @@ constexpr auto width = ScannerEngine::deletionWidth;
 
 /// The pane in a program of its own with a main loop, over a real disk and a real Trash, and over
 /// analyses that a test lays down and can hold half-way.
-class SystemDataPane : public ::testing::Test {
+class SystemDataPane : public PaneFixture {
  protected:
-  ~SystemDataPane() override {
-    gate.open();
-    desk.trashGate.open();
-  }
-
   /// A row, and a file on the disk that it stands for.
   void add(Sub kind, const std::string& name, std::int64_t size,
            std::optional<ItemSafety> safetyOverride = std::nullopt) {
@@ -53,15 +44,6 @@ class SystemDataPane : public ::testing::Test {
     return SystemDataResult(std::move(items), 123);
   }
 
-  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
-    const QDeadlineTimer giveUp(60'000);
-    while (!reached()) {
-      if (giveUp.hasExpired()) return false;
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-      desk.clock.advance(5ms);
-    }
-    return true;
-  }
   void turnAWhile() {
     for (int turn = 0; turn < 40; ++turn) {
       QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
@@ -95,28 +77,15 @@ class SystemDataPane : public ::testing::Test {
   [[nodiscard]] const std::vector<SystemDataItem>& rows() const {
     return pane.findings().result()->items();
   }
-  [[nodiscard]] ToolActivity::State activity() const {
-    return shared.toolActivity().state("systemData");
-  }
-  [[nodiscard]] ScanCoordinator::Total total() const {
-    return shared.scanCoordinator().totals().at("systemData");
-  }
-
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
+  [[nodiscard]] ToolActivity::State activity() { return activityOf("systemData"); }
+  [[nodiscard]] ScanCoordinator::Total total() { return totalOf("systemData").value(); }
 
  protected:
-  Gate gate;
   std::vector<SystemDataItem> laidDown;
   std::atomic<int> analyses = 0;
-  DesktopOnDisk desk;
-  mutable SharedState shared{desk.desktop};
   SystemDataView pane{{shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager(),
                        shared.trashMonitor()},
-                      desk.desktop,
+                      desktop,
                       nullptr,
                       [this](const SystemDataEngine::ProgressSink& progress) {
                         return analyseAsLaidDown(progress);
@@ -458,7 +427,7 @@ TEST_F(SystemDataPane, AnalysesTheDiskItself) {
   desk.disk.makeFile("/Users/ann/Library/Caches/com.acme.writer/data", 6 * megabyte);
   SystemDataView real({shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager(),
                        shared.trashMonitor()},
-                      desk.desktop);
+                      desktop);
   real.performAction();
   ASSERT_TRUE(turnUntil([&] { return !real.isScanning(); }));
   ASSERT_EQ(real.findings().result()->items().size(), 1U);

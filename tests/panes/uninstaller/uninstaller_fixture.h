@@ -1,33 +1,22 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <functional>
 #include <optional>
 #include <string>
 
+#include "../pane_fixture.h"
 #include "panes/uninstaller/app_uninstaller_view.h"
-#include "state/shared_state.h"
-#include "support/desktop_on_disk.h"
-#include "support/faulting_file_system.h"
 
 namespace klarvik {
 
 /// An Uninstaller pane over a real disk, in a program of its own with a main loop. The engine can
 /// be held up at any folder that it lists.
-class UninstallerFixture : public ::testing::Test {
+class UninstallerFixture : public PaneFixture {
  protected:
-  using Operation = FaultingFileSystem::Operation;
-  static constexpr std::int64_t kilobyte = 1'000;
-
   UninstallerFixture() {
     view.emplace(AppUninstallerView::Sources{shared.scanCoordinator(), shared.toolActivity(),
                                              shared.navigator()},
                  desktop);
   }
-  ~UninstallerFixture() override { gate.open(); }
 
   void addApp(const std::string& name, const std::string& bundleID, std::int64_t bytes,
               const Path& folder = "/Applications") const {
@@ -44,9 +33,6 @@ class UninstallerFixture : public ::testing::Test {
   [[nodiscard]] bool libraryHolds(const std::string& place) const {
     return desk.disk.holds(desk.files.home() / "Library" / place);
   }
-  [[nodiscard]] std::size_t trashCount() {
-    return desk.desktop.trash.list().value_or(std::vector<Path>{}).size();
-  }
 
   /// Whoever lists the folder next waits until the gate opens.
   void holdAt(const Path& folder) {
@@ -55,17 +41,6 @@ class UninstallerFixture : public ::testing::Test {
   }
   [[nodiscard]] bool isHeld() {
     return turnUntil([this] { return gate.waiting() == 1; });
-  }
-
-  /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
-  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
-    const QDeadlineTimer giveUp(60'000);
-    while (!reached()) {
-      if (giveUp.hasExpired()) return false;
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-      desk.clock.advance(std::chrono::milliseconds(1));
-    }
-    return true;
   }
 
   void navigateTo(Section section) { shared.navigator().setSection(section); }
@@ -115,24 +90,7 @@ class UninstallerFixture : public ::testing::Test {
     return static_cast<int>(leftoverNames().indexOf(name));
   }
 
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
  protected:
-  DesktopOnDisk desk;
-  Gate gate;
-  FaultingFileSystem files{desk.files};
-  Desktop desktop{{files, desk.desktop.trash, desk.desktop.commands, desk.defaults, desk.volume,
-                   desk.formatting, desk.info, desk.recentDocuments},
-                  desk.clock,
-                  desk.notifications,
-                  desk.workspace,
-                  desk.pasteboard,
-                  desk.openPanel};
-  SharedState shared{desktop};
   std::optional<AppUninstallerView> view;
 };
 

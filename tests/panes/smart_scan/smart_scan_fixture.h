@@ -1,22 +1,13 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <functional>
-
+#include "../pane_fixture.h"
 #include "panes/smart_scan/smart_scan_pane.h"
-#include "state/shared_state.h"
-#include "support/desktop_on_disk.h"
 
 namespace klarvik {
 
 /// A Smart Scan pane over a real disk, in a program of its own with a main loop.
-class PaneFixture : public ::testing::Test {
+class SmartScanFixture : public PaneFixture {
  protected:
-  static constexpr std::int64_t megabyte = 1'000'000;
-
   void addCache(const std::string& name, std::int64_t megabytes = 2) const {
     desk.disk.makeFile(Path("/Users/ann/Library/Caches") / name / "data", megabytes * megabyte);
   }
@@ -26,18 +17,6 @@ class PaneFixture : public ::testing::Test {
                        2 * megabyte);
   }
 
-  /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
-  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
-    const QDeadlineTimer giveUp(60'000);
-    while (!reached()) {
-      if (giveUp.hasExpired()) {
-        return false;
-      }
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-      desk.clock.advance(std::chrono::milliseconds(5));
-    }
-    return true;
-  }
   template <typename State>
   [[nodiscard]] bool is() const {
     return std::holds_alternative<State>(appState.scanState());
@@ -62,20 +41,11 @@ class PaneFixture : public ::testing::Test {
     return names;
   }
 
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
  protected:
-  DesktopOnDisk desk;
-  SharedState shared{desk.desktop};
-  AppState appState{desk.desktop, shared.toolActivity(), shared.scanCoordinator(),
-                    shared.scanHistory()};
+  AppState appState{desktop, shared.toolActivity(), shared.scanCoordinator(), shared.scanHistory()};
   SmartScanPane pane{{appState, shared.diskMonitor(), shared.trashMonitor(),
                       shared.scanCoordinator(), shared.toolActivity(), shared.navigator()},
-                     desk.desktop};
+                     desktop};
 };
 
 }  // namespace klarvik

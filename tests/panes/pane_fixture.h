@@ -1,0 +1,81 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "state/shared_state.h"
+#include "support/desktop_on_disk.h"
+#include "support/faulting_file_system.h"
+
+namespace klarvik {
+
+/// What the pane of every tool is tested in: a program of its own with a main loop, over a real
+/// disk. A test can put faults under the pane, and hold threads up at `gate`.
+class PaneFixture : public ::testing::Test {
+ protected:
+  using Operation = FaultingFileSystem::Operation;
+  static constexpr std::int64_t kilobyte = 1'000;
+  static constexpr std::int64_t megabyte = 1'000'000;
+  static constexpr std::int64_t mebibyte = 1'048'576;
+
+  void TearDown() override {
+    gate.open();
+    desk.trashGate.open();
+  }
+
+  /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
+  [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
+    const QDeadlineTimer giveUp(60'000);
+    while (!reached()) {
+      if (giveUp.hasExpired()) return false;
+      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+      desk.clock.advance(std::chrono::milliseconds(5));
+    }
+    return true;
+  }
+  [[nodiscard]] Path inHome(const std::string& place) const { return desk.files.home() / place; }
+  [[nodiscard]] std::size_t trashCount() const {
+    return desk.desktop.trash.list().value_or(std::vector<Path>{}).size();
+  }
+  /// What the tool shows and reports of itself.
+  [[nodiscard]] ToolActivity::State activityOf(const std::string& tool) {
+    return shared.toolActivity().state(tool);
+  }
+  [[nodiscard]] std::optional<ScanCoordinator::Total> totalOf(const std::string& tool) {
+    const auto& totals = shared.scanCoordinator().totals();
+    const auto found = totals.find(tool);
+    if (found == totals.end()) return std::nullopt;
+    return found->second;
+  }
+  /// There is something to read, and it cannot be read.
+  void denyFullDiskAccess() {
+    desk.disk.makeFile(protectedFile);
+    files.fail(Operation::openForReading, protectedFile);
+    shared.permissionsManager().refreshAccess();
+  }
+  void grantFullDiskAccess() {
+    files.heal(Operation::openForReading, protectedFile);
+    shared.permissionsManager().refreshAccess();
+  }
+
+ private:
+  static constexpr const char* protectedFile = "/Library/Application Support/com.apple.TCC/TCC.db";
+  int _count = 1;
+  char _name[6] = "tests";
+  char* _arguments[2] = {_name, nullptr};
+  QCoreApplication _application{_count, _arguments};
+
+ protected:
+  Gate gate;
+  DesktopOnDisk desk;
+  FaultingFileSystem files{desk.files};
+  Desktop desktop = desk.around(files, desk.desktop.trash, desk.clock);
+  SharedState shared{desktop};
+};
+
+}  // namespace klarvik

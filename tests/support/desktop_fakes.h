@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "support/canned_command_runner.h"
+#include "support/fixed_volume.h"
+#include "support/memory_defaults.h"
+#include "support/memory_pasteboard.h"
+#include "support/recording_recent_documents.h"
+#include "support/recording_workspace.h"
+#include "support/scripted_open_panel.h"
+
+namespace klarvik {
+
+/// Fakes for all that a desktop offers but the files, the Trash and the time: the one place where
+/// the desktop of a test is put together. Sizes and dates are written in the English of the United
+/// States.
+struct DesktopFakes {
+  CannedCommandRunner commands;
+  MemoryDefaults defaults;
+  FixedVolume volume;
+  Formatting formatting{"en_US"};
+  ApplicationInfo info{{"CFBundleShortVersionString", "1.2.3"}, {"CFBundleVersion", "45"}};
+  RecordingRecentDocuments recentDocuments;
+  NotificationCenter notifications;
+  RecordingWorkspace workspace;
+  MemoryPasteboard pasteboard;
+  ScriptedOpenPanel openPanel;
+
+  /// Refers to this object and to what is handed in.
+  [[nodiscard]] Desktop around(FileSystem& files, Trash& trash, Clock& clock);
+};
+
+}  // namespace klarvik
