@@ -82,6 +82,7 @@ QCoro::Task<> AppState::runClean(Results results, ItemSelection selection,
   Cleaned cleaned = co_await onEngineThread(_removalWork, std::move(clean));
   reports.empty();
   finishClean(std::move(cleaned));
+  _removalWork.discard(std::move(selection));
 }
 
 AppState::CleanPlan AppState::planClean(const std::vector<CleanCategory>& results,

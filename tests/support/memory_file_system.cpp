@@ -85,17 +85,17 @@ void MemoryFileSystem::setBeforeRemoval(std::function<void(const Path&)> hook) {
 }
 
 std::vector<Path> MemoryFileSystem::removed() const {
-  const std::scoped_lock lock(_mutex);
+  const std::shared_lock lock(_mutex);
   return _removed;
 }
 
 bool MemoryFileSystem::holds(const Path& path) const {
-  const std::scoped_lock lock(_mutex);
+  const std::shared_lock lock(_mutex);
   return _entries.contains(path);
 }
 
 std::set<Path> MemoryFileSystem::contents() const {
-  const std::scoped_lock lock(_mutex);
+  const std::shared_lock lock(_mutex);
   std::set<Path> paths;
   for (const auto& [path, attributes] : _entries) paths.insert(path);
   return paths;
@@ -107,7 +107,7 @@ bool MemoryFileSystem::exists(const Path& path) const {
 }
 
 std::optional<FileAttributes> MemoryFileSystem::attributes(const Path& path) const {
-  const std::scoped_lock lock(_mutex);
+  const std::shared_lock lock(_mutex);
   const auto found = _entries.find(path);
   if (found == _entries.end()) return std::nullopt;
   return found->second;
@@ -118,7 +118,7 @@ std::optional<std::vector<Path>> MemoryFileSystem::list(const Path& folder) cons
   if (!own || own->kind != FileKind::directory || _unreadable.contains(folder)) {
     return std::nullopt;
   }
-  const std::scoped_lock lock(_mutex);
+  const std::shared_lock lock(_mutex);
   std::vector<Path> children = subtree(folder);
   std::erase_if(children,
                 [&](const Path& path) { return path.parent_path() != folder || path == folder; });

@@ -4,6 +4,7 @@
 #include <map>
 #include <mutex>
 #include <set>
+#include <shared_mutex>
 #include <string>
 #include <vector>
 
@@ -64,7 +65,7 @@ class MemoryFileSystem final : public FileSystem {
   [[nodiscard]] bool mayTouch(const Path& item, const PlaceCheck& check) const;
   [[nodiscard]] std::vector<Path> subtree(const Path& item) const;
 
-  mutable std::mutex _mutex;
+  mutable std::shared_mutex _mutex;
   std::map<Path, FileAttributes> _entries;
   std::set<Path> _unreadable;
   std::set<Path> _immovable;

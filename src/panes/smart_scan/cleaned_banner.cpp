@@ -65,8 +65,11 @@ void CleanedBanner::setRestoring(bool restoring) {
   }
 }
 
-AppState::CleanSummary CleanedBanner::summary() const {
-  return _appState.lastClean().value_or(AppState::CleanSummary{});
+/// Not a copy: it lists everything that can be restored.
+const AppState::CleanSummary& CleanedBanner::summary() const {
+  static const AppState::CleanSummary none;
+  const auto& lastClean = _appState.lastClean();
+  return lastClean ? *lastClean : none;
 }
 
 }  // namespace klarvik

@@ -43,7 +43,7 @@ class CleanedBanner : public QObject {
  private:
   QCoro::Task<> restoreLastClean();
   void setRestoring(bool restoring);
-  [[nodiscard]] AppState::CleanSummary summary() const;
+  [[nodiscard]] const AppState::CleanSummary& summary() const;
 
   AppState& _appState;
   DiskMonitor& _diskMonitor;
