@@ -3,26 +3,17 @@
 #include <gtest/gtest.h>
 
 #include "engine/scanner_engine.h"
-#include "support/canned_command_runner.h"
-#include "support/fixed_volume.h"
-#include "support/memory_defaults.h"
+#include "support/desktop_fakes.h"
 #include "support/memory_file_system.h"
-#include "support/recording_recent_documents.h"
 
 namespace klarvik {
 
 /// An engine on a remembered disk, with tools that answer what a test says. The locale is en_US.
-class EngineFixture : public testing::Test {
+class EngineFixture : public testing::Test, protected DesktopFakes {
  protected:
   MemoryFileSystem files;
   MemoryTrash trash{files};
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  FixedVolume volume;
-  Formatting formatting{"en_US"};
-  ApplicationInfo info;
-  RecordingRecentDocuments recentDocuments;
-  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
+  Platform platform = platformOn(files, trash);
   ScannerEngine engine{platform};
 
   [[nodiscard]] std::vector<CleanCategory> scan() { return engine.scanAll({}, {}, {}); }

@@ -25,8 +25,7 @@ class RemovalOnADisk : public testing::Test {
   TestDesktop world;
   TemporaryFolder& disk = world.disk;
   FaultingFileSystem files{world.files};
-  Platform platform{files,        world.trash,      world.commands, world.defaults,
-                    world.volume, world.formatting, world.info,     world.recentDocuments};
+  Platform platform = world.platformOn(files, world.trash);
   ScannerEngine engine{platform};
   const Path caches = "/Users/ann/Library/Caches";
   const Path trashed = "/Users/ann/.local/share/Trash/files";

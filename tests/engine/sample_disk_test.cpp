@@ -9,10 +9,7 @@
 #include "engine/scanner_engine.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_trash.h"
-#include "support/canned_command_runner.h"
-#include "support/fixed_volume.h"
-#include "support/memory_defaults.h"
-#include "support/recording_recent_documents.h"
+#include "support/desktop_fakes.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -46,19 +43,13 @@ std::map<std::string, std::string> contentsOf(const Path& folder) {
 }
 
 /// An engine on the sample disk, with tools that answer what a test says.
-struct SampleEngine {
+struct SampleEngine : DesktopFakes {
   explicit SampleEngine(const SampleDisk& sample)
       : files(sample.root, sample.home), trash(sample.root, sample.home) {}
 
   LinuxFileSystem files;
   LinuxTrash trash;
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  FixedVolume volume;
-  Formatting formatting{"en_US"};
-  ApplicationInfo info;
-  RecordingRecentDocuments recentDocuments;
-  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
+  Platform platform = platformOn(files, trash);
   ScannerEngine engine{platform};
 
   std::map<CategoryType, std::size_t> itemsFound() {

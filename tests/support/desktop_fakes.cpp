@@ -2,13 +2,12 @@
 
 namespace klarvik {
 
+Platform DesktopFakes::platformOn(FileSystem& files, Trash& trash) {
+  return {files, trash, commands, defaults, volume, formatting, info, recentDocuments};
+}
+
 Desktop DesktopFakes::around(FileSystem& files, Trash& trash, Clock& clock) {
-  return {{files, trash, commands, defaults, volume, formatting, info, recentDocuments},
-          clock,
-          notifications,
-          workspace,
-          pasteboard,
-          openPanel};
+  return {platformOn(files, trash), clock, notifications, workspace, pasteboard, openPanel};
 }
 
 }  // namespace klarvik

@@ -12,7 +12,7 @@
 namespace klarvik {
 
 /// Fakes for all that a desktop offers but the files, the Trash and the time: the one place where
-/// the desktop of a test is put together. Sizes and dates are written in the English of the United
+/// what surrounds a test is put together. Sizes and dates are written in the English of the United
 /// States.
 struct DesktopFakes {
   CannedCommandRunner commands;
@@ -26,6 +26,8 @@ struct DesktopFakes {
   MemoryPasteboard pasteboard;
   ScriptedOpenPanel openPanel;
 
+  /// What an engine sees of it. Refers to this object and to what is handed in.
+  [[nodiscard]] Platform platformOn(FileSystem& files, Trash& trash);
   /// Refers to this object and to what is handed in.
   [[nodiscard]] Desktop around(FileSystem& files, Trash& trash, Clock& clock);
 };

@@ -2,27 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include "support/canned_command_runner.h"
-#include "support/fixed_volume.h"
-#include "support/memory_defaults.h"
+#include "support/desktop_fakes.h"
 #include "support/memory_file_system.h"
-#include "support/recording_recent_documents.h"
 #include "systemdata/system_data_engine.h"
 
 namespace klarvik {
 
 /// An analysis of a remembered disk, with tools that answer what a test says.
-class AnalysisFixture : public testing::Test {
+class AnalysisFixture : public testing::Test, protected DesktopFakes {
  protected:
   MemoryFileSystem files;
   MemoryTrash trash{files};
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  FixedVolume volume;
-  Formatting formatting{"en_US"};
-  ApplicationInfo info;
-  RecordingRecentDocuments recentDocuments;
-  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
+  Platform platform = platformOn(files, trash);
   SystemDataEngine engine{platform};
 
   [[nodiscard]] std::vector<SystemDataItem> analyse() {

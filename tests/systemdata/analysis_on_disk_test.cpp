@@ -5,13 +5,10 @@
 #include <sys/stat.h>
 
 #include "platform/linux/linux_file_system.h"
-#include "support/canned_command_runner.h"
 #include "support/child_process.h"
+#include "support/desktop_fakes.h"
 #include "support/faulting_file_system.h"
-#include "support/fixed_volume.h"
-#include "support/memory_defaults.h"
 #include "support/memory_file_system.h"
-#include "support/recording_recent_documents.h"
 #include "support/sample_disk.h"
 #include "support/temporary_folder.h"
 #include "systemdata/pass_table.h"
@@ -29,20 +26,14 @@ using Kind = SystemDataSubCategory;
 using Operation = FaultingFileSystem::Operation;
 
 /// An analysis of a disk on the machine, with faults and sizes put over it.
-struct DiskAnalysis {
+struct DiskAnalysis : DesktopFakes {
   DiskAnalysis(const Path& root, const Path& home) : disk(root, home) {}
 
   LinuxFileSystem disk;
   FaultingFileSystem files{disk};
   MemoryFileSystem memory;
   MemoryTrash trash{memory};
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  FixedVolume volume;
-  Formatting formatting{"en_US"};
-  ApplicationInfo info;
-  RecordingRecentDocuments recentDocuments;
-  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
+  Platform platform = platformOn(files, trash);
   SystemDataEngine engine{platform};
 
   std::vector<SystemDataItem> items() {

@@ -3,12 +3,9 @@
 #include <gmock/gmock.h>
 
 #include "platform/linux/linux_file_system.h"
-#include "support/canned_command_runner.h"
+#include "support/desktop_fakes.h"
 #include "support/faulting_file_system.h"
-#include "support/fixed_volume.h"
-#include "support/memory_defaults.h"
 #include "support/memory_file_system.h"
-#include "support/recording_recent_documents.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -20,17 +17,11 @@ using Step = std::pair<std::string, double>;
 
 constexpr std::int64_t gigabyte = 1'000'000'000;
 
-class CompositionOfADisk : public testing::Test {
+class CompositionOfADisk : public testing::Test, protected DesktopFakes {
  protected:
   MemoryFileSystem files;
   MemoryTrash trash{files};
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  FixedVolume volume;
-  Formatting formatting{"en_US"};
-  ApplicationInfo info;
-  RecordingRecentDocuments recentDocuments;
-  Platform platform{files, trash, commands, defaults, volume, formatting, info, recentDocuments};
+  Platform platform = platformOn(files, trash);
   const Date now{std::chrono::seconds(1'772'644'000)};
   DiskCompositionEngine engine{platform, [this] { return now; }};
   std::vector<Step> steps;
@@ -186,8 +177,7 @@ class CompositionOnDisk : public CompositionOfADisk {
   TemporaryFolder folder;
   LinuxFileSystem disk{folder.path(), "/Users/ann"};
   FaultingFileSystem faulting{disk};
-  Platform realPlatform{faulting, trash,      commands, defaults,
-                        volume,   formatting, info,     recentDocuments};
+  Platform realPlatform = platformOn(faulting, trash);
   DiskCompositionEngine onDisk{realPlatform};
   const Path music = "/Users/ann/Music";
 

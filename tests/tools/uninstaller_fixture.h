@@ -20,8 +20,7 @@ class UninstallerTest : public testing::Test {
   TestDesktop world;
   TemporaryFolder& disk = world.disk;
   FaultingFileSystem files{world.files};
-  Platform platform{files,        world.trash,      world.commands, world.defaults,
-                    world.volume, world.formatting, world.info,     world.recentDocuments};
+  Platform platform = world.platformOn(files, world.trash);
   UninstallerEngine engine{platform};
   const Path library = "/Users/ann/Library";
   const Path trashed = "/Users/ann/.local/share/Trash/files";
