@@ -9,6 +9,7 @@
 #include "platform/open_panel.h"
 #include "platform/pasteboard.h"
 #include "platform/recent_documents.h"
+#include "platform/status_item.h"
 #include "platform/trash.h"
 #include "platform/user_defaults.h"
 #include "platform/volume.h"
@@ -36,6 +37,7 @@ struct Desktop : Platform {
   Workspace& workspace;
   Pasteboard& pasteboard;
   OpenPanel& openPanel;
+  StatusItem& statusItem;
 };
 
 }  // namespace klarvik

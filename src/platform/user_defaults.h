@@ -15,6 +15,10 @@ struct Bytes {
 
 using DefaultsValue = std::variant<bool, std::int64_t, double, std::string, Bytes>;
 
+/// Posted through the notification centre, from the main loop, after a preference has changed, in
+/// this program or from outside. Also when none has: whoever hears it reads again what it needs.
+inline constexpr const char* defaultsChangedNotification = "klarvik.defaultsChanged";
+
 /// The user's preferences: typed values under text keys, kept across restarts. Each read sees what
 /// stands on the disk now, also when another process wrote it. May be called from any thread.
 class UserDefaults {

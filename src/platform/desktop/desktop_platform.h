@@ -2,9 +2,11 @@
 
 #include <memory>
 
+#include "platform/desktop/observed_user_defaults.h"
 #include "platform/desktop/qt_clock.h"
 #include "platform/desktop/qt_open_panel.h"
 #include "platform/desktop/qt_pasteboard.h"
+#include "platform/desktop/qt_status_item.h"
 #include "platform/desktop/xdg_workspace.h"
 #include "platform/linux/linux_platform.h"
 #include "platform/platform.h"
@@ -28,9 +30,11 @@ class DesktopPlatform {
   LinuxPlatform _system;
   QtClock _clock;
   NotificationCenter _notifications;
+  ObservedUserDefaults _defaults;
   XdgWorkspace _workspace;
   QtPasteboard _pasteboard;
   QtOpenPanel _openPanel;
+  QtStatusItem _statusItem;
 };
 
 }  // namespace klarvik

@@ -30,6 +30,9 @@ class JsonUserDefaults final : public UserDefaults {
   explicit JsonUserDefaults(Path folder);
   ~JsonUserDefaults() override;
 
+  /// The document, on the machine; it may not be there yet.
+  [[nodiscard]] const Path& file() const { return _file; }
+
   [[nodiscard]] std::optional<DefaultsValue> object(const std::string& key) const override;
   bool set(const std::string& key, const DefaultsValue& value) override;
   bool remove(const std::string& key) override;

@@ -20,6 +20,8 @@ class LinuxPlatform {
 
   /// Refers to this object.
   [[nodiscard]] Platform platform();
+  /// The document of the preferences, on the machine.
+  [[nodiscard]] const Path& preferencesFile() const { return _defaults.file(); }
 
  private:
   LinuxFileSystem _files;

@@ -1,0 +1,128 @@
+#include "platform/desktop/qt_status_item.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QIcon>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/desktop/pill_icon.h"
+
+namespace klarvik {
+namespace {
+
+/// The colour of text, unless the desktop's panel is dark whatever its windows look like.
+QColor indicatorColor() {
+  static constexpr std::array alwaysDark{"GNOME", "Unity", "Pantheon"};
+  const auto desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(':');
+  const bool isDark = std::ranges::any_of(
+      alwaysDark, [&](const char* name) { return desktops.contains(QLatin1String(name)); });
+  return isDark ? QColor(Qt::white) : QGuiApplication::palette().color(QPalette::WindowText);
+}
+
+StatusItem::Place placeOf(const QRect& area) {
+  return {area.x(), area.y(), area.width(), area.height()};
+}
+
+}  // namespace
+
+QtStatusItem::QtStatusItem() : _tray([this] { followTray(); }) {
+  qApp->installEventFilter(this);
+}
+
+QtStatusItem::~QtStatusItem() = default;
+
+void QtStatusItem::setHandlers(Handlers handlers) {
+  _handlers = std::move(handlers);
+}
+
+void QtStatusItem::show(const Look& look) {
+  if (_look == look) return;
+  _look = look;
+  place();
+}
+
+void QtStatusItem::remove() {
+  _look.reset();
+  place();
+}
+
+bool QtStatusItem::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange && _icon) update();
+  return QObject::eventFilter(watched, event);
+}
+
+void QtStatusItem::followTray() {
+  place();
+  if (_handlers.trayChanged) _handlers.trayChanged();
+}
+
+void QtStatusItem::place() {
+  if (!_look || !_tray.isPresent()) {
+    dropIcon();
+    return;
+  }
+  if (!_icon) makeIcon();
+  update();
+  _icon->show();
+}
+
+void QtStatusItem::makeIcon() {
+  _menu = std::make_unique<QMenu>();
+  _heading = _menu->addAction(QString());
+  _heading->setEnabled(false);
+  _icon = std::make_unique<QSystemTrayIcon>();
+  _icon->setContextMenu(_menu.get());
+  connect(_icon.get(), &QSystemTrayIcon::activated, this,
+          [this](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger) tellActivated();
+          });
+}
+
+void QtStatusItem::dropIcon() {
+  _icon.reset();
+  _entries.clear();
+  _menu.reset();
+}
+
+void QtStatusItem::update() {
+  const QString toolTip = QString::fromStdString(_look->toolTip + _look->title);
+  _icon->setIcon(pillIcon(_look->icon, indicatorColor()));
+  _icon->setToolTip(toolTip);
+  updateMenu(_look->title.empty() ? QString() : toolTip);
+}
+
+/// In place, for an open menu must not lose the entry that the pointer is on.
+void QtStatusItem::updateMenu(const QString& heading) {
+  _heading->setText(heading);
+  _heading->setVisible(!heading.isEmpty());
+  const auto& wanted = _look->menu;
+  for (; _entries.size() > wanted.size(); _entries.pop_back()) {
+    delete _entries.back().line;
+    delete _entries.back().action;
+  }
+  while (_entries.size() < wanted.size()) _entries.push_back(addEntry(_entries.size()));
+  for (std::size_t index = 0; index < wanted.size(); ++index) {
+    const MenuEntry& entry = wanted[index];
+    _entries[index].line->setVisible(entry.startsGroup);
+    _entries[index].action->setText(QString::fromStdString(entry.title).replace('&', "&&"));
+    _entries[index].action->setEnabled(entry.isEnabled);
+  }
+}
+
+QtStatusItem::Entry QtStatusItem::addEntry(std::size_t index) {
+  const Entry entry{_menu->addSeparator(), _menu->addAction(QString())};
+  connect(entry.action, &QAction::triggered, this, [this, index] {
+    if (_handlers.chosen) _handlers.chosen(index);
+  });
+  return entry;
+}
+
+void QtStatusItem::tellActivated() {
+  if (!_handlers.activated) return;
+  const QRect icon = _icon->geometry();
+  _handlers.activated(placeOf(icon.isEmpty() ? QRect(QCursor::pos(), QSize(1, 1)) : icon));
+}
+
+}  // namespace klarvik

@@ -1,0 +1,92 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+import Klarvik.MenuBar
+
+/// What was found, and the actions that are used most. Tab and the arrow keys move through those.
+FocusScope {
+    id: root
+
+    required property MenuBarModel model
+
+    function move(forward: bool) {
+        const from = root.Window.activeFocusItem ?? root;
+        from.nextItemInFocusChain(forward).forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    implicitHeight: column.implicitHeight + 24
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Klarvik"
+    Keys.onDownPressed: root.move(true)
+    Keys.onUpPressed: root.move(false)
+
+    ColumnLayout {
+        id: column
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: 12
+        spacing: 10
+
+        RowLayout {
+            spacing: 8
+
+            KlarvikMark {
+                size: 18
+            }
+
+            KitText {
+                text: "Klarvik"
+                size: 14
+                weight: Font.DemiBold
+            }
+        }
+
+        FoundBlock {
+            Layout.fillWidth: true
+            visible: root.model.categories.length > 0
+            model: root.model
+        }
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 0
+
+            Repeater {
+                // The rows stay the same, so that the pointer and the focus stay where they are
+                // when a label changes.
+                model: root.model.actions.length
+
+                ColumnLayout {
+                    id: row
+
+                    required property int index
+                    readonly property menuBarAction entry: root.model.actions[row.index]
+
+                    Layout.fillWidth: true
+                    spacing: 0
+
+                    Rectangle {
+                        Layout.fillWidth: true
+                        Layout.topMargin: 6
+                        Layout.bottomMargin: 6
+                        visible: row.entry.startsGroup
+                        implicitHeight: 1
+                        color: Theme.hairlineStrong
+                    }
+
+                    MenuBarButton {
+                        Layout.fillWidth: true
+                        icon: row.entry.symbol
+                        label: row.entry.label
+                        pressableEnabled: row.entry.isEnabled
+                        onAction: root.model.perform(row.index)
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,94 @@
+#include "shell/menu_bar/menu_bar_view.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+
+#include "panes/kit/palette.h"
+#include "shell/menu_bar/menu_bar_rules.h"
+#include "shell/menu_bar/window_fronting.h"
+#include "state/change_to.h"
+
+namespace klarvik {
+namespace {
+
+QString text(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+menu_bar::TrashFigures figures(const TrashMonitor& trash) {
+  return {trash.bytes(), trash.itemCount(), trash.isEmptying(), trash.isReadable()};
+}
+
+}  // namespace
+
+MenuBarView::MenuBarView(AppState& appState, TrashMonitor& trash, const Formatting& formatting,
+                         QObject* parent)
+    : QObject(parent),
+      _appState(appState),
+      _trash(trash),
+      _formatting(formatting),
+      _actions(currentActions()) {
+  connect(&_appState, &AppState::scanResultsChanged, this, &MenuBarView::resultsChanged);
+  connect(&_appState, &AppState::totalSpaceFreeableChanged, this, &MenuBarView::resultsChanged);
+  connect(&_trash, &TrashMonitor::changed, this, &MenuBarView::syncActions);
+}
+
+QList<MenuBarCategory> MenuBarView::categories() const {
+  const auto& found = _appState.scanResults();
+  QList<MenuBarCategory> lines;
+  for (std::size_t at = 0; at < std::min(found.size(), menu_bar::shownCategories); ++at) {
+    const CategoryType type = found[at].type;
+    lines.push_back({text(icon(type)), Palette::systemColor(color(type)), text(rawValue(type)),
+                     text(found[at].formattedSize(_formatting))});
+  }
+  return lines;
+}
+
+QString MenuBarView::moreCategories() const {
+  return text(menu_bar::moreCategories(_appState.scanResults().size()));
+}
+
+QString MenuBarView::totalFound() const {
+  return text(_formatting.byteText(_appState.totalSpaceFreeable()));
+}
+
+QList<MenuBarAction> MenuBarView::currentActions() const {
+  const menu_bar::TrashFigures trash = figures(_trash);
+  return {
+      {"magnifyingglass", "Scan Now"},
+      {text(menu_bar::trashSymbol(trash)), text(menu_bar::trashLabel(trash, _formatting)),
+       menu_bar::canEmpty(trash)},
+      {"macwindow", "Open Klarvik", true, true},
+      {"gear", "Preferences"},
+      {"xmark.circle", "Quit"},
+  };
+}
+
+void MenuBarView::syncActions() {
+  if (changeTo(_actions, currentActions())) emit actionsChanged();
+}
+
+void MenuBarView::perform(int action) {
+  if (action < 0 || action >= _actions.size() || !_actions[action].isEnabled) return;
+  if (action != EmptyTrash) emit leaving();
+  switch (action) {
+    case ScanNow:
+      _appState.startScan();
+      frontWindow("main");
+      return;
+    case EmptyTrash:
+      _trash.emptyTrash();
+      return;
+    case OpenKlarvik:
+      frontWindow("main");
+      return;
+    case Preferences:
+      frontWindow("settings");
+      return;
+    case Quit:
+      QCoreApplication::quit();
+      return;
+  }
+}
+
+}  // namespace klarvik

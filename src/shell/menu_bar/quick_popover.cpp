@@ -1,0 +1,97 @@
+#include "shell/menu_bar/quick_popover.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QUrl>
+#include <QVariant>
+#include <chrono>
+
+#include "shell/menu_bar/popover_place.h"
+
+void qml_register_types_Klarvik_MenuBar();
+
+namespace klarvik {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Longer than a desktop takes from telling that the focus is gone to telling what was pressed.
+constexpr auto onePress = 300ms;
+
+QRect screenAt(const QRect& place) {
+  const QScreen* screen = QGuiApplication::screenAt(place.center());
+  return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+/// With the pointer grabbed, a press on a place that takes no focus, such as the desktop's
+/// background, is seen as well. Only there: elsewhere a program may not grab it, and every press
+/// takes the focus.
+void grabPointer(QWindow& window) {
+  if (QGuiApplication::platformName() == "xcb") window.setMouseGrabEnabled(true);
+}
+
+}  // namespace
+
+QuickPopover::QuickPopover(QQmlEngine& engine, Clock& clock) : _clock(clock), _component(&engine) {
+  qml_register_types_Klarvik_MenuBar();
+  _component.loadUrl(QUrl("qrc:/Klarvik/MenuBar/MenuBarPopover.qml"));
+}
+
+QuickPopover::~QuickPopover() = default;
+
+bool QuickPopover::isShown() const {
+  return _window && _window->isVisible();
+}
+
+bool QuickPopover::hasJustClosed() const {
+  return _closedByItself && _clock.now() - *_closedByItself < onePress;
+}
+
+void QuickPopover::show(MenuBarView& content, const StatusItem::Place& icon) {
+  _icon = QRect(icon.x, icon.y, icon.width, icon.height);
+  _closedByItself.reset();
+  QObject* made =
+      _component.createWithInitialProperties({{"model", QVariant::fromValue(&content)}});
+  _window.reset(qobject_cast<QQuickWindow*>(made));
+  if (!_window) {
+    qWarning("%s", qUtf8Printable(_component.errorString()));
+    return;
+  }
+  _window->installEventFilter(this);
+  connect(_window.get(), &QWindow::heightChanged, this, &QuickPopover::place);
+  connect(_window.get(), &QWindow::activeChanged, this, &QuickPopover::followFocus);
+  place();
+  _window->show();
+  _window->raise();
+  _window->requestActivate();
+}
+
+void QuickPopover::close() {
+  if (_window) _window->close();
+}
+
+bool QuickPopover::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Expose && _window->isExposed()) grabPointer(*_window);
+  if (event->type() == QEvent::MouseButtonPress) {
+    const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
+    if (!QRect(QPoint(), _window->size()).contains(place)) closeByItself();
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void QuickPopover::place() {
+  _window->setPosition(popoverPlace(_icon, _window->size(), screenAt(_icon)));
+}
+
+void QuickPopover::followFocus() {
+  if (!_window->isActive()) closeByItself();
+}
+
+void QuickPopover::closeByItself() {
+  if (!isShown()) return;
+  _closedByItself = _clock.now();
+  close();
+}
+
+}  // namespace klarvik

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QRect>
+#include <memory>
+#include <optional>
+
+#include "platform/clock.h"
+#include "shell/menu_bar/menu_bar_popover.h"
+
+namespace klarvik {
+
+/// The popover as a window of its own. Esc closes it, and so does a press outside it.
+class QuickPopover final : public QObject, public MenuBarPopover {
+ public:
+  /// Requires that the kit has been installed in `engine`.
+  QuickPopover(QQmlEngine& engine, Clock& clock);
+  ~QuickPopover() override;
+
+  [[nodiscard]] bool isShown() const override;
+  [[nodiscard]] bool hasJustClosed() const override;
+  void show(MenuBarView& content, const StatusItem::Place& icon) override;
+  void close() override;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void place();
+  void followFocus();
+  void closeByItself();
+
+  Clock& _clock;
+  QQmlComponent _component;
+  std::unique_ptr<QQuickWindow> _window;  ///< the one shown last
+  QRect _icon;
+  std::optional<Date> _closedByItself;
+};
+
+}  // namespace klarvik
