@@ -144,7 +144,7 @@ class SampleHome:
         return json.loads(self._preferences.read_text(encoding="utf-8"))
 
     def prefer(self, values):
-        """Only while the program does not run."""
+        """Like an editor: what the program stores at the same moment is lost."""
         self._preferences.parent.mkdir(parents=True, exist_ok=True)
         self._preferences.write_text(json.dumps({**self.preferences(), **values}), encoding="utf-8")
 

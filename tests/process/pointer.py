@@ -27,6 +27,9 @@ class Pointer:
     def shows(self, klarvik, name_begins_with):
         return self._find(klarvik, name_begins_with, Atspi.StateType.SHOWING) is not None
 
+    def can_press(self, klarvik, name_begins_with):
+        return self._find(klarvik, name_begins_with, Atspi.StateType.SENSITIVE) is not None
+
     def _click_now(self, klarvik, name):
         button = self._find(klarvik, name, Atspi.StateType.SENSITIVE)
         if button is None:

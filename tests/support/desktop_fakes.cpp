@@ -2,12 +2,17 @@
 
 namespace klarvik {
 
+DesktopFakes::DesktopFakes() {
+  defaults.onChange([this] { notifications.post(defaultsChangedNotification); });
+}
+
 Platform DesktopFakes::platformOn(FileSystem& files, Trash& trash) {
   return {files, trash, commands, defaults, volume, formatting, info, recentDocuments};
 }
 
 Desktop DesktopFakes::around(FileSystem& files, Trash& trash, Clock& clock) {
-  return {platformOn(files, trash), clock, notifications, workspace, pasteboard, openPanel};
+  return {
+      platformOn(files, trash), clock, notifications, workspace, pasteboard, openPanel, statusItem};
 }
 
 }  // namespace klarvik

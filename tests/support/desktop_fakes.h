@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "support/canned_command_runner.h"
+#include "support/fake_status_item.h"
 #include "support/fixed_volume.h"
 #include "support/memory_defaults.h"
 #include "support/memory_pasteboard.h"
@@ -25,6 +26,9 @@ struct DesktopFakes {
   RecordingWorkspace workspace;
   MemoryPasteboard pasteboard;
   ScriptedOpenPanel openPanel;
+  FakeStatusItem statusItem;
+
+  DesktopFakes();
 
   /// What an engine sees of it. Refers to this object and to what is handed in.
   [[nodiscard]] Platform platformOn(FileSystem& files, Trash& trash);

@@ -9,16 +9,20 @@ std::optional<DefaultsValue> MemoryDefaults::object(const std::string& key) cons
 }
 
 bool MemoryDefaults::set(const std::string& key, const DefaultsValue& value) {
-  const std::lock_guard lock(_mutex);
-  if (_refuseWrites) return false;
-  _values.insert_or_assign(key, value);
-  return true;
+  return change([&] { _values.insert_or_assign(key, value); });
 }
 
 bool MemoryDefaults::remove(const std::string& key) {
-  const std::lock_guard lock(_mutex);
-  if (_refuseWrites) return false;
-  _values.erase(key);
+  return change([&] { _values.erase(key); });
+}
+
+bool MemoryDefaults::change(const std::function<void()>& apply) {
+  {
+    const std::lock_guard lock(_mutex);
+    if (_refuseWrites) return false;
+    apply();
+  }
+  if (_observer) _observer();
   return true;
 }
 

@@ -61,7 +61,11 @@ class WindowFixture : public ::testing::Test {
     return std::holds_alternative<State>(app->appState().scanState());
   }
   [[nodiscard]] bool scanToTheEnd();
-  [[nodiscard]] QQuickWindow& window() const { return *app->mainWindow(); }
+  /// From now on another window than the main one is looked at and used; null ends that.
+  void lookAt(QQuickWindow* window) { _lookedAt = window; }
+  [[nodiscard]] QQuickWindow& window() const {
+    return _lookedAt != nullptr ? *_lookedAt : *app->mainWindow();
+  }
   [[nodiscard]] bool homeHolds(const std::string& place) const {
     return desk->disk.holds(desk->files.home() / place);
   }
@@ -80,6 +84,9 @@ class WindowFixture : public ::testing::Test {
   std::unique_ptr<DesktopOnDisk> desk;
   std::unique_ptr<SharedState> shared;
   std::unique_ptr<KlarvikApp> app;
+
+ private:
+  QQuickWindow* _lookedAt = nullptr;
 };
 
 /// The same over an empty home.

@@ -1,0 +1,98 @@
+#include "platform/desktop/observed_user_defaults.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <thread>
+
+#include "main_loop.h"
+#include "platform/linux/json_user_defaults.h"
+#include "support/memory_defaults.h"
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+namespace {
+
+class ObservedUserDefaultsTest : public testing::Test {
+ protected:
+  ObservedUserDefaultsTest() { needApplication(); }
+
+  /// What an observer reads for "showMenuBar" when it is told, each time that this differs.
+  void observe(UserDefaults& defaults, const Path& file) {
+    observed.emplace(defaults, file, notifications);
+    subscription = notifications.observe(defaultsChangedNotification, [this] {
+      const bool value = observed->boolean("showMenuBar", true);
+      if (seen.empty() || seen.back() != value) seen.push_back(value);
+    });
+  }
+  [[nodiscard]] bool sees(const std::vector<bool>& expected) {
+    return runUntil([&] { return seen == expected; });
+  }
+  void writeByHand(const std::string& text) const {
+    std::filesystem::create_directories(stored.file().parent_path());
+    std::ofstream(stored.file(), std::ios::trunc) << text;
+  }
+
+  const TemporaryFolder home;
+  NotificationCenter notifications;
+  JsonUserDefaults stored{home.path() / ".config/klarvik"};
+  std::optional<ObservedUserDefaults> observed;
+  NotificationCenter::Subscription subscription;
+  std::vector<bool> seen;
+};
+
+TEST_F(ObservedUserDefaultsTest, TellsOfAChangeThatThisProgramMakesOnceTheMainLoopTurns) {
+  MemoryDefaults memory;
+  observe(memory, home.path() / "nowhere/preferences.json");
+  EXPECT_TRUE(observed->set("showMenuBar", false));
+  EXPECT_TRUE(seen.empty());
+  EXPECT_TRUE(sees({false}));
+  EXPECT_TRUE(observed->remove("showMenuBar"));
+  EXPECT_TRUE(sees({false, true}));
+  EXPECT_FALSE(observed->object("showMenuBar"));
+}
+
+TEST_F(ObservedUserDefaultsTest, TellsOfAChangeFromAnotherThreadOnTheMainOne) {
+  MemoryDefaults memory;
+  observe(memory, home.path() / "nowhere/preferences.json");
+  std::thread([this] { observed->set("showMenuBar", false); }).join();
+  EXPECT_TRUE(seen.empty());
+  EXPECT_TRUE(sees({false}));
+}
+
+TEST_F(ObservedUserDefaultsTest, SaysThatAChangeCouldNotBeStored) {
+  MemoryDefaults memory;
+  memory.refuseWrites(true);
+  observe(memory, home.path() / "nowhere/preferences.json");
+  EXPECT_FALSE(observed->set("showMenuBar", false));
+  EXPECT_FALSE(observed->remove("showMenuBar"));
+}
+
+TEST_F(ObservedUserDefaultsTest, TellsOfWhatAnotherProcessStores) {
+  observe(stored, stored.file());
+  JsonUserDefaults other(home.path() / ".config/klarvik");
+  ASSERT_TRUE(other.set("showMenuBar", false));
+  EXPECT_TRUE(sees({false}));
+  ASSERT_TRUE(other.set("showMenuBar", true));
+  EXPECT_TRUE(sees({false, true}));
+}
+
+TEST_F(ObservedUserDefaultsTest, FollowsADocumentThatIsEditedByHandWhateverIsWrittenThere) {
+  writeByHand(R"({"showMenuBar": false})");
+  observe(stored, stored.file());
+  writeByHand(R"({"showMenuBar": "no", "other": 1})");
+  EXPECT_TRUE(sees({true}));
+  writeByHand(R"({"showMenuBar": false})");
+  EXPECT_TRUE(sees({true, false}));
+  writeByHand("{ rubbish");
+  EXPECT_TRUE(sees({true, false, true}));
+  writeByHand(R"({"showMenuBar": false})");
+  EXPECT_TRUE(sees({true, false, true, false}));
+  std::filesystem::remove_all(home.path() / ".config");
+  EXPECT_TRUE(sees({true, false, true, false, true}));
+}
+
+}  // namespace
+}  // namespace klarvik
