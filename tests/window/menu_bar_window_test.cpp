@@ -112,7 +112,7 @@ TEST_F(MenuBarWindow, WithNoResultsAtAllItIsTheHeaderAndTheActionListOnly) {
 TEST_F(MenuBarWindow, AResultOfExactlyFourCategoriesHasNoLineForMore) {
   ASSERT_TRUE(find(4));
   openPopover();
-  for (const char* text : {"Xcode Cache", "11.11 GB", "Simulators", "9.87 GB", "Xcode Archives",
+  for (const char* text : {"Xcode Cache", "11.11 GB", "iOS Simulators", "9.87 GB", "Xcode Archives",
                            "App Caches", "7.4 GB", "Total found", "37.02 GB"}) {
     EXPECT_TRUE(shows(text)) << text;
   }
