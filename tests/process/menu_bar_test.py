@@ -199,7 +199,8 @@ class OnAPanelThatShowsNotifiers(MenuBarTest):
         return self.desktop.run("gdbus", "call", "--session", *target, *arguments)
 
     def menu(self, item):
-        return self.call(item, "/MenuBar", "com.canonical.dbusmenu.GetLayout", "0", "--", "-1", "[]")
+        everything = ["0", "9", "[]"]
+        return self.call(item, "/MenuBar", "com.canonical.dbusmenu.GetLayout", *everything)
 
     def labels(self, item):
         return re.findall(r"'label': <'([^']*)'>", self.menu(item))

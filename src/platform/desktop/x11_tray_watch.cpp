@@ -42,8 +42,9 @@ void askToBeTold(xcb_connection_t* connection, xcb_atom_t selection) {
 
 std::unique_ptr<X11TrayWatch> X11TrayWatch::onThisDisplay(std::function<void()> changed) {
   const auto* display = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (display == nullptr) return nullptr;
-  xcb_connection_t* connection = display->connection();
+  xcb_connection_t* connection = display != nullptr ? display->connection() : nullptr;
+  // A program that draws to no screen may offer the interface all the same.
+  if (connection == nullptr) return nullptr;
   const auto* extension = xcb_get_extension_data(connection, &xcb_xfixes_id);
   if (extension == nullptr || extension->present == 0) return nullptr;
   const auto event =

@@ -97,7 +97,9 @@ StatusItem::Look MenuBarController::look() const {
 
 void MenuBarController::updateReachable() {
   const bool reachable = _statusItem != nullptr && _statusItem->hasTray();
-  if (changeTo(_isReachable, reachable)) emit isReachableChanged();
+  if (!changeTo(_isReachable, reachable)) return;
+  emit isReachableChanged();
+  if (!reachable) closePopover();
 }
 
 void MenuBarController::togglePopover(const StatusItem::Place& icon) {

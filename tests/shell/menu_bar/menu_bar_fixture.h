@@ -20,7 +20,7 @@ namespace klarvik {
 class FakePopover final : public MenuBarPopover {
  public:
   /// `isOpen` outlives it.
-  explicit FakePopover(bool& isOpen) : isOpen(isOpen) {}
+  explicit FakePopover(bool& open) : isOpen(open) {}
   ~FakePopover() override { isOpen = false; }
 
   [[nodiscard]] bool isShown() const override { return isOpen; }
