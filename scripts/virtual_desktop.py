@@ -124,7 +124,7 @@ class VirtualDesktop:
 
     def take_picture(self, window, path):
         path.parent.mkdir(parents=True, exist_ok=True)
-        self.run("import", "-window", window, str(path))
+        self.run("import", "-window", window, "-strip", str(path))
 
 
 class SampleHome:
