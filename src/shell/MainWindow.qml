@@ -9,6 +9,7 @@ Window {
 
     required property AppShellModel shell
 
+    objectName: "main"
     title: "Klarvik"
     minimumWidth: 920
     minimumHeight: 640

@@ -1,9 +1,12 @@
 #include <QApplication>
+#include <QIcon>
 #include <cstdio>
 #include <cstdlib>
 
 #include "platform/desktop/desktop_platform.h"
+#include "platform/desktop/single_instance.h"
 #include "shell/klarvik_app.h"
+#include "shell/menu_bar/window_fronting.h"
 #include "state/shared_state.h"
 
 namespace {
@@ -20,6 +23,15 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
   }
 }
 
+/// How a start ends that finds its home in the hands of another.
+int endAfter(klarvik::SingleInstance::Claim claim) {
+  using Claim = klarvik::SingleInstance::Claim;
+  if (claim == Claim::fronted) return 0;
+  return refuse(claim == Claim::elsewhere
+                    ? "Klarvik is running already, on another display of yours."
+                    : "Klarvik is running already and does not answer. End that one first.");
+}
+
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
@@ -29,12 +41,19 @@ int main(int argumentCount, char** arguments) {
   QApplication::setApplicationName("Klarvik");
   QApplication::setApplicationDisplayName("Klarvik");
   QApplication::setDesktopFileName("klarvik");
+  QApplication::setWindowIcon(QIcon::fromTheme("klarvik"));
 
   const auto platform = klarvik::DesktopPlatform::ofThisUser();
   if (!platform) {
     return refuse(
         "Klarvik needs a home folder of your own, and found none: it cleans nothing else.");
   }
+  klarvik::SingleInstance instance(
+      klarvik::SingleInstance::Start::ofThisProcess(*klarvik::UserFolders::ofThisUser()));
+  const auto claim = instance.claim();
+  if (claim != klarvik::SingleInstance::Claim::granted) return endAfter(claim);
+  instance.whenStartedAgain([] { klarvik::frontWindow("main"); });
+
   const klarvik::Desktop desktop = platform->desktop();
   klarvik::SharedState shared(desktop);
   klarvik::KlarvikApp app(desktop, shared);
