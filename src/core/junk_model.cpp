@@ -58,14 +58,6 @@ constexpr const Category& category(CategoryType type) {
   return categories[static_cast<std::size_t>(type)];
 }
 
-std::string textOr(const ApplicationInfo& info, const std::string& key,
-                   const std::string& fallback) {
-  const auto entry = info.find(key);
-  const std::string* text =
-      entry != info.end() ? std::get_if<std::string>(&entry->second) : nullptr;
-  return text != nullptr ? *text : fallback;
-}
-
 }  // namespace
 
 const std::array<CategoryType, categoryTypeCount>& allCategoryTypes() {
@@ -116,11 +108,11 @@ std::int64_t addBytes(std::int64_t left, std::int64_t right) {
 }
 
 std::string appVersion(const ApplicationInfo& info) {
-  return textOr(info, "CFBundleShortVersionString", "0.0.0");
+  return informationText(info, "CFBundleShortVersionString").value_or("0.0.0");
 }
 
 std::string buildNumber(const ApplicationInfo& info) {
-  return textOr(info, "CFBundleVersion", "0");
+  return informationText(info, "CFBundleVersion").value_or("0");
 }
 
 }  // namespace klarvik

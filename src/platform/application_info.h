@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 
 #include "platform/user_defaults.h"
@@ -12,6 +13,10 @@ using ApplicationInfo = std::map<std::string, DefaultsValue>;
 
 /// What was laid down when this program was built.
 [[nodiscard]] ApplicationInfo builtInApplicationInfo();
+
+/// Nothing where there is no text for the key.
+[[nodiscard]] std::optional<std::string> informationText(const ApplicationInfo& info,
+                                                         const std::string& key);
 
 /// Whether the system takes this build and the one after it for the same program, and so keeps the
 /// permissions it was given. False for what a developer builds.

@@ -11,6 +11,7 @@
 #include "platform/recent_documents.h"
 #include "platform/status_item.h"
 #include "platform/trash.h"
+#include "platform/updater.h"
 #include "platform/user_defaults.h"
 #include "platform/volume.h"
 #include "platform/workspace.h"
@@ -38,6 +39,7 @@ struct Desktop : Platform {
   Pasteboard& pasteboard;
   OpenPanel& openPanel;
   StatusItem& statusItem;
+  Updater& updater;
 };
 
 }  // namespace klarvik

@@ -11,7 +11,8 @@ SharedState* theSharedState = nullptr;
 }  // namespace
 
 SharedState::SharedState(const Desktop& desktop)
-    : _toolActivity(desktop.clock),
+    : _desktop(desktop),
+      _toolActivity(desktop.clock),
       _scanCoordinator(desktop.defaults),
       _scanHistory(desktop.defaults, desktop.clock),
       _permissionsManager(desktop),
@@ -23,6 +24,11 @@ SharedState::SharedState(const Desktop& desktop)
 
 SharedState::~SharedState() {
   theSharedState = nullptr;
+}
+
+UpdateManager& SharedState::updateManager() {
+  if (!_updateManager) _updateManager.emplace(_desktop);
+  return *_updateManager;
 }
 
 SharedState& SharedState::instance() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/platform.h"
 #include "state/disk_monitor.h"
 #include "state/navigator.h"
@@ -8,6 +10,7 @@
 #include "state/scan_history.h"
 #include "state/tool_activity.h"
 #include "state/trash_monitor.h"
+#include "state/update_manager.h"
 
 namespace klarvik {
 
@@ -33,8 +36,11 @@ class SharedState {
   [[nodiscard]] PermissionsManager& permissionsManager() { return _permissionsManager; }
   [[nodiscard]] DiskMonitor& diskMonitor() { return _diskMonitor; }
   [[nodiscard]] TrashMonitor& trashMonitor() { return _trashMonitor; }
+  /// Made at first use, since that starts the updater.
+  [[nodiscard]] UpdateManager& updateManager();
 
  private:
+  const Desktop& _desktop;
   Navigator _navigator;
   ToolActivity _toolActivity;
   ScanCoordinator _scanCoordinator;
@@ -42,6 +48,7 @@ class SharedState {
   PermissionsManager _permissionsManager;
   DiskMonitor _diskMonitor;
   TrashMonitor _trashMonitor;
+  std::optional<UpdateManager> _updateManager;
 };
 
 }  // namespace klarvik

@@ -11,8 +11,14 @@ Platform DesktopFakes::platformOn(FileSystem& files, Trash& trash) {
 }
 
 Desktop DesktopFakes::around(FileSystem& files, Trash& trash, Clock& clock) {
-  return {
-      platformOn(files, trash), clock, notifications, workspace, pasteboard, openPanel, statusItem};
+  return {platformOn(files, trash),
+          clock,
+          notifications,
+          workspace,
+          pasteboard,
+          openPanel,
+          statusItem,
+          updater};
 }
 
 }  // namespace klarvik

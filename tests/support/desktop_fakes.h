@@ -9,6 +9,7 @@
 #include "support/recording_recent_documents.h"
 #include "support/recording_workspace.h"
 #include "support/scripted_open_panel.h"
+#include "support/scripted_updater.h"
 
 namespace klarvik {
 
@@ -27,6 +28,7 @@ struct DesktopFakes {
   MemoryPasteboard pasteboard;
   ScriptedOpenPanel openPanel;
   FakeStatusItem statusItem;
+  ScriptedUpdater updater;
 
   DesktopFakes();
 

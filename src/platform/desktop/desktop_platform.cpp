@@ -1,17 +1,38 @@
 #include "platform/desktop/desktop_platform.h"
 
+#include <QStandardPaths>
+#include <QSysInfo>
+#include <QVersionNumber>
+
 namespace klarvik {
+namespace {
+
+/// Users have it where they like, under a name of their language.
+Path chosenDownloads() {
+  return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation).toStdString();
+}
+
+/// Without what a distribution adds to the number.
+std::string systemVersion() {
+  return QVersionNumber::fromString(QSysInfo::kernelVersion()).toString().toStdString();
+}
+
+}  // namespace
 
 std::unique_ptr<DesktopPlatform> DesktopPlatform::ofThisUser() {
-  const auto folders = UserFolders::ofThisUser();
-  return folders ? std::make_unique<DesktopPlatform>("/", *folders) : nullptr;
+  auto folders = UserFolders::ofThisUser();
+  if (!folders) return nullptr;
+  if (const Path chosen = chosenDownloads(); chosen.is_absolute()) folders->downloads = chosen;
+  return std::make_unique<DesktopPlatform>("/", *folders);
 }
 
 DesktopPlatform::DesktopPlatform(const Path& root, const UserFolders& folders)
     : _system(root, folders),
       _defaults(_system.platform().defaults, _system.preferencesFile(), _notifications),
       _workspace(_system.platform().files),
-      _openPanel(_system.platform().files) {}
+      _openPanel(_system.platform().files),
+      _updater({_system.platform().info, _defaults, _system.platform().files, _clock, _workspace},
+               {.downloads = folders.downloads, .systemVersion = systemVersion()}) {}
 
 Desktop DesktopPlatform::desktop() {
   const Platform system = _system.platform();
@@ -22,7 +43,8 @@ Desktop DesktopPlatform::desktop() {
           _workspace,
           _pasteboard,
           _openPanel,
-          _statusItem};
+          _statusItem,
+          _updater};
 }
 
 }  // namespace klarvik

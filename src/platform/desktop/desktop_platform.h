@@ -10,6 +10,7 @@
 #include "platform/desktop/xdg_workspace.h"
 #include "platform/linux/linux_platform.h"
 #include "platform/platform.h"
+#include "platform/update/appcast_updater.h"
 
 namespace klarvik {
 
@@ -35,6 +36,7 @@ class DesktopPlatform {
   QtPasteboard _pasteboard;
   QtOpenPanel _openPanel;
   QtStatusItem _statusItem;
+  AppcastUpdater _updater;
 };
 
 }  // namespace klarvik

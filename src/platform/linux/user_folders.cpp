@@ -32,7 +32,7 @@ Path folderInEnvironment(const char* variable, const Path& fallback) {
 }  // namespace
 
 UserFolders UserFolders::in(const Path& home) {
-  return {home, home / ".local/share", home / ".config"};
+  return {home, home / ".local/share", home / ".config", home / "Downloads"};
 }
 
 std::optional<UserFolders> UserFolders::ofThisUser() {
@@ -41,7 +41,7 @@ std::optional<UserFolders> UserFolders::ofThisUser() {
   if (!home.is_absolute() || home == "/") return std::nullopt;
   const UserFolders usual = in(home);
   return UserFolders{home, folderInEnvironment("XDG_DATA_HOME", usual.data),
-                     folderInEnvironment("XDG_CONFIG_HOME", usual.configuration)};
+                     folderInEnvironment("XDG_CONFIG_HOME", usual.configuration), usual.downloads};
 }
 
 }  // namespace klarvik

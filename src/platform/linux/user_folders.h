@@ -11,6 +11,7 @@ struct UserFolders {
   Path home;
   Path data;
   Path configuration;
+  Path downloads;
 
   /// Those of a user who has set nothing of their own.
   [[nodiscard]] static UserFolders in(const Path& home);

@@ -1,0 +1,316 @@
+#include "platform/update/appcast_updater.h"
+
+#include <QSslConfiguration>
+#include <QUrl>
+#include <QtConcurrentRun>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/base64.h"
+#include "platform/unicode_text.h"
+#include "platform/update/appcast.h"
+#include "platform/update/archive_signature.h"
+#include "platform/update/update_errors.h"
+
+namespace klarvik {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char* automaticKey = "automaticallyChecksForUpdates";
+constexpr const char* lastCheckKey = "lastUpdateCheckDate";
+constexpr auto betweenChecks = 24h;
+constexpr auto betweenLooks = 1h;
+constexpr std::size_t publicKeyBytes = 32;
+
+/// What an archive may be called at its end; any other name is left without one.
+constexpr std::array<std::string_view, 10> extensions{
+    ".deb",    ".rpm",    ".flatpak", ".snap",    ".appimage",
+    ".tar.gz", ".tar.xz", ".tar.bz2", ".tar.zst", ".zip"};
+
+std::string extensionOf(const std::string& address) {
+  const std::string name =
+      lowercased(QUrl(QString::fromStdString(address)).fileName().toStdString());
+  const auto found = std::ranges::find_if(
+      extensions, [&](std::string_view extension) { return name.ends_with(extension); });
+  return found != extensions.end() ? std::string(*found) : std::string();
+}
+
+UpdaterError unusableFeed(std::int64_t urlCode, const std::string& reason) {
+  return wrapped(updater_code::feedNotUsable, "The update feed cannot be used.",
+                 urlError(urlCode, reason));
+}
+
+UpdaterError notSaved() {
+  return {updaterErrorDomain, updater_code::downloadFailed,
+          "The update could not be saved in your Downloads folder."};
+}
+
+/// As far as the network itself is to blame; what the updater said already stands.
+UpdaterError during(const char* description, std::int64_t code, const UpdaterError& error) {
+  return error.domain == urlErrorDomain ? wrapped(code, description, error) : error;
+}
+
+}  // namespace
+
+AppcastUpdater::AppcastUpdater(const Surroundings& surroundings, UpdaterOptions options)
+    : _around(surroundings), _options(std::move(options)) {}
+
+void AppcastUpdater::DeleteLater::operator()(QFutureWatcher<bool>* watcher) const {
+  watcher->disconnect();
+  watcher->deleteLater();
+}
+
+void AppcastUpdater::start(UpdaterDelegate& delegate) {
+  _delegate = &delegate;
+  _nextLook = _around.clock.wakeAfter(0s, [this] { checkIfDue(); });
+}
+
+void AppcastUpdater::stop() {
+  abandon();
+  _nextLook.reset();
+  _delegate = nullptr;
+  show(update_stage::Hidden{});
+}
+
+bool AppcastUpdater::canCheckForUpdates() const {
+  return _delegate != nullptr && (_phase == Phase::idle || _phase == Phase::offered);
+}
+
+void AppcastUpdater::checkForUpdates() {
+  if (!canCheckForUpdates()) return;
+  _isFollowed = true;
+  show(update_stage::Checking{});
+  if (_phase == Phase::offered) return offer(std::move(_offer));
+  check();
+}
+
+std::optional<Date> AppcastUpdater::lastUpdateCheckDate() const {
+  const auto stored = _around.defaults.object(lastCheckKey);
+  const auto* const seconds = stored ? std::get_if<std::int64_t>(&*stored) : nullptr;
+  const auto now = std::chrono::floor<std::chrono::seconds>(_around.clock.now());
+  // What lies ahead was no check of ours.
+  if (seconds == nullptr || *seconds < 0 || *seconds > now.time_since_epoch().count()) {
+    return _lastCheck;
+  }
+  return Date(std::chrono::seconds(*seconds));
+}
+
+bool AppcastUpdater::automaticallyChecksForUpdates() const {
+  return _around.defaults.boolean(automaticKey, true);
+}
+
+void AppcastUpdater::setAutomaticallyChecksForUpdates(bool checks) {
+  _around.defaults.set(automaticKey, checks);
+}
+
+void AppcastUpdater::present(std::function<void(const UpdateStage&)> show) {
+  _show = std::move(show);
+}
+
+void AppcastUpdater::install() {
+  if (_phase == Phase::offered) return download();
+  if (_delivered.empty()) return;
+  const Path disk = _around.files.diskPath(_delivered);
+  const QUrl address = QUrl::fromLocalFile(QString::fromStdString(disk.native()));
+  if (!_around.workspace.openUrl(address.toEncoded().toStdString())) {
+    _around.workspace.reveal(_delivered);
+  }
+  dismiss();
+}
+
+void AppcastUpdater::dismiss() {
+  switch (_phase) {
+    case Phase::idle:
+      _delivered.clear();
+      return show(update_stage::Hidden{});
+    case Phase::offered:
+      return cancel(updater_code::installationPutOff, "The update was put off.");
+    case Phase::checking:
+    case Phase::downloading:
+    case Phase::verifying:
+      return cancel(updater_code::installationCancelled, "The update was cancelled.");
+  }
+}
+
+void AppcastUpdater::checkIfDue() {
+  _nextLook = _around.clock.wakeAfter(betweenLooks, [this] { checkIfDue(); });
+  // Without a feed there is nothing that a check could find.
+  const bool isWanted = automaticallyChecksForUpdates() && _around.info.contains("SUFeedURL") &&
+                        _delegate->mayCheckInBackground();
+  if (_phase != Phase::idle || !isWanted || !isDue()) return;
+  _isFollowed = false;
+  check();
+}
+
+bool AppcastUpdater::isDue() const {
+  const auto last = lastUpdateCheckDate();
+  return !last || _around.clock.now() - *last >= betweenChecks;
+}
+
+/// Before anything comes of it: a program that is ended meanwhile does not ask again at once.
+void AppcastUpdater::rememberCheck() {
+  _lastCheck = _around.clock.now();
+  const auto seconds = std::chrono::floor<std::chrono::seconds>(*_lastCheck);
+  _around.defaults.set(lastCheckKey, std::int64_t{seconds.time_since_epoch().count()});
+}
+
+void AppcastUpdater::check() {
+  abandon();
+  _phase = Phase::checking;
+  rememberCheck();
+  const auto address = informationText(_around.info, "SUFeedURL");
+  if (!address) return fail(unusableFeed(url_code::fileNotFound, "No feed has been named."));
+  _fetch = std::make_unique<HttpsFetch>(
+      _network, _around.clock,
+      HttpsFetch::Request{QUrl(QString::fromStdString(*address), QUrl::StrictMode), _options.feed,
+                          unusableFeed(url_code::badResponse, "The feed is too long."),
+                          _options.tls},
+      [this](std::string_view bytes) {
+        _feed += bytes;
+        return std::nullopt;
+      },
+      [this](const auto& error) { judgeFeed(error); });
+}
+
+void AppcastUpdater::judgeFeed(const std::optional<UpdaterError>& error) {
+  if (error) {
+    return fail(during("The update feed could not be read.", updater_code::feedNotUsable, *error));
+  }
+  const auto items = parseAppcast(_feed);
+  if (!items) return fail(unusableFeed(url_code::badResponse, "The feed is no appcast."));
+  auto choice = chooseUpdate(*items, runningProgram(), _options.archive.mostBytes);
+  if (const auto* objection = std::get_if<UpdaterError>(&choice)) return fail(*objection);
+  auto* const found = std::get_if<UpdateOffer>(&choice);
+  return found != nullptr ? offer(std::move(*found)) : foundNothing();
+}
+
+RunningProgram AppcastUpdater::runningProgram() const {
+  const auto text = [&](const char* key) {
+    return informationText(_around.info, key).value_or("");
+  };
+  RunningProgram running{.build = text("CFBundleVersion"),
+                         .displayVersion = text("CFBundleShortVersionString"),
+                         .publicKey = bytesOfBase64(text("SUPublicEDKey")),
+                         .systemVersion = _options.systemVersion};
+  if (running.publicKey && running.publicKey->size() != publicKeyBytes) running.publicKey.reset();
+  return running;
+}
+
+void AppcastUpdater::offer(UpdateOffer offer) {
+  _fetch.reset();
+  _phase = Phase::offered;
+  _offer = std::move(offer);
+  _delegate->didFindValidUpdate(_offer.version);
+  show(update_stage::Offered{_offer.version, _offer.notes, _offer.notesLink, _offer.length});
+}
+
+void AppcastUpdater::foundNothing() {
+  abandon();
+  _delegate->didNotFindUpdate();
+  _delegate->didFinishUpdateCycle(std::nullopt);
+  if (_isFollowed) show(update_stage::UpToDate{});
+}
+
+void AppcastUpdater::download() {
+  _isFollowed = true;
+  _phase = Phase::downloading;
+  _around.files.createDirectories(_options.downloads);
+  auto file = UnpublishedFile::in(_around.files.diskPath(_options.downloads));
+  if (!file) return fail(notSaved());
+  _archive = std::make_shared<UnpublishedFile>(std::move(*file));
+  FetchLimits limits = _options.archive;
+  limits.mostBytes = _offer.length;
+  _fetch = std::make_unique<HttpsFetch>(
+      _network, _around.clock,
+      HttpsFetch::Request{QUrl(QString::fromStdString(_offer.address), QUrl::StrictMode), limits,
+                          notAcceptable("The update is longer than announced, so Klarvik has "
+                                        "thrown it away."),
+                          _options.tls},
+      [this](std::string_view bytes) { return store(bytes); },
+      [this](const auto& error) { judgeArchive(error); });
+  show(update_stage::Downloading{_offer.version, 0, _offer.length});
+}
+
+std::optional<UpdaterError> AppcastUpdater::store(std::string_view bytes) {
+  if (!_archive->append(bytes)) return notSaved();
+  show(update_stage::Downloading{_offer.version, _archive->size(), _offer.length});
+  return std::nullopt;
+}
+
+void AppcastUpdater::judgeArchive(const std::optional<UpdaterError>& error) {
+  if (error) {
+    return fail(
+        during("The update could not be downloaded.", updater_code::downloadFailed, *error));
+  }
+  if (_archive->size() != _offer.length) {
+    return fail(
+        notAcceptable("The update is shorter than announced, so Klarvik has thrown it away."));
+  }
+  verify();
+}
+
+/// Off the main thread: a long archive takes longer than a frame.
+void AppcastUpdater::verify() {
+  _fetch.reset();
+  _phase = Phase::verifying;
+  const auto isGenuine = [archive = _archive, signature = _offer.signature,
+                          key = runningProgram().publicKey.value_or("")] {
+    return archive->inspect(
+        [&](std::span<const std::byte> content) { return isSignedBy(key, content, signature); });
+  };
+  _verification.reset(new QFutureWatcher<bool>);
+  connect(_verification.get(), &QFutureWatcher<bool>::finished, this,
+          [this] { deliver(_verification->result()); });
+  _verification->setFuture(QtConcurrent::run(isGenuine));
+  show(update_stage::Verifying{_offer.version});
+}
+
+void AppcastUpdater::deliver(bool isGenuine) {
+  if (!isGenuine) {
+    return fail(notAcceptable(
+        "The update is not signed by the makers of Klarvik, so Klarvik has thrown it away."));
+  }
+  const auto published =
+      _archive->publish("Klarvik-" + _offer.version, extensionOf(_offer.address));
+  if (!published) return fail(notSaved());
+  const std::string version = _offer.version;
+  abandon();
+  _delivered = _options.downloads / published->filename();
+  _delegate->didFinishUpdateCycle(std::nullopt);
+  show(update_stage::Delivered{version, published->filename().native()});
+  _around.workspace.reveal(_delivered);
+}
+
+void AppcastUpdater::fail(const UpdaterError& error) {
+  abandon();
+  _delegate->didAbortWithError(error);
+  _delegate->didFinishUpdateCycle(error);
+  if (_isFollowed) show(update_stage::Failed{error});
+}
+
+void AppcastUpdater::cancel(std::int64_t code, const char* description) {
+  abandon();
+  const UpdaterError error{updaterErrorDomain, code, description};
+  _delegate->didAbortWithError(error);
+  _delegate->didFinishUpdateCycle(error);
+  show(update_stage::Hidden{});
+}
+
+/// Back to rest; what was downloaded goes with it.
+void AppcastUpdater::abandon() {
+  _phase = Phase::idle;
+  _fetch.reset();
+  _feed.clear();
+  _offer = {};
+  _archive.reset();
+  _verification.reset();
+  _delivered.clear();
+}
+
+void AppcastUpdater::show(const UpdateStage& stage) const {
+  if (_show) _show(stage);
+}
+
+}  // namespace klarvik

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <QFutureWatcher>
+#include <QNetworkAccessManager>
+#include <QObject>
+#include <QSslConfiguration>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/application_info.h"
+#include "platform/clock.h"
+#include "platform/file_system.h"
+#include "platform/linux/unpublished_file.h"
+#include "platform/update/https_fetch.h"
+#include "platform/update/update_choice.h"
+#include "platform/updater.h"
+#include "platform/user_defaults.h"
+#include "platform/workspace.h"
+
+namespace klarvik {
+
+struct UpdaterOptions {
+  Path downloads;             ///< logical; made where it is missing
+  std::string systemVersion;  ///< what an item's minimum is compared with
+  FetchLimits feed{1'048'576, std::chrono::seconds(20), std::chrono::seconds(60)};
+  FetchLimits archive{536'870'912, std::chrono::seconds(30), std::chrono::hours(2)};
+  QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+};
+
+/// Finds updates in the feed that the application's information names under "SUFeedURL", and
+/// accepts an archive only when the holder of the key behind "SUPublicEDKey" has signed it.
+///
+/// Checks by itself at most once a day, whatever came of the last check. What it does on the disk:
+/// the preferences "automaticallyChecksForUpdates" and "lastUpdateCheckDate", and one file in the
+/// user's downloads once an archive has been accepted.
+class AppcastUpdater final : public QObject, public Updater {
+ public:
+  /// All of these must outlive the updater.
+  struct Surroundings {
+    const ApplicationInfo& info;
+    UserDefaults& defaults;
+    FileSystem& files;
+    Clock& clock;
+    Workspace& workspace;
+  };
+
+  AppcastUpdater(const Surroundings& surroundings, UpdaterOptions options);
+
+  void start(UpdaterDelegate& delegate) override;
+  void stop() override;
+  [[nodiscard]] bool canCheckForUpdates() const override;
+  void checkForUpdates() override;
+  [[nodiscard]] std::optional<Date> lastUpdateCheckDate() const override;
+  [[nodiscard]] bool automaticallyChecksForUpdates() const override;
+  void setAutomaticallyChecksForUpdates(bool checks) override;
+  void present(std::function<void(const UpdateStage&)> show) override;
+  void install() override;
+  void dismiss() override;
+
+ private:
+  enum class Phase { idle, checking, offered, downloading, verifying };
+
+  void checkIfDue();
+  [[nodiscard]] bool isDue() const;
+  void check();
+  void rememberCheck();
+  void judgeFeed(const std::optional<UpdaterError>& error);
+  void offer(UpdateOffer offer);
+  void foundNothing();
+
+  void download();
+  [[nodiscard]] std::optional<UpdaterError> store(std::string_view bytes);
+  void judgeArchive(const std::optional<UpdaterError>& error);
+  void verify();
+  void deliver(bool isGenuine);
+
+  void fail(const UpdaterError& error);
+  void cancel(std::int64_t code, const char* description);
+  void abandon();
+  void show(const UpdateStage& stage) const;
+  [[nodiscard]] RunningProgram runningProgram() const;
+
+  const Surroundings _around;
+  const UpdaterOptions _options;
+  QNetworkAccessManager _network;
+  UpdaterDelegate* _delegate = nullptr;
+  std::function<void(const UpdateStage&)> _show;
+  std::unique_ptr<Clock::Alarm> _nextLook;
+  std::optional<Date> _lastCheck;
+
+  Phase _phase = Phase::idle;
+  bool _isFollowed = false;  ///< the user has asked, and is to see what comes of it
+  std::unique_ptr<HttpsFetch> _fetch;
+  std::string _feed;
+  UpdateOffer _offer;
+  std::shared_ptr<UnpublishedFile> _archive;
+  /// It may go while it is telling what came out.
+  struct DeleteLater {
+    void operator()(QFutureWatcher<bool>* watcher) const;
+  };
+  std::unique_ptr<QFutureWatcher<bool>, DeleteLater> _verification;
+  Path _delivered;  ///< logical; empty: nothing
+};
+
+}  // namespace klarvik

@@ -1,0 +1,103 @@
+#include "state/update_manager.h"
+
+#include <utility>
+
+#include "state/change_to.h"
+#include "state/shared_state.h"
+#include "state/update_error_text.h"
+
+namespace klarvik {
+
+UpdateManager& UpdateManager::shared() {
+  return SharedState::instance().updateManager();
+}
+
+UpdateManager::UpdateManager(const Desktop& desktop, QObject* parent)
+    : QObject(parent), _desktop(desktop), _lastCheckDate(desktop.updater.lastUpdateCheckDate()) {
+  _desktop.updater.start(*this);
+}
+
+UpdateManager::~UpdateManager() {
+  _desktop.updater.stop();
+}
+
+void UpdateManager::checkForUpdates() {
+  if (!_desktop.updater.canCheckForUpdates()) {
+    return setStatus(Failed{"A check is already running."});
+  }
+  setStatus(Checking{});
+  _desktop.updater.checkForUpdates();
+}
+
+std::string UpdateManager::lastCheckedText() const {
+  if (!_lastCheckDate) return "Never checked";
+  return "Checked " +
+         _desktop.formatting.relativeAbbreviated(*_lastCheckDate, _desktop.clock.now());
+}
+
+std::string UpdateManager::detailText() const {
+  const auto* const failed = std::get_if<Failed>(&_status);
+  return failed != nullptr ? failed->message + " · " + feedAddress() : lastCheckedText();
+}
+
+std::string UpdateManager::feedAddress() const {
+  return informationText(_desktop.info, "SUFeedURL").value_or("not configured");
+}
+
+void UpdateManager::didFindValidUpdate(const std::string& displayVersion) {
+  later([this, displayVersion] { setStatus(UpdateAvailable{displayVersion}); });
+}
+
+void UpdateManager::didNotFindUpdate() {
+  later([this] {
+    setStatus(UpToDate{});
+    setCheckedNow();
+  });
+}
+
+void UpdateManager::didAbortWithError(const UpdaterError& error) {
+  later([this, error] { takeError(error); });
+}
+
+void UpdateManager::didFinishUpdateCycle(const std::optional<UpdaterError>& error) {
+  later([this, error] {
+    setCheckedNow();
+    if (error) {
+      takeError(*error);
+    } else if (std::holds_alternative<Checking>(_status)) {
+      setStatus(UpToDate{});
+    }
+  });
+}
+
+/// Nobody has agreed to anything before the first run is finished.
+bool UpdateManager::mayCheckInBackground() const {
+  return _desktop.defaults.boolean("onboarding_complete", false);
+}
+
+/// Not within the updater's own call: whoever hears of the change may call the updater again.
+void UpdateManager::later(std::function<void()> change) {
+  QMetaObject::invokeMethod(this, std::move(change), Qt::QueuedConnection);
+}
+
+void UpdateManager::takeError(const UpdaterError& error) {
+  switch (error.code) {
+    case updater_code::installationCancelled:
+    case updater_code::installationPutOff:
+      return setStatus(Unknown{});
+    case updater_code::noUpdate:
+      return setStatus(UpToDate{});
+    default:
+      setStatus(Failed{updateErrorText(error)});
+  }
+}
+
+void UpdateManager::setStatus(const Status& status) {
+  if (changeTo(_status, status)) emit statusChanged();
+}
+
+void UpdateManager::setCheckedNow() {
+  if (changeTo(_lastCheckDate, _desktop.clock.now())) emit lastCheckDateChanged();
+}
+
+}  // namespace klarvik

@@ -1,0 +1,132 @@
+#include "platform/linux/unpublished_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <string>
+
+#include "support/system_call_faults.h"
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+namespace {
+
+std::string contentOf(const UnpublishedFile& file) {
+  std::string content;
+  EXPECT_TRUE(file.inspect([&](std::span<const std::byte> bytes) {
+    content.assign(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    return true;
+  }));
+  return content;
+}
+
+class UnpublishedFileTest : public ::testing::Test {
+ protected:
+  [[nodiscard]] bool isEmpty() const { return std::filesystem::is_empty(folder.path()); }
+
+  TemporaryFolder folder;
+};
+
+TEST_F(UnpublishedFileTest, IsNotThereForAnybodyUntilItIsPublished) {
+  auto file = UnpublishedFile::in(folder.path());
+  ASSERT_TRUE(file);
+  ASSERT_TRUE(file->append("half "));
+  ASSERT_TRUE(file->append("and half"));
+  EXPECT_TRUE(isEmpty());
+  EXPECT_EQ(contentOf(*file), "half and half");
+  EXPECT_EQ(file->size(), 13);
+  EXPECT_EQ(file->publish("Klarvik", ".deb"), folder.path() / "Klarvik.deb");
+  EXPECT_EQ(folder.contentOf("Klarvik.deb"), "half and half");
+}
+
+TEST_F(UnpublishedFileTest, LeavesNothingWhenItGoesUnpublished) {
+  {
+    auto file = UnpublishedFile::in(folder.path());
+    ASSERT_TRUE(file && file->append("x"));
+  }
+  EXPECT_TRUE(isEmpty());
+}
+
+TEST_F(UnpublishedFileTest, StaysWhenItGoesPublished) {
+  {
+    auto file = UnpublishedFile::in(folder.path());
+    ASSERT_TRUE(file && file->append("x"));
+    UnpublishedFile moved(std::move(*file));
+    ASSERT_TRUE(moved.publish("a", ".zip"));
+  }
+  EXPECT_EQ(folder.contentOf("a.zip"), "x");
+}
+
+TEST_F(UnpublishedFileTest, NeverReplacesWhatStandsThere) {
+  folder.makeFile("a.deb", "first");
+  std::filesystem::create_symlink("nowhere", folder.path() / "a-2.deb");
+  auto file = UnpublishedFile::in(folder.path());
+  ASSERT_TRUE(file && file->append("new"));
+  EXPECT_EQ(file->publish("a", ".deb"), folder.path() / "a-3.deb");
+  EXPECT_EQ(folder.contentOf("a.deb"), "first");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "a-2.deb"));
+}
+
+TEST_F(UnpublishedFileTest, MayBeReadByEverybodyOnceItIsPublished) {
+  auto file = UnpublishedFile::in(folder.path());
+  const auto path = file->publish("a", "");
+  ASSERT_TRUE(path);
+  struct ::stat status {};
+  ASSERT_EQ(::stat(path->c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777U, 0644U);
+}
+
+TEST_F(UnpublishedFileTest, CannotBeMadeWhereThereIsNoFolder) {
+  EXPECT_FALSE(UnpublishedFile::in(folder.path() / "missing"));
+  folder.makeFile("file", "");
+  EXPECT_FALSE(UnpublishedFile::in(folder.path() / "file"));
+}
+
+TEST_F(UnpublishedFileTest, CannotBePublishedIntoAFolderThatHasGone) {
+  folder.makeFolder("gone");
+  auto file = UnpublishedFile::in(folder.path() / "gone");
+  ASSERT_TRUE(file);
+  std::filesystem::remove_all(folder.path() / "gone");
+  EXPECT_FALSE(file->publish("a", ""));
+}
+
+/// Where a fault leaves the folder: empty, or with the whole file under its name.
+TEST_F(UnpublishedFileTest, IsWholeOrNotThereWhicheverSystemCallFails) {
+  const auto operation = [this] {
+    auto file = UnpublishedFile::in(folder.path());
+    return file && file->append("first ") && file->append("second") &&
+           file->publish("a", ".deb").has_value();
+  };
+  for (const auto kind : {SystemCallFault::Kind::failsOnce, SystemCallFault::Kind::failsFromThere,
+                          SystemCallFault::Kind::killed}) {
+    bool reached = true;
+    for (int at = 1; reached; ++at) {
+      std::filesystem::remove(folder.path() / "a.deb");
+      const FaultyRun run = runWithFault({.kind = kind, .at = at, .error = ENOSPC}, operation);
+      reached = run.reached;
+      const bool isWhole = folder.holds("a.deb") && folder.contentOf("a.deb") == "first second";
+      EXPECT_TRUE(isWhole || isEmpty()) << at;
+      EXPECT_TRUE(isWhole || !run.answer || run.killed) << at;
+    }
+  }
+}
+
+TEST_F(UnpublishedFileTest, IsHiddenAndGoesAllTheSameWhereFilesCannotBeNameless) {
+  const SystemCallFault noNameless{
+      .kind = SystemCallFault::Kind::failsOnce, .at = 1, .error = EOPNOTSUPP};
+  const auto write = [this](bool publishes) {
+    auto file = UnpublishedFile::in(folder.path());
+    if (!file || !file->append("x") || isEmpty()) return false;
+    return !publishes || file->publish("a", ".deb").has_value();
+  };
+  EXPECT_TRUE(runWithFault(noNameless, [&] { return write(false); }).answer);
+  EXPECT_TRUE(isEmpty());
+  folder.makeFile("a.deb", "first");
+  EXPECT_TRUE(runWithFault(noNameless, [&] { return write(true); }).answer);
+  EXPECT_EQ(folder.contentOf("a.deb"), "first");
+  EXPECT_EQ(folder.contentOf("a-2.deb"), "x");
+}
+
+}  // namespace
+}  // namespace klarvik

@@ -1,0 +1,25 @@
+// Input: an appcast, as a server sends it.
+
+#include <cstdint>
+#include <cstdlib>
+
+#include "platform/unicode_text.h"
+#include "platform/update/appcast.h"
+#include "platform/update/update_choice.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const auto items = klarvik::parseAppcast({reinterpret_cast<const char*>(data), size});
+  if (!items) return 0;
+  for (const klarvik::AppcastItem& item : *items) {
+    if (!klarvik::isUtf8(item.notes) || item.notes.size() > 20'000) std::abort();
+  }
+  const klarvik::RunningProgram running{.build = "1",
+                                        .displayVersion = "1",
+                                        .publicKey = std::string(32, 'k'),
+                                        .systemVersion = "6.1"};
+  const auto choice = klarvik::chooseUpdate(*items, running, 1000);
+  if (const auto* offer = std::get_if<klarvik::UpdateOffer>(&choice)) {
+    if (offer->length <= 0 || offer->length > 1000 || offer->signature.size() != 64) std::abort();
+  }
+  return 0;
+}

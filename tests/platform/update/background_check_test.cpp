@@ -1,0 +1,187 @@
+// When the updater checks by itself, and what it keeps.
+
+#include "updater_fixture.h"
+
+namespace klarvik {
+namespace {
+
+using namespace std::chrono_literals;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+
+class BackgroundCheck : public UpdaterFixture {
+ protected:
+  /// Moves time on, and waits for the end of a check if one has begun.
+  void pass(std::chrono::hours time) {
+    delegate.calls.clear();
+    clock.advance(time);
+    ASSERT_TRUE(
+        turnMainLoopUntil([&] { return updater->canCheckForUpdates() || delegate.isFinished(); }));
+  }
+  void restart() {
+    updater.reset();
+    makeUpdater();
+  }
+  [[nodiscard]] std::size_t checks() const { return server.requests().size(); }
+};
+
+class QuietBackgroundCheck : public BackgroundCheck {
+ protected:
+  QuietBackgroundCheck() { server.answer("/feed", {.body = rss("")}); }
+};
+
+TEST_F(BackgroundCheck, RunsRightAfterTheStartWhenItIsDueAndShowsWhatItFinds) {
+  pass(0h);
+  EXPECT_EQ(checks(), 1U);
+  EXPECT_THAT(delegate.calls, ElementsAre("found 2.0"));
+  ASSERT_THAT(stages, SizeIs(1));
+  EXPECT_TRUE(is<update_stage::Offered>());
+}
+
+TEST_F(BackgroundCheck, LeavesAnOfferThatStandsAlone) {
+  pass(0h);
+  pass(72h);
+  EXPECT_EQ(checks(), 1U);
+  EXPECT_TRUE(is<update_stage::Offered>());
+}
+
+TEST_F(QuietBackgroundCheck, ShowsNothingUnlessThereIsSomethingNew) {
+  pass(0h);
+  EXPECT_THAT(delegate.calls, ElementsAre("nothing", "finished"));
+  EXPECT_THAT(stages, IsEmpty());
+}
+
+TEST_F(QuietBackgroundCheck, ShowsNothingWhenItFails) {
+  server.answer("/feed", {.body = "rubbish"});
+  pass(0h);
+  EXPECT_THAT(delegate.calls, ElementsAre("aborted 1002", "finished 1002"));
+  EXPECT_THAT(stages, IsEmpty());
+}
+
+TEST_F(QuietBackgroundCheck, RunsOnceADay) {
+  for (const int hour : {0, 1, 1, 21}) pass(std::chrono::hours(hour));
+  EXPECT_EQ(checks(), 1U);
+  pass(1h);
+  EXPECT_EQ(checks(), 2U);
+  pass(23h);
+  EXPECT_EQ(checks(), 2U);
+}
+
+TEST_F(QuietBackgroundCheck, RunsOnceADayHoweverOftenTheProgramStarts) {
+  for (int start = 0; start < 5; ++start) {
+    pass(0h);
+    restart();
+  }
+  EXPECT_EQ(checks(), 1U);
+  updater.reset();
+  clock.advance(24h);
+  makeUpdater();
+  pass(0h);
+  EXPECT_EQ(checks(), 2U);
+}
+
+TEST_F(QuietBackgroundCheck, RunsOnceADayAlsoWhereNothingCanBeStored) {
+  defaults.refuseWrites(true);
+  pass(0h);
+  pass(2h);
+  EXPECT_EQ(checks(), 1U);
+  EXPECT_TRUE(updater->lastUpdateCheckDate().has_value());
+}
+
+TEST_F(QuietBackgroundCheck, IsNotRepeatedAtOnceWhenItNeverCameToItsEnd) {
+  server.answer("/feed", {.staysSilent = true});
+  clock.advance(0h);
+  ASSERT_TRUE(turnMainLoopUntil([&] { return checks() == 1; }));
+  restart();
+  clock.advance(1h);
+  turnMainLoop();
+  EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(QuietBackgroundCheck, WaitsADayAfterACheckThatTheUserStarted) {
+  clock.advance(0h);
+  ASSERT_TRUE(turnMainLoopUntil([&] { return delegate.isFinished(); }));
+  clock.advance(20h);
+  delegate.calls.clear();
+  ASSERT_TRUE(check());
+  pass(10h);
+  EXPECT_EQ(checks(), 2U);
+}
+
+TEST_F(QuietBackgroundCheck, DoesNotRunWhileItIsSwitchedOffAndRunsOnceItIsOnAgain) {
+  updater->setAutomaticallyChecksForUpdates(false);
+  EXPECT_FALSE(updater->automaticallyChecksForUpdates());
+  pass(0h);
+  restart();
+  pass(100h);
+  EXPECT_EQ(checks(), 0U);
+  updater->setAutomaticallyChecksForUpdates(true);
+  pass(1h);
+  EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(QuietBackgroundCheck, FollowsTheSwitchAsItStandsInThePreferencesEachTime) {
+  defaults.set("automaticallyChecksForUpdates", false);
+  pass(0h);
+  EXPECT_EQ(checks(), 0U);
+  defaults.set("automaticallyChecksForUpdates", std::string("rubbish"));
+  EXPECT_TRUE(updater->automaticallyChecksForUpdates());
+  pass(1h);
+  EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(QuietBackgroundCheck, DoesNotRunBeforeTheDelegateAllowsIt) {
+  delegate.mayCheck = false;
+  pass(50h);
+  EXPECT_EQ(checks(), 0U);
+  delegate.mayCheck = true;
+  pass(1h);
+  EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(QuietBackgroundCheck, DoesNotRunWithoutAFeed) {
+  info.erase("SUFeedURL");
+  pass(50h);
+  EXPECT_THAT(delegate.calls, IsEmpty());
+  EXPECT_FALSE(updater->lastUpdateCheckDate());
+}
+
+TEST_F(QuietBackgroundCheck, DoesNotRunAfterTheUpdaterHasStopped) {
+  updater->stop();
+  EXPECT_FALSE(updater->canCheckForUpdates());
+  clock.advance(50h);
+  turnMainLoop();
+  EXPECT_EQ(checks(), 0U);
+}
+
+TEST_F(QuietBackgroundCheck, TakesRubbishForTheTimeOfTheLastCheckAsNever) {
+  const std::int64_t now =
+      std::chrono::duration_cast<std::chrono::seconds>(clock.now().time_since_epoch()).count();
+  for (const DefaultsValue& rubbish :
+       {DefaultsValue(std::string("yesterday")), DefaultsValue(true), DefaultsValue(1e300),
+        DefaultsValue(std::int64_t{-5}), DefaultsValue(now + 100'000),
+        DefaultsValue(std::numeric_limits<std::int64_t>::max()),
+        DefaultsValue(std::numeric_limits<std::int64_t>::min())}) {
+    defaults.set("lastUpdateCheckDate", rubbish);
+    EXPECT_FALSE(updater->lastUpdateCheckDate());
+  }
+  pass(0h);
+  EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(QuietBackgroundCheck, RemembersTheTimeOfTheLastCheckAcrossAStart) {
+  pass(0h);
+  const Date then = clock.now();
+  clock.advance(3h);
+  restart();
+  EXPECT_EQ(updater->lastUpdateCheckDate(), then);
+}
+
+TEST_F(QuietBackgroundCheck, KeepsTheUserWaitingWhileItRuns) {
+  clock.advance(0h);
+  EXPECT_FALSE(updater->canCheckForUpdates());
+}
+
+}  // namespace
+}  // namespace klarvik

@@ -1,0 +1,53 @@
+#include "platform/update/plain_text.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/unicode_text.h"
+
+namespace klarvik {
+namespace {
+
+TEST(ReleaseNotes, AreReadWithoutTheirMarkup) {
+  EXPECT_EQ(plainNotesOfHtml("<h2>New in 2.0</h2>\n<ul>\n  <li>Scans   <b>faster</b></li>\n"
+                             "  <li>Fewer bugs</li></ul><p>Thanks!</p>"),
+            "New in 2.0\n\u2022 Scans faster\n\u2022 Fewer bugs\nThanks!");
+  EXPECT_EQ(plainNotesOfHtml("one<br>two<br/>three"), "one\ntwo\nthree");
+}
+
+TEST(ReleaseNotes, LeaveOutWhatIsNotForReading) {
+  EXPECT_EQ(plainNotesOfHtml("<html><head><title>t</title></head><style>b{}</style>a<script>x()"
+                             "</script>b<!-- <p>c</p> -->"),
+            "ab");
+}
+
+TEST(ReleaseNotes, WriteWhatEntitiesStandForAndKeepUnknownOnes) {
+  EXPECT_EQ(plainNotesOfHtml("a &lt; b &amp;&amp; c &gt; &quot;d&quot; &#39;e&#39; &nope; & f"),
+            "a < b && c > \"d\" 'e' &nope; & f");
+}
+
+TEST(ReleaseNotes, ThatAreTextAlreadyKeepTheirLinesAndSigns) {
+  EXPECT_EQ(plainNotes("\n- a <b> & c\n- d\r\n\n"), "- a <b> & c\n- d");
+  EXPECT_EQ(plainNotes("a\x1b[31mb\x07"), "a[31mb");
+}
+
+TEST(ReleaseNotes, AreCutWhereNobodyReadsOnAndNotWithinACharacter) {
+  std::string endless;
+  for (int i = 0; i < 100'000; ++i) endless += "\u00E4";
+  for (const std::string& cut :
+       {plainNotes(endless + "x"), plainNotes("x" + endless), plainNotesOfHtml("<p>" + endless),
+        plainNotesOfHtml("x" + endless)}) {
+    EXPECT_LT(cut.size(), 20'000U);
+    EXPECT_GT(cut.size(), 10'000U);
+    EXPECT_TRUE(isUtf8(cut));
+  }
+}
+
+TEST(ReleaseNotes, BearTagsThatNeverEnd) {
+  EXPECT_EQ(plainNotesOfHtml("a<"), "a");
+  EXPECT_EQ(plainNotesOfHtml("a<!-- b"), "a");
+  EXPECT_EQ(plainNotesOfHtml("a<script>b"), "a");
+  EXPECT_EQ(plainNotesOfHtml("a&"), "a&");
+}
+
+}  // namespace
+}  // namespace klarvik

@@ -1,0 +1,157 @@
+#include "platform/update/update_choice.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/base64.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::int64_t mostBytes = 1000;
+
+AppcastItem item(const std::string& version) {
+  AppcastItem item;
+  item.version = version;
+  item.address = "https://example.com/klarvik-" + version + ".deb";
+  item.length = "100";
+  item.signature = base64(std::string(64, 's'));
+  return item;
+}
+
+RunningProgram running() {
+  return {.build = "1.9",
+          .displayVersion = "1.9",
+          .publicKey = std::string(32, 'k'),
+          .systemVersion = "6.1.0-13-amd64"};
+}
+
+class UpdateChoice : public ::testing::Test {
+ protected:
+  /// The version that is offered; "" for nothing newer, and what is said where newer ones are
+  /// refused.
+  std::string chosen(const std::vector<AppcastItem>& items) const {
+    const auto choice = chooseUpdate(items, program, mostBytes);
+    if (const auto* error = std::get_if<UpdaterError>(&choice)) return error->localizedDescription;
+    const auto* offer = std::get_if<UpdateOffer>(&choice);
+    return offer != nullptr ? offer->version : "";
+  }
+
+  RunningProgram program = running();
+};
+
+TEST_F(UpdateChoice, IsTheNewestWhereverItStands) {
+  EXPECT_EQ(chosen({item("1.8"), item("1.10"), item("1.11"), item("1.9.5")}), "1.11");
+  EXPECT_EQ(chosen({item("2.0-beta"), item("2.0"), item("2.0-rc1")}), "2.0");
+}
+
+TEST_F(UpdateChoice, IsNothingThatIsOlderOrTheSame) {
+  EXPECT_EQ(chosen({item("1.9"), item("1.9.0"), item("1.8"), item("1.9-beta"), item("0.10")}), "");
+  EXPECT_EQ(chosen({}), "");
+}
+
+TEST_F(UpdateChoice, TextThatIsNotAVersionIsNeverNewer) {
+  EXPECT_EQ(chosen({item("latest"), item(""), item("v3.0"), item("9.9 (best)")}), "");
+}
+
+TEST_F(UpdateChoice, ComparesBuildsWherePeopleSeeTheSameVersion) {
+  program.build = "45";
+  AppcastItem rebuilt = item("46");
+  rebuilt.displayVersion = "1.9";
+  EXPECT_EQ(chosen({rebuilt}), "1.9");
+  rebuilt.version = "45";
+  EXPECT_EQ(chosen({rebuilt}), "");
+}
+
+TEST_F(UpdateChoice, NeverTakesTheUserBackToAnOlderReleaseWithAHigherBuild) {
+  AppcastItem older = item("200");
+  older.displayVersion = "1.8";
+  EXPECT_EQ(chosen({older}), "");
+}
+
+TEST_F(UpdateChoice, ShowsNothingAsAVersionThatIsNone) {
+  AppcastItem boastful = item("2.0");
+  boastful.displayVersion = "Best\u202E ever";
+  EXPECT_EQ(chosen({boastful}), "2.0");
+}
+
+TEST_F(UpdateChoice, PassesOverOtherSystemsAndTestChannels) {
+  AppcastItem other = item("3.0");
+  other.system = "windows";
+  AppcastItem test = item("3.1");
+  test.channel = "beta";
+  AppcastItem ours = item("2.0");
+  ours.system = "linux";
+  EXPECT_EQ(chosen({other, test, ours}), "2.0");
+}
+
+TEST_F(UpdateChoice, PassesOverWhatNeedsANewerOrAnOlderSystem) {
+  AppcastItem tooNew = item("3.0");
+  tooNew.minimumSystem = "6.2";
+  AppcastItem tooOld = item("2.9");
+  tooOld.maximumSystem = "5.99";
+  AppcastItem unclear = item("2.8");
+  unclear.minimumSystem = "any";
+  AppcastItem fits = item("2.0");
+  fits.minimumSystem = "5.10";
+  fits.maximumSystem = "7";
+  program.systemVersion = "6.1";
+  EXPECT_EQ(chosen({tooNew, tooOld, unclear, fits}), "2.0");
+}
+
+TEST_F(UpdateChoice, IsTheNewestThatCanBeAccepted) {
+  AppcastItem unsignedItem = item("4.0");
+  unsignedItem.signature.clear();
+  AppcastItem insecure = item("3.0");
+  insecure.address = "http://example.com/k.deb";
+  EXPECT_EQ(chosen({unsignedItem, insecure, item("2.0")}), "2.0");
+}
+
+TEST_F(UpdateChoice, SaysWhyNoneCanBeAccepted) {
+  AppcastItem broken = item("2.0");
+  broken.signature.clear();
+  EXPECT_EQ(chosen({broken}), "Version 2.0 is not signed, so Klarvik leaves it alone.");
+  broken.signature = base64("short");
+  EXPECT_EQ(chosen({broken}), "Version 2.0 is not signed, so Klarvik leaves it alone.");
+  broken.signature = "!!!";
+  EXPECT_EQ(chosen({broken}), "Version 2.0 is not signed, so Klarvik leaves it alone.");
+}
+
+TEST_F(UpdateChoice, TakesArchivesFromSecureAddressesOnly) {
+  for (const char* const address : {"", "http://example.com/k", "ftp://example.com/k", "https://",
+                                    "k.deb", "file:///etc/passwd", "https:///k", "javascript:x"}) {
+    AppcastItem broken = item("2.0");
+    broken.address = address;
+    EXPECT_EQ(chosen({broken}),
+              "Version 2.0 is not offered over a secure connection, so Klarvik leaves it alone.")
+        << address;
+  }
+}
+
+TEST_F(UpdateChoice, TakesNoArchiveWhoseLengthIsMissingOrBeyondAllBounds) {
+  for (const char* const length : {"", "0", "-1", "1e3", "12 ", "1001", "99999999999999999999"}) {
+    AppcastItem broken = item("2.0");
+    broken.length = length;
+    EXPECT_EQ(chosen({broken}),
+              "Version 2.0 does not say how long it is, so Klarvik leaves it alone.")
+        << length;
+  }
+}
+
+TEST_F(UpdateChoice, WithoutAKeyIsNothingAndSaysWhy) {
+  program.publicKey.reset();
+  EXPECT_EQ(chosen({item("2.0")}),
+            "There is a newer version, but this copy of Klarvik has no key to check it with.");
+  EXPECT_EQ(chosen({item("1.8")}), "");
+}
+
+TEST_F(UpdateChoice, LinksToNotesOnSecureAddressesOnly) {
+  AppcastItem linked = item("2.0");
+  linked.notesLink = "javascript:alert(1)";
+  EXPECT_EQ(std::get<UpdateOffer>(chooseUpdate({linked}, program, mostBytes)).notesLink, "");
+  linked.notesLink = "https://example.com/notes";
+  EXPECT_EQ(std::get<UpdateOffer>(chooseUpdate({linked}, program, mostBytes)).notesLink,
+            "https://example.com/notes");
+}
+
+}  // namespace
+}  // namespace klarvik
