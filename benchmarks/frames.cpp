@@ -87,7 +87,7 @@ QQuickItem* reviewList(QQuickItem& item) {
 
 void useTheWindow(KlarvikApp& app) {
   AppState& state = app.appState();
-  QQuickItem* list = reviewList(*app.mainWindow()->contentItem());
+  QQuickItem* list = reviewList(*app.window(mainWindowId)->contentItem());
   if (list == nullptr) {
     std::fputs("frames: the window has no table of results\n", stderr);
     std::exit(1);
@@ -99,7 +99,7 @@ void useTheWindow(KlarvikApp& app) {
     return std::holds_alternative<AppState::CleanDone>(state.scanState());
   };
 
-  Frames frames(*app.mainWindow());
+  Frames frames(*app.window(mainWindowId));
   frames.measure(
       "scan", [&] { state.startScan(); }, isDone);
   frames.measure("deselect all", [&] { table.toggleSelection(0); });
@@ -130,7 +130,7 @@ int main(int argumentCount, char** arguments) {
   around.defaults.set("backgroundScanOnLaunch", false);
   SharedState shared(around.desktop);
   KlarvikApp app(around.desktop, shared);
-  if (!app.openMainWindow()) {
+  if (!app.openWindow(mainWindowId)) {
     return 1;
   }
 

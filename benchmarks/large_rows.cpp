@@ -116,9 +116,9 @@ std::pair<QQuickItem*, Model*> drawnFrom(QQuickItem& item) {
 bool measureWindow(RememberedDesktop& around) {
   SharedState shared(around.desktop);
   KlarvikApp app(around.desktop, shared);
-  if (!app.openMainWindow()) return false;
+  if (!app.openWindow(mainWindowId)) return false;
   shared.navigator().setSection(Section::largeFiles);
-  QQuickWindow& window = *app.mainWindow();
+  QQuickWindow& window = *app.window(mainWindowId);
   LargeFileFinderView* const shown = drawnFrom<LargeFileFinderView>(*window.contentItem()).second;
   if (shown == nullptr) return false;
   LargeFileFinderView& pane = *shown;

@@ -7,6 +7,12 @@ namespace klarvik {
 namespace {
 
 constexpr const char* signingIdentityKey = "KlarvikHasSigningIdentity";
+constexpr const char* websiteKey = "KlarvikWebsite";
+constexpr const char* supportAddressKey = "KlarvikSupportAddress";
+
+void setUnlessEmpty(ApplicationInfo& info, const char* key, std::string_view text) {
+  if (!text.empty()) info[key] = std::string(text);
+}
 
 }  // namespace
 
@@ -16,11 +22,22 @@ ApplicationInfo builtInApplicationInfo() {
       {"CFBundleVersion", std::string(KLARVIK_BUILD_NUMBER)},
   };
   if (KLARVIK_IS_RELEASED) info[signingIdentityKey] = true;
-  constexpr std::string_view feed = KLARVIK_FEED_URL;
-  if (!feed.empty()) info["SUFeedURL"] = std::string(feed);
-  constexpr std::string_view updateKey = KLARVIK_UPDATE_KEY;
-  if (!updateKey.empty()) info["SUPublicEDKey"] = std::string(updateKey);
+  setUnlessEmpty(info, websiteKey, KLARVIK_WEBSITE);
+  setUnlessEmpty(info, supportAddressKey, KLARVIK_SUPPORT_ADDRESS);
+  setUnlessEmpty(info, "SUFeedURL", KLARVIK_FEED_URL);
+  setUnlessEmpty(info, "SUPublicEDKey", KLARVIK_UPDATE_KEY);
   return info;
+}
+
+std::string websitePage(const ApplicationInfo& info, const std::string& page) {
+  const std::string website = informationText(info, websiteKey).value_or("");
+  if (website.empty() || page.empty()) return website;
+  return website + (website.ends_with('/') ? "" : "/") + page;
+}
+
+std::string supportLink(const ApplicationInfo& info) {
+  const std::string address = informationText(info, supportAddressKey).value_or("");
+  return address.empty() ? address : "mailto:" + address;
 }
 
 bool hasSigningIdentity(const ApplicationInfo& info) {

@@ -18,6 +18,12 @@ using ApplicationInfo = std::map<std::string, DefaultsValue>;
 [[nodiscard]] std::optional<std::string> informationText(const ApplicationInfo& info,
                                                          const std::string& key);
 
+/// The address of a page of the program's website; of its front page where `page` is empty. Empty
+/// when this build has no website.
+[[nodiscard]] std::string websitePage(const ApplicationInfo& info, const std::string& page);
+/// The link that writes to those who help with the program. Empty when this build has none.
+[[nodiscard]] std::string supportLink(const ApplicationInfo& info);
+
 /// Whether the system takes this build and the one after it for the same program, and so keeps the
 /// permissions it was given. False for what a developer builds.
 [[nodiscard]] bool hasSigningIdentity(const ApplicationInfo& info);

@@ -1,25 +1,39 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Window
 import Klarvik.Kit
+import Klarvik.Onboarding
 import Klarvik.Shell
 
-/// The one main window.
+/// The one main window. The first run stands in it until it is through.
 Window {
     id: root
 
-    required property AppShellModel shell
+    required property MainWindowModel model
 
     objectName: "main"
     title: "Klarvik"
-    minimumWidth: 920
-    minimumHeight: 640
-    width: 1080
-    height: 720
-    visible: true
     color: Theme.canvas
 
-    AppShell {
+    CommandShortcuts {
+        commands: root.model.commands
+    }
+
+    Loader {
         anchors.fill: parent
-        shell: root.shell
+        active: root.model.shell === null
+        focus: active
+        sourceComponent: OnboardingView {
+            model: root.model.onboarding
+        }
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: root.model.shell !== null
+        sourceComponent: AppShell {
+            shell: root.model.shell
+        }
     }
 }

@@ -20,6 +20,7 @@ Rectangle {
         RowLayout {
             Layout.fillWidth: true
             Layout.leftMargin: 16
+            Layout.rightMargin: 10
             Layout.topMargin: 18
             Layout.bottomMargin: 16
             spacing: 9
@@ -32,6 +33,14 @@ Rectangle {
                 text: "Klarvik"
                 size: 14
                 weight: Font.DemiBold
+            }
+
+            Item {
+                Layout.fillWidth: true
+            }
+
+            ApplicationMenu {
+                commands: root.shell.commands
             }
         }
 
@@ -68,6 +77,21 @@ Rectangle {
             Layout.fillWidth: true
             Layout.margins: 8
             model: root.shell.trash
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            implicitHeight: 1
+            color: Theme.hairlineStrong
+        }
+
+        SymbolButton {
+            Layout.margins: 8
+            symbol: "gearshape"
+            title: qsTr("Settings")
+            help: qsTr("Settings")
+            size: 14
+            onAction: root.shell.openSettings()
         }
     }
 }

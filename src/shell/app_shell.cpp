@@ -3,13 +3,14 @@
 namespace klarvik {
 
 AppShell::AppShell(const std::vector<LandedPane>& panes, AppState& appState, SharedState& shared,
-                   const Desktop& desktop, QObject* parent)
+                   AppCommands& commands, const Desktop& desktop, QObject* parent)
     : QObject(parent),
       _sidebar(panes, appState, shared.scanCoordinator(), shared.toolActivity(), shared.navigator(),
                desktop.formatting),
       _disk(shared.diskMonitor(), desktop),
       _trash(shared.trashMonitor(), shared.permissionsManager(), desktop),
       _panes(panes, shared.navigator()),
-      _access(shared.permissionsManager(), desktop) {}
+      _access(shared.permissionsManager(), desktop),
+      _commands(commands) {}
 
 }  // namespace klarvik

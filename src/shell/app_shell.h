@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "shell/app_commands.h"
 #include "shell/disk_block.h"
 #include "shell/full_disk_access_view.h"
 #include "shell/landed_pane.h"
@@ -27,16 +28,22 @@ class AppShell : public QObject {
   Q_PROPERTY(klarvik::TrashBlock* trash READ trash CONSTANT)
   Q_PROPERTY(klarvik::PaneStack* panes READ panes CONSTANT)
   Q_PROPERTY(klarvik::FullDiskAccessView* access READ access CONSTANT)
+  Q_PROPERTY(klarvik::AppCommands* commands READ commands CONSTANT)
 
  public:
   AppShell(const std::vector<LandedPane>& panes, AppState& appState, SharedState& shared,
-           const Desktop& desktop, QObject* parent = nullptr);
+           AppCommands& commands, const Desktop& desktop, QObject* parent = nullptr);
 
   [[nodiscard]] SidebarModel* sidebar() { return &_sidebar; }
   [[nodiscard]] DiskBlock* disk() { return &_disk; }
   [[nodiscard]] TrashBlock* trash() { return &_trash; }
   [[nodiscard]] PaneStack* panes() { return &_panes; }
   [[nodiscard]] FullDiskAccessView* access() { return &_access; }
+  [[nodiscard]] AppCommands* commands() const { return &_commands; }
+  Q_INVOKABLE void openSettings() { emit settingsAsked(); }
+
+ signals:
+  void settingsAsked();
 
  private:
   SidebarModel _sidebar;
@@ -44,6 +51,7 @@ class AppShell : public QObject {
   TrashBlock _trash;
   PaneStack _panes;
   FullDiskAccessView _access;
+  AppCommands& _commands;
 };
 
 }  // namespace klarvik

@@ -21,9 +21,19 @@ LandedPane landed(Section section, const QString& view, Pane& pane) {
 
 }  // namespace
 
-KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, QObject* parent)
-    : QObject(parent), _desktop(desktop), _shared(shared) {
+KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& loginItem,
+                       QObject* parent)
+    : QObject(parent),
+      _desktop(desktop),
+      _shared(shared),
+      _loginItem(loginItem),
+      _onboardingComplete(desktop.defaults.boolean("onboarding_complete", false)),
+      _commands(commands()),
+      _onboarding(shared.permissionsManager(), desktop),
+      _mainWindow(_onboarding, _commands),
+      _windows(desktop) {
   removeLeftoverKeys();
+  connect(&_onboarding, &OnboardingView::finished, this, &KlarvikApp::finishOnboarding);
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
           [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive) {
@@ -44,25 +54,91 @@ AppState& KlarvikApp::appState() {
   return *_appState;
 }
 
-bool KlarvikApp::openMainWindow() {
-  _panes = landedPanes();
-  _shell = std::make_unique<AppShell>(_panes, appState(), _shared, _desktop);
-  _window = MainWindow::open(*_shell, _desktop);
-  if (!_window) {
-    return false;
-  }
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        launch();
-        for (const LandedPane& pane : _panes) {
-          if (pane.appear) {
-            pane.appear();
-          }
-        }
-      },
-      Qt::QueuedConnection);
+/// Two keys that a former feature has left behind.
+void KlarvikApp::removeLeftoverKeys() {
+  _desktop.defaults.remove("clean_schedule");
+  _desktop.defaults.remove("last_auto_clean");
+}
+
+std::vector<AppCommand> KlarvikApp::commands() {
+  return {
+      settingsWindowButton([this] { openWindow(settingsWindowId); }),
+      {"Quit", "Ctrl+Q", [] { QCoreApplication::quit(); }},
+  };
+}
+
+bool KlarvikApp::openWindow(const QString& id) {
+  QQuickWindow* window = _windows.find(id);
+  if (window == nullptr && id == mainWindowId) window = makeMainWindow();
+  if (window == nullptr && id == settingsWindowId) window = makeSettingsWindow();
+  if (window == nullptr) return false;
+  bringToFront(*window);
   return true;
+}
+
+QQuickWindow* KlarvikApp::makeMainWindow() {
+  if (_onboardingComplete) makeShell();
+  QQuickWindow* const window = _windows.make(
+      mainWindowId, QUrl("qrc:/Klarvik/Shell/MainWindow.qml"),
+      {{"model", QVariant::fromValue(&_mainWindow)}}, _mainWindow.frame());
+  if (window != nullptr) QMetaObject::invokeMethod(this, &KlarvikApp::launch, Qt::QueuedConnection);
+  return window;
+}
+
+/// Made anew each time it is opened, so that it begins on its first tab and with what holds then.
+QQuickWindow* KlarvikApp::makeSettingsWindow() {
+  _settings = std::make_unique<SettingsView>(settingsTabs());
+  QQuickWindow* const window = _windows.make(
+      settingsWindowId, QUrl("qrc:/Klarvik/Settings/SettingsWindow.qml"),
+      {{"model", QVariant::fromValue(_settings.get())}}, SettingsView::frame());
+  if (window != nullptr) {
+    connect(window, &QWindow::visibleChanged, this, &KlarvikApp::discardClosedSettings,
+            Qt::QueuedConnection);
+  }
+  return window;
+}
+
+void KlarvikApp::discardClosedSettings() {
+  const QQuickWindow* const settings = window(settingsWindowId);
+  if (settings != nullptr && !settings->isVisible()) _windows.discard(settingsWindowId);
+}
+
+std::vector<SettingsTab> KlarvikApp::settingsTabs() {
+  _generalSettings =
+      std::make_unique<GeneralSettingsSection>(_shared.permissionsManager(), _loginItem, _desktop);
+  return {{"General", QUrl("qrc:/Klarvik/Settings/GeneralSettingsSection.qml"),
+           _generalSettings.get()}};
+}
+
+/// What happens unasked, once the main window is on the screen for the first time.
+void KlarvikApp::launch() {
+  if (!_onboardingComplete) return;
+  _shell->access()->askOnce();
+  appState().autoScanIfNeeded(_stop.get_token());
+  letPanesAppear();
+}
+
+/// A user who puts the first scan off has nothing scanned at all before the next start.
+void KlarvikApp::finishOnboarding(bool scans) {
+  _onboardingComplete = true;
+  makeShell();
+  fit(*window(mainWindowId), _mainWindow.frame());
+  if (!scans) return;
+  appState().startScan();
+  letPanesAppear();
+}
+
+void KlarvikApp::makeShell() {
+  _panes = landedPanes();
+  _shell = std::make_unique<AppShell>(_panes, appState(), _shared, _commands, _desktop);
+  connect(_shell.get(), &AppShell::settingsAsked, this, [this] { openWindow(settingsWindowId); });
+  _mainWindow.setShell(*_shell);
+}
+
+void KlarvikApp::letPanesAppear() {
+  for (const LandedPane& pane : _panes) {
+    if (pane.appear) pane.appear();
+  }
 }
 
 void KlarvikApp::finishRemovals() {
@@ -73,16 +149,6 @@ void KlarvikApp::finishRemovals() {
     }
   }
   _shared.trashMonitor().finishEmptying();
-}
-
-QQuickWindow* KlarvikApp::mainWindow() const {
-  return _window ? _window->window() : nullptr;
-}
-
-/// Two keys that a former feature has left behind.
-void KlarvikApp::removeLeftoverKeys() {
-  _desktop.defaults.remove("clean_schedule");
-  _desktop.defaults.remove("last_auto_clean");
 }
 
 std::vector<LandedPane> KlarvikApp::landedPanes() {
@@ -122,11 +188,6 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       landed(Section::uninstaller, "Uninstaller/AppUninstallerView.qml", *_uninstallerPane),
       landed(Section::privacy, "Privacy/PrivacyCleanerView.qml", *_privacyPane),
   };
-}
-
-QCoro::Task<> KlarvikApp::launch() {
-  _shell->access()->askOnce();
-  co_await appState().autoScanIfNeeded(_stop.get_token());
 }
 
 }  // namespace klarvik

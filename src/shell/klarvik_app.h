@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QCoro/QCoroTask>
 #include <QObject>
 #include <memory>
 #include <stop_token>
@@ -14,42 +13,62 @@
 #include "panes/system_data/system_data_view.h"
 #include "panes/uninstaller/app_uninstaller_view.h"
 #include "platform/platform.h"
+#include "shell/app_commands.h"
 #include "shell/app_shell.h"
 #include "shell/main_window.h"
+#include "shell/onboarding/onboarding_view.h"
+#include "shell/settings/settings_view.h"
+#include "shell/windows.h"
 #include "state/app_state.h"
 #include "state/shared_state.h"
 
 namespace klarvik {
 
-/// The program: owns the one `AppState` and the main window, and runs what happens unasked after a
-/// start. Main thread only; made once, after everything that is handed in.
+/// The program: owns the one `AppState` and the windows, and runs what happens unasked after a
+/// start. Nothing is scanned before the first run is through. Main thread only; made once, after
+/// everything that is handed in.
 class KlarvikApp : public QObject {
   Q_OBJECT
  public:
-  KlarvikApp(const Desktop& desktop, SharedState& shared, QObject* parent = nullptr);
+  KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& loginItem,
+             QObject* parent = nullptr);
   ~KlarvikApp() override;
 
   /// Made at first use, and kept for the life of the process.
   [[nodiscard]] AppState& appState();
+  /// Whether the first run is finished.
+  [[nodiscard]] bool onboardingComplete() const { return _onboardingComplete; }
 
-  /// Shows the main window; the launch task runs once it is on the screen. False when it cannot be
-  /// drawn.
-  bool openMainWindow();
-  /// Nothing until it has been opened.
-  [[nodiscard]] QQuickWindow* mainWindow() const;
+  /// Shows the window of that identifier (windows.h) in front of all others, making it where it is
+  /// not there. The launch task runs once the main window is on the screen for the first time.
+  /// False when it cannot be drawn, and for any other identifier.
+  bool openWindow(const QString& id);
+  /// Nothing until it has been opened. The main window is kept when it is closed.
+  [[nodiscard]] QQuickWindow* window(const QString& id) const { return _windows.find(id); }
   /// For the end of the program: no further item is removed, and those in hand are finished and put
   /// on record. Nothing may be started afterwards.
   void finishRemovals();
 
  private:
   void removeLeftoverKeys();
+  [[nodiscard]] std::vector<AppCommand> commands();
+  QQuickWindow* makeMainWindow();
+  QQuickWindow* makeSettingsWindow();
+  void discardClosedSettings();
+  [[nodiscard]] std::vector<SettingsTab> settingsTabs();
+
+  void launch();
+  void finishOnboarding(bool scans);
+  void makeShell();
   [[nodiscard]] std::vector<LandedPane> landedPanes();
-  QCoro::Task<> launch();
+  void letPanesAppear();
 
   const Desktop& _desktop;
   SharedState& _shared;
+  LoginItem& _loginItem;
   std::stop_source _stop;
   std::unique_ptr<AppState> _appState;
+  bool _onboardingComplete;
   std::unique_ptr<SmartScanPane> _smartScanPane;
   std::unique_ptr<StorageAnalyticsView> _storagePane;
   std::unique_ptr<DuplicateFinderView> _duplicatesPane;
@@ -57,9 +76,14 @@ class KlarvikApp : public QObject {
   std::unique_ptr<SystemDataView> _systemDataPane;
   std::unique_ptr<AppUninstallerView> _uninstallerPane;
   std::unique_ptr<PrivacyCleanerView> _privacyPane;
-  std::vector<LandedPane> _panes;  ///< in section order
+  std::vector<LandedPane> _panes;  ///< in section order; none before the first run is through
+  AppCommands _commands;
+  OnboardingView _onboarding;
   std::unique_ptr<AppShell> _shell;
-  std::unique_ptr<MainWindow> _window;
+  MainWindow _mainWindow;
+  std::unique_ptr<GeneralSettingsSection> _generalSettings;
+  std::unique_ptr<SettingsView> _settings;
+  Windows _windows;
 };
 
 }  // namespace klarvik

@@ -1,27 +1,43 @@
 #pragma once
 
-#include <QQmlApplicationEngine>
-#include <QQuickWindow>
-#include <memory>
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
 
-#include "platform/platform.h"
+#include "shell/app_commands.h"
 #include "shell/app_shell.h"
+#include "shell/onboarding/onboarding_view.h"
+#include "shell/windows.h"
 
 namespace klarvik {
 
-/// The window on the screen. Main thread only.
-class MainWindow {
- public:
-  /// Nothing when the window cannot be drawn. What is handed in must outlive it.
-  [[nodiscard]] static std::unique_ptr<MainWindow> open(AppShell& shell, const Desktop& desktop);
+/// What the main window shows: the first run, until there is a shell to show in its place. Main
+/// thread only; everything handed in must outlive it.
+class MainWindow : public QObject {
+  Q_OBJECT
+  QML_NAMED_ELEMENT(MainWindowModel)
+  QML_UNCREATABLE("The program makes it.")
+  Q_PROPERTY(klarvik::OnboardingView* onboarding READ onboarding CONSTANT)
+  Q_PROPERTY(klarvik::AppShell* shell READ shell NOTIFY shellChanged)
+  Q_PROPERTY(klarvik::AppCommands* commands READ commands CONSTANT)
 
-  [[nodiscard]] QQuickWindow* window() const { return _window; }
+ public:
+  MainWindow(OnboardingView& onboarding, AppCommands& commands, QObject* parent = nullptr);
+
+  [[nodiscard]] OnboardingView* onboarding() const { return &_onboarding; }
+  [[nodiscard]] AppShell* shell() const { return _shell; }
+  [[nodiscard]] AppCommands* commands() const { return &_commands; }
+  /// The frame of what is shown now.
+  [[nodiscard]] WindowFrame frame() const;
+
+  void setShell(AppShell& shell);
+
+ signals:
+  void shellChanged();
 
  private:
-  MainWindow() = default;
-
-  QQmlApplicationEngine _engine;
-  QQuickWindow* _window = nullptr;  ///< owned by the engine
+  OnboardingView& _onboarding;
+  AppCommands& _commands;
+  AppShell* _shell = nullptr;
 };
 
 }  // namespace klarvik

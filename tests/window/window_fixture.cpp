@@ -77,6 +77,7 @@ void WindowFixture::SetUp() {
   desk = std::make_unique<DesktopOnDisk>(diskOptions);
   shared = std::make_unique<SharedState>(desk->desktop);
   desk->defaults.set("backgroundScanOnLaunch", false);
+  desk->defaults.set("onboarding_complete", true);
   desk->defaults.set("fda_prompt_shown", true);
 }
 
@@ -88,8 +89,8 @@ void WindowFixture::TearDown() {
 }
 
 void WindowFixture::openWindow() {
-  app = std::make_unique<KlarvikApp>(desk->desktop, *shared);
-  ASSERT_TRUE(app->openMainWindow()) << warnings.join('\n').toStdString();
+  app = std::make_unique<KlarvikApp>(desk->desktop, *shared, loginItem);
+  ASSERT_TRUE(app->openWindow(mainWindowId)) << warnings.join('\n').toStdString();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
   window().requestActivate();
   settle();
@@ -99,6 +100,13 @@ void WindowFixture::closeWindow() {
   desk->commandGate.open();
   desk->trashGate.open();
   app.reset();
+}
+
+void WindowFixture::lookAt(const QString& id) {
+  _windowId = id;
+  ASSERT_NE(app->window(id), nullptr) << id.toStdString() << " has not been opened";
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+  settle();
 }
 
 bool WindowFixture::turnUntil(const std::function<bool()>& reached) {

@@ -15,20 +15,23 @@
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
 #include "support/desktop_on_disk.h"
+#include "support/fake_login_item.h"
 
 namespace klarvik {
 
-/// The real main window, drawn without a display, over a real disk; used with real events. Any
+/// The program's real windows, drawn without a display, over a real disk; used with real events. Any
 /// warning that Qt or a QML file gives fails the test.
 class WindowFixture : public ::testing::Test {
  protected:
   void SetUp() override;
   void TearDown() override;
 
-  /// Automatic scans are off, and the permission is not asked for, unless a test changes that
-  /// before this.
+  /// The first run is through, automatic scans are off, and the permission is not asked for, unless
+  /// a test changes that before this.
   void openWindow();
   void closeWindow();
+  /// What is said below of the window holds for the one of that identifier from now on.
+  void lookAt(const QString& id);
 
   /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
   [[nodiscard]] bool turnUntil(const std::function<bool()>& reached);
@@ -64,7 +67,7 @@ class WindowFixture : public ::testing::Test {
   /// From now on another window than the main one is looked at and used; null ends that.
   void lookAt(QQuickWindow* window) { _lookedAt = window; }
   [[nodiscard]] QQuickWindow& window() const {
-    return _lookedAt != nullptr ? *_lookedAt : *app->mainWindow();
+    return _lookedAt != nullptr ? *_lookedAt : *app->window(mainWindowId);
   }
   [[nodiscard]] bool homeHolds(const std::string& place) const {
     return desk->disk.holds(desk->files.home() / place);
@@ -82,6 +85,7 @@ class WindowFixture : public ::testing::Test {
   std::optional<SampleDiskOptions> diskOptions = SampleDiskOptions{};
 
   std::unique_ptr<DesktopOnDisk> desk;
+  FakeLoginItem loginItem;
   std::unique_ptr<SharedState> shared;
   std::unique_ptr<KlarvikApp> app;
 

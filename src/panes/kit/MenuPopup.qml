@@ -9,6 +9,8 @@ T.Popup {
     id: root
 
     required property list<string> entries
+    // What stands at the end of each entry, such as the keys for it; none where it is shorter.
+    property list<string> hints
     property int currentIndex: -1
     property bool marksCurrent: false
     property real widestEntry: 120
@@ -48,7 +50,7 @@ T.Popup {
 
             title: entry.modelData
             activeFocusOnTab: false
-            implicitWidth: Math.ceil(label.implicitWidth) + 48
+            implicitWidth: Math.ceil(label.implicitWidth + hint.implicitWidth) + 48
             width: ListView.view.width
             Component.onCompleted: root.widestEntry = Math.max(root.widestEntry, entry.implicitWidth)
             implicitHeight: 26
@@ -79,6 +81,16 @@ T.Popup {
                     anchors.verticalCenter: parent.verticalCenter
                     text: entry.modelData
                     size: 12
+                }
+
+                KitText {
+                    id: hint
+                    anchors.right: parent.right
+                    anchors.rightMargin: 10
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: root.hints[entry.index] ?? ""
+                    size: 12
+                    color: entry.ListView.isCurrentItem ? Theme.onAccent : Theme.textTertiary
                 }
             }
         }

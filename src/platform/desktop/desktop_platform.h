@@ -7,6 +7,7 @@
 #include "platform/desktop/qt_open_panel.h"
 #include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/qt_status_item.h"
+#include "platform/desktop/xdg_login_item.h"
 #include "platform/desktop/xdg_workspace.h"
 #include "platform/linux/linux_platform.h"
 #include "platform/platform.h"
@@ -26,6 +27,7 @@ class DesktopPlatform {
 
   /// Refers to this object.
   [[nodiscard]] Desktop desktop();
+  [[nodiscard]] LoginItem& loginItem() { return _loginItem; }
 
  private:
   LinuxPlatform _system;
@@ -36,6 +38,7 @@ class DesktopPlatform {
   QtPasteboard _pasteboard;
   QtOpenPanel _openPanel;
   QtStatusItem _statusItem;
+  XdgLoginItem _loginItem;
   AppcastUpdater _updater;
 };
 

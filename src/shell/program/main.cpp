@@ -56,8 +56,8 @@ int main(int argumentCount, char** arguments) {
 
   const klarvik::Desktop desktop = platform->desktop();
   klarvik::SharedState shared(desktop);
-  klarvik::KlarvikApp app(desktop, shared);
-  if (!app.openMainWindow()) {
+  klarvik::KlarvikApp app(desktop, shared, platform->loginItem());
+  if (!app.openWindow(klarvik::mainWindowId)) {
     return refuse("Klarvik could not draw its window.");
   }
   const int status = QApplication::exec();

@@ -1,0 +1,152 @@
+#include "platform/desktop/xdg_login_item.h"
+
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <fstream>
+#include <utility>
+
+#include "platform/linux/atomic_write.h"
+#include "platform/unicode_text.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::string_view group = "[Desktop Entry]";
+// More than any entry needs.
+constexpr std::streamsize longestEntry = 64 * 1024;
+constexpr ::mode_t readableByAll = 0644;
+
+/// The characters of an argument between double quotes that need a backslash in front.
+constexpr std::string_view quotedSpecials = "\"`$\\";
+
+std::string asQuotedArgument(const std::string& text) {
+  std::string quoted = "\"";
+  for (const char character : text) {
+    if (quotedSpecials.find(character) != std::string_view::npos) quoted += '\\';
+    if (character == '%') quoted += '%';
+    quoted += character;
+  }
+  return quoted + '"';
+}
+
+std::string asEntryText(const std::string& text) {
+  std::string escaped;
+  for (const char character : text) {
+    switch (character) {
+      case '\\':
+        escaped += "\\\\";
+        break;
+      case '\n':
+        escaped += "\\n";
+        break;
+      case '\r':
+        escaped += "\\r";
+        break;
+      case '\t':
+        escaped += "\\t";
+        break;
+      default:
+        escaped += character;
+    }
+  }
+  return escaped;
+}
+
+std::string autostartText(const std::string& command) {
+  return std::string(group) +
+         "\n"
+         "Type=Application\n"
+         "Name=Klarvik\n"
+         "Comment=Sees what fills the disk, and takes the space back\n"
+         "Exec=" +
+         command +
+         "\n"
+         "Terminal=false\n"
+         "X-GNOME-Autostart-enabled=true\n";
+}
+
+std::string contentOf(const Path& file) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) return {};
+  std::string content(longestEntry, '\0');
+  std::ifstream stream(file, std::ios::binary);
+  stream.read(content.data(), longestEntry);
+  content.resize(static_cast<std::size_t>(stream.gcount()));
+  return content;
+}
+
+std::string_view trimmed(std::string_view text) {
+  constexpr std::string_view blanks = " \t\r";
+  const auto first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+/// The value of a key in the entry's own group.
+std::optional<std::string> valueIn(const std::string& entry, std::string_view key) {
+  bool isInGroup = false;
+  std::string_view rest = entry;
+  while (!rest.empty()) {
+    const auto end = rest.find('\n');
+    const std::string_view line = trimmed(rest.substr(0, end));
+    rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 1);
+    if (line.starts_with('[')) isInGroup = line == group;
+    const auto equals = line.find('=');
+    if (!isInGroup || equals == std::string_view::npos) continue;
+    if (trimmed(line.substr(0, equals)) == key) {
+      return std::string(trimmed(line.substr(equals + 1)));
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> execValue(const Path& program) {
+  const std::string& path = program.native();
+  const bool canBeNamed =
+      program.is_absolute() && isUtf8(path) && path.find('=') == std::string::npos;
+  return canBeNamed ? std::optional(asEntryText(asQuotedArgument(path))) : std::nullopt;
+}
+
+XdgLoginItem::XdgLoginItem(Places places)
+    : _places(std::move(places)), _command(execValue(_places.program)) {}
+
+XdgLoginItem::Places XdgLoginItem::placesOfThisProgram(const Path& configuration) {
+  const QString program = QCoreApplication::applicationFilePath();
+  const QString entry = QGuiApplication::desktopFileName() + ".desktop";
+  return {Path(program.toStdString()), configuration, entry.toStdString()};
+}
+
+LoginItem::Status XdgLoginItem::status() const {
+  if (!_command || !isInstalled()) return Status::notFound;
+  const std::string entry = contentOf(autostartEntry());
+  const bool starts = valueIn(entry, "Exec") == _command && valueIn(entry, "Hidden") != "true" &&
+                      valueIn(entry, "X-GNOME-Autostart-enabled") != "false";
+  return starts ? Status::enabled : Status::notRegistered;
+}
+
+bool XdgLoginItem::registerProgram() {
+  if (!_command || !isInstalled()) return false;
+  std::error_code error;
+  std::filesystem::create_directories(autostartEntry().parent_path(), error);
+  return writeAtomically(autostartEntry(), autostartText(*_command), readableByAll);
+}
+
+bool XdgLoginItem::unregisterProgram() {
+  return ::unlink(autostartEntry().c_str()) == 0;
+}
+
+bool XdgLoginItem::isInstalled() const {
+  const Path prefix = _places.program.parent_path().parent_path();
+  std::error_code error;
+  return std::filesystem::exists(prefix / "share/applications" / _places.entry, error);
+}
+
+Path XdgLoginItem::autostartEntry() const {
+  return _places.configuration / "autostart" / _places.entry;
+}
+
+}  // namespace klarvik

@@ -1,0 +1,83 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.Onboarding
+
+/// The first run: a page at a time, and below it where one is and the way on.
+FocusScope {
+    id: root
+
+    required property OnboardingModel model
+
+    Accessible.role: Accessible.Dialog
+    Accessible.name: "Klarvik"
+    Keys.onReturnPressed: root.model.proceed()
+    Keys.onEnterPressed: root.model.proceed()
+
+    // Pages that are through leave to the left, and the next one comes from the right.
+    component Page: Item {
+        id: page
+
+        required property int index
+        readonly property int offset: index - root.model.step
+
+        width: root.width
+        height: root.height - footer.height
+        x: Kit.reduceMotion ? 0 : 36 * Math.sign(page.offset)
+        opacity: page.offset === 0 ? 1 : 0
+        visible: opacity > 0
+        enabled: page.offset === 0
+
+        Behavior on x {
+            enabled: !Kit.reduceMotion
+            NumberAnimation {
+                duration: 280
+                easing.type: Easing.OutCubic
+            }
+        }
+
+        Behavior on opacity {
+            enabled: !Kit.reduceMotion
+            NumberAnimation {
+                duration: 220
+                easing.type: Easing.OutQuad
+            }
+        }
+    }
+
+    Page {
+        index: 0
+
+        WelcomePage {
+            anchors.fill: parent
+        }
+    }
+
+    Page {
+        index: 1
+
+        PermissionPage {
+            anchors.fill: parent
+            model: root.model
+        }
+    }
+
+    Page {
+        index: 2
+
+        ReadyPage {
+            anchors.fill: parent
+            model: root.model
+        }
+    }
+
+    OnboardingFooter {
+        id: footer
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        model: root.model
+    }
+}

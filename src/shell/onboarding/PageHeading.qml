@@ -1,0 +1,50 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+
+/// What every page of the first run begins with: a picture, a title and what it is about.
+Column {
+    id: root
+
+    required property string title
+    required property string text
+    default property alias art: slot.data
+
+    spacing: 0
+
+    Item {
+        id: slot
+
+        width: root.width
+        height: 96
+    }
+
+    Item {
+        width: 1
+        height: 22
+    }
+
+    KitText {
+        width: root.width
+        text: root.title
+        size: 22
+        weight: Font.DemiBold
+        horizontalAlignment: Text.AlignHCenter
+        Accessible.role: Accessible.Heading
+        Accessible.name: root.title
+    }
+
+    Item {
+        width: 1
+        height: 10
+    }
+
+    PageText {
+        width: root.width
+        text: root.text
+        size: 13.5
+        color: Theme.textSecondary
+        horizontalAlignment: Text.AlignHCenter
+    }
+}

@@ -1,0 +1,12 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+
+/// Text of the first run that takes as many lines as it needs.
+KitText {
+    wrapMode: Text.Wrap
+    maximumLineCount: 8
+    elide: Text.ElideNone
+    lineHeight: 1.25
+}

@@ -1,0 +1,99 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.Onboarding
+
+/// What the first scan will do, and how things stand before it.
+Item {
+    id: root
+
+    required property OnboardingModel model
+
+    component SummaryRow: Item {
+        id: row
+
+        required property string label
+        required property string value
+        property color color: Theme.textPrimary
+
+        width: parent?.width ?? 0
+        implicitHeight: 38
+        Accessible.role: Accessible.StaticText
+        Accessible.name: row.label + ": " + row.value
+
+        KitText {
+            anchors.left: parent.left
+            anchors.leftMargin: 14
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.label
+            color: Theme.textSecondary
+        }
+
+        KitText {
+            anchors.right: parent.right
+            anchors.rightMargin: 14
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.value
+            weight: Font.Medium
+            color: row.color
+        }
+    }
+
+    Column {
+        anchors.fill: parent
+        anchors.topMargin: 44
+        anchors.leftMargin: 56
+        anchors.rightMargin: 56
+        spacing: 26
+
+        PageHeading {
+            width: parent.width
+            title: qsTr("Ready when you are")
+            text: qsTr("The first scan takes about a minute and deletes nothing. You will see everything it found, grouped and labelled, before any button becomes destructive.")
+
+            ArtTile {
+                anchors.centerIn: parent
+                symbol: "sparkles"
+            }
+        }
+
+        Rectangle {
+            width: parent.width
+            height: summary.height
+            radius: 8
+            color: Theme.white(0.05)
+            border.width: 1
+            border.color: Theme.hairlineStrong
+
+            Column {
+                id: summary
+
+                width: parent.width
+
+                SummaryRow {
+                    label: qsTr("Full Disk Access")
+                    value: root.model.isGranted ? qsTr("Granted") : qsTr("Not granted")
+                    color: root.model.isGranted ? Theme.safe : Theme.review
+                }
+
+                Rectangle {
+                    width: parent.width
+                    height: 1
+                    color: Theme.hairline
+                }
+
+                SummaryRow {
+                    label: qsTr("Removals go to")
+                    value: qsTr("Trash")
+                }
+            }
+        }
+
+        CheckRow {
+            title: qsTr("Keep Klarvik in the menu bar")
+            isOn: root.model.showMenuBar.isOn
+            onToggled: root.model.showMenuBar.toggle()
+        }
+    }
+}

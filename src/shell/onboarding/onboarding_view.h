@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <QString>
+
+#include "panes/kit/stored_switch.h"
+#include "platform/platform.h"
+#include "state/permissions_manager.h"
+
+namespace klarvik {
+
+/// The first run: three pages, and no way back. Nothing of it is kept before its end. Main thread
+/// only; everything handed in must outlive it.
+class OnboardingView : public QObject {
+  Q_OBJECT
+  QML_NAMED_ELEMENT(OnboardingModel)
+  QML_UNCREATABLE("The program makes it.")
+  Q_PROPERTY(int step READ step NOTIFY stepChanged)
+  Q_PROPERTY(bool isLastStep READ isLastStep NOTIFY stepChanged)
+  Q_PROPERTY(bool isGranted READ isGranted NOTIFY isGrantedChanged)
+  Q_PROPERTY(QString buttonTitle READ buttonTitle NOTIFY buttonTitleChanged)
+  Q_PROPERTY(klarvik::StoredSwitch* showMenuBar READ showMenuBar CONSTANT)
+
+ public:
+  static constexpr int steps = 3;
+
+  OnboardingView(PermissionsManager& permissions, const Desktop& desktop,
+                 QObject* parent = nullptr);
+
+  [[nodiscard]] int step() const { return _step; }
+  [[nodiscard]] bool isLastStep() const { return _step == steps - 1; }
+  [[nodiscard]] bool isGranted() const { return _permissions.hasFullDiskAccess(); }
+  [[nodiscard]] QString buttonTitle() const;
+  [[nodiscard]] StoredSwitch* showMenuBar() { return &_showMenuBar; }
+
+  /// The main button.
+  Q_INVOKABLE void proceed();
+  /// Ends the first run without a scan; on the last page only.
+  Q_INVOKABLE void later();
+  Q_INVOKABLE void openSettings();
+  Q_INVOKABLE void reopen();
+
+ signals:
+  void stepChanged();
+  void isGrantedChanged();
+  void buttonTitleChanged();
+  /// The first run is over, once; `scans` says whether the user wants to scan now.
+  void finished(bool scans);
+
+ private:
+  void goOn();
+  void finish(bool scans);
+
+  PermissionsManager& _permissions;
+  UserDefaults& _defaults;
+  int _step = 0;
+  bool _isFinished = false;
+  StoredSwitch _showMenuBar;
+};
+
+}  // namespace klarvik

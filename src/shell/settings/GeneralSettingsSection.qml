@@ -1,0 +1,153 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.Settings
+
+/// The General page of the settings.
+ToolScrollView {
+    id: root
+
+    required property GeneralSettingsModel model
+
+    spacing: 16
+    topMargin: 16
+    bottomMargin: 16
+
+    SettingsRow {
+        width: parent.width
+        label: qsTr("Startup")
+
+        SettingsCheckbox {
+            title: qsTr("Launch at login")
+            isOn: root.model.launchAtLogin.isOn
+            onToggled: root.model.launchAtLogin.toggle()
+        }
+
+        SettingsNote {
+            visible: root.model.launchAtLogin.isUnavailable
+            text: qsTr("Unavailable until Klarvik is signed and in /Applications.")
+        }
+
+        SettingsCheckbox {
+            title: qsTr("Show in the menu bar")
+            isOn: root.model.showMenuBar.isOn
+            onToggled: root.model.showMenuBar.toggle()
+        }
+    }
+
+    SettingsRow {
+        width: parent.width
+        label: qsTr("Deleting")
+
+        SettingsCheckbox {
+            title: qsTr("Move to Trash instead of deleting")
+            isOn: root.model.useTrash.isOn
+            onToggled: root.model.useTrash.toggle()
+        }
+
+        SettingsCheckbox {
+            title: qsTr("Ask before removing Review items")
+            isOn: root.model.confirmDelete.isOn
+            onToggled: root.model.confirmDelete.toggle()
+        }
+
+        SettingsNote {
+            text: qsTr("System folders, other user accounts and your document folders are always refused, regardless of these settings.")
+        }
+    }
+
+    SettingsRow {
+        width: parent.width
+        label: qsTr("Full Disk Access")
+
+        Row {
+            height: 20
+            spacing: 14
+
+            KitText {
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.model.isGranted ? qsTr("Granted") : qsTr("Not granted")
+                color: root.model.isGranted ? Theme.safe : Theme.review
+            }
+
+            TextButton {
+                anchors.verticalCenter: parent.verticalCenter
+                title: qsTr("Open System Settings")
+                onAction: root.model.openSystemSettings()
+            }
+
+            TextButton {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: !root.model.isGranted
+                title: qsTr("Reopen Klarvik")
+                onAction: root.model.reopen()
+            }
+        }
+    }
+
+    SettingsRow {
+        width: parent.width
+        label: qsTr("Scanning")
+
+        SettingsCheckbox {
+            title: qsTr("Measure every tool when Klarvik opens")
+            isOn: root.model.backgroundScanOnLaunch.isOn
+            onToggled: root.model.backgroundScanOnLaunch.toggle()
+        }
+
+        SettingsCheckbox {
+            title: qsTr("Include developer caches (Xcode, npm, Docker)")
+            isOn: root.model.includeDeveloperJunk.isOn
+            onToggled: root.model.includeDeveloperJunk.toggle()
+        }
+
+        SettingsNote {
+            text: qsTr("Turn this off if you do not write software — those categories will stop appearing.")
+        }
+    }
+
+    SettingsRow {
+        width: parent.width
+        label: qsTr("About")
+
+        KitText {
+            height: 20
+            text: root.model.versionLine
+        }
+
+        KitText {
+            text: root.model.systemLine
+            size: 11
+            color: Theme.textTertiary
+        }
+
+        Row {
+            visible: root.model.hasWebsite || root.model.hasSupport
+            spacing: 14
+
+            TextButton {
+                visible: root.model.hasWebsite
+                title: qsTr("Privacy")
+                onAction: root.model.openPrivacy()
+            }
+
+            TextButton {
+                visible: root.model.hasWebsite
+                title: qsTr("Terms")
+                onAction: root.model.openTerms()
+            }
+
+            TextButton {
+                visible: root.model.hasSupport
+                title: qsTr("Support")
+                onAction: root.model.openSupport()
+            }
+        }
+
+        TextButton {
+            title: qsTr("Show onboarding again")
+            onAction: root.model.showOnboardingAgain()
+        }
+    }
+}

@@ -1,0 +1,71 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.Settings
+
+/// A strip of tabs, and the page of the selected one.
+Item {
+    id: root
+
+    required property SettingsModel model
+
+    Row {
+        id: strip
+
+        anchors.top: parent.top
+        anchors.topMargin: 10
+        anchors.horizontalCenter: parent.horizontalCenter
+        height: 28
+        spacing: 4
+        Accessible.role: Accessible.PageTabList
+        Accessible.name: qsTr("Settings")
+
+        Repeater {
+            model: root.model.tabs
+
+            SettingsTabButton {
+                required property int index
+                required property string modelData
+
+                title: modelData
+                isSelected: index === root.model.tab
+                onAction: root.model.tab = index
+            }
+        }
+    }
+
+    Rectangle {
+        id: divider
+
+        anchors.top: strip.bottom
+        anchors.topMargin: 10
+        anchors.left: parent.left
+        anchors.right: parent.right
+        height: 1
+        color: Theme.hairlineStrong
+    }
+
+    Loader {
+        id: page
+
+        anchors.top: divider.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+
+        function show() {
+            page.setSource(root.model.page, { model: root.model.pageModel });
+        }
+
+        Component.onCompleted: page.show()
+
+        Connections {
+            target: root.model
+
+            function onTabChanged() {
+                page.show();
+            }
+        }
+    }
+}

@@ -1,0 +1,66 @@
+#include "shell/settings/general_settings_section.h"
+
+#include <QSysInfo>
+
+namespace klarvik {
+
+GeneralSettingsSection::GeneralSettingsSection(PermissionsManager& permissions,
+                                               LoginItem& loginItem, const Desktop& desktop,
+                                               QObject* parent)
+    : QObject(parent),
+      _permissions(permissions),
+      _desktop(desktop),
+      _launchAtLogin(loginItem),
+      _showMenuBar(desktop.defaults, desktop.notifications, "showMenuBar"),
+      _useTrash(desktop.defaults, desktop.notifications, "useTrash"),
+      _confirmDelete(desktop.defaults, desktop.notifications, "confirmDelete"),
+      _backgroundScanOnLaunch(desktop.defaults, desktop.notifications, "backgroundScanOnLaunch"),
+      _includeDeveloperJunk(desktop.defaults, desktop.notifications, "includeDeveloperJunk") {
+  connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
+          &GeneralSettingsSection::isGrantedChanged);
+}
+
+QString GeneralSettingsSection::versionLine() const {
+  return QStringLiteral("Klarvik %1 (%2)")
+      .arg(QString::fromStdString(appVersion(_desktop.info)),
+           QString::fromStdString(buildNumber(_desktop.info)));
+}
+
+QString GeneralSettingsSection::systemLine() const {
+  return QSysInfo::prettyProductName();
+}
+
+bool GeneralSettingsSection::hasWebsite() const {
+  return !websitePage(_desktop.info, "").empty();
+}
+
+bool GeneralSettingsSection::hasSupport() const {
+  return !supportLink(_desktop.info).empty();
+}
+
+void GeneralSettingsSection::openSystemSettings() {
+  _permissions.openFullDiskAccessSettings();
+}
+
+void GeneralSettingsSection::reopen() {
+  _permissions.relaunch();
+}
+
+void GeneralSettingsSection::showOnboardingAgain() {
+  _desktop.defaults.remove("onboarding_complete");
+  _desktop.defaults.remove("fda_prompt_shown");
+}
+
+void GeneralSettingsSection::openPrivacy() {
+  _desktop.workspace.openUrl(websitePage(_desktop.info, "privacy"));
+}
+
+void GeneralSettingsSection::openTerms() {
+  _desktop.workspace.openUrl(websitePage(_desktop.info, "terms"));
+}
+
+void GeneralSettingsSection::openSupport() {
+  _desktop.workspace.openUrl(supportLink(_desktop.info));
+}
+
+}  // namespace klarvik

@@ -1,0 +1,100 @@
+#include "shell/windows.h"
+
+#include <QQmlComponent>
+#include <QScreen>
+#include <algorithm>
+#include <utility>
+
+#include "panes/kit/kit.h"
+
+void qml_register_types_Klarvik_SmartScan();
+void qml_register_types_Klarvik_Storage();
+void qml_register_types_Klarvik_Duplicates();
+void qml_register_types_Klarvik_LargeFiles();
+void qml_register_types_Klarvik_SystemData();
+void qml_register_types_Klarvik_Uninstaller();
+void qml_register_types_Klarvik_Privacy();
+void qml_register_types_Klarvik_Onboarding();
+void qml_register_types_Klarvik_Settings();
+void qml_register_types_Klarvik_Shell();
+
+namespace klarvik {
+
+namespace {
+
+void registerModules() {
+  qml_register_types_Klarvik_SmartScan();
+  qml_register_types_Klarvik_Storage();
+  qml_register_types_Klarvik_Duplicates();
+  qml_register_types_Klarvik_LargeFiles();
+  qml_register_types_Klarvik_SystemData();
+  qml_register_types_Klarvik_Uninstaller();
+  qml_register_types_Klarvik_Privacy();
+  qml_register_types_Klarvik_Onboarding();
+  qml_register_types_Klarvik_Settings();
+  qml_register_types_Klarvik_Shell();
+}
+
+/// A place of that size around `middle`, on the screen as far as it fits there.
+QRect placeAround(const QPoint& middle, const QSize& size, const QScreen* screen) {
+  QRect place(QPoint(), size);
+  place.moveCenter(middle);
+  if (screen == nullptr) return place;
+  const QRect room = screen->availableGeometry();
+  place.moveRight(std::min(place.right(), room.right()));
+  place.moveBottom(std::min(place.bottom(), room.bottom()));
+  place.moveLeft(std::max(place.left(), room.left()));
+  place.moveTop(std::max(place.top(), room.top()));
+  return place;
+}
+
+}  // namespace
+
+void fit(QWindow& window, const WindowFrame& frame) {
+  const QPoint middle = window.geometry().center();
+  window.setMaximumSize(frame.maximum);
+  window.setMinimumSize(frame.minimum);
+  if (window.isVisible()) {
+    window.setGeometry(placeAround(middle, frame.initial, window.screen()));
+  } else {
+    window.resize(frame.initial);
+  }
+}
+
+void bringToFront(QWindow& window) {
+  window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
+  window.setVisible(true);
+  window.raise();
+  window.requestActivate();
+}
+
+Windows::Windows(const Desktop& desktop) {
+  registerModules();
+  installKit(_engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});
+}
+
+QQuickWindow* Windows::make(const QString& id, const QUrl& view, const QVariantMap& properties,
+                            const WindowFrame& frame) {
+  QQmlComponent component(&_engine, view);
+  std::unique_ptr<QObject> made(component.createWithInitialProperties(properties));
+  auto* const window = qobject_cast<QQuickWindow*>(made.get());
+  if (window == nullptr) {
+    qWarning().noquote() << component.errorString();
+    return nullptr;
+  }
+  made.release();
+  fit(*window, frame);
+  _windows[id].reset(window);
+  return window;
+}
+
+QQuickWindow* Windows::find(const QString& id) const {
+  const auto found = _windows.find(id);
+  return found != _windows.end() ? found->second.get() : nullptr;
+}
+
+void Windows::discard(const QString& id) {
+  _windows.erase(id);
+}
+
+}  // namespace klarvik
