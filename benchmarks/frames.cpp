@@ -17,6 +17,7 @@
 #include "remembered_desktop.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
+#include "support/fake_login_item.h"
 
 namespace {
 
@@ -127,9 +128,11 @@ int main(int argumentCount, char** arguments) {
 
   RememberedDesktop around;
   furnish(around.files, itemCount);
+  around.defaults.set("onboarding_complete", true);
   around.defaults.set("backgroundScanOnLaunch", false);
   SharedState shared(around.desktop);
-  KlarvikApp app(around.desktop, shared);
+  FakeLoginItem loginItem;
+  KlarvikApp app(around.desktop, shared, loginItem);
   if (!app.openWindow(mainWindowId)) {
     return 1;
   }

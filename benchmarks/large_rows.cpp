@@ -20,6 +20,7 @@
 #include "remembered_desktop.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
+#include "support/fake_login_item.h"
 
 namespace {
 
@@ -115,7 +116,8 @@ std::pair<QQuickItem*, Model*> drawnFrom(QQuickItem& item) {
 
 bool measureWindow(RememberedDesktop& around) {
   SharedState shared(around.desktop);
-  KlarvikApp app(around.desktop, shared);
+  FakeLoginItem loginItem;
+  KlarvikApp app(around.desktop, shared, loginItem);
   if (!app.openWindow(mainWindowId)) return false;
   shared.navigator().setSection(Section::largeFiles);
   QQuickWindow& window = *app.window(mainWindowId);
@@ -159,6 +161,7 @@ int main(int argumentCount, char** arguments) {
   qputenv("QT_QUICK_BACKEND", "software");
   const QGuiApplication application(argumentCount, arguments);
   RememberedDesktop around;
+  around.defaults.set("onboarding_complete", true);
   around.defaults.set("backgroundScanOnLaunch", false);
   furnish(around.files);
   measureModel(around);

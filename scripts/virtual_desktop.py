@@ -148,6 +148,10 @@ class SampleHome:
         self._preferences.parent.mkdir(parents=True, exist_ok=True)
         self._preferences.write_text(json.dumps({**self.preferences(), **values}), encoding="utf-8")
 
+    def forget_preferences(self):
+        """The home is then one that the program has never run in."""
+        self._preferences.unlink()
+
     def scans(self):
         return self._history("scan_history")
 

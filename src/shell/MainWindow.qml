@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Window
 import Klarvik.Kit
-import Klarvik.Onboarding
 import Klarvik.Shell
 
 /// The one main window. The first run stands in it until it is through.
@@ -21,19 +20,26 @@ Window {
     }
 
     Loader {
-        anchors.fill: parent
-        active: root.model.shell === null
-        focus: active
-        sourceComponent: OnboardingView {
-            model: root.model.onboarding
-        }
-    }
+        id: content
 
-    Loader {
         anchors.fill: parent
-        active: root.model.shell !== null
-        sourceComponent: AppShell {
-            shell: root.model.shell
+        focus: true
+
+        function show() {
+            if (root.model.shell === null)
+                content.setSource("qrc:/Klarvik/Onboarding/OnboardingView.qml", { model: root.model.onboarding });
+            else
+                content.setSource("AppShell.qml", { shell: root.model.shell });
+        }
+
+        Component.onCompleted: content.show()
+
+        Connections {
+            target: root.model
+
+            function onShellChanged() {
+                content.show();
+            }
         }
     }
 }

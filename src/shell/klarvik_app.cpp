@@ -78,9 +78,9 @@ bool KlarvikApp::openWindow(const QString& id) {
 
 QQuickWindow* KlarvikApp::makeMainWindow() {
   if (_onboardingComplete) makeShell();
-  QQuickWindow* const window = _windows.make(
-      mainWindowId, QUrl("qrc:/Klarvik/Shell/MainWindow.qml"),
-      {{"model", QVariant::fromValue(&_mainWindow)}}, _mainWindow.frame());
+  QQuickWindow* const window =
+      _windows.make(mainWindowId, QUrl("qrc:/Klarvik/Shell/MainWindow.qml"),
+                    {{"model", QVariant::fromValue(&_mainWindow)}}, _mainWindow.frame());
   if (window != nullptr) QMetaObject::invokeMethod(this, &KlarvikApp::launch, Qt::QueuedConnection);
   return window;
 }
@@ -88,9 +88,9 @@ QQuickWindow* KlarvikApp::makeMainWindow() {
 /// Made anew each time it is opened, so that it begins on its first tab and with what holds then.
 QQuickWindow* KlarvikApp::makeSettingsWindow() {
   _settings = std::make_unique<SettingsView>(settingsTabs());
-  QQuickWindow* const window = _windows.make(
-      settingsWindowId, QUrl("qrc:/Klarvik/Settings/SettingsWindow.qml"),
-      {{"model", QVariant::fromValue(_settings.get())}}, SettingsView::frame());
+  QQuickWindow* const window =
+      _windows.make(settingsWindowId, QUrl("qrc:/Klarvik/Settings/SettingsWindow.qml"),
+                    {{"model", QVariant::fromValue(_settings.get())}}, SettingsView::frame());
   if (window != nullptr) {
     connect(window, &QWindow::visibleChanged, this, &KlarvikApp::discardClosedSettings,
             Qt::QueuedConnection);

@@ -156,10 +156,9 @@ TEST_F(GeneralSettings, LinksAreThereOnlyWhereTheBuildHasAddresses) {
   page.openPrivacy();
   page.openTerms();
   page.openSupport();
-  EXPECT_EQ(desk.workspace.openedUrls,
-            (std::vector<std::string>{"https://klarvik.example/privacy",
-                                      "https://klarvik.example/terms",
-                                      "mailto:help@klarvik.example"}));
+  EXPECT_EQ(desk.workspace.openedUrls, (std::vector<std::string>{"https://klarvik.example/privacy",
+                                                                 "https://klarvik.example/terms",
+                                                                 "mailto:help@klarvik.example"}));
 }
 
 }  // namespace

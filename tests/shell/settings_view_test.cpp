@@ -10,8 +10,8 @@ namespace {
 TEST(SettingsView, BeginsOnItsFirstTabAndShowsThePageOfTheChosenOne) {
   QObject general;
   QObject updates;
-  SettingsView view({{"General", QUrl("qrc:/general"), &general},
-                     {"Updates", QUrl("qrc:/updates"), &updates}});
+  SettingsView view(
+      {{"General", QUrl("qrc:/general"), &general}, {"Updates", QUrl("qrc:/updates"), &updates}});
   const QSignalSpy changes(&view, &SettingsView::tabChanged);
   EXPECT_EQ(view.tabs(), QStringList({"General", "Updates"}));
   EXPECT_EQ(view.tab(), 0);

@@ -51,8 +51,9 @@ TEST_F(OnboardingWindow, AFirstRunShowsItAt520By560WithNoSheetAndNoScan) {
   EXPECT_EQ(window().minimumSize(), QSize(520, 560));
   EXPECT_EQ(window().maximumSize(), QSize(520, 560));
   EXPECT_TRUE(shows("Klarvik finds what the Finder hides"));
-  EXPECT_TRUE(shows("App caches, old iPhone backups, browser leftovers, logs and the residue apps "
-                    "leave behind when you drag them to the Trash."));
+  EXPECT_TRUE(
+      shows("App caches, old iPhone backups, browser leftovers, logs and the residue apps "
+            "leave behind when you drag them to the Trash."));
   EXPECT_TRUE(shows("Nothing leaves your Mac. No account, no telemetry."));
   EXPECT_TRUE(shows("Every item is labelled Safe or Review before anything moves."));
   EXPECT_TRUE(shows("Removals go to the Trash, so anything can be put back."));
@@ -70,8 +71,9 @@ TEST_F(OnboardingWindow, FollowsThePermissionWithoutAnyAction) {
   click("Continue");
   settle();
   EXPECT_TRUE(shows("Give it Full Disk Access"));
-  EXPECT_TRUE(shows("Without this permission macOS hides the caches and backups that take up the "
-                    "most room, and Klarvik reports far less than is really there."));
+  EXPECT_TRUE(
+      shows("Without this permission macOS hides the caches and backups that take up the "
+            "most room, and Klarvik reports far less than is really there."));
   EXPECT_TRUE(shows("Open Privacy & Security → Full Disk Access"));
   EXPECT_TRUE(shows("Find Klarvik in the list and switch it on"));
   EXPECT_TRUE(shows("Come back here, then reopen Klarvik to apply it"));
@@ -102,9 +104,10 @@ TEST_F(OnboardingWindow, FollowsThePermissionWithoutAnyAction) {
 TEST_F(OnboardingWindow, RunFirstScanTurnsItIntoTheShellAndScansAtOnceWhateverTheSettingSays) {
   desk->defaults.set("backgroundScanOnLaunch", false);
   goToTheLastPage();
-  EXPECT_TRUE(shows("The first scan takes about a minute and deletes nothing. You will see "
-                    "everything it found, grouped and labelled, before any button becomes "
-                    "destructive."));
+  EXPECT_TRUE(
+      shows("The first scan takes about a minute and deletes nothing. You will see "
+            "everything it found, grouped and labelled, before any button becomes "
+            "destructive."));
   EXPECT_TRUE(shows("Removals go to"));
   picture("onboarding_ready");
   QQuickWindow* const before = &window();

@@ -164,9 +164,8 @@ TEST_F(SettingsWindow, AboutNamesTheProgramTheSystemAndItsLinks) {
   picture("settings_links");
   click("Terms");
   click("Support");
-  EXPECT_EQ(desk->workspace.openedUrls,
-            (std::vector<std::string>{"https://klarvik.example/terms",
-                                      "mailto:help@klarvik.example"}));
+  EXPECT_EQ(desk->workspace.openedUrls, (std::vector<std::string>{"https://klarvik.example/terms",
+                                                                  "mailto:help@klarvik.example"}));
 }
 
 TEST_F(SettingsWindow, OpenedTwiceIsTheSameWindow) {

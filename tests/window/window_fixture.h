@@ -19,8 +19,8 @@
 
 namespace klarvik {
 
-/// The program's real windows, drawn without a display, over a real disk; used with real events. Any
-/// warning that Qt or a QML file gives fails the test.
+/// The program's real windows, drawn without a display, over a real disk; used with real events.
+/// Any warning that Qt or a QML file gives fails the test.
 class WindowFixture : public ::testing::Test {
  protected:
   void SetUp() override;

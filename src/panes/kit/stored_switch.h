@@ -10,8 +10,8 @@
 namespace klarvik {
 
 /// A boolean preference as a box on the screen: written at once, and followed when anybody else
-/// changes it. A value that cannot be stored leaves it as it was. Main thread only; what it is handed
-/// must outlive it.
+/// changes it. A value that cannot be stored leaves it as it was. Main thread only; what it is
+/// handed must outlive it.
 class StoredSwitch : public QObject {
   Q_OBJECT
   QML_ELEMENT

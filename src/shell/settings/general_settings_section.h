@@ -21,8 +21,7 @@ class GeneralSettingsSection : public QObject {
   Q_PROPERTY(klarvik::StoredSwitch* showMenuBar READ showMenuBar CONSTANT)
   Q_PROPERTY(klarvik::StoredSwitch* useTrash READ useTrash CONSTANT)
   Q_PROPERTY(klarvik::StoredSwitch* confirmDelete READ confirmDelete CONSTANT)
-  Q_PROPERTY(
-      klarvik::StoredSwitch* backgroundScanOnLaunch READ backgroundScanOnLaunch CONSTANT)
+  Q_PROPERTY(klarvik::StoredSwitch* backgroundScanOnLaunch READ backgroundScanOnLaunch CONSTANT)
   Q_PROPERTY(klarvik::StoredSwitch* includeDeveloperJunk READ includeDeveloperJunk CONSTANT)
   Q_PROPERTY(bool isGranted READ isGranted NOTIFY isGrantedChanged)
   Q_PROPERTY(QString versionLine READ versionLine CONSTANT)

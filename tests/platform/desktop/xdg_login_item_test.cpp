@@ -38,15 +38,16 @@ TEST_F(XdgLoginItemTest, IsWrittenForAnInstalledProgramAndRemovedAgain) {
 
   ASSERT_TRUE(loginItem.registerProgram());
   EXPECT_EQ(loginItem.status(), Status::enabled);
-  EXPECT_EQ(entry(), "[Desktop Entry]\n"
-                     "Type=Application\n"
-                     "Name=Klarvik\n"
-                     "Comment=Sees what fills the disk, and takes the space back\n"
-                     "Exec=\"" +
-                         disk.onDisk("/usr/bin/klarvik").native() +
-                         "\"\n"
-                         "Terminal=false\n"
-                         "X-GNOME-Autostart-enabled=true\n");
+  EXPECT_EQ(entry(),
+            "[Desktop Entry]\n"
+            "Type=Application\n"
+            "Name=Klarvik\n"
+            "Comment=Sees what fills the disk, and takes the space back\n"
+            "Exec=\"" +
+                disk.onDisk("/usr/bin/klarvik").native() +
+                "\"\n"
+                "Terminal=false\n"
+                "X-GNOME-Autostart-enabled=true\n");
 
   ASSERT_TRUE(loginItem.unregisterProgram());
   EXPECT_FALSE(disk.holds(place));
