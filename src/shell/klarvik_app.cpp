@@ -6,6 +6,8 @@ namespace klarvik {
 
 namespace {
 
+const WindowFrame settingsFrame = WindowFrame::fixed({600, 420});
+
 /// A pane as the window shows it, with what it starts and finishes by itself, where it does.
 template <typename Pane>
 LandedPane landed(Section section, const QString& view, Pane& pane) {
@@ -90,7 +92,7 @@ QQuickWindow* KlarvikApp::makeSettingsWindow() {
   _settings = std::make_unique<SettingsView>(settingsTabs());
   QQuickWindow* const window =
       _windows.make(settingsWindowId, QUrl("qrc:/Klarvik/Settings/SettingsWindow.qml"),
-                    {{"model", QVariant::fromValue(_settings.get())}}, SettingsView::frame());
+                    {{"model", QVariant::fromValue(_settings.get())}}, settingsFrame);
   if (window != nullptr) {
     connect(window, &QWindow::visibleChanged, this, &KlarvikApp::discardClosedSettings,
             Qt::QueuedConnection);

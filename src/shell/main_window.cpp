@@ -5,7 +5,7 @@ namespace klarvik {
 namespace {
 
 const WindowFrame onboardingFrame = WindowFrame::fixed({520, 560});
-const WindowFrame shellFrame{{920, 640}, {1080, 720}, {QWINDOWSIZE_MAX, QWINDOWSIZE_MAX}};
+const WindowFrame shellFrame{{920, 640}, {1080, 720}, WindowFrame::unbounded};
 
 }  // namespace
 

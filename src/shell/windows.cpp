@@ -83,6 +83,7 @@ QQuickWindow* Windows::make(const QString& id, const QUrl& view, const QVariantM
     return nullptr;
   }
   made.release();
+  window->setObjectName(id);
   fit(*window, frame);
   _windows[id].reset(window);
   return window;

@@ -22,6 +22,8 @@ struct WindowFrame {
   QSize initial;
   QSize maximum;
 
+  /// The largest size that a window can be told of.
+  static constexpr QSize unbounded{(1 << 24) - 1, (1 << 24) - 1};
   /// Of a window that cannot be resized.
   [[nodiscard]] static WindowFrame fixed(const QSize& size) { return {size, size, size}; }
 };
@@ -40,8 +42,8 @@ class Windows {
   /// What draws the windows, with every module of the program in it.
   [[nodiscard]] QQmlEngine& engine() { return _engine; }
 
-  /// Makes a window; it is not shown yet. Whatever stands in `properties` must outlive it. Nothing
-  /// when it cannot be drawn.
+  /// Makes a window, with its identifier as its object name; it is not shown yet. Whatever stands
+  /// in `properties` must outlive it. Nothing when it cannot be drawn.
   QQuickWindow* make(const QString& id, const QUrl& view, const QVariantMap& properties,
                      const WindowFrame& frame);
   /// Nothing when it has not been made, or is gone.

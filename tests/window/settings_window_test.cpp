@@ -12,7 +12,13 @@ class SettingsWindow : public EmptyHomeWindowFixture {
   void openSettings() {
     openWindow();
     press(Qt::Key_Comma, Qt::ControlModifier);
-    lookAt(settingsWindowId);
+    lookAtSettings();
+  }
+  void lookAtSettings() {
+    lookAt(app->window(settingsWindowId));
+    ASSERT_NE(app->window(settingsWindowId), nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
+    settle();
   }
   [[nodiscard]] bool isOn(const QString& box) const {
     const QQuickItem* item = find(box);
@@ -28,7 +34,7 @@ class SettingsWindow : public EmptyHomeWindowFixture {
 TEST_F(SettingsWindow, OpensFromTheSidebarAndHoldsEveryRow) {
   openWindow();
   click("Settings");
-  lookAt(settingsWindowId);
+  lookAtSettings();
   EXPECT_EQ(window().title(), "Settings");
   EXPECT_EQ(window().size(), QSize(600, 420));
   EXPECT_EQ(window().minimumSize(), QSize(600, 420));
@@ -115,9 +121,10 @@ TEST_F(SettingsWindow, LaunchAtLoginIsReadWhenTheWindowIsOpened) {
   settle();
   EXPECT_FALSE(isOn("Launch at login"));
   press(Qt::Key_Escape);
+  lookAt(nullptr);
   ASSERT_TRUE(turnUntil([this] { return app->window(settingsWindowId) == nullptr; }));
   ASSERT_TRUE(app->openWindow(settingsWindowId));
-  lookAt(settingsWindowId);
+  lookAtSettings();
   EXPECT_TRUE(isOn("Launch at login"));
 }
 
@@ -146,7 +153,7 @@ TEST_F(SettingsWindow, ShowOnboardingAgainLeavesTheSessionAsItIsAndTheNextStartS
   settle();
   EXPECT_FALSE(desk->defaults.object("onboarding_complete"));
   EXPECT_FALSE(desk->defaults.object("fda_prompt_shown"));
-  lookAt(mainWindowId);
+  lookAt(nullptr);
   EXPECT_TRUE(shows("Smart Scan"));
   closeWindow();
   openWindow();
@@ -189,7 +196,7 @@ TEST_F(SettingsWindow, TheSameMainWindowComesBackWithItsPanesAsTheyWere) {
   settle();
   EXPECT_FALSE(window().isVisible());
   ASSERT_TRUE(app->openWindow(mainWindowId));
-  lookAt(mainWindowId);
+  lookAt(nullptr);
   EXPECT_EQ(&window(), before);
   EXPECT_EQ(shared->navigator().section(), Section::privacy);
 }

@@ -99,14 +99,8 @@ void WindowFixture::openWindow() {
 void WindowFixture::closeWindow() {
   desk->commandGate.open();
   desk->trashGate.open();
+  lookAt(nullptr);
   app.reset();
-}
-
-void WindowFixture::lookAt(const QString& id) {
-  _windowId = id;
-  ASSERT_NE(app->window(id), nullptr) << id.toStdString() << " has not been opened";
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window()));
-  settle();
 }
 
 bool WindowFixture::turnUntil(const std::function<bool()>& reached) {

@@ -30,8 +30,6 @@ class WindowFixture : public ::testing::Test {
   /// a test changes that before this.
   void openWindow();
   void closeWindow();
-  /// What is said below of the window holds for the one of that identifier from now on.
-  void lookAt(const QString& id);
 
   /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
   [[nodiscard]] bool turnUntil(const std::function<bool()>& reached);

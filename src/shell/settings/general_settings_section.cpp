@@ -2,6 +2,8 @@
 
 #include <QSysInfo>
 
+#include "core/junk_model.h"
+
 namespace klarvik {
 
 GeneralSettingsSection::GeneralSettingsSection(PermissionsManager& permissions,
