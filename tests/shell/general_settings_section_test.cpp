@@ -63,10 +63,10 @@ TEST_F(GeneralSettings, EveryBoxWritesItsOwnKeyAtOnceAndNoOther) {
 
 TEST_F(GeneralSettings, BoxesFollowWhatIsWrittenByHandWhileTheProgramRuns) {
   desk.defaults.set("useTrash", false);
-  desk.notifications.post("klarvik.defaultsChanged");
+  desk.notifications.post(defaultsChangedNotification);
   EXPECT_FALSE(page.useTrash()->isOn());
   desk.defaults.set("useTrash", std::int64_t{0});
-  desk.notifications.post("klarvik.defaultsChanged");
+  desk.notifications.post(defaultsChangedNotification);
   EXPECT_TRUE(page.useTrash()->isOn());
 }
 

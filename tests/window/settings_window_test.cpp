@@ -26,7 +26,7 @@ class SettingsWindow : public EmptyHomeWindowFixture {
   }
   void changeByHand(const std::string& key, const DefaultsValue& value) {
     desk->defaults.set(key, value);
-    desk->notifications.post("klarvik.defaultsChanged");
+    desk->notifications.post(defaultsChangedNotification);
     settle();
   }
 };

@@ -4,12 +4,6 @@
 
 namespace klarvik {
 
-namespace {
-
-constexpr const char* defaultsChangedNotification = "klarvik.defaultsChanged";
-
-}  // namespace
-
 StoredSwitch::StoredSwitch(UserDefaults& defaults, NotificationCenter& notifications,
                            std::string key, bool fallback, QObject* parent)
     : QObject(parent),

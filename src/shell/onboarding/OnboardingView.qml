@@ -10,6 +10,7 @@ FocusScope {
 
     required property OnboardingModel model
 
+    focus: true
     Accessible.role: Accessible.Dialog
     Accessible.name: "Klarvik"
     Keys.onReturnPressed: root.model.proceed()

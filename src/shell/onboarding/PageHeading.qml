@@ -41,7 +41,8 @@ Column {
     }
 
     PageText {
-        width: root.width
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(root.width, 400)
         text: root.text
         size: 13.5
         color: Theme.textSecondary

@@ -63,8 +63,8 @@ Item {
     Column {
         anchors.fill: parent
         anchors.topMargin: 40
-        anchors.leftMargin: 56
-        anchors.rightMargin: 56
+        anchors.leftMargin: 40
+        anchors.rightMargin: 40
         spacing: 24
 
         PageHeading {

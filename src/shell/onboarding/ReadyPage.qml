@@ -43,8 +43,8 @@ Item {
     Column {
         anchors.fill: parent
         anchors.topMargin: 44
-        anchors.leftMargin: 56
-        anchors.rightMargin: 56
+        anchors.leftMargin: 40
+        anchors.rightMargin: 40
         spacing: 26
 
         PageHeading {

@@ -11,8 +11,8 @@ Item {
     Column {
         anchors.fill: parent
         anchors.topMargin: 44
-        anchors.leftMargin: 56
-        anchors.rightMargin: 56
+        anchors.leftMargin: 40
+        anchors.rightMargin: 40
         spacing: 30
 
         PageHeading {

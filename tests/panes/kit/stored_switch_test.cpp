@@ -13,7 +13,7 @@ class StoredSwitchTest : public ::testing::Test {
  protected:
   void changeFromOutside(const DefaultsValue& value) {
     defaults.set("key", value);
-    notifications.post("klarvik.defaultsChanged");
+    notifications.post(defaultsChangedNotification);
   }
 
   MemoryDefaults defaults;
@@ -33,7 +33,7 @@ TEST_F(StoredSwitchTest, WritesAtOnceAndTellsOnce) {
   box.toggle();
   EXPECT_FALSE(defaults.boolean("key", true));
   EXPECT_FALSE(box.isOn());
-  notifications.post("klarvik.defaultsChanged");
+  notifications.post(defaultsChangedNotification);
   EXPECT_EQ(changes.count(), 1);
 }
 
