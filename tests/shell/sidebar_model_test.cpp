@@ -22,7 +22,7 @@ class SidebarRows : public ::testing::Test {
     return panes;
   }
   [[nodiscard]] std::unique_ptr<AppShell> shellWith(const std::vector<Section>& sections) {
-    return std::make_unique<AppShell>(landed(sections), appState, shared, desk.desktop);
+    return std::make_unique<AppShell>(landed(sections), appState, shared, commands, desk.desktop);
   }
   [[nodiscard]] std::unique_ptr<AppShell> shellWithAll() {
     return shellWith({allSections().begin(), allSections().end()});
@@ -47,6 +47,7 @@ class SidebarRows : public ::testing::Test {
 
  protected:
   DesktopOnDisk desk;
+  AppCommands commands{std::vector<AppCommand>{}};
   SharedState shared{desk.desktop};
   AppState appState{desk.desktop, shared.toolActivity(), shared.scanCoordinator(),
                     shared.scanHistory()};
