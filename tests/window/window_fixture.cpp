@@ -12,8 +12,11 @@ namespace {
 QStringList warnings;
 QMutex warningsMutex;
 
+/// Without a display there is no front to bring a window to.
+const QString withoutDisplay = "This plugin does not support raise()";
+
 void rememberWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
-  if (type != QtDebugMsg && type != QtInfoMsg) {
+  if (type != QtDebugMsg && type != QtInfoMsg && message != withoutDisplay) {
     const QMutexLocker lock(&warningsMutex);
     warnings << message;
   }
