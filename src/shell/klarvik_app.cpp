@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 
+#include "shell/menu_bar/quick_popover.h"
+
 namespace klarvik {
 
 namespace {
@@ -33,7 +35,10 @@ KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& l
       _commands(commands()),
       _onboarding(shared.permissionsManager(), desktop),
       _mainWindow(_onboarding, _commands),
-      _windows(desktop) {
+      _windows(desktop),
+      _menuBar(desktop, shared.trashMonitor(), [this] {
+        return std::make_unique<QuickPopover>(_windows.engine(), _desktop.clock);
+      }) {
   removeLeftoverKeys();
   connect(&_onboarding, &OnboardingView::finished, this, &KlarvikApp::finishOnboarding);
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
@@ -45,6 +50,7 @@ KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& l
 }
 
 KlarvikApp::~KlarvikApp() {
+  MenuBarController::openWindowHandler = nullptr;
   _stop.request_stop();
 }
 
@@ -114,6 +120,8 @@ std::vector<SettingsTab> KlarvikApp::settingsTabs() {
 
 /// What happens unasked, once the main window is on the screen for the first time.
 void KlarvikApp::launch() {
+  MenuBarController::openWindowHandler = [this](const QString& id) { openWindow(id); };
+  _menuBar.setup(appState());
   if (!_onboardingComplete) return;
   _shell->access()->askOnce();
   appState().autoScanIfNeeded(_stop.get_token());

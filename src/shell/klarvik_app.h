@@ -17,6 +17,8 @@
 #include "shell/app_commands.h"
 #include "shell/app_shell.h"
 #include "shell/main_window.h"
+#include "shell/menu_bar/background_life.h"
+#include "shell/menu_bar/menu_bar_controller.h"
 #include "shell/onboarding/onboarding_view.h"
 #include "shell/settings/general_settings_section.h"
 #include "shell/settings/settings_view.h"
@@ -86,6 +88,8 @@ class KlarvikApp : public QObject {
   std::unique_ptr<GeneralSettingsSection> _generalSettings;
   std::unique_ptr<SettingsView> _settings;
   Windows _windows;
+  MenuBarController _menuBar;
+  BackgroundLife _backgroundLife{_menuBar};
 };
 
 }  // namespace klarvik

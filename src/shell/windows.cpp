@@ -61,13 +61,6 @@ void fit(QWindow& window, const WindowFrame& frame) {
   }
 }
 
-void bringToFront(QWindow& window) {
-  window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
-  window.setVisible(true);
-  window.raise();
-  window.requestActivate();
-}
-
 Windows::Windows(const Desktop& desktop) {
   registerModules();
   installKit(_engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});

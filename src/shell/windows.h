@@ -30,8 +30,6 @@ struct WindowFrame {
 
 /// Gives a window its frame. One that is on the screen stays where its middle is.
 void fit(QWindow& window, const WindowFrame& frame);
-/// On the screen, unfolded, before all others, and with the keyboard.
-void bringToFront(QWindow& window);
 
 /// Every window of the program, by its identifier; all are drawn by one engine. Main thread only.
 class Windows {

@@ -261,5 +261,66 @@ TEST_F(MenuBarWindow, StandsBelowItsIcon) {
   EXPECT_EQ(window().position(), QPoint(500 + 11 - 130, 2 + 22 + 4));
 }
 
+/// The whole program, with an item in a tray.
+class WindowWithAStatusItem : public WindowFixture {
+ protected:
+  enum Entry : std::size_t { scanNow = 0, openKlarvik = 2, preferences = 3 };
+
+  void openWindow() {
+    WindowFixture::openWindow();
+    ASSERT_TRUE(desk->statusItem.shown);
+  }
+};
+
+TEST_F(WindowWithAStatusItem, IsClosedAndComesBackAsItWas) {
+  openWindow();
+  click("Duplicates");
+  QQuickWindow* const before = &window();
+  window().close();
+  EXPECT_FALSE(window().isVisible());
+  EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
+  desk->statusItem.choose(openKlarvik);
+  settle();
+  EXPECT_EQ(&window(), before);
+  EXPECT_TRUE(window().isVisible());
+  EXPECT_EQ(shared->navigator().section(), Section::duplicates);
+  EXPECT_TRUE(shows("Add a folder"));
+}
+
+TEST_F(WindowWithAStatusItem, AScanGoesOnWhileItIsClosedAndShowsItsEndInIt) {
+  openWindow();
+  window().close();
+  desk->statusItem.choose(scanNow);
+  EXPECT_TRUE(window().isVisible());
+  window().close();
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
+  desk->statusItem.press();
+  QQuickWindow* const popover = openPopoverWindow();
+  ASSERT_NE(popover, nullptr);
+  lookAt(popover);
+  settle();
+  EXPECT_TRUE(shows("Total found"));
+  picture("menu_bar_after_a_scan");
+  click("Open Klarvik");
+  lookAt(nullptr);
+  settle();
+  EXPECT_TRUE(window().isVisible());
+}
+
+TEST_F(WindowWithAStatusItem, PreferencesOpensTheSettings) {
+  openWindow();
+  desk->statusItem.choose(preferences);
+  ASSERT_NE(app->window(settingsWindowId), nullptr);
+  EXPECT_TRUE(app->window(settingsWindowId)->isVisible());
+}
+
+TEST_F(WindowWithAStatusItem, ATrayThatDisappearsBringsTheClosedWindowBack) {
+  openWindow();
+  window().close();
+  desk->statusItem.setTray(false);
+  EXPECT_TRUE(window().isVisible());
+  EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
+}
+
 }  // namespace
 }  // namespace klarvik

@@ -1,7 +1,6 @@
 #include "shell/menu_bar/window_fronting.h"
 
 #include <QGuiApplication>
-#include <QWindow>
 
 #include "shell/menu_bar/menu_bar_controller.h"
 
@@ -17,11 +16,16 @@ QWindow* openWindow(const QString& id) {
 
 }  // namespace
 
+void bringToFront(QWindow& window) {
+  window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
+  window.setVisible(true);
+  window.raise();
+  window.requestActivate();
+}
+
 void frontWindow(const QString& id) {
   if (QWindow* window = openWindow(id)) {
-    window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
-    window->raise();
-    window->requestActivate();
+    bringToFront(*window);
     return;
   }
   if (MenuBarController::openWindowHandler) MenuBarController::openWindowHandler(id);

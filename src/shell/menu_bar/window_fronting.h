@@ -1,12 +1,16 @@
 #pragma once
 
 #include <QString>
+#include <QWindow>
 #include <functional>
 
 namespace klarvik {
 
 /// Opens a window that is not open, by its identifier ("main" or "settings").
 using OpenWindowHandler = std::function<void(const QString& id)>;
+
+/// On the screen, unfolded, before all others, and with the keyboard. Main thread only.
+void bringToFront(QWindow& window);
 
 /// Brings the first open window whose identifier contains `id` to the front, before other
 /// programs; without one, asks `MenuBarController::openWindowHandler` for it. A window's identifier
