@@ -9,15 +9,12 @@ namespace klarvik {
 BackgroundLife::BackgroundLife(MenuBarController& menuBar, QObject* parent)
     : QObject(parent), _menuBar(menuBar) {
   connect(&_menuBar, &MenuBarController::isReachableChanged, this, &BackgroundLife::follow);
-  follow();
+  QGuiApplication::setQuitOnLastWindowClosed(!_menuBar.isReachable());
 }
 
 void BackgroundLife::follow() {
-  const bool canComeBack = _menuBar.isReachable();
-  if (!canComeBack && !QGuiApplication::quitOnLastWindowClosed() && !hasOpenWindow()) {
-    frontWindow("main");
-  }
-  QGuiApplication::setQuitOnLastWindowClosed(!canComeBack);
+  QGuiApplication::setQuitOnLastWindowClosed(!_menuBar.isReachable());
+  if (!_menuBar.isReachable() && !hasOpenWindow()) frontWindow("main");
 }
 
 }  // namespace klarvik
