@@ -103,7 +103,8 @@ TEST_F(UnpublishedFileTest, IsWholeOrNotThereWhicheverSystemCallFails) {
     bool reached = true;
     for (int at = 1; reached; ++at) {
       std::filesystem::remove(folder.path() / "a.deb");
-      const FaultyRun run = runWithFault({.kind = kind, .at = at, .error = ENOSPC}, operation);
+      const FaultyRun run =
+          runWithFault({.kind = kind, .at = at, .error = ENOSPC, .disturbance = {}}, operation);
       reached = run.reached;
       const bool isWhole = folder.holds("a.deb") && folder.contentOf("a.deb") == "first second";
       EXPECT_TRUE(isWhole || isEmpty()) << at;
@@ -114,7 +115,7 @@ TEST_F(UnpublishedFileTest, IsWholeOrNotThereWhicheverSystemCallFails) {
 
 TEST_F(UnpublishedFileTest, IsHiddenAndGoesAllTheSameWhereFilesCannotBeNameless) {
   const SystemCallFault noNameless{
-      .kind = SystemCallFault::Kind::failsOnce, .at = 1, .error = EOPNOTSUPP};
+      .kind = SystemCallFault::Kind::failsOnce, .at = 1, .error = EOPNOTSUPP, .disturbance = {}};
   const auto write = [this](bool publishes) {
     auto file = UnpublishedFile::in(folder.path());
     if (!file || !file->append("x") || isEmpty()) return false;
