@@ -12,11 +12,14 @@ namespace {
 QStringList warnings;
 QMutex warningsMutex;
 
-/// Without a display there is no front to bring a window to.
-const QString withoutDisplay = "This plugin does not support raise()";
+/// Without a display there is no front to bring a window to, and nobody who resizes one.
+bool isForWantOfADisplay(const QString& message) {
+  return message == "This plugin does not support raise()" ||
+         message == "This plugin does not support propagateSizeHints()";
+}
 
 void rememberWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
-  if (type != QtDebugMsg && type != QtInfoMsg && message != withoutDisplay) {
+  if (type != QtDebugMsg && type != QtInfoMsg && !isForWantOfADisplay(message)) {
     const QMutexLocker lock(&warningsMutex);
     warnings << message;
   }
