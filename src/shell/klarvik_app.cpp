@@ -9,6 +9,8 @@ namespace klarvik {
 namespace {
 
 const WindowFrame settingsFrame = WindowFrame::fixed({600, 420});
+/// Its height follows what it has to say, once it is on the screen.
+const WindowFrame updateFrame{{460, 0}, {460, 160}, {460, WindowFrame::unbounded.height()}};
 
 /// A pane as the window shows it, with what it starts and finishes by itself, where it does.
 template <typename Pane>
@@ -35,12 +37,15 @@ KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& l
       _commands(commands()),
       _onboarding(shared.permissionsManager(), desktop),
       _mainWindow(_onboarding, _commands),
+      _updateWindow(desktop),
       _windows(desktop),
       _menuBar(desktop, shared.trashMonitor(), [this] {
         return std::make_unique<QuickPopover>(_windows.engine(), _desktop.clock);
       }) {
   removeLeftoverKeys();
   connect(&_onboarding, &OnboardingView::finished, this, &KlarvikApp::finishOnboarding);
+  connect(&_updateWindow, &UpdateWindow::isShownChanged, this, &KlarvikApp::showUpdates);
+  connect(&_updateWindow, &UpdateWindow::isAskedFor, this, [this] { openWindow(updateWindowId); });
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
           [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive) {
@@ -70,6 +75,7 @@ void KlarvikApp::removeLeftoverKeys() {
 
 std::vector<AppCommand> KlarvikApp::commands() {
   return {
+      {"Check for Updates…", "", [this] { _shared.updateManager().checkForUpdates(); }},
       settingsWindowButton([this] { openWindow(settingsWindowId); }),
       {"Quit", "Ctrl+Q", [] { QCoreApplication::quit(); }},
   };
@@ -79,6 +85,7 @@ bool KlarvikApp::openWindow(const QString& id) {
   QQuickWindow* window = _windows.find(id);
   if (window == nullptr && id == mainWindowId) window = makeMainWindow();
   if (window == nullptr && id == settingsWindowId) window = makeSettingsWindow();
+  if (window == nullptr && id == updateWindowId) window = makeUpdateWindow();
   if (window == nullptr) return false;
   bringToFront(*window);
   return true;
@@ -111,17 +118,32 @@ void KlarvikApp::discardClosedSettings() {
   if (settings != nullptr && !settings->isVisible()) _windows.discard(settingsWindowId);
 }
 
+QQuickWindow* KlarvikApp::makeUpdateWindow() {
+  return _windows.make(updateWindowId, QUrl("qrc:/Klarvik/Updates/UpdateWindow.qml"),
+                       {{"model", QVariant::fromValue(&_updateWindow)}}, updateFrame);
+}
+
+/// Without taking the keyboard from whatever the user is doing: nobody may have asked.
+void KlarvikApp::showUpdates() {
+  QQuickWindow* window = _windows.find(updateWindowId);
+  if (window == nullptr && _updateWindow.isShown()) window = makeUpdateWindow();
+  if (window != nullptr) window->setVisible(_updateWindow.isShown());
+}
+
 std::vector<SettingsTab> KlarvikApp::settingsTabs() {
   _generalSettings =
       std::make_unique<GeneralSettingsSection>(_shared.permissionsManager(), _loginItem, _desktop);
-  return {{"General", QUrl("qrc:/Klarvik/Settings/GeneralSettingsSection.qml"),
-           _generalSettings.get()}};
+  _updateSettings = std::make_unique<UpdateSettingsView>(_shared.updateManager(), _desktop);
+  return {
+      {"General", QUrl("qrc:/Klarvik/Settings/GeneralSettingsSection.qml"), _generalSettings.get()},
+      {"Updates", QUrl("qrc:/Klarvik/Updates/UpdateSettingsView.qml"), _updateSettings.get()}};
 }
 
 /// What happens unasked, once the main window is on the screen for the first time.
 void KlarvikApp::launch() {
   MenuBarController::openWindowHandler = [this](const QString& id) { openWindow(id); };
   _menuBar.setup(appState());
+  _shared.updateManager();
   if (!_onboardingComplete) return;
   _shell->access()->askOnce();
   appState().autoScanIfNeeded(_stop.get_token());

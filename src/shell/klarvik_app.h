@@ -22,6 +22,8 @@
 #include "shell/onboarding/onboarding_view.h"
 #include "shell/settings/general_settings_section.h"
 #include "shell/settings/settings_view.h"
+#include "shell/updates/update_settings_view.h"
+#include "shell/updates/update_window.h"
 #include "shell/windows.h"
 #include "state/app_state.h"
 #include "state/shared_state.h"
@@ -59,6 +61,8 @@ class KlarvikApp : public QObject {
   QQuickWindow* makeMainWindow();
   QQuickWindow* makeSettingsWindow();
   void discardClosedSettings();
+  QQuickWindow* makeUpdateWindow();
+  void showUpdates();
   [[nodiscard]] std::vector<SettingsTab> settingsTabs();
 
   void launch();
@@ -86,7 +90,9 @@ class KlarvikApp : public QObject {
   std::unique_ptr<AppShell> _shell;
   MainWindow _mainWindow;
   std::unique_ptr<GeneralSettingsSection> _generalSettings;
+  std::unique_ptr<UpdateSettingsView> _updateSettings;
   std::unique_ptr<SettingsView> _settings;
+  UpdateWindow _updateWindow;
   Windows _windows;
   MenuBarController _menuBar;
   BackgroundLife _backgroundLife{_menuBar};

@@ -16,6 +16,7 @@ void qml_register_types_Klarvik_Uninstaller();
 void qml_register_types_Klarvik_Privacy();
 void qml_register_types_Klarvik_Onboarding();
 void qml_register_types_Klarvik_Settings();
+void qml_register_types_Klarvik_Updates();
 void qml_register_types_Klarvik_Shell();
 
 namespace klarvik {
@@ -32,6 +33,7 @@ void registerModules() {
   qml_register_types_Klarvik_Privacy();
   qml_register_types_Klarvik_Onboarding();
   qml_register_types_Klarvik_Settings();
+  qml_register_types_Klarvik_Updates();
   qml_register_types_Klarvik_Shell();
 }
 

@@ -15,6 +15,7 @@ namespace klarvik {
 /// The identifiers that windows are opened by.
 inline constexpr const char* mainWindowId = "main";
 inline constexpr const char* settingsWindowId = "settings";
+inline constexpr const char* updateWindowId = "update";
 
 /// How large a window's content may be, in points.
 struct WindowFrame {

@@ -37,7 +37,7 @@ class SharedState {
   [[nodiscard]] DiskMonitor& diskMonitor() { return _diskMonitor; }
   [[nodiscard]] TrashMonitor& trashMonitor() { return _trashMonitor; }
   /// Made at first use, since that starts the updater.
-  [[nodiscard]] UpdateManager& updateManager();
+  UpdateManager& updateManager();
 
  private:
   const Desktop& _desktop;

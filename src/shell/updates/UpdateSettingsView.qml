@@ -1,0 +1,172 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Klarvik.Kit
+import Klarvik.Updates
+
+/// The Updates page of the settings.
+Item {
+    id: root
+
+    required property UpdateSettingsModel model
+
+    implicitWidth: 600
+    implicitHeight: page.y + page.height
+
+    component PanelRow: Item {
+        anchors.left: parent?.left
+        anchors.right: parent?.right
+        anchors.leftMargin: 16
+        anchors.rightMargin: 16
+    }
+
+    Column {
+        id: page
+
+        x: 24
+        y: 22
+        width: root.width - 48
+        spacing: 16
+
+        Row {
+            height: 26
+            spacing: 10
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "arrow.down.circle.fill"
+                size: 20
+                color: Theme.accent
+            }
+
+            KitText {
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Updates")
+                size: 17
+                weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+        }
+
+        Rectangle {
+            width: parent.width
+            height: rows.height
+            radius: 10
+            color: Theme.raised
+            border.width: 1
+            border.color: Theme.hairline
+
+            Column {
+                id: rows
+
+                width: parent.width
+
+                PanelRow {
+                    height: 44
+
+                    KitText {
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: qsTr("Version")
+                    }
+
+                    KitText {
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: root.model.version
+                        color: Theme.textSecondary
+                    }
+                }
+
+                Separator {}
+
+                PanelRow {
+                    height: 64
+
+                    Symbol {
+                        id: statusSymbol
+
+                        anchors.left: parent.left
+                        anchors.verticalCenter: parent.verticalCenter
+                        name: root.model.symbol
+                        size: 18
+                        color: root.model.symbolColor
+                    }
+
+                    Column {
+                        anchors.left: statusSymbol.right
+                        anchors.leftMargin: 12
+                        anchors.right: check.left
+                        anchors.rightMargin: 16
+                        anchors.verticalCenter: parent.verticalCenter
+                        spacing: 3
+
+                        KitText {
+                            width: parent.width
+                            text: root.model.title
+                        }
+
+                        ElidedText {
+                            width: parent.width
+                            text: root.model.detail
+                            size: 11
+                            color: Theme.textTertiary
+                        }
+                    }
+
+                    CheckButton {
+                        id: check
+
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
+                        title: root.model.buttonTitle
+                        isBusy: root.model.isChecking
+                        onAction: root.model.checkForUpdates()
+                    }
+                }
+
+                Separator {}
+
+                PanelRow {
+                    height: 64
+
+                    Column {
+                        anchors.left: parent.left
+                        anchors.right: automatic.left
+                        anchors.rightMargin: 16
+                        anchors.verticalCenter: parent.verticalCenter
+                        spacing: 3
+
+                        KitText {
+                            width: parent.width
+                            text: qsTr("Check automatically")
+                        }
+
+                        KitText {
+                            width: parent.width
+                            text: qsTr("Klarvik checks for new versions in the background")
+                            size: 11
+                            color: Theme.textTertiary
+                        }
+                    }
+
+                    ToggleSwitch {
+                        id: automatic
+
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
+                        title: qsTr("Check automatically")
+                        isOn: root.model.autoCheck
+                        onToggled: root.model.toggleAutoCheck()
+                    }
+                }
+            }
+        }
+
+        TextButton {
+            visible: root.model.hasReleaseNotes
+            title: qsTr("Release notes")
+            onAction: root.model.openReleaseNotes()
+        }
+    }
+}
