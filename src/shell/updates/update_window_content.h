@@ -14,11 +14,11 @@ struct UpdateWindowContent {
 
   std::string title;
   std::string detail;
-  std::string notes;
-  std::string notesLink;
-  double progress = noBar;  ///< 0 to 1, or one of the above
-  std::string primary;      ///< empty: no such button
-  std::string secondary;
+  std::string notes = {};
+  std::string notesLink = {};
+  double progress = noBar;   ///< 0 to 1, or one of the above
+  std::string primary = {};  ///< empty: no such button
+  std::string secondary = {};
   bool operator==(const UpdateWindowContent&) const = default;
 };
 
