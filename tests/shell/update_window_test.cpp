@@ -78,10 +78,19 @@ TEST_F(UpdateWindowTest, SaysWhereTheArchiveIs) {
 }
 
 TEST_F(UpdateWindowTest, SaysWhatWentWrongInTheWordsOfTheSettings) {
-  show(update_stage::Failed{{urlErrorDomain, -1009, ""}});
+  UpdaterError error{updaterErrorDomain, 1002, "The update feed could not be read."};
+  error.underlying = std::make_shared<const UpdaterError>(UpdaterError{urlErrorDomain, -1009, ""});
+  show(update_stage::Failed{error});
+  EXPECT_EQ(window.title(), "Could not check for updates");
   EXPECT_EQ(window.detail(), "No internet connection.");
   EXPECT_EQ(window.primary(), "");
   EXPECT_EQ(window.secondary(), "OK");
+}
+
+TEST_F(UpdateWindowTest, SaysWhyAVersionCannotBeInstalled) {
+  show(update_stage::Failed{{updaterErrorDomain, 1003, "It is not signed."}});
+  EXPECT_EQ(window.title(), "The update cannot be installed");
+  EXPECT_EQ(window.detail(), "It is not signed.");
 }
 
 TEST_F(UpdateWindowTest, PassesTheAnswersOn) {

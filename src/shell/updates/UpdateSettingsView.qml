@@ -111,6 +111,9 @@ Item {
                             text: root.model.detail
                             size: 11
                             color: Theme.textTertiary
+                            wrapMode: Text.Wrap
+                            elide: Text.ElideRight
+                            maximumLineCount: 2
                         }
                     }
 

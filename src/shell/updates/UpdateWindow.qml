@@ -107,11 +107,15 @@ Window {
             onAction: root.model.openNotes()
         }
 
-        Loader {
+        ProgressLine {
             width: parent.width
-            active: root.model.hasBar
-            visible: active
-            sourceComponent: root.model.barHasEnd ? progressLine : endlessBar
+            visible: root.model.hasBar && root.model.barHasEnd
+            value: root.model.progress
+        }
+
+        IndeterminateBar {
+            width: parent.width
+            visible: root.model.hasBar && !root.model.barHasEnd
         }
 
         Row {
@@ -132,19 +136,5 @@ Window {
                 onAction: root.model.goOn()
             }
         }
-    }
-
-    Component {
-        id: progressLine
-
-        ProgressLine {
-            value: root.model.progress
-        }
-    }
-
-    Component {
-        id: endlessBar
-
-        IndeterminateBar {}
     }
 }

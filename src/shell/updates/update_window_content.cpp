@@ -54,7 +54,9 @@ class Writer {
             .secondary = "OK"};
   }
   UpdateWindowContent operator()(const Failed& stage) const {
-    return {.title = "The update did not work",
+    const bool isAboutTheFeed = stage.error.code == updater_code::feedNotUsable;
+    return {.title = isAboutTheFeed ? "Could not check for updates"
+                                    : "The update cannot be installed",
             .detail = updateErrorText(stage.error),
             .secondary = "OK"};
   }
