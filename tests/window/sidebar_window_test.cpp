@@ -111,7 +111,6 @@ TEST_F(SidebarWindow, ForgetsTheKeysThatAFormerFeatureLeftBehind) {
   openWindow();
   EXPECT_FALSE(desk->defaults.object("clean_schedule"));
   EXPECT_FALSE(desk->defaults.object("last_auto_clean"));
-  EXPECT_FALSE(desk->defaults.object("onboarding_complete"));
 }
 
 TEST_F(SidebarWindow, ReadsTheDiskAnewWhenTheApplicationComesToTheFront) {

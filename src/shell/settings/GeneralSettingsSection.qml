@@ -10,9 +10,9 @@ ToolScrollView {
 
     required property GeneralSettingsModel model
 
-    spacing: 16
-    topMargin: 16
-    bottomMargin: 16
+    spacing: 12
+    topMargin: 12
+    bottomMargin: 12
 
     SettingsRow {
         width: parent.width

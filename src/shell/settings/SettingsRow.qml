@@ -28,6 +28,6 @@ Item {
         anchors.left: name.right
         anchors.leftMargin: 16
         anchors.right: parent.right
-        spacing: 6
+        spacing: 4
     }
 }
