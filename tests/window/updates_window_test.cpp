@@ -62,7 +62,8 @@ TEST_F(UpdatesWindow, PageChecksAndCannotBeAskedTwice) {
 TEST_F(UpdatesWindow, PageSaysThatNothingIsNewer) {
   openPage();
   desk->updater.delegate->didNotFindUpdate();
-  desk->clock.advance(5min);
+  settle();
+  desk->clock.advance(6min);
   settle();
   EXPECT_TRUE(shows("Up to date"));
   EXPECT_TRUE(shows("Checked 5 min. ago"));
