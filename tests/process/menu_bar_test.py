@@ -2,11 +2,10 @@
 window."""
 
 import pathlib
-import queue
 import re
 import subprocess
 import sys
-import threading
+import tempfile
 import unittest
 
 from pointer import Pointer
@@ -178,21 +177,18 @@ class OnATrayThatEmbedsIcons(MenuBarTest):
 
 class OnAPanelThatShowsNotifiers(MenuBarTest):
     def start_panel(self):
+        self.registered = tempfile.TemporaryFile("w+", encoding="utf-8")
+        self.addCleanup(self.registered.close)
         command = [sys.executable, str(HERE / "notifier_host.py")]
-        panel = self.start_beside(command, stdout=subprocess.PIPE, text=True)
-        self.addCleanup(panel.stdout.close)
-        self.items = queue.Queue()
+        return self.start_beside(command, stdout=self.registered)
 
-        def listen(items):
-            for line in panel.stdout:
-                items.put(line.strip())
+    def item(self, klarvik):
+        """The address of what has registered itself with the panel that was started last."""
+        return klarvik.wait_until(self.first_registered, "An item on the panel")
 
-        listener = threading.Thread(target=listen, args=[self.items], daemon=True)
-        listener.start()
-        return panel
-
-    def item(self):
-        return self.items.get(timeout=60)
+    def first_registered(self):
+        self.registered.seek(0)
+        return self.registered.readline().strip()
 
     def call(self, item, path, method, *arguments):
         target = ["--dest", item, "--object-path", path, "--method", method]
@@ -214,7 +210,7 @@ class OnAPanelThatShowsNotifiers(MenuBarTest):
         klarvik = self.start()
         self.wait_for_main_window(klarvik)
         self.start_panel()
-        item = self.item()
+        item = self.item(klarvik)
         scan, trash, *rest = self.labels(item)
         self.assertEqual([scan, *rest], ["Scan Now", "Open Klarvik", "Preferences", "Quit"])
         self.assertIn("Trash", trash)
@@ -228,12 +224,12 @@ class OnAPanelThatShowsNotifiers(MenuBarTest):
     def test_a_panel_that_crashes_while_no_window_is_open_brings_the_window_back(self):
         panel = self.start_panel()
         klarvik = self.start()
-        self.item()
+        self.item(klarvik)
         self.close_main_window(klarvik)
         panel.kill()
         self.wait_for_main_window(klarvik)
         self.start_panel()
-        item = self.item()
+        item = self.item(klarvik)
         self.close_main_window(klarvik)
         self.take(item, "Quit")
         self.assertEqual(klarvik.process.wait(60), 0, klarvik.said())
