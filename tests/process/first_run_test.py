@@ -2,9 +2,8 @@
 the start after it."""
 
 import time
-import unittest
 
-from pointer import Pointer
+from pointer import Pointer, each_test_by_itself
 from process_test import ProcessTest
 
 
@@ -94,4 +93,4 @@ class FirstRun(ProcessTest):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    each_test_by_itself()

@@ -2,6 +2,9 @@
 would say, and clicks there with the real pointer."""
 
 import os
+import subprocess
+import sys
+import unittest
 
 import gi
 
@@ -10,7 +13,8 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 
 class Pointer:
-    """Only one a process: the library below binds to the first message bus it meets."""
+    """Only one a process: the library below binds to the first message bus it meets. A file with
+    several tests is run by `each_test_by_itself`."""
 
     def __init__(self, desktop):
         self._desktop = desktop
@@ -68,3 +72,15 @@ class Pointer:
     def _is(node, state):
         states = node.get_state_set()
         return states.contains(state) and states.contains(Atspi.StateType.SHOWING)
+
+
+def each_test_by_itself():
+    """Runs every test of the program in a process of its own, or the one that is named to it."""
+    if len(sys.argv) > 1:
+        unittest.main(verbosity=2)
+    cases = unittest.defaultTestLoader.loadTestsFromModule(sys.modules["__main__"])
+    names = [test.id().removeprefix("__main__.") for case in cases for test in case]
+    failed = [
+        name for name in names if subprocess.run([sys.executable, sys.argv[0], name]).returncode
+    ]
+    sys.exit(f"Failed: {', '.join(failed)}" if failed or not names else 0)

@@ -7,9 +7,8 @@ import shutil
 import signal
 import subprocess
 import time
-import unittest
 
-from pointer import Pointer
+from pointer import Pointer, each_test_by_itself
 from process_test import BUILD, ProcessTest
 from virtual_desktop import Klarvik, wait_until
 
@@ -168,4 +167,4 @@ class LaunchAtLogin(ProcessTest):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    each_test_by_itself()
