@@ -104,7 +104,7 @@ void HttpsFetch::takeBytes() {
   if (_received > _request.limits.mostBytes) return end(_request.tooLong);
   if (const auto error =
           _receive(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())))) {
-    end(*error);
+    end(error);
   }
 }
 
@@ -124,8 +124,7 @@ void HttpsFetch::end(const std::optional<UpdaterError>& error) {
   _silence.reset();
   _total.reset();
   const Finish finish = std::move(_finish);
-  const std::optional<UpdaterError> outcome = error;
-  finish(outcome);
+  finish(error);
 }
 
 void HttpsFetch::dropReply() {
