@@ -89,7 +89,9 @@ class Settings(ProcessTest):
     def test_a_copy_that_was_only_built_cannot_be_started_at_login(self):
         klarvik = self.start()
         self.open_settings(klarvik)
-        self.assertTrue(self.pointer.shows(klarvik, "Unavailable until Klarvik is signed"))
+        klarvik.wait_until(
+            lambda: self.pointer.shows(klarvik, "Unavailable until Klarvik is signed"), "The note"
+        )
         self.pointer.click(klarvik, "Launch at login")
         self.assertFalse((self.home.path / ".config/autostart").exists())
 
@@ -97,6 +99,8 @@ class Settings(ProcessTest):
         klarvik = self.start()
         klarvik.wait_for_scan()
         self.open_settings(klarvik)
+        # It is the last thing on the page, and may be below its lower edge.
+        self.desktop.run("xdotool", "key", "shift+Tab")
         self.pointer.click(klarvik, "Show onboarding again")
         klarvik.wait_until(
             lambda: "onboarding_complete" not in self.home.preferences(), "The key's removal"
@@ -117,7 +121,7 @@ class LaunchAtLogin(ProcessTest):
         super().setUp()
         self.pointer = Pointer(self.desktop)
         self.entry = self.home.path / ".config/autostart/klarvik.desktop"
-        self.prefix = self.disk / 'opt/My "own" $HOME `dir` 100% \\'
+        self.prefix = self.disk / 'opt/My "own" $HOME `dir` \\'
         self.install()
 
     def install(self):

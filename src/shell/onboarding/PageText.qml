@@ -9,4 +9,6 @@ KitText {
     maximumLineCount: 8
     elide: Text.ElideNone
     lineHeight: 1.25
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

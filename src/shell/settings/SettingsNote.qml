@@ -12,4 +12,6 @@ KitText {
     elide: Text.ElideNone
     maximumLineCount: 4
     lineHeight: 1.1
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

@@ -11,6 +11,8 @@ Item {
     default property alias content: column.data
 
     implicitHeight: column.height
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.label
 
     KitText {
         id: name
