@@ -55,10 +55,10 @@ class Writer {
   }
   UpdateWindowContent operator()(const Failed& stage) const {
     const bool isAboutTheFeed = stage.error.code == updater_code::feedNotUsable;
-    return {.title = isAboutTheFeed ? "Could not check for updates"
-                                    : "The update cannot be installed",
-            .detail = updateErrorText(stage.error),
-            .secondary = "OK"};
+    return {
+        .title = isAboutTheFeed ? "Could not check for updates" : "The update cannot be installed",
+        .detail = updateErrorText(stage.error),
+        .secondary = "OK"};
   }
 
  private:
