@@ -157,7 +157,10 @@ class LaunchAtLogin(ProcessTest):
         klarvik.quit()
 
         self.addCleanup(self.end_what_runs)
-        self.desktop.run("gio", "launch", str(self.entry))
+        # What it starts would hold a pipe open.
+        quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+        command = ["gio", "launch", self.entry]
+        subprocess.run(command, env=self.desktop.environment, check=True, **quiet)
         wait_until(self.running, "The start by the entry")
         wait_until(lambda: len(self.home.scans()) == 2, "The scan of what was started")
 
