@@ -12,8 +12,8 @@ class MenuBarPopover {
   virtual ~MenuBarPopover() = default;
 
   [[nodiscard]] virtual bool isShown() const = 0;
-  /// Whether it has closed by itself so shortly ago that the press which did it may be the one on
-  /// the status item that is being told of now.
+  /// Whether it has lost the focus, and closed, so shortly ago that the press which did it may be
+  /// the one on the status item that is being told of now.
   [[nodiscard]] virtual bool hasJustClosed() const = 0;
   /// Shows `content`, drawn afresh, near the icon; it must outlive the popover.
   virtual void show(MenuBarView& content, const StatusItem::Place& icon) = 0;

@@ -45,12 +45,12 @@ bool QuickPopover::isShown() const {
 }
 
 bool QuickPopover::hasJustClosed() const {
-  return _closedByItself && _clock.now() - *_closedByItself < onePress;
+  return _lostFocus && _clock.now() - *_lostFocus < onePress;
 }
 
 void QuickPopover::show(MenuBarView& content, const StatusItem::Place& icon) {
   _icon = QRect(icon.x, icon.y, icon.width, icon.height);
-  _closedByItself.reset();
+  _lostFocus.reset();
   QObject* made =
       _component.createWithInitialProperties({{"model", QVariant::fromValue(&content)}});
   _window.reset(qobject_cast<QQuickWindow*>(made));
@@ -75,7 +75,7 @@ bool QuickPopover::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Expose && _window->isExposed()) grabPointer(*_window);
   if (event->type() == QEvent::MouseButtonPress) {
     const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
-    if (!QRect(QPoint(), _window->size()).contains(place)) closeByItself();
+    if (!QRect(QPoint(), _window->size()).contains(place)) close();
   }
   return QObject::eventFilter(watched, event);
 }
@@ -85,12 +85,8 @@ void QuickPopover::place() {
 }
 
 void QuickPopover::followFocus() {
-  if (!_window->isActive()) closeByItself();
-}
-
-void QuickPopover::closeByItself() {
-  if (!isShown()) return;
-  _closedByItself = _clock.now();
+  if (_window->isActive() || !isShown()) return;
+  _lostFocus = _clock.now();
   close();
 }
 

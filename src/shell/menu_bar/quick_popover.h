@@ -29,13 +29,12 @@ class QuickPopover final : public QObject, public MenuBarPopover {
  private:
   void place();
   void followFocus();
-  void closeByItself();
 
   Clock& _clock;
   QQmlComponent _component;
   std::unique_ptr<QQuickWindow> _window;  ///< the one shown last
   QRect _icon;
-  std::optional<Date> _closedByItself;
+  std::optional<Date> _lostFocus;
 };
 
 }  // namespace klarvik
