@@ -103,7 +103,7 @@ TEST_F(XdgLoginItemTest, ReadsOnlyTheEntrysOwnGroup) {
 TEST_F(XdgLoginItemTest, RubbishWhereTheEntryBelongsIsNotRegistered) {
   install();
   XdgLoginItem loginItem = item();
-  disk.makeFile(place, std::string_view("\0\xff=\n[[[\nExec", 14));
+  disk.makeFile(place, std::string_view("\0\xff=\n[[[\nExec", 12));
   EXPECT_EQ(loginItem.status(), Status::notRegistered);
   std::filesystem::remove(disk.onDisk(place));
   disk.makeFolder(place);
