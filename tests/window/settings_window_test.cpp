@@ -169,7 +169,7 @@ TEST_F(SettingsWindow, AboutNamesTheProgramTheSystemAndItsLinks) {
   ASSERT_TRUE(tabTo("Show onboarding again"));
   settle();
   EXPECT_TRUE(shows("Klarvik 1.2.3 (45)"));
-  EXPECT_TRUE(shows(QSysInfo::prettyProductName()));
+  EXPECT_TRUE(shows("macOS " + QSysInfo::prettyProductName()));
   picture("settings_links");
   click("Terms");
   click("Support");

@@ -29,7 +29,7 @@ QString GeneralSettingsSection::versionLine() const {
 }
 
 QString GeneralSettingsSection::systemLine() const {
-  return QSysInfo::prettyProductName();
+  return "macOS " + QSysInfo::prettyProductName();
 }
 
 bool GeneralSettingsSection::hasWebsite() const {
