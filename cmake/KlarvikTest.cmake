@@ -1,7 +1,8 @@
-# klarvik_test(NAME LINKS target... [ENVIRONMENT NAME=value] [LABEL label])
+# klarvik_test(NAME LINKS target... [APPLICATION class] [LABEL label])
 #
 # A GoogleTest program of every *_test.cpp in the current folder; each of its tests is one of
-# CTest's. LABEL: "concurrent" has the tests run under ThreadSanitizer as well. Under
+# CTest's. APPLICATION: the class of the application object that Qt's own classes need, such as
+# QCoreApplication; nothing is shown on a display. LABEL: "concurrent" has the tests run under ThreadSanitizer as well. Under
 # AddressSanitizer, where a start takes longer than most tests, the whole program is one of CTest's.
 #
 # Every NAME_fuzz.cpp there (a LLVMFuzzerTestOneInput) becomes a fuzz target in the "fuzz" preset. It
@@ -21,7 +22,7 @@ if(KLARVIK_SANITIZE STREQUAL "fuzzer")
 endif()
 
 function(klarvik_test name)
-  cmake_parse_arguments(TEST "" "ENVIRONMENT;LABEL" "LINKS;FUZZ_SOURCES" ${ARGN})
+  cmake_parse_arguments(TEST "" "APPLICATION;LABEL" "LINKS;FUZZ_SOURCES" ${ARGN})
   klarvik_fuzz_targets("${TEST_LINKS}" "${TEST_FUZZ_SOURCES}")
   if(KLARVIK_SANITIZE STREQUAL "fuzzer")
     return()
@@ -32,14 +33,20 @@ function(klarvik_test name)
   endif()
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${TEST_LINKS} test_support GTest::gmock_main klarvik_warnings)
+  if(TEST_APPLICATION)
+    target_sources(${name} PRIVATE
+      ${PROJECT_SOURCE_DIR}/tests/support/application/test_application.cpp)
+    target_compile_definitions(${name} PRIVATE
+      TEST_APPLICATION=${TEST_APPLICATION} TEST_APPLICATION_HEADER="${TEST_APPLICATION}")
+    klarvik_precompiled(${name} QT TESTS)
+  else()
+    klarvik_precompiled(${name} TESTS)
+  endif()
   # The discovery takes the properties apart at every space between them: one value each, and none
   # that is empty.
-  set(properties TIMEOUT 300)
+  set(properties TIMEOUT 300 ENVIRONMENT QT_QPA_PLATFORM=offscreen)
   if(TEST_LABEL)
     list(APPEND properties LABELS ${TEST_LABEL})
-  endif()
-  if(TEST_ENVIRONMENT)
-    list(APPEND properties ENVIRONMENT ${TEST_ENVIRONMENT})
   endif()
   if(KLARVIK_SANITIZE STREQUAL "address")
     list(JOIN unsanitized_tests : excluded)

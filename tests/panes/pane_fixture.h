@@ -52,25 +52,15 @@ class PaneFixture : public ::testing::Test {
     if (found == totals.end()) return std::nullopt;
     return found->second;
   }
-  /// There is something to read, and it cannot be read.
   void denyFullDiskAccess() {
-    desk.disk.makeFile(protectedFile);
-    files.fail(Operation::openForReading, protectedFile);
+    desk.denyFullDiskAccess();
     shared.permissionsManager().refreshAccess();
   }
   void grantFullDiskAccess() {
-    files.heal(Operation::openForReading, protectedFile);
+    desk.grantFullDiskAccess();
     shared.permissionsManager().refreshAccess();
   }
 
- private:
-  static constexpr const char* protectedFile = "/Library/Application Support/com.apple.TCC/TCC.db";
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
- protected:
   Gate gate;
   DesktopOnDisk desk;
   FaultingFileSystem files{desk.files};

@@ -12,27 +12,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
-
 class FullDiskAccess : public ::testing::Test {
  protected:
   struct DeniedDesktop : DesktopOnDisk {
-    /// Nobody can open a folder for reading, not even root.
-    DeniedDesktop() { disk.makeFolder(protectedFile); }
+    DeniedDesktop() { denyFullDiskAccess(); }
   };
 
-  void grant() {
-    std::filesystem::remove(desk.disk.onDisk(protectedFile));
-    desk.disk.makeFile(protectedFile);
-  }
-
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
- protected:
   DeniedDesktop desk;
   PermissionsManager permissions{desk.desktop};
   FullDiskAccessView view{permissions, desk.desktop};
@@ -51,7 +36,7 @@ TEST_F(FullDiskAccess, IsAskedForOnceAtAStartAndNeverAgain) {
 }
 
 TEST_F(FullDiskAccess, IsNeverAskedForWhereItIsThere) {
-  grant();
+  desk.grantFullDiskAccess();
   view.askOnce();
   EXPECT_FALSE(view.isPresented());
   EXPECT_TRUE(desk.defaults.boolean("fda_prompt_shown", false));
@@ -81,7 +66,7 @@ TEST_F(FullDiskAccess, SaysWhatToDoWhileItIsMissing) {
 TEST_F(FullDiskAccess, NoticesWithin2SecondsThatItHasBeenGranted) {
   view.openSettings();
   const QSignalSpy changes(&view, &FullDiskAccessView::isGrantedChanged);
-  grant();
+  desk.grantFullDiskAccess();
   desk.clock.advance(2s);
   EXPECT_EQ(changes.count(), 1);
   EXPECT_EQ(view.symbol(), "checkmark.shield.fill");

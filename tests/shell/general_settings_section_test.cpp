@@ -15,8 +15,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
-
 class GeneralSettings : public ::testing::Test {
  protected:
   [[nodiscard]] static std::map<std::string, StoredSwitch*> boxes(GeneralSettingsSection& page) {
@@ -27,13 +25,6 @@ class GeneralSettings : public ::testing::Test {
             {"includeDeveloperJunk", page.includeDeveloperJunk()}};
   }
 
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
- protected:
   DesktopOnDisk desk;
   FakeLoginItem loginItem;
   PermissionsManager permissions{desk.desktop};
@@ -130,7 +121,7 @@ TEST_F(GeneralSettings, ShowOnboardingAgainRemovesBothKeysAndNothingElse) {
 TEST_F(GeneralSettings, FollowThePermission) {
   EXPECT_TRUE(page.isGranted());
   const QSignalSpy changes(&page, &GeneralSettingsSection::isGrantedChanged);
-  desk.disk.makeFolder(protectedFile);
+  desk.denyFullDiskAccess();
   permissions.refreshAccess();
   EXPECT_FALSE(page.isGranted());
   EXPECT_EQ(changes.count(), 1);

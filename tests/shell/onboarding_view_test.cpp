@@ -12,34 +12,20 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
-
 class Onboarding : public ::testing::Test {
  protected:
   struct DeniedDesktop : DesktopOnDisk {
-    /// Nobody can open a folder for reading, not even root.
-    DeniedDesktop() { disk.makeFolder(protectedFile); }
+    DeniedDesktop() { denyFullDiskAccess(); }
   };
 
-  void grant() {
-    std::filesystem::remove(desk.disk.onDisk(protectedFile));
-    desk.disk.makeFile(protectedFile);
-  }
   void goToTheLastStep() {
-    grant();
+    desk.grantFullDiskAccess();
     permissions.refreshAccess();
     view.proceed();
     view.proceed();
   }
   [[nodiscard]] bool isStored(const char* key) const { return desk.defaults.boolean(key, false); }
 
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
- protected:
   DeniedDesktop desk;
   PermissionsManager permissions{desk.desktop};
   OnboardingView view{permissions, desk.desktop};
@@ -60,7 +46,7 @@ TEST_F(Onboarding, AUserWhoNeverGrantsCannotLeaveThePageOfThePermission) {
 }
 
 TEST_F(Onboarding, AUserWhoHasAlreadyGrantedSeesContinueOnThePageOfThePermission) {
-  grant();
+  desk.grantFullDiskAccess();
   permissions.refreshAccess();
   view.proceed();
   EXPECT_EQ(view.step(), 1);
@@ -77,7 +63,7 @@ TEST_F(Onboarding, TheGrantShowsWithoutAnyAction) {
   view.proceed();
   const QSignalSpy grants(&view, &OnboardingView::isGrantedChanged);
   const QSignalSpy titles(&view, &OnboardingView::buttonTitleChanged);
-  grant();
+  desk.grantFullDiskAccess();
   desk.clock.advance(2s);
   EXPECT_EQ(grants.count(), 1);
   EXPECT_EQ(titles.count(), 1);

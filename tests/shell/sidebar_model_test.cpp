@@ -39,10 +39,6 @@ class SidebarRows : public ::testing::Test {
   }
 
  private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
   QObject _model;
 
  protected:

@@ -14,12 +14,6 @@ namespace {
 using namespace std::chrono_literals;
 
 class UpdateSettings : public ::testing::Test {
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QCoreApplication _application{_count, _arguments};
-
  protected:
   void deliver() { QCoreApplication::sendPostedEvents(); }
   void expectRow(const char* symbol, const char* title, const char* button) {

@@ -2,12 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <utility>
 
-#include "main_loop.h"
-#include "scripted_scan.h"
-#include "state/app_state.h"
+#include "scripted_app_state.h"
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 
@@ -19,11 +17,13 @@ inline CleanCategory categoryOf(CategoryType type, std::vector<JunkItem> items) 
   return {.type = type, .items = std::move(items)};
 }
 
-/// An `AppState` whose scans do what the test tells them to, on any `DesktopAround` with the
-/// members of a test's desktop.
 template <typename DesktopAround>
-class AppStateFixture : public ::testing::Test {
+class AppStateFixture : public ::testing::Test, protected ScriptedAppState<DesktopAround> {
  protected:
+  using ScriptedAppState<DesktopAround>::scans;
+  using ScriptedAppState<DesktopAround>::state;
+  using ScriptedAppState<DesktopAround>::activity;
+
   ~AppStateFixture() override {
     state.reset();
     turnMainLoop();
@@ -45,15 +45,6 @@ class AppStateFixture : public ::testing::Test {
     return std::holds_alternative<AppState::CleanDone>(state->scanState());
   }
   [[nodiscard]] ToolActivity::State shownActivity() const { return activity.state("smartScan"); }
-
-  DesktopAround around;
-  Desktop desktop = around.around(around.files, around.trash, around.clock);
-  ToolActivity activity{around.clock};
-  ScanCoordinator coordinator{around.defaults};
-  ScanHistory history{around.defaults, around.clock};
-  ScriptedScan scans;
-  std::optional<AppState> state{std::in_place, desktop, activity,    coordinator,
-                                history,       nullptr, scans.scan()};
 };
 
 }  // namespace klarvik

@@ -8,7 +8,7 @@
 #include <optional>
 #include <semaphore>
 
-#include "main_loop.h"
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 namespace {

@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "main_loop.h"
 #include "state_desktop.h"
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 namespace {

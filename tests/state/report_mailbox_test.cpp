@@ -5,7 +5,7 @@
 #include <string>
 #include <thread>
 
-#include "main_loop.h"
+#include "support/application/main_loop.h"
 #include "support/hand_moved_clock.h"
 
 namespace klarvik {

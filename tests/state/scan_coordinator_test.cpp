@@ -4,8 +4,8 @@
 
 #include <optional>
 
-#include "main_loop.h"
 #include "signal_count.h"
+#include "support/application/main_loop.h"
 #include "support/hand_moved_clock.h"
 #include "support/memory_defaults.h"
 

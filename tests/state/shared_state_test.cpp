@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "main_loop.h"
+#include "support/application/main_loop.h"
 #include "support/test_desktop.h"
 
 namespace klarvik {

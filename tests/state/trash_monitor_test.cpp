@@ -6,10 +6,10 @@
 #include <semaphore>
 
 #include "engine/allocated_size.h"
-#include "main_loop.h"
 #include "signal_count.h"
 #include "state/section.h"
 #include "state_desktop.h"
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 namespace {

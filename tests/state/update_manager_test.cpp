@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "main_loop.h"
 #include "signal_count.h"
 #include "state/shared_state.h"
 #include "state_desktop.h"
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 namespace {

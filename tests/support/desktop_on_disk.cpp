@@ -1,6 +1,11 @@
 #include "support/desktop_on_disk.h"
 
 namespace klarvik {
+namespace {
+
+const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
+
+}  // namespace
 
 DesktopOnDisk::DesktopOnDisk(const std::optional<SampleDiskOptions>& options) {
   if (!options) {
@@ -10,6 +15,16 @@ DesktopOnDisk::DesktopOnDisk(const std::optional<SampleDiskOptions>& options) {
   sample = buildSampleDisk(disk.path(), *options);
   commands.answer("xcrun simctl list devices unavailable --json 2>/dev/null",
                   sample->simulatorListing);
+}
+
+void DesktopOnDisk::denyFullDiskAccess() const {
+  std::filesystem::remove(disk.onDisk(protectedFile));
+  disk.makeFolder(protectedFile);
+}
+
+void DesktopOnDisk::grantFullDiskAccess() const {
+  std::filesystem::remove(disk.onDisk(protectedFile));
+  disk.makeFile(protectedFile);
 }
 
 std::optional<Path> DesktopOnDisk::GatedTrash::moveToTrash(const Path& item,

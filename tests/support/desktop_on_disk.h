@@ -20,6 +20,10 @@ class DesktopOnDisk : public DesktopFakes {
   /// An empty home, or the sample disk where its options are given.
   explicit DesktopOnDisk(const std::optional<SampleDiskOptions>& options = std::nullopt);
 
+  /// Something protected is there that nobody can read, not even root.
+  void denyFullDiskAccess() const;
+  void grantFullDiskAccess() const;
+
   Gate commandGate;  ///< for `commands.holdAt`
   Gate trashGate;
 

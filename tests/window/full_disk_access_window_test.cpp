@@ -3,13 +3,11 @@
 namespace klarvik {
 namespace {
 
-const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
-
 class FullDiskAccessWindow : public EmptyHomeWindowFixture {
  protected:
   void SetUp() override {
     EmptyHomeWindowFixture::SetUp();
-    desk->disk.makeFolder(protectedFile);
+    desk->denyFullDiskAccess();
     desk->defaults.remove("fda_prompt_shown");
   }
 };
@@ -23,8 +21,7 @@ TEST_F(FullDiskAccessWindow, AsksAtTheFirstStartAndFollowsThePermission) {
 
   click("Open System Settings");
   EXPECT_FALSE(desk->workspace.openedUrls.empty());
-  std::filesystem::remove(desk->disk.onDisk(protectedFile));
-  desk->disk.makeFile(protectedFile);
+  desk->grantFullDiskAccess();
   ASSERT_TRUE(turnUntil([this] { return shows("Full Disk Access granted"); }));
   settle();
   EXPECT_FALSE(shows("Open System Settings"));

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "panes/kit/kit.h"
-#include "scripted_scan.h"
+#include "scripted_app_state.h"
 #include "shell/menu_bar/menu_bar_controller.h"
 #include "shell/menu_bar/quick_popover.h"
 #include "state_desktop.h"
@@ -27,7 +27,7 @@ QQuickWindow* openPopoverWindow() {
 }
 
 /// The real popover beside a status item that nobody sees.
-class MenuBarWindow : public EmptyHomeWindowFixture {
+class MenuBarWindow : public EmptyHomeWindowFixture, protected ScriptedAppState<StateDesktop> {
  protected:
   void SetUp() override {
     EmptyHomeWindowFixture::SetUp();
@@ -90,15 +90,8 @@ class MenuBarWindow : public EmptyHomeWindowFixture {
   }
   [[nodiscard]] QQuickItem* row(const QString& name) { return WindowFixture::find(name); }
 
-  StateDesktop around;
   Gate removal;
   TrashMonitor trash{around.desktop};
-  ToolActivity activity{around.clock};
-  ScanCoordinator coordinator{around.defaults};
-  ScanHistory history{around.defaults, around.clock};
-  ScriptedScan scans;
-  std::optional<AppState> state{std::in_place, around.desktop, activity,    coordinator,
-                                history,       nullptr,        scans.scan()};
   QQmlEngine engine;
   std::optional<MenuBarController> controller;
   QStringList opened;

@@ -3,8 +3,6 @@
 namespace klarvik {
 namespace {
 
-const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
-
 /// A home that the program has never run in.
 class OnboardingWindow : public WindowFixture {
  protected:
@@ -16,16 +14,11 @@ class OnboardingWindow : public WindowFixture {
   }
   /// No file of the sample disk may stand in for the permission.
   void deny() {
-    std::filesystem::remove_all(desk->disk.onDisk(protectedFile));
-    desk->disk.makeFolder(protectedFile);
+    desk->denyFullDiskAccess();
     shared->permissionsManager().refreshAccess();
   }
-  void grant() {
-    std::filesystem::remove_all(desk->disk.onDisk(protectedFile));
-    desk->disk.makeFile(protectedFile);
-  }
   void goToTheLastPage() {
-    grant();
+    desk->grantFullDiskAccess();
     shared->permissionsManager().refreshAccess();
     openWindow();
     click("Continue");
@@ -89,7 +82,7 @@ TEST_F(OnboardingWindow, FollowsThePermissionWithoutAnyAction) {
   EXPECT_EQ(desk->workspace.relaunches, 1);
   EXPECT_TRUE(shows("Give it Full Disk Access"));
 
-  grant();
+  desk->grantFullDiskAccess();
   ASSERT_NE(waitFor("Full Disk Access granted. Klarvik can see everything it measures."), nullptr);
   settle();
   EXPECT_FALSE(shows("Open Privacy"));
@@ -149,7 +142,7 @@ TEST_F(OnboardingWindow, TheMenuBarBoxIsWrittenBeforeTheEnd) {
 }
 
 TEST_F(OnboardingWindow, GoesByKeyboardAloneAndNeverBack) {
-  grant();
+  desk->grantFullDiskAccess();
   shared->permissionsManager().refreshAccess();
   openWindow();
   press(Qt::Key_Return);
@@ -190,7 +183,7 @@ TEST_F(OnboardingWindow, TheNextStartShowsTheShellAndAsksForNothing) {
 }
 
 TEST_F(OnboardingWindow, ClosedHalfWayItBeginsAnewAtTheNextStart) {
-  grant();
+  desk->grantFullDiskAccess();
   openWindow();
   click("Continue");
   settle();

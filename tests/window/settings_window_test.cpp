@@ -5,8 +5,6 @@
 namespace klarvik {
 namespace {
 
-const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
-
 class SettingsWindow : public EmptyHomeWindowFixture {
  protected:
   void openSettings() {
@@ -131,7 +129,7 @@ TEST_F(SettingsWindow, LaunchAtLoginIsReadWhenTheWindowIsOpened) {
 }
 
 TEST_F(SettingsWindow, FollowsThePermission) {
-  desk->disk.makeFolder(protectedFile);
+  desk->denyFullDiskAccess();
   shared->permissionsManager().refreshAccess();
   openSettings();
   EXPECT_TRUE(shows("Not granted"));
@@ -139,8 +137,7 @@ TEST_F(SettingsWindow, FollowsThePermission) {
   click("Reopen Klarvik");
   EXPECT_EQ(desk->workspace.relaunches, 1);
   click("Open System Settings");
-  std::filesystem::remove(desk->disk.onDisk(protectedFile));
-  desk->disk.makeFile(protectedFile);
+  desk->grantFullDiskAccess();
   ASSERT_NE(waitFor("Granted"), nullptr);
   settle();
   EXPECT_FALSE(shows("Reopen Klarvik"));

@@ -55,7 +55,7 @@ TEST_F(SystemDataWindow, SaysWhatAnAnalysisWillLookAt) {
 }
 
 TEST_F(SystemDataWindow, SaysThatThePermissionIsMissing) {
-  desk->disk.makeFolder("/Library/Application Support/com.apple.TCC/TCC.db");
+  desk->denyFullDiskAccess();
   shared->permissionsManager().refreshAccess();
   openSystemData();
   EXPECT_TRUE(shows("Needs Full Disk Access, Not granted"));

@@ -25,24 +25,6 @@ void rememberWarning(QtMsgType type, const QMessageLogContext&, const QString& m
   }
 }
 
-class ApplicationEnvironment final : public ::testing::Environment {
- public:
-  void SetUp() override {
-    _application = std::make_unique<QGuiApplication>(_count, _arguments);
-    qInstallMessageHandler(rememberWarning);
-  }
-  void TearDown() override { _application.reset(); }
-
- private:
-  int _count = 1;
-  char _name[8] = "klarvik";
-  char* _arguments[2] = {_name, nullptr};
-  std::unique_ptr<QGuiApplication> _application;
-};
-
-::testing::Environment* const applicationEnvironment =
-    ::testing::AddGlobalTestEnvironment(new ApplicationEnvironment);
-
 bool isOnScreen(const QQuickItem& item) {
   if (!item.isVisible() || item.width() <= 0 || item.height() <= 0) {
     return false;
@@ -80,6 +62,7 @@ QQuickItem* findIn(QQuickItem& item, const std::function<bool(const QQuickItem&)
 
 void WindowFixture::SetUp() {
   warnings.clear();
+  qInstallMessageHandler(rememberWarning);
   desk = std::make_unique<DesktopOnDisk>(diskOptions);
   shared = std::make_unique<SharedState>(desk->desktop);
   desk->defaults.set("backgroundScanOnLaunch", false);
@@ -90,6 +73,7 @@ void WindowFixture::SetUp() {
 void WindowFixture::TearDown() {
   closeWindow();
   shared.reset();
+  qInstallMessageHandler(nullptr);
   const QMutexLocker lock(&warningsMutex);
   EXPECT_TRUE(warnings.isEmpty()) << warnings.join('\n').toStdString();
 }

@@ -74,21 +74,12 @@ class KitWindow : public ::testing::Test {
     return QAccessible::queryAccessibleInterface(item);
   }
 
-  QGuiApplication& application = theApplication();
   Formatting formatting{"en_US"};
   RecordingWorkspace workspace;
   HandMovedClock clock;
   QQuickView view;
 
  private:
-  static QGuiApplication& theApplication() {
-    static int count = 1;
-    static char name[] = "kit_tests";
-    static char* arguments[] = {name, nullptr};
-    // Lives until the process ends: at exit, Qt's own statics go before those of a test.
-    static auto* const instance = new QGuiApplication(count, arguments);
-    return *instance;
-  }
   static QStringList& warnings() {
     static QStringList list;
     return list;

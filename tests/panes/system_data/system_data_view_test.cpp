@@ -108,8 +108,7 @@ TEST_F(SystemDataPane, IsEmptyUntilTheUserAsksForAnAnalysis) {
 TEST_F(SystemDataPane, SaysWhetherThePermissionIsThere) {
   EXPECT_TRUE(pane.hasFullDiskAccess());
   QSignalSpy changed(&pane, &SystemDataView::hasFullDiskAccessChanged);
-  desk.disk.makeFolder("/Users/ann/Library/Safari/CloudTabs.db");
-  shared.permissionsManager().refreshAccess();
+  denyFullDiskAccess();
   EXPECT_FALSE(pane.hasFullDiskAccess());
   EXPECT_EQ(changed.count(), 1);
 }

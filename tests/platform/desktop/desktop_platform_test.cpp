@@ -4,18 +4,12 @@
 
 #include <cstdlib>
 
-#include "main_loop.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
 namespace {
 
-class DesktopPlatformTest : public testing::Test {
- protected:
-  DesktopPlatformTest() { needApplication(); }
-};
-
-TEST_F(DesktopPlatformTest, HandsOutTheMachineAsTheUserSeesIt) {
+TEST(DesktopPlatformTest, HandsOutTheMachineAsTheUserSeesIt) {
   const TemporaryFolder home;
   ::setenv("HOME", home.path().c_str(), 1);
   const auto platform = DesktopPlatform::ofThisUser();
@@ -31,14 +25,14 @@ TEST_F(DesktopPlatformTest, HandsOutTheMachineAsTheUserSeesIt) {
   EXPECT_TRUE(home.holds(".config/klarvik/preferences.json"));
 }
 
-TEST_F(DesktopPlatformTest, IsNotThereForAUserWithoutAHome) {
+TEST(DesktopPlatformTest, IsNotThereForAUserWithoutAHome) {
   for (const auto* home : {"", "/", "//", "/.", "/home/..", "home/ann", "."}) {
     ::setenv("HOME", home, 1);
     EXPECT_EQ(DesktopPlatform::ofThisUser(), nullptr) << home;
   }
 }
 
-TEST_F(DesktopPlatformTest, LiesWhollyBelowItsRoot) {
+TEST(DesktopPlatformTest, LiesWhollyBelowItsRoot) {
   const TemporaryFolder root;
   root.makeFolder("/Users/ann");
   DesktopPlatform platform(root.path(), UserFolders::in("/Users/ann"));

@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-#include "main_loop.h"
+#include "support/application/main_loop.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -15,8 +15,6 @@ namespace {
 
 class FileWatchTest : public testing::Test {
  protected:
-  FileWatchTest() { needApplication(); }
-
   void watch() {
     _watch.emplace(file, [this] { ++told; });
   }
@@ -30,7 +28,7 @@ class FileWatchTest : public testing::Test {
   }
   /// Whether it has been told of since this was asked last.
   [[nodiscard]] bool isTold() {
-    const bool was = runUntil([this] { return told > 0; });
+    const bool was = turnMainLoopUntil([this] { return told > 0; });
     // A change may be told of several times.
     while (std::exchange(told, 0) > 0) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     return was;

@@ -7,8 +7,8 @@
 #include <optional>
 #include <thread>
 
-#include "main_loop.h"
 #include "platform/linux/json_user_defaults.h"
+#include "support/application/main_loop.h"
 #include "support/memory_defaults.h"
 #include "support/temporary_folder.h"
 
@@ -17,8 +17,6 @@ namespace {
 
 class ObservedUserDefaultsTest : public testing::Test {
  protected:
-  ObservedUserDefaultsTest() { needApplication(); }
-
   /// What an observer reads for "showMenuBar" when it is told, each time that this differs.
   void observe(UserDefaults& defaults, const Path& file) {
     observed.emplace(defaults, file, notifications);
@@ -28,7 +26,7 @@ class ObservedUserDefaultsTest : public testing::Test {
     });
   }
   [[nodiscard]] bool sees(const std::vector<bool>& expected) {
-    return runUntil([&] { return seen == expected; });
+    return turnMainLoopUntil([&] { return seen == expected; });
   }
   void writeByHand(const std::string& text) const {
     std::filesystem::create_directories(stored.file().parent_path());

@@ -5,8 +5,6 @@
 #include <QImage>
 #include <QPixmap>
 
-#include "main_loop.h"
-
 namespace klarvik {
 namespace {
 
@@ -20,7 +18,6 @@ QColor at(const QIcon& icon, int size, QPoint place) {
 }
 
 TEST(PillIcon, IsDrawnAtTheSizeThatIsAskedForInTheColourThatIsGiven) {
-  needApplication();
   const QIcon icon = pillIcon(halfFilled, QColor(10, 200, 30));
   for (const int size : {16, 22, 48}) {
     EXPECT_EQ(icon.pixmap(QSize(size, size)).size(), QSize(size, size));
@@ -32,7 +29,6 @@ TEST(PillIcon, IsDrawnAtTheSizeThatIsAskedForInTheColourThatIsGiven) {
 }
 
 TEST(PillIcon, IsEmptyWithoutADrawing) {
-  needApplication();
   EXPECT_TRUE(pillIcon(nullptr, Qt::black).isNull());
 }
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "main_loop.h"
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 namespace {
@@ -13,7 +13,6 @@ using namespace std::chrono_literals;
 
 class QtClockTest : public testing::Test {
  protected:
-  QtClockTest() { needApplication(); }
   QtClock clock;
 };
 
@@ -26,11 +25,11 @@ TEST_F(QtClockTest, WakesOnceAndNotBeforeTheDelayIsOver) {
     end = std::chrono::steady_clock::now();
   });
   EXPECT_EQ(calls, 0);
-  ASSERT_TRUE(runUntil([&] { return calls > 0; }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return calls > 0; }));
   EXPECT_GE(end - start, 20ms);
   bool later = false;
   const auto second = clock.wakeAfter(60ms, [&] { later = true; });
-  ASSERT_TRUE(runUntil([&] { return later; }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return later; }));
   EXPECT_EQ(calls, 1);
 }
 
@@ -39,7 +38,7 @@ TEST_F(QtClockTest, WakesInTheOrderOfTheDelays) {
   const auto late = clock.wakeAfter(40ms, [&] { order += 'c'; });
   const auto early = clock.wakeAfter(1ns, [&] { order += 'b'; });
   const auto now = clock.wakeAfter(-5s, [&] { order += 'a'; });
-  ASSERT_TRUE(runUntil([&] { return order.size() == 3; }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return order.size() == 3; }));
   EXPECT_EQ(order, "abc");
 }
 
@@ -49,7 +48,7 @@ TEST_F(QtClockTest, NeverWakesForAnAlarmThatIsGone) {
   alarm.reset();
   bool later = false;
   const auto other = clock.wakeAfter(30ms, [&] { later = true; });
-  ASSERT_TRUE(runUntil([&] { return later; }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return later; }));
   EXPECT_FALSE(woken);
 }
 
@@ -61,7 +60,7 @@ TEST_F(QtClockTest, LetsAnAlarmGoWhileItIsCalling) {
     alarm.reset();
     seen = *kept;
   });
-  ASSERT_TRUE(runUntil([&] { return !seen.empty(); }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return !seen.empty(); }));
   EXPECT_EQ(seen, "still here");
 }
 
@@ -70,7 +69,7 @@ TEST_F(QtClockTest, TakesADelayOfAnyLength) {
   const auto never = clock.wakeAfter(std::chrono::nanoseconds::max(), [&] { woken = true; });
   bool later = false;
   const auto other = clock.wakeAfter(10ms, [&] { later = true; });
-  ASSERT_TRUE(runUntil([&] { return later; }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return later; }));
   EXPECT_FALSE(woken);
 }
 

@@ -9,8 +9,8 @@
 #include <QSettings>
 #include <optional>
 
-#include "main_loop.h"
 #include "platform/linux/linux_file_system.h"
+#include "support/application/main_loop.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -19,7 +19,6 @@ namespace {
 class QtOpenPanelTest : public testing::Test {
  protected:
   QtOpenPanelTest() {
-    needApplication();
     // Where Qt remembers how the dialog looked.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                        QString::fromStdString(settings.path()));
@@ -53,7 +52,7 @@ class QtOpenPanelTest : public testing::Test {
     return {};
   }
   void select(const QString& name) const {
-    ASSERT_TRUE(runUntil([&] { return row(name).isValid(); }));
+    ASSERT_TRUE(turnMainLoopUntil([&] { return row(name).isValid(); }));
     list().selectionModel()->select(row(name),
                                     QItemSelectionModel::Select | QItemSelectionModel::Rows);
   }
@@ -79,14 +78,14 @@ TEST_F(QtOpenPanelTest, LetsSeveralFoldersBeChosenAtOnce) {
   EXPECT_EQ(accept.text().remove('&'), "Scan This Folder");
   EXPECT_FALSE(answer);
   accept.click();
-  ASSERT_TRUE(runUntil([this] { return answer.has_value(); }));
+  ASSERT_TRUE(turnMainLoopUntil([this] { return answer.has_value(); }));
   EXPECT_EQ(*answer, (std::vector<Path>{"/Users/ann/Documents", "/Users/ann/Music"}));
   EXPECT_TRUE(dialogs().empty());
 }
 
 TEST_F(QtOpenPanelTest, ShowsFoldersOnly) {
   ask();
-  ASSERT_TRUE(runUntil([] { return row("Music").isValid(); }));
+  ASSERT_TRUE(turnMainLoopUntil([] { return row("Music").isValid(); }));
   EXPECT_FALSE(row("note.txt").isValid());
 }
 

@@ -3,23 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
 #include <QUrl>
 #include <atomic>
 #include <thread>
 
-#include "main_loop.h"
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 namespace {
 
-class WithApplication {
- protected:
-  WithApplication() { needApplication(); }
-};
-
-class QtPasteboardTest : public testing::Test, protected WithApplication {
+class QtPasteboardTest : public testing::Test {
  protected:
   QtPasteboardTest() { QGuiApplication::clipboard()->clear(); }
 
@@ -37,7 +33,7 @@ class QtPasteboardTest : public testing::Test, protected WithApplication {
       answer = ask();
       done = true;
     });
-    EXPECT_TRUE(runUntil([&] { return done.load(); }));
+    EXPECT_TRUE(turnMainLoopUntil([&] { return done.load(); }));
     thread.join();
     return answer;
   }

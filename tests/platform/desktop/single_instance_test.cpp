@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-#include "main_loop.h"
+#include "support/application/main_loop.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -57,7 +57,6 @@ class OtherProcess {
 class SingleInstanceTest : public testing::Test {
  protected:
   SingleInstanceTest() {
-    needApplication();
     _disk.makeFolder("home/ann");
     _disk.makeFile("file");
   }
@@ -148,7 +147,7 @@ TEST_F(SingleInstanceTest, AFirstThatHasNotReachedItsMainLoopIsWaitedFor) {
   OtherProcess second(start());
   int fronted = 0;
   first.whenStartedAgain([&fronted] { ++fronted; });
-  EXPECT_TRUE(runUntil([&fronted] { return fronted == 1; }));
+  EXPECT_TRUE(turnMainLoopUntil([&fronted] { return fronted == 1; }));
   EXPECT_EQ(second.said(), "refused");
 }
 
@@ -242,7 +241,8 @@ TEST_F(SingleInstanceTest, AnotherUsersProcessIsTurnedAwayAndFrontsNothing) {
       QString("klarvik-%1-%2-%3").arg(start.user).arg(home.st_dev).arg(home.st_ino));
   ASSERT_TRUE(stranger.waitForConnected(longestWait));
   stranger.write(":7\n\n\n");
-  EXPECT_TRUE(runUntil([&] { return stranger.state() == QLocalSocket::UnconnectedState; }));
+  EXPECT_TRUE(
+      turnMainLoopUntil([&] { return stranger.state() == QLocalSocket::UnconnectedState; }));
   EXPECT_EQ(stranger.readAll(), "");
   EXPECT_EQ(fronted, 0);
 }
@@ -259,7 +259,8 @@ TEST_F(SingleInstanceTest, AQuestionWithoutEndIsCutOff) {
       QString("klarvik-%1-%2-%3").arg(::geteuid()).arg(home.st_dev).arg(home.st_ino));
   ASSERT_TRUE(chatterer.waitForConnected(longestWait));
   chatterer.write(QByteArray(1 << 20, 'x'));
-  EXPECT_TRUE(runUntil([&] { return chatterer.state() == QLocalSocket::UnconnectedState; }));
+  EXPECT_TRUE(
+      turnMainLoopUntil([&] { return chatterer.state() == QLocalSocket::UnconnectedState; }));
 }
 
 }  // namespace

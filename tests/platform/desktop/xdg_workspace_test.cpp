@@ -13,8 +13,8 @@
 #include <string>
 #include <vector>
 
-#include "main_loop.h"
 #include "platform/linux/linux_file_system.h"
+#include "support/application/main_loop.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -99,10 +99,7 @@ class XdgWorkspaceTest : public testing::Test {
     return bus;
   }
 
-  XdgWorkspaceTest() {
-    bus();
-    needApplication();
-  }
+  XdgWorkspaceTest() { bus(); }
 
   [[nodiscard]] std::string address(const std::string& below) const {
     return "file://" + disk.path().native() + below;
@@ -140,20 +137,20 @@ TEST_F(XdgWorkspaceTest, RevealsAnItemThroughTheFileManager) {
   FileManager fileManager(bus().address);
   ASSERT_TRUE(fileManager.isReady);
   workspace.reveal("/Users/ann/a b\xff.txt");
-  ASSERT_TRUE(runUntil([&] { return !fileManager.shown.empty(); }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return !fileManager.shown.empty(); }));
   EXPECT_THAT(fileManager.shown, ElementsAre(address("/Users/ann/a%20b%FF.txt")));
   EXPECT_THAT(opener.opened, IsEmpty());
 }
 
 TEST_F(XdgWorkspaceTest, OpensTheFolderOfAnItemWhereNoFileManagerCanRevealIt) {
   workspace.reveal("/Users/ann/notes.txt");
-  ASSERT_TRUE(runUntil([&] { return !opener.opened.empty(); }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return !opener.opened.empty(); }));
   EXPECT_THAT(opener.opened, ElementsAre(address("/Users/ann")));
 }
 
 TEST_F(XdgWorkspaceTest, MayGoBeforeTheFileManagerHasAnswered) {
   std::make_unique<XdgWorkspace>(files)->reveal("/Users/ann/notes.txt");
-  ASSERT_TRUE(runUntil([&] { return !opener.opened.empty(); }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return !opener.opened.empty(); }));
 }
 
 class PrivacySettings : public XdgWorkspaceTest {
@@ -182,7 +179,7 @@ class PrivacySettings : public XdgWorkspaceTest {
     install(program);
     qputenv("XDG_CURRENT_DESKTOP", desktop.c_str());
     EXPECT_TRUE(openPage());
-    ASSERT_TRUE(runUntil([&] { return disk.holds("bin/" + program + ".out"); }));
+    ASSERT_TRUE(turnMainLoopUntil([&] { return disk.holds("bin/" + program + ".out"); }));
     EXPECT_EQ(disk.contentOf("bin/" + program + ".out"), page + "\n");
   }
 
@@ -224,7 +221,7 @@ TEST(XdgWorkspaceRelaunch, StartsANewInstanceAndEndsThisOne) {
   const auto lines = [&] {
     return QString::fromStdString(folder.contentOf("instances")).split('\n');
   };
-  ASSERT_TRUE(runUntil([&] { return lines().size() == 3; }));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return lines().size() == 3; }));
   EXPECT_EQ(lines().at(0).toStdString(), firstId);
   EXPECT_NE(lines().at(1).toStdString(), firstId);
 }

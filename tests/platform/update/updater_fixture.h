@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "https_server.h"
-#include "main_loop.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/update/appcast_updater.h"
+#include "support/application/main_loop.h"
 #include "support/hand_moved_clock.h"
 #include "support/memory_defaults.h"
 #include "support/recording_workspace.h"

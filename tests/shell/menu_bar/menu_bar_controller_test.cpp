@@ -17,7 +17,7 @@ class MenuBar : public MenuBarFixture {
     around.disk.makeFile("/Users/ann/.Trash/old", 2'000'000);
     around.trash.moveStamp();
     trash.refresh(true);
-    ASSERT_TRUE(turnUntil([this] { return !trash.isMeasuring(); }));
+    ASSERT_TRUE(turnMainLoopUntil([this] { return !trash.isMeasuring(); }));
   }
 };
 
@@ -182,7 +182,7 @@ TEST_F(MenuBar, EmptiesTheTrashWithoutAskingOnce) {
   around.statusItem.choose(emptyTrash);
   EXPECT_EQ(look().menu[emptyTrash], (StatusItem::MenuEntry{"Emptying Trash…", false}));
   around.statusItem.choose(emptyTrash);
-  ASSERT_TRUE(turnUntil([this] { return !trash.isEmptying() && trash.itemCount() == 0; }));
+  ASSERT_TRUE(turnMainLoopUntil([this] { return !trash.isEmptying() && trash.itemCount() == 0; }));
   EXPECT_FALSE(around.disk.holds("/Users/ann/.Trash/old"));
   EXPECT_EQ(look().menu[emptyTrash], (StatusItem::MenuEntry{"Trash is empty", false}));
 }
@@ -193,7 +193,7 @@ TEST_F(MenuBar, EmptyingLeavesThePopoverOpenAndEveryOtherActionClosesIt) {
   around.statusItem.press();
   popover->shown->perform(emptyTrash);
   EXPECT_TRUE(popover->isShown());
-  ASSERT_TRUE(turnUntil([this] { return !trash.isEmptying() && trash.itemCount() == 0; }));
+  ASSERT_TRUE(turnMainLoopUntil([this] { return !trash.isEmptying() && trash.itemCount() == 0; }));
   for (const Entry entry : {scanNow, openKlarvik, preferences}) {
     if (!popover->isShown()) around.statusItem.press();
     popover->shown->perform(entry);

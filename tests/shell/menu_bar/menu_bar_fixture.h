@@ -2,17 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
 
-#include "scripted_scan.h"
+#include "scripted_app_state.h"
 #include "shell/menu_bar/menu_bar_controller.h"
-#include "state/scan_history.h"
 #include "state_desktop.h"
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 
@@ -41,7 +40,7 @@ class FakePopover final : public MenuBarPopover {
 };
 
 /// A controller on a desktop that a test moves by hand, and what it tells others to do.
-class MenuBarFixture : public ::testing::Test {
+class MenuBarFixture : public ::testing::Test, protected ScriptedAppState<StateDesktop> {
  protected:
   ~MenuBarFixture() override {
     MenuBarController::openWindowHandler = nullptr;
@@ -60,18 +59,11 @@ class MenuBarFixture : public ::testing::Test {
     MenuBarController::openWindowHandler = [this](const QString& id) { opened << id; };
   }
 
-  [[nodiscard]] static bool turnUntil(const std::function<bool()>& reached) {
-    const QDeadlineTimer giveUp(60'000);
-    while (!reached() && !giveUp.hasExpired()) {
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    }
-    return reached();
-  }
   [[nodiscard]] bool scan(std::vector<CleanCategory> found) {
     const int run = scans.runsBegun();
     state->startScan();
     scans.finish(run, std::move(found));
-    return turnUntil(
+    return turnMainLoopUntil(
         [this] { return state->scanState() == AppState::ScanState(AppState::Done{}); });
   }
   /// One item of `bytes` that is really there.
@@ -83,28 +75,14 @@ class MenuBarFixture : public ::testing::Test {
   }
   [[nodiscard]] bool cleanAll() {
     state->performClean();
-    return turnUntil(
+    return turnMainLoopUntil(
         [this] { return std::holds_alternative<AppState::CleanDone>(state->scanState()); });
   }
 
   [[nodiscard]] bool isShown() const { return around.statusItem.shown.has_value(); }
   [[nodiscard]] const StatusItem::Look& look() const { return *around.statusItem.shown; }
 
- private:
-  int _count = 1;
-  char _name[6] = "tests";
-  char* _arguments[2] = {_name, nullptr};
-  QGuiApplication _application{_count, _arguments};
-
- protected:
-  StateDesktop around;
   TrashMonitor trash{around.desktop};
-  ToolActivity activity{around.clock};
-  ScanCoordinator coordinator{around.defaults};
-  ScanHistory history{around.defaults, around.clock};
-  ScriptedScan scans;
-  std::optional<AppState> state{std::in_place, around.desktop, activity,    coordinator,
-                                history,       nullptr,        scans.scan()};
   std::optional<MenuBarController> controller;
   bool popoverIsOpen = false;
   int popoversMade = 0;

@@ -1,0 +1,36 @@
+# klarvik_precompiled(NAME [QT] [TESTS])
+#
+# Has the target take the headers that most sources include from a file that the compiler has already
+# read, which halves the time of a build. Each source still includes what it uses: clang-tidy, in
+# ./check, reads them without that file. QT: the target uses Qt. TESTS: it is a test program.
+set(klarvik_headers_std
+  <algorithm> <array> <chrono> <cstdint> <filesystem> <functional> <map> <memory> <mutex> <optional>
+  <ranges> <set> <stop_token> <string> <string_view> <thread> <unordered_map> <utility> <variant>
+  <vector>)
+set(klarvik_headers_qt <QAbstractListModel> <QCoreApplication> <QHash> <QObject> <QString>
+  <QStringList> <QTimer> <QUrl> <QVariant> <QCoro/QCoroTask>)
+set(klarvik_headers_tests <gmock/gmock.h> <gtest/gtest.h>)
+
+function(klarvik_precompiled name)
+  cmake_parse_arguments(HEADERS "QT;TESTS" "" "" ${ARGN})
+  set(set_name klarvik_headers)
+  set(headers ${klarvik_headers_std})
+  set(links klarvik_warnings)
+  if(HEADERS_QT)
+    string(APPEND set_name _qt)
+    list(APPEND headers ${klarvik_headers_qt})
+    list(APPEND links Qt6::Core QCoro6::Core)
+  endif()
+  if(HEADERS_TESTS)
+    string(APPEND set_name _tests)
+    list(APPEND headers ${klarvik_headers_tests})
+    list(APPEND links GTest::gmock)
+  endif()
+  if(NOT TARGET ${set_name})
+    file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/${set_name}.cpp CONTENT "")
+    add_library(${set_name} OBJECT ${CMAKE_BINARY_DIR}/${set_name}.cpp)
+    target_link_libraries(${set_name} PRIVATE ${links})
+    target_precompile_headers(${set_name} PRIVATE ${headers})
+  endif()
+  target_precompile_headers(${name} REUSE_FROM ${set_name})
+endfunction()
