@@ -6,7 +6,10 @@
 #include <sys/stat.h>
 
 #include <array>
+#include <limits>
 
+#include "platform/linux/file_status.h"
+#include "support/child_process.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -14,6 +17,8 @@ namespace {
 
 using testing::Optional;
 using testing::UnorderedElementsAre;
+
+const PlaceCheck anywhere = [](const Path&) { return true; };
 
 class LinuxFileSystemTest : public testing::Test {
  protected:
@@ -47,6 +52,28 @@ TEST_F(LinuxFileSystemTest, CountsPathsFromTheRootOfTheMachine) {
   EXPECT_EQ(machine.diskPath("/a/b"), "/a/b");
   EXPECT_EQ(machine.diskPath("/"), "/");
   EXPECT_THAT(machine.logicalPath("/a/b"), Optional(Path("/a/b")));
+}
+
+TEST_F(LinuxFileSystemTest, ARootCountedFromTheWorkingFolderIsTheSameFolderToEveryOperation) {
+  disk.makeFile("/inner/Users/ann/junk");
+  disk.makeFile("/Users/ann/junk");
+  EXPECT_TRUE(inChild([this] {
+    std::filesystem::current_path(disk.onDisk("/inner"));
+    LinuxFileSystem here(".", "/Users/ann");
+    return here.diskPath("/") == std::filesystem::canonical(disk.onDisk("/inner")) &&
+           here.exists("/Users/ann/junk") && here.realHome() == "/Users/ann" &&
+           here.remove("/Users/ann/junk", anywhere) && !here.exists("/Users/ann/junk");
+  }));
+  EXPECT_TRUE(disk.holds("/Users/ann/junk"));
+  EXPECT_FALSE(disk.holds("/inner/Users/ann/junk"));
+}
+
+TEST_F(LinuxFileSystemTest, BelowARelativeRootThatIsNotThereNothingIs) {
+  disk.makeFile("/missing/Users/ann/junk");
+  LinuxFileSystem nothing("missing", "/Users/ann");
+  EXPECT_FALSE(nothing.exists("/Users"));
+  EXPECT_FALSE(nothing.remove("/Users/ann/junk", anywhere));
+  EXPECT_FALSE(nothing.createDirectories("/Users"));
 }
 
 TEST_F(LinuxFileSystemTest, TellsTheRealHomeBehindALink) {
@@ -94,6 +121,18 @@ TEST_F(LinuxFileSystemTest, KeepsTheModificationDateToTheNanosecond) {
   EXPECT_EQ(attributes->modified->time_since_epoch(),
             std::chrono::nanoseconds(1'700'000'000'123'456'789));
   EXPECT_EQ(attributes->accessed->time_since_epoch(), std::chrono::nanoseconds(5'000'000'007));
+}
+
+TEST_F(LinuxFileSystemTest, HoldsDatesThatAreTooFarAwayAtTheFurthest) {
+  EXPECT_EQ(dateOf(1'700'000'000, 5), Date(std::chrono::nanoseconds(1'700'000'000'000'000'005)));
+  const Date soon = dateOf(9'000'000'000, 0);
+  const Date far = dateOf(13'000'000'000, 999'999'999);
+  EXPECT_GT(far, soon);
+  EXPECT_EQ(dateOf(std::numeric_limits<std::int64_t>::max(), 999'999'999), far);
+  const Date longAgo = dateOf(-13'000'000'000, 0);
+  EXPECT_LT(longAgo, dateOf(-9'000'000'000, 0));
+  EXPECT_EQ(dateOf(std::numeric_limits<std::int64_t>::min(), 0), longAgo);
+  EXPECT_GT(longAgo, Date::min());
 }
 
 TEST_F(LinuxFileSystemTest, ListsHiddenEntriesToo) {

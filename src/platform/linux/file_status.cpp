@@ -2,6 +2,7 @@
 
 #include <sys/sysmacros.h>
 
+#include <algorithm>
 #include <chrono>
 
 #include "platform/linux/uninterrupted.h"
@@ -11,17 +12,20 @@ namespace {
 
 constexpr std::int64_t kBlockBytes = 512;  // the unit of stx_blocks on every file system
 
-Date dateOf(const struct statx_timestamp& time) {
-  return Date(std::chrono::duration_cast<Date::duration>(std::chrono::seconds(time.tv_sec) +
-                                                         std::chrono::nanoseconds(time.tv_nsec)));
-}
-
 std::optional<Date> dateIf(const struct statx& status, unsigned mask,
                            const struct statx_timestamp& time) {
-  return status.stx_mask & mask ? std::optional(dateOf(time)) : std::nullopt;
+  return status.stx_mask & mask ? std::optional(dateOf(time.tv_sec, time.tv_nsec)) : std::nullopt;
 }
 
 }  // namespace
+
+Date dateOf(std::int64_t seconds, std::int64_t nanoseconds) {
+  using namespace std::chrono;
+  constexpr std::int64_t furthest =
+      floor<std::chrono::seconds>(Date::max()).time_since_epoch() / 1s - 1;
+  return Date(std::chrono::seconds(std::clamp(seconds, -furthest, furthest)) +
+              std::chrono::nanoseconds(nanoseconds));
+}
 
 std::optional<struct statx> statusOf(int folder, const char* name) {
   struct statx status;

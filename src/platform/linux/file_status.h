@@ -13,6 +13,10 @@ namespace klarvik {
 /// `name` is empty. Nothing when it cannot be asked.
 [[nodiscard]] std::optional<struct statx> statusOf(int folder, const char* name);
 
+/// A moment counted from 1970. One that a `Date` cannot hold, before 1678 or after 2261, is the
+/// furthest on its side.
+[[nodiscard]] Date dateOf(std::int64_t seconds, std::int64_t nanoseconds);
+
 [[nodiscard]] FileKind kindOf(const struct statx& status);
 /// Bytes taken on the disk; a directory takes none.
 [[nodiscard]] std::int64_t allocatedBytesOf(const struct statx& status);

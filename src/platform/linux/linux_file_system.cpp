@@ -6,6 +6,8 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "platform/linux/directory_reader.h"
@@ -22,6 +24,14 @@ Path withoutTrailingSlashes(const Path& path) {
   std::string text = path.native();
   while (text.size() > 1 && text.back() == '/') text.pop_back();
   return Path(std::move(text));
+}
+
+/// A folder that is counted from the working folder would be another one to whoever goes down to it
+/// from the machine's "/". Where it cannot be found, the root is a file, below which nothing is.
+Path absoluteRoot(const Path& root) {
+  std::error_code error;
+  const Path whole = root.is_absolute() ? root : std::filesystem::canonical(root, error);
+  return withoutTrailingSlashes(error ? Path("/dev/null") : whole);
 }
 
 class LinuxFileReader final : public FileReader {
@@ -48,7 +58,7 @@ class LinuxFileReader final : public FileReader {
 }  // namespace
 
 LinuxFileSystem::LinuxFileSystem(const Path& root, Path home)
-    : _root(withoutTrailingSlashes(root)), _home(std::move(home)) {}
+    : _root(absoluteRoot(root)), _home(std::move(home)) {}
 
 Path LinuxFileSystem::diskPath(const Path& logical) const {
   const Path below = logical.relative_path();

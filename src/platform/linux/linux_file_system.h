@@ -11,7 +11,8 @@ namespace klarvik {
 /// thread. A path that is not absolute, or holds a zero byte, names nothing.
 class LinuxFileSystem final : public FileSystem {
  public:
-  /// `root` is where the logical "/" lies on the machine; `home` is a logical path.
+  /// `root` is where the logical "/" lies on the machine, also counted from the working folder;
+  /// `home` is a logical path. Below a relative root that is not there, nothing is.
   LinuxFileSystem(const Path& root, Path home);
 
   [[nodiscard]] Path diskPath(const Path& logical) const override;

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/linux/file_status.h"
 #include "platform/linux/mount_table.h"
 #include "platform/linux/trash_record.h"
 #include "platform/linux/tree_removal.h"
@@ -86,10 +87,6 @@ UniqueFd openFolderCreating(const ParentHandle& place) {
   return open();
 }
 
-Date dateOf(const timespec& time) {
-  return Date(std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
-}
-
 }  // namespace
 
 LinuxTrash::LinuxTrash(const Path& root, Path home, const Path& dataFolder)
@@ -119,10 +116,10 @@ std::optional<Date> LinuxTrash::modificationDate() {
   const std::vector<Path> all = folders();
   const auto main = statusOf(_root, all.front());
   if (!main || !S_ISDIR(main->st_mode)) return std::nullopt;
-  Date newest = dateOf(main->st_mtim);
+  Date newest = dateOf(main->st_mtim.tv_sec, main->st_mtim.tv_nsec);
   for (std::size_t i = 1; i < all.size(); ++i) {
     const auto status = statusOf(_root, all[i]);
-    if (status) newest = std::max(newest, dateOf(status->st_mtim));
+    if (status) newest = std::max(newest, dateOf(status->st_mtim.tv_sec, status->st_mtim.tv_nsec));
   }
   return newest;
 }
