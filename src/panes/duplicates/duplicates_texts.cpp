@@ -7,7 +7,7 @@ namespace klarvik::duplicates {
 namespace {
 
 QString lastComponent(const Path& path) {
-  return printableText(path.filename().native());
+  return printableText((path.has_filename() ? path.filename() : path).native());
 }
 
 }  // namespace

@@ -142,6 +142,7 @@ void AppUninstallerView::setIsWaitingForTurn(bool isWaiting) {
 
 QCoro::Task<> AppUninstallerView::readApps() {
   _isLoading = true;
+  _removedWhileReading.clear();
   _loadTask = std::stop_source();
   emit stateChanged();
   _activity.start(key);
@@ -152,6 +153,8 @@ QCoro::Task<> AppUninstallerView::readApps() {
       co_await onEngineThread(_readings, [&engine] { return engine.listApps(); });
   if (stop.stop_requested()) co_return;
 
+  std::erase_if(read,
+                [this](const AppInfo& app) { return _removedWhileReading.contains(app.appURL); });
   _appList.setApps(std::move(read));
   _isLoading = false;
   _hasLoaded = true;
@@ -210,6 +213,7 @@ QCoro::Task<> AppUninstallerView::remove(AppInfo app, std::vector<ResidualFile> 
   co_await onEngineThread(_removals, [&] { return engine.uninstall(app, residuals); });
 
   _appList.remove(app.appURL);
+  if (_isLoading) _removedWhileReading.insert(app.appURL);
   _isUninstalling = false;
   closeDetail();
   _desktop.notifications.post(diskChangedNotification);

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <optional>
+#include <set>
 #include <stop_token>
 #include <unordered_set>
 #include <vector>
@@ -126,6 +127,7 @@ class AppUninstallerView : public QObject {
 
   std::stop_source _stop;
   std::stop_source _loadTask;
+  std::set<Path> _removedWhileReading;  ///< which the reading may have seen before
   std::stop_source _findTask;
   EngineWork _readings;
   EngineWork _removals;

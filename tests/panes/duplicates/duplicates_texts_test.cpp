@@ -37,6 +37,7 @@ TEST(DuplicatesTexts, FoldersAreListedInWords) {
   EXPECT_EQ(duplicates::folderList({"/a/Documents", "/a/Downloads"}), "Documents and Downloads");
   EXPECT_EQ(duplicates::folderList({"/a/Documents", "/a/Downloads", "/a/Desktop"}),
             "Documents, Downloads and Desktop");
+  EXPECT_EQ(duplicates::folderList({"/"}), "/");
 }
 
 TEST(DuplicatesTexts, AChipSaysWhatAClickDoes) {

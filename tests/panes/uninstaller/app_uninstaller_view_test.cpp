@@ -401,6 +401,23 @@ class UninstallerRemoval : public UninstallerDetail {
   NotificationCenter::Subscription _subscription;
 };
 
+TEST_F(UninstallerRemoval, AnAppThatGoesWhileTheListIsReadDoesNotComeBack) {
+  ASSERT_TRUE(openWriter());
+  gate.close();
+  for (const char* app : {"/Applications/Writer.app", "/Applications/Note.app"}) {
+    files.before(Operation::walk, app, [this] { gate.pass(); });
+  }
+  desk.clock.advance(301s);
+  comeBack();
+  ASSERT_TRUE(isHeld());
+  view->uninstall();
+  ASSERT_TRUE(turnUntil([this] { return !view->isUninstalling(); }));
+  EXPECT_TRUE(view->isLoading());
+  gate.open();
+  ASSERT_TRUE(turnUntil([this] { return !view->isLoading(); }));
+  EXPECT_EQ(names(), QStringList("Note"));
+}
+
 TEST_F(UninstallerRemoval, TakesTheAppAndTheSelectedLeftoversAndNothingElse) {
   ASSERT_TRUE(openWriter());
   const DiskSnapshot before = snapshotOf(desk.disk.path());
