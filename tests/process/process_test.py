@@ -3,6 +3,7 @@
 import hashlib
 import os
 import pathlib
+import signal
 import stat
 import sys
 import tempfile
@@ -24,6 +25,23 @@ class ProcessTest(unittest.TestCase):
         self.disk = pathlib.Path(folder)
         self.home = SampleHome(self.disk, BUILD)
         self.desktop = self.enterContext(VirtualDesktop(self.home.path))
+
+    def running(self):
+        """Every Klarvik over the home, whoever started it."""
+        home = os.fsencode(f"HOME={self.home.path}")
+        found = []
+        for process in pathlib.Path("/proc").glob("[0-9]*"):
+            try:
+                is_klarvik = pathlib.Path(os.readlink(process / "exe")).name == "klarvik"
+                if is_klarvik and home in (process / "environ").read_bytes().split(b"\0"):
+                    found.append(int(process.name))
+            except OSError:  # It has just ended.
+                continue
+        return found
+
+    def end_what_runs(self):
+        for process in self.running():
+            os.kill(process, signal.SIGKILL)
 
     def start(self):
         return self.enterContext(Klarvik(self.desktop, self.home, BUILD))

@@ -1,10 +1,7 @@
 """Each setting, changed with a pointer in its window: what it does to the disk, now and after a
 restart."""
 
-import os
-import pathlib
 import shutil
-import signal
 import subprocess
 import time
 
@@ -95,6 +92,21 @@ class Settings(ProcessTest):
         self.pointer.click(klarvik, "Launch at login")
         self.assertFalse((self.home.path / ".config/autostart").exists())
 
+    def test_reopened_it_runs_again_in_a_process_of_its_own(self):
+        # Something protected that nobody can read, not even root.
+        protected = self.home.path / "Library/Safari/CloudTabs.db"
+        protected.unlink(missing_ok=True)
+        protected.mkdir(parents=True)
+        klarvik = self.start()
+        klarvik.wait_for_scan()
+        self.open_settings(klarvik)
+        self.addCleanup(self.end_what_runs)
+        self.pointer.click(klarvik, "Reopen Klarvik")
+        wait_until(lambda: klarvik.process.poll() is not None, "The end of the first process")
+        self.assertEqual((klarvik.process.returncode, klarvik.said()), (0, ""))
+        wait_until(lambda: len(self.home.scans()) == 2, "The scan of the second")
+        self.assertEqual(len(self.running()), 1)
+
     def test_onboarding_comes_back_at_the_next_start_and_not_before(self):
         klarvik = self.start()
         klarvik.wait_for_scan()
@@ -130,22 +142,6 @@ class LaunchAtLogin(ProcessTest):
         entries = self.prefix / "share/applications"
         entries.mkdir(parents=True)
         (entries / "klarvik.desktop").write_text("[Desktop Entry]\n", encoding="utf-8")
-
-    def running(self):
-        """The processes of the installed copy."""
-        program = str(self.prefix / "bin/klarvik")
-        found = []
-        for process in pathlib.Path("/proc").glob("[0-9]*"):
-            try:
-                if os.readlink(process / "exe") == program:
-                    found.append(int(process.name))
-            except OSError:  # It has just ended.
-                continue
-        return found
-
-    def end_what_runs(self):
-        for process in self.running():
-            os.kill(process, signal.SIGKILL)
 
     def test_writes_an_entry_that_really_starts_the_program(self):
         klarvik = self.enterContext(Klarvik(self.desktop, self.home, self.prefix / "bin"))

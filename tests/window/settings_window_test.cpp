@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QSysInfo>
 
 #include "window_fixture.h"
@@ -51,6 +52,19 @@ TEST_F(SettingsWindow, OpensFromTheSidebarAndHoldsEveryRow) {
   EXPECT_FALSE(shows("Unavailable until"));
   EXPECT_FALSE(shows("Reopen Klarvik"));
   picture("settings_general");
+}
+
+TEST_F(SettingsWindow, IsReadOutWhole) {
+  openSettings();
+  for (const char* text :
+       {"Launch at login", "System folders, other user accounts", "Granted", "Open System Settings",
+        "Turn this off", "Klarvik 1.2.3 (45)", "macOS ", "Show onboarding again"}) {
+    QQuickItem* item = find(text);
+    ASSERT_NE(item, nullptr) << text;
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(item);
+    ASSERT_NE(spoken, nullptr) << text;
+    EXPECT_TRUE(spoken->text(QAccessible::Name).startsWith(text)) << text;
+  }
 }
 
 TEST_F(SettingsWindow, OpensFromTheApplicationMenuByKeyboardAlone) {

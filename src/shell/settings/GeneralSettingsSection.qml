@@ -69,6 +69,8 @@ ToolScrollView {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.model.isGranted ? qsTr("Granted") : qsTr("Not granted")
                 color: root.model.isGranted ? Theme.safe : Theme.review
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
 
             TextButton {
@@ -114,12 +116,12 @@ ToolScrollView {
         KitText {
             height: 20
             text: root.model.versionLine
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
 
-        KitText {
+        SettingsNote {
             text: root.model.systemLine
-            size: 11
-            color: Theme.textTertiary
         }
 
         Row {
