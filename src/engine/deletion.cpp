@@ -117,6 +117,7 @@ bool ScannerEngine::restoreItem(const Path& trashedURL, const Path& originalURL)
 std::int64_t ScannerEngine::emptyTrash(std::stop_token stop, const DeletionSink& progress) {
   std::vector<JunkItem> entries;
   for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
+    if (stop.stop_requested()) break;
     entries.push_back({.name = entry.filename().native(),
                        .path = entry,
                        .size = allocatedSize(_platform.files, entry)});

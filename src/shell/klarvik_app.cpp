@@ -1,6 +1,7 @@
 #include "shell/klarvik_app.h"
 
 #include <QGuiApplication>
+#include <algorithm>
 
 #include "shell/menu_bar/quick_popover.h"
 
@@ -18,6 +19,9 @@ LandedPane landed(Section section, const QString& view, Pane& pane) {
   LandedPane landed{section, QUrl("qrc:/Klarvik/" + view), &pane};
   if constexpr (requires { pane.appear(); }) {
     landed.appear = [&pane] { pane.appear(); };
+  }
+  if constexpr (requires { pane.stopRemovals(); }) {
+    landed.stopRemovals = [&pane] { pane.stopRemovals(); };
   }
   if constexpr (requires { pane.finishRemovals(); }) {
     landed.finishRemovals = [&pane] { pane.finishRemovals(); };
@@ -167,18 +171,24 @@ void KlarvikApp::makeShell() {
   _mainWindow.setShell(*_shell);
 }
 
+/// In the order of their turns, since whoever asks first while nobody has it is given the turn.
 void KlarvikApp::letPanesAppear() {
-  for (const LandedPane& pane : _panes) {
-    if (pane.appear) pane.appear();
+  for (const Section section : turnOrder()) {
+    const auto pane = std::ranges::find(_panes, section, &LandedPane::section);
+    if (pane != _panes.end() && pane->appear) pane->appear();
   }
 }
 
+/// All are stopped before one is waited for: else the others would go on removing meanwhile.
 void KlarvikApp::finishRemovals() {
+  appState().stopRemovals();
+  _shared.trashMonitor().stopEmptying();
+  for (const LandedPane& pane : _panes) {
+    if (pane.stopRemovals) pane.stopRemovals();
+  }
   appState().finishRemovals();
   for (const LandedPane& pane : _panes) {
-    if (pane.finishRemovals) {
-      pane.finishRemovals();
-    }
+    if (pane.finishRemovals) pane.finishRemovals();
   }
   _shared.trashMonitor().finishEmptying();
 }

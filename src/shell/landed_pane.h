@@ -15,7 +15,9 @@ struct LandedPane {
   QObject* model = nullptr;  ///< lives as long as the window
   /// Once, when the window is on the screen: where a pane starts what it does by itself.
   std::function<void()> appear = {};
-  /// For the end of the program: starts no further removal, and waits for those in hand.
+  /// For the end of the program: starts no further removal.
+  std::function<void()> stopRemovals = {};
+  /// The same, and waits for those in hand.
   std::function<void()> finishRemovals = {};
 };
 

@@ -62,7 +62,12 @@ void AppState::startScan() {
 QCoro::Task<> AppState::runScan(std::stop_token cancelled) {
   const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
   ReportMailbox<ScanReport> reports(
-      _desktop.clock, [this](ScanReport report) { apply(std::move(report)); },
+      _desktop.clock,
+      [this, stopped = stop.token()](ScanReport report) {
+        // A scan that was stopped still ends the row in hand; what it says of that belongs to no
+        // state that the user has come to since, and least of all to another scan.
+        if (!stopped.stop_requested()) apply(std::move(report));
+      },
       [](const ScanReport& newer, const ScanReport& older) {
         return std::holds_alternative<ScanUpdate>(newer) &&
                std::holds_alternative<ScanUpdate>(older);
@@ -91,9 +96,6 @@ QCoro::Task<> AppState::runScan(std::stop_token cancelled) {
 }
 
 void AppState::apply(ScanReport report) {
-  // A scan that was stopped still ends the row in hand; what it says of that must not bring back a
-  // state that the user has left.
-  if (_lifetime.stop_requested() || !std::holds_alternative<Scanning>(_scanState)) return;
   if (const auto* update = std::get_if<ScanUpdate>(&report)) {
     applyUpdate(*update);
   } else {

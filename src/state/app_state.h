@@ -126,8 +126,10 @@ class AppState : public QObject {
   /// Starts no further removal; what has gone by then is summarised and recorded like a whole
   /// clean.
   void cancelClean();
-  /// For the end of the program: starts no further removal, waits for the items in hand, and puts
-  /// what went on record. A scan is not waited for. Nothing may be started afterwards.
+  /// For the end of the program: starts no further removal. Nothing may be started afterwards.
+  void stopRemovals();
+  /// The same, and waits for the items in hand, and puts what went on record. A scan is not waited
+  /// for.
   void finishRemovals();
   /// Takes items out of the results; it removes nothing from the disk.
   void removeItems(const std::unordered_set<Uuid>& ids);

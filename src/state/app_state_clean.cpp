@@ -142,8 +142,12 @@ void AppState::cancelClean() {
   _cleanTask.request_stop();
 }
 
-void AppState::finishRemovals() {
+void AppState::stopRemovals() {
   _lifetime.request_stop();
+}
+
+void AppState::finishRemovals() {
+  stopRemovals();
   _removalWork.finish();
 }
 

@@ -1,5 +1,7 @@
 #include "state/engine_work.h"
 
+#include <system_error>
+
 #include "platform/background_thread.h"
 
 namespace klarvik {
@@ -7,13 +9,23 @@ namespace klarvik {
 void EngineWork::start(std::function<void()> body, std::coroutine_handle<> waiter,
                        Priority priority) {
   const std::uint64_t number = _callsEverStarted++;
-  std::thread thread([this, number, priority, body = std::move(body)] {
-    if (priority == Priority::background) becomeBackgroundThread();
-    body();
+  Call& call = _calls.emplace(number, Call{{}, waiter}).first->second;
+  const auto work = std::make_shared<const std::function<void()>>(std::move(body));
+  const auto run = [this, number, work] {
+    (*work)();
     QMetaObject::invokeMethod(
         this, [this, number] { resume(number); }, Qt::QueuedConnection);
-  });
-  _calls.emplace(number, Call{std::move(thread), waiter});
+  };
+  try {
+    call.thread = std::thread([run, priority] {
+      if (priority == Priority::background) becomeBackgroundThread();
+      run();
+    });
+  } catch (const std::system_error&) {
+    // The system has no thread to give. A window that stands still until the work is done is better
+    // than one that waits for it for ever.
+    run();
+  }
 }
 
 void EngineWork::finish() {
@@ -24,7 +36,7 @@ void EngineWork::resume(std::uint64_t number) {
   auto call = _calls.extract(number);
   // `finish` may have been quicker than the main loop.
   if (call.empty()) return;
-  call.mapped().thread.join();
+  if (call.mapped().thread.joinable()) call.mapped().thread.join();
   call.mapped().waiter.resume();
 }
 

@@ -45,7 +45,8 @@ class EngineWork final : public QObject {
     start(std::move(release), std::noop_coroutine(), Priority::normal);
   }
 
-  /// For `onEngineThread`: runs `body` on a thread of its own, then resumes `waiter`.
+  /// For `onEngineThread`: runs `body` on a thread of its own, or on the caller's where the system
+  /// has none to give, then resumes `waiter`.
   void start(std::function<void()> body, std::coroutine_handle<> waiter, Priority priority);
 
  private:

@@ -1,13 +1,11 @@
 #include "state/scan_coordinator.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <iterator>
 #include <string_view>
 #include <utility>
 
-#include "state/section.h"
 #include "state/shared_state.h"
 #include "state/sleep_for.h"
 
@@ -17,17 +15,21 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Place in the order of turns; the most urgent first. A key that is no tool's comes last.
+/// Place in the order of turns. A key that is no tool's comes last.
 std::ptrdiff_t rank(const std::string& key) {
-  static constexpr std::array turnPriority{
-      Section::smartScan,  Section::systemData, Section::uninstaller, Section::privacy,
-      Section::largeFiles, Section::storage,    Section::duplicates};
-  return std::distance(turnPriority.begin(),
-                       std::find_if(turnPriority.begin(), turnPriority.end(),
-                                    [&](Section section) { return rawValue(section) == key; }));
+  return std::distance(
+      turnOrder().begin(),
+      std::ranges::find(turnOrder(), key, [](Section section) { return rawValue(section); }));
 }
 
 }  // namespace
+
+const std::array<Section, sectionCount>& turnOrder() {
+  static constexpr std::array order{Section::smartScan, Section::systemData, Section::uninstaller,
+                                    Section::privacy,   Section::largeFiles, Section::storage,
+                                    Section::duplicates};
+  return order;
+}
 
 /// Waits at the end of the queue until `finishTurn` picks the entry.
 struct ScanCoordinator::Turn {

@@ -2,6 +2,7 @@
 
 #include <QCoro/QCoroTask>
 #include <QObject>
+#include <array>
 #include <coroutine>
 #include <cstdint>
 #include <functional>
@@ -14,6 +15,7 @@
 #include "platform/clock.h"
 #include "platform/date.h"
 #include "platform/user_defaults.h"
+#include "state/section.h"
 
 namespace klarvik {
 
@@ -69,6 +71,9 @@ class ScanCoordinator : public QObject {
   std::vector<Waiter> _waiting;
   std::set<std::string> _completedAutoScans;
 };
+
+/// The tools in the order in which they are given the turn, the most urgent first.
+[[nodiscard]] const std::array<Section, sectionCount>& turnOrder();
 
 /// Keeps the turn that the caller holds until `over` answers true, which is asked every 250
 /// milliseconds, until 900 seconds have passed or until a stop is requested; then gives it up. Once

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 
 #include "state/shared_state.h"
 
@@ -30,7 +31,7 @@ void ToolActivity::start(const std::string& key) {
 }
 
 void ToolActivity::setProgress(const std::string& key, double fraction) {
-  setState(key, Progress{std::clamp(fraction, 0.0, 1.0)});
+  setState(key, Progress{std::isnan(fraction) ? 0 : std::clamp(fraction, 0.0, 1.0)});
 }
 
 void ToolActivity::finish(const std::string& key, const std::string& summary) {

@@ -94,8 +94,12 @@ QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {
   co_return freed;
 }
 
-void TrashMonitor::finishEmptying() {
+void TrashMonitor::stopEmptying() {
   _lifetime.request_stop();
+}
+
+void TrashMonitor::finishEmptying() {
+  stopEmptying();
   _emptyingWork.finish();
 }
 

@@ -38,8 +38,9 @@ class TrashMonitor : public QObject {
   void refresh(bool force);
   /// Bytes reclaimed; 0 at once while an emptying is under way.
   QCoro::Task<std::int64_t> emptyTrash();
-  /// For the end of the program: removes no further entry, and waits for those in hand. Nothing may
-  /// be started afterwards.
+  /// For the end of the program: removes no further entry. Nothing may be started afterwards.
+  void stopEmptying();
+  /// The same, and waits for the entries in hand.
   void finishEmptying();
 
  signals:

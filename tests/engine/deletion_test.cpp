@@ -411,6 +411,15 @@ TEST_F(Deletion, EmptyingATrashThatCannotBeListedRemovesNothing) {
   EXPECT_THAT(files.removed(), IsEmpty());
 }
 
+TEST_F(Deletion, AnEmptyingThatIsStoppedBeforehandMeasuresNothingAndRemovesNothing) {
+  files.addFile(trashed / "one/a", 100);
+  std::stop_source stop;
+  stop.request_stop();
+  EXPECT_EQ(engine.emptyTrash(stop.get_token(), report()), 0);
+  EXPECT_THAT(reports, IsEmpty());
+  EXPECT_THAT(files.removed(), IsEmpty());
+}
+
 TEST_F(Deletion, OneFailureWhileEmptyingDoesNotStopTheRest) {
   files.addFile(trashed / "stuck", 100);
   files.makeImmovable(trashed / "stuck");

@@ -189,6 +189,34 @@ TEST_F(AppStateScan, AScanStartedDuringAnotherLeavesOneResultAndOneRecord) {
   EXPECT_EQ(history.scans().size(), 1U);
 }
 
+TEST_F(AppStateScan, WhatACancelledScanSaysNeverReachesTheNextOne) {
+  scans.endsWhenAskedToStop = false;
+  state->startScan();
+  ASSERT_TRUE(turnMainLoopUntil([&] { return scans.runsBegun() == 1; }));
+  state->startScan();
+  ASSERT_TRUE(turnMainLoopUntil([&] { return scans.runsBegun() == 2; }));
+  scans.category(0, caches);
+  ScanUpdate last;
+  last.categoryName = "Scan stopped";
+  last.fraction = 1;
+  scans.update(0, last);
+  scans.finish(0, {caches});
+  ASSERT_TRUE(turnMainLoopUntil([&] { return scans.runsEnded() == 1; }));
+  turnMainLoop();
+  around.clock.advance(16ms);
+  EXPECT_TRUE(is(AppState::Scanning{0, "Starting scan"}));
+  EXPECT_TRUE(state->scanResults().empty());
+
+  scans.category(1, caches);
+  ASSERT_TRUE(arrived(1));
+  state->cancelScan();
+  EXPECT_EQ(state->scanResults().size(), 1U);
+  EXPECT_EQ(state->totalSpaceFreeable(), 30);
+  state->setSelection(caches.items, false);
+  EXPECT_EQ(state->selectedCount(), 0);
+  scans.finish(1, {});
+}
+
 TEST_F(AppStateScan, SelectSafeItemsDropsEverythingElse) {
   scanAndFind({caches, archives});
   state->setSelection(archives.items, true);

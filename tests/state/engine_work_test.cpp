@@ -1,6 +1,7 @@
 #include "state/engine_work.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QCoro/QCoroTask>
 #include <QTimer>
@@ -9,6 +10,7 @@
 #include <semaphore>
 
 #include "support/application/main_loop.h"
+#include "support/child_process.h"
 
 namespace klarvik {
 namespace {
@@ -118,6 +120,16 @@ TEST_F(EngineWorkTest, AResultThatCannotBeCopiedComesThrough) {
   make();
   ASSERT_TRUE(turnMainLoopUntil([&] { return result != nullptr; }));
   EXPECT_EQ(*result, 7);
+}
+
+TEST_F(EngineWorkTest, WhereNoThreadCanBeHadTheCallersDoesTheWork) {
+  EXPECT_TRUE(inChildWithoutPrivileges([this] {
+    const struct rlimit none = {.rlim_cur = 0, .rlim_max = 0};
+    if (::setrlimit(RLIMIT_NPROC, &none) != 0) return false;
+    add(2, 3);
+    work->finish();
+    return sum == 5;
+  }));
 }
 
 }  // namespace

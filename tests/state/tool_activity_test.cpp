@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "signal_count.h"
 #include "support/hand_moved_clock.h"
 
@@ -74,6 +76,11 @@ TEST_F(ToolActivityTest, ProgressIsHeldBetweenZeroAndOne) {
   activity.setProgress("privacy", 1.2);
   EXPECT_EQ(privacy(), State(ToolActivity::Progress{1}));
   activity.setProgress("privacy", -0.2);
+  EXPECT_EQ(privacy(), State(ToolActivity::Progress{0}));
+}
+
+TEST_F(ToolActivityTest, ProgressThatIsNoNumberIsNone) {
+  activity.setProgress("privacy", std::nan(""));
   EXPECT_EQ(privacy(), State(ToolActivity::Progress{0}));
 }
 

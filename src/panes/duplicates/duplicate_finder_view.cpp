@@ -120,7 +120,7 @@ void DuplicateFinderView::appear() {
 }
 
 void DuplicateFinderView::finishRemovals() {
-  if (_deleteTask) _deleteTask->request_stop();
+  stopRemovals();
   _removal.finish();
 }
 

@@ -123,7 +123,9 @@ class DuplicateFinderView : public QObject {
 
   /// For the moment when the pane is first there: scans by itself, once its turn has come.
   void appear();
-  /// For the end of the program: starts no further removal, and waits for those in hand.
+  /// For the end of the program: starts no further removal.
+  void stopRemovals() { stopDeleting(); }
+  /// The same, and waits for those in hand.
   void finishRemovals();
 
   /// The header's main button: gives a running scan up, else starts one. Nothing during a deletion.

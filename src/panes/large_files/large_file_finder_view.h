@@ -112,7 +112,9 @@ class LargeFileFinderView : public QObject {
 
   /// For the moment when the pane is first there: scans by itself, once its turn has come.
   void appear();
-  /// For the end of the program: starts no further removal, and waits for those in hand.
+  /// For the end of the program: starts no further removal.
+  void stopRemovals() { _removal.cancel(); }
+  /// The same, and waits for those in hand.
   void finishRemovals();
 
   /// The header's main button: stops a running scan, else starts one.

@@ -111,6 +111,8 @@ void SmartScanPane::cancelConfirmation() {
 
 void SmartScanPane::stateChanged() {
   const bool wasScanning = std::exchange(_wasScanning, isScanning());
+  // A scan can begin elsewhere. The user was asked about a selection that is gone then.
+  if (!wasScanning && isScanning()) _appState.setPendingCleanConfirmation(false);
   if (!wasScanning || !isScanning()) {
     keepRelativeDateFresh();
     emit headerChanged();

@@ -150,8 +150,9 @@ class SystemDataView : public QObject {
   /// For the words of the legend that no finding stands behind yet; by the number of an
   /// `ItemSafety`.
   Q_INVOKABLE [[nodiscard]] QString safetyText(int safety) const;
-  /// For the end of the program: starts no further removal, and waits for those in hand. Nothing
-  /// may be started afterwards.
+  /// For the end of the program: starts no further removal. Nothing may be started afterwards.
+  void stopRemovals() { _removal.cancel(); }
+  /// The same, and waits for those in hand.
   void finishRemovals();
 
  signals:

@@ -157,6 +157,21 @@ TEST_F(SmartScanPaneModel, AsksBeforeRemovingReviewItemsAndCancelLeavesTheSelect
   EXPECT_FALSE(desk.disk.holds("/Users/ann/Library/Developer/Xcode/Archives/Old"));
 }
 
+TEST_F(SmartScanPaneModel, AScanThatBeginsElsewhereWithdrawsTheQuestion) {
+  addArchive("Old");
+  addCache("com.example");
+  ASSERT_TRUE(scan());
+  for (const CleanCategory& category : appState.scanResults()) {
+    appState.setSelection(category.items, true);
+  }
+  pane.footer()->clean();
+  EXPECT_TRUE(pane.isConfirming());
+  ASSERT_TRUE(scan());
+  EXPECT_FALSE(pane.isConfirming());
+  EXPECT_TRUE(is<AppState::Done>());
+  EXPECT_TRUE(desk.disk.holds("/Users/ann/Library/Caches/com.example"));
+}
+
 TEST_F(SmartScanPaneModel, ShowsARunningCleanAndStopsIt) {
   for (int number = 0; number < 20; ++number) {
     addCache("cache-" + std::to_string(number));
