@@ -147,6 +147,20 @@ TEST_F(AnalysisOnDisk, SwapCountsByItsLengthAndFromItsSizeOn) {
   EXPECT_EQ(items[0].subCategory, Kind::vmSwap);
 }
 
+TEST_F(AnalysisOnDisk, TheTmpFolderIsARowFromItsSizeOnAndWhatLiesInItIsNone) {
+  const Path file = "/tmp/folder/a";
+  makeFileOf(file, 10'000'000);
+  EXPECT_THAT(analysis.items(), IsEmpty());
+  analysis.files.overlaySize(file, 10'000'001);
+  const auto items = analysis.items();
+  ASSERT_THAT(items, SizeIs(1));
+  EXPECT_EQ(items[0].name, "Temp Files");
+  EXPECT_EQ(items[0].path, Path("/tmp"));
+  EXPECT_EQ(items[0].size, 10'000'001);
+  EXPECT_EQ(items[0].subCategory, Kind::systemTemp);
+  EXPECT_EQ(items[0].safetyOverride, std::nullopt);
+}
+
 TEST_F(AnalysisOnDisk, FirmwareIsARowFromItsSizeOn) {
   const Path updates = "/Users/ann/Library/iTunes/iPad Software Updates";
   makeFileOf(updates / "a.ipsw", 50'000'001);
