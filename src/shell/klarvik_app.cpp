@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "shell/menu_bar/quick_popover.h"
+#include "shell/menu_bar/window_fronting.h"
 
 namespace klarvik {
 
@@ -132,6 +133,9 @@ void KlarvikApp::showUpdates() {
   QQuickWindow* window = _windows.find(updateWindowId);
   if (window == nullptr && _updateWindow.isShown()) window = makeUpdateWindow();
   if (window != nullptr) window->setVisible(_updateWindow.isShown());
+  // It may have outlived all other windows, and Qt ends no program for one that is only hidden.
+  const bool isLast = !_updateWindow.isShown() && !hasOpenWindow();
+  if (isLast && QGuiApplication::quitOnLastWindowClosed()) QCoreApplication::quit();
 }
 
 std::vector<SettingsTab> KlarvikApp::settingsTabs() {

@@ -1,9 +1,24 @@
+#include <QEvent>
+#include <QTimer>
+
 #include "window_fixture.h"
 
 namespace klarvik {
 namespace {
 
 using namespace std::chrono_literals;
+
+/// Hears whether the program is asked to end.
+class EndListener : public QObject {
+ public:
+  EndListener() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    hasHeard = hasHeard || (watched == qApp && event->type() == QEvent::Quit);
+    return false;
+  }
+
+  bool hasHeard = false;
+};
 
 class UpdatesWindow : public EmptyHomeWindowFixture {
  protected:
@@ -24,6 +39,19 @@ class UpdatesWindow : public EmptyHomeWindowFixture {
     lookAt(app->window(updateWindowId));
     ASSERT_NE(app->window(updateWindowId), nullptr);
     settle();
+  }
+  /// Whether the program ends once the user has answered with the button of that title.
+  [[nodiscard]] bool endsWith(const QString& button) {
+    const EndListener listener;
+    QMetaObject::invokeMethod(
+        qApp,
+        [&] {
+          click(button);
+          QCoreApplication::exit();
+        },
+        Qt::QueuedConnection);
+    QCoreApplication::exec();
+    return listener.hasHeard;
   }
   void expectButtons(const char* primary, const char* secondary) {
     EXPECT_TRUE(shows(secondary)) << secondary;
@@ -176,6 +204,39 @@ TEST_F(UpdatesWindow, ClosedByItsFrameIsDismissed) {
   EXPECT_FALSE(window().isVisible());
   show(offered());
   EXPECT_TRUE(window().isVisible());
+}
+
+TEST_F(UpdatesWindow, AnsweredAsTheLastWindowEndsTheProgram) {
+  desk->statusItem.setTray(false);
+  show(update_stage::UpToDate{});
+  app->window(mainWindowId)->close();
+  EXPECT_TRUE(endsWith("OK"));
+}
+
+TEST_F(UpdatesWindow, AnsweredBesideAnotherWindowEndsNothing) {
+  desk->statusItem.setTray(false);
+  show(update_stage::UpToDate{});
+  EXPECT_FALSE(endsWith("OK"));
+  EXPECT_TRUE(app->window(mainWindowId)->isVisible());
+}
+
+TEST_F(UpdatesWindow, AnsweredAsTheLastWindowEndsNothingThatAStatusItemKeeps) {
+  show(update_stage::UpToDate{});
+  app->window(mainWindowId)->close();
+  EXPECT_FALSE(endsWith("OK"));
+}
+
+TEST_F(UpdatesWindow, HoldsNobodyUpWhoQuits) {
+  show(offered());
+  QMetaObject::invokeMethod(
+      qApp,
+      [] {
+        QCoreApplication::quit();
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(1); });
+      },
+      Qt::QueuedConnection);
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+  EXPECT_EQ(desk->updater.dismissals, 1);
 }
 
 }  // namespace

@@ -17,10 +17,7 @@ Window {
     height: root.visible ? root.wantedHeight : 160
     minimumHeight: root.visible ? root.wantedHeight : 0
     maximumHeight: root.visible ? root.wantedHeight : 10000
-    onClosing: close => {
-        close.accepted = false;
-        root.model.dismiss();
-    }
+    onClosing: root.model.dismiss()
 
     Shortcut {
         sequences: ["Esc", "Ctrl+W"]
