@@ -133,13 +133,17 @@ void AppcastUpdater::dismiss() {
       return cancel(updater_code::installationCancelled, "The update was cancelled.");
   }
 }
+      // What the user sees is what came of an earlier check.
+      if (!_isFollowed) return show(update_stage::Hidden{});
+      [[fallthrough]];
 
 void AppcastUpdater::checkIfDue() {
   _nextLook = _around.clock.wakeAfter(betweenLooks, [this] { checkIfDue(); });
   // Without a feed there is nothing that a check could find.
   const bool isWanted = automaticallyChecksForUpdates() && _around.info.contains("SUFeedURL") &&
                         _delegate->mayCheckInBackground();
-  if (_phase != Phase::idle || !isWanted || !isDue()) return;
+  const bool isAtRest = _phase == Phase::idle && _delivered.empty();
+  if (!isAtRest || !isWanted || !isDue()) return;
   _isFollowed = false;
   check();
 }

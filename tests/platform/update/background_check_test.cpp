@@ -23,8 +23,27 @@ class BackgroundCheck : public UpdaterFixture {
     updater.reset();
     makeUpdater();
   }
+  /// A day passes, and the check that it brings asks the server.
+  void beginNext() {
+    const std::size_t before = checks();
+    clock.advance(24h);
+    ASSERT_TRUE(turnMainLoopUntil([&] { return checks() == before + 1; }));
+  }
   [[nodiscard]] std::size_t checks() const { return server.requests().size(); }
 };
+
+TEST_F(BackgroundCheck, LeavesWhatHasBeenDeliveredAloneUntilItIsAnswered) {
+  ASSERT_TRUE(check());
+  ASSERT_TRUE(install());
+  const std::size_t before = checks();
+  pass(72h);
+  EXPECT_EQ(checks(), before);
+  EXPECT_TRUE(is<update_stage::Delivered>());
+  updater->install();
+  EXPECT_THAT(workspace.openedUrls, SizeIs(1));
+  pass(1h);
+  EXPECT_EQ(checks(), before + 1);
+}
 
 class QuietBackgroundCheck : public BackgroundCheck {
  protected:
@@ -176,6 +195,18 @@ TEST_F(QuietBackgroundCheck, RemembersTheTimeOfTheLastCheckAcrossAStart) {
   clock.advance(3h);
   restart();
   EXPECT_EQ(updater->lastUpdateCheckDate(), then);
+}
+
+TEST_F(QuietBackgroundCheck, GoesOnWhenTheUserDismissesWhatCameOfAnEarlierOne) {
+  ASSERT_TRUE(check());
+  ASSERT_TRUE(is<update_stage::UpToDate>());
+  serve({.version = "2.0"});
+  beginNext();
+  updater->dismiss();
+  EXPECT_TRUE(is<update_stage::Hidden>());
+  EXPECT_THAT(delegate.calls, ElementsAre("nothing", "finished"));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return is<update_stage::Offered>(); }));
+  EXPECT_THAT(delegate.calls, ElementsAre("nothing", "finished", "found 2.0"));
 }
 
 TEST_F(QuietBackgroundCheck, KeepsTheUserWaitingWhileItRuns) {
