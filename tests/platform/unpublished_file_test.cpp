@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 
 #include <cerrno>
 #include <string>
@@ -113,9 +114,11 @@ TEST_F(UnpublishedFileTest, IsWholeOrNotThereWhicheverSystemCallFails) {
   }
 }
 
+/// The first call fails that would make a file without a name.
+const SystemCallFault noNameless{
+    .kind = SystemCallFault::Kind::failsOnce, .at = 1, .error = EOPNOTSUPP, .disturbance = {}};
+
 TEST_F(UnpublishedFileTest, IsHiddenAndGoesAllTheSameWhereFilesCannotBeNameless) {
-  const SystemCallFault noNameless{
-      .kind = SystemCallFault::Kind::failsOnce, .at = 1, .error = EOPNOTSUPP, .disturbance = {}};
   const auto write = [this](bool publishes) {
     auto file = UnpublishedFile::in(folder.path());
     if (!file || !file->append("x") || isEmpty()) return false;
@@ -127,6 +130,31 @@ TEST_F(UnpublishedFileTest, IsHiddenAndGoesAllTheSameWhereFilesCannotBeNameless)
   EXPECT_TRUE(runWithFault(noNameless, [&] { return write(true); }).answer);
   EXPECT_EQ(folder.contentOf("a.deb"), "first");
   EXPECT_EQ(folder.contentOf("a-2.deb"), "x");
+}
+
+TEST_F(UnpublishedFileTest, ReplacesNothingWhereNoRenamingPromisesThatAndFilesCannotBeNameless) {
+  folder.makeFile("a.deb", "first");
+  const auto write = [this] {
+    refuseSystemCall(SYS_renameat2, EINVAL);
+    auto file = UnpublishedFile::in(folder.path());
+    return file && file->append("x") && file->publish("a", ".deb") == folder.path() / "a-2.deb";
+  };
+  EXPECT_TRUE(runWithFault(noNameless, write).answer);
+  EXPECT_EQ(folder.contentOf("a.deb"), "first");
+  EXPECT_EQ(folder.contentOf("a-2.deb"), "x");
+  std::filesystem::remove(folder.path() / "a.deb");
+  std::filesystem::remove(folder.path() / "a-2.deb");
+  EXPECT_TRUE(isEmpty());
+}
+
+TEST_F(UnpublishedFileTest, IsGoneOnceDiscardedThoughSomebodyReadsItAndItCannotBeNameless) {
+  const auto discard = [this] {
+    auto file = UnpublishedFile::in(folder.path());
+    if (!file || !file->append("x") || isEmpty()) return false;
+    file->discard();
+    return isEmpty() && contentOf(*file) == "x";
+  };
+  EXPECT_TRUE(runWithFault(noNameless, discard).answer);
 }
 
 }  // namespace

@@ -57,6 +57,11 @@ Outcome* sharedOutcome() {
   return new (memory) Outcome{};
 }
 
+long installFilter(std::vector<sock_filter>& program, unsigned flags) {
+  const sock_fprog filter{static_cast<unsigned short>(program.size()), program.data()};
+  return ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, flags, &filter);
+}
+
 /// From here on every watched call of this thread waits for the answer of who reads the handle.
 int watchThisThread() {
   std::vector<sock_filter> program{BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr))};
@@ -65,10 +70,8 @@ int watchThisThread() {
     program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_USER_NOTIF));
   }
   program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
-  const sock_fprog filter{static_cast<unsigned short>(program.size()), program.data()};
   if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0) giveUp("give up new privileges");
-  const long handle =
-      ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, SECCOMP_FILTER_FLAG_NEW_LISTENER, &filter);
+  const long handle = installFilter(program, SECCOMP_FILTER_FLAG_NEW_LISTENER);
   if (handle < 0) giveUp("watch system calls");
   return static_cast<int>(handle);
 }
@@ -120,6 +123,15 @@ void answerCalls(int watch, const SystemCallFault& fault, Outcome& outcome) {
 }
 
 }  // namespace
+
+void refuseSystemCall(long call, int error) {
+  std::vector<sock_filter> program{
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+      BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(call), 0, 1),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | static_cast<unsigned>(error)),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+  if (installFilter(program, 0) != 0) giveUp("refuse a system call");
+}
 
 FaultyRun runWithFault(const SystemCallFault& fault, const std::function<bool()>& operation) {
   Outcome* const outcome = sharedOutcome();

@@ -25,6 +25,10 @@ struct FaultyRun {
   bool answer = false;  ///< of the operation, when it was not killed
 };
 
+/// From here on that system call (SYS_...) fails with `error` whenever this thread makes it. For
+/// operations that run with a fault only: nothing takes it back.
+void refuseSystemCall(long call, int error);
+
 /// Runs `operation` on one thread of a child process, with the fault. Its calls are caught in the
 /// kernel (seccomp), however they are made. What the operation changes in memory is lost with the
 /// child. Where this cannot be set up the test program ends with a message.

@@ -33,7 +33,7 @@ UnpublishedFile::UnpublishedFile(UnpublishedFile&& other) noexcept
       _size(other._size) {}
 
 UnpublishedFile::~UnpublishedFile() {
-  if (!_temporary.empty()) ::unlink(_temporary.c_str());
+  discard();
 }
 
 std::optional<UnpublishedFile> UnpublishedFile::in(const Path& folder) {
@@ -66,10 +66,24 @@ bool UnpublishedFile::inspect(const std::function<bool(std::span<const std::byte
   return answer;
 }
 
-bool UnpublishedFile::giveName(const Path& path) const {
-  if (!_temporary.empty()) {
-    return ::renameat2(AT_FDCWD, _temporary.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
+void UnpublishedFile::discard() {
+  if (!_temporary.empty()) ::unlink(_temporary.c_str());
+  _temporary.clear();
+}
+
+/// Where the file system knows no renaming that replaces nothing, as on NFS, a second name does not
+/// replace anything either.
+bool UnpublishedFile::rename(const Path& path) const {
+  if (::renameat2(AT_FDCWD, _temporary.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0) {
+    return true;
   }
+  if (errno != EINVAL || ::link(_temporary.c_str(), path.c_str()) != 0) return false;
+  ::unlink(_temporary.c_str());
+  return true;
+}
+
+bool UnpublishedFile::giveName(const Path& path) const {
+  if (!_temporary.empty()) return rename(path);
   const std::string handle = "/proc/self/fd/" + std::to_string(_fd.get());
   return ::linkat(AT_FDCWD, handle.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }

@@ -29,6 +29,9 @@ class UnpublishedFile {
   /// Shows `look` all of what has been written. False when it cannot be read, else what `look`
   /// says.
   [[nodiscard]] bool inspect(const std::function<bool(std::span<const std::byte>)>& look) const;
+  /// Gives it up: nothing of it stays in the folder, though it can still be inspected, meanwhile
+  /// and afterwards, on another thread too.
+  void discard();
   /// Puts the file on the disk for good, under the first of `name` + `extension`, `name` + "-2" +
   /// `extension` and so on that is free: nothing is ever replaced. Everybody may read it then.
   /// Answers where it stands; nothing when that failed.
@@ -36,6 +39,7 @@ class UnpublishedFile {
 
  private:
   UnpublishedFile(Path folder, UniqueFd fd, Path temporary);
+  [[nodiscard]] bool rename(const Path& path) const;
   [[nodiscard]] bool giveName(const Path& path) const;
 
   Path _folder;

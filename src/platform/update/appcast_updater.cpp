@@ -302,7 +302,7 @@ void AppcastUpdater::cancel(std::int64_t code, const char* description) {
   show(update_stage::Hidden{});
 }
 
-/// Back to rest; what was downloaded goes with it.
+/// Back to rest; what was downloaded goes with it, also while its signature is being checked.
 void AppcastUpdater::abandon() {
   _phase = Phase::idle;
   _fetch.reset();
@@ -313,6 +313,7 @@ void AppcastUpdater::abandon() {
   _delivered.clear();
 }
 
+  if (_archive) _archive->discard();
 void AppcastUpdater::show(const UpdateStage& stage) const {
   if (_show) _show(stage);
 }

@@ -62,6 +62,8 @@ int main(int argumentCount, char** arguments) {
   }
   const int status = QApplication::exec();
   app.finishRemovals();
+  // A download that is not whole may lie in the user's folder.
+  desktop.updater.stop();
   // A scan may be in the middle of a long walk, or wait for a tool that never answers. It changes
   // nothing, so nobody has to wait for it.
   std::_Exit(status);

@@ -183,6 +183,15 @@ TEST_F(UpdateInstallation, LeavesNothingWhenTheProgramEndsHalfWay) {
   EXPECT_THAT(downloads(), IsEmpty());
 }
 
+TEST_F(UpdateInstallation, LeavesNothingAndTellsNobodyWhenTheUpdaterIsStoppedHalfWay) {
+  downloadHalf();
+  updater->stop();
+  EXPECT_THAT(downloads(), IsEmpty());
+  EXPECT_TRUE(is<update_stage::Hidden>());
+  EXPECT_THAT(delegate.calls, ElementsAre("found 2.0"));
+  EXPECT_TRUE(turnMainLoopUntil([&] { return server.openConnections() == 0; }));
+}
+
 TEST_F(UpdateInstallation, LeavesNothingWhenItIsCancelledWhileTheSignatureIsChecked) {
   ASSERT_TRUE(check());
   updater->present([this](const UpdateStage& stage) {
