@@ -96,7 +96,7 @@ TEST_F(UnpublishedFileTest, CannotBePublishedIntoAFolderThatHasGone) {
 TEST_F(UnpublishedFileTest, IsWholeOrNotThereWhicheverSystemCallFails) {
   const auto operation = [this] {
     auto file = UnpublishedFile::in(folder.path());
-    return file && file->append("first ") && file->append("second") &&
+    return file && file->append("first ") && file->append("second") && file->flush() &&
            file->publish("a", ".deb").has_value();
   };
   for (const auto kind : {SystemCallFault::Kind::failsOnce, SystemCallFault::Kind::failsFromThere,
@@ -112,6 +112,15 @@ TEST_F(UnpublishedFileTest, IsWholeOrNotThereWhicheverSystemCallFails) {
       EXPECT_TRUE(isWhole || !run.answer || run.killed) << at;
     }
   }
+}
+
+TEST_F(UnpublishedFileTest, SaysWhenItCannotBeFlushed) {
+  const auto flush = [this] {
+    refuseSystemCall(SYS_fdatasync, EIO);
+    auto file = UnpublishedFile::in(folder.path());
+    return file && file->append("x") && file->flush();
+  };
+  EXPECT_FALSE(runWithFault({}, flush).answer);
 }
 
 /// The first call fails that would make a file without a name.

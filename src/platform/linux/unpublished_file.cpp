@@ -66,6 +66,10 @@ bool UnpublishedFile::inspect(const std::function<bool(std::span<const std::byte
   return answer;
 }
 
+bool UnpublishedFile::flush() const {
+  return ::fdatasync(_fd.get()) == 0;
+}
+
 void UnpublishedFile::discard() {
   if (!_temporary.empty()) ::unlink(_temporary.c_str());
   _temporary.clear();

@@ -29,6 +29,9 @@ class UnpublishedFile {
   /// Shows `look` all of what has been written. False when it cannot be read, else what `look`
   /// says.
   [[nodiscard]] bool inspect(const std::function<bool(std::span<const std::byte>)>& look) const;
+  /// Writes all that has come so far to the disk, so that publishing it does not keep anybody
+  /// waiting. False when that failed.
+  [[nodiscard]] bool flush() const;
   /// Gives it up: nothing of it stays in the folder, though it can still be inspected, meanwhile
   /// and afterwards, on another thread too.
   void discard();

@@ -47,6 +47,11 @@ UpdaterError notSaved() {
           "The update could not be saved in your Downloads folder."};
 }
 
+UpdaterError notGenuine() {
+  return notAcceptable(
+      "The update is not signed by the makers of Klarvik, so Klarvik has thrown it away.");
+}
+
 /// As far as the network itself is to blame; what the updater said already stands.
 UpdaterError during(const char* description, std::int64_t code, const UpdaterError& error) {
   return error.domain == urlErrorDomain ? wrapped(code, description, error) : error;
@@ -57,7 +62,7 @@ UpdaterError during(const char* description, std::int64_t code, const UpdaterErr
 AppcastUpdater::AppcastUpdater(const Surroundings& surroundings, UpdaterOptions options)
     : _around(surroundings), _options(std::move(options)) {}
 
-void AppcastUpdater::DeleteLater::operator()(QFutureWatcher<bool>* watcher) const {
+void AppcastUpdater::DeleteLater::operator()(Verification* watcher) const {
   watcher->disconnect();
   watcher->deleteLater();
 }
@@ -128,14 +133,14 @@ void AppcastUpdater::dismiss() {
     case Phase::offered:
       return cancel(updater_code::installationPutOff, "The update was put off.");
     case Phase::checking:
+      // What the user sees is what came of an earlier check.
+      if (!_isFollowed) return show(update_stage::Hidden{});
+      [[fallthrough]];
     case Phase::downloading:
     case Phase::verifying:
       return cancel(updater_code::installationCancelled, "The update was cancelled.");
   }
 }
-      // What the user sees is what came of an earlier check.
-      if (!_isFollowed) return show(update_stage::Hidden{});
-      [[fallthrough]];
 
 void AppcastUpdater::checkIfDue() {
   _nextLook = _around.clock.wakeAfter(betweenLooks, [this] { checkIfDue(); });
@@ -255,27 +260,27 @@ void AppcastUpdater::judgeArchive(const std::optional<UpdaterError>& error) {
   verify();
 }
 
-/// Off the main thread: a long archive takes longer than a frame.
+/// Off the main thread: reading a long archive, and writing it to the disk, takes longer than a
+/// frame.
 void AppcastUpdater::verify() {
   _fetch.reset();
   _phase = Phase::verifying;
-  const auto isGenuine = [archive = _archive, signature = _offer.signature,
+  const auto objection = [archive = _archive, signature = _offer.signature,
                           key = runningProgram().publicKey.value_or("")] {
-    return archive->inspect(
+    const bool isGenuine = archive->inspect(
         [&](std::span<const std::byte> content) { return isSignedBy(key, content, signature); });
+    if (!isGenuine) return std::optional(notGenuine());
+    return archive->flush() ? std::nullopt : std::optional(notSaved());
   };
-  _verification.reset(new QFutureWatcher<bool>);
-  connect(_verification.get(), &QFutureWatcher<bool>::finished, this,
+  _verification.reset(new Verification);
+  connect(_verification.get(), &Verification::finished, this,
           [this] { deliver(_verification->result()); });
-  _verification->setFuture(QtConcurrent::run(isGenuine));
+  _verification->setFuture(QtConcurrent::run(objection));
   show(update_stage::Verifying{_offer.version});
 }
 
-void AppcastUpdater::deliver(bool isGenuine) {
-  if (!isGenuine) {
-    return fail(notAcceptable(
-        "The update is not signed by the makers of Klarvik, so Klarvik has thrown it away."));
-  }
+void AppcastUpdater::deliver(const std::optional<UpdaterError>& objection) {
+  if (objection) return fail(*objection);
   const auto published =
       _archive->publish("Klarvik-" + _offer.version, extensionOf(_offer.address));
   if (!published) return fail(notSaved());
@@ -308,12 +313,12 @@ void AppcastUpdater::abandon() {
   _fetch.reset();
   _feed.clear();
   _offer = {};
+  if (_archive) _archive->discard();
   _archive.reset();
   _verification.reset();
   _delivered.clear();
 }
 
-  if (_archive) _archive->discard();
 void AppcastUpdater::show(const UpdateStage& stage) const {
   if (_show) _show(stage);
 }

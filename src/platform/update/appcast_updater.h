@@ -75,7 +75,7 @@ class AppcastUpdater final : public QObject, public Updater {
   [[nodiscard]] std::optional<UpdaterError> store(std::string_view bytes);
   void judgeArchive(const std::optional<UpdaterError>& error);
   void verify();
-  void deliver(bool isGenuine);
+  void deliver(const std::optional<UpdaterError>& objection);
 
   void fail(const UpdaterError& error);
   void cancel(std::int64_t code, const char* description);
@@ -97,11 +97,13 @@ class AppcastUpdater final : public QObject, public Updater {
   std::string _feed;
   UpdateOffer _offer;
   std::shared_ptr<UnpublishedFile> _archive;
+  /// Says what there is against the archive.
+  using Verification = QFutureWatcher<std::optional<UpdaterError>>;
   /// It may go while it is telling what came out.
   struct DeleteLater {
-    void operator()(QFutureWatcher<bool>* watcher) const;
+    void operator()(Verification* watcher) const;
   };
-  std::unique_ptr<QFutureWatcher<bool>, DeleteLater> _verification;
+  std::unique_ptr<Verification, DeleteLater> _verification;
   Path _delivered;  ///< logical; empty: nothing
 };
 
