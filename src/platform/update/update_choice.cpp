@@ -69,9 +69,16 @@ std::string secureAddress(const std::string& text) {
   return isSecure(url) ? text : std::string();
 }
 
+/// What follows a "+" may be any text, and is not for a title or the name of a file.
+std::string shownVersion(const AppcastItem& item) {
+  const std::string& version =
+      Version::parse(item.displayVersion) ? item.displayVersion : item.version;
+  return version.substr(0, version.find('+'));
+}
+
 std::variant<UpdateOffer, UpdaterError> offerOf(const AppcastItem& item, std::int64_t mostBytes) {
   UpdateOffer offer;
-  offer.version = Version::parse(item.displayVersion) ? item.displayVersion : item.version;
+  offer.version = shownVersion(item);
   offer.notes = item.notes;
   offer.notesLink = secureAddress(item.notesLink);
   offer.address = secureAddress(item.address);

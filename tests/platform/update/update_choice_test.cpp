@@ -74,6 +74,14 @@ TEST_F(UpdateChoice, ShowsNothingAsAVersionThatIsNone) {
   EXPECT_EQ(chosen({boastful}), "2.0");
 }
 
+TEST_F(UpdateChoice, ShowsNothingOfHowAVersionWasBuilt) {
+  AppcastItem built = item("2.0");
+  built.version = "2.0+../../built here";
+  EXPECT_EQ(chosen({built}), "2.0");
+  built.displayVersion = "2.0-beta+\u202E/etc";
+  EXPECT_EQ(chosen({built}), "2.0-beta");
+}
+
 TEST_F(UpdateChoice, PassesOverOtherSystemsAndTestChannels) {
   AppcastItem other = item("3.0");
   other.system = "windows";
