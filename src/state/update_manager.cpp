@@ -13,7 +13,12 @@ UpdateManager& UpdateManager::shared() {
 }
 
 UpdateManager::UpdateManager(const Desktop& desktop, QObject* parent)
-    : QObject(parent), _desktop(desktop), _lastCheckDate(desktop.updater.lastUpdateCheckDate()) {
+    : QObject(parent),
+      _desktop(desktop),
+      _lastCheckDate(desktop.updater.lastUpdateCheckDate()),
+      _changes(desktop.notifications.observe(defaultsChangedNotification,
+                                             [this] { followFirstRun(); })) {
+  followFirstRun();
   _desktop.updater.start(*this);
 }
 
@@ -70,9 +75,8 @@ void UpdateManager::didFinishUpdateCycle(const std::optional<UpdaterError>& erro
   });
 }
 
-/// Nobody has agreed to anything before the first run is finished.
-bool UpdateManager::mayCheckInBackground() const {
-  return _desktop.defaults.boolean("onboarding_complete", false);
+void UpdateManager::followFirstRun() {
+  _isPastFirstRun = _isPastFirstRun || _desktop.defaults.boolean("onboarding_complete", false);
 }
 
 /// Not within the updater's own call: whoever hears of the change may call the updater again.

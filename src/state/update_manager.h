@@ -58,8 +58,10 @@ class UpdateManager : public QObject, private UpdaterDelegate {
   void didNotFindUpdate() override;
   void didAbortWithError(const UpdaterError& error) override;
   void didFinishUpdateCycle(const std::optional<UpdaterError>& error) override;
-  [[nodiscard]] bool mayCheckInBackground() const override;
+  /// Nobody has agreed to anything before the first run is finished.
+  [[nodiscard]] bool mayCheckInBackground() const override { return _isPastFirstRun; }
 
+  void followFirstRun();
   void later(std::function<void()> change);
   void takeError(const UpdaterError& error);
   void setStatus(const Status& status);
@@ -68,6 +70,8 @@ class UpdateManager : public QObject, private UpdaterDelegate {
   const Desktop& _desktop;
   Status _status = Unknown{};
   std::optional<Date> _lastCheckDate;
+  bool _isPastFirstRun = false;  ///< and stays so, also when the next start is to begin with one
+  NotificationCenter::Subscription _changes;
 };
 
 }  // namespace klarvik

@@ -194,6 +194,12 @@ TEST_F(UpdateManagerTest, AllowsBackgroundChecksOnlyOnceTheFirstRunIsFinished) {
   EXPECT_TRUE(delegate().mayCheckInBackground());
 }
 
+TEST_F(UpdateManagerTest, GoesOnAllowingThemWhenTheNextStartIsToShowTheFirstRunAgain) {
+  around.defaults.set("onboarding_complete", true);
+  around.defaults.remove("onboarding_complete");
+  EXPECT_TRUE(delegate().mayCheckInBackground());
+}
+
 TEST(SharedUpdateManager, IsMadeAtFirstUseAndStopsTheUpdaterWithTheSharedState) {
   StateDesktop around;
   {
