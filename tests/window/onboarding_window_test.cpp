@@ -167,6 +167,19 @@ TEST_F(OnboardingWindow, GoesByKeyboardAloneAndNeverBack) {
   EXPECT_TRUE(is<AppState::Idle>());
 }
 
+TEST_F(OnboardingWindow, AHeldReturnGoesOnePageOn) {
+  desk->grantFullDiskAccess();
+  shared->permissionsManager().refreshAccess();
+  openWindow();
+  for (const bool isRepeated : {false, true, true}) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", isRepeated);
+    QCoreApplication::sendEvent(&window(), &press);
+    settle();
+  }
+  EXPECT_TRUE(shows("Give it Full Disk Access"));
+  EXPECT_FALSE(isStored("onboarding_complete"));
+}
+
 TEST_F(OnboardingWindow, TheNextStartShowsTheShellAndAsksForNothing) {
   goToTheLastPage();
   click("Later");

@@ -10,11 +10,17 @@ FocusScope {
 
     required property OnboardingModel model
 
+    // A key that is held must not run through all pages.
+    function proceed(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            root.model.proceed();
+    }
+
     focus: true
     Accessible.role: Accessible.Dialog
     Accessible.name: "Klarvik"
-    Keys.onReturnPressed: root.model.proceed()
-    Keys.onEnterPressed: root.model.proceed()
+    Keys.onReturnPressed: event => root.proceed(event)
+    Keys.onEnterPressed: event => root.proceed(event)
 
     // Pages that are through leave to the left, and the next one comes from the right.
     component Page: Item {
