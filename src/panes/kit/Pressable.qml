@@ -30,6 +30,12 @@ Item {
         item.anchors.fill = slot;
     }
 
+    // A key that is held is one press.
+    function answer(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            root.action();
+    }
+
     enabled: root.pressableEnabled
     activeFocusOnTab: true
     Accessible.role: Accessible.Button
@@ -37,9 +43,9 @@ Item {
     Accessible.description: root.help
     Accessible.focusable: root.activeFocusOnTab
     Accessible.onPressAction: root.action()
-    Keys.onSpacePressed: root.action()
-    Keys.onReturnPressed: root.action()
-    Keys.onEnterPressed: root.action()
+    Keys.onSpacePressed: event => root.answer(event)
+    Keys.onReturnPressed: event => root.answer(event)
+    Keys.onEnterPressed: event => root.answer(event)
     onBackgroundChanged: root.putInto(root.background, backgroundSlot)
     onContentItemChanged: root.putInto(root.contentItem, contentSlot)
     onHoveredChanged: tip.setSource(root.hovered && root.help !== "" ? "KitToolTip.qml" : "", {

@@ -63,6 +63,17 @@ TEST_F(Elements, ThatCanBePressedAnswerThePointerSpaceAndReturn) {
   }
 }
 
+TEST_F(Elements, ThatCanBePressedTakeAHeldKeyForOnePress) {
+  QQuickItem* item = showOne("PrimaryButton { objectName: 'it'; title: 'Clean' }");
+  QSignalSpy presses(item, SIGNAL(action()));
+  press(Qt::Key_Tab);
+  for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+    presses.clear();
+    hold(key);
+    EXPECT_EQ(presses.size(), 1);
+  }
+}
+
 TEST_F(Elements, ThatAreDisabledAnswerNothing) {
   QQuickItem* item =
       showOne("PrimaryButton { objectName: 'it'; title: 'Clean'; isEnabled: false }");

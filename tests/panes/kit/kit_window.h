@@ -69,6 +69,13 @@ class KitWindow : public ::testing::Test {
     click(item->mapToScene({item->width() / 2, item->height() / 2}));
   }
   void press(Qt::Key key) { QTest::keyClick(&view, key); }
+  /// For long enough to be repeated.
+  void hold(Qt::Key key) {
+    QTest::keyPress(&view, key);
+    QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(&view, &again);
+    QTest::keyRelease(&view, key);
+  }
 
   static QAccessibleInterface* accessible(QQuickItem* item) {
     return QAccessible::queryAccessibleInterface(item);
