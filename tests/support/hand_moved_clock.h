@@ -18,8 +18,8 @@ class HandMovedClock final : public Clock {
   [[nodiscard]] std::unique_ptr<Alarm> wakeAfter(std::chrono::nanoseconds delay,
                                                  std::function<void()> wake) override;
 
-  /// Moves on by `duration`. Every alarm that comes due on the way goes off at its own moment, in
-  /// order, also those that are set by an alarm.
+  /// Moves on by `duration`, or back by a negative one. Every alarm that comes due on the way goes
+  /// off at its own moment, in order, also those that are set by an alarm.
   void advance(std::chrono::nanoseconds duration);
   /// How many alarms are still to go off.
   [[nodiscard]] std::size_t pendingAlarms() const;

@@ -248,6 +248,17 @@ TEST_F(MenuBarWindow, TurningToAnotherWindowClosesItAndTheSamePressDoesNotOpenIt
   EXPECT_TRUE(isOpen());
 }
 
+TEST_F(MenuBarWindow, OpensAlsoAfterTheClockHasBeenSetBack) {
+  openPopover();
+  QWindow other;
+  other.show();
+  other.requestActivate();
+  ASSERT_TRUE(turnUntil([] { return !isOpen(); }));
+  around.clock.advance(-1h);
+  around.statusItem.press(icon);
+  EXPECT_TRUE(isOpen());
+}
+
 TEST_F(MenuBarWindow, UncheckingTheRowInSettingsWhileItIsOpenClosesIt) {
   openPopover();
   lookAt(nullptr);

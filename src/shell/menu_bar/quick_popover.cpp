@@ -45,7 +45,10 @@ bool QuickPopover::isShown() const {
 }
 
 bool QuickPopover::hasJustClosed() const {
-  return _lostFocus && _clock.now() - *_lostFocus < onePress;
+  if (!_lostFocus) return false;
+  // Negative once the clock has been set back, for however long.
+  const auto since = _clock.now() - *_lostFocus;
+  return 0ms <= since && since < onePress;
 }
 
 void QuickPopover::show(MenuBarView& content, const StatusItem::Place& icon) {
