@@ -7,6 +7,7 @@
 #include <latch>
 
 #include "engine_fixture.h"
+#include "support/faulting_file_system.h"
 
 namespace klarvik {
 namespace {
@@ -411,11 +412,21 @@ TEST_F(Deletion, EmptyingATrashThatCannotBeListedRemovesNothing) {
   EXPECT_THAT(files.removed(), IsEmpty());
 }
 
-TEST_F(Deletion, AnEmptyingThatIsStoppedBeforehandMeasuresNothingAndRemovesNothing) {
-  files.addFile(trashed / "one/a", 100);
+TEST_F(Deletion, AnEmptyingThatIsStoppedWhileItMeasuresMeasuresNoFurtherEntryAndRemovesNothing) {
+  FaultingFileSystem watched(files);
   std::stop_source stop;
-  stop.request_stop();
-  EXPECT_EQ(engine.emptyTrash(stop.get_token(), report()), 0);
+  int measured = 0;
+  for (const char* entry : {"one", "two", "three"}) {
+    files.addFile(trashed / entry / "a", 100);
+    watched.before(FaultingFileSystem::Operation::walk, trashed / entry, [&] {
+      ++measured;
+      stop.request_stop();
+    });
+  }
+  Platform watchedPlatform = platformOn(watched, trash);
+  ScannerEngine watchedEngine{watchedPlatform};
+  EXPECT_EQ(watchedEngine.emptyTrash(stop.get_token(), report()), 0);
+  EXPECT_EQ(measured, 1);
   EXPECT_THAT(reports, IsEmpty());
   EXPECT_THAT(files.removed(), IsEmpty());
 }

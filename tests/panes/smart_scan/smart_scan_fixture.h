@@ -30,6 +30,12 @@ class SmartScanFixture : public PaneFixture {
     return turnUntil([this] { return is<AppState::CleanDone>(); });
   }
 
+  void selectEverything() {
+    for (const CleanCategory& category : appState.scanResults()) {
+      appState.setSelection(category.items, true);
+    }
+  }
+
   QVariant reviewed(int row, ReviewTable::Role role) {
     return pane.reviewTable()->index(row).data(role);
   }

@@ -100,9 +100,7 @@ TEST_F(SmartScanPaneModel, SelectsOnlySafeItemsWhenAskedTo) {
   addCache("a");
   addArchive("Old");
   ASSERT_TRUE(scan());
-  for (const CleanCategory& category : appState.scanResults()) {
-    appState.setSelection(category.items, true);
-  }
+  selectEverything();
   ASSERT_EQ(appState.selectedCount(), 2);
   pane.selectSafeOnly();
   EXPECT_EQ(appState.selectedCount(), 1);
@@ -129,9 +127,7 @@ TEST_F(SmartScanPaneModel, TellsWhatIsSelectedAndWhatItIsMarkedAs) {
   EXPECT_EQ(pane.footer()->selectionSummary(), selected + " selected · 1 items");
   EXPECT_EQ(pane.footer()->hint(), "Everything selected is marked Safe. Items move to the Trash.");
   EXPECT_EQ(pane.footer()->shown().buttonLabel, "Clean " + selected);
-  for (const CleanCategory& category : appState.scanResults()) {
-    appState.setSelection(category.items, true);
-  }
+  selectEverything();
   EXPECT_EQ(pane.footer()->hint(),
             "Your selection includes Review items. Items move to the Trash.");
 }
@@ -161,9 +157,7 @@ TEST_F(SmartScanPaneModel, AScanThatBeginsElsewhereWithdrawsTheQuestion) {
   addArchive("Old");
   addCache("com.example");
   ASSERT_TRUE(scan());
-  for (const CleanCategory& category : appState.scanResults()) {
-    appState.setSelection(category.items, true);
-  }
+  selectEverything();
   pane.footer()->clean();
   EXPECT_TRUE(pane.isConfirming());
   ASSERT_TRUE(scan());
