@@ -17,6 +17,7 @@
 #include <utility>
 
 #include "own_time.h"
+#include "platform/allocator.h"
 #include "remembered_desktop.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
@@ -64,7 +65,7 @@ void furnish(MemoryFileSystem& files) {
     const std::string name = std::to_string(scattered) + " recording " + std::to_string(number);
     files.addFile("/Users/ann/Documents/Projects/" + std::to_string(number % 100) + "/" + name +
                       "." + extensions[number % extensions.size()],
-                  200'000'000 + scattered);
+                  std::int64_t{200'000'000} + scattered);
   }
 }
 
@@ -157,6 +158,7 @@ bool measureWindow(RememberedDesktop& around) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
+  putFreedMemoryTogetherAtOnce();
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
   const QGuiApplication application(argumentCount, arguments);

@@ -8,16 +8,23 @@ namespace klarvik {
 
 void EngineWork::start(std::function<void()> body, std::coroutine_handle<> waiter,
                        Priority priority) {
+  struct Work {
+    std::function<void()> body;
+    // A thread may take a while to give its memory back, so the main thread never waits for that.
+    std::vector<std::jthread> toBeJoined;
+  };
   const std::uint64_t number = _callsEverStarted++;
   Call& call = _calls.emplace(number, Call{{}, waiter}).first->second;
-  const auto work = std::make_shared<const std::function<void()>>(std::move(body));
+  const auto work = std::make_shared<Work>(Work{std::move(body), std::exchange(_ending, {})});
   const auto run = [this, number, work] {
-    (*work)();
+    work->body();
+    work->body = nullptr;
     QMetaObject::invokeMethod(
         this, [this, number] { resume(number); }, Qt::QueuedConnection);
+    work->toBeJoined.clear();
   };
   try {
-    call.thread = std::thread([run, priority] {
+    call.thread = std::jthread([run, priority] {
       if (priority == Priority::background) becomeBackgroundThread();
       run();
     });
@@ -29,14 +36,19 @@ void EngineWork::start(std::function<void()> body, std::coroutine_handle<> waite
 }
 
 void EngineWork::finish() {
-  while (!_calls.empty()) resume(_calls.begin()->first);
+  while (!_calls.empty()) {
+    auto& [number, call] = *_calls.begin();
+    if (call.thread.joinable()) call.thread.join();
+    resume(number);
+  }
+  _ending.clear();
 }
 
 void EngineWork::resume(std::uint64_t number) {
   auto call = _calls.extract(number);
   // `finish` may have been quicker than the main loop.
   if (call.empty()) return;
-  if (call.mapped().thread.joinable()) call.mapped().thread.join();
+  _ending.push_back(std::move(call.mapped().thread));
   call.mapped().waiter.resume();
 }
 

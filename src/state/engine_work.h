@@ -10,6 +10,7 @@
 #include <thread>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace klarvik {
 
@@ -51,7 +52,7 @@ class EngineWork final : public QObject {
 
  private:
   struct Call {
-    std::thread thread;
+    std::jthread thread;
     std::coroutine_handle<> waiter;
   };
 
@@ -59,6 +60,7 @@ class EngineWork final : public QObject {
 
   std::uint64_t _callsEverStarted = 0;
   std::map<std::uint64_t, Call> _calls;
+  std::vector<std::jthread> _ending;  ///< their calls came back
 };
 
 /// What `onEngineThread` answers; it is only good for being awaited at once. Compilers move it on

@@ -76,6 +76,32 @@ TEST_F(EngineWorkTest, ManyLongCallsKeepNoOtherWaiting) {
   EXPECT_TRUE(turnMainLoopUntil([&] { return finished == 50; }));
 }
 
+TEST_F(EngineWorkTest, AThreadThatTakesLongToEndKeepsNobodyWaiting) {
+  struct SlowEnd {
+    ~SlowEnd() {
+      if (letGo != nullptr) letGo->acquire();
+    }
+    std::binary_semaphore* letGo = nullptr;
+  };
+  std::binary_semaphore letGo(0);
+  bool isBack = false;
+  const auto call = [&]() -> QCoro::Task<> {
+    auto body = [&letGo] {
+      thread_local SlowEnd end;
+      end.letGo = &letGo;
+      return true;
+    };
+    isBack = co_await onEngineThread(*work, std::move(body));
+  };
+  call();
+  ASSERT_TRUE(turnMainLoopUntil([&] { return isBack; }));
+  add(1, 2);
+  ASSERT_TRUE(turnMainLoopUntil([&] { return sum == 3; }));
+  letGo.release();
+  work->finish();
+  EXPECT_TRUE(!letGo.try_acquire());
+}
+
 TEST_F(EngineWorkTest, ItsEndWaitsForWhatIsUnderWayAndResumesWhoeverWaits) {
   std::binary_semaphore letGo(0);
   wait(letGo);

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/allocator.h"
 #include "platform/desktop/desktop_platform.h"
 #include "platform/desktop/single_instance.h"
 #include "shell/klarvik_app.h"
@@ -35,6 +36,7 @@ int endAfter(klarvik::SingleInstance::Claim claim) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
+  klarvik::putFreedMemoryTogetherAtOnce();
   const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
   QApplication application(argumentCount, arguments);
   qInstallMessageHandler(usual);

@@ -1,0 +1,13 @@
+#include "platform/allocator.h"
+
+#include <malloc.h>
+
+namespace klarvik {
+
+void putFreedMemoryTogetherAtOnce() {
+#ifdef __GLIBC__
+  ::mallopt(M_MXFAST, 0);
+#endif
+}
+
+}  // namespace klarvik
