@@ -12,4 +12,9 @@ PlaceCheck placeCheck(const FileSystem& files, const Path& named, const Deletion
   };
 }
 
+bool removeIfAllowed(FileSystem& files, const Path& path, const DeletionScope& scope) {
+  const Path named = standardizedPath(path);
+  return mayRemove(files, named, scope) && files.remove(named, placeCheck(files, named, scope));
+}
+
 }  // namespace klarvik

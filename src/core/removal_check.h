@@ -17,4 +17,8 @@ namespace klarvik {
 [[nodiscard]] PlaceCheck placeCheck(const FileSystem& files, const Path& named,
                                     const DeletionScope& scope);
 
+/// Removes `path`, however it is spelled, if both the place it names and the place it really leads
+/// to are allowed. False when it is not all gone, whatever the reason.
+[[nodiscard]] bool removeIfAllowed(FileSystem& files, const Path& path, const DeletionScope& scope);
+
 }  // namespace klarvik

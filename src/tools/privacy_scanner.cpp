@@ -179,14 +179,8 @@ PrivacyClearance PrivacyScanner::clearItem(const PrivacyItem& item) {
     _pasteboard.clear();
     return {.cleaned = 1};
   }
-  if (item.path && !remove(*item.path)) return {};
+  if (item.path && !removeIfAllowed(_files, *item.path, DeletionScope::general())) return {};
   return {.cleaned = 1, .freed = item.size};
-}
-
-bool PrivacyScanner::remove(const Path& path) {
-  const Path named = standardizedPath(path);
-  const auto scope = DeletionScope::general();
-  return mayRemove(_files, named, scope) && _files.remove(named, placeCheck(_files, named, scope));
 }
 
 }  // namespace klarvik

@@ -45,7 +45,6 @@ class PrivacyScanner {
 
  private:
   [[nodiscard]] PrivacyClearance clearItem(const PrivacyItem& item);
-  [[nodiscard]] bool remove(const Path& path);
 
   FileSystem& _files;
   Pasteboard& _pasteboard;

@@ -54,11 +54,6 @@ std::optional<AppInfo> appAt(const FileSystem& files, const Path& path) {
                  .appSize = contentSize(files, path)};
 }
 
-bool removeResidual(FileSystem& files, const Path& url, const DeletionScope& scope) {
-  const Path named = standardizedPath(url);
-  return mayRemove(files, named, scope) && files.remove(named, placeCheck(files, named, scope));
-}
-
 /// No rule is asked for an application that the user chose to remove: it can be put back.
 bool moveToTrash(Trash& trash, const Path& app) {
   const Path named = standardizedPath(app);
@@ -105,7 +100,7 @@ std::int64_t UninstallerEngine::uninstall(const AppInfo& app,
   const auto scope = DeletionScope::residual(residualIdentifiers(app));
   std::int64_t freed = 0;
   for (const ResidualFile& residual : residuals) {
-    if (removeResidual(_platform.files, residual.url, scope))
+    if (removeIfAllowed(_platform.files, residual.url, scope))
       freed = addBytes(freed, residual.size);
   }
   if (moveToTrash(_platform.trash, app.appURL)) freed = addBytes(freed, app.appSize);
