@@ -9,6 +9,9 @@ namespace klarvik::probe {
 namespace {
 
 constexpr auto anyNumber = std::numeric_limits<std::size_t>::max();
+// What an interrupt does to a command: whether it can be stopped.
+constexpr bool stops = true;
+constexpr bool ends = false;
 
 }  // namespace
 
@@ -30,26 +33,34 @@ std::span<const Command> commands() {
        {"-0"},
        1,
        anyNumber,
+       ends,
        guard},
-      {"measure", "PATH", {}, 1, 1, measure},
-      {"scan", "", {}, 0, 0, scan},
-      {"clean", "[--no-trash] [--only-safe]", {"--no-trash", "--only-safe"}, 0, 0, clean},
-      {"trash-files", "[-0]  < paths", {"-0"}, 0, 0, trashFiles},
-      {"restore", "[-0]  < trashed path and original path, in turn", {"-0"}, 0, 0, restore},
-      {"empty-trash", "", {}, 0, 0, emptyTrash},
-      {"duplicates", "MINSIZE DIR...", {}, 2, anyNumber, duplicates},
-      {"apps", "", {}, 0, 0, apps},
-      {"residuals", "BUNDLE-ID", {}, 1, 1, residuals},
-      {"uninstall", "BUNDLE-ID", {}, 1, 1, uninstall},
+      {"measure", "PATH", {}, 1, 1, ends, measure},
+      {"scan", "", {}, 0, 0, stops, scan},
+      {"clean", "[--no-trash] [--only-safe]", {"--no-trash", "--only-safe"}, 0, 0, stops, clean},
+      {"trash-files", "[-0]  < paths", {"-0"}, 0, 0, stops, trashFiles},
+      {"restore", "[-0]  < trashed path and original path, in turn", {"-0"}, 0, 0, stops, restore},
+      {"empty-trash", "", {}, 0, 0, stops, emptyTrash},
+      {"duplicates", "MINSIZE DIR...", {}, 2, anyNumber, ends, duplicates},
+      {"apps", "", {}, 0, 0, ends, apps},
+      {"residuals", "BUNDLE-ID", {}, 1, 1, ends, residuals},
+      {"uninstall", "BUNDLE-ID", {}, 1, 1, stops, uninstall},
       {"large",
        "[--lists] BYTES  (--lists: each report with its whole list)",
        {"--lists"},
        1,
        1,
+       stops,
        large},
-      {"privacy", "[clear]  (without the clipboard: a terminal has none)", {}, 0, 1, privacy},
-      {"system-data", "", {}, 0, 0, systemData},
-      {"composition", "", {}, 0, 0, composition},
+      {"privacy",
+       "[clear]  (without the clipboard: a terminal has none)",
+       {},
+       0,
+       1,
+       stops,
+       privacy},
+      {"system-data", "", {}, 0, 0, ends, systemData},
+      {"composition", "", {}, 0, 0, stops, composition},
   });
   return all;
 }

@@ -13,7 +13,7 @@ namespace klarvik::probe {
 /// What a command is run with.
 struct Invocation {
   const Platform& platform;
-  std::stop_token stop;                  ///< requested by SIGINT
+  std::stop_token stop;                  ///< requested by SIGINT where the command can be stopped
   std::vector<std::string> arguments{};  ///< what follows the command's name, options left out
   std::vector<std::string> options{};    ///< what begins with a hyphen
 
@@ -29,6 +29,7 @@ struct Command {
   std::vector<std::string_view> options;
   std::size_t fewestArguments;
   std::size_t mostArguments;
+  bool canBeStopped;              ///< else it only reads, and SIGINT may end it anywhere
   int (*run)(const Invocation&);  ///< answers the exit status
 };
 

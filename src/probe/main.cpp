@@ -80,8 +80,9 @@ void printUsage() {
   }
 }
 
-/// From now on, in all threads, SIGINT asks for a stop; a second one ends the program on the spot.
-std::stop_token stopOnInterrupt() {
+/// From now on, in all threads: SIGINT asks a command that can be stopped for a stop. Any other
+/// command, and one that has been asked, it ends on the spot.
+std::stop_token stopOnInterrupt(bool canBeStopped) {
   sigset_t interrupt;
   sigemptyset(&interrupt);
   sigaddset(&interrupt, SIGINT);
@@ -89,11 +90,13 @@ std::stop_token stopOnInterrupt() {
 
   std::stop_source source;
   auto stop = source.get_token();
-  std::thread([interrupt, source]() mutable {
+  std::thread([interrupt, source, canBeStopped]() mutable {
     int signal = 0;
     sigwait(&interrupt, &signal);
-    source.request_stop();
-    sigwait(&interrupt, &signal);
+    if (canBeStopped) {
+      source.request_stop();
+      sigwait(&interrupt, &signal);
+    }
     _exit(interrupted);
   }).detach();
   return stop;
@@ -108,7 +111,7 @@ int run(std::span<char*> words) {
   LinuxPlatform machine(request->root, request->home);
   const Platform platform = machine.platform();
   return request->command->run({.platform = platform,
-                                .stop = stopOnInterrupt(),
+                                .stop = stopOnInterrupt(request->command->canBeStopped),
                                 .arguments = std::move(request->arguments),
                                 .options = std::move(request->options)});
 }

@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "core/junk_model.h"
 #include "probe/command.h"
 #include "probe/report.h"
 #include "tools/privacy_scanner.h"
@@ -24,6 +25,18 @@ Report itemReport(const PrivacyItem& item) {
           {"selected", item.isSelected}};
 }
 
+void clear(const std::vector<PrivacyItem>& items, PrivacyScanner& scanner,
+           const std::stop_token& stop) {
+  PrivacyClearance sums;
+  for (const PrivacyItem& item : items) {
+    if (stop.stop_requested()) break;
+    const PrivacyClearance done = scanner.clear({item});
+    sums.cleaned += done.cleaned;
+    sums.freed = addBytes(sums.freed, done.freed);
+  }
+  print({{"event", "cleared"}, {"cleaned", sums.cleaned}, {"freed", sums.freed}});
+}
+
 }  // namespace
 
 int privacy(const Invocation& call) {
@@ -40,10 +53,7 @@ int privacy(const Invocation& call) {
   Report items = Report::array();
   for (const PrivacyItem& item : found) items.push_back(itemReport(item));
   print({{"event", "result"}, {"items", std::move(items)}});
-  if (clears) {
-    const PrivacyClearance done = scanner.clear(found);
-    print({{"event", "cleared"}, {"cleaned", done.cleaned}, {"freed", done.freed}});
-  }
+  if (clears) clear(found, scanner, call.stop);
   return 0;
 }
 

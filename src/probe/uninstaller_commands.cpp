@@ -60,7 +60,8 @@ int uninstall(const Invocation& call) {
   if (!app) return noSuchApp;
   const std::vector<ResidualFile> found = engine.findResiduals(*app);
   for (const ResidualFile& residual : found) print(residualReport(residual));
-  print({{"event", "result"}, {"freed", engine.uninstall(*app, found)}});
+  const auto freed = call.stop.stop_requested() ? 0 : engine.uninstall(*app, found);
+  print({{"event", "result"}, {"freed", freed}});
   return 0;
 }
 

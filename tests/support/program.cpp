@@ -93,6 +93,10 @@ void Program::send(int signal) const {
   require(::kill(_process, signal) == 0, "kill");
 }
 
+std::filesystem::path Program::file() const {
+  return std::filesystem::read_symlink("/proc/" + std::to_string(_process) + "/exe");
+}
+
 bool Program::hasPending(int signal) const {
   constexpr int hexadecimal = 16;
   std::ifstream status("/proc/" + std::to_string(_process) + "/status");

@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,6 +26,8 @@ class Program {
   [[nodiscard]] std::vector<std::string> readToEnd();
 
   void send(int signal) const;
+  /// The file that it runs: another one once it has handed itself over.
+  [[nodiscard]] std::filesystem::path file() const;
   /// Whether a signal has been sent that the program has not taken yet.
   [[nodiscard]] bool hasPending(int signal) const;
   /// Waits for its end. The exit status, or minus the signal that ended it.
