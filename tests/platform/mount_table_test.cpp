@@ -30,6 +30,13 @@ TEST(MountTable, TakesABackslashWithoutDigitsAsItself) {
   EXPECT_EQ(mounts[2].place, "/c\\777");
 }
 
+TEST(MountTable, ABackslashWithTooFewDigitsAtTheEndOfAPlaceReadsNothingBeyondIt) {
+  const auto mounts = mountTableFrom("1 1 0:1 / /a\\51\n2 1 0:1 / /b\\7 rw\n");
+  ASSERT_EQ(mounts.size(), 2u);
+  EXPECT_EQ(mounts[0].place, "/a\\51");
+  EXPECT_EQ(mounts[1].place, "/b\\7");
+}
+
 TEST(MountTable, AgreesWithWhatTheSystemTellsOfTheRoot) {
   const auto mounts = readMountTable();
   const auto root = mountOfEntry(AT_FDCWD, "/");

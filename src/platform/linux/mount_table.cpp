@@ -38,13 +38,17 @@ std::optional<Number> numberIn(std::string_view digits, int base) {
 }
 
 // Blanks, line ends and backslashes stand as a backslash and three octal digits.
+constexpr std::size_t kEscapedLength = 4;
+
 std::string unescaped(std::string_view text) {
   std::string bytes;
   while (!text.empty()) {
-    const auto escaped =
-        text.front() == '\\' ? numberIn<unsigned char>(text.substr(1, 3), 8) : std::nullopt;
+    const bool mayBeEscaped = text.front() == '\\' && text.size() >= kEscapedLength;
+    const auto escaped = mayBeEscaped
+                             ? numberIn<unsigned char>(text.substr(1, kEscapedLength - 1), 8)
+                             : std::nullopt;
     bytes += escaped ? static_cast<char>(*escaped) : text.front();
-    text.remove_prefix(escaped ? 4 : 1);
+    text.remove_prefix(escaped ? kEscapedLength : 1);
   }
   return bytes;
 }
