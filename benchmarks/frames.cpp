@@ -87,7 +87,7 @@ QQuickItem* reviewList(QQuickItem& item) {
   return nullptr;
 }
 
-void useTheWindow(KlarvikApp& app) {
+void useTheWindow(KlarvikApp& app, Navigator& navigator) {
   AppState& state = app.appState();
   QQuickItem* list = reviewList(*app.window(mainWindowId)->contentItem());
   if (list == nullptr) {
@@ -113,6 +113,13 @@ void useTheWindow(KlarvikApp& app) {
     list->setProperty("contentY", list->property("contentHeight").toDouble() - list->height());
   });
   frames.measure("deselect one", [&] { table.toggleSelection(table.rowCount() - 1); });
+  for (const bool isFirstVisit : {true, false}) {
+    for (const Section section : allSections()) {
+      frames.measure(isFirstVisit ? "section, first" : "section, again",
+                     [&] { navigator.setSection(section); });
+    }
+  }
+  navigator.setSection(Section::smartScan);
   frames.measure("start of a clean", [&] { state.performClean(); });
   frames.measure(
       "rest of it", [] {}, isCleanDone);
@@ -140,6 +147,6 @@ int main(int argumentCount, char** arguments) {
     return 1;
   }
 
-  useTheWindow(app);
+  useTheWindow(app, shared.navigator());
   return 0;
 }

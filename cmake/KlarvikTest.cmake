@@ -1,9 +1,10 @@
-# klarvik_test(NAME LINKS target... [APPLICATION class] [LABEL label])
+# klarvik_test(NAME LINKS target... [APPLICATION class] [LABEL label] [FUZZ_SOURCES file...])
 #
 # A GoogleTest program of every *_test.cpp in the current folder; each of its tests is one of
 # CTest's. APPLICATION: the class of the application object that Qt's own classes need, such as
-# QCoreApplication; nothing is shown on a display. LABEL: "concurrent" has the tests run under ThreadSanitizer as well. Under
-# AddressSanitizer, where a start takes longer than most tests, the whole program is one of CTest's.
+# QCoreApplication; nothing is shown on a display. LABEL: "concurrent" has the tests run under
+# ThreadSanitizer as well. Under AddressSanitizer, where a start takes longer than most tests, the
+# whole program is one of CTest's.
 #
 # Every NAME_fuzz.cpp there (a LLVMFuzzerTestOneInput) becomes a fuzz target in the "fuzz" preset. It
 # is run from the samples in the folder NAME_corpus beside it, where there is one, with the same seed

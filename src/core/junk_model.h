@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/entry_identity.h"
 #include "core/uuid.h"
 #include "platform/application_info.h"
 #include "platform/file_system.h"
@@ -54,6 +55,8 @@ struct JunkItem {
   Path path;
   std::int64_t size = 0;  ///< bytes that the removal should reclaim
   std::optional<Date> modifiedDate = std::nullopt;
+  /// Of an entry of the Trash, whose name may be given to another thing at any time.
+  std::optional<EntryIdentity> identity = std::nullopt;
 
   bool operator==(const JunkItem&) const = default;
 };

@@ -39,6 +39,12 @@ bool removeSnapshot(CommandRunner& commands, const Path& named) {
   return command && !runShell(commands, *command).empty();
 }
 
+/// Another thing may have come to the Trash under the name of one that went, be it by the very
+/// clean that is under way.
+bool isTheOneThatWasFound(const FileSystem& files, const JunkItem& item, const Path& named) {
+  return !item.identity || item.identity == entryIdentity(files, named);
+}
+
 }  // namespace
 
 DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
@@ -53,7 +59,9 @@ DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
   if (isSnapshotPath(named)) {
     removed = removeSnapshot(_platform.commands, named);
   } else if (_platform.trash.contains(named)) {
-    removed = _platform.trash.remove(named, check);
+    removed = _platform.trash.remove(named, [&](const Path& real) {
+      return check(real) && isTheOneThatWasFound(_platform.files, item, named);
+    });
   } else if (!useTrash) {
     removed = _platform.files.remove(named, check);
   } else {
@@ -118,9 +126,11 @@ std::int64_t ScannerEngine::emptyTrash(std::stop_token stop, const DeletionSink&
   std::vector<JunkItem> entries;
   for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
     if (stop.stop_requested()) break;
+    const auto identity = entryIdentity(_platform.files, entry);
     entries.push_back({.name = entry.filename().native(),
                        .path = entry,
-                       .size = allocatedSize(_platform.files, entry)});
+                       .size = allocatedSize(_platform.files, entry),
+                       .identity = identity});
   }
   std::int64_t reclaimed = 0;
   for (const DeletionOutcome& outcome :

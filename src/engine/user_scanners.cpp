@@ -100,7 +100,9 @@ std::string CategoryScanners::backupName(const JunkItem& folder) const {
 CategoryScanners::Items CategoryScanners::trash() const {
   Items items;
   for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
+    const auto identity = entryIdentity(_platform.files, entry);
     items.push_back(datedItem(entry.filename().native(), entry, sizeOf(entry)));
+    items.back().identity = identity;
   }
   return items;
 }

@@ -31,7 +31,8 @@ class Trash {
   virtual std::optional<Path> moveToTrash(const Path& item, const PlaceCheck& mayMove) = 0;
   /// Moves a trashed item back, making the folders above `original` again where they are gone, and
   /// drops its record. False when something stands at `original`, when the folder there has become
-  /// a link to elsewhere, or when the move fails; the item then stays in the Trash.
+  /// a link to elsewhere, when the record names another place, or when the move fails; the item
+  /// then stays in the Trash.
   virtual bool putBack(const Path& trashed, const Path& original) = 0;
   /// Removes for good an item that lies in a Trash, and its record.
   virtual bool remove(const Path& trashed, const PlaceCheck& mayRemove) = 0;

@@ -3,6 +3,7 @@
 #include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
+#include <unicode/uchar.h>
 #include <unicode/utext.h>
 #include <unicode/utf8.h>
 
@@ -34,6 +35,18 @@ void takeApart(std::string_view text, OnText onText, OnRubbish onRubbish) {
     stretchStart = next;
   }
   if (next > stretchStart) onText(text.substr(stretchStart));
+}
+
+bool breaksTheLine(UChar32 codePoint) {
+  switch (u_charType(codePoint)) {
+    case U_CONTROL_CHAR:
+    case U_LINE_SEPARATOR:
+    case U_PARAGRAPH_SEPARATOR:
+      return true;
+    default:
+      return (codePoint >= 0x202A && codePoint <= 0x202E) ||
+             (codePoint >= 0x2066 && codePoint <= 0x2069);
+  }
 }
 
 std::size_t charactersOfText(std::string_view text) {
@@ -93,9 +106,16 @@ bool isUtf8(std::string_view bytes) {
 
 std::string printable(std::string_view bytes) {
   std::string result;
-  takeApart(
-      bytes, [&](std::string_view stretch) { result += stretch; },
-      [&](std::string_view) { result += "\uFFFD"; });
+  std::size_t next = 0;
+  while (next < bytes.size()) {
+    const std::size_t start = next;
+    const UChar32 codePoint = takeCodePoint(bytes, next);
+    if (codePoint < 0 || breaksTheLine(codePoint)) {
+      result += "\uFFFD";
+    } else {
+      result += bytes.substr(start, next - start);
+    }
+  }
   return result;
 }
 

@@ -19,8 +19,9 @@ namespace klarvik {
 
 [[nodiscard]] bool isUtf8(std::string_view bytes);
 
-/// `bytes` with every sequence that is not UTF-8 replaced by U+FFFD: how a name of the disk is
-/// made fit for the screen.
+/// How a name of the disk is made fit for the screen: U+FFFD stands for every sequence that is not
+/// UTF-8, and for every character that would break the line in two or turn the text around it the
+/// other way.
 [[nodiscard]] std::string printable(std::string_view bytes);
 
 }  // namespace klarvik

@@ -14,9 +14,6 @@ using Report = nlohmann::ordered_json;
 /// Bytes of the disk: a text where they are UTF-8, else {"bytes": their hexadecimal digits}.
 [[nodiscard]] Report textReport(std::string_view bytes);
 [[nodiscard]] Report pathReport(const std::optional<Path>& path);
-/// Nanoseconds since 1970.
-[[nodiscard]] Report dateReport(const std::optional<Date>& date);
-
 /// Nanoseconds since 1970-01-01.
 [[nodiscard]] Report dateReport(const std::optional<Date>& date);
 

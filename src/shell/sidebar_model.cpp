@@ -111,7 +111,7 @@ SidebarModel::Row SidebarModel::heading(std::string_view group) const {
 }
 
 SidebarModel::Row SidebarModel::row(Section section) const {
-  const std::string key(rawValue(section));
+  const std::string key = toolKey(section);
   const ToolActivity::State activity = _activity.state(key);
   const sidebar::RightHand rightHand = sidebar::rightHand(
       activity,

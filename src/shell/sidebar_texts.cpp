@@ -31,7 +31,7 @@ std::string percent(double fraction) {
 
 /// The tool's total, when it has one that is worth a word.
 const ScanCoordinator::Total* shownTotal(Section section, const Totals& totals) {
-  const auto found = totals.find(std::string(rawValue(section)));
+  const auto found = totals.find(toolKey(section));
   return found != totals.end() && found->second.bytes >= 1 ? &found->second : nullptr;
 }
 

@@ -12,11 +12,6 @@ namespace klarvik {
 
 namespace {
 
-const std::string& smartScanKey() {
-  static const std::string key(rawValue(Section::smartScan));
-  return key;
-}
-
 /// A category never changes once it is made, so its identity stands for its content.
 bool sameCategories(const std::vector<CleanCategory>& left,
                     const std::vector<CleanCategory>& right) {
@@ -54,7 +49,7 @@ void AppState::startScan() {
   if (changeTo(_expandedCategories, {})) emit expandedCategoriesChanged();
   if (changeTo(_scanActivity, {})) emit scanActivityChanged();
   setLastClean(std::nullopt);
-  _activity.start(smartScanKey());
+  _activity.start(toolKey(Section::smartScan));
   _scanTask = std::stop_source();
   runScan(_scanTask.get_token());
 }
@@ -105,7 +100,7 @@ void AppState::apply(ScanReport report) {
 
 void AppState::applyUpdate(const ScanUpdate& update) {
   setScanState(Scanning{update.fraction, update.categoryName});
-  _activity.setProgress(smartScanKey(), update.fraction);
+  _activity.setProgress(toolKey(Section::smartScan), update.fraction);
   if (changeTo(_scanActivity,
                {update.categoryName, update.currentPath, update.partialItems, update.partialBytes,
                 update.completedCategories, update.totalCategories})) {
@@ -117,6 +112,10 @@ void AppState::applyCategory(FoundCategory found) {
   const bool isSafe = safety(found.category.type) == SafetyLevel::safe;
   _selectedItems.add(found.category, std::move(found.items));
   const bool selects = isSafe && _selectedItems.setAll(found.category.id, true);
+  // A clean that was started meanwhile reads the former results on a thread of its own.
+  if (_scanResults.use_count() > 1) {
+    _scanResults = std::make_shared<std::vector<CleanCategory>>(*_scanResults);
+  }
   _scanResults->push_back(std::move(found.category));
   emit scanResultsChanged();
   recomputeTotal();
@@ -126,14 +125,14 @@ void AppState::applyCategory(FoundCategory found) {
 void AppState::finishScan(Found found) {
   setResults(std::move(found.categories), std::move(found.safeItems));
   setScanState(Done{});
-  _activity.finish(smartScanKey(), _desktop.formatting.byteText(_totalSpaceFreeable));
+  _activity.finish(toolKey(Section::smartScan), _desktop.formatting.byteText(_totalSpaceFreeable));
   writeTotal();
   _history.recordScan(*_scanResults);
 }
 
 void AppState::cancelScan() {
   _scanTask.request_stop();
-  _activity.clear(smartScanKey());
+  _activity.clear(toolKey(Section::smartScan));
   recomputeTotal();
   if (_scanResults->empty()) {
     setScanState(Idle{});
@@ -145,7 +144,7 @@ void AppState::cancelScan() {
 QCoro::Task<> AppState::autoScanIfNeeded(std::stop_token stop) {
   if (!hasNothingToShow()) co_return;
   const LinkedStop either(std::move(stop), _lifetime.get_token());
-  if (!co_await _coordinator.beginAutoScan(smartScanKey(), either.token())) co_return;
+  if (!co_await _coordinator.beginAutoScan(toolKey(Section::smartScan), either.token())) co_return;
   if (!hasNothingToShow()) {
     _coordinator.finishTurn();
     co_return;
@@ -208,7 +207,7 @@ void AppState::recomputeTotal() {
 }
 
 void AppState::writeTotal() {
-  _coordinator.setTotal(smartScanKey(),
+  _coordinator.setTotal(toolKey(Section::smartScan),
                         {_totalSpaceFreeable, _selectedItems.total().count, _desktop.clock.now()});
 }
 

@@ -68,8 +68,7 @@ QCoro::Task<> AppState::runClean(Results results, ItemSelection selection,
   const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
   ScannerEngine engine(_desktop);
   ReportMailbox<DeletionProgress> reports(
-      _desktop.clock, [this](DeletionProgress progress) { setCleanProgress(std::move(progress)); },
-      [](const DeletionProgress&, const DeletionProgress&) { return true; });
+      _desktop.clock, [this](DeletionProgress progress) { setCleanProgress(std::move(progress)); });
   const bool useTrash = _desktop.defaults.boolean("useTrash", true);
   auto clean = [&engine, &reports, &selection, useTrash, results = std::move(results),
                 token = stop.token()] {
@@ -172,9 +171,12 @@ QCoro::Task<std::int64_t> AppState::restoreLastClean() {
   std::int64_t restored = 0;
   if (!restorable.empty()) {
     ScannerEngine engine(_desktop);
-    auto restore = [&engine, &restorable, stop = _lifetime.get_token()] {
+    auto restore = [&engine, inOrder = restorable, stop = _lifetime.get_token()]() mutable {
+      // A folder comes before what lay in it: what returns makes the folders above it again, and
+      // such a folder would be in the way of the one that was there.
+      std::ranges::sort(inOrder);
       std::int64_t count = 0;
-      for (const auto& [original, trashed] : restorable) {
+      for (const auto& [original, trashed] : inOrder) {
         if (stop.stop_requested()) break;
         if (engine.restoreItem(trashed, original)) ++count;
       }

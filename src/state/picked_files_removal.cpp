@@ -13,24 +13,23 @@ PickedFilesRemoval::~PickedFilesRemoval() {
   finish();
 }
 
-QCoro::Task<std::set<Path>> PickedFilesRemoval::trash(std::vector<PickedFile> files,
-                                                      ScannerEngine::PickedFileCheck check) {
+QCoro::Task<std::set<Path>> PickedFilesRemoval::trash(std::size_t count,
+                                                      std::function<Pick()> pick) {
   _isRunning = true;
-  _progress = DeletionProgress{.total = static_cast<std::int64_t>(files.size()), .currentName = ""};
+  _progress = DeletionProgress{.total = static_cast<std::int64_t>(count), .currentName = ""};
   _stop = std::stop_source();
   emit changed();
 
   ScannerEngine engine(_desktop);
-  ReportMailbox<DeletionProgress> reports(
-      _desktop.clock,
-      [this](DeletionProgress progress) {
-        _progress = std::move(progress);
-        emit changed();
-      },
-      [](const DeletionProgress&, const DeletionProgress&) { return true; });
-  auto move = [&engine, &reports, &files, &check, stop = _stop.get_token()] {
+  ReportMailbox<DeletionProgress> reports(_desktop.clock, [this](DeletionProgress progress) {
+    _progress = std::move(progress);
+    emit changed();
+  });
+  auto move = [&engine, &reports, &pick, stop = _stop.get_token()] {
+    const Pick picked = pick();
     return engine.trashFiles(
-        files, stop, [&](const DeletionProgress& progress) { reports.post(progress); }, check);
+        picked.files, stop, [&](const DeletionProgress& progress) { reports.post(progress); },
+        picked.check);
   };
   std::set<Path> moved = co_await onEngineThread(_work, std::move(move));
   reports.empty();

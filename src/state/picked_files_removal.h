@@ -2,6 +2,8 @@
 
 #include <QCoro/QCoroTask>
 #include <QObject>
+#include <cstddef>
+#include <functional>
 #include <optional>
 #include <set>
 #include <stop_token>
@@ -19,6 +21,12 @@ namespace klarvik {
 class PickedFilesRemoval : public QObject {
   Q_OBJECT
  public:
+  struct Pick {
+    std::vector<PickedFile> files;
+    /// Asked on the removal's threads, of each file right before it goes.
+    ScannerEngine::PickedFileCheck check = {};
+  };
+
   explicit PickedFilesRemoval(const Desktop& desktop, QObject* parent = nullptr);
   /// Starts no further file, and waits for those in hand; whoever awaits `trash` is resumed first.
   ~PickedFilesRemoval() override;
@@ -26,11 +34,11 @@ class PickedFilesRemoval : public QObject {
   [[nodiscard]] bool isRunning() const { return _isRunning; }
   [[nodiscard]] const std::optional<DeletionProgress>& progress() const { return _progress; }
 
-  /// The files that were really moved, also after a cancellation. `check` is asked on an engine
-  /// thread, of each file right before it goes. Must not be called while one is running; none is
-  /// running any more when the answer comes.
-  QCoro::Task<std::set<Path>> trash(std::vector<PickedFile> files,
-                                    ScannerEngine::PickedFileCheck check = {});
+  /// Moves the files that `pick` answers, `count` of them. It is asked on an engine thread, since a
+  /// long list takes long to write; it must not refer to what the main thread changes meanwhile.
+  /// Answers the files that were really moved, also after a cancellation. Must not be called while
+  /// one is running; none is running any more when the answer comes.
+  QCoro::Task<std::set<Path>> trash(std::size_t count, std::function<Pick()> pick);
   void cancel();
   /// For the end of the program: as the destructor does. Nothing may be started afterwards.
   void finish();

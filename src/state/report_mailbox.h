@@ -16,9 +16,10 @@ namespace klarvik {
 /// the order of posting and only while the mailbox lives.
 ///
 /// An engine may report faster than a window can draw. So a report takes the place of the one
-/// waiting just before it where `replaces` says that the older one no longer matters; the first
-/// report is applied at once, and while more keep coming the mailbox is emptied at most once in
-/// `pause`. Made and destroyed on the main thread, and not before the engine's last post.
+/// waiting just before it where `replaces` says that the older one no longer matters; unless told
+/// otherwise, only the newest does. The first report is applied at once, and while more keep coming
+/// the mailbox is emptied at most once in `pause`. Made and destroyed on the main thread, and not
+/// before the engine's last post.
 template <typename Report>
 class ReportMailbox final : public QObject {
  public:
@@ -27,7 +28,9 @@ class ReportMailbox final : public QObject {
 
   static constexpr std::chrono::milliseconds pause{16};
 
-  ReportMailbox(Clock& clock, Apply apply, Replaces replaces)
+  ReportMailbox(
+      Clock& clock, Apply apply,
+      Replaces replaces = [](const Report&, const Report&) { return true; })
       : _clock(clock), _apply(std::move(apply)), _replaces(std::move(replaces)) {}
 
   /// May be called from any thread.

@@ -106,4 +106,12 @@ QCoro::Task<> runAutoScan(ScanCoordinator& coordinator, Clock& clock, AutoScan s
       coordinator, clock, [&scan] { return !scan.isRunning(); }, stop);
 }
 
+QCoro::Task<> runAutoScanWithAccess(PermissionsManager& permissions, ScanCoordinator& coordinator,
+                                    Clock& clock, AutoScan scan, std::stop_token stop) {
+  if (!scan.isNeeded()) co_return;
+  permissions.refreshAccess();
+  if (!permissions.hasFullDiskAccess()) co_return;
+  co_await runAutoScan(coordinator, clock, std::move(scan), std::move(stop));
+}
+
 }  // namespace klarvik

@@ -15,6 +15,7 @@
 #include "platform/clock.h"
 #include "platform/date.h"
 #include "platform/user_defaults.h"
+#include "state/permissions_manager.h"
 #include "state/section.h"
 
 namespace klarvik {
@@ -93,5 +94,10 @@ struct AutoScan {
 /// requested.
 QCoro::Task<> runAutoScan(ScanCoordinator& coordinator, Clock& clock, AutoScan scan,
                           std::stop_token stop);
+
+/// The same, of a tool that reads protected places: without Full Disk Access, as it is now, it waits
+/// for its user.
+QCoro::Task<> runAutoScanWithAccess(PermissionsManager& permissions, ScanCoordinator& coordinator,
+                                    Clock& clock, AutoScan scan, std::stop_token stop);
 
 }  // namespace klarvik

@@ -37,6 +37,10 @@ std::string_view rawValue(Section section) {
   return names(section).rawValue;
 }
 
+std::string toolKey(Section section) {
+  return std::string(rawValue(section));
+}
+
 std::optional<Section> section(std::string_view text) {
   const auto& sections = allSections();
   const auto found = std::find_if(sections.begin(), sections.end(),

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace klarvik {
@@ -23,6 +24,7 @@ inline constexpr std::size_t sectionCount = 7;
 /// "smartScan" and so on: the key of the tool in `ScanCoordinator::totals` and
 /// `ToolActivity::states`.
 [[nodiscard]] std::string_view rawValue(Section section);
+[[nodiscard]] std::string toolKey(Section section);
 [[nodiscard]] std::optional<Section> section(std::string_view rawValue);
 [[nodiscard]] std::string_view title(Section section);
 

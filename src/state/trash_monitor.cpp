@@ -80,8 +80,7 @@ QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {
   setEmptyProgress(std::nullopt);
   ScannerEngine engine(_desktop);
   ReportMailbox<DeletionProgress> reports(
-      _desktop.clock, [this](DeletionProgress progress) { setEmptyProgress(std::move(progress)); },
-      [](const DeletionProgress&, const DeletionProgress&) { return true; });
+      _desktop.clock, [this](DeletionProgress progress) { setEmptyProgress(std::move(progress)); });
   auto empty = [&engine, &reports, stop = _lifetime.get_token()] {
     return engine.emptyTrash(stop,
                              [&](const DeletionProgress& progress) { reports.post(progress); });

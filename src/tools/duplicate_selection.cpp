@@ -65,8 +65,16 @@ std::string_view DuplicateSelection::label(KeepRule rule) {
 
 std::optional<DuplicateFile> DuplicateSelection::keeper(const DuplicateGroup& group, KeepRule rule,
                                                         const std::optional<Uuid>& override) {
+  const auto place = keeperPlace(group, rule, override);
+  return place ? std::optional(group.files[*place]) : std::nullopt;
+}
+
+std::optional<std::size_t> DuplicateSelection::keeperPlace(const DuplicateGroup& group,
+                                                           KeepRule rule,
+                                                           const std::optional<Uuid>& override) {
   const auto found = findKeeper(group.files, rule, override);
-  return found == group.files.end() ? std::nullopt : std::optional(*found);
+  if (found == group.files.end()) return std::nullopt;
+  return static_cast<std::size_t>(std::distance(group.files.begin(), found));
 }
 
 std::vector<DuplicateFile> DuplicateSelection::removable(const DuplicateGroup& group, KeepRule rule,

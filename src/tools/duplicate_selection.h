@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,10 @@ struct DuplicateSelection {
   /// several the earliest. Nothing for a group without files. A copy without a date is preferred by
   /// no rule of dates.
   [[nodiscard]] static std::optional<DuplicateFile> keeper(
+      const DuplicateGroup& group, KeepRule rule,
+      const std::optional<Uuid>& override = std::nullopt);
+  /// Its place in `files`.
+  [[nodiscard]] static std::optional<std::size_t> keeperPlace(
       const DuplicateGroup& group, KeepRule rule,
       const std::optional<Uuid>& override = std::nullopt);
 

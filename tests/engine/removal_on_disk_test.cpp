@@ -42,6 +42,19 @@ class RemovalOnADisk : public testing::Test {
     return {.name = path.filename().native(), .path = path, .size = 100};
   }
 
+  /// An entry of the Trash as a scan finds it.
+  [[nodiscard]] JunkItem foundInTrash(const std::string& name) {
+    const auto categories = engine.scanAll(
+        {}, [](const ScanUpdate&) {}, [](const auto&) {});
+    for (const CleanCategory& category : categories) {
+      for (const JunkItem& item : category.items) {
+        if (item.path == trashed / name) return item;
+      }
+    }
+    ADD_FAILURE() << "no scan finds " << name;
+    return {};
+  }
+
   [[nodiscard]] DiskSnapshot snapshot() const { return snapshotOf(disk.path()); }
 };
 
@@ -202,6 +215,44 @@ TEST_F(RemovalOnADisk, AnItemAddedWhileTheTrashIsEmptiedSurvives) {
   });
   EXPECT_FALSE(disk.holds(trashed / "old"));
   EXPECT_EQ(disk.contentOf(trashed / "late"), "kept");
+}
+
+TEST_F(RemovalOnADisk, ATrashEntryWhoseNameCameToSomethingElseStays) {
+  disk.makeFile(trashed / "app/file", "long gone");
+  const JunkItem stale = foundInTrash("app");
+  std::filesystem::remove_all(disk.onDisk(trashed / "app"));
+  disk.makeFile(caches / "app/file", "just trashed");
+  ASSERT_EQ(engine.deleteItem(item(caches / "app"), toTrash).trashedURL, trashed / "app");
+
+  EXPECT_EQ(engine.deleteItem(stale, toTrash).reclaimed, 0);
+  EXPECT_EQ(disk.contentOf(trashed / "app/file"), "just trashed");
+  EXPECT_GT(engine.deleteItem(foundInTrash("app"), toTrash).reclaimed, 0);
+  EXPECT_FALSE(disk.holds(trashed / "app"));
+}
+
+TEST_F(RemovalOnADisk, AnItemThatTakesTheNameOfOneThatWentWhileTheTrashIsEmptiedSurvives) {
+  disk.makeFile(trashed / "report/file", "old");
+  files.before(FaultingFileSystem::Operation::walk, trashed / "report", [&] {
+    std::filesystem::rename(disk.onDisk(trashed / "report"), disk.onDisk("/Users/ann/report"));
+    disk.makeFile(trashed / "report/file", "new");
+  });
+  EXPECT_EQ(engine.emptyTrash(), 0);
+  EXPECT_EQ(disk.contentOf(trashed / "report/file"), "new");
+  EXPECT_EQ(disk.contentOf("/Users/ann/report/file"), "old");
+}
+
+TEST_F(RemovalOnADisk, ATrashFolderThatBecameALinkLeadsToNothingThatIsRemovedOrRestored) {
+  disk.makeFile(trashed / "x/inside", "waste");
+  const JunkItem found = foundInTrash("x");
+  std::filesystem::rename(disk.onDisk(trashed), disk.onDisk("/Users/ann/aside"));
+  disk.makeLink(trashed, "../../../Documents");
+  const auto before = snapshot();
+  JunkItem known = item(trashed / "x");
+  for (const JunkItem& each : {found, known}) {
+    EXPECT_EQ(engine.deleteItem(each, toTrash).reclaimed, 0);
+    EXPECT_FALSE(engine.restoreItem(each.path, caches / "x"));
+  }
+  EXPECT_EQ(snapshot(), before);
 }
 
 TEST_F(RemovalOnADisk, SixThreadsMovingItemsOfOneNameLoseNone) {

@@ -20,7 +20,6 @@ bool keepsSmallPieces() {
 }
 
 TEST(Allocator, PutsFreedMemoryTogetherAtOnce) {
-  if (!inChild(keepsSmallPieces)) GTEST_SKIP() << "Another allocator than the C library's.";
   EXPECT_TRUE(inChild([] {
     putFreedMemoryTogetherAtOnce();
     return !keepsSmallPieces();

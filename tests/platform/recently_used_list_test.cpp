@@ -56,6 +56,13 @@ TEST_F(RecentlyUsedListTest, MayBeEmptiedTwice) {
   EXPECT_TRUE(isEmptyList(content()));
 }
 
+TEST_F(RecentlyUsedListTest, AFileOfSomebodyElseBesideItStays) {
+  fill();
+  folder.makeFile("data/recently-used.xbel.new", "mine");
+  EXPECT_TRUE(list.clear());
+  EXPECT_EQ(folder.contentOf("data/recently-used.xbel.new"), "mine");
+}
+
 TEST_F(RecentlyUsedListTest, KeepsItsMode) {
   fill();
   for (const ::mode_t mode : {0600U, 0644U, 0660U}) {
@@ -155,7 +162,7 @@ TEST_F(RecentlyUsedListTest, AFaultAtAnySystemCallLeavesTheOldOrTheEmptyListAndT
         EXPECT_TRUE(!told || isEmptyList(content())) << at;
         EXPECT_TRUE(list.clear());
         EXPECT_TRUE(isEmptyList(content()));
-        EXPECT_FALSE(folder.holds("data/recently-used.xbel.new"));
+        EXPECT_FALSE(folder.holds("data/.klarvik-recently-used.xbel.new"));
         std::filesystem::remove(folder.onDisk(name));
         if (!run.reached) break;
       }

@@ -104,6 +104,15 @@ TEST_F(TrashRestore, ParentNowALinkToElsewhereRefusedWithoutARecordToo) {
   expectRefusedAndBothStay(waiting, "/Users/ann/one/a");
 }
 
+TEST_F(TrashRestore, AnotherThingThatCameToTheNameInTheTrashIsRefused) {
+  const Path waiting = trashed("/Users/ann/one/a");
+  std::filesystem::remove(disk.onDisk(waiting));
+  std::filesystem::remove(disk.onDisk(recordOf("a")));
+  ASSERT_EQ(trashed("/Users/ann/two/a"), waiting);
+  expectRefusedAndBothStay(waiting, "/Users/ann/one/a");
+  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/two/a"));
+}
+
 TEST_F(TrashRestore, AParentThatWasALinkAllAlongIsNoHindrance) {
   disk.makeFolder("/Users/ann/real");
   disk.makeLink("/Users/ann/named", "real");

@@ -37,7 +37,7 @@ TEST(CharacterCount, CountsWhatAReaderSees) {
 }
 
 TEST(Printable, LeavesUtf8AsItIs) {
-  EXPECT_EQ(printable("Ärger\n👩"), "Ärger\n👩");
+  EXPECT_EQ(printable("Ärger 👩"), "Ärger 👩");
 }
 
 TEST(Printable, ReplacesWhatIsNotUtf8) {
@@ -46,7 +46,15 @@ TEST(Printable, ReplacesWhatIsNotUtf8) {
             "a\uFFFDb");
   EXPECT_EQ(printable("\xe2\x82"), "\uFFFD");
   EXPECT_EQ(printable("\xed\xa0\x80").substr(0, 3), "\uFFFD");
-  EXPECT_EQ(printable(std::string("\0", 1)), std::string("\0", 1));
+}
+
+TEST(Printable, ReplacesWhatBreaksTheLineOrTurnsTheTextAround) {
+  EXPECT_EQ(printable(std::string_view("a\0b", 3)), "a\uFFFDb");
+  EXPECT_EQ(printable("a\nb\tc\u0085"), "a\uFFFDb\uFFFDc\uFFFD");
+  EXPECT_EQ(printable("a\u2028b\u2029"), "a\uFFFDb\uFFFD");
+  EXPECT_EQ(printable("\u202Egnp.exe\u202C"), "\uFFFDgnp.exe\uFFFD");
+  EXPECT_EQ(printable("\u2066a\u2069"), "\uFFFDa\uFFFD");
+  EXPECT_EQ(printable("\u200Fשלום"), "\u200Fשלום");
 }
 
 }  // namespace

@@ -291,6 +291,52 @@ TEST_F(LongClean, ARescanDuringARemovalDeletesNothingStaleAndNothingNew) {
   EXPECT_EQ(state->lastClean()->itemCount, 30);
 }
 
+TEST_F(LongClean, ACategoryThatIsFoundDuringASecondCleanStaysListed) {
+  const JunkItem early = onDisk("early", 7);
+  const JunkItem late = onDisk("late", 5);
+  state->startScan();
+  scans.category(1, categoryOf(CategoryType::systemLogs, {early}));
+  ASSERT_TRUE(turnMainLoopUntil([&] { return state->scanResults().size() == 1; }));
+  letGo.release(30);
+  ASSERT_TRUE(cleaned());
+
+  ASSERT_EQ(state->selectedCount(), 1);
+  state->performClean();
+  ASSERT_TRUE(turnMainLoopUntil([this] { return underWay == 31; }));
+  scans.category(1, categoryOf(CategoryType::appCaches, {late}));
+  ASSERT_TRUE(turnMainLoopUntil([&] {
+    around.clock.advance(16ms);
+    return state->scanResults().size() == 2;
+  }));
+  letGo.release();
+  ASSERT_TRUE(cleaned());
+  EXPECT_FALSE(isThere(early));
+  EXPECT_TRUE(isThere(late));
+  ASSERT_EQ(state->scanResults().size(), 1U);
+  EXPECT_EQ(state->scanResults()[0].items, std::vector<JunkItem>{late});
+}
+
+TEST_F(AppStateClean, AFolderComesBackBeforeWhatLayInItThoughItWentLast) {
+  const JunkItem inner = onDisk("folder/inner/file", 1);
+  const JunkItem innerFolder = junk("/Users/ann/Library/Caches/folder/inner", 1);
+  const JunkItem beside = onDisk("folder/beside", 2);
+  const JunkItem folder = junk("/Users/ann/Library/Caches/folder", 3);
+  std::counting_semaphore<> letGo(0);
+  around.files.setHook([&](const std::string& operation, const Path& path) {
+    if (operation == "move" && path == folder.path) letGo.acquire();
+  });
+  scanAndFind({categoryOf(CategoryType::appCaches, {innerFolder, folder})});
+  state->performClean();
+  ASSERT_TRUE(turnMainLoopUntil([&] { return state->cleanProgress()->completed == 1; }));
+  letGo.release();
+  ASSERT_TRUE(cleaned());
+  ASSERT_EQ(state->lastClean()->restorable.size(), 2U);
+  ASSERT_EQ(state->lastClean()->restorable[0].first, innerFolder.path);
+  EXPECT_EQ(restoreAll(), 2);
+  EXPECT_TRUE(isThere(inner));
+  EXPECT_TRUE(isThere(beside));
+}
+
 TEST_F(AppStateClean, RemoveItemsOfNothingChangesNothing) {
   scanAndFind({caches});
   const SignalCount changes(*state, &AppState::scanResultsChanged);

@@ -20,7 +20,11 @@ class PickedFilesRemovalTest : public ::testing::Test {
     return {.url = place, .name = name, .size = bytes};
   }
   QCoro::Task<> trash(std::vector<PickedFile> files, ScannerEngine::PickedFileCheck check = {}) {
-    moved = co_await removal.trash(std::move(files), std::move(check));
+    const std::size_t count = files.size();
+    auto pick = [files = std::move(files), check = std::move(check)] {
+      return PickedFilesRemoval::Pick{files, check};
+    };
+    moved = co_await removal.trash(count, std::move(pick));
   }
   [[nodiscard]] bool ended() {
     return turnMainLoopUntil([this] { return moved.has_value(); });

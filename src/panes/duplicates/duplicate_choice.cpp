@@ -5,6 +5,14 @@
 #include <utility>
 
 namespace klarvik {
+namespace {
+
+bool goes(const DuplicateGroup& group, std::size_t file, std::size_t keeper,
+          const std::unordered_set<Uuid>& deselected) {
+  return file != keeper && !deselected.contains(group.files[file].id);
+}
+
+}  // namespace
 
 ChosenGroups unchosen(std::vector<DuplicateGroup> groups) {
   ChosenGroups all;
@@ -16,19 +24,27 @@ ChosenGroups unchosen(std::vector<DuplicateGroup> groups) {
   return all;
 }
 
-bool DuplicateChoice::isSelected(const ChosenGroup& group, std::size_t file) const {
-  return file != group.keeper && !_deselected.contains(group.group.files[file].id);
-}
-
-std::vector<DuplicateFile> DuplicateChoice::selectedFiles() const {
-  std::vector<DuplicateFile> selected;
-  selected.reserve(_totals.selectedCount);
-  for (const auto& group : _groups) {
-    for (std::size_t file = 0; file < group->group.files.size(); ++file) {
-      if (isSelected(*group, file)) selected.push_back(group->group.files[file]);
+std::vector<SelectedCopy> CopySelection::list() const {
+  std::vector<SelectedCopy> copies;
+  for (const auto& [group, keeper] : _groups) {
+    for (std::size_t file = 0; file < group->files.size(); ++file) {
+      if (goes(*group, file, keeper, _deselected)) copies.push_back({group, file, keeper});
     }
   }
-  return selected;
+  return copies;
+}
+
+bool DuplicateChoice::isSelected(const ChosenGroup& group, std::size_t file) const {
+  return goes(group.group, file, group.keeper, _deselected);
+}
+
+CopySelection DuplicateChoice::selection() const {
+  CopySelection selection;
+  for (const auto& group : _groups) {
+    if (group->selectedCount > 0) selection._groups.push_back({&group->group, group->keeper});
+  }
+  selection._deselected = _deselected;
+  return selection;
 }
 
 ChosenGroups DuplicateChoice::replace(ChosenGroups groups) {
@@ -115,14 +131,11 @@ ChosenGroup& DuplicateChoice::listed(const ChosenGroup& group) {
 
 void DuplicateChoice::judge(ChosenGroup& group) {
   const std::vector<DuplicateFile>& files = group.group.files;
-  const auto keeper = DuplicateSelection::keeper(group.group, _keepRule, overrideOf(group));
-  group.keeper = 0;
+  group.keeper =
+      DuplicateSelection::keeperPlace(group.group, _keepRule, overrideOf(group)).value_or(0);
   group.removableBytes = 0;
   group.selectedBytes = 0;
   group.selectedCount = 0;
-  if (!keeper) return;
-  group.keeper = static_cast<std::size_t>(
-      std::distance(files.begin(), std::ranges::find(files, keeper->id, &DuplicateFile::id)));
   for (std::size_t file = 0; file < files.size(); ++file) {
     if (file == group.keeper) continue;
     group.removableBytes += files[file].size;

@@ -27,6 +27,32 @@ using ChosenGroups = std::vector<std::unique_ptr<ChosenGroup>>;
 /// May be called from any thread: much to build at once.
 [[nodiscard]] ChosenGroups unchosen(std::vector<DuplicateGroup> groups);
 
+/// A copy that goes, and the group that it goes from.
+struct SelectedCopy {
+  const DuplicateGroup* group = nullptr;
+  std::size_t file = 0;    ///< place of the copy
+  std::size_t keeper = 0;  ///< place of the one that stays
+};
+
+/// Which copies of a choice go, as things stood at one moment: quick to take and long to list, and
+/// so listed off the main thread. May be listed on any thread, until the choice's groups are
+/// replaced or lose files.
+class CopySelection {
+ public:
+  /// In order of the groups.
+  [[nodiscard]] std::vector<SelectedCopy> list() const;
+
+ private:
+  friend class DuplicateChoice;
+  struct Kept {
+    const DuplicateGroup* group;
+    std::size_t keeper;
+  };
+
+  std::vector<Kept> _groups;  // only those that lose a copy
+  std::unordered_set<Uuid> _deselected;
+};
+
 /// What a scan found, and what the user made of it: every copy but one of each group goes, except
 /// for those taken out of the selection. A group's address is stable as long as it is listed.
 class DuplicateChoice {
@@ -53,8 +79,7 @@ class DuplicateChoice {
   [[nodiscard]] const Totals& totals() const { return _totals; }
 
   [[nodiscard]] bool isSelected(const ChosenGroup& group, std::size_t file) const;
-  /// In order of the groups.
-  [[nodiscard]] std::vector<DuplicateFile> selectedFiles() const;
+  [[nodiscard]] CopySelection selection() const;
 
   /// Forgets what the user chose, but for the rule. Answers the former groups: much to free at
   /// once.

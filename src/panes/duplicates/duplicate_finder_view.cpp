@@ -15,18 +15,28 @@ namespace {
 
 constexpr std::int64_t bytesPerMegabyte = 1'048'576;
 
-const std::string& toolKey() {
-  static const std::string key(rawValue(Section::duplicates));
-  return key;
-}
-
-std::vector<PickedFile> picked(const std::vector<DuplicateFile>& files) {
+std::vector<PickedFile> pickedFiles(const std::vector<SelectedCopy>& copies) {
   std::vector<PickedFile> all;
-  all.reserve(files.size());
-  std::ranges::transform(files, std::back_inserter(all), [](const DuplicateFile& file) {
+  all.reserve(copies.size());
+  std::ranges::transform(copies, std::back_inserter(all), [](const SelectedCopy& copy) {
+    const DuplicateFile& file = copy.group->files[copy.file];
     return PickedFile{file.url, file.url.filename().native(), file.size};
   });
   return all;
+}
+
+KeptCopies keptCopies(const std::vector<SelectedCopy>& copies) {
+  KeptCopies kept;
+  const DuplicateGroup* group = nullptr;
+  std::shared_ptr<const KeptCopy> keeper;
+  for (const SelectedCopy& copy : copies) {
+    if (std::exchange(group, copy.group) != copy.group) {
+      keeper = std::make_shared<const KeptCopy>(
+          KeptCopy{copy.group->files[copy.keeper].url, copy.group->hash});
+    }
+    kept.try_emplace(copy.group->files[copy.file].url.native(), keeper);
+  }
+  return kept;
 }
 
 }  // namespace
@@ -108,11 +118,8 @@ QString DuplicateFinderView::deleteButtonTitle() const {
 }
 
 void DuplicateFinderView::appear() {
-  if (_isScanning || _hasScanned) return;
-  _permissions.refreshAccess();
-  if (!_permissions.hasFullDiskAccess()) return;
-  runAutoScan(_coordinator, _desktop.clock,
-              {.key = toolKey(),
+  runAutoScanWithAccess(_permissions, _coordinator, _desktop.clock,
+              {.key = toolKey(Section::duplicates),
                .isNeeded = [this] { return !_isScanning && !_hasScanned; },
                .start = [this] { startScan(); },
                .isRunning = [this] { return _isScanning; }},
@@ -142,7 +149,7 @@ void DuplicateFinderView::startScan() {
   _report = {};
   setScanning(true, _hasScanned);
   setGroups({});
-  _activity.start(toolKey());
+  _activity.start(toolKey(Section::duplicates));
   scan(_scanTask.emplace().get_token());
 }
 
@@ -151,16 +158,13 @@ void DuplicateFinderView::cancelScan() {
   _scanTask->request_stop();
   _scanTask.reset();
   setScanning(false, true);
-  _activity.clear(toolKey());
+  _activity.clear(toolKey(Section::duplicates));
 }
 
 QCoro::Task<> DuplicateFinderView::scan(std::stop_token stop) {
-  ReportMailbox<DuplicateProgress> reports(
-      _desktop.clock,
-      [this, stop](DuplicateProgress report) {
-        if (!stop.stop_requested()) scanMovedOn(std::move(report));
-      },
-      [](const DuplicateProgress&, const DuplicateProgress&) { return true; });
+  ReportMailbox<DuplicateProgress> reports(_desktop.clock, [this, stop](DuplicateProgress report) {
+    if (!stop.stop_requested()) scanMovedOn(std::move(report));
+  });
   auto search = [&files = _desktop.files, folders = _scanDirs, &reports] {
     DuplicateScanner scanner(files);
     return unchosen(scanner.scan(folders, static_cast<std::int64_t>(minSizeMB) * bytesPerMegabyte,
@@ -177,7 +181,7 @@ QCoro::Task<> DuplicateFinderView::scan(std::stop_token stop) {
 
 void DuplicateFinderView::scanMovedOn(DuplicateProgress report) {
   _report = std::move(report);
-  _activity.setProgress(toolKey(), _report.fraction);
+  _activity.setProgress(toolKey(Section::duplicates), _report.fraction);
   emit subtitleChanged();
 }
 
@@ -185,7 +189,8 @@ void DuplicateFinderView::scanFinished(ChosenGroups groups) {
   _scanTask.reset();
   setGroups(std::move(groups));
   setScanning(false, true);
-  _activity.finish(toolKey(), duplicates::finishedSummary(_choice.groups().size()));
+  _activity.finish(toolKey(Section::duplicates),
+                   duplicates::finishedSummary(_choice.groups().size()));
   writeTotal();
 }
 
@@ -283,26 +288,18 @@ void DuplicateFinderView::stopDeleting() {
 }
 
 QCoro::Task<> DuplicateFinderView::moveSelectedToTrash() {
-  auto check = keeperCheck(_desktop.files, keptCopies(), _deleteTask.emplace().get_token());
-  const std::set<Path> trashed = co_await _removal.trash(picked(selectedFiles()), std::move(check));
+  auto pick = [&files = _desktop.files, selection = _choice.selection(),
+               stop = _deleteTask.emplace().get_token()] {
+    const std::vector<SelectedCopy> copies = selection.list();
+    return PickedFilesRemoval::Pick{pickedFiles(copies),
+                                    keeperCheck(files, keptCopies(copies), stop)};
+  };
+  std::set<Path> trashed = co_await _removal.trash(_choice.totals().selectedCount, std::move(pick));
   _deleteTask.reset();
   forget(trashed);
+  _work.discard(std::move(trashed));
   writeTotal();
   _desktop.notifications.post(diskChangedNotification);
-}
-
-KeptCopies DuplicateFinderView::keptCopies() const {
-  KeptCopies kept;
-  for (const auto& group : groups()) {
-    const std::vector<DuplicateFile>& files = group->group.files;
-    if (group->selectedCount == 0) continue;
-    const auto keeper =
-        std::make_shared<const KeptCopy>(KeptCopy{files[group->keeper].url, group->group.hash});
-    for (std::size_t file = 0; file < files.size(); ++file) {
-      if (_choice.isSelected(*group, file)) kept.try_emplace(files[file].url.native(), keeper);
-    }
-  }
-  return kept;
 }
 
 void DuplicateFinderView::forget(const std::set<Path>& trashed) {
@@ -320,7 +317,7 @@ void DuplicateFinderView::forget(const std::set<Path>& trashed) {
 
 void DuplicateFinderView::writeTotal() {
   _coordinator.setTotal(
-      toolKey(),
+      toolKey(Section::duplicates),
       {.bytes = reclaimable(), .items = extraCopies(), .measuredAt = _desktop.clock.now()});
 }
 

@@ -98,7 +98,9 @@ class DuplicateFinderView : public QObject {
   /// Bytes of all copies that may go, selected or not.
   [[nodiscard]] std::int64_t reclaimable() const { return _choice.totals().reclaimable; }
   [[nodiscard]] std::int64_t extraCopies() const { return _choice.totals().extraCopies; }
-  [[nodiscard]] std::vector<DuplicateFile> selectedFiles() const { return _choice.selectedFiles(); }
+  [[nodiscard]] std::vector<SelectedCopy> selectedFiles() const {
+    return _choice.selection().list();
+  }
   [[nodiscard]] QString folderList() const { return duplicates::folderList(_scanDirs); }
 
   [[nodiscard]] QString title() const;
@@ -166,7 +168,6 @@ class DuplicateFinderView : public QObject {
   QCoro::Task<> moveSelectedToTrash();
   void forget(const std::set<Path>& trashed);
   void writeTotal();
-  [[nodiscard]] KeptCopies keptCopies() const;
   [[nodiscard]] bool holds(int row) const { return row >= 0 && row < _rows.rowCount(); }
   [[nodiscard]] duplicates::Placeholder placeholder() const;
 

@@ -21,7 +21,7 @@ QString title(std::size_t groups, std::int64_t reclaimable, const Formatting& fo
 
 QString scanningSubtitle(std::int64_t groupsFound, std::string_view currentPath, const Path& home) {
   return QString::number(groupsFound) + QStringLiteral(" groups so far · ") +
-         printableText(abbreviated(currentPath, home).toStdString());
+         abbreviated(currentPath, home);
 }
 
 QString foundSubtitle(std::size_t groups, std::int64_t extraCopies) {

@@ -40,11 +40,16 @@ Item {
                 visible: root.topElement === PlaceholderTop.Progress
             }
 
-            SweepLoader {
-                objectName: "loader"
+            DelayedAppearance {
                 anchors.centerIn: parent
-                size: 44
+                width: 44
+                height: 44
                 visible: root.topElement === PlaceholderTop.Loader
+
+                SweepLoader {
+                    objectName: "loader"
+                    size: 44
+                }
             }
 
             Symbol {

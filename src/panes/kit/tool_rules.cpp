@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "panes/kit/row_text.h"
+
 namespace klarvik {
 namespace {
 
@@ -20,7 +22,7 @@ double removalFraction(const DeletionProgress& progress) {
 
 QString removalName(const DeletionProgress& progress) {
   if (progress.currentName.empty()) return QStringLiteral("Starting…");
-  return QString::fromStdString(printable(progress.currentName));
+  return printableText(progress.currentName);
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ ToolPane {
 
         // One for each place, so that a chip with the focus keeps it while kinds are found.
         Repeater {
-            model: 4
+            model: root.model.mostKinds
 
             FilterChip {
                 required property int index

@@ -18,11 +18,6 @@ constexpr std::int64_t bytesPerMegabyte = 1'048'576;
 
 constexpr std::array sortOrders{LargeFileSort::size, LargeFileSort::date, LargeFileSort::name};
 
-const std::string& toolKey() {
-  static const std::string key(rawValue(Section::largeFiles));
-  return key;
-}
-
 template <typename Choices, typename Choice>
 int indexIn(const Choices& choices, const Choice& choice) {
   return static_cast<int>(
@@ -131,11 +126,8 @@ QString LargeFileFinderView::footerHint() const {
 }
 
 void LargeFileFinderView::appear() {
-  if (_isScanning || _hasScanned) return;
-  _permissions.refreshAccess();
-  if (!_permissions.hasFullDiskAccess()) return;
-  runAutoScan(_coordinator, _desktop.clock,
-              {.key = toolKey(),
+  runAutoScanWithAccess(_permissions, _coordinator, _desktop.clock,
+              {.key = toolKey(Section::largeFiles),
                .isNeeded = [this] { return !_isScanning && !_hasScanned; },
                .start = [this] { startScan(); },
                .isRunning = [this] { return _isScanning; }},
@@ -162,7 +154,7 @@ void LargeFileFinderView::startScan() {
   clearSelection();
   _trashed.clear();
   _progress = 0;
-  _activity.start(toolKey());
+  _activity.start(toolKey(Section::largeFiles));
   scan(++_scansStarted, _scanTask.emplace().get_token());
 }
 
@@ -171,17 +163,14 @@ void LargeFileFinderView::stopScan() {
   _scanTask->request_stop();
   _scanTask.reset();
   setScanning(false, true);
-  _activity.clear(toolKey());
+  _activity.clear(toolKey(Section::largeFiles));
 }
 
 QCoro::Task<> LargeFileFinderView::scan(std::uint64_t number, std::stop_token stop) {
   const std::int64_t thresholdBytes = static_cast<std::int64_t>(_thresholdMB) * bytesPerMegabyte;
-  ReportMailbox<LargeFileUpdate> reports(
-      _desktop.clock,
-      [this, stop](LargeFileUpdate update) {
-        if (!stop.stop_requested()) scanMovedOn(std::move(update));
-      },
-      [](const LargeFileUpdate&, const LargeFileUpdate&) { return true; });
+  ReportMailbox<LargeFileUpdate> reports(_desktop.clock, [this, stop](LargeFileUpdate update) {
+    if (!stop.stop_requested()) scanMovedOn(std::move(update));
+  });
   const LargeFileWalker walker(_desktop.files);
   auto walk = [&walker, &reports, thresholdBytes, stop] {
     return walker.walk(thresholdBytes, stop,
@@ -195,7 +184,7 @@ void LargeFileFinderView::scanMovedOn(LargeFileUpdate update) {
   _progress = update.fraction;
   _currentPath = std::move(update.currentName);
   setFiles(std::move(update.files));
-  _activity.setProgress(toolKey(), _progress);
+  _activity.setProgress(toolKey(Section::largeFiles), _progress);
   emit subtitleChanged();
 }
 
@@ -204,7 +193,7 @@ void LargeFileFinderView::scanFinished(LargeFileList files) {
   _progress = 1;
   setFiles(std::move(files));
   setScanning(false, true);
-  _activity.finish(toolKey(), large_files::finishedSummary(_files->size()));
+  _activity.finish(toolKey(Section::largeFiles), large_files::finishedSummary(_files->size()));
   writeTotal();
 }
 
@@ -325,7 +314,8 @@ void LargeFileFinderView::stopTrashing() {
 }
 
 QCoro::Task<> LargeFileFinderView::moveSelectedToTrash() {
-  const std::set<Path> trashed = co_await _removal.trash(picked(selectedFiles()));
+  auto pick = [files = selectedFiles()] { return PickedFilesRemoval::Pick{picked(files)}; };
+  const std::set<Path> trashed = co_await _removal.trash(_selected.size(), std::move(pick));
   forget(trashed);
   writeTotal();
   _desktop.notifications.post(diskChangedNotification);
@@ -345,9 +335,10 @@ void LargeFileFinderView::writeTotal() {
   const std::int64_t bytes =
       std::accumulate(_files->begin(), _files->end(), std::int64_t{0},
                       [](std::int64_t sum, const auto& file) { return sum + file->size; });
-  _coordinator.setTotal(toolKey(), {.bytes = bytes,
-                                    .items = static_cast<std::int64_t>(_files->size()),
-                                    .measuredAt = _desktop.clock.now()});
+  _coordinator.setTotal(toolKey(Section::largeFiles),
+                        {.bytes = bytes,
+                         .items = static_cast<std::int64_t>(_files->size()),
+                         .measuredAt = _desktop.clock.now()});
 }
 
 }  // namespace klarvik

@@ -48,6 +48,7 @@ class LargeFileFinderView : public QObject {
   Q_PROPERTY(QList<QString> sorts READ sorts CONSTANT)
   Q_PROPERTY(int sortIndex READ sortIndex NOTIFY sortChanged)
   Q_PROPERTY(QList<QString> kinds READ kinds NOTIFY kindsChanged)
+  Q_PROPERTY(int mostKinds READ mostChips CONSTANT)
   Q_PROPERTY(QString activeKind READ activeKind NOTIFY kindFilterChanged)
   Q_PROPERTY(klarvik::LargeFileRows* rows READ rows CONSTANT)
   Q_PROPERTY(QString selectionSummary READ selectionSummary NOTIFY selectionChanged)
@@ -102,6 +103,7 @@ class LargeFileFinderView : public QObject {
   [[nodiscard]] int sortIndex() const;
   /// The kinds that have a chip.
   [[nodiscard]] const QStringList& kinds() const { return _kinds; }
+  [[nodiscard]] static int mostChips() { return static_cast<int>(mostKinds); }
   /// Empty while all kinds are shown.
   [[nodiscard]] QString activeKind() const;
   [[nodiscard]] LargeFileRows* rows() { return &_rows; }

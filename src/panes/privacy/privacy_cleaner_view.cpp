@@ -13,8 +13,6 @@
 namespace klarvik {
 namespace {
 
-const std::string key{rawValue(Section::privacy)};
-
 std::int64_t totalSize(const std::vector<PrivacyItem>& items) {
   std::int64_t sum = 0;
   for (const PrivacyItem& item : items) sum = addBytes(sum, item.size);
@@ -81,7 +79,7 @@ bool PrivacyCleanerView::canClear() const {
 }
 
 QCoro::Task<> PrivacyCleanerView::appear() {
-  const AutoScan autoScan{.key = key,
+  const AutoScan autoScan{.key = toolKey(Section::privacy),
                           .isNeeded = [this] { return !_hasScanned && !_isScanning; },
                           .start = [this] { startScan(); },
                           .isRunning = [this] { return _isScanning; }};
@@ -100,7 +98,7 @@ void PrivacyCleanerView::cancelScan() {
   _scanTask.request_stop();
   _isScanning = false;
   _hasScanned = true;
-  _activity.clear(key);
+  _activity.clear(toolKey(Section::privacy));
   emit stateChanged();
 }
 
@@ -110,7 +108,7 @@ void PrivacyCleanerView::startScan() {
   _lastResult.reset();
   _progress = 0;
   emit stateChanged();
-  _activity.start(key);
+  _activity.start(toolKey(Section::privacy));
   scan();
 }
 
@@ -118,12 +116,9 @@ QCoro::Task<> PrivacyCleanerView::scan() {
   _scanTask = std::stop_source();
   const std::stop_token stop = _scanTask.get_token();
   PrivacyScanner scanner(_desktop.files, _desktop.pasteboard, _desktop.recentDocuments);
-  ReportMailbox<Report> reports(
-      _desktop.clock,
-      [this, stop](const Report& report) {
-        if (!stop.stop_requested()) showReport(report);
-      },
-      [](const Report&, const Report&) { return true; });
+  ReportMailbox<Report> reports(_desktop.clock, [this, stop](const Report& report) {
+    if (!stop.stop_requested()) showReport(report);
+  });
   const auto report = [&reports](double fraction, std::string_view line) {
     reports.post({fraction, printableText(line)});
   };
@@ -136,7 +131,7 @@ QCoro::Task<> PrivacyCleanerView::scan() {
 void PrivacyCleanerView::showReport(const Report& report) {
   _progress = report.fraction;
   _currentTask = report.line;
-  _activity.setProgress(key, report.fraction);
+  _activity.setProgress(toolKey(Section::privacy), report.fraction);
   emit stateChanged();
 }
 
@@ -145,9 +140,10 @@ void PrivacyCleanerView::finishScan(std::vector<PrivacyItem> found) {
   _isScanning = false;
   _hasScanned = true;
   emit stateChanged();
-  _activity.finish(key, std::to_string(items().size()) + " trails");
+  _activity.finish(toolKey(Section::privacy), std::to_string(items().size()) + " trails");
   _coordinator.setTotal(
-      key, {totalSize(items()), static_cast<std::int64_t>(items().size()), _desktop.clock.now()});
+      toolKey(Section::privacy),
+      {totalSize(items()), static_cast<std::int64_t>(items().size()), _desktop.clock.now()});
 }
 
 void PrivacyCleanerView::toggle(int row) {

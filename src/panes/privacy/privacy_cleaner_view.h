@@ -30,7 +30,6 @@ class PrivacyCleanerView : public QObject {
   Q_PROPERTY(klarvik::Placeholder placeholder READ placeholder NOTIFY stateChanged)
   Q_PROPERTY(bool isScanning READ isScanning NOTIFY stateChanged)
   Q_PROPERTY(bool isCleaning READ isCleaning NOTIFY stateChanged)
-  Q_PROPERTY(bool hasItems READ hasItems NOTIFY stateChanged)
   Q_PROPERTY(QString selectionSummary READ selectionSummary NOTIFY selectionChanged)
   Q_PROPERTY(QString selectionHint READ selectionHint NOTIFY selectionChanged)
   Q_PROPERTY(QString clearTitle READ clearTitle NOTIFY selectionChanged)

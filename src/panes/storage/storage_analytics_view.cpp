@@ -113,12 +113,10 @@ void StorageAnalyticsView::stopMeasuring() {
 }
 
 QCoro::Task<> StorageAnalyticsView::measure(std::stop_token stopped) {
-  ReportMailbox<MeasureReport> reports(
-      _desktop.clock,
-      [this, stopped](const MeasureReport& report) {
-        if (!stopped.stop_requested()) apply(report);
-      },
-      [](const MeasureReport&, const MeasureReport&) { return true; });
+  ReportMailbox<MeasureReport> reports(_desktop.clock,
+                                       [this, stopped](const MeasureReport& report) {
+                                         if (!stopped.stop_requested()) apply(report);
+                                       });
   auto measureDisk = [&run = _measure, &reports, stopped] {
     return run(stopped, [&](const std::string& label, double fraction) {
       reports.post({label, fraction});

@@ -15,11 +15,6 @@
 namespace klarvik {
 namespace {
 
-const std::string& systemDataKey() {
-  static const std::string key(rawValue(Section::systemData));
-  return key;
-}
-
 SystemDataView::Analyse analyseWithFreshEngine(const Platform& platform) {
   return [&platform](const SystemDataEngine::ProgressSink& progress) {
     SystemDataEngine engine(platform);
@@ -206,7 +201,7 @@ void SystemDataView::startAnalysis() {
   _scanLabel.clear();
   _scanProgress = 0;
   _movedWhileScanning.clear();
-  _activity.start(systemDataKey());
+  _activity.start(toolKey(Section::systemData));
   emit scanProgressChanged();
   emit stateChanged();
   _scanTask = std::stop_source();
@@ -217,17 +212,14 @@ void SystemDataView::startAnalysis() {
 void SystemDataView::stopAnalysis() {
   _scanTask.request_stop();
   _isScanning = false;
-  _activity.clear(systemDataKey());
+  _activity.clear(toolKey(Section::systemData));
   emit stateChanged();
 }
 
 QCoro::Task<> SystemDataView::analyse(std::stop_token stopped) {
-  ReportMailbox<ScanReport> reports(
-      _desktop.clock,
-      [this, stopped](const ScanReport& report) {
-        if (!stopped.stop_requested()) apply(report);
-      },
-      [](const ScanReport&, const ScanReport&) { return true; });
+  ReportMailbox<ScanReport> reports(_desktop.clock, [this, stopped](const ScanReport& report) {
+    if (!stopped.stop_requested()) apply(report);
+  });
   auto run = [&analyse = _analyse, &reports] {
     return analyse([&](const std::string& label, double fraction) {
       reports.post({label, fraction});
@@ -240,7 +232,7 @@ QCoro::Task<> SystemDataView::analyse(std::stop_token stopped) {
 void SystemDataView::apply(const ScanReport& report) {
   _scanLabel = report.label;
   _scanProgress = report.fraction;
-  _activity.setProgress(systemDataKey(), std::min(report.fraction, 1.0));
+  _activity.setProgress(toolKey(Section::systemData), std::min(report.fraction, 1.0));
   emit scanProgressChanged();
 }
 
@@ -254,11 +246,13 @@ void SystemDataView::finishAnalysis(const SystemDataResult& result) {
   emit stateChanged();
   emit bannerChanged();
   writeTotal();
-  _activity.finish(systemDataKey(), _desktop.formatting.byteText(_findings.removable().bytes));
+  _activity.finish(toolKey(Section::systemData),
+                   _desktop.formatting.byteText(_findings.removable().bytes));
 }
 
 QCoro::Task<> SystemDataView::remove(std::vector<SystemDataItem> items) {
-  const std::set<Path> moved = co_await _removal.trash(pickedFiles(items));
+  auto pick = [&items] { return PickedFilesRemoval::Pick{pickedFiles(items)}; };
+  const std::set<Path> moved = co_await _removal.trash(items.size(), std::move(pick));
   finishRemoval(items, moved);
 }
 
@@ -303,7 +297,8 @@ void SystemDataView::selectionToggled() {
 
 void SystemDataView::writeTotal() {
   const SystemDataFindings::Sum& removable = _findings.removable();
-  _coordinator.setTotal(systemDataKey(), {removable.bytes, removable.count, _desktop.clock.now()});
+  _coordinator.setTotal(toolKey(Section::systemData),
+                        {removable.bytes, removable.count, _desktop.clock.now()});
 }
 
 void SystemDataView::setHighlighted(const QString& kind) {

@@ -17,8 +17,6 @@ using namespace std::chrono_literals;
 /// After this long the list is read anew when the user comes back to it.
 constexpr auto freshness = 300s;
 
-const std::string key{rawValue(Section::uninstaller)};
-
 }  // namespace
 
 AppUninstallerView::AppUninstallerView(const Sources& sources, const Desktop& desktop,
@@ -117,7 +115,7 @@ QCoro::Task<> AppUninstallerView::appear() {
   if (!needsReading()) co_return;
   const std::stop_token stop = _stop.get_token();
   setIsWaitingForTurn(true);
-  const bool hasTurn = co_await _coordinator.beginAutoScan(key, stop);
+  const bool hasTurn = co_await _coordinator.beginAutoScan(toolKey(Section::uninstaller), stop);
   // Whoever waits for a turn may outlive the pane.
   if (stop.stop_requested()) co_return;
   setIsWaitingForTurn(false);
@@ -145,7 +143,7 @@ QCoro::Task<> AppUninstallerView::readApps() {
   _removedWhileReading.clear();
   _loadTask = std::stop_source();
   emit stateChanged();
-  _activity.start(key);
+  _activity.start(toolKey(Section::uninstaller));
 
   UninstallerEngine engine(_desktop);
   const std::stop_token stop = _loadTask.get_token();
@@ -162,8 +160,9 @@ QCoro::Task<> AppUninstallerView::readApps() {
   emit stateChanged();
   std::int64_t bytes = 0;
   for (const AppInfo& app : apps()) bytes = addBytes(bytes, app.appSize);
-  _activity.finish(key, std::to_string(apps().size()) + " apps");
-  _coordinator.setTotal(key, {bytes, static_cast<std::int64_t>(apps().size()), *_loadedAt});
+  _activity.finish(toolKey(Section::uninstaller), std::to_string(apps().size()) + " apps");
+  _coordinator.setTotal(toolKey(Section::uninstaller),
+                        {bytes, static_cast<std::int64_t>(apps().size()), *_loadedAt});
 }
 
 void AppUninstallerView::open(int row) {

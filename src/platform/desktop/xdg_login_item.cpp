@@ -54,12 +54,16 @@ std::string asEntryText(const std::string& text) {
   return escaped;
 }
 
-std::string autostartText(const std::string& command) {
+/// `TryExec` lets a login pass over an entry whose program has been uninstalled.
+std::string autostartText(const Path& program, const std::string& command) {
   return std::string(group) +
          "\n"
          "Type=Application\n"
          "Name=Klarvik\n"
          "Comment=Sees what fills the disk, and takes the space back\n"
+         "TryExec=" +
+         asEntryText(program.native()) +
+         "\n"
          "Exec=" +
          command +
          "\n"
@@ -132,7 +136,8 @@ bool XdgLoginItem::registerProgram() {
   if (!_command || !isInstalled()) return false;
   std::error_code error;
   std::filesystem::create_directories(autostartEntry().parent_path(), error);
-  return writeAtomically(autostartEntry(), autostartText(*_command), readableByAll);
+  return writeAtomically(autostartEntry(), autostartText(_places.program, *_command),
+                         readableByAll);
 }
 
 bool XdgLoginItem::unregisterProgram() {

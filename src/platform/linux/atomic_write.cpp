@@ -31,7 +31,8 @@ void syncFolder(const Path& folder) {
 }  // namespace
 
 bool writeAtomically(const Path& file, std::string_view content, ::mode_t mode) {
-  const Path fresh = Path(file) += ".new";
+  // In folders that are everybody's, under a name that nobody else gives.
+  const Path fresh = file.parent_path() / (".klarvik-" + file.filename().native() + ".new");
   ::unlink(fresh.c_str());  // of a run that was killed
   UniqueFd fd{::open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
   if (!fd) return false;

@@ -17,8 +17,7 @@ namespace klarvik {
 /// 2. Only a few handles are open at a time, the start's and the current one's among them, so that
 ///    depth is bounded by memory alone.
 /// 3. A folder above whose handle was closed is opened again through "..", and only accepted when
-/// it
-///    is the same folder as before. A trail never leads to a place that it did not come from.
+///    it is the same folder as before. A trail never leads to a place that it did not come from.
 ///
 /// Belongs to one thread.
 class FolderTrail {

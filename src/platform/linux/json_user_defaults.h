@@ -16,8 +16,7 @@ namespace klarvik {
 /// the one member "base64". Members of any other form are nobody's value, and stay as they are.
 ///
 /// 1. Another process, or another `JsonUserDefaults`, may use the same folder at the same time:
-/// each
-///    change is made to what stands on the disk at that moment, under a lock.
+///    each change is made to what stands on the disk at that moment, under a lock.
 /// 2. The document is replaced whole or not at all.
 /// 3. A document that is broken (cut short, foreign, too deep, above 16 MiB) reads as empty. Before
 ///    the next change takes its place it is kept aside as "preferences.broken-DATE.json".

@@ -152,11 +152,12 @@ std::optional<Path> LinuxTrash::moveToTrash(const Path& item, const PlaceCheck& 
 }
 
 bool LinuxTrash::putBack(const Path& trashed, const Path& original) {
-  const auto from = contains(trashed) ? openParent(_root, trashed) : std::nullopt;
+  const auto from = openTrashed(trashed);
   if (!from) return false;
   const auto recorder = recorderOf(*from, trashed);
   const auto recorded = recorder ? recordedPlace(*recorder, from->name) : std::nullopt;
 
+  const bool isRecorded = recorder && recorder->trash.holdsRecord(from->name);
   const auto mayReturn = [&](const Path& real) { return leadsBack(real, original, recorded); };
   const auto to = openParentCreating(_root, original, mayReturn);
   if (!to || !mayReturn(to->realPath)) return false;
@@ -164,17 +165,28 @@ bool LinuxTrash::putBack(const Path& trashed, const Path& original) {
                   RENAME_NOREPLACE) != 0) {
     return false;
   }
-  if (recorder) recorder->trash.dropRecord(from->name);
+  if (isRecorded) recorder->trash.dropRecord(from->name);
   return true;
 }
 
 bool LinuxTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
-  const auto parent = contains(trashed) ? openParent(_root, trashed) : std::nullopt;
+  const auto parent = openTrashed(trashed);
   if (!parent) return false;
   const auto recorder = recorderOf(*parent, trashed);
+  const bool isRecorded = recorder && recorder->trash.holdsRecord(parent->name);
   if (!mayRemove(parent->realPath) || !removeTree(*parent)) return false;
-  if (recorder) recorder->trash.dropRecord(parent->name);
+  if (isRecorded) recorder->trash.dropRecord(parent->name);
   return true;
+}
+
+std::optional<ParentHandle> LinuxTrash::openTrashed(const Path& trashed) const {
+  if (!contains(trashed)) return std::nullopt;
+  auto parent = openParent(_root, trashed);
+  const auto folder = openParent(_root, trashed.lexically_normal().parent_path());
+  if (!parent || !folder || folder->realPath / parent->name != parent->realPath) {
+    return std::nullopt;
+  }
+  return parent;
 }
 
 Path LinuxTrash::onMachine(const Path& logical) const {
@@ -268,7 +280,10 @@ std::optional<Path> LinuxTrash::recordedPlace(const Recorder& recorder,
 
 bool LinuxTrash::leadsBack(const Path& real, const Path& original,
                            const std::optional<Path>& recorded) const {
-  return real == recorded || real == placeWithoutLinks(original.lexically_normal());
+  const Path place = original.lexically_normal();
+  // The name in the Trash may have come to another thing, which was somewhere else.
+  if (recorded && recorded != real && recorded != place) return false;
+  return real == recorded || real == placeWithoutLinks(place);
 }
 
 Path LinuxTrash::placeWithoutLinks(const Path& original) const {

@@ -46,6 +46,8 @@ class LinuxTrash : public Trash {
     Path base;  // on the machine, what the recorded places count from
   };
 
+  /// Nothing for what is in no Trash, or only seems to be, since its folder there is a link.
+  [[nodiscard]] std::optional<ParentHandle> openTrashed(const Path& trashed) const;
   [[nodiscard]] Path onMachine(const Path& logical) const;
   [[nodiscard]] std::optional<Path> logical(const Path& onMachine) const;
 
@@ -66,7 +68,8 @@ class LinuxTrash : public Trash {
   [[nodiscard]] std::optional<Path> recordedPlace(const Recorder& recorder,
                                                   const std::string& name) const;
   /// Whether `real`, which `original` leads to now, is the place the item was at: the recorded one,
-  /// or one that is reached without links. The home itself may be a link.
+  /// or, as far as none is recorded that says otherwise, one that is reached without links. The
+  /// home itself may be a link.
   [[nodiscard]] bool leadsBack(const Path& real, const Path& original,
                                const std::optional<Path>& recorded) const;
   [[nodiscard]] Path placeWithoutLinks(const Path& original) const;

@@ -118,6 +118,10 @@ std::optional<std::string> TrashFolder::readRecord(const std::string& name) cons
   return file ? readToEnd(file.get(), kLongestRecord) : std::nullopt;
 }
 
+bool TrashFolder::holdsRecord(const std::string& name) const {
+  return holds(_info.get(), recordName(name));
+}
+
 void TrashFolder::dropRecord(const std::string& name) const {
   removeRecord(_info.get(), name);
 }

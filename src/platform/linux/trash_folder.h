@@ -31,6 +31,9 @@ class TrashFolder {
   [[nodiscard]] std::optional<std::string> take(const ParentHandle& item,
                                                 std::string_view record) const;
   [[nodiscard]] std::optional<std::string> readRecord(const std::string& name) const;
+  [[nodiscard]] bool holdsRecord(const std::string& name) const;
+  /// Only for a record that was there before its thing went: otherwise the name may have come to
+  /// another thing meanwhile, and the record with it.
   void dropRecord(const std::string& name) const;
 
  private:

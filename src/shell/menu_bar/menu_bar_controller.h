@@ -20,7 +20,7 @@ class MenuBarController : public QObject {
  public:
   using MakePopover = std::function<std::unique_ptr<MenuBarPopover>()>;
 
-  /// Set by the entry of the program; a window that has been closed is opened through it.
+  /// Set when the program is launched; a window that has been closed is opened through it.
   static inline OpenWindowHandler openWindowHandler;
 
   MenuBarController(const Desktop& desktop, TrashMonitor& trash, MakePopover makePopover,

@@ -26,7 +26,9 @@ class DuplicateChoiceTest : public testing::Test {
   [[nodiscard]] const ChosenGroup& group(std::size_t at) const { return *choice.groups()[at]; }
   [[nodiscard]] std::vector<Path> selected() const {
     std::vector<Path> paths;
-    for (const DuplicateFile& file : choice.selectedFiles()) paths.push_back(file.url);
+    for (const SelectedCopy& copy : choice.selection().list()) {
+      paths.push_back(copy.group->files[copy.file].url);
+    }
     return paths;
   }
   void remove(const DuplicateChoice::Paths& gone) {

@@ -78,7 +78,9 @@ class DuplicatesFixture : public PaneFixture {
   }
   [[nodiscard]] std::vector<Path> selected() const {
     std::vector<Path> places;
-    for (const DuplicateFile& file : pane->selectedFiles()) places.push_back(file.url);
+    for (const SelectedCopy& copy : pane->selectedFiles()) {
+      places.push_back(copy.group->files[copy.file].url);
+    }
     return places;
   }
   [[nodiscard]] ToolActivity::State activity() { return activityOf("duplicates"); }

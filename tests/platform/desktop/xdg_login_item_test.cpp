@@ -43,7 +43,10 @@ TEST_F(XdgLoginItemTest, IsWrittenForAnInstalledProgramAndRemovedAgain) {
             "Type=Application\n"
             "Name=Klarvik\n"
             "Comment=Sees what fills the disk, and takes the space back\n"
-            "Exec=\"" +
+            "TryExec=" +
+                disk.onDisk("/usr/bin/klarvik").native() +
+                "\n"
+                "Exec=\"" +
                 disk.onDisk("/usr/bin/klarvik").native() +
                 "\"\n"
                 "Terminal=false\n"

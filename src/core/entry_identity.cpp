@@ -1,0 +1,11 @@
+#include "core/entry_identity.h"
+
+namespace klarvik {
+
+std::optional<EntryIdentity> entryIdentity(const FileSystem& files, const Path& path) {
+  const auto attributes = files.attributes(path);
+  if (!attributes || !attributes->identity) return std::nullopt;
+  return EntryIdentity{*attributes->identity, attributes->created};
+}
+
+}  // namespace klarvik
