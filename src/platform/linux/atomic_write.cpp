@@ -4,23 +4,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
 #include <cstdio>
 
 #include "platform/linux/unique_fd.h"
+#include "platform/linux/write_whole.h"
 
 namespace klarvik {
 namespace {
-
-bool writeAll(int fd, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t written = ::write(fd, content.data(), content.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return false;
-    content.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
 
 // Makes the new name last. When that fails, the new content stands all the same.
 void syncFolder(const Path& folder) {
@@ -36,7 +26,7 @@ bool writeAtomically(const Path& file, std::string_view content, ::mode_t mode) 
   ::unlink(fresh.c_str());  // of a run that was killed
   UniqueFd fd{::open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
   if (!fd) return false;
-  const bool stored = ::fchmod(fd.get(), mode) == 0 && writeAll(fd.get(), content) &&
+  const bool stored = ::fchmod(fd.get(), mode) == 0 && writeWhole(fd.get(), content) &&
                       ::fsync(fd.get()) == 0 && ::close(fd.release()) == 0 &&
                       ::rename(fresh.c_str(), file.c_str()) == 0;
   if (stored) {

@@ -1,17 +1,15 @@
 #include "platform/linux/linux_trash.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <stdio.h>
-#include <sys/stat.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <ctime>
-#include <memory>
 #include <string_view>
 
+#include "platform/linux/directory_reader.h"
 #include "platform/linux/file_status.h"
+#include "platform/linux/folder_handle.h"
 #include "platform/linux/mount_table.h"
 #include "platform/linux/trash_record.h"
 #include "platform/linux/tree_removal.h"
@@ -19,8 +17,6 @@
 
 namespace klarvik {
 namespace {
-
-constexpr mode_t kPrivateFolder = 0700;
 
 Path withoutLinks(const Path& root) {
   std::error_code error;
@@ -53,38 +49,23 @@ UniqueFd openForListing(const Path& root, const Path& folder) {
 }
 
 std::optional<std::vector<Path>> entriesOf(const Path& root, const Path& folder) {
-  UniqueFd opened = openForListing(root, folder);
-  const std::unique_ptr<DIR, int (*)(DIR*)> listing(::fdopendir(opened.get()), ::closedir);
-  if (!listing) return std::nullopt;
-  static_cast<void>(opened.release());
+  const UniqueFd opened = openForListing(root, folder);
   std::vector<Path> entries;
-  while (const dirent* entry = ::readdir(listing.get())) {
-    const std::string_view name = entry->d_name;
-    if (name != "." && name != "..") entries.push_back(folder / name);
-  }
-  return entries;
+  const bool listed = opened && DirectoryReader().read(opened.get(), [&](const ListedEntry& entry) {
+    entries.push_back(folder / entry.name);
+    return true;
+  });
+  return listed ? std::optional(std::move(entries)) : std::nullopt;
 }
 
-std::optional<struct stat> statusOf(const Path& root, const Path& item) {
-  struct stat status {};
+std::optional<FileAttributes> attributesAt(const Path& root, const Path& item) {
   const auto parent = openParent(root, item);
-  if (!parent ||
-      ::fstatat(parent->folder.get(), parent->name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
-    return std::nullopt;
-  }
-  return status;
+  const auto status = parent ? statusOf(parent->folder.get(), parent->name.c_str()) : std::nullopt;
+  return status ? std::optional(attributesOf(*status)) : std::nullopt;
 }
 
-/// The user may have put a link in place of the whole Trash.
-UniqueFd openFolderCreating(const ParentHandle& place) {
-  const auto open = [&] {
-    return UniqueFd(
-        ::openat(place.folder.get(), place.name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-  };
-  UniqueFd folder = open();
-  if (folder || errno != ENOENT) return folder;
-  ::mkdirat(place.folder.get(), place.name.c_str(), kPrivateFolder);
-  return open();
+bool isFolder(const std::optional<FileAttributes>& attributes) {
+  return attributes && attributes->kind == FileKind::directory;
 }
 
 }  // namespace
@@ -96,8 +77,7 @@ std::vector<Path> LinuxTrash::folders() {
   static_cast<void>(openHomeTrash());
   std::vector<Path> folders{_homeTrash / "files"};
   Path ofTheHome = _home / ".Trash";
-  const auto status = statusOf(_root, ofTheHome);
-  if (status && S_ISDIR(status->st_mode)) folders.push_back(std::move(ofTheHome));
+  if (isFolder(attributesAt(_root, ofTheHome))) folders.push_back(std::move(ofTheHome));
   return folders;
 }
 
@@ -114,12 +94,12 @@ std::optional<std::vector<Path>> LinuxTrash::list() {
 
 std::optional<Date> LinuxTrash::modificationDate() {
   const std::vector<Path> all = folders();
-  const auto main = statusOf(_root, all.front());
-  if (!main || !S_ISDIR(main->st_mode)) return std::nullopt;
-  Date newest = dateOf(main->st_mtim.tv_sec, main->st_mtim.tv_nsec);
+  const auto main = attributesAt(_root, all.front());
+  if (!isFolder(main)) return std::nullopt;
+  std::optional<Date> newest = main->modified;
   for (std::size_t i = 1; i < all.size(); ++i) {
-    const auto status = statusOf(_root, all[i]);
-    if (status) newest = std::max(newest, dateOf(status->st_mtim.tv_sec, status->st_mtim.tv_nsec));
+    const auto more = attributesAt(_root, all[i]);
+    if (more) newest = std::max(newest, more->modified);
   }
   return newest;
 }
@@ -203,7 +183,9 @@ std::optional<TrashFolder> LinuxTrash::openHomeTrash() const {
   auto parent = openParent(_root, _homeTrash);
   if (!parent) parent = makeParentOfHomeTrash();
   if (!parent) return std::nullopt;
-  const UniqueFd folder = openFolderCreating(*parent);
+  // The user may have put a link in place of the whole Trash.
+  const UniqueFd folder =
+      openFolderHandleCreating(parent->folder.get(), parent->name.c_str(), LinkInPlace::followed);
   return folder ? TrashFolder::openCreating(folder) : std::nullopt;
 }
 

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/linux/folder_handle.h"
 #include "platform/linux/uninterrupted.h"
 
 namespace klarvik {
@@ -43,11 +44,6 @@ bool namesAnItem(const Path& item) {
          item.native().find('\0') == std::string::npos;
 }
 
-UniqueFd openStep(int folder, const char* name) {
-  constexpr int flags = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-  return UniqueFd(uninterrupted([&] { return ::openat(folder, name, flags); }));
-}
-
 std::optional<std::string> linkTarget(int folder, const std::string& name) {
   std::array<char, PATH_MAX> target;
   const ssize_t length = uninterrupted(
@@ -61,7 +57,7 @@ std::optional<std::string> linkTarget(int folder, const std::string& name) {
 /// what a ".." on the disk may have come to mean.
 class Descent {
  public:
-  Descent() : _folder(openStep(AT_FDCWD, "/")) {}
+  Descent() : _folder(openFolderHandle(AT_FDCWD, "/")) {}
 
   /// Goes down along `path`. Where it fails, what has not been entered stays pending.
   bool enter(std::string_view path) {
@@ -79,7 +75,7 @@ class Descent {
       const std::string& name = _pending.back();
       const auto make = [&] { return ::mkdirat(_folder.get(), name.c_str(), 0777); };
       if (uninterrupted(make) != 0 && errno != EEXIST) return false;
-      UniqueFd next = openStep(_folder.get(), name.c_str());
+      UniqueFd next = openFolderHandle(_folder.get(), name.c_str());
       if (!next) return false;
       arriveAt(std::move(next));
     }
@@ -119,7 +115,7 @@ class Descent {
       pop();
       return leave();
     }
-    UniqueFd next = openStep(_folder.get(), _pending.back().c_str());
+    UniqueFd next = openFolderHandle(_folder.get(), _pending.back().c_str());
     if (next) {
       arriveAt(std::move(next));
       return true;
@@ -147,16 +143,16 @@ class Descent {
     push(componentsOf(*target));
     if (target->front() != '/') return true;
     _place.clear();
-    _folder = openStep(AT_FDCWD, "/");
+    _folder = openFolderHandle(AT_FDCWD, "/");
     return static_cast<bool>(_folder);
   }
 
   bool leave() {
     if (!_place.empty()) _place.pop_back();
-    _folder = openStep(AT_FDCWD, "/");
+    _folder = openFolderHandle(AT_FDCWD, "/");
     for (const std::string& name : _place) {
       if (!_folder) return false;
-      _folder = openStep(_folder.get(), name.c_str());
+      _folder = openFolderHandle(_folder.get(), name.c_str());
     }
     return static_cast<bool>(_folder);
   }

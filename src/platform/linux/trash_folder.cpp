@@ -6,14 +6,15 @@
 
 #include <cerrno>
 
+#include "platform/linux/folder_handle.h"
 #include "platform/linux/read_to_end.h"
 #include "platform/linux/trash_name.h"
 #include "platform/linux/uninterrupted.h"
+#include "platform/linux/write_whole.h"
 
 namespace klarvik {
 namespace {
 
-constexpr mode_t kPrivateFolder = 0700;
 constexpr mode_t kPrivateFile = 0600;
 constexpr std::size_t kMostNames = 200;
 constexpr std::size_t kLongestRecord = 1 << 20;  // bytes; far more than any place takes
@@ -25,28 +26,8 @@ UniqueFd openAt(int folder, const char* name, int flags) {
       uninterrupted([&] { return ::openat(folder, name, flags | O_CLOEXEC, kPrivateFile); }));
 }
 
-UniqueFd openFolder(int parent, const char* name) {
-  return openAt(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW);
-}
-
-UniqueFd openFolderCreating(int parent, const char* name) {
-  UniqueFd folder = openFolder(parent, name);
-  if (folder || errno != ENOENT) return folder;
-  if (::mkdirat(parent, name, kPrivateFolder) != 0 && errno != EEXIST) return {};
-  return openFolder(parent, name);
-}
-
 std::string recordName(const std::string& name) {
   return name + std::string(kTrashRecordSuffix);
-}
-
-bool writeAll(int file, std::string_view text) {
-  while (!text.empty()) {
-    const ssize_t written = uninterrupted([&] { return ::write(file, text.data(), text.size()); });
-    if (written <= 0) return false;
-    text.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
 }
 
 // Some file systems tell only when a file is closed that there was no room for it.
@@ -61,7 +42,7 @@ void removeRecord(int info, const std::string& name) {
 Attempt makeRecord(int info, const std::string& name, std::string_view text) {
   UniqueFd file = openAt(info, recordName(name).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW);
   if (!file) return errno == EEXIST ? Attempt::nameTaken : Attempt::failed;
-  if (writeAll(file.get(), text) && closeWhole(std::move(file))) return Attempt::done;
+  if (writeWhole(file.get(), text) && closeWhole(std::move(file))) return Attempt::done;
   removeRecord(info, name);
   return Attempt::failed;
 }
@@ -74,16 +55,16 @@ bool holds(int folder, const std::string& name) {
 }  // namespace
 
 std::optional<TrashFolder> TrashFolder::openCreating(const UniqueFd& folder) {
-  UniqueFd files = openFolderCreating(folder.get(), "files");
-  UniqueFd info = openFolderCreating(folder.get(), "info");
+  UniqueFd files = openFolderHandleCreating(folder.get(), "files");
+  UniqueFd info = openFolderHandleCreating(folder.get(), "info");
   if (!files || !info) return std::nullopt;
   return TrashFolder(std::move(files), std::move(info));
 }
 
 std::optional<TrashFolder> TrashFolder::openAround(const UniqueFd& files) {
-  const UniqueFd folder = openFolder(files.get(), "..");
-  UniqueFd again = openFolder(files.get(), ".");
-  UniqueFd info = openFolder(folder.get(), "info");
+  const UniqueFd folder = openFolderHandle(files.get(), "..");
+  UniqueFd again = openFolderHandle(files.get(), ".");
+  UniqueFd info = openFolderHandle(folder.get(), "info");
   if (!again || !info) return std::nullopt;
   return TrashFolder(std::move(again), std::move(info));
 }

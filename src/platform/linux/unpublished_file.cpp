@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "platform/linux/uninterrupted.h"
+#include "platform/linux/write_whole.h"
 
 namespace klarvik {
 namespace {
@@ -46,13 +46,8 @@ std::optional<UnpublishedFile> UnpublishedFile::in(const Path& folder) {
 }
 
 bool UnpublishedFile::append(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written =
-        uninterrupted([&] { return ::write(_fd.get(), bytes.data(), bytes.size()); });
-    if (written <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-    _size += written;
-  }
+  if (!writeWhole(_fd.get(), bytes)) return false;
+  _size += static_cast<std::int64_t>(bytes.size());
   return true;
 }
 

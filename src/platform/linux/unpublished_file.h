@@ -24,6 +24,7 @@ class UnpublishedFile {
   UnpublishedFile& operator=(UnpublishedFile&&) = delete;
   ~UnpublishedFile();
 
+  /// False when not all of it could be written; the file is of no use then.
   [[nodiscard]] bool append(std::string_view bytes);
   [[nodiscard]] std::int64_t size() const { return _size; }
   /// Shows `look` all of what has been written. False when it cannot be read, else what `look`

@@ -1,18 +1,17 @@
 #include "platform/linux/volume_trash.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <string>
 
+#include "platform/linux/folder_handle.h"
 #include "platform/linux/mount_table.h"
 
 namespace klarvik {
 namespace {
 
-constexpr mode_t kPrivateFolder = 0700;
 constexpr const char* kSharedName = ".Trash";
 
 std::string userId() {
@@ -23,13 +22,8 @@ std::string ownName() {
   return std::string(kSharedName).append("-").append(userId());
 }
 
-UniqueFd openFolder(int parent, const char* name) {
-  return UniqueFd(::openat(parent, name, O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-}
-
 std::optional<TrashFolder> openOwn(int parent, const std::string& name, std::uint64_t mount) {
-  ::mkdirat(parent, name.c_str(), kPrivateFolder);
-  const UniqueFd folder = openFolder(parent, name.c_str());
+  const UniqueFd folder = openFolderHandleCreating(parent, name.c_str());
   struct stat status {};
   if (!folder || ::fstat(folder.get(), &status) != 0 || status.st_uid != ::geteuid()) {
     return std::nullopt;
@@ -40,7 +34,7 @@ std::optional<TrashFolder> openOwn(int parent, const std::string& name, std::uin
 }
 
 std::optional<TrashFolder> openInShared(int top, std::uint64_t mount) {
-  const UniqueFd shared = openFolder(top, kSharedName);
+  const UniqueFd shared = openFolderHandle(top, kSharedName);
   struct stat status {};
   if (!shared || ::fstat(shared.get(), &status) != 0 || !(status.st_mode & S_ISVTX)) {
     return std::nullopt;
