@@ -1,6 +1,6 @@
 #include "shell/disk_block.h"
 
-#include "shell/sidebar_texts.h"
+#include "shell/disk_texts.h"
 
 namespace klarvik {
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -8,12 +7,11 @@
 
 #include "platform/formatting.h"
 #include "state/app_state.h"
-#include "state/disk_monitor.h"
 #include "state/scan_coordinator.h"
 #include "state/section.h"
 #include "state/tool_activity.h"
 
-/// What the sidebar says and draws, as plain functions of what it tells of.
+/// What the rows of the sidebar say and draw, as plain functions of what they tell of.
 namespace klarvik::sidebar {
 
 using Totals = std::map<std::string, ScanCoordinator::Total>;
@@ -40,29 +38,5 @@ struct RightHand {
                                   const std::optional<std::string>& trailing);
 /// Whether a loader takes the place of the icon.
 [[nodiscard]] bool isWorking(const ToolActivity::State& activity);
-
-/// 0 to 1.
-[[nodiscard]] double usedFraction(const DiskStats& stats);
-[[nodiscard]] bool isNearlyFull(const DiskStats& stats);
-[[nodiscard]] std::string percentFull(const DiskStats& stats);
-[[nodiscard]] std::string freeLine(const DiskStats& stats, const Formatting& formatting);
-
-/// What `TrashMonitor` publishes.
-struct TrashFigures {
-  std::int64_t bytes = 0;
-  std::int64_t itemCount = 0;
-  bool isEmptying = false;
-  std::optional<DeletionProgress> emptyProgress;
-  bool isReadable = true;
-  bool isMeasuring = false;
-};
-enum class TrashControl { none, progress, grant, empty };
-
-[[nodiscard]] std::string_view trashSymbol(const TrashFigures& trash);
-[[nodiscard]] std::string trashSubtitle(const TrashFigures& trash, const Formatting& formatting);
-[[nodiscard]] TrashControl trashControl(const TrashFigures& trash);
-[[nodiscard]] std::string trashControlHelp(const TrashFigures& trash, const Formatting& formatting);
-[[nodiscard]] std::string emptyTrashMessage(const TrashFigures& trash,
-                                            const Formatting& formatting);
 
 }  // namespace klarvik::sidebar

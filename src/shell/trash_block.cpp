@@ -1,30 +1,8 @@
 #include "shell/trash_block.h"
 
-#include "shell/sidebar_texts.h"
+#include "shell/trash_texts.h"
 
 namespace klarvik {
-namespace {
-
-sidebar::TrashFigures figures(const TrashMonitor& monitor) {
-  return {monitor.bytes(),         monitor.itemCount(),  monitor.isEmptying(),
-          monitor.emptyProgress(), monitor.isReadable(), monitor.isMeasuring()};
-}
-
-TrashBlock::Control control(sidebar::TrashControl control) {
-  switch (control) {
-    case sidebar::TrashControl::none:
-      return TrashBlock::Control::None;
-    case sidebar::TrashControl::progress:
-      return TrashBlock::Control::Progress;
-    case sidebar::TrashControl::grant:
-      return TrashBlock::Control::Grant;
-    case sidebar::TrashControl::empty:
-      return TrashBlock::Control::Empty;
-  }
-  return TrashBlock::Control::None;
-}
-
-}  // namespace
 
 TrashBlock::TrashBlock(TrashMonitor& monitor, PermissionsManager& permissions,
                        const Desktop& desktop, QObject* parent)
@@ -33,15 +11,15 @@ TrashBlock::TrashBlock(TrashMonitor& monitor, PermissionsManager& permissions,
 }
 
 QString TrashBlock::symbol() const {
-  return QString::fromStdString(std::string(sidebar::trashSymbol(figures(_monitor))));
+  return QString::fromStdString(std::string(sidebar::trashSymbol(_monitor.figures())));
 }
 
 QString TrashBlock::subtitle() const {
-  return QString::fromStdString(sidebar::trashSubtitle(figures(_monitor), _desktop.formatting));
+  return QString::fromStdString(sidebar::trashSubtitle(_monitor.figures(), _desktop.formatting));
 }
 
 TrashBlock::Control TrashBlock::control() const {
-  return klarvik::control(sidebar::trashControl(figures(_monitor)));
+  return sidebar::trashControl(_monitor.figures());
 }
 
 QString TrashBlock::controlTitle() const {
@@ -58,11 +36,12 @@ QString TrashBlock::controlTitle() const {
 }
 
 QString TrashBlock::controlHelp() const {
-  return QString::fromStdString(sidebar::trashControlHelp(figures(_monitor), _desktop.formatting));
+  return QString::fromStdString(sidebar::trashControlHelp(_monitor.figures(), _desktop.formatting));
 }
 
 QString TrashBlock::confirmationMessage() const {
-  return QString::fromStdString(sidebar::emptyTrashMessage(figures(_monitor), _desktop.formatting));
+  return QString::fromStdString(
+      sidebar::emptyTrashMessage(_monitor.figures(), _desktop.formatting));
 }
 
 void TrashBlock::open() {

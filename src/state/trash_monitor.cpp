@@ -49,12 +49,12 @@ TrashMonitor::~TrashMonitor() {
 }
 
 void TrashMonitor::refresh(bool force) {
-  if (_isMeasuring) return;
+  if (_figures.isMeasuring) return;
   const auto stamp = _desktop.trash.modificationDate();
   if (!force && stamp && stamp == _lastStamp) return;
   auto entries = _desktop.trash.list();
   setContents(entries.has_value(), entries ? static_cast<std::int64_t>(entries->size()) : 0);
-  if (_itemCount > 0) {
+  if (_figures.itemCount > 0) {
     measure(std::move(*entries), stamp);
     return;
   }
@@ -75,7 +75,7 @@ QCoro::Task<> TrashMonitor::measure(std::vector<Path> entries, std::optional<Dat
 }
 
 QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {
-  if (_isEmptying) co_return std::int64_t{0};
+  if (_figures.isEmptying) co_return std::int64_t{0};
   setEmptying(true);
   setEmptyProgress(std::nullopt);
   ScannerEngine engine(_desktop);
@@ -103,24 +103,24 @@ void TrashMonitor::finishEmptying() {
 }
 
 void TrashMonitor::setContents(bool readable, std::int64_t itemCount) {
-  const bool readableChanged = changeTo(_isReadable, readable);
-  if (changeTo(_itemCount, itemCount) || readableChanged) emit changed();
+  const bool readableChanged = changeTo(_figures.isReadable, readable);
+  if (changeTo(_figures.itemCount, itemCount) || readableChanged) emit changed();
 }
 
 void TrashMonitor::setBytes(std::int64_t bytes) {
-  if (changeTo(_bytes, bytes)) emit changed();
+  if (changeTo(_figures.bytes, bytes)) emit changed();
 }
 
 void TrashMonitor::setMeasuring(bool measuring) {
-  if (changeTo(_isMeasuring, measuring)) emit changed();
+  if (changeTo(_figures.isMeasuring, measuring)) emit changed();
 }
 
 void TrashMonitor::setEmptying(bool emptying) {
-  if (changeTo(_isEmptying, emptying)) emit changed();
+  if (changeTo(_figures.isEmptying, emptying)) emit changed();
 }
 
 void TrashMonitor::setEmptyProgress(std::optional<DeletionProgress> progress) {
-  if (changeTo(_emptyProgress, std::move(progress))) emit changed();
+  if (changeTo(_figures.emptyProgress, std::move(progress))) emit changed();
 }
 
 }  // namespace klarvik

@@ -18,20 +18,31 @@ namespace klarvik {
 class TrashMonitor : public QObject {
   Q_OBJECT
  public:
+  /// All that it publishes.
+  struct Figures {
+    std::int64_t bytes = 0;
+    std::int64_t itemCount = 0;
+    bool isEmptying = false;
+    std::optional<DeletionProgress> emptyProgress{};
+    bool isReadable = true;
+    bool isMeasuring = false;
+  };
+
   [[nodiscard]] static TrashMonitor& shared();
 
   explicit TrashMonitor(const Desktop& desktop, QObject* parent = nullptr);
   /// Waits for the entry that is being measured, and for those that are being removed.
   ~TrashMonitor() override;
 
-  [[nodiscard]] std::int64_t bytes() const { return _bytes; }
-  [[nodiscard]] std::int64_t itemCount() const { return _itemCount; }
-  [[nodiscard]] bool isEmptying() const { return _isEmptying; }
+  [[nodiscard]] const Figures& figures() const { return _figures; }
+  [[nodiscard]] std::int64_t bytes() const { return _figures.bytes; }
+  [[nodiscard]] std::int64_t itemCount() const { return _figures.itemCount; }
+  [[nodiscard]] bool isEmptying() const { return _figures.isEmptying; }
   [[nodiscard]] const std::optional<DeletionProgress>& emptyProgress() const {
-    return _emptyProgress;
+    return _figures.emptyProgress;
   }
-  [[nodiscard]] bool isReadable() const { return _isReadable; }
-  [[nodiscard]] bool isMeasuring() const { return _isMeasuring; }
+  [[nodiscard]] bool isReadable() const { return _figures.isReadable; }
+  [[nodiscard]] bool isMeasuring() const { return _figures.isMeasuring; }
 
   /// Reads the Trash anew when it has changed since the last reading, or in any case with `force`.
   /// While its size is being measured, nothing happens.
@@ -55,12 +66,7 @@ class TrashMonitor : public QObject {
   void setBytes(std::int64_t bytes);
 
   const Desktop& _desktop;
-  std::int64_t _bytes = 0;
-  std::int64_t _itemCount = 0;
-  bool _isEmptying = false;
-  std::optional<DeletionProgress> _emptyProgress;
-  bool _isReadable = true;
-  bool _isMeasuring = false;
+  Figures _figures;
   std::optional<Date> _lastStamp;
   NotificationCenter::Subscription _onDiskChanged;
   NotificationCenter::Subscription _onActive;

@@ -39,18 +39,18 @@ std::string moreCategories(std::size_t count) {
                                  : "";
 }
 
-std::string_view trashSymbol(const TrashFigures& trash) {
+std::string_view trashSymbol(const TrashMonitor::Figures& trash) {
   return trash.isReadable && trash.itemCount > 0 ? "trash.fill" : "trash";
 }
 
-std::string trashLabel(const TrashFigures& trash, const Formatting& formatting) {
+std::string trashLabel(const TrashMonitor::Figures& trash, const Formatting& formatting) {
   if (trash.isEmptying) return "Emptying Trash…";
   if (!trash.isReadable) return "Trash · needs Full Disk Access";
   if (trash.itemCount > 0) return "Empty Trash · " + formatting.byteText(trash.bytes);
   return "Trash is empty";
 }
 
-bool canEmpty(const TrashFigures& trash) {
+bool canEmpty(const TrashMonitor::Figures& trash) {
   return trash.itemCount > 0 && !trash.isEmptying && trash.isReadable;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +8,7 @@
 #include "platform/formatting.h"
 #include "platform/status_item.h"
 #include "state/app_state.h"
+#include "state/trash_monitor.h"
 
 /// What the status item and its popover say and draw, as plain functions of what they tell of.
 namespace klarvik::menu_bar {
@@ -24,15 +24,9 @@ inline constexpr std::size_t shownCategories = 4;
 /// The line below those; empty when no category is left out.
 [[nodiscard]] std::string moreCategories(std::size_t count);
 
-/// What `TrashMonitor` publishes.
-struct TrashFigures {
-  std::int64_t bytes = 0;
-  std::int64_t itemCount = 0;
-  bool isEmptying = false;
-  bool isReadable = true;
-};
-[[nodiscard]] std::string_view trashSymbol(const TrashFigures& trash);
-[[nodiscard]] std::string trashLabel(const TrashFigures& trash, const Formatting& formatting);
-[[nodiscard]] bool canEmpty(const TrashFigures& trash);
+[[nodiscard]] std::string_view trashSymbol(const TrashMonitor::Figures& trash);
+[[nodiscard]] std::string trashLabel(const TrashMonitor::Figures& trash,
+                                     const Formatting& formatting);
+[[nodiscard]] bool canEmpty(const TrashMonitor::Figures& trash);
 
 }  // namespace klarvik::menu_bar

@@ -15,10 +15,6 @@ QString text(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-menu_bar::TrashFigures figures(const TrashMonitor& trash) {
-  return {trash.bytes(), trash.itemCount(), trash.isEmptying(), trash.isReadable()};
-}
-
 }  // namespace
 
 MenuBarView::MenuBarView(AppState& appState, TrashMonitor& trash, const Formatting& formatting,
@@ -53,7 +49,7 @@ QString MenuBarView::totalFound() const {
 }
 
 QList<MenuBarAction> MenuBarView::currentActions() const {
-  const menu_bar::TrashFigures trash = figures(_trash);
+  const TrashMonitor::Figures& trash = _trash.figures();
   return {
       {"magnifyingglass", "Scan Now"},
       {text(menu_bar::trashSymbol(trash)), text(menu_bar::trashLabel(trash, _formatting)),

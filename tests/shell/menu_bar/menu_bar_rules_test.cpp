@@ -61,7 +61,7 @@ TEST(MoreCategories, ExactlyFourHaveNoSuchLineAndFiveHaveItWith1) {
 
 TEST(TrashRow, SaysWhatCanBeDone) {
   struct Row {
-    TrashFigures trash;
+    TrashMonitor::Figures trash;
     const char* label;
     const char* symbol;
     bool canEmpty;

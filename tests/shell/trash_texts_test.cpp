@@ -1,0 +1,74 @@
+#include "shell/trash_texts.h"
+
+#include <gtest/gtest.h>
+
+namespace klarvik::sidebar {
+namespace {
+
+const Formatting& english() {
+  static const Formatting formatting("en_US");
+  return formatting;
+}
+
+TrashMonitor::Figures trashOf(std::int64_t items, std::int64_t bytes) {
+  TrashMonitor::Figures trash;
+  trash.itemCount = items;
+  trash.bytes = bytes;
+  return trash;
+}
+
+TEST(TrashBlockTexts, SayHowManyItemsTakeHowMuch) {
+  EXPECT_EQ(trashSubtitle(trashOf(0, 0), english()), "Empty");
+  EXPECT_EQ(trashSubtitle(trashOf(1, 12'000), english()), "12 KB · 1 item");
+  EXPECT_EQ(trashSubtitle(trashOf(2, 12'000), english()), "12 KB · 2 items");
+}
+
+TEST(TrashBlockTexts, SayThatTheTrashIsBeingMeasured) {
+  TrashMonitor::Figures trash = trashOf(1, 0);
+  trash.isMeasuring = true;
+  EXPECT_EQ(trashSubtitle(trash, english()), "1 item · measuring…");
+}
+
+TEST(TrashBlockTexts, SayThatAccessIsMissing) {
+  TrashMonitor::Figures trash;
+  trash.isReadable = false;
+  EXPECT_EQ(trashSubtitle(trash, english()), "Needs Full Disk Access");
+  EXPECT_EQ(trashControl(trash), TrashBlock::Control::Grant);
+  EXPECT_EQ(trashControlHelp(trash, english()), "macOS keeps the Trash behind Full Disk Access");
+}
+
+TEST(TrashBlockTexts, CountAnEmptyingUpToItsTotalAndNotBeyond) {
+  TrashMonitor::Figures trash = trashOf(5, 12'000);
+  trash.isEmptying = true;
+  trash.isReadable = false;
+  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying…");
+  trash.emptyProgress = DeletionProgress{.completed = 0, .total = 0, .currentName = "", .freed = 0};
+  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying…");
+  trash.emptyProgress = DeletionProgress{.completed = 0, .total = 5, .currentName = "", .freed = 0};
+  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying 1 of 5");
+  trash.emptyProgress = DeletionProgress{.completed = 5, .total = 5, .currentName = "", .freed = 0};
+  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying 5 of 5");
+  EXPECT_EQ(trashControl(trash), TrashBlock::Control::Progress);
+}
+
+TEST(TrashBlockTexts, OfferToEmptyOnlyWhatHoldsSomething) {
+  EXPECT_EQ(trashControl(trashOf(0, 0)), TrashBlock::Control::None);
+  EXPECT_EQ(trashControl(trashOf(3, 12'000)), TrashBlock::Control::Empty);
+  EXPECT_EQ(trashControlHelp(trashOf(3, 12'000), english()),
+            "Delete everything in the Trash and reclaim 12 KB");
+}
+
+TEST(TrashBlockTexts, FillTheBinOnceThereIsSomethingInIt) {
+  EXPECT_EQ(trashSymbol(trashOf(0, 0)), "trash");
+  EXPECT_EQ(trashSymbol(trashOf(1, 0)), "trash.fill");
+}
+
+TEST(TrashBlockTexts, WarnBeforeEmptying) {
+  EXPECT_EQ(emptyTrashMessage(trashOf(1, 12'000), english()),
+            "1 item · 12 KB. This cannot be undone.");
+  EXPECT_EQ(emptyTrashMessage(trashOf(3, 12'000), english()),
+            "3 items · 12 KB. This cannot be undone.");
+}
+
+}  // namespace
+}  // namespace klarvik::sidebar
