@@ -8,13 +8,11 @@
 #include "panes/duplicates/duplicates_texts.h"
 #include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
+#include "panes/kit/row_runs.h"
 #include "panes/kit/row_text.h"
 
 namespace klarvik {
 namespace {
-
-/// With more separate gaps than this, a view takes too long to follow each of them.
-constexpr std::size_t mostGaps = 64;
 
 std::ptrdiff_t offset(std::size_t row) {
   return static_cast<std::ptrdiff_t>(row);
@@ -126,16 +124,9 @@ void DuplicateRows::removeFiles(const DuplicateChoice::Paths& gone,
   };
   for (const ChosenGroup* group : dissolved) _expanded.erase(group->group.id);
 
-  std::vector<std::pair<std::size_t, std::size_t>> gaps;  // first, count
-  for (std::size_t row = 0; row < _rows.size(); ++row) {
-    if (!isGone(_rows[row])) continue;
-    if (!gaps.empty() && gaps.back().first + gaps.back().second == row) {
-      ++gaps.back().second;
-    } else {
-      gaps.emplace_back(row, 1);
-    }
-  }
-  if (gaps.size() > mostGaps) {
+  const std::vector<RowRun> runs =
+      runsOf(_rows.size(), [&](std::size_t row) { return isGone(_rows[row]); });
+  if (runs.size() > mostRuns) {
     const std::size_t sight = std::min(_firstInSight, _rows.size());
     const auto anchor = std::find_if_not(_rows.begin() + offset(sight), _rows.end(), isGone);
     const auto middle = static_cast<std::size_t>(std::distance(_rows.begin(), anchor));
@@ -143,7 +134,7 @@ void DuplicateRows::removeFiles(const DuplicateChoice::Paths& gone,
     removeWithin(0, middle, isGone);
     return;
   }
-  for (const auto& [first, count] : std::views::reverse(gaps)) takeRows(first, count);
+  for (const auto& [first, count] : std::views::reverse(runs)) takeRows(first, count);
 }
 
 void DuplicateRows::allChanged() {

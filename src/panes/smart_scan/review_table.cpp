@@ -3,18 +3,17 @@
 #include <QUrl>
 #include <algorithm>
 #include <numeric>
+#include <ranges>
 #include <span>
 #include <utility>
 
 #include "panes/kit/file_url.h"
+#include "panes/kit/row_runs.h"
 #include "panes/kit/row_text.h"
 #include "panes/smart_scan/smart_scan_texts.h"
 
 namespace klarvik {
 namespace {
-
-/// Above this many separate gaps it is cheaper, also for the view, to list the items anew.
-constexpr std::size_t mostGaps = 64;
 
 /// What a row says that has nothing to say: a view binds every role of every row.
 QVariant nothing(int role) {
@@ -215,23 +214,18 @@ void ReviewTable::syncItems(std::size_t at) {
 /// new.
 void ReviewTable::replaceItems(std::size_t at, ItemSelection::Items items, std::size_t count) {
   ShownCategory& shown = _shown[at];
-  std::vector<std::pair<std::size_t, std::size_t>> gaps;  // first, count
   std::size_t kept = 0;
-  for (std::size_t old = 0; old < shown.ranks.size(); ++old) {
-    if (kept < count && (*shown.items)[shown.ranks[old]].id == (*items)[kept].id) {
-      ++kept;
-    } else if (!gaps.empty() && gaps.back().first + gaps.back().second == old) {
-      ++gaps.back().second;
-    } else {
-      gaps.emplace_back(old, 1);
-    }
-  }
-  if (gaps.size() > mostGaps) {
-    gaps = {{0, shown.ranks.size()}};
+  std::vector<RowRun> runs = runsOf(shown.ranks.size(), [&](std::size_t old) {
+    const bool stays = kept < count && (*shown.items)[shown.ranks[old]].id == (*items)[kept].id;
+    if (stays) ++kept;
+    return !stays;
+  });
+  if (runs.size() > mostRuns) {
+    runs = {RowRun{0, shown.ranks.size()}};
     kept = 0;
   }
-  for (auto gap = gaps.rbegin(); gap != gaps.rend(); ++gap) {
-    removeItems(at, gap->first, gap->second);
+  for (const RowRun& run : std::views::reverse(runs)) {
+    removeItems(at, run.first, run.count);
   }
   shown.items = std::move(items);
   std::iota(shown.ranks.begin(), shown.ranks.end(), std::size_t{0});

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QUrl>
 #include <algorithm>
+#include <ranges>
 #include <unordered_set>
 #include <utility>
 
@@ -10,15 +11,12 @@
 #include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
 #include "panes/kit/palette.h"
+#include "panes/kit/row_runs.h"
 #include "panes/kit/row_text.h"
 #include "panes/system_data/system_data_texts.h"
 
 namespace klarvik {
 namespace {
-
-/// Above this many separate gaps it is cheaper, also for the view, to list what lies between them
-/// anew.
-constexpr std::size_t mostGaps = 64;
 
 QString text(std::string_view bytes) {
   return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
@@ -170,21 +168,16 @@ std::vector<SystemDataTable::Row> SystemDataTable::rowsToShow() const {
 
 void SystemDataTable::removeRowsMissingFrom(const std::vector<Row>& wanted) {
   const std::unordered_set<Row, RowHash, SameRow> kept(wanted.begin(), wanted.end());
-  std::vector<std::pair<std::size_t, std::size_t>> gaps;  // first, one past the last
-  for (std::size_t at = 0; at < _rows.size(); ++at) {
-    if (kept.contains(_rows[at])) continue;
-    if (!gaps.empty() && gaps.back().second == at) {
-      ++gaps.back().second;
-    } else {
-      gaps.emplace_back(at, at + 1);
-    }
+  std::vector<RowRun> runs =
+      runsOf(_rows.size(), [&](std::size_t row) { return !kept.contains(_rows[row]); });
+  if (runs.size() > mostRuns) {
+    const std::size_t first = runs.front().first;
+    runs = {RowRun{first, runs.back().first + runs.back().count - first}};
   }
-  if (gaps.size() > mostGaps) gaps = {{gaps.front().first, gaps.back().second}};
-  for (auto gap = gaps.rbegin(); gap != gaps.rend(); ++gap) {
-    const auto [first, end] = *gap;
-    beginRemoveRows({}, static_cast<int>(first), static_cast<int>(end) - 1);
-    _rows.erase(_rows.begin() + static_cast<std::ptrdiff_t>(first),
-                _rows.begin() + static_cast<std::ptrdiff_t>(end));
+  for (const auto& [first, count] : std::views::reverse(runs)) {
+    const auto begin = _rows.begin() + static_cast<std::ptrdiff_t>(first);
+    beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count - 1));
+    _rows.erase(begin, begin + static_cast<std::ptrdiff_t>(count));
     endRemoveRows();
   }
 }

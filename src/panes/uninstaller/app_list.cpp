@@ -2,20 +2,19 @@
 
 #include <algorithm>
 #include <limits>
+#include <ranges>
 #include <string>
 #include <unordered_map>
 #include <utility>
 
 #include "panes/kit/file_url.h"
+#include "panes/kit/row_runs.h"
 #include "panes/kit/row_text.h"
 
 namespace klarvik {
 namespace {
 
 constexpr std::size_t gone = std::numeric_limits<std::size_t>::max();
-
-/// Above this many separate gaps it is cheaper, also for the view, to list everything anew.
-constexpr std::ptrdiff_t mostGaps = 64;
 
 /// Marks as many places as can stay while they rise from row to row.
 std::vector<bool> longestRise(const std::vector<std::size_t>& places) {
@@ -37,14 +36,6 @@ std::vector<bool> longestRise(const std::vector<std::size_t>& places) {
     stays[row] = true;
   }
   return stays;
-}
-
-std::ptrdiff_t countGaps(const std::vector<bool>& stays) {
-  std::ptrdiff_t gaps = 0;
-  for (std::size_t row = 0; row < stays.size(); ++row) {
-    if (!stays[row] && (row == 0 || stays[row - 1])) ++gaps;
-  }
-  return gaps;
 }
 
 bool isCalled(const AppInfo& app, const QString& searchText) {
@@ -150,18 +141,13 @@ AppList::Places AppList::placesIn(const std::vector<AppInfo>& apps) const {
 }
 
 void AppList::removeRowsExcept(const std::vector<bool>& stays) {
-  const bool removesAll = countGaps(stays) > mostGaps;
-  const auto goes = [&](std::size_t row) { return removesAll || !stays[row]; };
-  for (std::size_t end = stays.size(); end > 0;) {
-    std::size_t first = end;
-    while (first > 0 && goes(first - 1)) --first;
-    if (first < end) {
-      beginRemoveRows({}, static_cast<int>(first), static_cast<int>(end) - 1);
-      _shown.erase(_shown.begin() + static_cast<std::ptrdiff_t>(first),
-                   _shown.begin() + static_cast<std::ptrdiff_t>(end));
-      endRemoveRows();
-    }
-    end = first > 0 ? first - 1 : 0;
+  std::vector<RowRun> runs = runsOf(stays.size(), [&](std::size_t row) { return !stays[row]; });
+  if (runs.size() > mostRuns) runs = {RowRun{0, stays.size()}};
+  for (const auto& [first, count] : std::views::reverse(runs)) {
+    const auto begin = _shown.begin() + static_cast<std::ptrdiff_t>(first);
+    beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count - 1));
+    _shown.erase(begin, begin + static_cast<std::ptrdiff_t>(count));
+    endRemoveRows();
   }
 }
 
