@@ -4,6 +4,7 @@
 #include <array>
 
 #include "engine/category_scanners.h"
+#include "engine/firmware_files.h"
 #include "engine/local_snapshots.h"
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
@@ -26,12 +27,8 @@ constexpr std::array<std::string_view, 9> knownCacheOwners{
     "com.docker.docker",
 };
 
-constexpr std::array<std::string_view, 4> firmwareFolders{
-    "Library/iTunes/iPhone Software Updates",
-    "Library/iTunes/iPad Software Updates",
-    "Library/iTunes/iPod Software Updates",
-    "Library/Apple/MobileSync/Backup",
-};
+/// Holds firmware beside backups of devices.
+constexpr std::string_view mobileSyncFolder = "Library/Apple/MobileSync/Backup";
 
 /// A folder that is worth a row of the leftovers from a certain size on.
 struct Leftover {
@@ -54,11 +51,6 @@ constexpr std::array<Leftover, 8> leftoverFolders{{
 bool hasAnotherOwner(std::string_view name) {
   return std::any_of(knownCacheOwners.begin(), knownCacheOwners.end(),
                      [&](std::string_view owner) { return name.starts_with(owner); });
-}
-
-bool isFirmware(const Path& file) {
-  const Path extension = file.extension();
-  return extension == ".ipsw" || extension == ".ipa";
 }
 
 }  // namespace
@@ -135,14 +127,16 @@ std::int64_t CategoryScanners::snapshotSize(const std::string& text) const {
 
 CategoryScanners::Items CategoryScanners::firmware() const {
   Items items;
-  for (const std::string_view folder : firmwareFolders) {
+  const auto lookInto = [&](std::string_view folder) {
     for (const Path& child : children(folder)) {
       if (!isFirmware(child)) continue;
       const auto size = sizeOf(child);
       if (size <= largestIgnoredFirmware) continue;
       items.push_back(datedItem("📱 Firmware: " + child.filename().native(), child, size));
     }
-  }
+  };
+  for (const std::string_view folder : softwareUpdateFolders) lookInto(folder);
+  lookInto(mobileSyncFolder);
   return items;
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "engine/allocated_size.h"
+#include "engine/firmware_files.h"
 #include "engine/local_snapshots.h"
 #include "engine/shell.h"
 #include "engine/tool_text.h"
@@ -18,12 +19,6 @@ constexpr std::int64_t smallestSwapFile = 100'000'001;
 constexpr std::int64_t smallestFirmware = 50'000'001;
 constexpr std::int64_t smallestRemainder = 10'000'001;
 constexpr std::size_t snapshotNameCharacters = 30;
-
-constexpr std::array<std::string_view, 3> firmwareFolders{
-    "Library/iTunes/iPhone Software Updates",
-    "Library/iTunes/iPad Software Updates",
-    "Library/iTunes/iPod Software Updates",
-};
 
 /// Folders of the home's Library that have a pass of their own.
 constexpr std::array<std::string_view, 12> coveredLibraryFolders{
@@ -40,11 +35,6 @@ constexpr std::array<std::string_view, 12> coveredLibraryFolders{
     "Saved Application State",
     "Mobile Documents",
 };
-
-bool isFirmware(const Path& file) {
-  const Path extension = file.extension();
-  return extension == ".ipsw" || extension == ".ipa";
-}
 
 void sortBySize(std::vector<SystemDataItem>& items) {
   std::ranges::stable_sort(items, std::ranges::greater{}, &SystemDataItem::size);
@@ -143,7 +133,7 @@ SystemDataSearch::Items SystemDataSearch::swapFiles(SystemDataSubCategory kind) 
 
 SystemDataSearch::Items SystemDataSearch::firmware(SystemDataSubCategory kind) const {
   Items items;
-  for (const std::string_view folder : firmwareFolders) {
+  for (const std::string_view folder : softwareUpdateFolders) {
     for (const Path& file : list(inHome(folder))) {
       if (!isFirmware(file)) continue;
       const auto size = sizeOf(file);
