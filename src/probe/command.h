@@ -10,6 +10,9 @@
 
 namespace klarvik::probe {
 
+/// The exit status of a call that cannot be understood.
+inline constexpr int usageError = 2;
+
 /// What a command is run with.
 struct Invocation {
   const Platform& platform;

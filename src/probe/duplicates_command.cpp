@@ -1,6 +1,6 @@
-#include <charconv>
 #include <iostream>
 
+#include "engine/tool_text.h"
 #include "probe/command.h"
 #include "probe/report.h"
 #include "tools/duplicate_scanner.h"
@@ -8,15 +8,6 @@
 namespace klarvik::probe {
 
 namespace {
-
-constexpr int usageError = 2;
-
-std::optional<std::int64_t> wholeNumber(const std::string& text) {
-  std::int64_t number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [rest, error] = std::from_chars(text.data(), end, number);
-  return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
-}
 
 Report reportOf(const DuplicateProgress& progress) {
   return {{"event", "progress"},
@@ -41,7 +32,7 @@ Report reportOf(const DuplicateGroup& group) {
 }  // namespace
 
 int duplicates(const Invocation& call) {
-  const auto minimumSize = wholeNumber(call.arguments[0]);
+  const auto minimumSize = decimalInteger(call.arguments[0]);
   if (!minimumSize) {
     std::cerr << "klarvik-probe: duplicates: the least size is a number of bytes\n";
     return usageError;

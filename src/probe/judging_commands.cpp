@@ -11,8 +11,6 @@ namespace klarvik::probe {
 
 namespace {
 
-constexpr int usageError = 2;
-
 std::optional<DeletionScope> scopeNamed(const std::vector<std::string>& words) {
   const std::vector<std::string> identifiers(words.begin() + 1, words.end());
   if (words[0] == "residual") return DeletionScope::residual(identifiers);

@@ -1,6 +1,6 @@
-#include <charconv>
 #include <iostream>
 
+#include "engine/tool_text.h"
 #include "probe/command.h"
 #include "probe/report.h"
 #include "tools/large_file_walker.h"
@@ -8,15 +8,6 @@
 namespace klarvik::probe {
 
 namespace {
-
-constexpr int usageError = 2;
-
-std::optional<std::int64_t> numberIn(const std::string& text) {
-  std::int64_t number = 0;
-  const char* const end = text.data() + text.size();
-  const auto [rest, error] = std::from_chars(text.data(), end, number);
-  return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
-}
 
 Report fileReport(const LargeFile& file) {
   return {{"id", file.id.text()},
@@ -36,7 +27,7 @@ Report listReport(const LargeFileList& files) {
 }  // namespace
 
 int large(const Invocation& call) {
-  const auto threshold = numberIn(call.arguments[0]);
+  const auto threshold = decimalInteger(call.arguments[0]);
   if (!threshold) {
     std::cerr << "klarvik-probe: large: no number of bytes\n";
     return usageError;

@@ -15,7 +15,6 @@
 namespace klarvik::probe {
 namespace {
 
-constexpr int usageError = 2;
 constexpr int interrupted = 128 + SIGINT;
 
 struct Request {

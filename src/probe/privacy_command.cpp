@@ -9,8 +9,6 @@ namespace klarvik::probe {
 
 namespace {
 
-constexpr int usageError = 2;
-
 /// A terminal has no clipboard, and this program no window that could ask for the desktop's.
 class NoPasteboard final : public Pasteboard {
  public:

@@ -9,8 +9,6 @@ namespace klarvik::probe {
 
 namespace {
 
-constexpr int usageError = 2;
-
 void printProgress(const DeletionProgress& progress) {
   print(progressReport(progress));
 }
