@@ -10,6 +10,7 @@
 #include "panes/kit/fonts.h"
 #include "panes/kit/kit_enums.h"
 #include "panes/kit/loader_timeline.h"
+#include "panes/kit/row_text.h"
 
 void qml_register_types_Klarvik_Kit();
 
@@ -82,7 +83,7 @@ int Kit::placeholderTop(double progress, bool isBusy) const {
 }
 
 QString Kit::safetyText(int level) const {
-  return level == Safety::Caution ? QStringLiteral("Review") : QStringLiteral("Safe");
+  return verdictText(static_cast<SafetyLevel>(level));
 }
 
 QString Kit::fateText(int fate) const {

@@ -14,6 +14,8 @@ QString removalLine(const DeletionProgress& progress, const Formatting& formatti
            QString::fromStdString(formatting.byteText(progress.freed)));
 }
 
+}  // namespace
+
 double removalFraction(const DeletionProgress& progress) {
   if (progress.total <= 0) return 0;
   return std::min(1.0,
@@ -24,8 +26,6 @@ QString removalName(const DeletionProgress& progress) {
   if (progress.currentName.empty()) return QStringLiteral("Starting…");
   return printableText(progress.currentName);
 }
-
-}  // namespace
 
 ToolPaneState toolPaneState(const QString& actionTitle, bool hasAction, bool isBusy,
                             bool rowsShowLoader) {

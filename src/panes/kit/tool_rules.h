@@ -47,6 +47,11 @@ struct ToolPaneState {
 [[nodiscard]] ToolPaneState toolPaneState(const QString& actionTitle, bool hasAction, bool isBusy,
                                           bool rowsShowLoader);
 
+/// How much of a removal is done, 0 to 1.
+[[nodiscard]] double removalFraction(const DeletionProgress& progress);
+/// What a removal dealt with last.
+[[nodiscard]] QString removalName(const DeletionProgress& progress);
+
 struct ToolFooterInput {
   QString selectionSummary;
   QString explanation;

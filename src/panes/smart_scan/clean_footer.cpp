@@ -25,8 +25,8 @@ ToolFooterState CleanFooter::shown() const {
   state.showsProgress = isBusy() && progress.has_value();
   if (state.showsProgress) {
     state.firstLine = QString::fromStdString(smart_scan::removingLine(*progress, _formatting));
-    state.fraction = smart_scan::removingFraction(*progress);
-    state.lastLine = QString::fromStdString(smart_scan::removingName(*progress));
+    state.fraction = removalFraction(*progress);
+    state.lastLine = removalName(*progress);
   }
   return state;
 }

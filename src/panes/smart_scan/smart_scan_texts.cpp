@@ -75,18 +75,6 @@ std::string removingLine(const DeletionProgress& progress, const Formatting& for
          std::to_string(progress.total) + " · " + formatting.byteText(progress.freed) + " so far";
 }
 
-std::string removingName(const DeletionProgress& progress) {
-  return progress.currentName.empty() ? "Starting…" : printable(progress.currentName);
-}
-
-double removingFraction(const DeletionProgress& progress) {
-  if (progress.total < 1) {
-    return 0;
-  }
-  return std::min(1.0,
-                  static_cast<double>(progress.completed) / static_cast<double>(progress.total));
-}
-
 std::string cleanedHeadline(const AppState::CleanSummary& summary, const Formatting& formatting) {
   return formatting.byteText(summary.freed) + " · " + std::to_string(summary.itemCount) +
          " items " + (summary.restorable.empty() ? "removed" : "moved to Trash");

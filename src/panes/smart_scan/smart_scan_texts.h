@@ -32,9 +32,6 @@ namespace klarvik::smart_scan {
 [[nodiscard]] std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting);
 [[nodiscard]] std::string removingLine(const DeletionProgress& progress,
                                        const Formatting& formatting);
-[[nodiscard]] std::string removingName(const DeletionProgress& progress);
-/// How much of the removal is done, 0 to 1.
-[[nodiscard]] double removingFraction(const DeletionProgress& progress);
 
 [[nodiscard]] std::string cleanedHeadline(const AppState::CleanSummary& summary,
                                           const Formatting& formatting);

@@ -123,18 +123,6 @@ TEST(RemovingLine, CountsWhatIsDoneAndNotWhatIsUnderWay) {
       "Removing 10 of 10 · 12 KB so far");
 }
 
-TEST(RemovingName, IsStartingUntilAnItemHasFinished) {
-  EXPECT_EQ(removingName({}), "Starting…");
-  EXPECT_EQ(removingName({.completed = 1, .total = 2, .currentName = "a\xff", .freed = 0}),
-            "a\uFFFD");
-}
-
-TEST(RemovingFraction, IsHeldBetweenNothingAndAll) {
-  EXPECT_EQ(removingFraction({.completed = 0, .total = 0, .currentName = "", .freed = 0}), 0.0);
-  EXPECT_EQ(removingFraction({.completed = 1, .total = 4, .currentName = "", .freed = 0}), 0.25);
-  EXPECT_EQ(removingFraction({.completed = 5, .total = 4, .currentName = "", .freed = 0}), 1.0);
-}
-
 AppState::CleanSummary summaryOf(bool restorable) {
   AppState::CleanSummary summary;
   summary.freed = 3'000'000;
