@@ -3,23 +3,14 @@
 #include <QObject>
 #include <cstdint>
 #include <map>
-#include <string>
 #include <vector>
 
 #include "core/junk_model.h"
 #include "platform/clock.h"
 #include "platform/user_defaults.h"
+#include "state/scan_history_entry.h"
 
 namespace klarvik {
-
-/// One scan or clean on record. The field names and forms are a file format.
-struct ScanHistoryEntry {
-  Uuid id = Uuid::random();
-  Date date;
-  std::int64_t totalJunk = 0;                      ///< bytes
-  std::map<std::string, std::int64_t> categories;  ///< bytes by raw value of `CategoryType`
-  bool operator==(const ScanHistoryEntry&) const = default;
-};
 
 /// The last 30 scans and the last 30 cleans, newest first, kept across restarts. Main thread only;
 /// an entry is saved before the recording call returns.

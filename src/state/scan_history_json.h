@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "state/scan_history.h"
+#include "state/scan_history_entry.h"
 
 namespace klarvik {
 

@@ -8,12 +8,12 @@
 #include <utility>
 
 #include "platform/linux/atomic_write.h"
+#include "platform/linux/desktop_entry.h"
 #include "platform/unicode_text.h"
 
 namespace klarvik {
 namespace {
 
-constexpr std::string_view group = "[Desktop Entry]";
 // More than any entry needs.
 constexpr std::streamsize longestEntry = 64 * 1024;
 constexpr ::mode_t readableByAll = 0644;
@@ -56,7 +56,7 @@ std::string asEntryText(const std::string& text) {
 
 /// `TryExec` lets a login pass over an entry whose program has been uninstalled.
 std::string autostartText(const Path& program, const std::string& command) {
-  return std::string(group) +
+  return std::string(desktopEntryGroup) +
          "\n"
          "Type=Application\n"
          "Name=Klarvik\n"
@@ -81,31 +81,6 @@ std::string contentOf(const Path& file) {
   return content;
 }
 
-std::string_view trimmed(std::string_view text) {
-  constexpr std::string_view blanks = " \t\r";
-  const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-/// The value of a key in the entry's own group.
-std::optional<std::string> valueIn(const std::string& entry, std::string_view key) {
-  bool isInGroup = false;
-  std::string_view rest = entry;
-  while (!rest.empty()) {
-    const auto end = rest.find('\n');
-    const std::string_view line = trimmed(rest.substr(0, end));
-    rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 1);
-    if (line.starts_with('[')) isInGroup = line == group;
-    const auto equals = line.find('=');
-    if (!isInGroup || equals == std::string_view::npos) continue;
-    if (trimmed(line.substr(0, equals)) == key) {
-      return std::string(trimmed(line.substr(equals + 1)));
-    }
-  }
-  return std::nullopt;
-}
-
 }  // namespace
 
 std::optional<std::string> execValue(const Path& program) {
@@ -127,8 +102,9 @@ XdgLoginItem::Places XdgLoginItem::placesOfThisProgram(const Path& configuration
 LoginItem::Status XdgLoginItem::status() const {
   if (!_command || !isInstalled()) return Status::notFound;
   const std::string entry = contentOf(autostartEntry());
-  const bool starts = valueIn(entry, "Exec") == _command && valueIn(entry, "Hidden") != "true" &&
-                      valueIn(entry, "X-GNOME-Autostart-enabled") != "false";
+  const bool starts = valueInDesktopEntry(entry, "Exec") == _command &&
+                      valueInDesktopEntry(entry, "Hidden") != "true" &&
+                      valueInDesktopEntry(entry, "X-GNOME-Autostart-enabled") != "false";
   return starts ? Status::enabled : Status::notRegistered;
 }
 
