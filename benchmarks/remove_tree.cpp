@@ -1,14 +1,19 @@
+// remove_tree HOME FOLDER: removes a folder and all it holds for good, as a clean without the Trash
+// does with what it found. FOLDER must be one that may be removed for the user whose home is HOME.
+
 #include <cstdio>
 
-#include "platform/linux/linux_file_system.h"
+#include "engine/scanner_engine.h"
+#include "platform/linux/linux_platform.h"
 
-// remove_tree FOLDER: removes a folder and all it holds, the way a clean without the Trash does.
 int main(int argc, char** argv) {
-  if (argc != 2 || argv[1][0] != '/') {
-    std::fprintf(stderr, "usage: %s /FOLDER\n", argv[0]);
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: %s HOME FOLDER\n", argv[0]);
     return 2;
   }
-  klarvik::LinuxFileSystem files("/", klarvik::Path(argv[1]).parent_path());
-  const bool removed = files.remove(argv[1], [](const klarvik::Path&) { return true; });
-  return removed ? 0 : 1;
+  klarvik::LinuxPlatform machine("/", klarvik::Path(argv[1]));
+  const klarvik::Platform platform = machine.platform();
+  klarvik::ScannerEngine engine(platform);
+  const klarvik::JunkItem item{.name = argv[2], .path = argv[2], .size = 1};
+  return engine.deleteItem(item, /*useTrash=*/false).reclaimed == item.size ? 0 : 1;
 }

@@ -1,8 +1,6 @@
 """What the walks of the two tools that explain the disk cost beside a bare loop over the same places,
 and how the time of the engines grows with the number of files."""
 
-import subprocess
-
 from harness import peak_megabytes, report, run, take_turns
 from workshop import BUILD, make_tree
 
@@ -52,6 +50,9 @@ COMPOSITION_PLACES = [
     "Library/Caches",
 ]
 
+# A place that every engine walks.
+GROWING_PLACE = f"{HOME}/Library/Caches/com.acme.writer"
+
 
 def probe(root, *command):
     return [BUILD / "klarvik-probe", "--root", root, "--home", HOME, *command]
@@ -82,27 +83,18 @@ def against_loop(name, command, places):
     return benchmark
 
 
-def known_commands():
-    """The names of what the probe can do, from the text that it answers to nothing."""
-    said = subprocess.run([BUILD / "klarvik-probe"], stderr=subprocess.PIPE, text=True, check=False)
-    return {line.split()[0] for line in said.stderr.splitlines() if line.startswith("  ")}
-
-
 def growth(workshop):
     """Seconds and peak memory of each engine on 10,000 to 1,000,000 files in one folder's tree."""
-    documents = f"{HOME}/Documents"
     engines = {
-        "measure": ["measure", documents],
+        "measure": ["measure", GROWING_PLACE],
         "composition": ["composition"],
+        "system-data": ["system-data"],
         "large": ["large", "104857600"],
-        "duplicates": ["duplicates", "1", documents],
+        "duplicates": ["duplicates", "1", GROWING_PLACE],
     }
-    known = known_commands()
     print(f"growth  {'engine':12}{'files':>10}{'seconds':>10}{'MB':>8}{'each, of that at 10,000':>26}")
     roots = {files: disk_of(workshop, files) for files in (10_000, 100_000, 1_000_000)}
     for name, command in engines.items():
-        if name not in known:
-            continue
         first = None
         for files, root in roots.items():
             runs = [run(probe(root, *command)) for _ in range(4)][1:]
@@ -118,9 +110,9 @@ def growth(workshop):
 def disk_of(workshop, files):
     root = workshop.folder / f"disk-{files}"
     if not root.exists():
-        documents = root / HOME[1:] / "Documents"
-        documents.parent.mkdir(parents=True)
-        make_tree(documents, files)
+        folder = root / GROWING_PLACE[1:]
+        folder.parent.mkdir(parents=True)
+        make_tree(folder, files)
     return root
 
 
