@@ -1,10 +1,12 @@
-# klarvik_test(NAME LINKS target... [APPLICATION class] [LABEL label] [FUZZ_SOURCES file...])
+# klarvik_test(NAME LINKS target... [APPLICATION class] [CONCURRENT filter] [FUZZ_SOURCES file...])
 #
 # A GoogleTest program of every *_test.cpp in the current folder; each of its tests is one of
 # CTest's. APPLICATION: the class of the application object that Qt's own classes need, such as
-# QCoreApplication; nothing is shown on a display. LABEL: "concurrent" has the tests run under
-# ThreadSanitizer as well. Under AddressSanitizer, where a start takes longer than most tests, the
-# whole program is one of CTest's.
+# QCoreApplication; nothing is shown on a display. Under AddressSanitizer, where a start takes longer
+# than most tests, the whole program is one of CTest's.
+#
+# CONCURRENT: a filter of GoogleTest's for the tests that have several threads at work. ThreadSanitizer
+# runs these and no others, all of a program as one of CTest's.
 #
 # Every NAME_fuzz.cpp there (a LLVMFuzzerTestOneInput) becomes a fuzz target in the "fuzz" preset. It
 # is run from the samples in the folder NAME_corpus beside it, where there is one, with the same seed
@@ -20,10 +22,12 @@ set(unsanitized_tests
   DeletionGuardSpellings.* *HandlesRunOut* *HandlesThatRunOut* *ShellCannotBeStarted*)
 if(KLARVIK_SANITIZE STREQUAL "fuzzer")
   add_custom_target(fuzz_targets)
+elseif(KLARVIK_SANITIZE STREQUAL "thread")
+  add_custom_target(concurrent_tests)
 endif()
 
 function(klarvik_test name)
-  cmake_parse_arguments(TEST "" "APPLICATION;LABEL" "LINKS;FUZZ_SOURCES" ${ARGN})
+  cmake_parse_arguments(TEST "" "APPLICATION;CONCURRENT" "LINKS;FUZZ_SOURCES" ${ARGN})
   klarvik_fuzz_targets("${TEST_LINKS}" "${TEST_FUZZ_SOURCES}")
   if(KLARVIK_SANITIZE STREQUAL "fuzzer")
     return()
@@ -46,16 +50,27 @@ function(klarvik_test name)
   # The discovery takes the properties apart at every space between them: one value each, and none
   # that is empty.
   set(properties TIMEOUT 300 ENVIRONMENT QT_QPA_PLATFORM=offscreen)
-  if(TEST_LABEL)
-    list(APPEND properties LABELS ${TEST_LABEL})
-  endif()
   if(KLARVIK_SANITIZE STREQUAL "address")
     list(JOIN unsanitized_tests : excluded)
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1 --gtest_filter=-${excluded})
     set_tests_properties(${name} PROPERTIES ${properties} TIMEOUT 1800)
     return()
   endif()
+  if(KLARVIK_SANITIZE STREQUAL "thread")
+    if(TEST_CONCURRENT)
+      klarvik_concurrent(${name} ${TEST_CONCURRENT})
+      set_tests_properties(${name} PROPERTIES ${properties} LABELS concurrent)
+    endif()
+    return()
+  endif()
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES PROPERTIES ${properties})
+endfunction()
+
+# A filter that no test answers to any more fails.
+function(klarvik_concurrent name filter)
+  add_dependencies(concurrent_tests ${name})
+  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1 --gtest_filter=${filter})
+  set_tests_properties(${name} PROPERTIES FAIL_REGULAR_EXPRESSION " 0 tests from")
 endfunction()
 
 function(klarvik_fuzz_targets links shared_sources)
