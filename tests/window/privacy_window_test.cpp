@@ -131,6 +131,14 @@ TEST_F(PrivacyWindow, IsUsedFromTheKeyboardAlone) {
   EXPECT_EQ(desk->recentDocuments.clearings, 1);
 }
 
+TEST_F(PrivacyWindow, HomeEndAndThePageKeysMoveThroughTheTrails) {
+  ASSERT_TRUE(openAndScan());
+  window().resize(920, 640);
+  settle();
+  ASSERT_TRUE(tabTo("SAFARI, CHROME, FIREFOX"));
+  expectPageKeysToMoveThroughTheRows();
+}
+
 TEST_F(PrivacyWindow, ScansInItsTurnAtLaunch) {
   desk->defaults.remove("backgroundScanOnLaunch");
   openWindow();

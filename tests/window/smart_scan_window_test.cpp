@@ -249,6 +249,15 @@ TEST_F(SmartScanWindow, IsUsedFromTheKeyboardAlone) {
   ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
 }
 
+TEST_F(SmartScanWindow, HomeEndAndThePageKeysMoveThroughTheCategories) {
+  openWindow();
+  window().resize(920, 640);
+  ASSERT_TRUE(scanToTheEnd());
+  const CategoryType first = app->appState().scanResults().front().type;
+  ASSERT_TRUE(tabTo(QString::fromStdString(std::string(rawValue(first)))));
+  expectPageKeysToMoveThroughTheRows();
+}
+
 TEST_F(SmartScanWindow, ScansByItselfAtLaunchUnlessThatIsTurnedOff) {
   desk->defaults.remove("backgroundScanOnLaunch");
   openWindow();

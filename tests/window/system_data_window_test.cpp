@@ -185,6 +185,15 @@ TEST_F(SystemDataWindow, IsUsedFromTheKeyboardAlone) {
   EXPECT_TRUE(homeHolds("Library/Caches/com.acme.reader"));
 }
 
+TEST_F(SystemDataWindow, HomeEndAndThePageKeysMoveThroughTheKinds) {
+  openSystemData();
+  ASSERT_TRUE(analyseToTheEnd());
+  window().resize(920, 640);
+  settle();
+  ASSERT_TRUE(tabTo("VM & Swap"));
+  expectPageKeysToMoveThroughTheRows();
+}
+
 TEST_F(SystemDataWindow, ClosedDuringARemovalFinishesTheFileInHand) {
   openSystemData();
   ASSERT_TRUE(analyseToTheEnd());

@@ -165,6 +165,22 @@ TEST_F(UninstallerWindow, IsUsedFromTheKeyboardAlone) {
   EXPECT_FALSE(desk->disk.holds("/Applications/Acme Writer.app"));
 }
 
+TEST_F(UninstallerWindow, HomeEndAndThePageKeysMoveThroughTheApps) {
+  ASSERT_TRUE(openPane());
+  window().resize(920, 640);
+  settle();
+  ASSERT_TRUE(tabTo("Acme Writer, "));
+  expectPageKeysToMoveThroughTheRows();
+}
+
+TEST_F(UninstallerWindow, HomeEndAndThePageKeysMoveThroughTheLeftovers) {
+  ASSERT_TRUE(openAcmeWriter());
+  window().resize(920, 640);
+  settle();
+  ASSERT_TRUE(tabTo("Preferences, "));
+  expectPageKeysToMoveThroughTheRows();
+}
+
 TEST_F(UninstallerWindow, IsReadInItsTurnAtLaunch) {
   desk->defaults.remove("backgroundScanOnLaunch");
   openWindow();

@@ -176,6 +176,26 @@ QString WindowFixture::focused() const {
   return description.isEmpty() ? item->property("title").toString() : description;
 }
 
+int WindowFixture::focusedRow() const {
+  const QQuickItem* item = window().activeFocusItem();
+  const QVariant index = item != nullptr ? item->property("index") : QVariant();
+  return index.isValid() ? index.toInt() : -1;
+}
+
+void WindowFixture::expectPageKeysToMoveThroughTheRows() {
+  ASSERT_GE(focusedRow(), 0);
+  const int rowCount =
+      window().activeFocusItem()->parentItem()->parentItem()->property("count").toInt();
+  press(Qt::Key_End);
+  EXPECT_EQ(focusedRow(), rowCount - 1);
+  press(Qt::Key_Home);
+  EXPECT_EQ(focusedRow(), 0);
+  press(Qt::Key_PageDown);
+  EXPECT_GT(focusedRow(), 1);
+  press(Qt::Key_PageUp);
+  EXPECT_EQ(focusedRow(), 0);
+}
+
 WindowFixture::Listing WindowFixture::listing(const Path& folder) const {
   Listing found;
   const Path start = desk->disk.onDisk(folder);

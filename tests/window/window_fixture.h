@@ -53,6 +53,10 @@ class WindowFixture : public ::testing::Test {
   /// Tab until the item called so has the focus. False when it never gets it.
   [[nodiscard]] bool tabTo(const QString& name);
   [[nodiscard]] QString focused() const;
+  /// The row that has the focus, counted from the top of its list; -1 when none has it.
+  [[nodiscard]] int focusedRow() const;
+  /// To be called with the focus in a list of more rows than two.
+  void expectPageKeysToMoveThroughTheRows();
 
   /// Draws the window into build/screenshots.
   void picture(const QString& name);

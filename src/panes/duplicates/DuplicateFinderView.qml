@@ -31,7 +31,7 @@ ToolPane {
 
     DuplicateTable {
         visible: root.model.body === DuplicateFinderModel.Rows
-        model: root.model
+        pane: root.model
     }
 
     LoadingPane {

@@ -9,6 +9,7 @@
 #include "panes/kit/file_url.h"
 #include "panes/kit/fonts.h"
 #include "panes/kit/kit_enums.h"
+#include "panes/kit/list_keys.h"
 #include "panes/kit/loader_timeline.h"
 #include "panes/kit/row_text.h"
 
@@ -80,6 +81,11 @@ ToolFooterState Kit::toolFooter(const QString& selectionSummary, const QString& 
 
 int Kit::placeholderTop(double progress, bool isBusy) const {
   return klarvik::placeholderTop(progress, isBusy);
+}
+
+int Kit::rowReachedBy(int key, int row, int rowCount, int rowsInSight) const {
+  return klarvik::rowReachedBy(key, {.row = row, .rowCount = rowCount, .rowsInSight = rowsInSight})
+      .value_or(-1);
 }
 
 QString Kit::safetyText(int level) const {

@@ -62,6 +62,9 @@ class Kit : public QObject {
       bool isEnabled, bool isBusy, const klarvik::RemovalProgress& progress, bool canStop) const;
   Q_INVOKABLE [[nodiscard]] int placeholderTop(double progress, bool isBusy) const;
 
+  /// The row that a key leads to; -1 where it is none that moves by more than one row.
+  Q_INVOKABLE [[nodiscard]] int rowReachedBy(int key, int row, int rowCount, int rowsInSight) const;
+
   Q_INVOKABLE [[nodiscard]] QString safetyText(int level) const;
   Q_INVOKABLE [[nodiscard]] QString fateText(int fate) const;
   Q_INVOKABLE [[nodiscard]] QString selectionSymbol(int selection) const;

@@ -66,7 +66,7 @@ ToolPane {
 
     LargeFileTable {
         visible: root.model.body === LargeFileFinderModel.Rows
-        model: root.model
+        pane: root.model
     }
 
     LoadingPane {

@@ -39,9 +39,8 @@ ToolPane {
     onAction: model.performAction()
 
     TrailTable {
-        anchors.fill: parent
         visible: !root.instead.isShown
-        model: root.model
+        pane: root.model
     }
 
     ToolPlaceholder {

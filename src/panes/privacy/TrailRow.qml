@@ -6,10 +6,10 @@ import Klarvik.Kit
 import Klarvik.Privacy
 
 /// The heading of a section, or one trail in it.
-Item {
+RowFrame {
     id: root
 
-    required property int index
+    required index
     required property int kind
     required property string name
     required property string path
@@ -18,39 +18,21 @@ Item {
     required property string count
     required property string size
     required property bool isSelected
-    required property string description
+    required description
 
     property bool isLocked: false
-    property bool isMarked: false
 
     readonly property bool isTrail: kind === TrailListModel.Trail
     readonly property bool hasPath: Kit.hasPath(url)
 
-    signal pressed
-
+    tint: isTrail && hovered ? 0.03 : 0
+    showsParts: isTrail
     implicitHeight: isTrail ? PrivacyMetrics.rowHeight : PrivacyMetrics.headingHeight
     Accessible.role: isTrail ? Accessible.CheckBox : Accessible.Heading
-    Accessible.name: description
-    Accessible.focusable: true
     Accessible.checkable: isTrail
     Accessible.checked: isSelected
-    Accessible.onPressAction: pressed()
-    Accessible.onToggleAction: pressed()
 
-    Rectangle {
-        anchors.fill: parent
-        color: root.isTrail && rowHover.hovered ? Theme.white(0.03) : Theme.clear
-    }
-
-    HoverHandler {
-        id: rowHover
-    }
-
-    TapHandler {
-        onTapped: root.pressed()
-    }
-
-    SectionHeading {
+    whole: SectionHeading {
         visible: !root.isTrail
         anchors.left: parent.left
         anchors.leftMargin: Theme.sidePadding
@@ -59,72 +41,55 @@ Item {
         text: root.name
     }
 
-    RowLayout {
-        visible: root.isTrail
-        anchors.fill: parent
-        anchors.leftMargin: Theme.sidePadding
-        anchors.rightMargin: Theme.sidePadding
-        spacing: Theme.partSpacing
+    SelectionBox {
+        size: 16
+        selection: root.isSelected ? SelectionState.All : SelectionState.None
+        label: root.name
+        canToggle: !root.isLocked
+        activeFocusOnTab: false
+        onToggled: root.pressBox()
+    }
 
-        SelectionBox {
-            size: 16
-            selection: root.isSelected ? SelectionState.All : SelectionState.None
-            label: root.name
-            canToggle: !root.isLocked
-            activeFocusOnTab: false
-            onToggled: root.pressed()
+    ColumnLayout {
+        spacing: 1
+
+        ElidedText {
+            Layout.fillWidth: true
+            text: root.name
+            fullText: root.path
+            weight: Font.Medium
         }
 
-        ColumnLayout {
-            spacing: 1
-
-            ElidedText {
-                Layout.fillWidth: true
-                text: root.name
-                fullText: root.path
-                weight: Font.Medium
-            }
-
-            ElidedText {
-                Layout.fillWidth: true
-                visible: root.hasPath
-                text: Kit.folderLine(root.url)
-                size: 10.5
-                color: Theme.textTertiary
-            }
-        }
-
-        RevealButton {
+        ElidedText {
+            Layout.fillWidth: true
             visible: root.hasPath
-            activeFocusOnTab: root.ListView.isCurrentItem
-            url: root.url
-        }
-
-        KitText {
-            Layout.preferredWidth: PrivacyMetrics.costWidth
-            text: root.cost
-            size: 12
-            color: Theme.textSecondary
-        }
-
-        Figure {
-            Layout.preferredWidth: PrivacyMetrics.itemsWidth
-            text: root.count
-        }
-
-        Figure {
-            Layout.preferredWidth: PrivacyMetrics.sizeWidth
-            text: root.size
-            isStrong: true
+            text: Kit.folderLine(root.url)
+            size: 10.5
+            color: Theme.textTertiary
         }
     }
 
-    Separator {
-        anchors.bottom: parent.bottom
+    RevealButton {
+        visible: root.hasPath
+        activeFocusOnTab: root.ListView.isCurrentItem
+        url: root.url
     }
 
-    FocusRing {
-        shown: root.isMarked
-        gap: -3
+    KitText {
+        Layout.preferredWidth: PrivacyMetrics.costWidth
+        text: root.cost
+        size: 12
+        color: Theme.textSecondary
+    }
+
+    Figure {
+        Layout.preferredWidth: PrivacyMetrics.itemsWidth
+        text: root.count
+    }
+
+    Figure {
+        Layout.preferredWidth: PrivacyMetrics.sizeWidth
+        text: root.size
+        isStrong: true
     }
 }

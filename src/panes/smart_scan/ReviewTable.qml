@@ -5,8 +5,7 @@ import QtQuick.Layouts
 import Klarvik.Kit
 import Klarvik.SmartScan
 
-/// What a scan found. Arrow keys move through the rows, Space selects, Return opens, closes or
-/// shows the rest.
+/// What a scan found. Space selects, Return opens, closes or shows the rest.
 ColumnLayout {
     id: root
 
@@ -23,39 +22,14 @@ ColumnLayout {
         Layout.fillWidth: true
         Layout.fillHeight: true
 
-        ToolListView {
-            id: list
-
-            /// The row that keys act on is marked once keys are used.
-            property bool marksCurrentRow: false
-
-            activeFocusOnTab: true
+        RowList {
+            name: qsTr("Categories found")
+            rowHeight: TableMetrics.rowHeight
             model: root.model
-            highlightMoveDuration: 0
-            // A row kept for later use would go on being told to a screen reader.
-            reuseItems: false
-            Accessible.role: Accessible.List
-            Accessible.name: qsTr("Categories found")
+            onActivated: row => root.model.activate(row)
+            onToggled: row => root.model.toggleSelection(row)
 
-            onActiveFocusChanged: marksCurrentRow = activeFocus
-            Keys.onPressed: event => {
-                marksCurrentRow = true;
-                event.accepted = false;
-            }
-            Keys.onSpacePressed: root.model.toggleSelection(currentIndex)
-            Keys.onReturnPressed: root.model.activate(currentIndex)
-            Keys.onEnterPressed: root.model.activate(currentIndex)
-
-            delegate: ReviewRow {
-                width: list.width
-                table: root.model
-                isMarked: activeFocus && list.marksCurrentRow
-                onPressed: {
-                    list.currentIndex = index;
-                    list.forceActiveFocus(Qt.MouseFocusReason);
-                    list.marksCurrentRow = false;
-                }
-            }
+            delegate: ReviewRow {}
         }
     }
 }

@@ -6,10 +6,10 @@ import Klarvik.Kit
 import Klarvik.SystemData
 
 /// One row of the findings: a kind, what an open kind is, or one of its items.
-Item {
+RowFrame {
     id: root
 
-    required property int index
+    required index
     required property int rowKind
     required property string kindName
     required property string name
@@ -26,47 +26,28 @@ Item {
     required property string share
     required property string size
     required property bool isExpanded
-    required property string description
+    required description
 
     property SystemDataModel model
-    property bool isMarked: false
 
     readonly property bool isKind: rowKind === SystemDataTableModel.Kind
     readonly property bool isHeader: rowKind === SystemDataTableModel.Header
     readonly property bool isItem: rowKind === SystemDataTableModel.Item
     readonly property bool isHighlighted: isKind && model.highlighted === kindName
 
-    signal pressed
-
+    tint: isHighlighted ? 0.06 : hovered && !isHeader ? 0.03 : isKind ? 0 : 0.02
+    indent: isItem ? SystemDataMetrics.indent : 0
+    showsParts: !isHeader
+    isPressable: !isHeader
     implicitHeight: isHeader ? explanation.implicitHeight : SystemDataMetrics.rowHeight
     Accessible.role: isKind ? Accessible.TreeItem : isItem && canToggle ? Accessible.CheckBox : Accessible.StaticText
-    Accessible.name: description
-    Accessible.focusable: !isHeader
     Accessible.checkable: canToggle
     Accessible.checked: selection === SelectionState.All
-    Accessible.onPressAction: model.table.activate(index)
-    Accessible.onToggleAction: model.table.toggleSelection(index)
+    onHoveredChanged: model.hover(kindName, hovered)
+    // It may have faded out before it was kept for later.
+    ListView.onReused: opacity = 1
 
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.white(root.isHighlighted ? 0.06 : rowHover.hovered && !root.isHeader ? 0.03 : root.isKind ? 0 : 0.02)
-    }
-
-    HoverHandler {
-        id: rowHover
-
-        onHoveredChanged: root.model.hover(root.kindName, hovered)
-    }
-
-    TapHandler {
-        enabled: !root.isHeader
-        onTapped: {
-            root.pressed();
-            root.model.table.activate(root.index);
-        }
-    }
-
-    ColumnLayout {
+    whole: ColumnLayout {
         id: explanation
 
         anchors.left: parent.left
@@ -122,99 +103,79 @@ Item {
         }
     }
 
-    RowLayout {
-        anchors.fill: parent
-        anchors.leftMargin: Theme.sidePadding + (root.isItem ? SystemDataMetrics.indent : 0)
-        anchors.rightMargin: Theme.sidePadding
-        visible: !root.isHeader
-        spacing: SystemDataMetrics.columnSpacing
+    Item {
+        Layout.preferredWidth: 16
+        Layout.preferredHeight: 16
 
-        Item {
-            Layout.preferredWidth: 16
-            Layout.preferredHeight: 16
-
-            SelectionBox {
-                visible: root.canToggle
-                size: 16
-                selection: root.selection
-                label: root.name
-                help: root.selectionHelp
-                canToggle: root.canToggle
-                activeFocusOnTab: false
-                onToggled: {
-                    root.pressed();
-                    root.model.table.toggleSelection(root.index);
-                }
-            }
-        }
-
-        Symbol {
-            Layout.preferredWidth: 14
-            visible: root.isKind
-            name: root.isExpanded ? "chevron.down" : "chevron.right"
-            size: 10
-            color: Theme.textTertiary
-        }
-
-        Symbol {
-            Layout.preferredWidth: 20
-            visible: root.isKind
-            name: root.symbol
+        SelectionBox {
+            visible: root.canToggle
             size: 16
-            color: root.color
+            selection: root.selection
+            label: root.name
+            help: root.selectionHelp
+            canToggle: root.canToggle
+            activeFocusOnTab: false
+            onToggled: root.pressBox()
         }
+    }
 
-        ColumnLayout {
+    Symbol {
+        Layout.preferredWidth: 14
+        visible: root.isKind
+        name: root.isExpanded ? "chevron.down" : "chevron.right"
+        size: 10
+        color: Theme.textTertiary
+    }
+
+    Symbol {
+        Layout.preferredWidth: 20
+        visible: root.isKind
+        name: root.symbol
+        size: 16
+        color: root.color
+    }
+
+    ColumnLayout {
+        Layout.fillWidth: true
+        spacing: 2
+
+        ElidedText {
             Layout.fillWidth: true
-            spacing: 2
-
-            ElidedText {
-                Layout.fillWidth: true
-                text: root.name
-                fullText: root.path
-                size: root.isKind ? 13 : 12
-                weight: root.isKind ? Font.Medium : Font.Normal
-            }
-
-            KitText {
-                Layout.fillWidth: true
-                text: root.detail
-                size: 10.5
-                color: Theme.textTertiary
-                elide: Text.ElideMiddle
-            }
+            text: root.name
+            fullText: root.path
+            size: root.isKind ? 13 : 12
+            weight: root.isKind ? Font.Medium : Font.Normal
         }
 
-        RevealButton {
-            visible: root.isItem
-            activeFocusOnTab: root.ListView.isCurrentItem
-            url: root.url
-        }
-
-        SafetyWord {
-            Layout.preferredWidth: SystemDataMetrics.statusWidth
-            safety: root.safety
-            text: root.safetyText
-        }
-
-        Figure {
-            Layout.preferredWidth: SystemDataMetrics.shareWidth
-            text: root.share
-        }
-
-        Figure {
-            Layout.preferredWidth: SystemDataMetrics.sizeWidth
-            text: root.size
-            isStrong: root.isKind
+        KitText {
+            Layout.fillWidth: true
+            text: root.detail
+            size: 10.5
+            color: Theme.textTertiary
+            elide: Text.ElideMiddle
         }
     }
 
-    Separator {
-        anchors.bottom: parent.bottom
+    RevealButton {
+        visible: root.isItem
+        activeFocusOnTab: root.ListView.isCurrentItem
+        url: root.url
     }
 
-    FocusRing {
-        shown: root.isMarked
-        gap: -3
+    SafetyWord {
+        Layout.preferredWidth: SystemDataMetrics.statusWidth
+        safety: root.safety
+        text: root.safetyText
+    }
+
+    Figure {
+        Layout.preferredWidth: SystemDataMetrics.shareWidth
+        text: root.share
+    }
+
+    Figure {
+        Layout.preferredWidth: SystemDataMetrics.sizeWidth
+        text: root.size
+        isStrong: root.isKind
     }
 }

@@ -4,56 +4,28 @@ import QtQuick
 import Klarvik.Kit
 import Klarvik.Uninstaller
 
-/// Every installed application, or those searched for. Arrow keys move through the rows, Return and
-/// Space open one.
-Item {
+/// Every installed application, or those searched for. Return and Space open one.
+RowList {
     id: root
 
-    required property AppUninstallerModel model
+    required property AppUninstallerModel pane
 
+    /// An application was opened from the keyboard, and this list goes out of sight with the focus.
     signal openedByKey
 
-    function takeFocus() {
-        list.forceActiveFocus(Qt.OtherFocusReason);
+    function open(row: int) {
+        const byKey = root.activeFocus;
+        root.pane.open(row);
+        if (byKey)
+            root.openedByKey();
     }
 
-    function openCurrent() {
-        if (list.currentIndex < 0)
-            return;
-        root.model.open(list.currentIndex);
-        root.openedByKey();
-    }
+    name: qsTr("Installed apps")
+    rowHeight: UninstallerMetrics.rowHeight
+    pressTakesFocus: false
+    model: root.pane.appList
+    onActivated: row => root.open(row)
+    onToggled: row => root.open(row)
 
-    ToolListView {
-        id: list
-
-        /// The row that keys act on is marked once keys are used.
-        property bool marksCurrentRow: false
-
-        activeFocusOnTab: true
-        model: root.model.appList
-        highlightMoveDuration: 0
-        // A row kept for later use would go on being told to a screen reader.
-        reuseItems: false
-        Accessible.role: Accessible.List
-        Accessible.name: qsTr("Installed apps")
-
-        onActiveFocusChanged: marksCurrentRow = activeFocus
-        Keys.onPressed: event => {
-            marksCurrentRow = true;
-            event.accepted = false;
-        }
-        Keys.onSpacePressed: root.openCurrent()
-        Keys.onReturnPressed: root.openCurrent()
-        Keys.onEnterPressed: root.openCurrent()
-
-        delegate: AppRow {
-            width: list.width
-            isMarked: activeFocus && list.marksCurrentRow
-            onPressed: {
-                list.currentIndex = index;
-                root.model.open(index);
-            }
-        }
-    }
+    delegate: AppRow {}
 }

@@ -67,7 +67,7 @@ ToolPane {
             pressableEnabled: !root.model.isUninstalling
             onAction: {
                 root.model.showAllApps();
-                apps.takeFocus();
+                apps.forceActiveFocus(Qt.OtherFocusReason);
             }
         }
     }
@@ -75,16 +75,14 @@ ToolPane {
     AppTable {
         id: apps
 
-        anchors.fill: parent
         visible: !root.model.isDetail && !root.instead.isShown
-        model: root.model
+        pane: root.model
         onOpenedByKey: backChip.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     LeftoverTable {
-        anchors.fill: parent
         visible: root.model.isDetail && !root.instead.isShown
-        model: root.model
+        pane: root.model
     }
 
     ToolPlaceholder {

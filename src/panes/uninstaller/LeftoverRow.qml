@@ -6,10 +6,10 @@ import Klarvik.Kit
 import Klarvik.Uninstaller
 
 /// The heading of a category, or one leftover in it.
-Item {
+RowFrame {
     id: root
 
-    required property int index
+    required index
     required property int kind
     required property string name
     required property string path
@@ -17,99 +17,65 @@ Item {
     required property string whatItIs
     required property string size
     required property bool isSelected
-    required property string description
+    required description
 
     property bool canToggle: true
-    property bool isMarked: false
 
     readonly property bool isLeftover: kind === LeftoverListModel.Leftover
 
-    signal pressed
-
+    tint: !isLeftover ? 0 : hovered ? 0.04 : 0.02
+    indent: isLeftover ? 16 : 0
     implicitHeight: UninstallerMetrics.rowHeight
     Accessible.role: isLeftover ? Accessible.CheckBox : Accessible.Heading
-    Accessible.name: description
-    Accessible.focusable: true
     Accessible.checkable: isLeftover
     Accessible.checked: isSelected
-    Accessible.onPressAction: pressed()
-    Accessible.onToggleAction: pressed()
 
-    Rectangle {
-        anchors.fill: parent
-        color: Theme.white(!root.isLeftover ? 0 : rowHover.hovered ? 0.04 : 0.02)
+    SelectionBox {
+        visible: root.isLeftover
+        size: 16
+        selection: root.isSelected ? SelectionState.All : SelectionState.None
+        label: root.name
+        canToggle: root.canToggle
+        activeFocusOnTab: false
+        onToggled: root.pressBox()
     }
 
-    HoverHandler {
-        id: rowHover
-    }
+    ColumnLayout {
+        spacing: 1
 
-    TapHandler {
-        onTapped: root.pressed()
-    }
+        ElidedText {
+            Layout.fillWidth: true
+            text: root.name
+            fullText: root.path
+            size: root.isLeftover ? 12 : 13
+            weight: root.isLeftover ? Font.Normal : Font.Medium
+        }
 
-    RowLayout {
-        anchors.fill: parent
-        anchors.leftMargin: Theme.sidePadding + (root.isLeftover ? 16 : 0)
-        anchors.rightMargin: Theme.sidePadding
-        spacing: Theme.partSpacing
-
-        SelectionBox {
+        ElidedText {
+            Layout.fillWidth: true
             visible: root.isLeftover
-            size: 16
-            selection: root.isSelected ? SelectionState.All : SelectionState.None
-            label: root.name
-            canToggle: root.canToggle
-            activeFocusOnTab: false
-            onToggled: root.pressed()
-        }
-
-        ColumnLayout {
-            spacing: 1
-
-            ElidedText {
-                Layout.fillWidth: true
-                text: root.name
-                fullText: root.path
-                size: root.isLeftover ? 12 : 13
-                weight: root.isLeftover ? Font.Normal : Font.Medium
-            }
-
-            ElidedText {
-                Layout.fillWidth: true
-                visible: root.isLeftover
-                text: Kit.folderLine(root.url)
-                size: 10.5
-                color: Theme.textTertiary
-            }
-        }
-
-        RevealButton {
-            visible: root.isLeftover
-            activeFocusOnTab: root.ListView.isCurrentItem
-            url: root.url
-        }
-
-        KitText {
-            Layout.preferredWidth: UninstallerMetrics.whatItIsWidth
-            text: root.isLeftover ? "" : root.whatItIs
-            size: 12
-            color: Theme.textSecondary
-        }
-
-        Figure {
-            Layout.preferredWidth: UninstallerMetrics.sizeWidth
-            text: root.size
-            isStrong: !root.isLeftover
+            text: Kit.folderLine(root.url)
+            size: 10.5
+            color: Theme.textTertiary
         }
     }
 
-    Separator {
-        anchors.bottom: parent.bottom
+    RevealButton {
+        visible: root.isLeftover
+        activeFocusOnTab: root.ListView.isCurrentItem
+        url: root.url
     }
 
-    FocusRing {
-        shown: root.isMarked
-        gap: -3
+    KitText {
+        Layout.preferredWidth: UninstallerMetrics.whatItIsWidth
+        text: root.isLeftover ? "" : root.whatItIs
+        size: 12
+        color: Theme.textSecondary
+    }
+
+    Figure {
+        Layout.preferredWidth: UninstallerMetrics.sizeWidth
+        text: root.size
+        isStrong: !root.isLeftover
     }
 }

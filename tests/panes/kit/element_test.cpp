@@ -139,6 +139,75 @@ TEST_F(Elements, ADetailRowWithAPathRevealsIt) {
   EXPECT_EQ(workspace.revealedItems[0], Path("/Users/ann/b/a\xff"));
 }
 
+class Lists : public Elements {
+ protected:
+  QQuickItem* showList() {
+    return showOne(
+        "RowList { objectName: 'it'; name: 'Things'; rowHeight: 30; model: 50;"
+        " delegate: RowFrame { required index; implicitHeight: 30;"
+        "   description: 'Thing ' + index; Accessible.role: Accessible.Button;"
+        "   SelectionBox { selection: SelectionState.None; size: 16; activeFocusOnTab: false;"
+        "     onToggled: parent.parent.pressBox() } } }");
+  }
+  static QQuickItem* currentRow(const QQuickItem* list) {
+    return list->property("currentItem").value<QQuickItem*>();
+  }
+  static QList<QVariantList> rowsOf(int row) { return {{row}}; }
+};
+
+TEST_F(Lists, AnswerEveryKeyThatMovesThroughThem) {
+  QQuickItem* list = showList();
+  press(Qt::Key_Tab);
+  EXPECT_TRUE(list->property("marksCurrentRow").toBool());
+  const std::pair<Qt::Key, int> moves[] = {{Qt::Key_Down, 1}, {Qt::Key_PageDown, 10},
+                                           {Qt::Key_Up, 9},   {Qt::Key_PageUp, 0},
+                                           {Qt::Key_End, 49}, {Qt::Key_Home, 0}};
+  for (const auto& [key, row] : moves) {
+    press(key);
+    EXPECT_EQ(list->property("currentIndex").toInt(), row) << key;
+  }
+}
+
+TEST_F(Lists, TakeAHeldKeyForOnePress) {
+  QQuickItem* list = showList();
+  QSignalSpy activations(list, SIGNAL(activated(int)));
+  QSignalSpy toggles(list, SIGNAL(toggled(int)));
+  press(Qt::Key_Tab);
+  press(Qt::Key_Down);
+  hold(Qt::Key_Return);
+  EXPECT_EQ(activations, rowsOf(1));
+  activations.clear();
+  hold(Qt::Key_Enter);
+  EXPECT_EQ(activations, rowsOf(1));
+  hold(Qt::Key_Space);
+  EXPECT_EQ(toggles, rowsOf(1));
+}
+
+TEST_F(Lists, TellAPressOnARowFromAPressOnItsBox) {
+  QQuickItem* list = showList();
+  QSignalSpy activations(list, SIGNAL(activated(int)));
+  QSignalSpy toggles(list, SIGNAL(toggled(int)));
+  click({200, 75});
+  EXPECT_EQ(activations, rowsOf(2));
+  EXPECT_EQ(toggles.size(), 0);
+  EXPECT_TRUE(currentRow(list)->hasActiveFocus());
+  EXPECT_FALSE(list->property("marksCurrentRow").toBool());
+  click({32, 105});
+  EXPECT_EQ(activations.size(), 1);
+  EXPECT_EQ(toggles, rowsOf(3));
+  EXPECT_EQ(list->property("currentIndex").toInt(), 3);
+}
+
+TEST_F(Lists, AnswerAssistiveTools) {
+  QQuickItem* list = showList();
+  QSignalSpy activations(list, SIGNAL(activated(int)));
+  QAccessibleInterface* row = accessible(currentRow(list));
+  ASSERT_NE(row, nullptr);
+  EXPECT_EQ(row->text(QAccessible::Name), "Thing 0");
+  row->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(activations, rowsOf(0));
+}
+
 TEST_F(Elements, ANameIsNeverReadAsMarkup) {
   const qreal marked = showOne("KitText { objectName: 'it'; text: '<b>a</b>' }")->implicitWidth();
   const qreal plain = showOne("KitText { objectName: 'it'; text: 'aaaa' }")->implicitWidth();

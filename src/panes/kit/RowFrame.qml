@@ -1,0 +1,99 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+// What every row of a RowList is made of: the ground, which the pointer lights up, the parts on one
+// line, the rule below them, the ring round the row that keys act on. Whoever builds on it says
+// what kind of thing assistive tools are told of.
+Item {
+    id: root
+
+    property int index: -1
+    // The row in words, for assistive tools.
+    property string description
+    // How white the ground is drawn, 0 to 1.
+    property real tint: root.hovered ? 0.03 : 0
+    property real indent: 0
+    property alias spacing: line.spacing
+    // Whether a press on the row does anything.
+    property bool isPressable: true
+    default property alias parts: line.data
+    property bool showsParts: true
+    // What has the whole row for itself, below the parts or instead of them.
+    property alias whole: ground.data
+
+    readonly property RowList list: root.ListView.view as RowList
+    readonly property bool hovered: hover.hovered
+    readonly property bool isMarked: root.activeFocus && root.list !== null && root.list.marksCurrentRow
+    property bool isPooled: false
+    // Also told to the list, as are presses of keys.
+    signal activated()
+    signal toggled()
+
+    function takePress() {
+        if (root.list)
+            root.list.takePress(root.index);
+    }
+
+    // For the box in the row.
+    function pressBox() {
+        root.takePress();
+        root.toggled();
+    }
+
+    width: root.list ? root.list.width : implicitWidth
+    // A row that is kept for later use is not there, for a screen reader neither.
+    visible: !root.isPooled
+    ListView.onPooled: root.isPooled = true
+    ListView.onReused: root.isPooled = false
+    Accessible.name: root.description
+    Accessible.focusable: root.isPressable
+    Accessible.onPressAction: root.activated()
+    Accessible.onToggleAction: root.toggled()
+    onActivated: {
+        if (root.list)
+            root.list.activated(root.index);
+    }
+    onToggled: {
+        if (root.list)
+            root.list.toggled(root.index);
+    }
+
+    Rectangle {
+        id: ground
+        anchors.fill: parent
+        color: Theme.white(root.tint)
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    TapHandler {
+        enabled: root.isPressable
+        onTapped: {
+            root.takePress();
+            root.activated();
+        }
+    }
+
+    RowLayout {
+        id: line
+        anchors.fill: parent
+        anchors.leftMargin: Theme.sidePadding + root.indent
+        anchors.rightMargin: Theme.sidePadding
+        visible: root.showsParts
+        spacing: Theme.partSpacing
+    }
+
+    Separator {
+        anchors.bottom: parent.bottom
+    }
+
+    FocusRing {
+        shown: root.isMarked
+        gap: -3
+    }
+}
