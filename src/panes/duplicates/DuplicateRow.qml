@@ -6,14 +6,13 @@ import Klarvik.Kit
 import Klarvik.Duplicates
 
 /// A group of equal files, or one of its copies.
-RowFrame {
+ToolDetailRow {
     id: root
 
     required index
     required property bool isGroup
-    required property string name
-    required property string folder
-    required property string path
+    required folder
+    required pathText
     required property url url
     required property int selection
     required property bool canToggle
@@ -29,9 +28,12 @@ RowFrame {
 
     function openMenu() {
         if (!isGroup)
-            menu.popup(Theme.sidePadding + TableMetrics.copyIndent, height / 2);
+            menu.popup(Theme.sidePadding + indent, height / 2);
     }
 
+    path: url
+    nameSize: isGroup ? 13 : 12
+    nameWeight: isGroup ? Font.Medium : Font.Normal
     tint: hovered ? 0.03 : isGroup ? 0 : 0.02
     indent: isGroup ? 0 : TableMetrics.copyIndent
     implicitHeight: isGroup ? TableMetrics.groupHeight : TableMetrics.copyHeight
@@ -46,62 +48,33 @@ RowFrame {
         onChosen: root.kept()
     }
 
-    Item {
-        implicitWidth: 16
-        implicitHeight: 16
+    leading: [
+        Item {
+            implicitWidth: 16
+            implicitHeight: 16
 
-        SelectionBox {
-            visible: root.canToggle
-            size: 16
-            selection: root.selection
-            label: root.name
-            activeFocusOnTab: false
-            onToggled: root.pressBox()
-        }
-    }
-
-    Symbol {
-        Layout.preferredWidth: 14
-        visible: root.isGroup
-        name: root.isExpanded ? "chevron.down" : "chevron.right"
-        size: 10
-        color: Theme.textTertiary
-    }
-
-    FateTag {
-        Layout.preferredWidth: width
-        visible: !root.isGroup
-        fate: root.fate
-    }
-
-    ColumnLayout {
-        Layout.fillWidth: true
-        spacing: 1
-
-        ElidedText {
-            Layout.fillWidth: true
-            text: root.name
-            fullText: root.path
-            horizontalAlignment: Text.AlignLeft
-            font: root.isGroup ? Theme.groupTitle : Theme.font(12, Font.Normal)
-        }
-
-        ElidedText {
-            Layout.fillWidth: true
-            visible: !root.isGroup
-            text: root.folder
-            fullText: root.path
-            horizontalAlignment: Text.AlignLeft
-            size: 10.5
+            SelectionBox {
+                visible: root.canToggle
+                size: 16
+                selection: root.selection
+                label: root.name
+                activeFocusOnTab: false
+                onToggled: root.pressBox()
+            }
+        },
+        Symbol {
+            Layout.preferredWidth: 14
+            visible: root.isGroup
+            name: root.isExpanded ? "chevron.down" : "chevron.right"
+            size: 10
             color: Theme.textTertiary
+        },
+        FateTag {
+            Layout.preferredWidth: width
+            visible: !root.isGroup
+            fate: root.fate
         }
-    }
-
-    RevealButton {
-        visible: !root.isGroup
-        activeFocusOnTab: root.ListView.isCurrentItem
-        url: root.url
-    }
+    ]
 
     Figure {
         Layout.preferredWidth: TableMetrics.copiesWidth

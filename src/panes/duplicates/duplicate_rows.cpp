@@ -60,7 +60,7 @@ QHash<int, QByteArray> DuplicateRows::roleNames() const {
   return {{IsGroupRole, "isGroup"},
           {NameRole, "name"},
           {FolderRole, "folder"},
-          {PathRole, "path"},
+          {PathRole, "pathText"},
           {UrlRole, "url"},
           {SelectionRole, "selection"},
           {CanToggleRole, "canToggle"},

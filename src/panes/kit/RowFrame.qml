@@ -26,6 +26,7 @@ Item {
 
     readonly property RowList list: root.ListView.view as RowList
     readonly property bool hovered: hover.hovered
+    readonly property real partsHeight: line.implicitHeight
     readonly property bool isMarked: root.activeFocus && root.list !== null && root.list.marksCurrentRow
     property bool isPooled: false
     // Also told to the list, as are presses of keys.
@@ -43,7 +44,7 @@ Item {
         root.toggled();
     }
 
-    width: root.list ? root.list.width : implicitWidth
+    width: parent ? parent.width : implicitWidth
     // A row that is kept for later use is not there, for a screen reader neither.
     visible: !root.isPooled
     ListView.onPooled: root.isPooled = true

@@ -4,69 +4,63 @@ import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
 
-Rectangle {
+// A thing on the disk: its name above its folder, and a button that reveals it. As it stands below
+// a group; a list without groups gives it another indent.
+RowFrame {
     id: root
 
     required property string name
     property url path
+    property string folder: Kit.folderLine(root.path)
+    // What the tooltip says; the text itself, where it is cut, while this is empty.
+    property string pathText
     property bool dimmed: false
+    property real nameSize: 12
+    property int nameWeight: Font.Normal
     property alias leading: leadingParts.data
-    default property alias trailing: trailingParts.data
+    property bool showsLeading: leadingParts.children.length > 0
 
     readonly property bool hasPath: Kit.hasPath(root.path)
 
-    implicitHeight: Math.max(20, parts.implicitHeight) + 16
-    width: parent ? parent.width : implicitWidth
-    color: Theme.white(0.02)
+    tint: root.hovered ? 0.03 : 0.02
+    indent: 28
+    implicitHeight: Math.max(20, root.partsHeight) + 16
 
     RowLayout {
-        id: parts
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
-        anchors.leftMargin: 52
-        anchors.rightMargin: Theme.sidePadding
-        spacing: Theme.partSpacing
+        id: leadingParts
+        Layout.fillWidth: false
+        visible: root.showsLeading
+        spacing: root.spacing
+    }
 
-        CenteredRow {
-            id: leadingParts
-            spacing: Theme.partSpacing
-            visible: children.length > 0
-        }
+    ColumnLayout {
+        Layout.fillWidth: true
+        spacing: 1
 
-        ColumnLayout {
-            spacing: 1
+        ElidedText {
             Layout.fillWidth: true
-
-            KitText {
-                text: root.name
-                size: 12
-                color: root.dimmed ? Theme.textMuted : Theme.textPrimary
-                Layout.fillWidth: true
-            }
-
-            KitText {
-                objectName: "folderLine"
-                text: Kit.folderLine(root.path)
-                size: 10.5
-                color: Theme.textTertiary
-                elide: Text.ElideMiddle
-                visible: root.hasPath
-                Layout.fillWidth: true
-            }
+            text: root.name
+            fullText: root.pathText
+            size: root.nameSize
+            weight: root.nameWeight
+            color: root.dimmed ? Theme.textMuted : Theme.textPrimary
         }
 
-        RevealButton {
-            objectName: "revealButton"
-            url: root.path
+        ElidedText {
+            objectName: "folderLine"
+            Layout.fillWidth: true
             visible: root.hasPath
-        }
-
-        CenteredRow {
-            id: trailingParts
-            spacing: Theme.partSpacing
+            text: root.folder
+            fullText: root.pathText
+            size: 10.5
+            color: Theme.textTertiary
         }
     }
 
-    Separator { anchors.bottom: parent.bottom }
+    RevealButton {
+        objectName: "revealButton"
+        visible: root.hasPath
+        activeFocusOnTab: root.ListView.isCurrentItem
+        url: root.path
+    }
 }

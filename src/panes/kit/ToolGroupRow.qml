@@ -4,75 +4,69 @@ import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
 
-Pressable {
+// A group: its box, its chevron and its title. What stands below it in the same columns is made of
+// it too, without a chevron and in a font of its own.
+RowFrame {
     id: root
 
     required property int selection
     required property bool isExpanded
+    required property string title
+    // What the tooltip of the title says; the title itself, where it is cut, while this is empty.
+    property string pathText
+    property real titleSize: 13
+    property int titleWeight: Font.Medium
+    property color titleColor: Theme.textPrimary
+    property bool showsBox: true
     property bool canToggleSelection: true
     property bool canToggleExpanded: true
     property string selectionHelp
     property alias leading: leadingParts.data
-    default property alias trailing: trailingParts.data
+    property bool showsLeading: leadingParts.children.length > 0
     signal toggleSelection()
     signal toggleExpanded()
 
-    implicitHeight: Math.max(20, parts.implicitHeight) + 20
-    width: parent ? parent.width : implicitWidth
-    pressableEnabled: root.canToggleExpanded || root.canToggleSelection
-    ringGap: -2
-    leftPadding: Theme.sidePadding
-    rightPadding: Theme.sidePadding
-    onAction: {
+    description: root.title
+    implicitHeight: Math.max(20, root.partsHeight) + 20
+    Accessible.role: Accessible.TreeItem
+    onToggled: root.toggleSelection()
+    onActivated: {
         if (root.canToggleExpanded)
             root.toggleExpanded();
     }
 
-    background: Rectangle {
-        color: root.hovered ? Theme.white(0.03) : Theme.clear
-        Separator { anchors.bottom: parent.bottom }
+    SelectionBox {
+        visible: root.showsBox
+        selection: root.selection
+        size: 16
+        label: root.title
+        help: root.selectionHelp
+        canToggle: root.canToggleSelection
+        activeFocusOnTab: false
+        onToggled: root.pressBox()
     }
 
-    contentItem: RowLayout {
-        id: parts
-        spacing: Theme.partSpacing
+    Symbol {
+        Layout.preferredWidth: 14
+        visible: root.canToggleExpanded
+        name: root.isExpanded ? "chevron.down" : "chevron.right"
+        size: 10
+        color: Theme.textTertiary
+    }
 
-        SelectionBox {
-            selection: root.selection
-            size: 16
-            label: root.title
-            help: root.selectionHelp
-            canToggle: root.canToggleSelection
-            onToggled: root.toggleSelection()
-        }
+    RowLayout {
+        id: leadingParts
+        Layout.fillWidth: false
+        visible: root.showsLeading
+        spacing: root.spacing
+    }
 
-        Item {
-            implicitWidth: 14
-            implicitHeight: 14
-
-            Symbol {
-                anchors.centerIn: parent
-                name: root.isExpanded ? "chevron.down" : "chevron.right"
-                size: 10
-                color: Theme.textTertiary
-            }
-        }
-
-        CenteredRow {
-            id: leadingParts
-            spacing: Theme.partSpacing
-            visible: children.length > 0
-        }
-
-        KitText {
-            text: root.title
-            font: Theme.groupTitle
-            Layout.fillWidth: true
-        }
-
-        CenteredRow {
-            id: trailingParts
-            spacing: Theme.partSpacing
-        }
+    ElidedText {
+        Layout.fillWidth: true
+        text: root.title
+        fullText: root.pathText
+        size: root.titleSize
+        weight: root.titleWeight
+        color: root.titleColor
     }
 }

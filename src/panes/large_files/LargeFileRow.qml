@@ -6,13 +6,12 @@ import Klarvik.Kit
 import Klarvik.LargeFiles
 
 /// One file: its name above its folder, and what there is to know of it.
-RowFrame {
+ToolDetailRow {
     id: root
 
     required index
-    required property string name
-    required property string folder
-    required property string path
+    required folder
+    required pathText
     required property url url
     required property string kind
     required property string lastOpened
@@ -20,43 +19,20 @@ RowFrame {
     required property bool isSelected
     required description
 
+    path: url
     tint: isSelected ? 0.06 : hovered ? 0.03 : 0
+    indent: 0
     implicitHeight: TableMetrics.rowHeight
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: isSelected
 
-    SelectionBox {
+    leading: SelectionBox {
         size: 16
         selection: root.isSelected ? SelectionState.All : SelectionState.None
         label: root.name
         activeFocusOnTab: false
         onToggled: root.pressBox()
-    }
-
-    ColumnLayout {
-        Layout.fillWidth: true
-        spacing: 1
-
-        ElidedText {
-            Layout.fillWidth: true
-            text: root.name
-            fullText: root.path
-            size: 12
-        }
-
-        ElidedText {
-            Layout.fillWidth: true
-            text: root.folder
-            fullText: root.path
-            size: 10.5
-            color: Theme.textTertiary
-        }
-    }
-
-    RevealButton {
-        activeFocusOnTab: root.ListView.isCurrentItem
-        url: root.url
     }
 
     KitText {

@@ -61,7 +61,7 @@ QVariant LargeFileRows::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> LargeFileRows::roleNames() const {
   return {{NameRole, "name"},
           {FolderRole, "folder"},
-          {PathRole, "path"},
+          {PathRole, "pathText"},
           {UrlRole, "url"},
           {KindRole, "kind"},
           {LastOpenedRole, "lastOpened"},

@@ -6,13 +6,12 @@ import Klarvik.Kit
 import Klarvik.Privacy
 
 /// The heading of a section, or one trail in it.
-RowFrame {
+ToolDetailRow {
     id: root
 
     required index
     required property int kind
-    required property string name
-    required property string path
+    required pathText
     required property url url
     required property string cost
     required property string count
@@ -23,9 +22,12 @@ RowFrame {
     property bool isLocked: false
 
     readonly property bool isTrail: kind === TrailListModel.Trail
-    readonly property bool hasPath: Kit.hasPath(url)
 
+    path: url
+    nameSize: 13
+    nameWeight: Font.Medium
     tint: isTrail && hovered ? 0.03 : 0
+    indent: 0
     showsParts: isTrail
     implicitHeight: isTrail ? PrivacyMetrics.rowHeight : PrivacyMetrics.headingHeight
     Accessible.role: isTrail ? Accessible.CheckBox : Accessible.Heading
@@ -41,38 +43,13 @@ RowFrame {
         text: root.name
     }
 
-    SelectionBox {
+    leading: SelectionBox {
         size: 16
         selection: root.isSelected ? SelectionState.All : SelectionState.None
         label: root.name
         canToggle: !root.isLocked
         activeFocusOnTab: false
         onToggled: root.pressBox()
-    }
-
-    ColumnLayout {
-        spacing: 1
-
-        ElidedText {
-            Layout.fillWidth: true
-            text: root.name
-            fullText: root.path
-            weight: Font.Medium
-        }
-
-        ElidedText {
-            Layout.fillWidth: true
-            visible: root.hasPath
-            text: Kit.folderLine(root.url)
-            size: 10.5
-            color: Theme.textTertiary
-        }
-    }
-
-    RevealButton {
-        visible: root.hasPath
-        activeFocusOnTab: root.ListView.isCurrentItem
-        url: root.url
     }
 
     KitText {

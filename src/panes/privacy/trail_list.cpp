@@ -58,7 +58,7 @@ QVariant TrailList::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> TrailList::roleNames() const {
   return {{KindRole, "kind"},
           {NameRole, "name"},
-          {PathRole, "path"},
+          {PathRole, "pathText"},
           {UrlRole, "url"},
           {CostRole, "cost"},
           {CountRole, "count"},

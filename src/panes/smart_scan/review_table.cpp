@@ -78,7 +78,7 @@ QVariant ReviewTable::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> ReviewTable::roleNames() const {
   return {{KindRole, "kind"},
           {NameRole, "name"},
-          {PathRole, "path"},
+          {PathRole, "pathText"},
           {UrlRole, "url"},
           {SymbolRole, "symbol"},
           {ColorRole, "color"},

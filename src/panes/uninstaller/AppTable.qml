@@ -10,14 +10,14 @@ RowList {
 
     required property AppUninstallerModel pane
 
-    /// An application was opened from the keyboard, and this list goes out of sight with the focus.
-    signal openedByKey
+    /// An application was opened, and this list goes out of sight with the focus.
+    signal leftWithFocus
 
     function open(row: int) {
-        const byKey = root.activeFocus;
+        const hadFocus = root.activeFocus;
         root.pane.open(row);
-        if (byKey)
-            root.openedByKey();
+        if (hadFocus)
+            root.leftWithFocus();
     }
 
     name: qsTr("Installed apps")

@@ -77,7 +77,7 @@ ToolPane {
 
         visible: !root.model.isDetail && !root.instead.isShown
         pane: root.model
-        onOpenedByKey: backChip.forceActiveFocus(Qt.OtherFocusReason)
+        onLeftWithFocus: backChip.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     LeftoverTable {

@@ -6,13 +6,12 @@ import Klarvik.Kit
 import Klarvik.Uninstaller
 
 /// The heading of a category, or one leftover in it.
-RowFrame {
+ToolDetailRow {
     id: root
 
     required index
     required property int kind
-    required property string name
-    required property string path
+    required pathText
     required property url url
     required property string whatItIs
     required property string size
@@ -23,6 +22,10 @@ RowFrame {
 
     readonly property bool isLeftover: kind === LeftoverListModel.Leftover
 
+    path: url
+    nameSize: isLeftover ? 12 : 13
+    nameWeight: isLeftover ? Font.Normal : Font.Medium
+    showsLeading: isLeftover
     tint: !isLeftover ? 0 : hovered ? 0.04 : 0.02
     indent: isLeftover ? 16 : 0
     implicitHeight: UninstallerMetrics.rowHeight
@@ -30,40 +33,13 @@ RowFrame {
     Accessible.checkable: isLeftover
     Accessible.checked: isSelected
 
-    SelectionBox {
-        visible: root.isLeftover
+    leading: SelectionBox {
         size: 16
         selection: root.isSelected ? SelectionState.All : SelectionState.None
         label: root.name
         canToggle: root.canToggle
         activeFocusOnTab: false
         onToggled: root.pressBox()
-    }
-
-    ColumnLayout {
-        spacing: 1
-
-        ElidedText {
-            Layout.fillWidth: true
-            text: root.name
-            fullText: root.path
-            size: root.isLeftover ? 12 : 13
-            weight: root.isLeftover ? Font.Normal : Font.Medium
-        }
-
-        ElidedText {
-            Layout.fillWidth: true
-            visible: root.isLeftover
-            text: Kit.folderLine(root.url)
-            size: 10.5
-            color: Theme.textTertiary
-        }
-    }
-
-    RevealButton {
-        visible: root.isLeftover
-        activeFocusOnTab: root.ListView.isCurrentItem
-        url: root.url
     }
 
     KitText {

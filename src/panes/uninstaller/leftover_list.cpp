@@ -36,7 +36,7 @@ QVariant LeftoverList::data(const QModelIndex& index, int role) const {
 QHash<int, QByteArray> LeftoverList::roleNames() const {
   return {{KindRole, "kind"},
           {NameRole, "name"},
-          {PathRole, "path"},
+          {PathRole, "pathText"},
           {UrlRole, "url"},
           {WhatItIsRole, "whatItIs"},
           {SizeRole, "size"},

@@ -31,8 +31,6 @@ const PressableElement pressables[] = {
      "Caches", QAccessible::CheckBox},
     {"CheckRow { title: 'Launch at login'; isOn: false", SIGNAL(toggled()), "Launch at login",
      QAccessible::CheckBox},
-    {"ToolGroupRow { title: 'Logs'; selection: 0; isExpanded: false; width: 400",
-     SIGNAL(toggleExpanded()), "Logs", QAccessible::Button},
 };
 
 TEST_F(Elements, ThatCanBePressedTellTheirRoleAndName) {

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Layouts
 import Klarvik.Kit
 
 // Every element of the kit on one sheet.
@@ -73,24 +74,24 @@ Rectangle {
                             color: Theme.systemColor(entry.modelData.color)
                         }
 
-                        SafetyTag { level: entry.modelData.level; width: 70 }
-                        MonospacedDigits { text: entry.modelData.items; width: 60; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
-                        ByteText { bytes: entry.modelData.bytes; width: 90; alignment: Qt.AlignRight }
+                        SafetyTag { level: entry.modelData.level; Layout.preferredWidth: 70 }
+                        MonospacedDigits { text: entry.modelData.items; Layout.preferredWidth: 60; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
+                        ByteText { bytes: entry.modelData.bytes; Layout.preferredWidth: 90; alignment: Qt.AlignRight }
                     }
 
                     Repeater {
                         model: entry.index === 1 ? 2 : 0
 
                         ToolDetailRow {
-                            required property int index
+                            required index
 
                             name: ["com.example.browser", "a much longer name of a cache that does not fit into the row however wide the window is drawn today"][index]
                             path: "file:///Users/ann/Library/Caches/com.example.browser"
                             dimmed: index === 1
                             leading: SelectionBox { selection: SelectionState.All; size: 14; label: "item" }
 
-                            FateTag { fate: parent && index === 0 ? Fate.Keep : Fate.Delete }
-                            ByteText { bytes: 411111111; width: 90; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
+                            FateTag { Layout.preferredWidth: width; fate: parent && index === 0 ? Fate.Keep : Fate.Delete }
+                            ByteText { bytes: 411111111; Layout.preferredWidth: 90; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
                         }
                     }
                 }
