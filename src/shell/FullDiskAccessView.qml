@@ -1,12 +1,11 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Klarvik.Kit
 import Klarvik.Shell
 
 /// The sheet that asks for the one permission.
-Item {
+Sheet {
     id: root
 
     required property FullDiskAccessModel model
@@ -17,6 +16,14 @@ Item {
         qsTr("Quit and reopen Klarvik")
     ]
 
+    isPresented: model.isPresented
+    name: model.title
+    description: model.text
+    sheetWidth: 380
+    padding: 24
+    spacing: 14
+    onCancelled: model.dismiss()
+
     component Sentence: KitText {
         width: parent?.width ?? 0
         size: 12
@@ -26,136 +33,96 @@ Item {
         lineHeight: 1.15
     }
 
-    T.Popup {
-        id: sheet
+    Symbol {
+        anchors.horizontalCenter: parent.horizontalCenter
+        name: root.model.symbol
+        size: 34
+        color: root.model.isGranted ? Theme.safe : Theme.accent
+    }
 
-        parent: T.Overlay.overlay
-        anchors.centerIn: parent
-        visible: root.model.isPresented
-        modal: true
-        focus: true
-        padding: 24
-        closePolicy: T.Popup.NoAutoClose
-        implicitWidth: 380
-        implicitHeight: page.implicitHeight + 2 * sheet.padding
+    KitText {
+        width: parent.width
+        text: root.model.title
+        size: 17
+        weight: Font.DemiBold
+        horizontalAlignment: Text.AlignHCenter
+    }
 
-        T.Overlay.modal: Rectangle {
-            color: Theme.shade(0.5)
-        }
+    Sentence {
+        text: root.model.text
+        horizontalAlignment: Text.AlignHCenter
+    }
 
-        background: Rectangle {
-            radius: 12
-            color: Theme.floating
-            border.color: Theme.white(0.12)
-        }
+    Column {
+        width: parent.width
+        visible: !root.model.isGranted
+        spacing: 10
 
-        contentItem: FocusScope {
-            focus: true
-            Accessible.role: Accessible.Dialog
-            Accessible.name: root.model.title
-            Accessible.description: root.model.text
-            Keys.onEscapePressed: root.model.dismiss()
+        Repeater {
+            model: root.steps
 
-            Column {
-                id: page
+            Row {
+                id: step
 
-                anchors.left: parent.left
-                anchors.right: parent.right
-                spacing: 14
+                required property int index
+                required property string modelData
 
-                Symbol {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    name: root.model.symbol
-                    size: 34
-                    color: root.model.isGranted ? Theme.safe : Theme.accent
-                }
+                width: parent?.width ?? 0
+                spacing: 10
+                Accessible.role: Accessible.StaticText
+                Accessible.name: step.modelData
 
-                KitText {
-                    width: parent.width
-                    text: root.model.title
-                    size: 17
-                    weight: Font.DemiBold
-                    horizontalAlignment: Text.AlignHCenter
-                }
+                Rectangle {
+                    width: 20
+                    height: 20
+                    radius: 10
+                    color: Theme.white(0.12)
 
-                Sentence {
-                    text: root.model.text
-                    horizontalAlignment: Text.AlignHCenter
-                }
-
-                Column {
-                    width: parent.width
-                    visible: !root.model.isGranted
-                    spacing: 10
-
-                    Repeater {
-                        model: root.steps
-
-                        Row {
-                            id: step
-
-                            required property int index
-                            required property string modelData
-
-                            width: parent?.width ?? 0
-                            spacing: 10
-                            Accessible.role: Accessible.StaticText
-                            Accessible.name: step.modelData
-
-                            Rectangle {
-                                width: 20
-                                height: 20
-                                radius: 10
-                                color: Theme.white(0.12)
-
-                                KitText {
-                                    anchors.centerIn: parent
-                                    text: step.index + 1
-                                    size: 11
-                                    weight: Font.DemiBold
-                                }
-                            }
-
-                            Sentence {
-                                width: step.width - 30
-                                topPadding: 2
-                                text: step.modelData
-                                color: Theme.textPrimary
-                            }
-                        }
+                    KitText {
+                        anchors.centerIn: parent
+                        text: step.index + 1
+                        size: 11
+                        weight: Font.DemiBold
                     }
                 }
 
-                PrimaryButton {
-                    width: parent.width
-                    visible: !root.model.isGranted
-                    focus: !root.model.isGranted
-                    title: qsTr("Open System Settings")
-                    onAction: root.model.openSettings()
-                }
-
                 Sentence {
-                    visible: !root.model.isGranted
-                    size: 11
-                    color: Theme.textTertiary
-                    text: qsTr("You can skip this and grant it later in Settings. Klarvik still finds plenty without it.")
-                }
-
-                Sentence {
-                    visible: root.model.showsIdentityNote
-                    size: 11
-                    color: Theme.textTertiary
-                    text: qsTr("This build has no signing identity, so macOS treats every rebuild as a different app and forgets the permission. Released builds keep it.")
-                }
-
-                PrimaryButton {
-                    width: parent.width
-                    focus: root.model.isGranted
-                    fill: root.model.isGranted ? Theme.accent : Theme.white(0.12)
-                    title: root.model.footerTitle
-                    onAction: root.model.dismiss()
+                    width: step.width - 30
+                    topPadding: 2
+                    text: step.modelData
+                    color: Theme.textPrimary
                 }
             }
         }
+    }
+
+    PrimaryButton {
+        width: parent.width
+        visible: !root.model.isGranted
+        focus: !root.model.isGranted
+        title: qsTr("Open System Settings")
+        onAction: root.model.openSettings()
+    }
+
+    Sentence {
+        visible: !root.model.isGranted
+        size: 11
+        color: Theme.textTertiary
+        text: qsTr("You can skip this and grant it later in Settings. Klarvik still finds plenty without it.")
+    }
+
+    Sentence {
+        visible: root.model.showsIdentityNote
+        size: 11
+        color: Theme.textTertiary
+        text: qsTr("This build has no signing identity, so macOS treats every rebuild as a different app and forgets the permission. Released builds keep it.")
+    }
+
+    PrimaryButton {
+        width: parent.width
+        focus: root.model.isGranted
+        fill: root.model.isGranted ? Theme.accent : Theme.white(0.12)
+        title: root.model.footerTitle
+        onAction: root.model.dismiss()
     }
 }

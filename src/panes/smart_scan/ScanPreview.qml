@@ -24,21 +24,11 @@ Item {
             text: qsTr("WHAT A SCAN LOOKS AT")
         }
 
-        Rectangle {
+        Panel {
             Layout.fillWidth: true
-            Layout.preferredHeight: grid.implicitHeight + 12
-            radius: 10
-            color: Theme.raised
-            border.color: Theme.hairline
 
             GridLayout {
-                id: grid
-
-                anchors.left: parent.left
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                anchors.leftMargin: 18
-                anchors.rightMargin: 18
+                width: parent.width
                 columns: root.width >= 560 ? 2 : 1
                 columnSpacing: 48
                 rowSpacing: 0

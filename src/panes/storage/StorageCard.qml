@@ -8,7 +8,7 @@ Item {
     id: root
 
     required property string heading
-    default property alias content: inside.data
+    default property alias content: panel.content
 
     width: parent ? parent.width : implicitWidth
     implicitHeight: parts.implicitHeight + 24
@@ -24,22 +24,12 @@ Item {
             text: root.heading
         }
 
-        Rectangle {
+        Panel {
+            id: panel
+
             width: parent.width
-            height: inside.implicitHeight + 36
-            radius: 10
-            color: Theme.raised
-            border.color: Theme.hairline
-
-            Column {
-                id: inside
-
-                anchors.left: parent.left
-                anchors.right: parent.right
-                anchors.top: parent.top
-                anchors.margins: 18
-                spacing: 14
-            }
+            verticalPadding: 18
+            spacing: 14
         }
     }
 }

@@ -23,22 +23,12 @@ Item {
             text: qsTr("WHAT THE ANALYSIS WILL LOOK AT")
         }
 
-        Rectangle {
+        Panel {
             Layout.fillWidth: true
             Layout.maximumWidth: 1120
-            implicitHeight: places.implicitHeight + 12
-            radius: 10
-            color: Theme.raised
-            border.color: Theme.hairline
 
             ColumnLayout {
-                id: places
-
-                anchors.left: parent.left
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                anchors.leftMargin: 18
-                anchors.rightMargin: 18
+                width: parent.width
                 spacing: 0
 
                 EmptyStateRow {
@@ -75,23 +65,13 @@ Item {
             wrapMode: Text.WordWrap
         }
 
-        Rectangle {
+        Panel {
             Layout.fillWidth: true
             Layout.maximumWidth: 1120
             Layout.topMargin: 8
-            implicitHeight: outlook.implicitHeight + 12
-            radius: 10
-            color: Theme.raised
-            border.color: Theme.hairline
 
             ColumnLayout {
-                id: outlook
-
-                anchors.left: parent.left
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                anchors.leftMargin: 18
-                anchors.rightMargin: 18
+                width: parent.width
                 spacing: 0
 
                 EmptyStateRow {

@@ -49,119 +49,110 @@ Item {
             }
         }
 
-        Rectangle {
+        Panel {
             width: parent.width
-            height: rows.height
-            radius: 10
-            color: Theme.raised
-            border.width: 1
-            border.color: Theme.hairline
+            sidePadding: 0
+            verticalPadding: 0
 
-            Column {
-                id: rows
+            PanelRow {
+                height: 44
 
-                width: parent.width
+                KitText {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: qsTr("Version")
+                }
 
-                PanelRow {
-                    height: 44
+                KitText {
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: root.model.version
+                    color: Theme.textSecondary
+                }
+            }
+
+            Separator {}
+
+            PanelRow {
+                height: 64
+
+                Symbol {
+                    id: statusSymbol
+
+                    anchors.left: parent.left
+                    anchors.verticalCenter: parent.verticalCenter
+                    name: root.model.symbol
+                    size: 18
+                    color: root.model.symbolColor
+                }
+
+                Column {
+                    anchors.left: statusSymbol.right
+                    anchors.leftMargin: 12
+                    anchors.right: check.left
+                    anchors.rightMargin: 16
+                    anchors.verticalCenter: parent.verticalCenter
+                    spacing: 3
 
                     KitText {
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: qsTr("Version")
+                        width: parent.width
+                        text: root.model.title
                     }
 
-                    KitText {
-                        anchors.right: parent.right
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: root.model.version
-                        color: Theme.textSecondary
+                    ElidedText {
+                        width: parent.width
+                        text: root.model.detail
+                        size: 11
+                        color: Theme.textTertiary
+                        wrapMode: Text.Wrap
+                        elide: Text.ElideRight
+                        maximumLineCount: 2
                     }
                 }
 
-                Separator {}
+                CheckButton {
+                    id: check
 
-                PanelRow {
-                    height: 64
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    title: root.model.buttonTitle
+                    isBusy: root.model.isChecking
+                    onAction: root.model.checkForUpdates()
+                }
+            }
 
-                    Symbol {
-                        id: statusSymbol
+            Separator {}
 
-                        anchors.left: parent.left
-                        anchors.verticalCenter: parent.verticalCenter
-                        name: root.model.symbol
-                        size: 18
-                        color: root.model.symbolColor
+            PanelRow {
+                height: 64
+
+                Column {
+                    anchors.left: parent.left
+                    anchors.right: automatic.left
+                    anchors.rightMargin: 16
+                    anchors.verticalCenter: parent.verticalCenter
+                    spacing: 3
+
+                    KitText {
+                        width: parent.width
+                        text: qsTr("Check automatically")
                     }
 
-                    Column {
-                        anchors.left: statusSymbol.right
-                        anchors.leftMargin: 12
-                        anchors.right: check.left
-                        anchors.rightMargin: 16
-                        anchors.verticalCenter: parent.verticalCenter
-                        spacing: 3
-
-                        KitText {
-                            width: parent.width
-                            text: root.model.title
-                        }
-
-                        ElidedText {
-                            width: parent.width
-                            text: root.model.detail
-                            size: 11
-                            color: Theme.textTertiary
-                            wrapMode: Text.Wrap
-                            elide: Text.ElideRight
-                            maximumLineCount: 2
-                        }
-                    }
-
-                    CheckButton {
-                        id: check
-
-                        anchors.right: parent.right
-                        anchors.verticalCenter: parent.verticalCenter
-                        title: root.model.buttonTitle
-                        isBusy: root.model.isChecking
-                        onAction: root.model.checkForUpdates()
+                    KitText {
+                        width: parent.width
+                        text: qsTr("Klarvik checks for new versions in the background")
+                        size: 11
+                        color: Theme.textTertiary
                     }
                 }
 
-                Separator {}
+                ToggleSwitch {
+                    id: automatic
 
-                PanelRow {
-                    height: 64
-
-                    Column {
-                        anchors.left: parent.left
-                        anchors.right: automatic.left
-                        anchors.rightMargin: 16
-                        anchors.verticalCenter: parent.verticalCenter
-                        spacing: 3
-
-                        KitText {
-                            width: parent.width
-                            text: qsTr("Check automatically")
-                        }
-
-                        KitText {
-                            width: parent.width
-                            text: qsTr("Klarvik checks for new versions in the background")
-                            size: 11
-                            color: Theme.textTertiary
-                        }
-                    }
-
-                    ToggleSwitch {
-                        id: automatic
-
-                        anchors.right: parent.right
-                        anchors.verticalCenter: parent.verticalCenter
-                        title: qsTr("Check automatically")
-                        isOn: root.model.autoCheck
-                        onToggled: root.model.toggleAutoCheck()
-                    }
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    title: qsTr("Check automatically")
+                    isOn: root.model.autoCheck
+                    onToggled: root.model.toggleAutoCheck()
                 }
             }
         }

@@ -1,0 +1,79 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+
+// What has just been done, and what can be done about it.
+Item {
+    id: root
+
+    required property string symbol
+    required property color symbolColor
+    required property string headline
+    required property string detail
+    property string help
+    default property alias buttons: content.data
+
+    width: parent ? parent.width : implicitWidth
+    implicitHeight: content.implicitHeight + 24 + 14
+    Accessible.role: Accessible.Notification
+    Accessible.name: root.headline
+
+    Rectangle {
+        anchors.fill: content
+        anchors.margins: -12
+        anchors.leftMargin: -16
+        radius: 10
+        color: Theme.raised
+        border.color: Theme.hairlineStrong
+    }
+
+    HoverHandler {
+        id: over
+    }
+
+    KitToolTip {
+        x: Theme.sidePadding
+        shown: over.hovered && root.help !== ""
+        text: root.help
+    }
+
+    RowLayout {
+        id: content
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.topMargin: 12
+        anchors.leftMargin: Theme.sidePadding + 16
+        anchors.rightMargin: Theme.sidePadding + 12
+        spacing: 12
+
+        Symbol {
+            name: root.symbol
+            size: 22
+            color: root.symbolColor
+        }
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: 3
+
+            KitText {
+                Layout.fillWidth: true
+                text: root.headline
+                weight: Font.Medium
+            }
+
+            KitText {
+                Layout.fillWidth: true
+                text: root.detail
+                color: Theme.textSecondary
+                size: 12
+                elide: Text.ElideNone
+                maximumLineCount: 3
+                wrapMode: Text.WordWrap
+            }
+        }
+    }
+}
