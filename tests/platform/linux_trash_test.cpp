@@ -330,7 +330,12 @@ TEST_F(LinuxTrashTest, EmptyingALinkInsideGoesItsTargetStays) {
   ASSERT_TRUE(trash.moveToTrash("/Users/ann/link", anywhere));
   const auto items = trash.list();
   ASSERT_TRUE(items);
+  const DiskSnapshot before = snapshot();
   for (const Path& item : *items) EXPECT_TRUE(trash.remove(item, anywhere));
+  EXPECT_EQ(unexpectedDifferences(
+                before, snapshot(),
+                {inFiles("folder"), recordOf("folder"), inFiles("link"), recordOf("link")}),
+            "");
   EXPECT_EQ(disk.contentOf("/Users/ann/target/a"), "content");
   EXPECT_EQ(countIn(kFiles) + countIn(kInfo), 0u);
 }
@@ -342,7 +347,9 @@ TEST_F(LinuxTrashTest, EmptyingAnItemAddedMeanwhileSurvives) {
   disk.makeFile("/Users/ann/a", "new");
   const auto added = trash.moveToTrash("/Users/ann/a", anywhere);
   ASSERT_TRUE(listed && added);
+  const DiskSnapshot before = snapshot();
   for (const Path& item : *listed) EXPECT_TRUE(trash.remove(item, anywhere));
+  EXPECT_EQ(unexpectedDifferences(before, snapshot(), {inFiles("a"), recordOf("a")}), "");
   EXPECT_EQ(trash.list(), std::vector<Path>{*added});
   EXPECT_TRUE(trash.putBack(*added, "/Users/ann/a"));
   EXPECT_EQ(disk.contentOf("/Users/ann/a"), "new");

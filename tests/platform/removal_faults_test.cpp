@@ -27,9 +27,20 @@ class RemovalFaultsTest : public testing::Test {
     disk.makeFile("/chosen/tree/.hidden", "three");
     disk.makeFile("/chosen/treetop", "beside");
   }
+  ~RemovalFaultsTest() override {
+    EXPECT_EQ(disk.contentOf("/Library/canary"), "outside");
+    EXPECT_EQ(disk.contentOf("/chosen/treetop"), "beside");
+  }
 
   bool remove(const Path& item) const {
     return files.remove(item, [](const Path&) { return true; });
+  }
+  /// The same; fails the test when anything but the item is gone, or anything has changed.
+  bool removeOnly(const Path& item) const {
+    const DiskSnapshot before = now();
+    const bool isRemoved = remove(item);
+    EXPECT_EQ(unexpectedDifferences(before, now(), {item}), "");
+    return isRemoved;
   }
   DiskSnapshot now() const { return snapshotOf(disk.path()); }
 
@@ -58,7 +69,7 @@ TEST_F(RemovalFaultsTest, AMountInsideTheTreeIsKeptAndTheItemCountsAsNotRemoved)
   EXPECT_TRUE(passesWithPrivateMounts([&] {
     mountTmpfs(disk.onDisk("/chosen/tree/y/mount"));
     disk.makeFile("/chosen/tree/y/mount/inside", "kept");
-    EXPECT_FALSE(remove("/chosen/tree"));
+    EXPECT_FALSE(removeOnly("/chosen/tree"));
     EXPECT_EQ(disk.contentOf("/chosen/tree/y/mount/inside"), "kept");
     EXPECT_FALSE(disk.holds("/chosen/tree/x"));
     EXPECT_FALSE(disk.holds("/chosen/tree/y/z"));
@@ -71,7 +82,7 @@ TEST_F(RemovalFaultsTest, ABindMountOfTheSameDeviceInsideTheTreeIsKept) {
   EXPECT_TRUE(passesWithPrivateMounts([&] {
     mountBind(disk.onDisk("/Library"), disk.onDisk("/chosen/tree/y/mount"));
     mountBind(disk.onDisk("/Library/canary"), disk.onDisk("/chosen/tree/mounted-file"));
-    EXPECT_FALSE(remove("/chosen/tree"));
+    EXPECT_FALSE(removeOnly("/chosen/tree"));
     EXPECT_EQ(disk.contentOf("/Library/canary"), "outside");
     EXPECT_TRUE(disk.holds("/chosen/tree/mounted-file"));
     EXPECT_FALSE(disk.holds("/chosen/tree/x"));
@@ -82,7 +93,7 @@ TEST_F(RemovalFaultsTest, ABindMountOfTheSameDeviceInsideTheTreeIsKept) {
 TEST_F(RemovalFaultsTest, AFolderBoundOntoItselfInsideTheTreeIsKept) {
   EXPECT_TRUE(passesWithPrivateMounts([&] {
     mountBind(disk.onDisk("/chosen/tree/x"), disk.onDisk("/chosen/tree/x"));
-    EXPECT_FALSE(remove("/chosen/tree"));
+    EXPECT_FALSE(removeOnly("/chosen/tree"));
     EXPECT_EQ(disk.contentOf("/chosen/tree/x/file"), "one");
     EXPECT_FALSE(disk.holds("/chosen/tree/y"));
   }));
@@ -91,7 +102,7 @@ TEST_F(RemovalFaultsTest, AFolderBoundOntoItselfInsideTheTreeIsKept) {
 TEST_F(RemovalFaultsTest, AnItemThatIsItselfAMountIsKept) {
   EXPECT_TRUE(passesWithPrivateMounts([&] {
     mountBind(disk.onDisk("/Library"), disk.onDisk("/chosen/tree"));
-    EXPECT_FALSE(remove("/chosen/tree"));
+    EXPECT_FALSE(removeOnly("/chosen/tree"));
     EXPECT_EQ(disk.contentOf("/chosen/tree/canary"), "outside");
   }));
   EXPECT_EQ(disk.contentOf("/Library/canary"), "outside");
@@ -164,8 +175,8 @@ TEST_F(RemovalFaultsTest, AReadOnlyFileSystemCountsAsNotRemoved) {
     ASSERT_EQ(
         ::mount(nullptr, disk.onDisk("/volume").c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr),
         0);
-    EXPECT_FALSE(remove("/volume/tree"));
-    EXPECT_FALSE(remove("/volume/tree/file"));
+    EXPECT_FALSE(removeOnly("/volume/tree"));
+    EXPECT_FALSE(removeOnly("/volume/tree/file"));
     EXPECT_EQ(disk.contentOf("/volume/tree/file"), "kept");
   }));
 }

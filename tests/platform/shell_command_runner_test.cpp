@@ -3,13 +3,19 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/ioctl.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
+#include <chrono>
 #include <cstdlib>
+#include <functional>
 #include <thread>
 #include <vector>
 
+#include "platform/linux/unique_fd.h"
 #include "support/child_process.h"
 #include "support/temporary_folder.h"
 
@@ -51,6 +57,79 @@ TEST(ShellCommandRunner, TakesOutputOfOneMebibyteWhole) {
   const auto output = run("head -c 1048576 /dev/zero");
   ASSERT_TRUE(output);
   EXPECT_EQ(*output, std::string(1'048'576, '\0'));
+}
+
+/// A command that is run in a process of its own, so that it may keep whoever runs it for ever.
+class CommandInAProcess {
+ public:
+  explicit CommandInAProcess(const std::string& commandLine) {
+    // In a shell of its own, so that the output of the other one is the pipe at all times.
+    const std::string id = _folder.onDisk("id").native();
+    const std::string line = "(echo $$ >'" + id + "'); " + commandLine;
+    _runner = ::fork();
+    if (_runner != 0) return;
+    const auto output = run(line);
+    _folder.makeFile("length", std::to_string(output ? output->size() : 0));
+    ::_exit(0);
+  }
+  ~CommandInAProcess() {
+    if (hasComeBack()) return;
+    ::kill(_runner, SIGKILL);
+    ::waitpid(_runner, nullptr, 0);
+  }
+  CommandInAProcess(const CommandInAProcess&) = delete;
+  CommandInAProcess& operator=(const CommandInAProcess&) = delete;
+
+  bool hasComeBack() {
+    if (!_hasEnded) _hasEnded = ::waitpid(_runner, nullptr, WNOHANG) == _runner;
+    return _hasEnded;
+  }
+  /// How much the runner answered.
+  [[nodiscard]] std::string length() const { return _folder.contentOf("length"); }
+  /// A second reader of what the command prints.
+  [[nodiscard]] UniqueFd openOutput() const {
+    const std::string process = _folder.contentOf("id");
+    const std::string output = "/proc/" + process.substr(0, process.find('\n')) + "/fd/1";
+    return UniqueFd(::open(output.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  }
+  [[nodiscard]] bool hasBegun() const {
+    return _folder.holds("id") && _folder.contentOf("id").ends_with('\n');
+  }
+
+ private:
+  TemporaryFolder _folder;
+  ::pid_t _runner = 0;
+  bool _hasEnded = false;
+};
+
+/// False when it never does: the minute only keeps a broken test from hanging.
+bool becomes(const std::function<bool()>& condition) {
+  const auto giveUp = std::chrono::steady_clock::now() + std::chrono::minutes(1);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > giveUp) return false;
+    std::this_thread::yield();
+  }
+  return true;
+}
+
+TEST(ShellCommandRunner, ACommandThatWritesMoreThanThePipeHoldsDoesNotEndUntilSomebodyReads) {
+  CommandInAProcess command("exec head -c 1048577 /dev/zero");
+  ASSERT_TRUE(becomes([&] { return command.hasBegun() || command.hasComeBack(); }));
+  const UniqueFd output = command.openOutput();
+  ASSERT_TRUE(output);
+  ASSERT_EQ(::fcntl(output.get(), F_GETPIPE_SZ), 1'048'576);
+  const auto isFull = [&] {
+    int waiting = 0;
+    return ::ioctl(output.get(), FIONREAD, &waiting) == 0 && waiting == 1'048'576;
+  };
+  ASSERT_TRUE(becomes([&] { return isFull() || command.hasComeBack(); }));
+  EXPECT_TRUE(isFull());
+  EXPECT_FALSE(command.hasComeBack());
+
+  std::array<char, 4096> some{};
+  ASSERT_EQ(::read(output.get(), some.data(), some.size()), 4096);
+  ASSERT_TRUE(becomes([&] { return command.hasComeBack(); }));
+  EXPECT_EQ(command.length(), std::to_string(1'048'577 - 4096));
 }
 
 TEST(ShellCommandRunner, GivesTheCommandNothingToRead) {

@@ -242,10 +242,11 @@ TEST_F(TrashVolumes, NoRoomForAnotherFileTheOriginalStaysNoOrphan) {
 }
 
 TEST_F(TrashVolumes, ATrashThatBelongsToSomeoneElseIsNotUsed) {
-  if (::geteuid() != 0) return;  // only root can give a folder away
   EXPECT_TRUE(passesWithStick([&] {
     disk.makeFile(onStick("a"), "content");
-    ASSERT_EQ(::chown(disk.makeFolder(ownTrash()).c_str(), 12345, 12345), 0);
+    const Path folder = disk.makeFolder(ownTrash());
+    // Only root can give a folder away. For everybody else one of root's stands in.
+    if (::chown(folder.c_str(), 12345, 12345) != 0) mountBind("/srv", folder);
     expectItStays(onStick("a"));
   }));
 }

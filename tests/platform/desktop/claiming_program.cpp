@@ -1,10 +1,12 @@
-// claiming_program HOME FOLDER USER DISPLAY: one start of a program of which each home has one.
-// Prints a line for what became of the claim and, where it was granted, one for each further start.
-// Runs until it is killed.
+// claiming_program HOME FOLDER USER DISPLAY WHEN_ASKED: one start of a program of which each home
+// has one. Prints a line for what became of the claim and, where it was granted, one for each
+// further start. Runs until it is killed; where WHEN_ASKED is "ends", until it has been asked and
+// has not answered yet.
 
 #include <QCoreApplication>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "platform/desktop/single_instance.h"
 
@@ -19,7 +21,7 @@ void say(const char* line) {
 
 int main(int argumentCount, char** arguments) {
   QCoreApplication application(argumentCount, arguments);
-  if (argumentCount != 5) return 2;
+  if (argumentCount != 6) return 2;
   klarvik::SingleInstance::Start start;
   start.home = arguments[1];
   start.folder = arguments[2];
@@ -30,7 +32,11 @@ int main(int argumentCount, char** arguments) {
     say("refused");
     return 0;
   }
-  instance.whenStartedAgain([] { say("fronted"); });
+  const bool ends = std::string_view(arguments[5]) == "ends";
+  instance.whenStartedAgain([ends] {
+    say("fronted");
+    if (ends) std::_Exit(0);
+  });
   say("granted");
   return QCoreApplication::exec();
 }
