@@ -2,7 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "analysis_fixture.h"
+#include "systemdata/pass_table.h"
+#include "systemdata/system_data_search.h"
 
 namespace klarvik {
 namespace {
@@ -22,6 +26,12 @@ class SystemDataAnalysis : public AnalysisFixture {
     auto items = analyse();
     std::erase_if(items, [&](const SystemDataItem& item) { return item.subCategory != kind; });
     return items;
+  }
+
+  /// What the pass finds where no other one takes it in.
+  [[nodiscard]] std::vector<SystemDataItem> foundAlone(Kind kind) {
+    const auto pass = std::ranges::find(passTable(), kind, &Pass::kind);
+    return SystemDataSearch(platform).find(*pass);
   }
 
   void answerSize(const std::string& text, const std::string& output) {
@@ -150,7 +160,8 @@ TEST_F(SystemDataAnalysis, FirmwareWithItsExtensionInCapitalsIsNoRow) {
   files.addFile(folder / "d.ipa", 50'000'000);
   files.addFile(inLibrary("iTunes/iPad Software Updates/e.ipa"), 50'000'001);
   files.addFile(inLibrary("iTunes/iPod Software Updates/f.ipsw/part"), 50'000'001);
-  EXPECT_THAT(names(found(Kind::firmware)), IsEmpty());  // all inside iTunes, which is a row
+  EXPECT_THAT(names(foundAlone(Kind::firmware)),
+              UnorderedElementsAre("Firmware: a.ipsw", "Firmware: e.ipa", "Firmware: f.ipsw"));
 }
 
 TEST_F(SystemDataAnalysis, AFolderFontsInTheLibraryIsARowOfTheRemainder) {
