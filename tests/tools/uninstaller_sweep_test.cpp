@@ -105,6 +105,15 @@ class UninstallSweep : public testing::Test {
         });
   }
 
+  /// What is neither below the folder that is swapped nor where that goes.
+  static DiskSnapshot besides(const Path& folder, DiskSnapshot snapshot) {
+    std::erase_if(snapshot, [&](const auto& entry) {
+      return entry.first.starts_with("aside") ||
+             entry.first.starts_with(folder.relative_path().native());
+    });
+    return snapshot;
+  }
+
   static void swapForALink(const Path& folder) {
     sweep(
         [&](Stage& stage, int call) {
@@ -118,8 +127,12 @@ class UninstallSweep : public testing::Test {
                 if (!error) std::filesystem::create_symlink(canary, path);
               }};
         },
-        [](Stage& stage, const DiskSnapshot&, const FaultyRun&) {
-          EXPECT_EQ(stage.disk.contentOf(stage.canary / "com.acme.writer/data/blob"), "mine");
+        [&](Stage& stage, const DiskSnapshot& before, const FaultyRun&) {
+          EXPECT_EQ(
+              unexpectedDifferences(besides(folder, before),
+                                    besides(folder, stage.outsideTheTrash()), {stage.app.appURL}),
+              "");
+          EXPECT_NE(stage.appIsInPlace(), stage.appIsInTheTrash());
         });
   }
 };
