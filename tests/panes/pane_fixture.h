@@ -11,6 +11,7 @@
 #include "state/shared_state.h"
 #include "support/desktop_on_disk.h"
 #include "support/faulting_file_system.h"
+#include "thread_watch.h"
 
 namespace klarvik {
 
@@ -38,6 +39,21 @@ class PaneFixture : public ::testing::Test {
     }
     return true;
   }
+  /// For a thread of the pane's: waits at the gate.
+  void waitAtGate() {
+    passers.watchThisThread();
+    gate.pass();
+  }
+  /// Opens the gate, and turns the main loop until whoever has waited there is through with all it
+  /// does and the pane has been handed what it brings. False when that never comes.
+  [[nodiscard]] bool letGo() {
+    gate.open();
+    const bool haveEnded = turnUntil([this] { return passers.allHaveEnded(); });
+    QCoreApplication::sendPostedEvents();
+    desk.clock.advance(std::chrono::seconds(1));
+    QCoreApplication::sendPostedEvents();
+    return haveEnded;
+  }
   [[nodiscard]] Path inHome(const std::string& place) const { return desk.files.home() / place; }
   [[nodiscard]] std::size_t trashCount() const {
     return desk.desktop.trash.list().value_or(std::vector<Path>{}).size();
@@ -62,6 +78,7 @@ class PaneFixture : public ::testing::Test {
   }
 
   Gate gate;
+  ThreadWatch passers;
   DesktopOnDisk desk;
   FaultingFileSystem files{desk.files};
   Desktop desktop = desk.around(files, desk.desktop.trash, desk.clock);

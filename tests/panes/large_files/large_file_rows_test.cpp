@@ -13,7 +13,7 @@
 namespace klarvik {
 namespace {
 
-class LargeFileRowsTest : public ::testing::Test {
+class LargeFileRowsFixture : public ::testing::Test {
  protected:
   static LargeFileList::value_type file(const Path& name, std::int64_t size = 1'000'000) {
     return std::make_shared<const LargeFile>(
@@ -37,8 +37,15 @@ class LargeFileRowsTest : public ::testing::Test {
   Desktop desktop = around.desktop();
   std::unordered_set<Uuid> selected;
   LargeFileRows rows{selected, desktop};
+};
+
+class LargeFileRowsTest : public LargeFileRowsFixture {
+ protected:
   QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
+
+/// Without the tester, which looks at every row at every change.
+class AMillionLargeFiles : public LargeFileRowsFixture {};
 
 TEST_F(LargeFileRowsTest, ARowSaysWhatTheFileIs) {
   show({file("Archive/film.mov", 700'000'000)});
@@ -97,6 +104,29 @@ TEST_F(LargeFileRowsTest, NewRowsInARowAreOneInsertion) {
   EXPECT_EQ(inserted.front().at(1).toInt(), 10);
   EXPECT_EQ(inserted.front().at(2).toInt(), 999);
   EXPECT_EQ(changed.count(), 0);
+}
+
+TEST_F(AMillionLargeFiles, ComeAndGoInAFewStepsWithThoseInSightFollowed) {
+  constexpr int count = 1'000'000;
+  QSignalSpy reset(&rows, &LargeFileRows::modelReset);
+  QSignalSpy inserted(&rows, &LargeFileRows::rowsInserted);
+  const LargeFileList all = numbered(count);
+  show(all);
+  EXPECT_EQ(rows.rowCount(), count);
+  EXPECT_EQ(inserted.count(), 1);
+
+  rows.lookAt(500'000, 500'010);
+  const QPersistentModelIndex inSight(rows.index(500'011));
+  QSignalSpy removed(&rows, &LargeFileRows::rowsRemoved);
+  QSignalSpy changed(&rows, &LargeFileRows::dataChanged);
+  LargeFileList odd;
+  for (std::size_t number = 1; number < all.size(); number += 2) odd.push_back(all[number]);
+  show(odd);
+  EXPECT_EQ(rows.files(), odd);
+  EXPECT_EQ(reset.count(), 0);
+  EXPECT_LT(inserted.count() + removed.count() + changed.count(), 100);
+  ASSERT_TRUE(inSight.isValid());
+  EXPECT_EQ(rows.files()[static_cast<std::size_t>(inSight.row())], all[500'011]);
 }
 
 TEST_F(LargeFileRowsTest, WhatIsNoLongerNeededIsHandedBack) {

@@ -1,5 +1,11 @@
 #pragma once
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <chrono>
+#include <ctime>
 #include <memory>
 #include <string>
 
@@ -19,6 +25,12 @@ class LargeFilesFixture : public PaneFixture {
     desk.disk.makeSparseFile(path, mebibytes * mebibyte);
     return path;
   }
+  /// As the disk remembers it.
+  void setLastOpened(const Path& path, std::chrono::seconds ago) const {
+    const std::array<timespec, 2> times{timespec{::time(nullptr) - ago.count(), 0},
+                                        timespec{0, UTIME_OMIT}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, desk.disk.onDisk(path).c_str(), times.data(), 0), 0);
+  }
   /// The next walk reports once, after everything in Documents and Movies, and then waits.
   void holdTheNextWalk() {
     for (int number = 0; number < 500; ++number) {
@@ -26,7 +38,7 @@ class LargeFilesFixture : public PaneFixture {
     }
     desk.disk.makeFile(heldFile);
     gate.close();
-    files.before(Operation::attributes, heldFile, [this] { gate.pass(); });
+    files.before(Operation::attributes, heldFile, [this] { waitAtGate(); });
   }
   [[nodiscard]] bool isHeld() const { return gate.waiting() == 1; }
 

@@ -110,11 +110,12 @@ TEST_F(PrivacyScan, IsStoppedByTheActionAndItsResultDropped) {
   EXPECT_TRUE(view->hasScanned());
   EXPECT_EQ(view->placeholder().title, "Nothing to clear");
   EXPECT_EQ(shared.toolActivity().state("privacy"), ToolActivity::State(ToolActivity::Idle{}));
-  const double progress = view->progress();
-  gate.open();
-  ASSERT_TRUE(scan());
-  EXPECT_EQ(view->items().size(), 1U);
-  EXPECT_EQ(progress, 0.1);
+  ASSERT_TRUE(letGo());
+  EXPECT_TRUE(view->items().empty());
+  EXPECT_EQ(view->trailList()->rowCount(), 0);
+  EXPECT_EQ(view->progress(), 0.1);
+  EXPECT_FALSE(shared.scanCoordinator().totals().contains("privacy"));
+  EXPECT_EQ(shared.toolActivity().state("privacy"), ToolActivity::State(ToolActivity::Idle{}));
 }
 
 TEST_F(PrivacyScan, ThatWasStoppedReportsNothingMoreToTheSidebar) {

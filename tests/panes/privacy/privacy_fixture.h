@@ -48,7 +48,7 @@ class PrivacyFixture : public PaneFixture {
 
   void holdScan() {
     gate.close();
-    files.before(Operation::exists, inLibrary("Safari/History.db"), [this] { gate.pass(); });
+    files.before(Operation::exists, inLibrary("Safari/History.db"), [this] { waitAtGate(); });
   }
   /// There must be recent files to clear.
   void holdClearing() {

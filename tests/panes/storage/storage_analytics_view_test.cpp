@@ -33,7 +33,7 @@ class StorageAnalyticsModel : public PaneFixture {
                                     const DiskCompositionEngine::ProgressSink& progress) {
     ++measurements;
     progress("Documents", 0.25);
-    gate.pass();
+    waitAtGate();
     progress("Done", 1.0);
     return answer;
   }
@@ -127,11 +127,7 @@ TEST_F(StorageAnalyticsModel, KeepsTheEarlierResultWhenStoppedInMidMeasurement) 
   EXPECT_FALSE(pane.isMeasuring());
   EXPECT_TRUE(pane.subtitle().startsWith("200 GB free of 500 GB · measured "));
   EXPECT_EQ(pane.actionTitle(), "Re-measure");
-  gate.open();
-  for (int turn = 0; turn < 40; ++turn) {
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-    desk.clock.advance(20ms);
-  }
+  ASSERT_TRUE(letGo());
   EXPECT_EQ(legendIds(), (QStringList{"documents", "music"}));
   EXPECT_FALSE(pane.isMeasuring());
 }
@@ -139,7 +135,7 @@ TEST_F(StorageAnalyticsModel, KeepsTheEarlierResultWhenStoppedInMidMeasurement) 
 TEST_F(StorageAnalyticsModel, IsUnmeasuredAgainWhenTheFirstMeasurementIsStopped) {
   ASSERT_TRUE(measureAndHold());
   pane.performAction();
-  gate.open();
+  ASSERT_TRUE(letGo());
   EXPECT_FALSE(pane.isMeasured());
   EXPECT_EQ(pane.actionTitle(), "Measure");
   EXPECT_EQ(pane.subtitle(), "200 GB free of 500 GB");
@@ -152,9 +148,8 @@ TEST_F(StorageAnalyticsModel, DropsWhatAStoppedMeasurementStillSaysWhileTheNextO
   ASSERT_TRUE(turnUntil([this] { return measurements == 2 && gate.waiting() == 2; }));
   ASSERT_TRUE(pane.isMeasuring());
   QSignalSpy results(&pane, &StorageAnalyticsView::compositionChanged);
-  gate.open();
-  ASSERT_TRUE(turnUntil([this] { return !pane.isMeasuring(); }));
-  QCoreApplication::processEvents();
+  ASSERT_TRUE(letGo());
+  EXPECT_FALSE(pane.isMeasuring());
   EXPECT_EQ(results.count(), 1);
 }
 

@@ -37,7 +37,7 @@ class UninstallerFixture : public PaneFixture {
   /// Whoever lists the folder next waits until the gate opens.
   void holdAt(const Path& folder) {
     gate.close();
-    files.before(Operation::list, folder, [this] { gate.pass(); });
+    files.before(Operation::list, folder, [this] { waitAtGate(); });
   }
   [[nodiscard]] bool isHeld() {
     return turnUntil([this] { return gate.waiting() == 1; });
