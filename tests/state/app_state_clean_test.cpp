@@ -258,9 +258,22 @@ TEST_F(LongClean, QuittingDuringARemovalFinishesTheItemsInHandAndPutsThemOnRecor
   later.join();
   const std::int64_t gone = 30 - itemsLeft();
   EXPECT_GE(gone, 6);
+  for (const JunkItem& item : many) {
+    EXPECT_NE(isThere(item), around.disk.holds("/Users/ann/.Trash/" + item.name)) << item.name;
+  }
   ASSERT_EQ(history.cleans().size(), 1U);
   EXPECT_EQ(history.cleans()[0].totalJunk, 10 * gone);
   EXPECT_EQ(ScanHistory(around.defaults, around.clock).cleans(), history.cleans());
+  turnMainLoop();
+}
+
+TEST_F(LongClean, StoppedForTheEndOfTheProgramItRemovesTheItemsInHandAndNoOther) {
+  state->stopRemovals();
+  letGo.release(100);
+  state.reset();
+  EXPECT_EQ(itemsLeft(), 24);
+  ASSERT_EQ(history.cleans().size(), 1U);
+  EXPECT_EQ(history.cleans()[0].totalJunk, 60);
   turnMainLoop();
 }
 
