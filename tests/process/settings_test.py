@@ -3,7 +3,6 @@ restart."""
 
 import shutil
 import subprocess
-import time
 
 from pointer import Pointer, each_test_by_itself
 from process_test import BUILD, ProcessTest
@@ -69,9 +68,9 @@ class Settings(ProcessTest):
         )
         klarvik.quit()
         again = self.start()
-        again.wait_for_window()
-        # Long enough for a scan of the sample home to have been started and recorded.
-        time.sleep(5)
+        again.wait_until(lambda: self.pointer.shows(again, "Scan"), "The window's content")
+        # A scan begins with the window: it would be running, or be on record.
+        self.assertFalse(self.pointer.shows(again, "Stop"))
         self.assertEqual(len(self.home.scans()), 1)
 
     def test_the_menu_bar_box_is_kept(self):

@@ -42,5 +42,20 @@ TEST_F(FullDiskAccessWindow, CanBeSkippedByKeyboardAlone) {
   EXPECT_FALSE(shows("One permission to set up"));
 }
 
+TEST_F(FullDiskAccessWindow, OnceSkippedItIsNotShownAtTheNextLaunchThoughThePermissionIsMissing) {
+  openWindow();
+  ASSERT_NE(waitFor("One permission to set up"), nullptr);
+  settle();
+  click("Skip for now");
+  settle();
+  EXPECT_TRUE(desk->defaults.boolean("fda_prompt_shown", false));
+  closeWindow();
+  openWindow();
+  settle();
+  EXPECT_TRUE(shows("Smart Scan"));
+  EXPECT_FALSE(shared->permissionsManager().hasFullDiskAccess());
+  EXPECT_FALSE(shows("One permission to set up"));
+}
+
 }  // namespace
 }  // namespace klarvik

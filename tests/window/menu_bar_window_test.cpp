@@ -325,6 +325,24 @@ TEST_F(WindowWithAStatusItem, PreferencesOpensTheSettings) {
   EXPECT_TRUE(app->window(settingsWindowId)->isVisible());
 }
 
+TEST_F(WindowWithAStatusItem, TheBoxInTheSettingsTakesItAwayWithItsPopoverAndBringsItBack) {
+  openWindow();
+  desk->statusItem.choose(preferences);
+  QQuickWindow* const settings = app->window(settingsWindowId);
+  ASSERT_NE(settings, nullptr);
+  lookAt(settings);
+  settle();
+  desk->statusItem.press();
+  ASSERT_NE(openPopoverWindow(), nullptr);
+  click("Show in the menu bar");
+  EXPECT_FALSE(desk->defaults.boolean("showMenuBar", true));
+  EXPECT_FALSE(desk->statusItem.shown);
+  EXPECT_EQ(openPopoverWindow(), nullptr);
+  click("Show in the menu bar");
+  EXPECT_TRUE(desk->defaults.boolean("showMenuBar", false));
+  EXPECT_TRUE(desk->statusItem.shown);
+}
+
 TEST_F(WindowWithAStatusItem, ATrayThatDisappearsBringsTheClosedWindowBack) {
   openWindow();
   window().close();

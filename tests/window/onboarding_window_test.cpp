@@ -132,11 +132,13 @@ TEST_F(OnboardingWindow, LaterOpensTheShellWithNothingScanned) {
   EXPECT_FALSE(shows("One permission to set up"));
 }
 
-TEST_F(OnboardingWindow, TheMenuBarBoxIsWrittenBeforeTheEnd) {
+TEST_F(OnboardingWindow, TheMenuBarBoxIsWrittenAndTakesTheItemAwayBeforeTheEnd) {
   goToTheLastPage();
+  ASSERT_TRUE(desk->statusItem.shown);
   click("Keep Klarvik in the menu bar");
   settle();
   EXPECT_FALSE(desk->defaults.boolean("showMenuBar", true));
+  EXPECT_FALSE(desk->statusItem.shown);
   EXPECT_FALSE(isStored("onboarding_complete"));
   picture("onboarding_without_menu_bar");
 }

@@ -105,6 +105,35 @@ TEST_F(SidebarWindow, ShowsThePercentageOfARunningScanAndThenWhatItFound) {
   EXPECT_TRUE(shows("Smart Scan, " + size));
 }
 
+TEST_F(SidebarWindow, AnotherSectionDuringAScanLeavesItRunningWhereNoClickReachesIt) {
+  desk->commands.holdAt("docker", desk->commandGate);
+  desk->commandGate.close();
+  openWindow();
+  click("Scan");
+  ASSERT_TRUE(turnUntil([this] { return desk->commandGate.waiting() == 1; }));
+  const QQuickItem* stop = waitFor("Stop");
+  ASSERT_NE(stop, nullptr);
+  const QPoint place = stop->mapToScene(stop->boundingRect().center()).toPoint();
+
+  // Its panes lie above that of the scan, and the one of Privacy above all others.
+  click("Storage");
+  settle();
+  const QQuickItem* measure = find("Measure");
+  ASSERT_NE(measure, nullptr);
+  ASSERT_TRUE(measure->mapRectToScene(measure->boundingRect()).contains(place));
+  QTest::mouseClick(&window(), Qt::LeftButton, {}, place);
+  EXPECT_TRUE(shows("Stop")) << "the pane in sight heard nothing of it";
+  EXPECT_TRUE(is<AppState::Scanning>());
+  EXPECT_EQ(shared->toolActivity().state("privacy"), ToolActivity::State(ToolActivity::Idle{}));
+
+  desk->commandGate.open();
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
+  click("Smart Scan");
+  settle();
+  EXPECT_TRUE(shows("App Caches"));
+  EXPECT_TRUE(shows("Clean "));
+}
+
 TEST_F(SidebarWindow, ForgetsTheKeysThatAFormerFeatureLeftBehind) {
   desk->defaults.set("clean_schedule", std::string("weekly"));
   desk->defaults.set("last_auto_clean", std::int64_t{5});

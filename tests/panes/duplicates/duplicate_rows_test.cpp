@@ -150,6 +150,30 @@ TEST_F(DuplicateRowsTest, ARemovalAllOverTheListKeepsWhatIsInSightWhereItIs) {
   EXPECT_EQ(reset.count(), 0);
 }
 
+TEST_F(DuplicateRowsTest, OfAMillionCopiesHalfGoInAFewSteps) {
+  show(1000, 1000);
+  for (int group = 1; group < 1000; ++group) rows.toggleExpanded(group * 1001);
+  ASSERT_EQ(rows.rowCount(), 1'001'000);
+  rows.lookAt(500'500);
+  const QPersistentModelIndex inSight(rows.index(500'500));
+  ASSERT_EQ(rows.at(500'500).group, choice.groups()[500].get());
+  QSignalSpy inserted(&rows, &QAbstractItemModel::rowsInserted);
+  QSignalSpy removed(&rows, &QAbstractItemModel::rowsRemoved);
+  QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+  std::vector<Path> gone;
+  for (std::size_t group = 0; group < 1000; ++group) {
+    for (std::size_t file = 1; file < 1000; file += 2) gone.push_back(path(group, file));
+  }
+  remove(gone);
+  expectRight();
+  EXPECT_EQ(rows.rowCount(), 501'000);
+  EXPECT_LT(inserted.count() + removed.count() + changed.count(), 100);
+  EXPECT_EQ(reset.count(), 0);
+  ASSERT_TRUE(inSight.isValid());
+  EXPECT_EQ(rows.at(inSight.row()).group, choice.groups()[500].get());
+  EXPECT_TRUE(rows.at(inSight.row()).isGroup());
+}
+
 TEST_F(DuplicateRowsTest, NewGroupsComeAsRowsAndNotAsAReset) {
   show(2, 2);
   show(3, 2);

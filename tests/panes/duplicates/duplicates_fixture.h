@@ -9,6 +9,7 @@
 
 #include "../pane_fixture.h"
 #include "panes/duplicates/duplicate_finder_view.h"
+#include "support/disk_snapshot.h"
 
 namespace klarvik {
 
@@ -32,9 +33,11 @@ class DuplicatesFixture : public PaneFixture {
     std::filesystem::last_write_time(desk.disk.onDisk(path),
                                      std::filesystem::file_time_type::clock::now() - age);
   }
-  /// The next scan waits when it opens this file.
+  /// The next scan waits when it opens this file. Whatever does the reading, the scan is over no
+  /// sooner than the thread that has begun it.
   void holdTheNextScanAt(const Path& path) {
     gate.close();
+    files.before(Operation::walk, inHome("Documents"), [this] { passers.watchThisThread(); });
     files.before(Operation::openForReading, path, [this] { gate.pass(); });
   }
   [[nodiscard]] bool isHeld() const { return gate.waiting() == 1; }
@@ -82,6 +85,12 @@ class DuplicatesFixture : public PaneFixture {
       places.push_back(copy.group->files[copy.file].url);
     }
     return places;
+  }
+  [[nodiscard]] DiskSnapshot outsideTheTrash() const {
+    DiskSnapshot snapshot = snapshotOf(desk.disk.path());
+    std::erase_if(snapshot,
+                  [](const auto& entry) { return entry.first.starts_with("Users/ann/.local"); });
+    return snapshot;
   }
   [[nodiscard]] ToolActivity::State activity() { return activityOf("duplicates"); }
   [[nodiscard]] auto total() { return totalOf("duplicates"); }
