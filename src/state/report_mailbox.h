@@ -28,10 +28,10 @@ class ReportMailbox final : public QObject {
 
   static constexpr std::chrono::milliseconds pause{16};
 
-  ReportMailbox(
-      Clock& clock, Apply apply,
-      Replaces replaces = [](const Report&, const Report&) { return true; })
+  ReportMailbox(Clock& clock, Apply apply, Replaces replaces)
       : _clock(clock), _apply(std::move(apply)), _replaces(std::move(replaces)) {}
+  ReportMailbox(Clock& clock, Apply apply)
+      : ReportMailbox(clock, std::move(apply), [](const Report&, const Report&) { return true; }) {}
 
   /// May be called from any thread.
   void post(Report report) {

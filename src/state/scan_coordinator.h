@@ -95,8 +95,8 @@ struct AutoScan {
 QCoro::Task<> runAutoScan(ScanCoordinator& coordinator, Clock& clock, AutoScan scan,
                           std::stop_token stop);
 
-/// The same, of a tool that reads protected places: without Full Disk Access, as it is now, it waits
-/// for its user.
+/// The same, of a tool that reads protected places: without Full Disk Access, as it is now, it
+/// waits for its user.
 QCoro::Task<> runAutoScanWithAccess(PermissionsManager& permissions, ScanCoordinator& coordinator,
                                     Clock& clock, AutoScan scan, std::stop_token stop);
 

@@ -119,11 +119,11 @@ QString DuplicateFinderView::deleteButtonTitle() const {
 
 void DuplicateFinderView::appear() {
   runAutoScanWithAccess(_permissions, _coordinator, _desktop.clock,
-              {.key = toolKey(Section::duplicates),
-               .isNeeded = [this] { return !_isScanning && !_hasScanned; },
-               .start = [this] { startScan(); },
-               .isRunning = [this] { return _isScanning; }},
-              _lifetime.get_token());
+                        {.key = toolKey(Section::duplicates),
+                         .isNeeded = [this] { return !_isScanning && !_hasScanned; },
+                         .start = [this] { startScan(); },
+                         .isRunning = [this] { return _isScanning; }},
+                        _lifetime.get_token());
 }
 
 void DuplicateFinderView::finishRemovals() {

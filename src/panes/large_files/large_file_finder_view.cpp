@@ -127,11 +127,11 @@ QString LargeFileFinderView::footerHint() const {
 
 void LargeFileFinderView::appear() {
   runAutoScanWithAccess(_permissions, _coordinator, _desktop.clock,
-              {.key = toolKey(Section::largeFiles),
-               .isNeeded = [this] { return !_isScanning && !_hasScanned; },
-               .start = [this] { startScan(); },
-               .isRunning = [this] { return _isScanning; }},
-              _lifetime.get_token());
+                        {.key = toolKey(Section::largeFiles),
+                         .isNeeded = [this] { return !_isScanning && !_hasScanned; },
+                         .start = [this] { startScan(); },
+                         .isRunning = [this] { return _isScanning; }},
+                        _lifetime.get_token());
 }
 
 void LargeFileFinderView::finishRemovals() {
