@@ -16,9 +16,10 @@
 # To add one: write NAME_fuzz.cpp in the folder of the tests of what it feeds, and put a few small
 # inputs that are worth starting from into NAME_corpus.
 include(GoogleTest)
-# Left to the plain build: millions of spellings, which the guard's fuzz target does as well, and
-# tests without file handles, which the sanitizer itself needs.
+# Left to the plain build: millions of rows, millions of spellings, which the guard's fuzz target does
+# as well, and tests without file handles, which the sanitizer itself needs.
 set(unsanitized_tests
+  AMillionReviewedItems.* AMillionLargeFiles.* DuplicateRowsTest.OfAMillionCopies*
   DeletionGuardSpellings.* *HandlesRunOut* *HandlesThatRunOut* *ShellCannotBeStarted*)
 if(KLARVIK_SANITIZE STREQUAL "fuzzer")
   add_custom_target(fuzz_targets)

@@ -1,24 +1,30 @@
 #include "state/engine_work.h"
 
+#include <latch>
 #include <system_error>
 
 #include "platform/background_thread.h"
 
 namespace klarvik {
 
+struct EngineWork::Work {
+  std::function<void()> body;
+  // A thread may take a while to give its memory back, so the main thread never waits for that.
+  std::vector<std::jthread> toBeJoined;
+  std::latch done{1};
+};
+
 void EngineWork::start(std::function<void()> body, std::coroutine_handle<> waiter,
                        Priority priority) {
-  struct Work {
-    std::function<void()> body;
-    // A thread may take a while to give its memory back, so the main thread never waits for that.
-    std::vector<std::jthread> toBeJoined;
-  };
   const std::uint64_t number = _callsEverStarted++;
-  Call& call = _calls.emplace(number, Call{{}, waiter}).first->second;
-  const auto work = std::make_shared<Work>(Work{std::move(body), std::exchange(_ending, {})});
+  const auto work = std::make_shared<Work>();
+  work->body = std::move(body);
+  work->toBeJoined.swap(_ending);
+  Call& call = _calls.emplace(number, Call{{}, work, waiter}).first->second;
   const auto run = [this, number, work] {
     work->body();
     work->body = nullptr;
+    work->done.count_down();
     QMetaObject::invokeMethod(
         this, [this, number] { resume(number); }, Qt::QueuedConnection);
     work->toBeJoined.clear();
@@ -48,6 +54,7 @@ void EngineWork::resume(std::uint64_t number) {
   auto call = _calls.extract(number);
   // `finish` may have been quicker than the main loop.
   if (call.empty()) return;
+  call.mapped().work->done.wait();
   _ending.push_back(std::move(call.mapped().thread));
   call.mapped().waiter.resume();
 }

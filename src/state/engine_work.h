@@ -51,8 +51,10 @@ class EngineWork final : public QObject {
   void start(std::function<void()> body, std::coroutine_handle<> waiter, Priority priority);
 
  private:
+  struct Work;
   struct Call {
     std::jthread thread;
+    std::shared_ptr<Work> work;
     std::coroutine_handle<> waiter;
   };
 
