@@ -123,14 +123,18 @@ bool ScannerEngine::restoreItem(const Path& trashedURL, const Path& originalURL)
 }
 
 std::int64_t ScannerEngine::emptyTrash(std::stop_token stop, const DeletionSink& progress) {
+  // All are told apart before the first is measured, which may take long: what comes to a name
+  // meanwhile is not meant.
   std::vector<JunkItem> entries;
   for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
-    if (stop.stop_requested()) break;
-    const auto identity = entryIdentity(_platform.files, entry);
+    if (!_platform.files.attributes(entry)) continue;
     entries.push_back({.name = entry.filename().native(),
                        .path = entry,
-                       .size = allocatedSize(_platform.files, entry),
-                       .identity = identity});
+                       .identity = entryIdentity(_platform.files, entry)});
+  }
+  for (JunkItem& entry : entries) {
+    if (stop.stop_requested()) break;
+    entry.size = allocatedSize(_platform.files, entry.path);
   }
   std::int64_t reclaimed = 0;
   for (const DeletionOutcome& outcome :

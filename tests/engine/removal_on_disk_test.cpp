@@ -264,6 +264,26 @@ TEST_F(RemovalOnADisk, AnItemThatTakesTheNameOfOneThatWentWhileTheTrashIsEmptied
   EXPECT_EQ(disk.contentOf("/Users/ann/report/file"), "old");
 }
 
+TEST_F(RemovalOnADisk, ANameIsToldApartBeforeAnythingElseInTheTrashIsMeasured) {
+  bool isFirst = true;
+  Path swapped;
+  const auto swapOnce = [&](const Path& other) {
+    if (!std::exchange(isFirst, false)) return;
+    swapped = other;
+    std::filesystem::rename(disk.onDisk(other), disk.onDisk("/Users/ann/restored"));
+    disk.makeFile(other / "file", "new");
+  };
+  for (const auto& [entry, other] : {std::pair{"one", "two"}, std::pair{"two", "one"}}) {
+    disk.makeFile(trashed / entry / "file", "old");
+    files.before(FaultingFileSystem::Operation::walk, trashed / entry,
+                 [&, other = trashed / other] { swapOnce(other); });
+  }
+  EXPECT_GT(engine.emptyTrash(), 0);
+  EXPECT_EQ(disk.contentOf(swapped / "file"), "new");
+  EXPECT_EQ(disk.contentOf("/Users/ann/restored/file"), "old");
+  EXPECT_THAT(*world.trash.list(), testing::ElementsAre(swapped));
+}
+
 TEST_F(RemovalOnADisk, ATrashFolderThatBecameALinkLeadsToNothingThatIsRemovedOrRestored) {
   disk.makeFile(trashed / "x/inside", "waste");
   const JunkItem found = foundInTrash("x");
