@@ -167,18 +167,12 @@ TEST_F(UninstallerWindow, IsUsedFromTheKeyboardAlone) {
 
 TEST_F(UninstallerWindow, HomeEndAndThePageKeysMoveThroughTheApps) {
   ASSERT_TRUE(openPane());
-  window().resize(920, 640);
-  settle();
-  ASSERT_TRUE(tabTo("Acme Writer, "));
-  expectPageKeysToMoveThroughTheRows();
+  expectPageKeysToMoveThroughTheRowsFrom("Acme Writer, ");
 }
 
 TEST_F(UninstallerWindow, HomeEndAndThePageKeysMoveThroughTheLeftovers) {
   ASSERT_TRUE(openAcmeWriter());
-  window().resize(920, 640);
-  settle();
-  ASSERT_TRUE(tabTo("Preferences, "));
-  expectPageKeysToMoveThroughTheRows();
+  expectPageKeysToMoveThroughTheRowsFrom("Preferences, ");
 }
 
 TEST_F(UninstallerWindow, IsReadInItsTurnAtLaunch) {

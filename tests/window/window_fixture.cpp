@@ -182,7 +182,10 @@ int WindowFixture::focusedRow() const {
   return index.isValid() ? index.toInt() : -1;
 }
 
-void WindowFixture::expectPageKeysToMoveThroughTheRows() {
+void WindowFixture::expectPageKeysToMoveThroughTheRowsFrom(const QString& row) {
+  window().resize(920, 640);
+  settle();
+  ASSERT_TRUE(tabTo(row));
   ASSERT_GE(focusedRow(), 0);
   const int rowCount =
       window().activeFocusItem()->parentItem()->parentItem()->property("count").toInt();

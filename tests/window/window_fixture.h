@@ -55,8 +55,8 @@ class WindowFixture : public ::testing::Test {
   [[nodiscard]] QString focused() const;
   /// The row that has the focus, counted from the top of its list; -1 when none has it.
   [[nodiscard]] int focusedRow() const;
-  /// To be called with the focus in a list of more rows than two.
-  void expectPageKeysToMoveThroughTheRows();
+  /// In the list that the Tab key enters at the row of this name, and which has more rows than two.
+  void expectPageKeysToMoveThroughTheRowsFrom(const QString& row);
 
   /// Draws the window into build/screenshots.
   void picture(const QString& name);
