@@ -1,6 +1,7 @@
 """What `cmake --install` and the Debian package bring to a machine, and that the program is whole there.
 `KLARVIK_BUILD` names the folder that the programs were built in."""
 
+import configparser
 import gzip
 import os
 import pathlib
@@ -148,6 +149,48 @@ class Package(PackageTest):
         place = self.fresh_folder()
         self.assert_succeeds("dpkg-deb", "--control", self.package, place)
         self.assertEqual(files_in(place), {"control", "md5sums"})
+
+    def test_installed_started_from_the_menu_and_removed_it_leaves_only_the_folder_of_its_preferences(self):
+        machine = self.fresh_folder()
+        self.dpkg(machine, "--install", self.package)
+        self.assertLessEqual(FILES, files_in(machine))
+
+        disk = self.fresh_folder()
+        home = SampleHome(disk, BUILD)
+        before = files_in(home.path)
+        start = disk / "start"
+        start.mkdir()
+        self.write_start_from_the_menu(start / "klarvik", machine)
+        with VirtualDesktop(home.path) as desktop, Klarvik(desktop, home, start) as klarvik:
+            klarvik.wait_for_window()
+            klarvik.wait_for_scan()
+            self.assertEqual(klarvik.said(), "")
+        self.dpkg(machine, "--purge", "klarvik")
+
+        of_dpkg = {name for name in files_in(machine) if name.startswith("var/lib/dpkg/")}
+        self.assertEqual(files_in(machine), of_dpkg)
+        left = {name for name in files_in(home.path) - before if not name.startswith(".config/klarvik/")}
+        self.assertEqual(left, set())
+        self.assertFalse((home.path / ".cache/Klarvik").exists())
+        self.assertIn("scan_history", home.preferences())
+
+    def dpkg(self, machine, *command):
+        """On a machine of its own, whose other packages are those of this one."""
+        for folder in ("info", "updates"):
+            (machine / "var/lib/dpkg" / folder).mkdir(parents=True, exist_ok=True)
+        (machine / "var/lib/dpkg/status").touch()
+        self.assert_succeeds(
+            *("unshare", "--map-root-user", "dpkg", "--root", machine),
+            *("--force-depends", "--log", machine / "var/lib/dpkg/log", *command),
+        )
+
+    def write_start_from_the_menu(self, script, machine):
+        entry = configparser.ConfigParser(interpolation=None)
+        entry.read(machine / "usr/share/applications/klarvik.desktop", encoding="utf-8")
+        command = entry["Desktop Entry"]["Exec"]
+        binaries = shlex.quote(str(machine / "usr/bin"))
+        script.write_text(f"#!/bin/sh\nPATH={binaries}:$PATH exec {command}\n", encoding="utf-8")
+        script.chmod(0o755)
 
     def test_its_changelog_opens_with_its_version(self):
         place = self.fresh_folder()

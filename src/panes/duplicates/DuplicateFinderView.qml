@@ -11,6 +11,8 @@ ToolPane {
 
     required property DuplicateFinderModel model
 
+    readonly property placeholder instead: model.placeholder
+
     title: model.title
     subtitle: model.subtitle
     actionTitle: model.actionTitle
@@ -30,23 +32,23 @@ ToolPane {
     }
 
     DuplicateTable {
-        visible: root.model.body === DuplicateFinderModel.Rows
+        visible: !root.instead.isShown
         pane: root.model
     }
 
     LoadingPane {
-        visible: root.model.body === DuplicateFinderModel.Hashing
-        title: root.model.placeholderTitle
-        detail: root.model.placeholderDetail
+        visible: root.instead.isShown && root.instead.isBusy
+        title: root.instead.title
+        detail: root.instead.detail
         style: LoadingStyle.Reading
     }
 
     ToolPlaceholder {
-        visible: root.model.body === DuplicateFinderModel.Placeholder
-        icon: root.model.placeholderIcon
-        title: root.model.placeholderTitle
-        detail: root.model.placeholderDetail
-        actionTitle: root.model.placeholderAction
+        visible: root.instead.isShown && !root.instead.isBusy
+        icon: root.instead.icon
+        title: root.instead.title
+        detail: root.instead.detail
+        actionTitle: root.instead.actionTitle
         onAction: root.model.chooseFolders()
     }
 

@@ -79,12 +79,8 @@ QString DuplicateFinderView::actionTitle() const {
   return QStringLiteral("Rescan");
 }
 
-DuplicateFinderView::Body DuplicateFinderView::body() const {
-  if (!groups().empty()) return Body::Rows;
-  return _isScanning ? Body::Hashing : Body::Placeholder;
-}
-
-duplicates::Placeholder DuplicateFinderView::placeholder() const {
+Placeholder DuplicateFinderView::placeholder() const {
+  if (!groups().empty()) return {};
   if (_isScanning) return duplicates::hashing();
   return _hasScanned ? duplicates::nothingFound() : duplicates::notScanned(_scanDirs);
 }
@@ -199,15 +195,15 @@ void DuplicateFinderView::setScanning(bool isScanning, bool hasScanned) {
   if (!changeTo(_hasScanned, hasScanned) && !isOther) return;
   if (isOther) emit isScanningChanged();
   emit subtitleChanged();
-  emit bodyChanged();
+  emit placeholderChanged();
 }
 
 void DuplicateFinderView::setGroups(ChosenGroups groups) {
-  const Body before = body();
+  const Placeholder before = placeholder();
   _rows.removeAll();
   _work.discard(_choice.replace(std::move(groups)));
   _rows.insertAll();
-  if (body() != before) emit bodyChanged();
+  if (placeholder() != before) emit placeholderChanged();
   emit totalsChanged();
 }
 
@@ -226,7 +222,7 @@ void DuplicateFinderView::addFolders(const std::vector<Path>& folders) {
     if (!isListed) _scanDirs.push_back(folder);
   }
   emit scanDirsChanged();
-  emit bodyChanged();
+  emit placeholderChanged();
   if (!_isScanning && !isDeleting()) askAndScan();
 }
 
@@ -236,7 +232,7 @@ void DuplicateFinderView::removeFolder(int index) {
   }
   _scanDirs.erase(_scanDirs.begin() + index);
   emit scanDirsChanged();
-  emit bodyChanged();
+  emit placeholderChanged();
 }
 
 void DuplicateFinderView::chooseKeepRule(int index) {
@@ -305,12 +301,12 @@ QCoro::Task<> DuplicateFinderView::moveSelectedToTrash() {
 void DuplicateFinderView::forget(const std::set<Path>& trashed) {
   DuplicateChoice::Paths gone;
   for (const Path& url : trashed) gone.insert(url.native());
-  const Body before = body();
+  const Placeholder before = placeholder();
   const DuplicateChoice::GroupSet dissolved = _choice.dissolvedBy(gone);
   _rows.removeFiles(gone, dissolved);
   _work.discard(_choice.remove(gone, dissolved));
   _rows.allChanged();
-  if (body() != before) emit bodyChanged();
+  if (placeholder() != before) emit placeholderChanged();
   emit subtitleChanged();
   emit totalsChanged();
 }

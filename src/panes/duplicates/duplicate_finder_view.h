@@ -42,11 +42,7 @@ class DuplicateFinderView : public QObject {
   Q_PROPERTY(QString actionTitle READ actionTitle CONSTANT)
   Q_PROPERTY(bool canScan READ canScan NOTIFY deletionChanged)
   Q_PROPERTY(bool isScanning READ isScanning NOTIFY isScanningChanged)
-  Q_PROPERTY(Body body READ body NOTIFY bodyChanged)
-  Q_PROPERTY(QString placeholderIcon READ placeholderIcon NOTIFY bodyChanged)
-  Q_PROPERTY(QString placeholderTitle READ placeholderTitle NOTIFY bodyChanged)
-  Q_PROPERTY(QString placeholderDetail READ placeholderDetail NOTIFY bodyChanged)
-  Q_PROPERTY(QString placeholderAction READ placeholderAction NOTIFY bodyChanged)
+  Q_PROPERTY(klarvik::Placeholder placeholder READ placeholder NOTIFY placeholderChanged)
   Q_PROPERTY(QList<QString> folderNames READ folderNames NOTIFY scanDirsChanged)
   Q_PROPERTY(QList<QString> folderHelps READ folderHelps NOTIFY scanDirsChanged)
   Q_PROPERTY(QList<QString> keepRules READ keepRules CONSTANT)
@@ -62,8 +58,6 @@ class DuplicateFinderView : public QObject {
 
  public:
   using KeepRule = DuplicateSelection::KeepRule;
-  enum class Body { Rows, Hashing, Placeholder };
-  Q_ENUM(Body)
 
   /// The observable objects that the pane uses.
   struct Sources {
@@ -107,11 +101,8 @@ class DuplicateFinderView : public QObject {
   [[nodiscard]] QString subtitle() const;
   [[nodiscard]] QString actionTitle() const;
   [[nodiscard]] bool canScan() const { return !isDeleting(); }
-  [[nodiscard]] Body body() const;
-  [[nodiscard]] QString placeholderIcon() const { return placeholder().icon; }
-  [[nodiscard]] QString placeholderTitle() const { return placeholder().title; }
-  [[nodiscard]] QString placeholderDetail() const { return placeholder().detail; }
-  [[nodiscard]] QString placeholderAction() const { return placeholder().actionTitle; }
+  /// Not shown while there are rows.
+  [[nodiscard]] Placeholder placeholder() const;
   [[nodiscard]] QStringList folderNames() const { return duplicates::folderNames(_scanDirs); }
   [[nodiscard]] QStringList folderHelps() const;
   [[nodiscard]] QStringList keepRules() const;
@@ -149,7 +140,7 @@ class DuplicateFinderView : public QObject {
   void totalsChanged();
   void subtitleChanged();
   void isScanningChanged();
-  void bodyChanged();
+  void placeholderChanged();
   void scanDirsChanged();
   void keepRuleChanged();
   void deletionChanged();
@@ -169,7 +160,6 @@ class DuplicateFinderView : public QObject {
   void forget(const std::set<Path>& trashed);
   void writeTotal();
   [[nodiscard]] bool holds(int row) const { return row >= 0 && row < _rows.rowCount(); }
-  [[nodiscard]] duplicates::Placeholder placeholder() const;
 
   ScanCoordinator& _coordinator;
   ToolActivity& _activity;

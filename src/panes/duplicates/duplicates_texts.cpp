@@ -57,27 +57,24 @@ QStringList folderHelps(const std::vector<Path>& folders, const Path& home) {
 }
 
 Placeholder hashing() {
-  return {.icon = {},
-          .title = QStringLiteral("Hashing files"),
-          .detail = QStringLiteral("Klarvik compares contents, so identical files are found even "
-                                   "when they were renamed."),
-          .actionTitle = {}};
+  return Placeholder::busy(
+      QStringLiteral("Hashing files"),
+      QStringLiteral("Klarvik compares contents, so identical files are found even "
+                     "when they were renamed."));
 }
 
 Placeholder notScanned(const std::vector<Path>& folders) {
-  return {.icon = QStringLiteral("doc.on.doc"),
-          .title = QStringLiteral("Choose where to look"),
-          .detail = QStringLiteral("Klarvik compares contents, not names, so it only reads the "
-                                   "folders you name: ") +
-                    folderList(folders) + QStringLiteral(". Nothing outside them is touched."),
-          .actionTitle = QStringLiteral("Add a folder…")};
+  return Placeholder::idle(
+      QStringLiteral("doc.on.doc"), QStringLiteral("Choose where to look"),
+      QStringLiteral("Klarvik compares contents, not names, so it only reads the "
+                     "folders you name: ") +
+          folderList(folders) + QStringLiteral(". Nothing outside them is touched."),
+      QStringLiteral("Add a folder…"));
 }
 
 Placeholder nothingFound() {
-  return {.icon = QStringLiteral("checkmark.circle"),
-          .title = QStringLiteral("No duplicates"),
-          .detail = QStringLiteral("Nothing in those folders is byte-for-byte identical."),
-          .actionTitle = {}};
+  return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("No duplicates"),
+                           QStringLiteral("Nothing in those folders is byte-for-byte identical."));
 }
 
 QString minSizeText(double megabytes) {

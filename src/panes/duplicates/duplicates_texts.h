@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "panes/duplicates/duplicate_choice.h"
+#include "panes/kit/placeholder.h"
 #include "platform/formatting.h"
 
 /// Every text of the Duplicates pane that follows a rule.
@@ -28,14 +29,6 @@ namespace klarvik::duplicates {
 [[nodiscard]] QStringList folderHelps(const std::vector<Path>& folders, const Path& home);
 
 /// What stands in the place of the rows.
-struct Placeholder {
-  QString icon;  ///< none where a loader stands above the words
-  QString title;
-  QString detail;
-  QString actionTitle;
-
-  bool operator==(const Placeholder&) const = default;
-};
 [[nodiscard]] Placeholder hashing();
 [[nodiscard]] Placeholder notScanned(const std::vector<Path>& folders);
 [[nodiscard]] Placeholder nothingFound();

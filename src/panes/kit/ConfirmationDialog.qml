@@ -26,22 +26,26 @@ Sheet {
     KitText {
         objectName: "dialogTitle"
         width: parent.width
-        text: root.title
+        text: Kit.withSizesUnbroken(root.title)
         size: 15
         weight: Font.DemiBold
         wrapMode: Text.Wrap
         maximumLineCount: 3
+        Accessible.role: Accessible.StaticText
+        Accessible.name: root.title
     }
 
     KitText {
         objectName: "dialogMessage"
         width: parent.width
-        text: root.message
+        text: Kit.withSizesUnbroken(root.message)
         size: 12
         color: Theme.textSecondary
         wrapMode: Text.Wrap
         maximumLineCount: 20
         lineHeight: 1.15
+        Accessible.role: Accessible.StaticText
+        Accessible.name: root.message
     }
 
     Row {

@@ -67,12 +67,14 @@ Item {
 
             KitText {
                 Layout.fillWidth: true
-                text: root.detail
+                text: Kit.withSizesUnbroken(root.detail)
                 color: Theme.textSecondary
                 size: 12
                 elide: Text.ElideNone
                 maximumLineCount: 3
                 wrapMode: Text.WordWrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: root.detail
             }
         }
     }

@@ -53,12 +53,14 @@ Rectangle {
 
                 KitText {
                     objectName: "paneSubtitle"
-                    text: root.subtitle
+                    text: Kit.withSizesUnbroken(root.subtitle)
                     size: 12
                     color: Theme.textSecondary
                     wrapMode: Text.WordWrap
                     maximumLineCount: 2
                     Layout.fillWidth: true
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: root.subtitle
                 }
             }
 

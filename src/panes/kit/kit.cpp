@@ -49,6 +49,10 @@ Kit* Kit::create(QQmlEngine* engine, QJSEngine* /*scripts*/) {
   return kit;
 }
 
+QString Kit::withSizesUnbroken(const QString& text) const {
+  return klarvik::withSizesUnbroken(text);
+}
+
 QString Kit::byteText(double bytes) const {
   return QString::fromStdString(_services.formatting.byteText(wholeBytes(bytes)));
 }

@@ -50,6 +50,7 @@ class Kit : public QObject {
 
   /// A size in text; held to what 64 bits take.
   Q_INVOKABLE [[nodiscard]] QString byteText(double bytes) const;
+  Q_INVOKABLE [[nodiscard]] QString withSizesUnbroken(const QString& text) const;
   Q_INVOKABLE [[nodiscard]] bool hasPath(const QUrl& url) const { return !url.isEmpty(); }
   Q_INVOKABLE [[nodiscard]] QString folderLine(const QUrl& item) const;
   Q_INVOKABLE void reveal(const QUrl& item);

@@ -15,15 +15,16 @@ struct Placeholder {
   Q_PROPERTY(QString icon MEMBER icon)
   Q_PROPERTY(QString title MEMBER title)
   Q_PROPERTY(QString detail MEMBER detail)
+  Q_PROPERTY(QString actionTitle MEMBER actionTitle)
 
  public:
   /// With a loader on top.
   [[nodiscard]] static Placeholder busy(const QString& title, const QString& detail) {
-    return {true, true, {}, title, detail};
+    return {true, true, {}, title, detail, {}};
   }
   [[nodiscard]] static Placeholder idle(const QString& icon, const QString& title,
-                                        const QString& detail) {
-    return {true, false, icon, title, detail};
+                                        const QString& detail, const QString& actionTitle = {}) {
+    return {true, false, icon, title, detail, actionTitle};
   }
 
   bool isShown = false;
@@ -31,6 +32,7 @@ struct Placeholder {
   QString icon;
   QString title;
   QString detail;
+  QString actionTitle;  ///< empty where there is no button
 
   bool operator==(const Placeholder&) const = default;
 };

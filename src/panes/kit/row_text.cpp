@@ -1,5 +1,6 @@
 #include "panes/kit/row_text.h"
 
+#include <QRegularExpression>
 #include <QStringList>
 
 namespace klarvik {
@@ -10,6 +11,11 @@ QString printableText(std::string_view bytes) {
 
 QString byteText(std::int64_t bytes, const Formatting& formatting) {
   return QString::fromStdString(formatting.byteText(bytes));
+}
+
+QString withSizesUnbroken(QString text) {
+  static const QRegularExpression gap(QStringLiteral("(?<=\\d) (?=(bytes?|[KMGTPE]B)\\b)"));
+  return text.replace(gap, QString(QChar::Nbsp));
 }
 
 QString verdictText(SafetyLevel level) {

@@ -12,6 +12,8 @@ namespace klarvik {
 /// the line or reverse it, becomes U+FFFD.
 [[nodiscard]] QString printableText(std::string_view bytes);
 [[nodiscard]] QString byteText(std::int64_t bytes, const Formatting& formatting);
+/// For text over several lines: no line ends between a size's number and its unit.
+[[nodiscard]] QString withSizesUnbroken(QString text);
 /// "Safe" or "Review".
 [[nodiscard]] QString verdictText(SafetyLevel level);
 /// What a screen reader says of a row: "App Caches, 1.2 GB, Safe".

@@ -11,6 +11,8 @@ ToolPane {
 
     required property LargeFileFinderModel model
 
+    readonly property placeholder instead: model.placeholder
+
     title: model.title
     subtitle: model.subtitle
     actionTitle: model.actionTitle
@@ -65,22 +67,22 @@ ToolPane {
     }
 
     LargeFileTable {
-        visible: root.model.body === LargeFileFinderModel.Rows
+        visible: !root.instead.isShown
         pane: root.model
     }
 
     LoadingPane {
-        visible: root.model.body === LargeFileFinderModel.Measuring
-        title: root.model.placeholderTitle
-        detail: root.model.placeholderDetail
+        visible: root.instead.isShown && root.instead.isBusy
+        title: root.instead.title
+        detail: root.instead.detail
         style: LoadingStyle.Reading
     }
 
     ToolPlaceholder {
-        visible: root.model.body === LargeFileFinderModel.Placeholder
-        icon: root.model.placeholderIcon
-        title: root.model.placeholderTitle
-        detail: root.model.placeholderDetail
+        visible: root.instead.isShown && !root.instead.isBusy
+        icon: root.instead.icon
+        title: root.instead.title
+        detail: root.instead.detail
     }
 
     footer: ToolFooter {

@@ -45,7 +45,7 @@ LargeFileFinderView::LargeFileFinderView(const Sources& sources, const Desktop& 
       _rows(_selected, desktop),
       _removal(desktop) {
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
-          &LargeFileFinderView::bodyChanged);
+          &LargeFileFinderView::placeholderChanged);
   connect(&_removal, &PickedFilesRemoval::changed, this, &LargeFileFinderView::deletionChanged);
 }
 
@@ -78,12 +78,8 @@ QString LargeFileFinderView::actionTitle() const {
   return QStringLiteral("Rescan");
 }
 
-LargeFileFinderView::Body LargeFileFinderView::body() const {
-  if (!_files->empty()) return Body::Rows;
-  return _isScanning ? Body::Measuring : Body::Placeholder;
-}
-
-large_files::Placeholder LargeFileFinderView::placeholder() const {
+Placeholder LargeFileFinderView::placeholder() const {
+  if (!_files->empty()) return {};
   if (_isScanning) return large_files::measuring();
   return _hasScanned ? large_files::nothingFound(_thresholdMB)
                      : large_files::notScanned(_permissions.hasFullDiskAccess());
@@ -202,7 +198,7 @@ void LargeFileFinderView::setScanning(bool isScanning, bool hasScanned) {
   if (!changeTo(_hasScanned, hasScanned) && !isOther) return;
   emit isScanningChanged();
   emit subtitleChanged();
-  emit bodyChanged();
+  emit placeholderChanged();
 }
 
 void LargeFileFinderView::setFiles(LargeFileList files) {
@@ -210,9 +206,9 @@ void LargeFileFinderView::setFiles(LargeFileList files) {
     return !_trashed.empty() && _trashed.contains(file->url.native());
   });
   if (files == *_files) return;
-  const Body before = body();
+  const Placeholder before = placeholder();
   _files = std::make_shared<const LargeFileList>(std::move(files));
-  if (body() != before) emit bodyChanged();
+  if (placeholder() != before) emit placeholderChanged();
   if (!_isScanning) emit subtitleChanged();
   if (!_minute) keepDatesFresh();
   arrangeRows();
@@ -260,7 +256,7 @@ void LargeFileFinderView::chooseThreshold(int index) {
   if (changeTo(_thresholdMB, thresholdSteps.at(static_cast<std::size_t>(index)))) {
     emit thresholdChanged();
     emit subtitleChanged();
-    emit bodyChanged();
+    emit placeholderChanged();
   }
 }
 

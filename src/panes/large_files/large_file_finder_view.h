@@ -39,10 +39,7 @@ class LargeFileFinderView : public QObject {
   Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged)
   Q_PROPERTY(QString actionTitle READ actionTitle CONSTANT)
   Q_PROPERTY(bool isScanning READ isScanning NOTIFY isScanningChanged)
-  Q_PROPERTY(Body body READ body NOTIFY bodyChanged)
-  Q_PROPERTY(QString placeholderIcon READ placeholderIcon NOTIFY bodyChanged)
-  Q_PROPERTY(QString placeholderTitle READ placeholderTitle NOTIFY bodyChanged)
-  Q_PROPERTY(QString placeholderDetail READ placeholderDetail NOTIFY bodyChanged)
+  Q_PROPERTY(klarvik::Placeholder placeholder READ placeholder NOTIFY placeholderChanged)
   Q_PROPERTY(QList<QString> thresholds READ thresholds CONSTANT)
   Q_PROPERTY(int thresholdIndex READ thresholdIndex NOTIFY thresholdChanged)
   Q_PROPERTY(QList<QString> sorts READ sorts CONSTANT)
@@ -60,8 +57,6 @@ class LargeFileFinderView : public QObject {
 
  public:
   using Sort = LargeFileSort;
-  enum class Body { Rows, Measuring, Placeholder };
-  Q_ENUM(Body)
 
   /// The observable objects that the pane uses.
   struct Sources {
@@ -93,10 +88,8 @@ class LargeFileFinderView : public QObject {
   [[nodiscard]] QString title() const;
   [[nodiscard]] QString subtitle() const;
   [[nodiscard]] QString actionTitle() const;
-  [[nodiscard]] Body body() const;
-  [[nodiscard]] QString placeholderIcon() const { return placeholder().icon; }
-  [[nodiscard]] QString placeholderTitle() const { return placeholder().title; }
-  [[nodiscard]] QString placeholderDetail() const { return placeholder().detail; }
+  /// Not shown while there are rows.
+  [[nodiscard]] Placeholder placeholder() const;
   [[nodiscard]] QStringList thresholds() const;
   [[nodiscard]] int thresholdIndex() const;
   [[nodiscard]] QStringList sorts() const;
@@ -132,7 +125,7 @@ class LargeFileFinderView : public QObject {
  signals:
   void subtitleChanged();
   void isScanningChanged();
-  void bodyChanged();
+  void placeholderChanged();
   void thresholdChanged();
   void sortChanged();
   void kindsChanged();
@@ -161,7 +154,6 @@ class LargeFileFinderView : public QObject {
   void forget(const std::set<Path>& trashed);
   void clearSelection();
   void writeTotal();
-  [[nodiscard]] large_files::Placeholder placeholder() const;
 
   ScanCoordinator& _coordinator;
   ToolActivity& _activity;

@@ -27,26 +27,25 @@ QString unscannedSubtitle() {
 }
 
 Placeholder measuring() {
-  return {.icon = {},
-          .title = QStringLiteral("Measuring"),
-          .detail = QStringLiteral("Walking Documents, Downloads, Desktop, Movies and Music. "
-                                   "Photo and music libraries are skipped.")};
+  return Placeholder::busy(
+      QStringLiteral("Measuring"),
+      QStringLiteral("Walking Documents, Downloads, Desktop, Movies and Music. "
+                     "Photo and music libraries are skipped."));
 }
 
 Placeholder notScanned(bool hasFullDiskAccess) {
-  return {.icon = QStringLiteral("doc.text.magnifyingglass"),
-          .title = QStringLiteral("No scan yet"),
-          .detail = hasFullDiskAccess
-                        ? QStringLiteral("Rescan to list the biggest files in your home folder.")
+  return Placeholder::idle(
+      QStringLiteral("doc.text.magnifyingglass"), QStringLiteral("No scan yet"),
+      hasFullDiskAccess ? QStringLiteral("Rescan to list the biggest files in your home folder.")
                         : QStringLiteral("Reading Documents, Desktop and Downloads needs Full Disk "
                                          "Access, so this one waits until you ask. Rescan and "
-                                         "Klarvik will explain what macOS is about to request.")};
+                                         "Klarvik will explain what macOS is about to request."));
 }
 
 Placeholder nothingFound(double thresholdMB) {
-  return {.icon = QStringLiteral("checkmark.circle"),
-          .title = QStringLiteral("Nothing that big"),
-          .detail = QStringLiteral("No files over %1 MB matched.").arg(wholeNumber(thresholdMB))};
+  return Placeholder::idle(
+      QStringLiteral("checkmark.circle"), QStringLiteral("Nothing that big"),
+      QStringLiteral("No files over %1 MB matched.").arg(wholeNumber(thresholdMB)));
 }
 
 QString thresholdText(double thresholdMB) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "panes/kit/placeholder.h"
 #include "platform/formatting.h"
 #include "tools/large_file.h"
 
@@ -16,13 +17,6 @@ namespace klarvik::large_files {
 [[nodiscard]] QString unscannedSubtitle();
 
 /// What stands in the place of the rows.
-struct Placeholder {
-  QString icon;  ///< none where a loader stands above the words
-  QString title;
-  QString detail;
-
-  bool operator==(const Placeholder&) const = default;
-};
 [[nodiscard]] Placeholder measuring();
 [[nodiscard]] Placeholder notScanned(bool hasFullDiskAccess);
 [[nodiscard]] Placeholder nothingFound(double thresholdMB);

@@ -18,7 +18,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using ::testing::UnorderedElementsAre;
-using Body = DuplicateFinderView::Body;
 
 class DuplicateFinderViewTest : public DuplicatesFixture {
  protected:
@@ -50,13 +49,13 @@ TEST_F(DuplicateFinderViewTest, StartsWithThreeFoldersOfTheHomeAndNothingFound) 
   EXPECT_EQ(pane->title(), "Duplicates");
   EXPECT_EQ(pane->subtitle(),
             "Compares file contents with SHA-256, not names. One copy of each is always kept.");
-  EXPECT_EQ(pane->body(), Body::Placeholder);
-  EXPECT_EQ(pane->placeholderIcon(), "doc.on.doc");
-  EXPECT_EQ(pane->placeholderTitle(), "Choose where to look");
-  EXPECT_EQ(pane->placeholderDetail(),
+  EXPECT_FALSE(pane->placeholder().isBusy);
+  EXPECT_EQ(pane->placeholder().icon, "doc.on.doc");
+  EXPECT_EQ(pane->placeholder().title, "Choose where to look");
+  EXPECT_EQ(pane->placeholder().detail,
             "Klarvik compares contents, not names, so it only reads the folders you name: "
             "Documents, Downloads and Desktop. Nothing outside them is touched.");
-  EXPECT_EQ(pane->placeholderAction(), "Add a folder…");
+  EXPECT_EQ(pane->placeholder().actionTitle, "Add a folder…");
   EXPECT_EQ(pane->keepRules(), (QStringList{"Newest copy", "Oldest copy", "Shallowest path"}));
   EXPECT_EQ(pane->keepRuleIndex(), 0);
   EXPECT_EQ(pane->minSizeText(), "Min size 1 MB");
@@ -70,7 +69,7 @@ TEST_F(DuplicateFinderViewTest, ListsGroupsWithTheLargestOpenAndAllButTheNewestS
   add("Desktop/small.pdf", 2);
   add("Documents/alone.pdf", 3);
   ASSERT_TRUE(scan());
-  EXPECT_EQ(pane->body(), Body::Rows);
+  EXPECT_FALSE(pane->placeholder().isShown);
   EXPECT_EQ(shown(), (QStringList{"big.zip", "  big.zip", "  big copy.zip", "small.pdf"}));
   EXPECT_THAT(pane->expanded(), UnorderedElementsAre(pane->groups()[0]->group.id));
   EXPECT_EQ(fateOf(big), "keep");
@@ -106,11 +105,11 @@ TEST_F(DuplicateFinderViewTest, AFinishedScanTellsTheSidebarAndTheTotals) {
 TEST_F(DuplicateFinderViewTest, AScanThatFindsNothingSaysSo) {
   add("Documents/a", 2);
   ASSERT_TRUE(scan());
-  EXPECT_EQ(pane->body(), Body::Placeholder);
-  EXPECT_EQ(pane->placeholderIcon(), "checkmark.circle");
-  EXPECT_EQ(pane->placeholderTitle(), "No duplicates");
-  EXPECT_EQ(pane->placeholderDetail(), "Nothing in those folders is byte-for-byte identical.");
-  EXPECT_EQ(pane->placeholderAction(), "");
+  EXPECT_FALSE(pane->placeholder().isBusy);
+  EXPECT_EQ(pane->placeholder().icon, "checkmark.circle");
+  EXPECT_EQ(pane->placeholder().title, "No duplicates");
+  EXPECT_EQ(pane->placeholder().detail, "Nothing in those folders is byte-for-byte identical.");
+  EXPECT_EQ(pane->placeholder().actionTitle, "");
   EXPECT_EQ(pane->subtitle(), "0 groups · 0 extra copies · one copy of each is always kept");
 }
 
@@ -120,8 +119,8 @@ TEST_F(DuplicateFinderViewTest, AScanShowsWhatItIsAt) {
   pane->performAction();
   ASSERT_TRUE(turnUntil([this] { return isHeld() && pane->progress() > 0.1; }));
   EXPECT_TRUE(pane->isScanning());
-  EXPECT_EQ(pane->body(), Body::Hashing);
-  EXPECT_EQ(pane->placeholderTitle(), "Hashing files");
+  EXPECT_TRUE(pane->placeholder().isBusy);
+  EXPECT_EQ(pane->placeholder().title, "Hashing files");
   EXPECT_TRUE(pane->subtitle().startsWith("0 groups so far · ")) << pane->subtitle().toStdString();
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Progress{pane->progress()}));
 }
@@ -135,7 +134,7 @@ TEST_F(DuplicateFinderViewTest, ACancelledScanRunsOnUnseenAndItsResultIsDropped)
   EXPECT_FALSE(pane->isScanning());
   EXPECT_TRUE(pane->hasScanned());
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Idle{}));
-  EXPECT_EQ(pane->placeholderTitle(), "No duplicates");
+  EXPECT_EQ(pane->placeholder().title, "No duplicates");
 
   ASSERT_TRUE(letGo());
   EXPECT_THAT(pane->groups(), IsEmpty());
@@ -302,7 +301,7 @@ TEST_F(DuplicateFinderViewTest, DeletesAllButOneCopyOfEachGroup) {
   EXPECT_EQ(trashCount(), 2U);
   EXPECT_THAT(pane->groups(), IsEmpty());
   EXPECT_EQ(pane->rows()->rowCount(), 0);
-  EXPECT_EQ(pane->placeholderTitle(), "No duplicates");
+  EXPECT_EQ(pane->placeholder().title, "No duplicates");
   EXPECT_EQ(told, 1);
 }
 

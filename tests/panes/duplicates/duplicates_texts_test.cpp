@@ -49,19 +49,18 @@ TEST(DuplicatesTexts, AChipSaysWhatAClickDoes) {
 
 TEST(DuplicatesTexts, APlaceholderForEachState) {
   EXPECT_EQ(duplicates::hashing(),
-            (duplicates::Placeholder{"", "Hashing files",
-                                     "Klarvik compares contents, so identical files are found even "
-                                     "when they were renamed.",
-                                     ""}));
+            Placeholder::busy("Hashing files",
+                              "Klarvik compares contents, so identical files are found even when "
+                              "they were renamed."));
   EXPECT_EQ(duplicates::notScanned({"/Users/ann/Documents", "/Users/ann/Desktop"}),
-            (duplicates::Placeholder{
+            Placeholder::idle(
                 "doc.on.doc", "Choose where to look",
                 "Klarvik compares contents, not names, so it only reads the folders you name: "
                 "Documents and Desktop. Nothing outside them is touched.",
-                "Add a folder…"}));
+                "Add a folder…"));
   EXPECT_EQ(duplicates::nothingFound(),
-            (duplicates::Placeholder{"checkmark.circle", "No duplicates",
-                                     "Nothing in those folders is byte-for-byte identical.", ""}));
+            Placeholder::idle("checkmark.circle", "No duplicates",
+                              "Nothing in those folders is byte-for-byte identical."));
 }
 
 TEST(DuplicatesTexts, TheFooterSumsUpWhatWouldGo) {

@@ -15,7 +15,6 @@ namespace {
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 using ::testing::UnorderedElementsAre;
-using Body = LargeFileFinderView::Body;
 
 class LargeFileFinderViewTest : public LargeFilesFixture {};
 
@@ -43,18 +42,18 @@ TEST_F(LargeFileFinderViewTest, OffersFiveThresholdsAndThreeOrders) {
 }
 
 TEST_F(LargeFileFinderViewTest, BeforeAScanThePlaceholderDependsOnThePermission) {
-  EXPECT_EQ(pane->body(), Body::Placeholder);
-  EXPECT_EQ(pane->placeholderIcon(), "doc.text.magnifyingglass");
-  EXPECT_EQ(pane->placeholderTitle(), "No scan yet");
-  EXPECT_EQ(pane->placeholderDetail(), "Rescan to list the biggest files in your home folder.");
+  EXPECT_FALSE(pane->placeholder().isBusy);
+  EXPECT_EQ(pane->placeholder().icon, "doc.text.magnifyingglass");
+  EXPECT_EQ(pane->placeholder().title, "No scan yet");
+  EXPECT_EQ(pane->placeholder().detail, "Rescan to list the biggest files in your home folder.");
 
-  QSignalSpy changed(pane.get(), &LargeFileFinderView::bodyChanged);
+  QSignalSpy changed(pane.get(), &LargeFileFinderView::placeholderChanged);
   denyFullDiskAccess();
   EXPECT_EQ(changed.count(), 1);
-  EXPECT_TRUE(pane->placeholderDetail().startsWith("Reading Documents, Desktop and Downloads"));
+  EXPECT_TRUE(pane->placeholder().detail.startsWith("Reading Documents, Desktop and Downloads"));
   grantFullDiskAccess();
   EXPECT_EQ(changed.count(), 2);
-  EXPECT_EQ(pane->placeholderDetail(), "Rescan to list the biggest files in your home folder.");
+  EXPECT_EQ(pane->placeholder().detail, "Rescan to list the biggest files in your home folder.");
 }
 
 TEST_F(LargeFileFinderViewTest, ListsWhatAScanFoundLargestFirstAndSelectsNothing) {
@@ -62,7 +61,7 @@ TEST_F(LargeFileFinderViewTest, ListsWhatAScanFoundLargestFirstAndSelectsNothing
   add("Documents/old.zip", 100);
   add("Documents/small.zip", 99);
   ASSERT_TRUE(scan());
-  EXPECT_EQ(pane->body(), Body::Rows);
+  EXPECT_FALSE(pane->placeholder().isShown);
   EXPECT_EQ(shownNames(), (QStringList{"film.mov", "old.zip"}));
   EXPECT_THAT(pane->selected(), IsEmpty());
   EXPECT_EQ(pane->subtitle(), "2 files over 100 MB in your home folder");
@@ -84,19 +83,19 @@ TEST_F(LargeFileFinderViewTest, AFinishedScanTellsTheSidebarAndTheTotals) {
 
 TEST_F(LargeFileFinderViewTest, AScanThatFindsNothingSaysSo) {
   ASSERT_TRUE(scan());
-  EXPECT_EQ(pane->body(), Body::Placeholder);
-  EXPECT_EQ(pane->placeholderIcon(), "checkmark.circle");
-  EXPECT_EQ(pane->placeholderTitle(), "Nothing that big");
-  EXPECT_EQ(pane->placeholderDetail(), "No files over 100 MB matched.");
+  EXPECT_FALSE(pane->placeholder().isBusy);
+  EXPECT_EQ(pane->placeholder().icon, "checkmark.circle");
+  EXPECT_EQ(pane->placeholder().title, "Nothing that big");
+  EXPECT_EQ(pane->placeholder().detail, "No files over 100 MB matched.");
   EXPECT_EQ(pane->subtitle(), "0 files over 100 MB in your home folder");
 }
 
 TEST_F(LargeFileFinderViewTest, AScanWithoutFindingsYetIsMeasuring) {
   ASSERT_TRUE(startScanAndHoldIt());
   EXPECT_TRUE(pane->isScanning());
-  EXPECT_EQ(pane->body(), Body::Measuring);
-  EXPECT_EQ(pane->placeholderTitle(), "Measuring");
-  EXPECT_EQ(pane->placeholderDetail(),
+  EXPECT_TRUE(pane->placeholder().isBusy);
+  EXPECT_EQ(pane->placeholder().title, "Measuring");
+  EXPECT_EQ(pane->placeholder().detail,
             "Walking Documents, Downloads, Desktop, Movies and Music. Photo and music libraries "
             "are skipped.");
 }
@@ -105,7 +104,7 @@ TEST_F(LargeFileFinderViewTest, TheListGrowsDuringTheScanAndTheSidebarShowsHowFa
   add("Movies/film.mov", 700);
   add("Pictures/z.psd", 200);
   ASSERT_TRUE(startScanAndHoldIt());
-  EXPECT_EQ(pane->body(), Body::Rows);
+  EXPECT_FALSE(pane->placeholder().isShown);
   EXPECT_TRUE(shows({"film.mov"}));
   EXPECT_TRUE(pane->subtitle().startsWith("Scanning your home folder · "));
   EXPECT_NE(pane->subtitle(), "Scanning your home folder · ");
@@ -204,7 +203,7 @@ TEST_F(LargeFileFinderViewTest, RaisingTheThresholdKeepsTheFilesListedUntilTheNe
 TEST_F(LargeFileFinderViewTest, TheEmptyPlaceholderShowsTheNewThresholdAtOnce) {
   ASSERT_TRUE(scan());
   pane->chooseThreshold(0);
-  EXPECT_EQ(pane->placeholderDetail(), "No files over 50 MB matched.");
+  EXPECT_EQ(pane->placeholder().detail, "No files over 50 MB matched.");
 }
 
 TEST_F(LargeFileFinderViewTest, AChipFiltersByItsKindAndClearsItWhenPressedAgain) {
@@ -236,7 +235,7 @@ TEST_F(LargeFileFinderViewTest, AFilterThatNoLongerMatchesShowsAnEmptyListAndNoP
   ASSERT_TRUE(turnUntil([this] { return !pane->isScanning(); }));
   EXPECT_TRUE(shows({}));
   EXPECT_THAT(pane->files(), SizeIs(1));
-  EXPECT_EQ(pane->body(), Body::Rows);
+  EXPECT_FALSE(pane->placeholder().isShown);
 }
 
 TEST_F(LargeFileFinderViewTest, FilesOutsideTheFilterStaySelected) {

@@ -34,19 +34,21 @@ TEST_F(LargeFilesTexts, BeforeAScanTheSubtitleSaysWhatThePaneIsFor) {
 }
 
 TEST_F(LargeFilesTexts, EveryPlaceholderHasItsWords) {
-  EXPECT_EQ(measuring(), (Placeholder{"", "Measuring",
-                                      "Walking Documents, Downloads, Desktop, Movies and Music. "
-                                      "Photo and music libraries are skipped."}));
+  EXPECT_EQ(measuring(),
+            Placeholder::busy("Measuring",
+                              "Walking Documents, Downloads, Desktop, Movies and Music. "
+                              "Photo and music libraries are skipped."));
   EXPECT_EQ(notScanned(true),
-            (Placeholder{"doc.text.magnifyingglass", "No scan yet",
-                         "Rescan to list the biggest files in your home folder."}));
-  EXPECT_EQ(notScanned(false),
-            (Placeholder{"doc.text.magnifyingglass", "No scan yet",
-                         "Reading Documents, Desktop and Downloads needs Full Disk Access, so this "
-                         "one waits until you ask. Rescan and Klarvik will explain what macOS is "
-                         "about to request."}));
-  EXPECT_EQ(nothingFound(250),
-            (Placeholder{"checkmark.circle", "Nothing that big", "No files over 250 MB matched."}));
+            Placeholder::idle("doc.text.magnifyingglass", "No scan yet",
+                              "Rescan to list the biggest files in your home folder."));
+  EXPECT_EQ(
+      notScanned(false),
+      Placeholder::idle(
+          "doc.text.magnifyingglass", "No scan yet",
+          "Reading Documents, Desktop and Downloads needs Full Disk Access, so this one waits "
+          "until you ask. Rescan and Klarvik will explain what macOS is about to request."));
+  EXPECT_EQ(nothingFound(250), Placeholder::idle("checkmark.circle", "Nothing that big",
+                                                 "No files over 250 MB matched."));
 }
 
 TEST_F(LargeFilesTexts, TheFooterCountsOneFileWithoutAPlural) {
