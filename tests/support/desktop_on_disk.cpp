@@ -27,6 +27,12 @@ void DesktopOnDisk::grantFullDiskAccess() const {
   disk.makeFile(protectedFile);
 }
 
+WalkOutcome DesktopOnDisk::GatedFiles::walk(const Path& folder, WalkOptions options,
+                                            const WalkVisitor& visit) const {
+  _owner.walkGate.pass();
+  return LinuxFileSystem::walk(folder, options, visit);
+}
+
 std::optional<Path> DesktopOnDisk::GatedTrash::moveToTrash(const Path& item,
                                                            const PlaceCheck& mayMove) {
   _owner.trashGate.pass();

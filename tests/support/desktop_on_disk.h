@@ -13,8 +13,8 @@
 namespace klarvik {
 
 /// A whole desktop around a temporary disk: real files and a real Trash below `disk`, the home at
-/// "/Users/ann", and for the rest what a test can steer. A test can hold a removal up before each
-/// move to the Trash.
+/// "/Users/ann", and for the rest what a test can steer. A test can hold a scan up before each
+/// walk, and a removal before each move to the Trash.
 class DesktopOnDisk : public DesktopFakes {
  public:
   /// An empty home, or the sample disk where its options are given.
@@ -26,10 +26,25 @@ class DesktopOnDisk : public DesktopFakes {
 
   Gate commandGate;  ///< for `commands.holdAt`
   Gate trashGate;
+  Gate walkGate;
 
   TemporaryFolder disk;
   std::optional<SampleDisk> sample;
-  LinuxFileSystem files{disk.path(), "/Users/ann"};
+
+ private:
+  class GatedFiles final : public LinuxFileSystem {
+   public:
+    explicit GatedFiles(DesktopOnDisk& owner)
+        : LinuxFileSystem(owner.disk.path(), "/Users/ann"), _owner(owner) {}
+    WalkOutcome walk(const Path& folder, WalkOptions options,
+                     const WalkVisitor& visit) const override;
+
+   private:
+    DesktopOnDisk& _owner;
+  };
+
+ public:
+  GatedFiles files{*this};
   HandMovedClock clock;
 
  private:

@@ -183,6 +183,20 @@ TEST_F(DuplicatesWindowOverAnEmptyHome, IsUsedFromTheKeyboardAlone) {
   EXPECT_TRUE(homeHolds("Downloads/report copy.pdf"));
 }
 
+TEST_F(DuplicatesWindow, SaysThatFilesAreHashedUntilThereIsAGroup) {
+  openDuplicates();
+  desk->walkGate.close();
+  click("Rescan");
+  ASSERT_NE(waitFor("Hashing files"), nullptr);
+  settle();
+  EXPECT_FALSE(shows("Choose where to look"));
+  picture("duplicates-scanning");
+  desk->walkGate.open();
+  ASSERT_TRUE(turnUntil([this] { return shows("Rescan"); }));
+  EXPECT_FALSE(shows("Hashing files"));
+  EXPECT_FALSE(shows("No duplicates"));
+}
+
 TEST_F(DuplicatesWindowOverAnEmptyHome, IsClosedDuringADeletionWithoutLosingAFile) {
   addFile("Documents/report.pdf", 5);
   addFile("Downloads/report copy.pdf", 5);

@@ -134,6 +134,19 @@ TEST_F(LargeFilesWindow, IsUsedFromTheKeyboardAlone) {
   ASSERT_TRUE(turnUntil([this] { return !homeHolds("Movies/holiday.MOV"); }));
 }
 
+TEST_F(LargeFilesWindow, SaysThatFilesAreMeasuredUntilThereIsOne) {
+  openLargeFiles();
+  desk->walkGate.close();
+  clickButton("Rescan");
+  ASSERT_NE(waitFor("Measuring"), nullptr);
+  settle();
+  EXPECT_FALSE(shows("No scan yet"));
+  picture("large-files-scanning");
+  desk->walkGate.open();
+  ASSERT_TRUE(turnUntil([this] { return shows("holiday.MOV"); }));
+  EXPECT_FALSE(shows("Measuring"));
+}
+
 TEST_F(LargeFilesWindow, IsClosedDuringARemovalWithoutLosingAFile) {
   openLargeFiles();
   ASSERT_TRUE(rescan());

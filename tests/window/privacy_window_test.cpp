@@ -143,6 +143,19 @@ TEST_F(PrivacyWindow, ScansInItsTurnAtLaunch) {
   EXPECT_GT(shared->scanCoordinator().totals().at("privacy").items, 5);
 }
 
+TEST_F(PrivacyWindow, SaysThatItReadsTheTrails) {
+  ASSERT_TRUE(openPane());
+  desk->walkGate.close();
+  clickRescan();
+  ASSERT_NE(waitFor("Reading trails"), nullptr);
+  settle();
+  EXPECT_FALSE(shows("No scan yet"));
+  picture("privacy-scanning");
+  desk->walkGate.open();
+  EXPECT_NE(waitFor("Browser History, "), nullptr);
+  EXPECT_FALSE(shows("Reading trails"));
+}
+
 TEST_F(PrivacyWindow, ClosedDuringAClearingFinishesIt) {
   ASSERT_TRUE(openAndScan());
   settle();

@@ -32,6 +32,18 @@ class UninstallerWindow : public WindowFixture {
 };
 class UninstallerWindowOverAnEmptyHome : public EmptyHomeWindowFixture {};
 
+TEST_F(UninstallerWindow, SaysThatItReadsTheApplications) {
+  openWindow();
+  desk->walkGate.close();
+  click("Uninstaller");
+  ASSERT_NE(waitFor("Reading applications"), nullptr);
+  settle();
+  picture("uninstaller-scanning");
+  desk->walkGate.open();
+  EXPECT_NE(waitFor("Acme Writer, "), nullptr);
+  EXPECT_FALSE(shows("Reading applications"));
+}
+
 TEST_F(UninstallerWindow, ListsEveryApplicationTheLargestFirst) {
   ASSERT_TRUE(openPane());
   EXPECT_TRUE(shows(QString("%1 apps · dragging one to the Trash leaves its support files behind")

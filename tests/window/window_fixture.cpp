@@ -40,9 +40,8 @@ bool isOnScreen(const QQuickItem& item) {
 
 bool isCalled(const QQuickItem& item, const QString& name) {
   for (const char* property : {"title", "description", "text"}) {
-    if (item.property(property).toString().startsWith(name)) {
-      return true;
-    }
+    QString text = item.property(property).toString();
+    if (text.replace(QChar::Nbsp, QChar::Space).startsWith(name)) return true;
   }
   return false;
 }
@@ -89,6 +88,7 @@ void WindowFixture::openWindow() {
 void WindowFixture::closeWindow() {
   desk->commandGate.open();
   desk->trashGate.open();
+  desk->walkGate.open();
   lookAt(nullptr);
   app.reset();
 }

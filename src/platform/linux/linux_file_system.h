@@ -9,7 +9,7 @@ namespace klarvik {
 
 /// The files of this machine beneath one folder. Keeps nothing between calls; may be used from any
 /// thread. A path that is not absolute, or holds a zero byte, names nothing.
-class LinuxFileSystem final : public FileSystem {
+class LinuxFileSystem : public FileSystem {
  public:
   /// `root` is where the logical "/" lies on the machine, also counted from the working folder;
   /// `home` is a logical path. Below a relative root that is not there, nothing is.
