@@ -80,8 +80,16 @@ QQuickWindow* Windows::make(const QString& id, const QUrl& view, const QVariantM
   made.release();
   window->setObjectName(id);
   fit(*window, frame);
+  placeOverMainWindow(*window);
   _windows[id].reset(window);
   return window;
+}
+
+/// Left to themselves, some desktops put a second window where nobody looks.
+void Windows::placeOverMainWindow(QQuickWindow& window) const {
+  const QQuickWindow* const main = find(mainWindowId);
+  if (main == nullptr || !main->isVisible()) return;
+  window.setGeometry(placeAround(main->geometry().center(), window.size(), main->screen()));
 }
 
 QQuickWindow* Windows::find(const QString& id) const {

@@ -41,8 +41,9 @@ class Windows {
   /// What draws the windows, with every module of the program in it.
   [[nodiscard]] QQmlEngine& engine() { return _engine; }
 
-  /// Makes a window, with its identifier as its object name; it is not shown yet. Whatever stands
-  /// in `properties` must outlive it. Nothing when it cannot be drawn.
+  /// Makes a window, with its identifier as its object name; it is not shown yet, and lies over the
+  /// middle of the main window where that is on the screen. Whatever stands in `properties` must
+  /// outlive it. Nothing when it cannot be drawn.
   QQuickWindow* make(const QString& id, const QUrl& view, const QVariantMap& properties,
                      const WindowFrame& frame);
   /// Nothing when it has not been made, or is gone.
@@ -50,6 +51,8 @@ class Windows {
   void discard(const QString& id);
 
  private:
+  void placeOverMainWindow(QQuickWindow& window) const;
+
   QQmlEngine _engine;
   std::map<QString, std::unique_ptr<QQuickWindow>> _windows;
 };

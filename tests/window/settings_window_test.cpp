@@ -54,6 +54,15 @@ TEST_F(SettingsWindow, OpensFromTheSidebarAndHoldsEveryRow) {
   picture("settings_general");
 }
 
+TEST_F(SettingsWindow, OpensOverTheMiddleOfTheMainWindow) {
+  openWindow();
+  window().setGeometry(40, 60, 920, 640);
+  const QPoint middle = window().geometry().center();
+  press(Qt::Key_Comma, Qt::ControlModifier);
+  lookAtSettings();
+  EXPECT_LE((window().geometry().center() - middle).manhattanLength(), 2);
+}
+
 TEST_F(SettingsWindow, IsReadOutWhole) {
   openSettings();
   for (const char* text :
