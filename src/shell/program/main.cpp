@@ -37,6 +37,8 @@ int endAfter(klarvik::SingleInstance::Claim claim) {
 
 int main(int argumentCount, char** arguments) {
   klarvik::putFreedMemoryTogetherAtOnce();
+  // The drivers keep what they have compiled; a cache of Qt's beside it would outlive the program.
+  QApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
   const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
   QApplication application(argumentCount, arguments);
   qInstallMessageHandler(usual);
