@@ -38,9 +38,6 @@ T.Popup {
         keyNavigationWraps: true
         boundsBehavior: Flickable.StopAtBounds
         Accessible.role: Accessible.PopupMenu
-        Keys.onReturnPressed: root.take(list.currentIndex)
-        Keys.onEnterPressed: root.take(list.currentIndex)
-        Keys.onSpacePressed: root.take(list.currentIndex)
 
         delegate: Pressable {
             id: entry

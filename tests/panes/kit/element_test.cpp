@@ -72,6 +72,20 @@ TEST_F(Elements, ThatCanBePressedTakeAHeldKeyForOnePress) {
   }
 }
 
+TEST_F(Elements, AHeldKeyOpensAMenuAndTakesNothingFromIt) {
+  QQuickItem* item = showOne("FilterMenu { objectName: 'it'; entries: ['Newest', 'Oldest'] }");
+  QSignalSpy chosen(item, SIGNAL(chosen(int)));
+  press(Qt::Key_Tab);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    chosen.clear();
+    hold(key);
+    EXPECT_EQ(chosen.size(), 0) << key;
+    press(Qt::Key_Down);
+    press(key);
+    EXPECT_EQ(chosen, QList<QVariantList>{{1}}) << key;
+  }
+}
+
 TEST_F(Elements, ThatAreDisabledAnswerNothing) {
   QQuickItem* item =
       showOne("PrimaryButton { objectName: 'it'; title: 'Clean'; isEnabled: false }");

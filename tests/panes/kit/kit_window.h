@@ -72,6 +72,7 @@ class KitWindow : public ::testing::Test {
   /// For long enough to be repeated.
   void hold(Qt::Key key) {
     QTest::keyPress(&view, key);
+    settle();
     QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
     QCoreApplication::sendEvent(&view, &again);
     QTest::keyRelease(&view, key);
