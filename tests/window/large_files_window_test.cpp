@@ -119,6 +119,10 @@ TEST_F(LargeFilesWindow, IsUsedFromTheKeyboardAlone) {
   press(Qt::Key_Space);
   ASSERT_TRUE(turnUntil([this] { return shows("holiday.MOV"); }));
   settle();
+  ASSERT_TRUE(tabTo("100 MB"));
+  press(Qt::Key_Return);
+  press(Qt::Key_Escape);
+  EXPECT_EQ(focused(), "100 MB") << "the menu gives the focus back";
   ASSERT_TRUE(tabTo("ubuntu.iso"));
   press(Qt::Key_Down);
   press(Qt::Key_Space);

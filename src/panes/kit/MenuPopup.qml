@@ -14,6 +14,8 @@ T.Popup {
     property int currentIndex: -1
     property bool marksCurrent: false
     property real widestEntry: 120
+    // What had the focus, and is given it back.
+    property Item opener: null
     signal chosen(int index)
 
     padding: 5
@@ -23,8 +25,12 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     implicitWidth: root.widestEntry + 2 * root.padding
     implicitHeight: Math.min(320, list.contentHeight) + 2 * root.padding
-    onAboutToShow: list.currentIndex = Math.max(0, root.currentIndex)
+    onAboutToShow: {
+        root.opener = root.parent.Window.activeFocusItem;
+        list.currentIndex = Math.max(0, root.currentIndex);
+    }
     onOpened: list.forceActiveFocus()
+    onClosed: root.opener?.forceActiveFocus(Qt.PopupFocusReason)
 
     function take(index: int) {
         root.close();

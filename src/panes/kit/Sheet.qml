@@ -23,6 +23,9 @@ Item {
     T.Popup {
         id: sheet
 
+        // What had the focus, and is given it back.
+        property Item opener: null
+
         parent: T.Overlay.overlay
         anchors.centerIn: parent
         visible: root.isPresented
@@ -30,6 +33,8 @@ Item {
         focus: true
         padding: 22
         closePolicy: T.Popup.NoAutoClose
+        onAboutToShow: sheet.opener = root.Window.activeFocusItem
+        onClosed: sheet.opener?.forceActiveFocus(Qt.PopupFocusReason)
         implicitWidth: root.sheetWidth
         implicitHeight: body.implicitHeight + 2 * sheet.padding
 

@@ -86,6 +86,17 @@ TEST_F(Elements, AHeldKeyOpensAMenuAndTakesNothingFromIt) {
   }
 }
 
+TEST_F(Elements, AMenuGivesTheFocusBackToWhatOpenedIt) {
+  QQuickItem* item = showOne("FilterMenu { objectName: 'it'; entries: ['Newest', 'Oldest'] }");
+  press(Qt::Key_Tab);
+  for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
+    press(Qt::Key_Space);
+    EXPECT_FALSE(item->hasActiveFocus());
+    press(end);
+    EXPECT_TRUE(item->hasActiveFocus()) << end;
+  }
+}
+
 TEST_F(Elements, ThatAreDisabledAnswerNothing) {
   QQuickItem* item =
       showOne("PrimaryButton { objectName: 'it'; title: 'Clean'; isEnabled: false }");
@@ -317,6 +328,17 @@ TEST_F(Dialogs, ReturnCancels) {
   present();
   press(Qt::Key_Return);
   EXPECT_EQ(answer(), "cancelled");
+}
+
+TEST_F(Dialogs, GiveTheFocusBackToWhatHadItBefore) {
+  present();
+  press(Qt::Key_Escape);
+  part("behind")->forceActiveFocus();
+  view.rootObject()->setProperty("up", true);
+  settle();
+  EXPECT_FALSE(part("behind")->hasActiveFocus());
+  press(Qt::Key_Escape);
+  EXPECT_TRUE(part("behind")->hasActiveFocus());
 }
 
 TEST_F(Dialogs, EscapeCancels) {
