@@ -22,7 +22,10 @@ constexpr std::string_view kPackageExtensions[] = {
     "photoslibrary", "photolibrary", "aplibrary", "migratedphotolibrary", "migratedaplibrary",
     "musiclibrary", "tvlibrary", "imovielibrary", "fcpbundle", "theater",
     // Documents
-    "rtfd", "scptd", "logicx", "band", "imovieproject", "tmbundle",
+    "rtfd", "scptd", "logicx", "band", "imovieproject", "tmbundle", "pages", "numbers", "key",
+    "scriv", "graffle", "dtbase2", "lrdata", "lrlibrary",
+    // Virtual machines
+    "pvm", "vmwarevm", "utm",
     // Disk images in pieces, and downloads under way
     "sparsebundle", "backupbundle", "download"};
 

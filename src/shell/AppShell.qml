@@ -49,6 +49,7 @@ Item {
                 anchors.fill: parent
                 opacity: isSelected ? 1 : 0
                 enabled: isSelected
+                visible: isSelected
 
                 Component.onCompleted: setSource(view, { model: paneModel })
             }

@@ -22,6 +22,9 @@ Pressable {
     title: description
     help: isHeading ? "" : toolHelp
     pressableEnabled: !isHeading
+    Accessible.role: isHeading ? Accessible.Heading : Accessible.Button
+    Accessible.selectable: !isHeading
+    Accessible.selected: isSelected
     implicitHeight: isHeading ? 34 : 32
 
     Rectangle {

@@ -340,6 +340,27 @@ TEST_F(LinuxTrashTest, EmptyingALinkInsideGoesItsTargetStays) {
   EXPECT_EQ(countIn(kFiles) + countIn(kInfo), 0u);
 }
 
+TEST_F(LinuxTrashTest, WhatIsBeingRemovedDoesNotComeBackHollow) {
+  disk.makeFile("/Users/ann/a/letter", "dear");
+  const auto trashed = trash.moveToTrash("/Users/ann/a", anywhere);
+  ASSERT_TRUE(trashed);
+  bool cameBack = true;
+  EXPECT_TRUE(trash.remove(*trashed, [&](const Path&) {
+    cameBack = trash.putBack(*trashed, "/Users/ann/a");
+    return true;
+  }));
+  EXPECT_FALSE(cameBack);
+  EXPECT_FALSE(disk.holds("/Users/ann/a"));
+}
+
+TEST_F(LinuxTrashTest, WhatCouldNotBeRemovedCanStillComeBack) {
+  disk.makeFile("/Users/ann/a", "old");
+  const auto trashed = trash.moveToTrash("/Users/ann/a", anywhere);
+  ASSERT_TRUE(trashed);
+  EXPECT_FALSE(trash.remove(*trashed, [](const Path&) { return false; }));
+  EXPECT_TRUE(trash.putBack(*trashed, "/Users/ann/a"));
+}
+
 TEST_F(LinuxTrashTest, EmptyingAnItemAddedMeanwhileSurvives) {
   disk.makeFile("/Users/ann/a", "old");
   ASSERT_TRUE(trash.moveToTrash("/Users/ann/a", anywhere));

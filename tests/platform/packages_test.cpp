@@ -8,7 +8,8 @@ namespace {
 TEST(PackagesTest, KnowsTheUsualBundles) {
   for (const char* name :
        {"Mail.app", "Photos Library.photoslibrary", "AppKit.framework", "a.bundle", "a.plugin",
-        "a.kext", "a.xpc", "a.pkg", "a.mpkg", "note.rtfd", "a.xcodeproj", "two.dots.app"}) {
+        "a.kext", "a.xpc", "a.pkg", "a.mpkg", "note.rtfd", "Windows.pvm", "a.vmwarevm", "a.utm",
+        "Novel.scriv", "a.pages", "a.xcodeproj", "two.dots.app"}) {
     EXPECT_TRUE(isPackageName(name)) << name;
   }
 }

@@ -40,6 +40,7 @@ ToolDetailRow {
     Accessible.role: isGroup ? Accessible.TreeItem : Accessible.CheckBox
     Accessible.checkable: canToggle
     Accessible.checked: selection === SelectionState.All
+    Accessible.checkStateMixed: selection === SelectionState.Partial
 
     whole: ContextMenu {
         id: menu

@@ -284,11 +284,11 @@ void DuplicateFinderView::stopDeleting() {
 }
 
 QCoro::Task<> DuplicateFinderView::moveSelectedToTrash() {
-  auto pick = [&files = _desktop.files, selection = _choice.selection(),
+  auto pick = [&desktop = _desktop, selection = _choice.selection(),
                stop = _deleteTask.emplace().get_token()] {
     const std::vector<SelectedCopy> copies = selection.list();
-    return PickedFilesRemoval::Pick{pickedFiles(copies),
-                                    keeperCheck(files, keptCopies(copies), stop)};
+    return PickedFilesRemoval::Pick{
+        pickedFiles(copies), keeperCheck(desktop.files, desktop.trash, keptCopies(copies), stop)};
   };
   std::set<Path> trashed = co_await _removal.trash(_choice.totals().selectedCount, std::move(pick));
   _deleteTask.reset();

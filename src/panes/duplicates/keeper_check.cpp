@@ -41,12 +41,12 @@ class Promise {
     for (const auto& [copy, kept] : _keptCopies) _staying.insert(kept->url.native());
   }
 
-  [[nodiscard]] bool lets(const FileSystem& files, const Path& copy,
+  [[nodiscard]] bool lets(const FileSystem& files, const Trash& trash, const Path& copy,
                           const std::stop_token& stop) const {
     const auto found = _keptCopies.find(copy.native());
     if (found == _keptCopies.end() || _staying.contains(copy.native())) return false;
     const KeptCopy& kept = *found->second;
-    return !mayBeOneName(files, kept.url, copy) &&
+    return !trash.contains(kept.url) && !mayBeOneName(files, kept.url, copy) &&
            DuplicateCheck::mayRemove(files, kept.url, copy, kept.hash, stop);
   }
 
@@ -57,11 +57,11 @@ class Promise {
 
 }  // namespace
 
-ScannerEngine::PickedFileCheck keeperCheck(const FileSystem& files, KeptCopies keptCopies,
-                                           std::stop_token stop) {
+ScannerEngine::PickedFileCheck keeperCheck(const FileSystem& files, const Trash& trash,
+                                           KeptCopies keptCopies, std::stop_token stop) {
   const auto promise = std::make_shared<const Promise>(std::move(keptCopies));
-  return [&files, promise, stop = std::move(stop)](const PickedFile& copy) {
-    return promise->lets(files, copy.url, stop);
+  return [&files, &trash, promise, stop = std::move(stop)](const PickedFile& copy) {
+    return promise->lets(files, trash, copy.url, stop);
   };
 }
 

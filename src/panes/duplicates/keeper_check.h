@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "engine/scanner_engine.h"
+#include "platform/trash.h"
 
 namespace klarvik {
 
@@ -20,10 +21,10 @@ using KeptCopies = std::unordered_map<std::string, std::shared_ptr<const KeptCop
 
 /// Asked right before a copy goes, on any of the removal's threads: it may only if the one that
 /// stays was just now read whole, holds the same content, and is another file, or the same file
-/// under a name of its own. Nothing that stays for the sake of any copy may go. After a stop
-/// request nothing may. Must not outlive `files`.
+/// under a name of its own. One that waits in the Trash does not stay. Nothing that stays for the
+/// sake of any copy may go. After a stop request nothing may. Must not outlive `files` and `trash`.
 [[nodiscard]] ScannerEngine::PickedFileCheck keeperCheck(const FileSystem& files,
-                                                         KeptCopies keptCopies,
+                                                         const Trash& trash, KeptCopies keptCopies,
                                                          std::stop_token stop);
 
 }  // namespace klarvik

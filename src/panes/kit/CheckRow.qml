@@ -14,7 +14,10 @@ Pressable {
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: root.isOn
-    Accessible.onToggleAction: root.action()
+    Accessible.onToggleAction: {
+        if (root.enabled)
+            root.action();
+    }
     onAction: root.toggled()
 
     contentItem: Item {

@@ -41,6 +41,8 @@ Item {
         KitText {
             width: parent.width
             text: root.title
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             size: 14
             weight: Font.Medium
             horizontalAlignment: Text.AlignHCenter
@@ -51,6 +53,8 @@ Item {
         KitText {
             width: parent.width
             text: root.detail
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             size: 12
             color: Theme.textTertiary
             horizontalAlignment: Text.AlignHCenter

@@ -36,13 +36,17 @@ Item {
             root.action();
     }
 
-    enabled: root.pressableEnabled
+    // Qt leaves the focus, and so the keys, with what is no longer on the screen.
+    enabled: root.pressableEnabled && root.visible
     activeFocusOnTab: true
     Accessible.role: Accessible.Button
     Accessible.name: root.title
     Accessible.description: root.help
     Accessible.focusable: root.activeFocusOnTab
-    Accessible.onPressAction: root.action()
+    Accessible.onPressAction: {
+        if (root.enabled)
+            root.action();
+    }
     Keys.onSpacePressed: event => root.answer(event)
     Keys.onReturnPressed: event => root.answer(event)
     Keys.onEnterPressed: event => root.answer(event)

@@ -51,8 +51,14 @@ Item {
     ListView.onReused: root.isPooled = false
     Accessible.name: root.description
     Accessible.focusable: root.isPressable
-    Accessible.onPressAction: root.activated()
-    Accessible.onToggleAction: root.toggled()
+    Accessible.onPressAction: {
+        if (root.enabled && root.visible)
+            root.activated();
+    }
+    Accessible.onToggleAction: {
+        if (root.enabled && root.visible)
+            root.toggled();
+    }
     onActivated: {
         if (root.list)
             root.list.activated(root.index);

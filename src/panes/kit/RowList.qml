@@ -30,7 +30,7 @@ ToolListView {
 
     // A key that is held is one press.
     function isPress(event: KeyEvent): bool {
-        return root.currentIndex >= 0 && !event.isAutoRepeat;
+        return root.visible && root.currentIndex >= 0 && !event.isAutoRepeat;
     }
 
     function activateCurrent(event: KeyEvent) {

@@ -22,7 +22,11 @@ Pressable {
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: root.selection === SelectionState.All
-    Accessible.onToggleAction: root.action()
+    Accessible.checkStateMixed: root.selection === SelectionState.Partial
+    Accessible.onToggleAction: {
+        if (root.enabled)
+            root.action();
+    }
     onAction: root.toggled()
 
     contentItem: Item {

@@ -63,6 +63,8 @@ Rectangle {
             KitText {
                 objectName: "lastLine"
                 text: root.shown.lastLine
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 size: 11
                 color: Theme.textTertiary
                 Layout.fillWidth: true

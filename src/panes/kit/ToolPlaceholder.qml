@@ -65,6 +65,8 @@ Item {
         KitText {
             width: parent.width
             text: root.title
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             size: 14
             weight: Font.Medium
             horizontalAlignment: Text.AlignHCenter
@@ -75,6 +77,8 @@ Item {
         KitText {
             width: parent.width
             text: root.detail
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             size: 12
             color: Theme.textTertiary
             horizontalAlignment: Text.AlignHCenter

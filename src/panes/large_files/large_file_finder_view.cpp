@@ -33,6 +33,12 @@ std::vector<PickedFile> picked(const LargeFileList& files) {
   return all;
 }
 
+/// A folder may have come under the name since the file was listed.
+bool isFile(const FileSystem& disk, const Path& path) {
+  const auto now = disk.attributes(path);
+  return now && now->kind == FileKind::regular;
+}
+
 }  // namespace
 
 LargeFileFinderView::LargeFileFinderView(const Sources& sources, const Desktop& desktop,
@@ -310,7 +316,10 @@ void LargeFileFinderView::stopTrashing() {
 }
 
 QCoro::Task<> LargeFileFinderView::moveSelectedToTrash() {
-  auto pick = [files = selectedFiles()] { return PickedFilesRemoval::Pick{picked(files)}; };
+  auto pick = [&disk = _desktop.files, files = selectedFiles()] {
+    return PickedFilesRemoval::Pick{picked(files),
+                                    [&disk](const auto& file) { return isFile(disk, file.url); }};
+  };
   const std::set<Path> trashed = co_await _removal.trash(_selected.size(), std::move(pick));
   forget(trashed);
   writeTotal();

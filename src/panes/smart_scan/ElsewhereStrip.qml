@@ -41,6 +41,8 @@ Item {
             KitText {
                 visible: text !== ""
                 text: root.model.pendingText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 color: Theme.textTertiary
                 size: 11
             }

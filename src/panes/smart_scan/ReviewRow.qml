@@ -38,6 +38,7 @@ ToolGroupRow {
     Accessible.role: isShowMore ? Accessible.Button : isCategory ? Accessible.TreeItem : Accessible.CheckBox
     Accessible.checkable: !isShowMore
     Accessible.checked: selection === ReviewTableModel.All
+    Accessible.checkStateMixed: selection === ReviewTableModel.Partial
 
     leading: Symbol {
         Layout.preferredWidth: 20

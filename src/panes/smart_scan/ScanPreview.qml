@@ -65,6 +65,8 @@ Item {
             Layout.fillWidth: true
             Layout.maximumWidth: 640
             text: qsTr("Nothing is deleted by a scan. Items move to the Trash, never straight to permanent deletion, and system folders are refused outright.")
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             color: Theme.textTertiary
             size: 12
             lineHeight: 1.3

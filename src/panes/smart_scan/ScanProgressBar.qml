@@ -15,7 +15,7 @@ Rectangle {
     radius: 3
     color: Theme.white(0.08)
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: qsTr("Scan progress")
+    Accessible.name: qsTr("Scan progress") + ", " + Math.floor(root.progress * 100) + "%"
 
     Rectangle {
         id: fill

@@ -19,6 +19,8 @@ ColumnLayout {
         Layout.rightMargin: Theme.sidePadding
         Layout.topMargin: 8
         text: root.model.scanningHeadline
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     ScanProgressBar {

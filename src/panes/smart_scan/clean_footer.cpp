@@ -56,6 +56,12 @@ void CleanFooter::readSelection() {
   emit changed();
 }
 
+/// What a scan has found so far is not to be cleaned yet.
+bool CleanFooter::isEnabled() const {
+  const bool isScanning = std::holds_alternative<AppState::Scanning>(_appState.scanState());
+  return _hasSelection && !isScanning && !isBusy();
+}
+
 bool CleanFooter::isBusy() const {
   return std::holds_alternative<AppState::Cleaning>(_appState.scanState());
 }

@@ -24,7 +24,7 @@ class CleanFooter : public QObject {
 
   [[nodiscard]] QString selectionSummary() const { return _selectionSummary; }
   [[nodiscard]] QString hint() const { return _hint; }
-  [[nodiscard]] bool isEnabled() const { return _hasSelection && !isBusy(); }
+  [[nodiscard]] bool isEnabled() const;
   /// What the kit's footer draws. A clean tells how many items are done, and not, as other tools
   /// do, which one is under way.
   [[nodiscard]] ToolFooterState shown() const;

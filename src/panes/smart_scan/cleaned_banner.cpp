@@ -36,7 +36,7 @@ bool CleanedBanner::isRestorable() const {
 }
 
 void CleanedBanner::emptyTrash() {
-  _trashMonitor.emptyTrash();
+  if (isRestorable()) _trashMonitor.emptyTrash();
 }
 
 void CleanedBanner::restore() {

@@ -43,6 +43,7 @@ RowFrame {
     Accessible.role: isKind ? Accessible.TreeItem : isItem && canToggle ? Accessible.CheckBox : Accessible.StaticText
     Accessible.checkable: canToggle
     Accessible.checked: selection === SelectionState.All
+    Accessible.checkStateMixed: selection === SelectionState.Partial
     onHoveredChanged: model.hover(kindName, hovered)
     // It may have faded out before it was kept for later.
     ListView.onReused: opacity = 1

@@ -28,6 +28,8 @@ class DesktopPlatform {
   /// Refers to this object.
   [[nodiscard]] Desktop desktop();
   [[nodiscard]] LoginItem& loginItem() { return _loginItem; }
+  /// The very last thing to do: starts the program again where that was asked for.
+  void startSuccessor() const { _workspace.startSuccessor(); }
 
  private:
   LinuxPlatform _system;

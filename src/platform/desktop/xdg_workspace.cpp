@@ -88,8 +88,13 @@ void XdgWorkspace::reveal(const Path& item) {
 }
 
 void XdgWorkspace::relaunch() {
-  start(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1));
+  _hasSuccessor = true;
   QCoreApplication::quit();
+}
+
+void XdgWorkspace::startSuccessor() const {
+  if (!_hasSuccessor) return;
+  start(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1));
 }
 
 }  // namespace klarvik

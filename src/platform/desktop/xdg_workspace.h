@@ -19,9 +19,13 @@ class XdgWorkspace final : public Workspace {
   void reveal(const Path& item) override;
   /// With the arguments that this instance was given.
   void relaunch() override;
+  /// To be called last of all: starts the instance that `relaunch` has asked for, if it has.
+  /// Earlier it would wait for this one in vain, as long as that finishes what it has in hand.
+  void startSuccessor() const;
 
  private:
   const FileSystem& _files;
+  bool _hasSuccessor = false;
 };
 
 /// The address of a file of the machine; its bytes need not be UTF-8.

@@ -132,6 +132,8 @@ std::optional<Path> LinuxTrash::moveToTrash(const Path& item, const PlaceCheck& 
 }
 
 bool LinuxTrash::putBack(const Path& trashed, const Path& original) {
+  const ThingsInHand::Hold hold(_inHand, trashed.lexically_normal());
+  if (!hold) return false;
   const auto from = openTrashed(trashed);
   if (!from) return false;
   const auto recorder = recorderOf(*from, trashed);
@@ -150,6 +152,8 @@ bool LinuxTrash::putBack(const Path& trashed, const Path& original) {
 }
 
 bool LinuxTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
+  const ThingsInHand::Hold hold(_inHand, trashed.lexically_normal());
+  if (!hold) return false;
   const auto parent = openTrashed(trashed);
   if (!parent) return false;
   const auto recorder = recorderOf(*parent, trashed);

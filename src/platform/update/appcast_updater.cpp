@@ -117,6 +117,11 @@ void AppcastUpdater::present(std::function<void(const UpdateStage&)> show) {
 void AppcastUpdater::install() {
   if (_phase == Phase::offered) return download();
   if (_delivered.empty()) return;
+  if (!isStillWhatWasDelivered()) {
+    _delivered.clear();
+    return fail(notAcceptable(
+        "The update is no longer the file that was checked, so Klarvik does not open it."));
+  }
   const Path disk = _around.files.diskPath(_delivered);
   const QUrl address = QUrl::fromLocalFile(QString::fromStdString(disk.native()));
   if (!_around.workspace.openUrl(address.toEncoded().toStdString())) {
@@ -155,7 +160,10 @@ void AppcastUpdater::checkIfDue() {
 
 bool AppcastUpdater::isDue() const {
   const auto last = lastUpdateCheckDate();
-  return !last || _around.clock.now() - *last >= betweenChecks;
+  if (!last) return true;
+  const auto age = _around.clock.now() - *last;
+  // A clock that was set back would put the next check off by as much.
+  return age < 0s || age >= betweenChecks;
 }
 
 /// Before anything comes of it: a program that is ended meanwhile does not ask again at once.
@@ -250,8 +258,11 @@ std::optional<UpdaterError> AppcastUpdater::store(std::string_view bytes) {
 
 void AppcastUpdater::judgeArchive(const std::optional<UpdaterError>& error) {
   if (error) {
-    return fail(
-        during("The update could not be downloaded.", updater_code::downloadFailed, *error));
+    UpdaterError told =
+        during("The update could not be downloaded.", updater_code::downloadFailed, *error);
+    // The feed was fine: its archive has led elsewhere.
+    if (told.code == updater_code::feedNotUsable) told.code = updater_code::downloadFailed;
+    return fail(told);
   }
   if (_archive->size() != _offer.length) {
     return fail(
@@ -287,9 +298,16 @@ void AppcastUpdater::deliver(const std::optional<UpdaterError>& objection) {
   const std::string version = _offer.version;
   abandon();
   _delivered = _options.downloads / published->filename();
+  _deliveredAs = _around.files.attributes(_delivered);
   _delegate->didFinishUpdateCycle(std::nullopt);
   show(update_stage::Delivered{version, published->filename().native()});
   _around.workspace.reveal(_delivered);
+}
+
+bool AppcastUpdater::isStillWhatWasDelivered() const {
+  const auto now = _around.files.attributes(_delivered);
+  return now && _deliveredAs && now->identity == _deliveredAs->identity &&
+         now->logicalBytes == _deliveredAs->logicalBytes && now->modified == _deliveredAs->modified;
 }
 
 void AppcastUpdater::fail(const UpdaterError& error) {

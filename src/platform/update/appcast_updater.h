@@ -77,6 +77,7 @@ class AppcastUpdater final : public QObject, public Updater {
   void verify();
   void deliver(const std::optional<UpdaterError>& objection);
 
+  [[nodiscard]] bool isStillWhatWasDelivered() const;
   void fail(const UpdaterError& error);
   void cancel(std::int64_t code, const char* description);
   void abandon();
@@ -105,6 +106,7 @@ class AppcastUpdater final : public QObject, public Updater {
   };
   std::unique_ptr<Verification, DeleteLater> _verification;
   Path _delivered;  ///< logical; empty: nothing
+  std::optional<FileAttributes> _deliveredAs;
 };
 
 }  // namespace klarvik

@@ -94,14 +94,11 @@ void HttpsFetch::checkHead() {
 
 void HttpsFetch::takeBytes() {
   expectSignOfLife();
-  // What an error brings along is a page for people.
-  if (_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != 200) {
-    _reply->readAll();
-    return;
-  }
   const QByteArray bytes = _reply->readAll();
   _received += bytes.size();
   if (_received > _request.limits.mostBytes) return end(_request.tooLong);
+  // What an error brings along is a page for people.
+  if (_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != 200) return;
   if (const auto error =
           _receive(std::string_view(bytes.data(), static_cast<std::size_t>(bytes.size())))) {
     end(error);

@@ -68,6 +68,7 @@ int main(int argumentCount, char** arguments) {
   app.finishRemovals();
   // A download that is not whole may lie in the user's folder.
   desktop.updater.stop();
+  platform->startSuccessor();
   // A scan may be in the middle of a long walk, or wait for a tool that never answers. It changes
   // nothing, so nobody has to wait for it.
   std::_Exit(status);

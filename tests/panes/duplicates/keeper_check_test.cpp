@@ -23,7 +23,7 @@ class KeeperCheckTest : public testing::Test {
     kept[goes.native()] = std::make_shared<const KeptCopy>(KeptCopy{stays, hash});
   }
   [[nodiscard]] bool mayGo(const Path& goes) const {
-    return keeperCheck(files, kept, stop.get_token())({goes, "name", 8});
+    return keeperCheck(files, world.trash, kept, stop.get_token())({goes, "name", 8});
   }
   [[nodiscard]] Path onDisk(const Path& place) const { return world.disk.onDisk(place); }
 
@@ -50,6 +50,14 @@ TEST_F(KeeperCheckTest, TheKeptCopyIsGoneAtTheMomentOfDeletionSoTheOthersStay) {
   keeps(keeper, copy);
   std::filesystem::remove(onDisk(keeper));
   EXPECT_FALSE(mayGo(copy));
+}
+
+TEST_F(KeeperCheckTest, WhatWaitsInTheTrashKeepsNothing) {
+  for (const char* trash : {"/Users/ann/.local/share/Trash/files/f", "/Users/ann/.Trash/f"}) {
+    world.disk.makeFile(trash, "the same");
+    keeps(trash, copy);
+    EXPECT_FALSE(mayGo(copy)) << trash;
+  }
 }
 
 TEST_F(KeeperCheckTest, TheKeptCopyHasChangedAtTheMomentOfDeletionSoTheOthersStay) {

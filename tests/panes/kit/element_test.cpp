@@ -107,6 +107,35 @@ TEST_F(Elements, ThatAreDisabledAnswerNothing) {
   EXPECT_EQ(presses.size(), 0);
 }
 
+TEST_F(Elements, ThatAreDisabledAnswerNoAssistiveToolEither) {
+  for (const char* qml : {"PrimaryButton { objectName: 'it'; title: 'Clean'; isEnabled: false }",
+                          "PrimaryButton { objectName: 'it'; title: 'Clean'; visible: false }"}) {
+    QQuickItem* item = showOne(qml);
+    QSignalSpy presses(item, SIGNAL(action()));
+    accessible(item)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(presses.size(), 0) << qml;
+  }
+}
+
+TEST_F(Elements, ThatAreNoLongerOnTheScreenAnswerNoKey) {
+  QQuickItem* item = showOne("PrimaryButton { objectName: 'it'; title: 'Empty Trash' }");
+  QSignalSpy presses(item, SIGNAL(action()));
+  press(Qt::Key_Tab);
+  press(Qt::Key_Space);
+  ASSERT_EQ(presses.size(), 1);
+  item->setVisible(false);
+  press(Qt::Key_Space);
+  press(Qt::Key_Return);
+  EXPECT_EQ(presses.size(), 1);
+}
+
+TEST_F(Elements, ABoxOfSomeTellsThatItIsMixed) {
+  QQuickItem* item =
+      showOne("SelectionBox { objectName: 'it'; selection: SelectionState.Partial; size: 16 }");
+  EXPECT_TRUE(accessible(item)->state().checkStateMixed);
+  EXPECT_FALSE(accessible(item)->state().checked);
+}
+
 TEST_F(Elements, AChipWithoutAnActionIsALabel) {
   QQuickItem* chip = showOne("FilterChip { objectName: 'it'; title: 'a'; hasAction: false }");
   QSignalSpy presses(chip, SIGNAL(action()));
@@ -204,6 +233,15 @@ TEST_F(Lists, TakeAHeldKeyForOnePress) {
   EXPECT_EQ(activations, rowsOf(1));
   hold(Qt::Key_Space);
   EXPECT_EQ(toggles, rowsOf(1));
+}
+
+TEST_F(Lists, ThatAreNoLongerOnTheScreenAnswerNoKey) {
+  QQuickItem* list = showList();
+  QSignalSpy activations(list, SIGNAL(activated(int)));
+  press(Qt::Key_Tab);
+  list->setVisible(false);
+  press(Qt::Key_Return);
+  EXPECT_EQ(activations.size(), 0);
 }
 
 TEST_F(Lists, TellAPressOnARowFromAPressOnItsBox) {

@@ -350,6 +350,17 @@ TEST_F(LargeFileFinderViewTest, AFileTrashedElsewhereWhileItIsListedStaysListedA
   EXPECT_EQ(pane->selectionSummary(), "734 MB selected · 1 file");
 }
 
+TEST_F(LargeFileFinderViewTest, AFolderThatHasComeUnderTheNameOfAFileStays) {
+  const Path film = add("Movies/film.mov", 700);
+  ASSERT_TRUE(scan());
+  select("film.mov");
+  std::filesystem::remove(desk.disk.onDisk(film));
+  desk.disk.makeFile(film / "letter.txt", "dear");
+  ASSERT_TRUE(trash());
+  EXPECT_TRUE(desk.disk.holds(film / "letter.txt"));
+  EXPECT_THAT(pane->selected(), SizeIs(1));
+}
+
 TEST_F(LargeFileFinderViewTest, ARemovalStoppedHalfWayTakesWhatWentOffTheListAndKeepsTheRest) {
   for (int number = 0; number < 20; ++number) {
     add("Documents/" + std::to_string(number) + ".zip", 200 + number);

@@ -118,6 +118,17 @@ TEST_F(SmartScanPaneModel, OffersNothingToCleanWithoutASelection) {
   EXPECT_TRUE(is<AppState::Done>());
 }
 
+TEST_F(SmartScanPaneModel, CleansNothingWhileAScanRuns) {
+  addCache("a");
+  ASSERT_TRUE(scan());
+  ASSERT_TRUE(pane.footer()->isEnabled());
+  ASSERT_TRUE(startScanAndHoldIt());
+  EXPECT_FALSE(pane.footer()->isEnabled());
+  pane.footer()->clean();
+  EXPECT_TRUE(is<AppState::Scanning>());
+  gate.open();
+}
+
 TEST_F(SmartScanPaneModel, TellsWhatIsSelectedAndWhatItIsMarkedAs) {
   addCache("a");
   addArchive("Old");
@@ -254,6 +265,17 @@ TEST_F(SmartScanPaneModel, EmptiesTheTrashFromTheBanner) {
   ASSERT_TRUE(turnUntil([this] {
     return shared.trashMonitor().itemCount() == 0 && !shared.trashMonitor().isEmptying();
   }));
+}
+
+TEST_F(SmartScanPaneModel, EmptiesNothingFromABannerThatIsGone) {
+  addCache("a");
+  ASSERT_TRUE(scan());
+  ASSERT_TRUE(clean());
+  ASSERT_TRUE(turnUntil([this] { return shared.trashMonitor().itemCount() == 1; }));
+  pane.banner()->dismiss();
+  pane.banner()->emptyTrash();
+  EXPECT_FALSE(shared.trashMonitor().isEmptying());
+  EXPECT_EQ(desktop.trash.list()->size(), 1U);
 }
 
 TEST_F(SmartScanPaneModel, SaysHowLongTheLastCleanIsAgoAndKeepsThatFresh) {

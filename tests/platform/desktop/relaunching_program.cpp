@@ -20,5 +20,7 @@ int main(int argc, char** argv) {
   const klarvik::LinuxFileSystem files("/", "/");
   klarvik::XdgWorkspace workspace(files);
   QTimer::singleShot(0, [&] { workspace.relaunch(); });
-  return QGuiApplication::exec();
+  const int status = QGuiApplication::exec();
+  workspace.startSuccessor();
+  return status;
 }

@@ -105,6 +105,14 @@ TEST_F(UpdateFeed, ThatStreams1GBUnannouncedIsCutOff) {
   EXPECT_LT(server.bytesSent(), gigabyte / 50);
 }
 
+TEST_F(UpdateFeed, WhoseErrorPageNeverEndsIsCutOff) {
+  server.answer("/feed",
+                {.status = "404 Not Found", .announcesLength = false, .streamed = gigabyte});
+  expectRefusal(-1011);
+  ASSERT_TRUE(turnMainLoopUntil([&] { return server.openConnections() == 0; }));
+  EXPECT_LT(server.bytesSent(), gigabyte / 50);
+}
+
 TEST_F(UpdateFeed, WithAnEntityBombIsRefused) {
   server.answer("/feed", {.body = "<!DOCTYPE rss [<!ENTITY a \"1234567890\">"
                                   "<!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;\">"

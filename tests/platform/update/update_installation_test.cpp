@@ -2,6 +2,8 @@
 
 #include <sys/stat.h>
 
+#include <filesystem>
+
 #include "updater_fixture.h"
 
 namespace klarvik {
@@ -72,6 +74,24 @@ TEST_F(UpdateInstallation, HandsWhatItHasDeliveredToTheSystemsInstaller) {
   EXPECT_EQ(workspace.openedUrls.size(), 1U);
 }
 
+TEST_F(UpdateInstallation, OpensNothingThatIsNotTheFileThatWasChecked) {
+  const Path file = "/Users/ann/Downloads/Klarvik-2.0.deb";
+  for (const bool isReplaced : {true, false}) {
+    std::filesystem::remove(disk.onDisk(file));
+    delegate.calls.clear();
+    ASSERT_TRUE(check());
+    ASSERT_TRUE(install());
+    std::filesystem::remove(disk.onDisk(file));
+    if (isReplaced) disk.makeFile(file, archive);
+    updater->install();
+    EXPECT_THAT(workspace.openedUrls, IsEmpty());
+    EXPECT_TRUE(is<update_stage::Failed>());
+    EXPECT_EQ(sentence(),
+              "The update is no longer the file that was checked, so Klarvik does not open it.");
+    EXPECT_TRUE(updater->canCheckForUpdates());
+  }
+}
+
 TEST_F(UpdateInstallation, ShowsTheFileWhereTheSystemHasNoInstaller) {
   ASSERT_TRUE(check());
   ASSERT_TRUE(install());
@@ -134,6 +154,7 @@ TEST_F(UpdateInstallation, RefusesAnArchiveThatIsRedirectedToHttp) {
   server.answer("/k.deb", {.status = "302 Found",
                            .location = "http://127.0.0.1:" + std::to_string(plain.serverPort())});
   expectRefusal("The update server offers no secure connection, so Klarvik does not listen to it.");
+  EXPECT_EQ(std::get<update_stage::Failed>(stages.back()).error.code, updater_code::downloadFailed);
   EXPECT_FALSE(plain.hasPendingConnections());
 }
 
