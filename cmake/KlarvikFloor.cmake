@@ -1,14 +1,17 @@
-# klarvik_floor(NAME LINKS target... [PREFIX folder])
+# klarvik_floor(NAME LINKS target... [PREFIX folder] [FOLDERS folder...])
 #
-# One floor of the house: a static library of every source in the current folder (and in its linux/
-# folder, where it has one). Its headers are seen as "NAME/header.h", and only by those who link the
-# floor: each has an include folder of its own, so an include of a floor above does not compile.
+# One floor of the house: a static library of every source in the current folder, in its linux/ folder,
+# where it has one, and in FOLDERS. Its headers are seen as "NAME/header.h", and only by those who link
+# the floor: each has an include folder of its own, so an include of a floor above does not compile.
 function(klarvik_floor name)
-  cmake_parse_arguments(FLOOR "" "PREFIX" "LINKS" ${ARGN})
+  cmake_parse_arguments(FLOOR "" "PREFIX" "LINKS;FOLDERS" ${ARGN})
   if(NOT FLOOR_PREFIX)
     set(FLOOR_PREFIX ${name})
   endif()
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h linux/*.cpp linux/*.h)
+  foreach(folder . linux ${FLOOR_FOLDERS})
+    list(APPEND patterns ${folder}/*.cpp ${folder}/*.h)
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
 
   set(include_root ${CMAKE_BINARY_DIR}/include/${name})
   cmake_path(GET FLOOR_PREFIX PARENT_PATH prefix_parent)

@@ -1,16 +1,26 @@
-# klarvik_qml_module(NAME URI uri [DEPENDENCIES uri...] [RESOURCES file...])
+# klarvik_qml_module(NAME URI uri [FOLDERS folder...] [DEPENDENCIES uri...] [RESOURCES file...])
 #
-# Makes the floor NAME a QML module of every *.qml in the current folder, linked into the program:
-# whoever installs it calls its qml_register_types_<URI>(). All modules are described in one folder,
-# so that they and qmllint find one another. The QML is compiled to bytecode here:
-# where it runs, that would slow down the first start and leave a cache in the user's home. Only what
-# is built for a sanitizer, and has less time for it, does so. What Qt generates is not held to the
-# house's warnings.
+# Makes the floor NAME a QML module of every *.qml in FOLDERS, the current folder where none is named,
+# linked into the program: whoever installs it calls its qml_register_types_<URI>(). In the module all
+# files lie in one folder, so that each finds the others. All modules are described in one folder, so
+# that they and qmllint find one another. The QML is compiled to bytecode here: where it runs, that
+# would slow down the first start and leave a cache in the user's home. Only what is built for a
+# sanitizer, and has less time for it, does so. What Qt generates is not held to the house's warnings.
 function(klarvik_qml_module name)
-  cmake_parse_arguments(MODULE "" "URI" "DEPENDENCIES;RESOURCES" ${ARGN})
-  file(GLOB qml_files CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.qml)
+  cmake_parse_arguments(MODULE "" "URI" "FOLDERS;DEPENDENCIES;RESOURCES" ${ARGN})
+  if(NOT MODULE_FOLDERS)
+    set(MODULE_FOLDERS .)
+  endif()
+  list(TRANSFORM MODULE_FOLDERS APPEND /*.qml OUTPUT_VARIABLE patterns)
+  file(GLOB qml_files CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${patterns})
+  foreach(file IN LISTS qml_files)
+    cmake_path(GET file FILENAME alias)
+    set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${alias})
+  endforeach()
+  # The generated registration includes headers by their names alone.
+  list(TRANSFORM MODULE_FOLDERS PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE header_folders)
+  target_include_directories(${name} PRIVATE ${header_folders})
   string(REPLACE "." "/" module_folder ${MODULE_URI})
-  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
   set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
   if(KLARVIK_SANITIZE)
     set(compiled_later NO_CACHEGEN)
@@ -26,7 +36,13 @@ function(klarvik_qml_module name)
     QML_FILES ${qml_files}
     RESOURCES ${MODULE_RESOURCES})
 
+  # Bytecode is an array a file behind long includes: one compilation for all files of a module takes
+  # little more time than one for each.
   get_target_property(generated ${name} SOURCES)
-  list(FILTER generated INCLUDE REGEX "qmltyperegistrations|qmlcache")
-  set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS "-w")
+  set(bytecode ${generated})
+  list(FILTER bytecode INCLUDE REGEX "qmlcache")
+  set_source_files_properties(${bytecode} PROPERTIES UNITY_GROUP bytecode)
+  set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+  list(FILTER generated INCLUDE REGEX "qmltyperegistrations")
+  set_source_files_properties(${generated} PROPERTIES COMPILE_OPTIONS -w)
 endfunction()

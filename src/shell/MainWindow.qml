@@ -27,7 +27,7 @@ Window {
 
         function show() {
             if (root.model.shell === null)
-                content.setSource("qrc:/Klarvik/Onboarding/OnboardingView.qml", { model: root.model.onboarding });
+                content.setSource("qrc:/Klarvik/Shell/OnboardingView.qml", { model: root.model.onboarding });
             else
                 content.setSource("AppShell.qml", { shell: root.model.shell });
         }

@@ -17,7 +17,7 @@ const WindowFrame updateFrame{{460, 0}, {460, 160}, {460, WindowFrame::unbounded
 /// A pane as the window shows it, with what it starts and finishes by itself, where it does.
 template <typename Pane>
 LandedPane landed(Section section, const QString& view, Pane& pane) {
-  LandedPane landed{section, QUrl("qrc:/Klarvik/" + view), &pane};
+  LandedPane landed{section, QUrl("qrc:/Klarvik/Panes/" + view), &pane};
   if constexpr (requires { pane.appear(); }) {
     landed.appear = [&pane] { pane.appear(); };
   }
@@ -109,7 +109,7 @@ QQuickWindow* KlarvikApp::makeMainWindow() {
 QQuickWindow* KlarvikApp::makeSettingsWindow() {
   _settings = std::make_unique<SettingsView>(settingsTabs());
   QQuickWindow* const window =
-      _windows.make(settingsWindowId, QUrl("qrc:/Klarvik/Settings/SettingsWindow.qml"),
+      _windows.make(settingsWindowId, QUrl("qrc:/Klarvik/Shell/SettingsWindow.qml"),
                     {{"model", QVariant::fromValue(_settings.get())}}, settingsFrame);
   if (window != nullptr) {
     connect(window, &QWindow::visibleChanged, this, &KlarvikApp::discardClosedSettings,
@@ -124,7 +124,7 @@ void KlarvikApp::discardClosedSettings() {
 }
 
 QQuickWindow* KlarvikApp::makeUpdateWindow() {
-  return _windows.make(updateWindowId, QUrl("qrc:/Klarvik/Updates/UpdateWindow.qml"),
+  return _windows.make(updateWindowId, QUrl("qrc:/Klarvik/Shell/UpdateWindow.qml"),
                        {{"model", QVariant::fromValue(&_updateWindow)}}, updateFrame);
 }
 
@@ -143,8 +143,8 @@ std::vector<SettingsTab> KlarvikApp::settingsTabs() {
       std::make_unique<GeneralSettingsSection>(_shared.permissionsManager(), _loginItem, _desktop);
   _updateSettings = std::make_unique<UpdateSettingsView>(_shared.updateManager(), _desktop);
   return {
-      {"General", QUrl("qrc:/Klarvik/Settings/GeneralSettingsSection.qml"), _generalSettings.get()},
-      {"Updates", QUrl("qrc:/Klarvik/Updates/UpdateSettingsView.qml"), _updateSettings.get()}};
+      {"General", QUrl("qrc:/Klarvik/Shell/GeneralSettingsSection.qml"), _generalSettings.get()},
+      {"Updates", QUrl("qrc:/Klarvik/Shell/UpdateSettingsView.qml"), _updateSettings.get()}};
 }
 
 /// What happens unasked, once the main window is on the screen for the first time.
@@ -226,13 +226,13 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
   _privacyPane = std::make_unique<PrivacyCleanerView>(
       PrivacyCleanerView::Sources{_shared.scanCoordinator(), _shared.toolActivity()}, _desktop);
   return {
-      landed(Section::smartScan, "SmartScan/SmartScanPane.qml", *_smartScanPane),
-      landed(Section::storage, "Storage/StorageAnalyticsView.qml", *_storagePane),
-      landed(Section::duplicates, "Duplicates/DuplicateFinderView.qml", *_duplicatesPane),
-      landed(Section::largeFiles, "LargeFiles/LargeFileFinderView.qml", *_largeFilesPane),
-      landed(Section::systemData, "SystemData/SystemDataView.qml", *_systemDataPane),
-      landed(Section::uninstaller, "Uninstaller/AppUninstallerView.qml", *_uninstallerPane),
-      landed(Section::privacy, "Privacy/PrivacyCleanerView.qml", *_privacyPane),
+      landed(Section::smartScan, "SmartScanPane.qml", *_smartScanPane),
+      landed(Section::storage, "StorageAnalyticsView.qml", *_storagePane),
+      landed(Section::duplicates, "DuplicateFinderView.qml", *_duplicatesPane),
+      landed(Section::largeFiles, "LargeFileFinderView.qml", *_largeFilesPane),
+      landed(Section::systemData, "SystemDataView.qml", *_systemDataPane),
+      landed(Section::uninstaller, "AppUninstallerView.qml", *_uninstallerPane),
+      landed(Section::privacy, "PrivacyCleanerView.qml", *_privacyPane),
   };
 }
 

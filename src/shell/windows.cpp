@@ -7,16 +7,7 @@
 
 #include "panes/kit/kit.h"
 
-void qml_register_types_Klarvik_SmartScan();
-void qml_register_types_Klarvik_Storage();
-void qml_register_types_Klarvik_Duplicates();
-void qml_register_types_Klarvik_LargeFiles();
-void qml_register_types_Klarvik_SystemData();
-void qml_register_types_Klarvik_Uninstaller();
-void qml_register_types_Klarvik_Privacy();
-void qml_register_types_Klarvik_Onboarding();
-void qml_register_types_Klarvik_Settings();
-void qml_register_types_Klarvik_Updates();
+void qml_register_types_Klarvik_Panes();
 void qml_register_types_Klarvik_Shell();
 
 namespace klarvik {
@@ -24,16 +15,7 @@ namespace klarvik {
 namespace {
 
 void registerModules() {
-  qml_register_types_Klarvik_SmartScan();
-  qml_register_types_Klarvik_Storage();
-  qml_register_types_Klarvik_Duplicates();
-  qml_register_types_Klarvik_LargeFiles();
-  qml_register_types_Klarvik_SystemData();
-  qml_register_types_Klarvik_Uninstaller();
-  qml_register_types_Klarvik_Privacy();
-  qml_register_types_Klarvik_Onboarding();
-  qml_register_types_Klarvik_Settings();
-  qml_register_types_Klarvik_Updates();
+  qml_register_types_Klarvik_Panes();
   qml_register_types_Klarvik_Shell();
 }
 

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Duplicates
+import Klarvik.Panes
 
 /// The Duplicates section: groups of equal files, the copy of each that stays, and a footer to move
 /// the others to the Trash.
@@ -21,9 +21,9 @@ ToolPane {
     rowsShowLoader: true
     columns: [
         ColumnSpec { title: qsTr("FILE") },
-        ColumnSpec { title: qsTr("COPIES"); width: TableMetrics.copiesWidth; alignment: Qt.AlignRight },
-        ColumnSpec { title: qsTr("EACH"); width: TableMetrics.eachWidth; alignment: Qt.AlignRight },
-        ColumnSpec { title: qsTr("RECLAIMABLE"); width: TableMetrics.reclaimableWidth; alignment: Qt.AlignRight }
+        ColumnSpec { title: qsTr("COPIES"); width: DuplicatesMetrics.copiesWidth; alignment: Qt.AlignRight },
+        ColumnSpec { title: qsTr("EACH"); width: DuplicatesMetrics.eachWidth; alignment: Qt.AlignRight },
+        ColumnSpec { title: qsTr("RECLAIMABLE"); width: DuplicatesMetrics.reclaimableWidth; alignment: Qt.AlignRight }
     ]
     onAction: model.performAction()
 

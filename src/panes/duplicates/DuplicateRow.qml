@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.Duplicates
+import Klarvik.Panes
 
 /// A group of equal files, or one of its copies.
 ToolDetailRow {
@@ -35,8 +35,8 @@ ToolDetailRow {
     nameSize: isGroup ? 13 : 12
     nameWeight: isGroup ? Font.Medium : Font.Normal
     tint: hovered ? 0.03 : isGroup ? 0 : 0.02
-    indent: isGroup ? 0 : TableMetrics.copyIndent
-    implicitHeight: isGroup ? TableMetrics.groupHeight : TableMetrics.copyHeight
+    indent: isGroup ? 0 : DuplicatesMetrics.copyIndent
+    implicitHeight: isGroup ? DuplicatesMetrics.groupHeight : DuplicatesMetrics.copyHeight
     Accessible.role: isGroup ? Accessible.TreeItem : Accessible.CheckBox
     Accessible.checkable: canToggle
     Accessible.checked: selection === SelectionState.All
@@ -78,19 +78,19 @@ ToolDetailRow {
     ]
 
     Figure {
-        Layout.preferredWidth: TableMetrics.copiesWidth
+        Layout.preferredWidth: DuplicatesMetrics.copiesWidth
         visible: root.isGroup
         text: root.copies
     }
 
     Figure {
-        Layout.preferredWidth: TableMetrics.eachWidth
+        Layout.preferredWidth: DuplicatesMetrics.eachWidth
         visible: root.isGroup
         text: root.each
     }
 
     Figure {
-        Layout.preferredWidth: TableMetrics.reclaimableWidth
+        Layout.preferredWidth: DuplicatesMetrics.reclaimableWidth
         visible: root.isGroup
         text: root.reclaimable
         isStrong: true

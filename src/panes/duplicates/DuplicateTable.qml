@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Duplicates
+import Klarvik.Panes
 
 /// The groups. Space selects, Return opens and closes a group, the Menu key opens the menu of a
 /// copy.
@@ -13,7 +13,7 @@ RowList {
     readonly property int firstRow: root.indexAt(1, root.contentY)
 
     name: qsTr("Groups of equal files")
-    rowHeight: TableMetrics.copyHeight
+    rowHeight: DuplicatesMetrics.copyHeight
     model: root.pane.rows
     onActivated: row => root.pane.activate(row)
     onToggled: row => root.pane.toggleSelection(row)

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.Duplicates
+import Klarvik.Panes
 
 /// Where to look, and which copy stays. The chips of many folders scroll, so that what stands behind
 /// them is always there.

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.LargeFiles
+import Klarvik.Panes
 
 /// The Large Files section: a list that grows while the home is walked, and a footer to move what
 /// is picked to the Trash.
@@ -20,9 +20,9 @@ ToolPane {
     rowsShowLoader: true
     columns: [
         ColumnSpec { title: qsTr("FILE") },
-        ColumnSpec { title: qsTr("KIND"); width: TableMetrics.kindWidth },
-        ColumnSpec { title: qsTr("LAST OPENED"); width: TableMetrics.lastOpenedWidth },
-        ColumnSpec { title: qsTr("SIZE"); width: TableMetrics.sizeWidth; alignment: Qt.AlignRight }
+        ColumnSpec { title: qsTr("KIND"); width: LargeFilesMetrics.kindWidth },
+        ColumnSpec { title: qsTr("LAST OPENED"); width: LargeFilesMetrics.lastOpenedWidth },
+        ColumnSpec { title: qsTr("SIZE"); width: LargeFilesMetrics.sizeWidth; alignment: Qt.AlignRight }
     ]
     onAction: model.performAction()
 

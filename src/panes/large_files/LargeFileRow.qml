@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.LargeFiles
+import Klarvik.Panes
 
 /// One file: its name above its folder, and what there is to know of it.
 ToolDetailRow {
@@ -22,7 +22,7 @@ ToolDetailRow {
     path: url
     tint: isSelected ? 0.06 : hovered ? 0.03 : 0
     indent: 0
-    implicitHeight: TableMetrics.rowHeight
+    implicitHeight: LargeFilesMetrics.rowHeight
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: isSelected
@@ -36,21 +36,21 @@ ToolDetailRow {
     }
 
     KitText {
-        Layout.preferredWidth: TableMetrics.kindWidth
+        Layout.preferredWidth: LargeFilesMetrics.kindWidth
         text: root.kind
         size: 12
         color: Theme.textSecondary
     }
 
     KitText {
-        Layout.preferredWidth: TableMetrics.lastOpenedWidth
+        Layout.preferredWidth: LargeFilesMetrics.lastOpenedWidth
         text: root.lastOpened
         size: 12
         color: Theme.textSecondary
     }
 
     Figure {
-        Layout.preferredWidth: TableMetrics.sizeWidth
+        Layout.preferredWidth: LargeFilesMetrics.sizeWidth
         text: root.size
         isStrong: true
     }

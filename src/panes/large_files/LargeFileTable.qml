@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.LargeFiles
+import Klarvik.Panes
 
 /// The files. Space and Return select.
 RowList {
@@ -16,7 +16,7 @@ RowList {
     }
 
     name: qsTr("Large files")
-    rowHeight: TableMetrics.rowHeight
+    rowHeight: LargeFilesMetrics.rowHeight
     model: root.pane.rows
     onActivated: row => root.pane.toggleSelection(row)
     onToggled: row => root.pane.toggleSelection(row)

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Privacy
+import Klarvik.Panes
 
 /// The Privacy section: the trails found, and what clearing each of them costs.
 ToolPane {

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.Privacy
+import Klarvik.Panes
 
 /// The heading of a section, or one trail in it.
 ToolDetailRow {

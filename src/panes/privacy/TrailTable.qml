@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Privacy
+import Klarvik.Panes
 
 /// The trails found, by section. Space and Return select.
 RowList {

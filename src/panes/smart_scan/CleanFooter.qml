@@ -1,6 +1,6 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SmartScan
+import Klarvik.Panes
 
 /// What is selected, what becomes of it, and the button that does it.
 ToolFooter {

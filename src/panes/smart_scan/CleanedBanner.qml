@@ -1,6 +1,6 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SmartScan
+import Klarvik.Panes
 
 /// What the last clean freed, and the way back from it.
 ResultBanner {

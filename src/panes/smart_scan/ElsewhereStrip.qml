@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SmartScan
+import Klarvik.Panes
 
 /// What the other tools have found, each a way to its section.
 Item {

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SmartScan
+import Klarvik.Panes
 
 /// One category of a running scan: found already, or being measured.
 RowArrival {
@@ -15,7 +15,7 @@ RowArrival {
 
     readonly property bool isInProgress: safety === ScanningTableModel.InProgress
 
-    implicitHeight: TableMetrics.rowHeight
+    implicitHeight: SmartScanMetrics.rowHeight
     Accessible.role: Accessible.ListItem
     Accessible.name: root.description
 
@@ -23,7 +23,7 @@ RowArrival {
         anchors.fill: parent
         anchors.leftMargin: Theme.sidePadding
         anchors.rightMargin: Theme.sidePadding
-        spacing: TableMetrics.columnSpacing
+        spacing: SmartScanMetrics.columnSpacing
 
         KitText {
             Layout.fillWidth: true
@@ -33,7 +33,7 @@ RowArrival {
         }
 
         Item {
-            Layout.preferredWidth: TableMetrics.safetyWidth
+            Layout.preferredWidth: SmartScanMetrics.safetyWidth
             Layout.fillHeight: true
 
             SafetyTag {
@@ -54,12 +54,12 @@ RowArrival {
         }
 
         Figure {
-            Layout.preferredWidth: TableMetrics.itemsWidth
+            Layout.preferredWidth: SmartScanMetrics.itemsWidth
             text: root.items
         }
 
         Figure {
-            Layout.preferredWidth: TableMetrics.sizeWidth
+            Layout.preferredWidth: SmartScanMetrics.sizeWidth
             text: root.size
             isStrong: !root.isInProgress
         }

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SmartScan
+import Klarvik.Panes
 
 /// One row of the review: a category, one of its items, or the row that shows the rest.
 ToolGroupRow {
@@ -34,7 +34,7 @@ ToolGroupRow {
     showsLeading: !isShowMore
     tint: hovered ? 0.03 : isCategory ? 0 : 0.02
     indent: isCategory ? 0 : 26
-    implicitHeight: TableMetrics.rowHeight
+    implicitHeight: SmartScanMetrics.rowHeight
     Accessible.role: isShowMore ? Accessible.Button : isCategory ? Accessible.TreeItem : Accessible.CheckBox
     Accessible.checkable: !isShowMore
     Accessible.checked: selection === ReviewTableModel.All
@@ -48,7 +48,7 @@ ToolGroupRow {
     }
 
     Item {
-        Layout.preferredWidth: TableMetrics.safetyWidth
+        Layout.preferredWidth: SmartScanMetrics.safetyWidth
         Layout.fillHeight: true
         visible: root.isCategory
 
@@ -59,7 +59,7 @@ ToolGroupRow {
     }
 
     Figure {
-        Layout.preferredWidth: TableMetrics.itemsWidth
+        Layout.preferredWidth: SmartScanMetrics.itemsWidth
         visible: root.isCategory
         text: root.items
     }
@@ -71,7 +71,7 @@ ToolGroupRow {
     }
 
     Figure {
-        Layout.preferredWidth: TableMetrics.sizeWidth
+        Layout.preferredWidth: SmartScanMetrics.sizeWidth
         visible: !root.isShowMore
         text: root.size
         isStrong: root.isCategory

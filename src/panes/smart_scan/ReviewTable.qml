@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SmartScan
+import Klarvik.Panes
 
 /// What a scan found. Space selects, Return opens, closes or shows the rest.
 ColumnLayout {
@@ -24,7 +24,7 @@ ColumnLayout {
 
         RowList {
             name: qsTr("Categories found")
-            rowHeight: TableMetrics.rowHeight
+            rowHeight: SmartScanMetrics.rowHeight
             model: root.model
             onActivated: row => root.model.activate(row)
             onToggled: row => root.model.toggleSelection(row)

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SmartScan
+import Klarvik.Panes
 
 /// The categories that a scan goes through, for a pane that has not scanned yet.
 Item {

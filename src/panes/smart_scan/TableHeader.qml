@@ -1,6 +1,6 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SmartScan
+import Klarvik.Panes
 
 /// The column headings that the tables of this pane share.
 ColumnHeader {
@@ -14,16 +14,16 @@ ColumnHeader {
         },
         ColumnSpec {
             title: qsTr("SAFETY")
-            width: TableMetrics.safetyWidth
+            width: SmartScanMetrics.safetyWidth
         },
         ColumnSpec {
             title: qsTr("ITEMS")
-            width: TableMetrics.itemsWidth
+            width: SmartScanMetrics.itemsWidth
             alignment: Qt.AlignRight
         },
         ColumnSpec {
             title: qsTr("SIZE")
-            width: TableMetrics.sizeWidth
+            width: SmartScanMetrics.sizeWidth
             alignment: Qt.AlignRight
         }
     ]

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Storage
+import Klarvik.Panes
 
 /// What each clean reclaimed, oldest first.
 Item {

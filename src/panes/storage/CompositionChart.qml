@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.Storage
+import Klarvik.Panes
 
 /// The ring of what fills the disk, and beside it what each slice stands for.
 RowLayout {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Storage
+import Klarvik.Panes
 
 /// The Storage section: what fills the disk, what grows, and what cleaning has reclaimed.
 ToolPane {

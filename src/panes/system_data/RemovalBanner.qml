@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SystemData
+import Klarvik.Panes
 
 /// What the last removal moved, and whether its space is back.
 ResultBanner {

@@ -1,6 +1,6 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SystemData
+import Klarvik.Panes
 
 /// A verdict in words, in the colour that goes with it.
 KitText {

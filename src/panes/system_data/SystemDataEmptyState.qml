@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SystemData
+import Klarvik.Panes
 
 /// What an analysis will look at, for a pane that has not made one yet.
 Item {

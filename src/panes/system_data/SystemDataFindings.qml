@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SystemData
+import Klarvik.Panes
 
 /// The chart, and below it what was found. Space selects, Return opens and closes.
 ColumnLayout {

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SystemData
+import Klarvik.Panes
 
 /// One row of the findings: a kind, what an open kind is, or one of its items.
 RowFrame {

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.SystemData
+import Klarvik.Panes
 
 /// The ring of the kinds, whose legend are the rows below it, and what of it can go.
 Item {

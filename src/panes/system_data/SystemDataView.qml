@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.SystemData
+import Klarvik.Panes
 
 /// The System Data section: what hides in the space of that name, and a footer to move some of it
 /// to the Trash.

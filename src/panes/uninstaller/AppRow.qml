@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.Uninstaller
+import Klarvik.Panes
 
 /// One installed application.
 RowFrame {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Uninstaller
+import Klarvik.Panes
 
 /// Every installed application, or those searched for. Return and Space open one.
 RowList {

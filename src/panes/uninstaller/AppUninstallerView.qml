@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Uninstaller
+import Klarvik.Panes
 
 /// The Uninstaller section: every application, or the opened one with what it left behind.
 ToolPane {

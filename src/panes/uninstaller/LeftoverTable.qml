@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Uninstaller
+import Klarvik.Panes
 
 /// What the opened application has left behind, by category. Space and Return select.
 RowList {

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.MenuBar
+import Klarvik.Shell
 
 /// What the last scan found: the first categories, and how much it is in all.
 Rectangle {

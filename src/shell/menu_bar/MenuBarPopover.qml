@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Window
 import Klarvik.Kit
-import Klarvik.MenuBar
+import Klarvik.Shell
 
 /// The window of the status item.
 Window {

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.MenuBar
+import Klarvik.Shell
 
 /// What was found, and the actions that are used most. Tab and the arrow keys move through those.
 FocusScope {

@@ -9,8 +9,6 @@
 
 #include "shell/menu_bar/popover_place.h"
 
-void qml_register_types_Klarvik_MenuBar();
-
 namespace klarvik {
 namespace {
 
@@ -34,8 +32,7 @@ void grabPointer(QWindow& window) {
 }  // namespace
 
 QuickPopover::QuickPopover(QQmlEngine& engine, Clock& clock) : _clock(clock), _component(&engine) {
-  qml_register_types_Klarvik_MenuBar();
-  _component.loadUrl(QUrl("qrc:/Klarvik/MenuBar/MenuBarPopover.qml"));
+  _component.loadUrl(QUrl("qrc:/Klarvik/Shell/MenuBarPopover.qml"));
 }
 
 QuickPopover::~QuickPopover() = default;

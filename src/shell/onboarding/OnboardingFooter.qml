@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Onboarding
+import Klarvik.Shell
 
 /// Where one is in the first run, and the way on.
 Item {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Onboarding
+import Klarvik.Shell
 
 /// The first run: a page at a time, and below it where one is and the way on.
 FocusScope {

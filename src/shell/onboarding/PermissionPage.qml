@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Onboarding
+import Klarvik.Shell
 
 /// Asks for the one permission, and follows it.
 Item {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Onboarding
+import Klarvik.Shell
 
 /// What the first scan will do, and how things stand before it.
 Item {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Settings
+import Klarvik.Shell
 
 /// The General page of the settings.
 ToolScrollView {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Settings
+import Klarvik.Shell
 
 /// A strip of tabs, and the page of the selected one.
 Item {

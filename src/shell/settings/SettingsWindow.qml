@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Window
 import Klarvik.Kit
-import Klarvik.Settings
+import Klarvik.Shell
 
 /// The window of the settings.
 Window {

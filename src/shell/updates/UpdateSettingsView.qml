@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Updates
+import Klarvik.Shell
 
 /// The Updates page of the settings.
 Item {

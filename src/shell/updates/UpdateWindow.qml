@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Window
 import Klarvik.Kit
-import Klarvik.Updates
+import Klarvik.Shell
 
 /// The updater's own window. As high as what it has to say.
 Window {
