@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

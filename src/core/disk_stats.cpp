@@ -1,5 +1,7 @@
 #include "core/disk_stats.h"
 
+#include "platform/volume.h"
+
 namespace klarvik {
 
 DiskStats readDiskStats(const Volume& volume) {

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "platform/volume.h"
-
 namespace klarvik {
+
+class Volume;
 
 /// How full a volume is, in bytes.
 struct DiskStats {

@@ -1,5 +1,7 @@
 #include "core/entry_identity.h"
 
+#include "platform/file_system.h"
+
 namespace klarvik {
 
 std::optional<EntryIdentity> entryIdentity(const FileSystem& files, const Path& path) {

@@ -2,9 +2,12 @@
 
 #include <optional>
 
-#include "platform/file_system.h"
+#include "platform/file_attributes.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class FileSystem;
 
 /// What tells an entry of the disk from another one that has come to the same name since. The file
 /// system may give the number of a file that is gone to a new one, so the date counts as well.

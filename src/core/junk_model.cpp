@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "platform/formatting.h"
+
 namespace klarvik {
 namespace {
 
@@ -105,14 +107,6 @@ std::int64_t addBytes(std::int64_t left, std::int64_t right) {
   std::int64_t sum = 0;
   if (__builtin_add_overflow(left, right, &sum)) std::abort();
   return sum;
-}
-
-std::string appVersion(const ApplicationInfo& info) {
-  return informationText(info, "CFBundleShortVersionString").value_or("0.0.0");
-}
-
-std::string buildNumber(const ApplicationInfo& info) {
-  return informationText(info, "CFBundleVersion").value_or("0");
 }
 
 }  // namespace klarvik

@@ -10,11 +10,12 @@
 
 #include "core/entry_identity.h"
 #include "core/uuid.h"
-#include "platform/application_info.h"
-#include "platform/file_system.h"
-#include "platform/formatting.h"
+#include "platform/date.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// Whether the items of a category may be selected without asking. Shown as Safe and Review.
 enum class SafetyLevel { safe, caution };
@@ -73,10 +74,5 @@ struct CleanCategory {
 
 /// A sum of sizes. One that no longer fits 64 bits is a fault of the program, and ends it.
 [[nodiscard]] std::int64_t addBytes(std::int64_t left, std::int64_t right);
-
-/// "0.0.0" where the information has no text for it.
-[[nodiscard]] std::string appVersion(const ApplicationInfo& info);
-/// "0" where the information has no text for it.
-[[nodiscard]] std::string buildNumber(const ApplicationInfo& info);
 
 }  // namespace klarvik

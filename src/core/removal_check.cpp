@@ -1,5 +1,7 @@
 #include "core/removal_check.h"
 
+#include "platform/file_system.h"
+
 namespace klarvik {
 
 bool mayRemove(const FileSystem& files, const Path& named, const DeletionScope& scope) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/deletion_guard.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
 

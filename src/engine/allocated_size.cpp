@@ -1,6 +1,7 @@
 #include "engine/allocated_size.h"
 
 #include "core/junk_model.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
 

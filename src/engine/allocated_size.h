@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <stop_token>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class FileSystem;
 
 /// The size of a thing in a Smart Scan: bytes allocated on the disk, hidden files and the contents
 /// of packages inside it left out, links not followed. 0 for a link and for what cannot be read; a

@@ -3,6 +3,7 @@
 #include "engine/category_scanners.h"
 
 #include "engine/allocated_size.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
 

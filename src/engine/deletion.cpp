@@ -6,6 +6,8 @@
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
 #include "engine/sliding_group.h"
+#include "platform/file_system.h"
+#include "platform/trash.h"
 
 namespace klarvik {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "engine/category_scanners.h"
+#include "platform/user_defaults.h"
 
 namespace klarvik {
 

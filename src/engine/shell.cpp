@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "engine/tool_text.h"
+#include "platform/command_runner.h"
 #include "platform/unicode_text.h"
 
 namespace klarvik {

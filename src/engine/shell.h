@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/command_runner.h"
-
 namespace klarvik {
+
+class CommandRunner;
 
 /// The one way to an outside tool: what the command line prints, without white space at both ends.
 /// Empty when it cannot be started, prints nothing or prints what is not UTF-8. Waits for its end,

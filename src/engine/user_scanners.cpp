@@ -9,6 +9,8 @@
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
 #include "engine/tool_text.h"
+#include "platform/formatting.h"
+#include "platform/trash.h"
 
 namespace klarvik {
 

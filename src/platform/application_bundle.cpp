@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "platform/file_system.h"
 #include "platform/property_list.h"
 
 namespace klarvik {

@@ -3,9 +3,11 @@
 #include <optional>
 #include <string>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class FileSystem;
 
 /// What an application says of itself, in the property list that lies in its folder. All texts are
 /// UTF-8; what they hold beyond that is up to the application, which may be anybody's.

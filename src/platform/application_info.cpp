@@ -29,6 +29,14 @@ ApplicationInfo builtInApplicationInfo() {
   return info;
 }
 
+std::string appVersion(const ApplicationInfo& info) {
+  return informationText(info, "CFBundleShortVersionString").value_or("0.0.0");
+}
+
+std::string buildNumber(const ApplicationInfo& info) {
+  return informationText(info, "CFBundleVersion").value_or("0");
+}
+
 std::string websitePage(const ApplicationInfo& info, const std::string& page) {
   const std::string website = informationText(info, websiteKey).value_or("");
   if (website.empty() || page.empty()) return website;

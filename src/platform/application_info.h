@@ -9,7 +9,9 @@
 namespace klarvik {
 
 /// What the program says of itself ("CFBundleShortVersionString" and the like).
-using ApplicationInfo = std::map<std::string, DefaultsValue>;
+struct ApplicationInfo : std::map<std::string, DefaultsValue> {
+  using map::map;
+};
 
 /// What was laid down when this program was built.
 [[nodiscard]] ApplicationInfo builtInApplicationInfo();
@@ -17,6 +19,11 @@ using ApplicationInfo = std::map<std::string, DefaultsValue>;
 /// Nothing where there is no text for the key.
 [[nodiscard]] std::optional<std::string> informationText(const ApplicationInfo& info,
                                                          const std::string& key);
+
+/// "0.0.0" where the information has no text for it.
+[[nodiscard]] std::string appVersion(const ApplicationInfo& info);
+/// "0" where the information has no text for it.
+[[nodiscard]] std::string buildNumber(const ApplicationInfo& info);
 
 /// The address of a page of the program's website; of its front page where `page` is empty. Empty
 /// when this build has no website.

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -11,34 +9,10 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/date.h"
+#include "platform/file_attributes.h"
+#include "platform/path.h"
 
 namespace klarvik {
-
-/// A path holds the bytes of the names as the disk has them; they need not be UTF-8.
-using Path = std::filesystem::path;
-
-enum class FileKind { directory, regular, symbolicLink, other };
-
-/// What makes a file or folder the same one under all of its names.
-struct FileIdentity {
-  std::uint64_t device = 0;
-  std::uint64_t inode = 0;
-
-  auto operator<=>(const FileIdentity&) const = default;
-};
-
-/// What one `statx` tells of an entry itself: a symbolic link is never followed.
-struct FileAttributes {
-  FileKind kind = FileKind::other;
-  std::int64_t allocatedBytes = 0;  ///< bytes taken on the disk; 0 for a directory
-  std::int64_t logicalBytes = 0;    ///< length of the content
-  std::optional<Date> modified;
-  std::optional<Date> accessed;
-  std::optional<Date> created;
-  std::optional<FileIdentity> identity = std::nullopt;  ///< nothing where files have none
-  std::uint64_t names = 1;  ///< how many names the disk keeps for the file
-};
 
 struct WalkOptions {
   bool skipHidden = false;           ///< leave out entries whose name begins with a dot

@@ -1,22 +1,24 @@
 #pragma once
 
-#include "platform/application_info.h"
-#include "platform/clock.h"
-#include "platform/command_runner.h"
-#include "platform/file_system.h"
-#include "platform/formatting.h"
-#include "platform/notification_center.h"
-#include "platform/open_panel.h"
-#include "platform/pasteboard.h"
-#include "platform/recent_documents.h"
-#include "platform/status_item.h"
-#include "platform/trash.h"
-#include "platform/updater.h"
-#include "platform/user_defaults.h"
-#include "platform/volume.h"
-#include "platform/workspace.h"
-
 namespace klarvik {
+
+// Declared only: whoever calls one of these includes its header, so that a change to one interface
+// compiles what uses it and not all that is handed the platform.
+struct ApplicationInfo;
+class Clock;
+class CommandRunner;
+class FileSystem;
+class Formatting;
+class NotificationCenter;
+class OpenPanel;
+class Pasteboard;
+class RecentDocuments;
+class StatusItem;
+class Trash;
+class Updater;
+class UserDefaults;
+class Volume;
+class Workspace;
 
 /// What the engines may ask of the system they run on. Made once at start, and handed down by
 /// reference; whoever holds it must not outlive what it refers to.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

@@ -4,6 +4,7 @@
 
 #include "core/deletion_guard.h"
 #include "engine/allocated_size.h"
+#include "platform/file_system.h"
 #include "probe/command.h"
 #include "probe/report.h"
 

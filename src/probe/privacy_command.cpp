@@ -1,6 +1,8 @@
 #include <iostream>
 
 #include "core/junk_model.h"
+#include "platform/file_system.h"
+#include "platform/pasteboard.h"
 #include "probe/command.h"
 #include "probe/report.h"
 #include "tools/privacy_scanner.h"

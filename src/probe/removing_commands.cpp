@@ -2,6 +2,7 @@
 
 #include <iostream>
 
+#include "platform/file_system.h"
 #include "probe/command.h"
 #include "probe/report.h"
 

@@ -1,5 +1,6 @@
 #include "shell/disk_block.h"
 
+#include "platform/volume.h"
 #include "shell/disk_texts.h"
 
 namespace klarvik {

@@ -1,5 +1,7 @@
 #include "shell/full_disk_access_view.h"
 
+#include "platform/application_info.h"
+#include "platform/user_defaults.h"
 #include "state/change_to.h"
 
 namespace klarvik {

@@ -5,7 +5,6 @@
 #include <QString>
 #include <vector>
 
-#include "platform/formatting.h"
 #include "shell/landed_pane.h"
 #include "state/app_state.h"
 #include "state/navigator.h"
@@ -13,6 +12,8 @@
 #include "state/tool_activity.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// The sections of the sidebar in their order, each group below its heading. A section without a
 /// pane is not listed, nor is a heading without a section. Main thread only.

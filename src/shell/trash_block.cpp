@@ -1,5 +1,7 @@
 #include "shell/trash_block.h"
 
+#include "platform/trash.h"
+#include "platform/workspace.h"
 #include "shell/trash_texts.h"
 
 namespace klarvik {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "panes/kit/kit.h"
+#include "platform/file_system.h"
 
 void qml_register_types_Klarvik_Panes();
 void qml_register_types_Klarvik_Shell();

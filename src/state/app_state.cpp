@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/formatting.h"
 #include "state/change_to.h"
 #include "state/linked_stop.h"
 #include "state/report_mailbox.h"

@@ -3,6 +3,8 @@
 #include <unordered_map>
 #include <utility>
 
+#include "platform/notification_center.h"
+#include "platform/user_defaults.h"
 #include "state/app_state.h"
 #include "state/change_to.h"
 #include "state/linked_stop.h"

@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "platform/notification_center.h"
 #include "state/change_to.h"
 #include "state/section.h"
 #include "state/shared_state.h"

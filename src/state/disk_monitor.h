@@ -7,6 +7,7 @@
 #include <stop_token>
 
 #include "core/disk_stats.h"
+#include "platform/notification_center.h"
 #include "platform/platform.h"
 #include "state/repeating_timer.h"
 

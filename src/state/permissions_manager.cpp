@@ -5,6 +5,9 @@
 #include <chrono>
 #include <utility>
 
+#include "platform/file_system.h"
+#include "platform/path.h"
+#include "platform/workspace.h"
 #include "state/change_to.h"
 #include "state/shared_state.h"
 #include "state/sleep_for.h"

@@ -7,6 +7,7 @@
 #include <stop_token>
 #include <vector>
 
+#include "platform/path.h"
 #include "platform/platform.h"
 #include "state/repeating_timer.h"
 

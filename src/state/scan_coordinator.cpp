@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/user_defaults.h"
 #include "state/shared_state.h"
 #include "state/sleep_for.h"
 

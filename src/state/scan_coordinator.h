@@ -12,13 +12,14 @@
 #include <string>
 #include <vector>
 
-#include "platform/clock.h"
 #include "platform/date.h"
-#include "platform/user_defaults.h"
 #include "state/permissions_manager.h"
 #include "state/section.h"
 
 namespace klarvik {
+
+class Clock;
+class UserDefaults;
 
 /// Lets the tools that scan by themselves do so one at a time, and keeps the last total of each
 /// tool. Main thread only. Scans that the user starts take no turn.

@@ -6,11 +6,12 @@
 #include <vector>
 
 #include "core/junk_model.h"
-#include "platform/clock.h"
-#include "platform/user_defaults.h"
 #include "state/scan_history_entry.h"
 
 namespace klarvik {
+
+class Clock;
+class UserDefaults;
 
 /// The last 30 scans and the last 30 cleans, newest first, kept across restarts. Main thread only;
 /// an entry is saved before the recording call returns.

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "engine/allocated_size.h"
+#include "platform/notification_center.h"
+#include "platform/trash.h"
 #include "state/change_to.h"
 #include "state/report_mailbox.h"
 #include "state/section.h"

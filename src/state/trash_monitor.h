@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "engine/scanner_engine.h"
+#include "platform/notification_center.h"
 #include "platform/platform.h"
 #include "state/engine_work.h"
 #include "state/repeating_timer.h"

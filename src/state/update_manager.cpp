@@ -2,6 +2,9 @@
 
 #include <utility>
 
+#include "platform/application_info.h"
+#include "platform/formatting.h"
+#include "platform/notification_center.h"
 #include "state/change_to.h"
 #include "state/shared_state.h"
 #include "state/update_error_text.h"

@@ -6,6 +6,7 @@
 #include <string>
 #include <variant>
 
+#include "platform/notification_center.h"
 #include "platform/platform.h"
 #include "platform/updater.h"
 

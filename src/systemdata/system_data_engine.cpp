@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "engine/allocated_size.h"
+#include "platform/volume.h"
 #include "systemdata/overlaps.h"
 #include "systemdata/pass_table.h"
 #include "systemdata/system_data_search.h"

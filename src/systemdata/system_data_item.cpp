@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/junk_model.h"
+#include "platform/formatting.h"
 
 namespace klarvik {
 

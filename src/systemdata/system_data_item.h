@@ -9,11 +9,12 @@
 #include <vector>
 
 #include "core/uuid.h"
-#include "platform/file_system.h"
-#include "platform/formatting.h"
+#include "platform/path.h"
 #include "systemdata/system_data_sub_category.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// One finding of the analysis.
 struct SystemDataItem {

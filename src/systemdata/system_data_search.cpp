@@ -8,6 +8,8 @@
 #include "engine/local_snapshots.h"
 #include "engine/shell.h"
 #include "engine/tool_text.h"
+#include "platform/file_attributes.h"
+#include "platform/file_system.h"
 #include "systemdata/friendly_name.h"
 #include "systemdata/snapshot_listing.h"
 

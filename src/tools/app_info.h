@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "core/uuid.h"
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

@@ -1,5 +1,7 @@
 #include "tools/content_digest.h"
 
+#include "platform/file_system.h"
+
 namespace klarvik {
 
 std::string hexadecimal(const Digest& digest) {

@@ -9,9 +9,11 @@
 #include <span>
 #include <string>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class FileSystem;
 
 /// A SHA-256.
 using Digest = std::array<unsigned char, 32>;

@@ -7,7 +7,7 @@
 
 #include "core/rgb_color.h"
 #include "platform/date.h"
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

@@ -8,6 +8,7 @@
 #include "core/junk_model.h"
 #include "core/storage_palette.h"
 #include "engine/allocated_size.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
 

@@ -4,6 +4,8 @@
 #include <memory>
 #include <optional>
 
+#include "platform/file_attributes.h"
+#include "platform/file_system.h"
 #include "tools/content_digest.h"
 
 namespace klarvik {

@@ -3,9 +3,11 @@
 #include <stop_token>
 #include <string_view>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class FileSystem;
 
 /// The question to ask right before a copy is removed. May be called from any thread; reads both
 /// files, and holds two small buffers meanwhile.

@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "core/uuid.h"
-#include "platform/file_system.h"
+#include "platform/date.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "platform/file_system.h"
 #include "platform/packages.h"
 #include "tools/found_files.h"
 #include "tools/parallel_hashing.h"

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/file_system.h"
 #include "tools/duplicate_group.h"
 
 namespace klarvik {

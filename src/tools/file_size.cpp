@@ -1,6 +1,8 @@
 #include "tools/file_size.h"
 
 #include "core/junk_model.h"
+#include "platform/file_attributes.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
 

@@ -2,9 +2,11 @@
 
 #include <cstdint>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class FileSystem;
 
 // Sizes by the length of the content, in bytes: what the tools show for things that they list. What
 // the disk gives for them is another measure, `allocatedSize`. May be called from any thread.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/formatting.h"
 #include "platform/unicode_text.h"
 
 namespace klarvik {

@@ -8,10 +8,12 @@
 #include <vector>
 
 #include "core/uuid.h"
-#include "platform/file_system.h"
-#include "platform/formatting.h"
+#include "platform/date.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// One file that a walk for large files listed.
 struct LargeFile {

@@ -4,6 +4,9 @@
 #include <array>
 #include <utility>
 
+#include "platform/file_attributes.h"
+#include "platform/file_system.h"
+
 namespace klarvik {
 
 namespace {

@@ -5,6 +5,7 @@
 #include <stop_token>
 #include <string>
 
+#include "platform/file_system.h"
 #include "tools/large_file.h"
 
 namespace klarvik {

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "core/uuid.h"
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

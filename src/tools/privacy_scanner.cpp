@@ -6,6 +6,9 @@
 
 #include "core/junk_model.h"
 #include "core/removal_check.h"
+#include "platform/file_system.h"
+#include "platform/pasteboard.h"
+#include "platform/recent_documents.h"
 #include "tools/file_size.h"
 
 namespace klarvik {

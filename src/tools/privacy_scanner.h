@@ -6,12 +6,14 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/file_system.h"
-#include "platform/pasteboard.h"
-#include "platform/recent_documents.h"
+#include "platform/path.h"
 #include "tools/privacy_item.h"
 
 namespace klarvik {
+
+class FileSystem;
+class Pasteboard;
+class RecentDocuments;
 
 /// What a clearing did, as it is told to the user.
 struct PrivacyClearance {

@@ -6,6 +6,8 @@
 #include "core/junk_model.h"
 #include "core/removal_check.h"
 #include "platform/application_bundle.h"
+#include "platform/file_system.h"
+#include "platform/trash.h"
 #include "tools/file_size.h"
 #include "tools/residual_matcher.h"
 

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "core/deletion_guard.h"
+#include "platform/notification_center.h"
+#include "platform/open_panel.h"
 #include "state/change_to.h"
 #include "state/report_mailbox.h"
 #include "state/section.h"

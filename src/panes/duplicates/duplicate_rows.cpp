@@ -10,6 +10,7 @@
 #include "panes/kit/kit_enums.h"
 #include "panes/kit/row_runs.h"
 #include "panes/kit/row_text.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
 namespace {

@@ -5,6 +5,8 @@
 #include <unordered_set>
 #include <utility>
 
+#include "platform/file_system.h"
+#include "platform/trash.h"
 #include "tools/duplicate_check.h"
 
 namespace klarvik {

@@ -6,9 +6,10 @@
 #include <unordered_map>
 
 #include "engine/scanner_engine.h"
-#include "platform/trash.h"
 
 namespace klarvik {
+
+class Trash;
 
 /// The copy of a group that stays.
 struct KeptCopy {

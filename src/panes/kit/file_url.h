@@ -3,7 +3,7 @@
 #include <QString>
 #include <QUrl>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

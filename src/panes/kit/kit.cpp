@@ -12,6 +12,8 @@
 #include "panes/kit/list_keys.h"
 #include "panes/kit/loader_timeline.h"
 #include "panes/kit/row_text.h"
+#include "platform/formatting.h"
+#include "platform/workspace.h"
 
 void qml_register_types_Klarvik_Kit();
 

@@ -9,14 +9,15 @@
 #include "panes/kit/donut.h"
 #include "panes/kit/motion_preference.h"
 #include "panes/kit/tool_rules.h"
-#include "platform/clock.h"
-#include "platform/formatting.h"
-#include "platform/workspace.h"
 
 class QJSEngine;
 class QQmlEngine;
 
 namespace klarvik {
+
+class Clock;
+class Formatting;
+class Workspace;
 
 /// What the elements need of the platform. The engine must not outlive what this refers to.
 struct KitServices {

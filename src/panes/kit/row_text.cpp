@@ -3,6 +3,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include "platform/formatting.h"
+
 namespace klarvik {
 
 QString printableText(std::string_view bytes) {

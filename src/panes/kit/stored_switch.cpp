@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/user_defaults.h"
+
 namespace klarvik {
 
 StoredSwitch::StoredSwitch(UserDefaults& defaults, NotificationCenter& notifications,

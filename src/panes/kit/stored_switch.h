@@ -9,6 +9,8 @@
 
 namespace klarvik {
 
+class UserDefaults;
+
 /// A boolean preference as a box on the screen: written at once, and followed when anybody else
 /// changes it. A value that cannot be stored leaves it as it was. Main thread only; what it is
 /// handed must outlive it.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "panes/kit/row_text.h"
+#include "platform/formatting.h"
 
 namespace klarvik {
 namespace {

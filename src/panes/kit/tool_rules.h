@@ -7,9 +7,10 @@
 
 #include "engine/scanner_engine.h"
 #include "panes/kit/kit_enums.h"
-#include "platform/formatting.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// A removal's progress on its way through QML, and whether there is one at all.
 struct RemovalProgress {

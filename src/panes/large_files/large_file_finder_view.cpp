@@ -7,6 +7,7 @@
 #include <numeric>
 #include <utility>
 
+#include "platform/notification_center.h"
 #include "state/change_to.h"
 #include "state/report_mailbox.h"
 #include "state/section.h"

@@ -8,6 +8,8 @@
 #include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "panes/large_files/large_files_texts.h"
+#include "platform/clock.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
 namespace {

@@ -7,6 +7,7 @@
 #include "core/junk_model.h"
 #include "panes/kit/row_text.h"
 #include "panes/privacy/privacy_texts.h"
+#include "platform/notification_center.h"
 #include "state/report_mailbox.h"
 #include "state/section.h"
 

@@ -8,10 +8,11 @@
 #include <variant>
 #include <vector>
 
-#include "platform/formatting.h"
 #include "tools/privacy_item.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// The trails that a scan found, as one flat list: for each section that holds
 /// one a heading, and below it the trails, largest first. Main thread only.

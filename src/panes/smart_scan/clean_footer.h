@@ -5,10 +5,11 @@
 #include <QString>
 
 #include "panes/kit/tool_rules.h"
-#include "platform/formatting.h"
 #include "state/app_state.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// What is selected, what will become of it, and how far a running clean is. Main thread only.
 class CleanFooter : public QObject {

@@ -5,12 +5,13 @@
 #include <QObject>
 #include <QString>
 
-#include "platform/formatting.h"
 #include "state/app_state.h"
 #include "state/disk_monitor.h"
 #include "state/trash_monitor.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// The result of the last clean, and the way back from it. Main thread only.
 class CleanedBanner : public QObject {

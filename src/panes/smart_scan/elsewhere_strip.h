@@ -6,12 +6,13 @@
 #include <array>
 #include <vector>
 
-#include "platform/formatting.h"
 #include "state/navigator.h"
 #include "state/scan_coordinator.h"
 #include "state/tool_activity.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// What the other tools have found. Main thread only.
 class ElsewhereStrip : public QAbstractListModel {

@@ -7,10 +7,11 @@
 #include <variant>
 #include <vector>
 
-#include "platform/formatting.h"
 #include "state/app_state.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// A line of the table that grows while a scan runs.
 struct FoundRow {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "panes/smart_scan/smart_scan_texts.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
 

@@ -6,11 +6,12 @@
 
 #include "panes/kit/donut.h"
 #include "panes/storage/growth.h"
-#include "platform/formatting.h"
 #include "state/scan_history.h"
 #include "tools/disk_composition.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// One share of the disk: a slice of the chart, and the row that explains it.
 struct StorageLegendRow {

@@ -8,9 +8,10 @@
 #include <vector>
 
 #include "panes/system_data/system_data_findings.h"
-#include "platform/formatting.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// The findings as one flat list for a virtualised view: a row for each kind, and below an open one
 /// an explanation with the column words, and its items. Rows come, move and go one by one, so that

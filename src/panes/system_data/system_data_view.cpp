@@ -8,6 +8,7 @@
 #include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"
 #include "panes/system_data/system_data_texts.h"
+#include "platform/file_system.h"
 #include "state/change_to.h"
 #include "state/report_mailbox.h"
 #include "state/section.h"

@@ -6,10 +6,11 @@
 #include <cstddef>
 #include <vector>
 
-#include "platform/formatting.h"
 #include "tools/app_info.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// The installed applications, largest first, and of them those whose name the user searches for.
 /// Rows come and go one by one, so that scroll position and focus survive. Main thread only.

@@ -6,6 +6,7 @@
 
 #include "core/junk_model.h"
 #include "panes/uninstaller/uninstaller_texts.h"
+#include "platform/notification_center.h"
 #include "state/section.h"
 #include "tools/uninstaller_engine.h"
 

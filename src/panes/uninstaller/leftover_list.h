@@ -8,10 +8,11 @@
 #include <variant>
 #include <vector>
 
-#include "platform/formatting.h"
 #include "tools/app_info.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// What the opened application has left behind, as one flat list: for each category that has
 /// something a heading, and below it the leftovers, largest first. Main thread only.

@@ -4,6 +4,8 @@
 #include <QSysInfo>
 #include <QVersionNumber>
 
+#include "platform/file_system.h"
+
 namespace klarvik {
 namespace {
 

@@ -10,6 +10,7 @@
 #include "platform/desktop/xdg_login_item.h"
 #include "platform/desktop/xdg_workspace.h"
 #include "platform/linux/linux_platform.h"
+#include "platform/notification_center.h"
 #include "platform/platform.h"
 #include "platform/update/appcast_updater.h"
 

@@ -3,7 +3,7 @@
 #include <QFileSystemWatcher>
 #include <functional>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

@@ -1,5 +1,7 @@
 #include "platform/desktop/observed_user_defaults.h"
 
+#include "platform/notification_center.h"
+
 namespace klarvik {
 
 ObservedUserDefaults::ObservedUserDefaults(UserDefaults& stored, const Path& file,

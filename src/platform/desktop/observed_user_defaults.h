@@ -3,10 +3,11 @@
 #include <QObject>
 
 #include "platform/desktop/file_watch.h"
-#include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 
 namespace klarvik {
+
+class NotificationCenter;
 
 /// Preferences that are kept in a file, with `defaultsChangedNotification` posted after each change
 /// to them. Made and destroyed on the main thread.

@@ -6,6 +6,9 @@
 #include <QWindow>
 #include <utility>
 
+#include "platform/file_system.h"
+#include "platform/path.h"
+
 namespace klarvik {
 namespace {
 

@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <memory>
 
+#include "platform/file_system.h"
 #include "platform/open_panel.h"
 
 namespace klarvik {

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/file_system.h"
 #include "platform/login_item.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

@@ -3,8 +3,8 @@
 #include <chrono>
 #include <optional>
 
-#include "platform/file_system.h"
 #include "platform/linux/unique_fd.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

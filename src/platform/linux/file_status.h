@@ -5,7 +5,8 @@
 
 #include <optional>
 
-#include "platform/file_system.h"
+#include "platform/file_attributes.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

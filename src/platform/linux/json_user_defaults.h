@@ -5,7 +5,7 @@
 #include <mutex>
 #include <nlohmann/json_fwd.hpp>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 #include "platform/user_defaults.h"
 
 namespace klarvik {

@@ -1,5 +1,7 @@
 #include "platform/linux/linux_platform.h"
 
+#include "platform/application_info.h"
+
 namespace klarvik {
 
 LinuxPlatform::LinuxPlatform(const Path& root, const UserFolders& folders)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/application_info.h"
+#include "platform/formatting.h"
 #include "platform/linux/json_user_defaults.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_trash.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 #include "platform/volume.h"
 
 namespace klarvik {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 #include "platform/recent_documents.h"
 
 namespace klarvik {

@@ -3,7 +3,7 @@
 #include <mutex>
 #include <set>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

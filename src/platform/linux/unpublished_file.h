@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/file_system.h"
 #include "platform/linux/unique_fd.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

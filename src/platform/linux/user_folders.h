@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "platform/file_system.h"
+#include "platform/path.h"
 
 namespace klarvik {
 

@@ -7,11 +7,14 @@
 #include <array>
 #include <utility>
 
+#include "platform/application_info.h"
 #include "platform/base64.h"
 #include "platform/unicode_text.h"
 #include "platform/update/appcast.h"
 #include "platform/update/archive_signature.h"
 #include "platform/update/update_errors.h"
+#include "platform/user_defaults.h"
+#include "platform/workspace.h"
 
 namespace klarvik {
 namespace {

@@ -10,17 +10,18 @@
 #include <optional>
 #include <string>
 
-#include "platform/application_info.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "platform/linux/unpublished_file.h"
 #include "platform/update/https_fetch.h"
 #include "platform/update/update_choice.h"
 #include "platform/updater.h"
-#include "platform/user_defaults.h"
-#include "platform/workspace.h"
 
 namespace klarvik {
+
+class UserDefaults;
+class Workspace;
+struct ApplicationInfo;
 
 struct UpdaterOptions {
   Path downloads;             ///< logical; made where it is missing

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/user_defaults.h"
 #include "shell/menu_bar/menu_bar_rules.h"
 #include "state/change_to.h"
 

@@ -6,11 +6,12 @@
 #include <QObject>
 #include <QString>
 
-#include "platform/formatting.h"
 #include "state/app_state.h"
 #include "state/trash_monitor.h"
 
 namespace klarvik {
+
+class Formatting;
 
 struct MenuBarCategory {
   Q_GADGET

@@ -7,10 +7,11 @@
 #include <memory>
 #include <optional>
 
-#include "platform/clock.h"
 #include "shell/menu_bar/menu_bar_popover.h"
 
 namespace klarvik {
+
+class Clock;
 
 /// The popover as a window of its own. Esc closes it, and so does a press outside it.
 class QuickPopover final : public QObject, public MenuBarPopover {

@@ -3,6 +3,8 @@
 #include <QSysInfo>
 
 #include "core/junk_model.h"
+#include "platform/application_info.h"
+#include "platform/workspace.h"
 
 namespace klarvik {
 

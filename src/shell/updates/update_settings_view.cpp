@@ -2,6 +2,8 @@
 
 #include "core/junk_model.h"
 #include "panes/kit/palette.h"
+#include "platform/application_info.h"
+#include "platform/workspace.h"
 #include "state/change_to.h"
 
 namespace klarvik {

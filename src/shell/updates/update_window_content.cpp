@@ -1,5 +1,6 @@
 #include "shell/updates/update_window_content.h"
 
+#include "platform/formatting.h"
 #include "state/update_error_text.h"
 
 namespace klarvik {

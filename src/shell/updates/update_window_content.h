@@ -2,10 +2,11 @@
 
 #include <string>
 
-#include "platform/formatting.h"
 #include "platform/updater.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// What stands in the updater's window: its words, its bar and its buttons.
 struct UpdateWindowContent {

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <compare>
+#include <cstdint>
+#include <optional>
+
+#include "platform/date.h"
+
+namespace klarvik {
+
+enum class FileKind { directory, regular, symbolicLink, other };
+
+/// What makes a file or folder the same one under all of its names.
+struct FileIdentity {
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
+
+  auto operator<=>(const FileIdentity&) const = default;
+};
+
+/// What one `statx` tells of an entry itself: a symbolic link is never followed.
+struct FileAttributes {
+  FileKind kind = FileKind::other;
+  std::int64_t allocatedBytes = 0;  ///< bytes taken on the disk; 0 for a directory
+  std::int64_t logicalBytes = 0;    ///< length of the content
+  std::optional<Date> modified;
+  std::optional<Date> accessed;
+  std::optional<Date> created;
+  std::optional<FileIdentity> identity = std::nullopt;  ///< nothing where files have none
+  std::uint64_t names = 1;  ///< how many names the disk keeps for the file
+};
+
+}  // namespace klarvik
