@@ -1,4 +1,6 @@
 #include "core/junk_model.h"
+#include "platform/application_info.h"
+#include "platform/formatting.h"
 
 #include <gtest/gtest.h>
 

@@ -7,6 +7,7 @@
 
 #include "app_state_fixture.h"
 #include "platform/linux/json_user_defaults.h"
+#include "platform/notification_center.h"
 #include "signal_count.h"
 #include "state/section.h"
 #include "state_desktop.h"

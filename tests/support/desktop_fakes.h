@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/application_info.h"
+#include "platform/formatting.h"
+#include "platform/notification_center.h"
 #include "platform/platform.h"
 #include "support/canned_command_runner.h"
 #include "support/fake_status_item.h"

@@ -1,3 +1,4 @@
+#include "platform/formatting.h"
 #include "systemdata/system_data_item.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+#include "platform/formatting.h"
 #include "tools/large_file.h"
 
 #include <gmock/gmock.h>

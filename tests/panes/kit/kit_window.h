@@ -15,6 +15,7 @@
 #include <memory>
 
 #include "panes/kit/kit.h"
+#include "platform/formatting.h"
 #include "support/hand_moved_clock.h"
 #include "support/recording_workspace.h"
 

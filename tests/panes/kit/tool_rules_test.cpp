@@ -1,4 +1,5 @@
 #include "panes/kit/tool_rules.h"
+#include "platform/formatting.h"
 
 #include <gtest/gtest.h>
 

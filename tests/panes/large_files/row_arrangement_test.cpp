@@ -1,4 +1,5 @@
 #include "panes/large_files/row_arrangement.h"
+#include "platform/formatting.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 #include "panes/privacy/trail_list.h"
+#include "platform/formatting.h"
 
 #include <gtest/gtest.h>
 

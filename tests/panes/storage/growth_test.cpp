@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "panes/storage/storage_rows.h"
+#include "platform/formatting.h"
 
 namespace klarvik {
 namespace {

@@ -9,6 +9,7 @@
 #include "found_items.h"
 #include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
+#include "platform/formatting.h"
 
 namespace klarvik {
 namespace {

@@ -1,4 +1,5 @@
 #include "panes/uninstaller/app_list.h"
+#include "platform/formatting.h"
 
 #include <gtest/gtest.h>
 

@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "platform/linux/json_user_defaults.h"
+#include "platform/notification_center.h"
 #include "support/application/main_loop.h"
 #include "support/memory_defaults.h"
 #include "support/temporary_folder.h"

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "https_server.h"
+#include "platform/application_info.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/update/appcast_updater.h"
 #include "support/application/main_loop.h"
