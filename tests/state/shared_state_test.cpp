@@ -3,15 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "support/application/main_loop.h"
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
 
 TEST(SharedState, StandsBehindEverySharedObject) {
-  TestDesktop around;
-  const Desktop desktop = around.desktop();
-  SharedState shared(desktop);
+  const FakeDesktopOnDisk around;
+  SharedState shared(around.desktop);
   EXPECT_EQ(&Navigator::shared(), &shared.navigator());
   EXPECT_EQ(&ToolActivity::shared(), &shared.toolActivity());
   EXPECT_EQ(&ScanCoordinator::shared(), &shared.scanCoordinator());
@@ -22,10 +21,9 @@ TEST(SharedState, StandsBehindEverySharedObject) {
 }
 
 TEST(SharedState, CanBeMadeAgainOnceItIsGone) {
-  TestDesktop around;
-  const Desktop desktop = around.desktop();
-  { SharedState shared(desktop); }
-  SharedState shared(desktop);
+  const FakeDesktopOnDisk around;
+  { SharedState shared(around.desktop); }
+  SharedState shared(around.desktop);
   EXPECT_EQ(&SharedState::instance(), &shared);
 }
 
@@ -34,10 +32,9 @@ TEST(SharedStateDeathTest, AskedForBeforeItIsMadeItEndsTheProgramWithAMessage) {
 }
 
 TEST(SharedStateDeathTest, ASecondOneEndsTheProgramWithAMessage) {
-  TestDesktop around;
-  const Desktop desktop = around.desktop();
-  SharedState shared(desktop);
-  EXPECT_DEATH(SharedState second(desktop), "There is a SharedState already");
+  const FakeDesktopOnDisk around;
+  SharedState shared(around.desktop);
+  EXPECT_DEATH(SharedState second(around.desktop), "There is a SharedState already");
 }
 
 }  // namespace
