@@ -73,21 +73,6 @@ TEST(SampleDisk, HoldsWhatItSaysForASmartScan) {
   EXPECT_EQ(run.itemsFound(), withSimulators);
 }
 
-TEST(SampleDisk, IsTheSameEachTime) {
-  const TemporaryFolder first;
-  const TemporaryFolder second;
-  buildSampleDisk(first.path());
-  buildSampleDisk(second.path());
-  auto left = contentsOf(first.path());
-  auto right = contentsOf(second.path());
-  // The records of the Trash name places on the machine.
-  const auto isRecord = [](const auto& entry) { return entry.first.ends_with(".trashinfo"); };
-  std::erase_if(left, isRecord);
-  std::erase_if(right, isRecord);
-  EXPECT_FALSE(left.empty());
-  EXPECT_EQ(left, right);
-}
-
 TEST(SampleDisk, ACleanOfEverythingFoundTouchesNothingElse) {
   const TemporaryFolder folder;
   const SampleDisk sample = buildSampleDisk(folder.path());

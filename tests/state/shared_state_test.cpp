@@ -20,13 +20,6 @@ TEST(SharedState, StandsBehindEverySharedObject) {
   EXPECT_EQ(&TrashMonitor::shared(), &shared.trashMonitor());
 }
 
-TEST(SharedState, CanBeMadeAgainOnceItIsGone) {
-  const FakeDesktopOnDisk around;
-  { SharedState shared(around.desktop); }
-  SharedState shared(around.desktop);
-  EXPECT_EQ(&SharedState::instance(), &shared);
-}
-
 TEST(SharedStateDeathTest, AskedForBeforeItIsMadeItEndsTheProgramWithAMessage) {
   EXPECT_DEATH(static_cast<void>(Navigator::shared()), "no SharedState; main makes it first");
 }
