@@ -15,7 +15,8 @@
 #include "own_time.h"
 #include "panes/duplicates/duplicate_choice.h"
 #include "panes/duplicates/duplicate_rows.h"
-#include "remembered_desktop.h"
+#include "platform/desktop/qt_clock.h"
+#include "support/fake_desktop.h"
 
 namespace {
 
@@ -39,9 +40,11 @@ ChosenGroups madeUp(std::size_t groups, std::size_t copies) {
 }
 
 void measure(std::size_t groups, std::size_t copies) {
-  const RememberedDesktop around;
+  FakeDesktopInMemory around;
+  QtClock clock;
+  const Desktop desktop = around.with(clock);
   DuplicateChoice choice;
-  DuplicateRows rows(choice, around.desktop);
+  DuplicateRows rows(choice, desktop);
   const std::size_t before = mallinfo2().uordblks;
   ChosenGroups found = madeUp(groups, copies);
   const auto time = [](const char* what, const std::function<void()>& action) {

@@ -15,9 +15,10 @@
 #include "own_time.h"
 #include "panes/smart_scan/review_table.h"
 #include "platform/allocator.h"
-#include "remembered_desktop.h"
+#include "platform/desktop/qt_clock.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
+#include "support/fake_desktop.h"
 #include "support/fake_login_item.h"
 
 namespace {
@@ -68,11 +69,11 @@ class Frames {
   std::vector<double> _gaps;
 };
 
-void furnish(MemoryFileSystem& files, int itemCount) {
-  files.addFolder("/Users/ann");
+void furnish(FakeFileSystem& disk, int itemCount) {
+  disk.addFolder("/Users/ann");
   for (int number = 0; number < itemCount; ++number) {
-    files.addFile("/Users/ann/Library/Caches/com.example.cache-" + std::to_string(number),
-                  2'000'000 + number);
+    disk.addFile("/Users/ann/Library/Caches/com.example.cache-" + std::to_string(number),
+                 2'000'000 + number);
   }
 }
 
@@ -136,13 +137,15 @@ int main(int argumentCount, char** arguments) {
   QGuiApplication application(argumentCount, arguments);
   const int itemCount = argumentCount > 1 ? std::atoi(arguments[1]) : 200'000;
 
-  RememberedDesktop around;
-  furnish(around.files, itemCount);
+  FakeDesktopInMemory around;
+  QtClock clock;
+  const Desktop desktop = around.with(clock);
+  furnish(around.disk, itemCount);
   around.defaults.set("onboarding_complete", true);
   around.defaults.set("backgroundScanOnLaunch", false);
-  SharedState shared(around.desktop);
+  SharedState shared(desktop);
   FakeLoginItem loginItem;
-  KlarvikApp app(around.desktop, shared, loginItem);
+  KlarvikApp app(desktop, shared, loginItem);
   if (!app.openWindow(mainWindowId)) {
     return 1;
   }

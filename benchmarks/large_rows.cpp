@@ -18,9 +18,10 @@
 
 #include "own_time.h"
 #include "platform/allocator.h"
-#include "remembered_desktop.h"
+#include "platform/desktop/qt_clock.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
+#include "support/fake_desktop.h"
 #include "support/fake_login_item.h"
 
 namespace {
@@ -56,16 +57,16 @@ class Gaps {
 };
 
 /// Files of all kinds and sizes, in no order.
-void furnish(MemoryFileSystem& files) {
+void furnish(FakeFileSystem& disk) {
   constexpr std::array extensions{"mov", "zip", "dmg", "pdf", "mp3", "bin"};
-  files.addFolder("/Users/ann");
+  disk.addFolder("/Users/ann");
   std::uint32_t scattered = 1;
   for (std::uint32_t number = 0; number < fileCount; ++number) {
     scattered = scattered * 1'664'525 + 1'013'904'223;
     const std::string name = std::to_string(scattered) + " recording " + std::to_string(number);
-    files.addFile("/Users/ann/Documents/Projects/" + std::to_string(number % 100) + "/" + name +
-                      "." + extensions[number % extensions.size()],
-                  std::int64_t{200'000'000} + scattered);
+    disk.addFile("/Users/ann/Documents/Projects/" + std::to_string(number % 100) + "/" + name +
+                     "." + extensions[number % extensions.size()],
+                 std::int64_t{200'000'000} + scattered);
   }
 }
 
@@ -84,11 +85,10 @@ Gaps turnsUntilRows(LargeFileFinderView& pane, std::size_t rows) {
       [&] { return !pane.isScanning() && pane.rows()->rowCount() == static_cast<int>(rows); });
 }
 
-void measureModel(RememberedDesktop& around) {
-  SharedState shared(around.desktop);
+void measureModel(const Desktop& desktop) {
+  SharedState shared(desktop);
   LargeFileFinderView pane(
-      {shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager()},
-      around.desktop);
+      {shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager()}, desktop);
   const std::size_t before = mallinfo2().uordblks;
   pane.performAction();
   turnsUntilRows(pane, fileCount).print("model, while found");
@@ -115,10 +115,10 @@ std::pair<QQuickItem*, Model*> drawnFrom(QQuickItem& item) {
   return {};
 }
 
-bool measureWindow(RememberedDesktop& around) {
-  SharedState shared(around.desktop);
+bool measureWindow(const Desktop& desktop) {
+  SharedState shared(desktop);
   FakeLoginItem loginItem;
-  KlarvikApp app(around.desktop, shared, loginItem);
+  KlarvikApp app(desktop, shared, loginItem);
   if (!app.openWindow(mainWindowId)) return false;
   shared.navigator().setSection(Section::largeFiles);
   QQuickWindow& window = *app.window(mainWindowId);
@@ -162,12 +162,14 @@ int main(int argumentCount, char** arguments) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
   const QGuiApplication application(argumentCount, arguments);
-  RememberedDesktop around;
+  FakeDesktopInMemory around;
+  QtClock clock;
+  const Desktop desktop = around.with(clock);
   around.defaults.set("onboarding_complete", true);
   around.defaults.set("backgroundScanOnLaunch", false);
-  furnish(around.files);
-  measureModel(around);
-  if (!measureWindow(around)) {
+  furnish(around.disk);
+  measureModel(desktop);
+  if (!measureWindow(desktop)) {
     std::fputs("large_rows: the rows were not drawn\n", stderr);
     return 1;
   }

@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "support/faulting_file_system.h"
-#include "support/memory_file_system.h"
+#include "support/fake_file_system.h"
+#include "support/fault_injecting_file_system.h"
 
 namespace klarvik {
 namespace {
@@ -15,8 +15,8 @@ class RemoveIfAllowed : public testing::Test {
  protected:
   const Path caches = "/Users/ann/Library/Caches";
   const DeletionScope scope = DeletionScope::general();
-  MemoryFileSystem disk;
-  FaultingFileSystem files{disk};
+  FakeFileSystem disk;
+  FaultInjectingFileSystem files{disk};
 
   Path fileAt(const Path& path) {
     disk.addFile(path, 100);
@@ -26,13 +26,13 @@ class RemoveIfAllowed : public testing::Test {
 
 TEST_F(RemoveIfAllowed, RemovesWhatTheGuardLetsGo) {
   EXPECT_TRUE(removeIfAllowed(files, fileAt(caches / "x"), scope));
-  EXPECT_THAT(disk.removed(), ElementsAre(caches / "x"));
+  EXPECT_THAT(files.removed(), ElementsAre(caches / "x"));
 }
 
 TEST_F(RemoveIfAllowed, RemovesTheVeryPathThatTheGuardJudged) {
   fileAt(caches / "x");
   EXPECT_TRUE(removeIfAllowed(files, caches / "other//.././x/", scope));
-  EXPECT_THAT(disk.removed(), ElementsAre(caches / "x"));
+  EXPECT_THAT(files.removed(), ElementsAre(caches / "x"));
 }
 
 TEST_F(RemoveIfAllowed, TheDiskIsNotEvenAskedForWhatTheGuardRefuses) {
@@ -67,7 +67,7 @@ TEST_F(RemoveIfAllowed, ALinkOnTheWayToAnAllowedPlaceDoesNotKeepTheItem) {
 
 TEST_F(RemoveIfAllowed, WhatIsMissingOrCannotBeRemovedCountsAsNotRemoved) {
   EXPECT_FALSE(removeIfAllowed(files, caches / "missing", scope));
-  disk.makeImmovable(fileAt(caches / "stuck"));
+  files.fail(FileOperation::remove, fileAt(caches / "stuck"));
   EXPECT_FALSE(removeIfAllowed(files, caches / "stuck", scope));
   EXPECT_TRUE(disk.holds(caches / "stuck"));
 }

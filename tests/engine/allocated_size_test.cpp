@@ -3,47 +3,48 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/linux_file_system.h"
-#include "support/memory_file_system.h"
+#include "support/fake_file_system.h"
+#include "support/fault_injecting_file_system.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
 namespace {
 
 TEST(AllocatedSize, AddsUpTheFilesOfATree) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/a", 4'096);
   files.addFile("/x/deep/er/b", 8'192);
   EXPECT_EQ(allocatedSize(files, "/x"), 12'288);
 }
 
 TEST(AllocatedSize, OfALinkIsNothingWhateverItPointsAt) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addLink("/x");
   EXPECT_EQ(allocatedSize(files, "/x"), 0);
 }
 
 TEST(AllocatedSize, LeavesOutLinksInATree) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/a", 4'096);
   files.addLink("/x/link");
   EXPECT_EQ(allocatedSize(files, "/x"), 4'096);
 }
 
 TEST(AllocatedSize, OfHiddenFilesOnlyIsNothing) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/.hidden", 4'096);
   files.addFile("/x/.folder/inside", 4'096);
   EXPECT_EQ(allocatedSize(files, "/x"), 0);
 }
 
 TEST(AllocatedSize, CountsAHiddenFolderThatIsMeasuredItself) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/.Trash/a", 4'096);
   EXPECT_EQ(allocatedSize(files, "/.Trash"), 4'096);
 }
 
 TEST(AllocatedSize, DoesNotLookIntoAPackageInATree) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/Acme.app/Contents/binary", 4'096);
   files.addFile("/x/Photos.photoslibrary/originals/1.jpg", 4'096);
   files.addFile("/x/a", 512);
@@ -51,40 +52,41 @@ TEST(AllocatedSize, DoesNotLookIntoAPackageInATree) {
 }
 
 TEST(AllocatedSize, LooksIntoAPackageThatIsMeasuredItself) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/Acme.app/Contents/binary", 4'096);
   EXPECT_EQ(allocatedSize(files, "/x/Acme.app"), 4'096);
 }
 
 TEST(AllocatedSize, OfAPlainFileIsItsOwn) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/a", 4'096);
   EXPECT_EQ(allocatedSize(files, "/x/a"), 4'096);
 }
 
 TEST(AllocatedSize, OfNothingIsNothing) {
-  const MemoryFileSystem files;
+  const FakeFileSystem files;
   EXPECT_EQ(allocatedSize(files, "/missing"), 0);
 }
 
 TEST(AllocatedSize, PassesOverAFolderThatCannotBeRead) {
-  MemoryFileSystem files;
-  files.addFile("/x/secret/a", 4'096);
-  files.addFile("/x/open/b", 512);
+  FakeFileSystem disk;
+  disk.addFile("/x/secret/a", 4'096);
+  disk.addFile("/x/open/b", 512);
+  FaultInjectingFileSystem files(disk);
   files.makeUnreadable("/x/secret");
   EXPECT_EQ(allocatedSize(files, "/x"), 512);
   EXPECT_EQ(allocatedSize(files, "/x/secret"), 0);
 }
 
 TEST(AllocatedSize, SumsBeyond2To53AreExact) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/a", 9'007'199'254'740'993);
   files.addFile("/x/b", 2);
   EXPECT_EQ(allocatedSize(files, "/x"), 9'007'199'254'740'995);
 }
 
 TEST(AllocatedSizeDeathTest, ASumBeyond64BitsEndsTheProgram) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/a", std::numeric_limits<std::int64_t>::max());
   files.addFile("/x/b", 1);
   EXPECT_DEATH(static_cast<void>(allocatedSize(files, "/x")), "");
@@ -123,7 +125,7 @@ TEST_F(AllocatedSizeOnADisk, CountsNamesThatAreNotUtf8) {
 }
 
 TEST(AllocatedSize, OfTheWholeCountsWhatIsHiddenAndWhatIsInPackages) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/a", 512);
   files.addFile("/x/.hidden/b", 4'096);
   files.addFile("/x/Acme.app/Contents/binary", 8'192);
@@ -133,7 +135,7 @@ TEST(AllocatedSize, OfTheWholeCountsWhatIsHiddenAndWhatIsInPackages) {
 }
 
 TEST(AllocatedSize, OfTheWholeEndsAtAStopWithWhatItHas) {
-  MemoryFileSystem files;
+  FakeFileSystem files;
   files.addFile("/x/a", 512);
   std::stop_source stop;
   stop.request_stop();

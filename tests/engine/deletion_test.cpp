@@ -7,7 +7,6 @@
 #include <latch>
 
 #include "engine_fixture.h"
-#include "support/faulting_file_system.h"
 
 namespace klarvik {
 namespace {
@@ -32,7 +31,7 @@ class Deletion : public EngineFixture {
 
   /// A file that is there, as an item.
   JunkItem item(const Path& path, std::int64_t size = 100) {
-    files.addFile(path, size);
+    disk.addFile(path, size);
     return {.name = path.filename().native(), .path = path, .size = size};
   }
 
@@ -42,6 +41,13 @@ class Deletion : public EngineFixture {
       items.push_back(item(caches / ("item-" + std::to_string(number))));
     }
     return items;
+  }
+
+  /// What went for good, out of the Trash or from elsewhere.
+  [[nodiscard]] std::vector<Path> removed() const {
+    std::vector<Path> all = files.removed();
+    std::ranges::copy(trash.removed(), std::back_inserter(all));
+    return all;
   }
 
   /// An item for something that may not be there.
@@ -55,14 +61,14 @@ TEST_F(Deletion, MovesAnItemToTheTrashAndTellsWhereItIsNow) {
   EXPECT_EQ(outcome.reclaimed, 100);
   EXPECT_EQ(outcome.originalURL, caches / "x");
   EXPECT_EQ(outcome.trashedURL, trashed / "x");
-  EXPECT_THAT(files.removed(), IsEmpty());
+  EXPECT_THAT(removed(), IsEmpty());
 }
 
 TEST_F(Deletion, RemovesAnItemForGoodWhenTheTrashIsNotWanted) {
   const auto outcome = engine.deleteItem(item(caches / "x"), outright);
   EXPECT_EQ(outcome.reclaimed, 100);
   EXPECT_EQ(outcome.trashedURL, std::nullopt);
-  EXPECT_THAT(files.removed(), ElementsAre(caches / "x"));
+  EXPECT_THAT(removed(), ElementsAre(caches / "x"));
   EXPECT_THAT(trash.moved(), IsEmpty());
 }
 
@@ -72,32 +78,33 @@ TEST_F(Deletion, WhatIsInTheTrashAlreadyGoesForGoodWhateverTheSetting) {
       const auto outcome = engine.deleteItem(item(folder / "x"), useTrash);
       EXPECT_EQ(outcome.reclaimed, 100);
       EXPECT_EQ(outcome.trashedURL, std::nullopt);
-      EXPECT_FALSE(files.holds(folder / "x"));
+      EXPECT_FALSE(disk.holds(folder / "x"));
     }
   }
   EXPECT_THAT(trash.moved(), IsEmpty());
 }
 
 TEST_F(Deletion, CountsTheSizeOfTheScanEvenWhenTheItemGrewSince) {
-  files.addFile(caches / "x", 5'000);
+  disk.addFile(caches / "x", 5'000);
   EXPECT_EQ(engine.deleteItem(named(caches / "x", 100), outright).reclaimed, 100);
 }
 
 TEST_F(Deletion, AFailedRemovalOrMoveCountsAsNotRemoved) {
   const auto stuck = item(caches / "x");
-  files.makeImmovable(caches / "x");
+  files.fail(FileOperation::remove, caches / "x");
+  trash.fail(TrashOperation::moveToTrash, caches / "x");
   for (const bool useTrash : {toTrash, outright}) {
     const auto outcome = engine.deleteItem(stuck, useTrash);
     EXPECT_EQ(outcome.reclaimed, 0);
     EXPECT_EQ(outcome.trashedURL, std::nullopt);
   }
-  EXPECT_TRUE(files.holds(caches / "x"));
+  EXPECT_TRUE(disk.holds(caches / "x"));
 }
 
 TEST_F(Deletion, NothingIsRemovedForGoodBecauseTheTrashRefusesIt) {
-  trash.refuseMoves();
+  trash.fail(TrashOperation::moveToTrash, caches / "x");
   EXPECT_EQ(engine.deleteItem(item(caches / "x"), toTrash).reclaimed, 0);
-  EXPECT_TRUE(files.holds(caches / "x"));
+  EXPECT_TRUE(disk.holds(caches / "x"));
 }
 
 TEST_F(Deletion, ObeysTheGuardForEverythingAScanShows) {
@@ -127,46 +134,46 @@ TEST_F(Deletion, ObeysTheGuardForEverythingAScanShows) {
       {"Library/Caches/x", false},
   };
   for (const auto& row : rows) {
-    if (row.path.is_absolute() && row.path != "/") files.addFile(row.path, 100);
+    if (row.path.is_absolute() && row.path != "/") disk.addFile(row.path, 100);
     const auto outcome = engine.deleteItem(named(row.path), outright);
     EXPECT_EQ(outcome.reclaimed, row.removed ? 100 : 0) << row.path;
     EXPECT_EQ(outcome.originalURL, row.path);
     EXPECT_EQ(outcome.trashedURL, std::nullopt);
-    EXPECT_EQ(files.holds(row.path), row.path.is_absolute() && !row.removed) << row.path;
+    EXPECT_EQ(disk.holds(row.path), row.path.is_absolute() && !row.removed) << row.path;
   }
 }
 
 TEST_F(Deletion, RemovesTheVeryPathThatWasJudged) {
-  files.addFile(caches / "x", 100);
+  disk.addFile(caches / "x", 100);
   EXPECT_EQ(engine.deleteItem(named(caches / "link/../x/"), outright).reclaimed, 100);
-  EXPECT_THAT(files.removed(), ElementsAre(caches / "x"));
+  EXPECT_THAT(removed(), ElementsAre(caches / "x"));
 }
 
 TEST_F(Deletion, APathThatOnlyPassesThroughTheTrashIsNotTakenForTrash) {
-  files.addFile(caches / "x", 100);
+  disk.addFile(caches / "x", 100);
   const auto outcome = engine.deleteItem(named("/Users/ann/.Trash/../Library/Caches/x"), toTrash);
   EXPECT_EQ(outcome.trashedURL, trashed / "x");
-  EXPECT_THAT(files.removed(), IsEmpty());
+  EXPECT_THAT(removed(), IsEmpty());
 }
 
 TEST_F(Deletion, AParentThatIsALinkIsJudgedByTheRealPlaceToo) {
-  files.addFile(caches / "into documents", 100);
-  files.setRealPlace(caches / "into documents", "/Users/ann/Documents/into documents");
-  files.addFile(caches / "into another cache", 100);
-  files.setRealPlace(caches / "into another cache", "/Users/ann/Library/Logs/a/into another cache");
+  disk.addFile(caches / "into documents", 100);
+  disk.setRealPlace(caches / "into documents", "/Users/ann/Documents/into documents");
+  disk.addFile(caches / "into another cache", 100);
+  disk.setRealPlace(caches / "into another cache", "/Users/ann/Library/Logs/a/into another cache");
   for (const bool useTrash : {toTrash, outright}) {
     EXPECT_EQ(engine.deleteItem(named(caches / "into documents"), useTrash).reclaimed, 0);
   }
-  EXPECT_TRUE(files.holds(caches / "into documents"));
+  EXPECT_TRUE(disk.holds(caches / "into documents"));
   EXPECT_EQ(engine.deleteItem(named(caches / "into another cache"), outright).reclaimed, 100);
 }
 
 TEST_F(Deletion, AHomeThatIsALinkIsJudgedByTheRealHome) {
-  files.setRealHome("/data/homes/ann");
-  files.addFile(caches / "x", 100);
-  files.setRealPlace(caches / "x", "/data/homes/ann/Library/Caches/x");
-  files.addFile(caches / "y", 100);
-  files.setRealPlace(caches / "y", "/data/homes/ben/Library/Caches/y");
+  disk.setRealHome("/data/homes/ann");
+  disk.addFile(caches / "x", 100);
+  disk.setRealPlace(caches / "x", "/data/homes/ann/Library/Caches/x");
+  disk.addFile(caches / "y", 100);
+  disk.setRealPlace(caches / "y", "/data/homes/ben/Library/Caches/y");
   EXPECT_EQ(engine.deleteItem(named(caches / "x"), outright).reclaimed, 100);
   EXPECT_EQ(engine.deleteItem(named(caches / "y"), outright).reclaimed, 0);
 }
@@ -244,7 +251,7 @@ TEST_F(Deletion, HasSixItemsUnderWayAndNeverMore) {
   std::atomic<int> most = 0;
   // Only if six are under way at the same time does anyone get past it.
   std::barrier together(6);
-  files.setBeforeRemoval([&](const Path&) {
+  files.beforeEach(FileOperation::remove, [&](const Path&) {
     const int now = ++underWay;
     for (int seen = most.load(); seen < now && !most.compare_exchange_weak(seen, now);) {
     }
@@ -259,7 +266,7 @@ TEST_F(Deletion, AStopAfterTheFirstOfSevenNeverStartsTheSeventhAndTellsAllThatWe
   const auto items = cacheItems(7);
   std::stop_source source;
   std::latch othersMayFinish(1);
-  files.setBeforeRemoval([&](const Path& path) {
+  trash.beforeEach(TrashOperation::moveToTrash, [&](const Path& path) {
     if (path != items[0].path) othersMayFinish.wait();
   });
   const auto outcomes =
@@ -269,7 +276,7 @@ TEST_F(Deletion, AStopAfterTheFirstOfSevenNeverStartsTheSeventhAndTellsAllThatWe
         othersMayFinish.count_down();
       });
   EXPECT_THAT(reports, ElementsAre(DeletionProgress{1, 7, "item-0", 100}));
-  EXPECT_TRUE(files.holds(items[6].path));
+  EXPECT_TRUE(disk.holds(items[6].path));
   std::set<Path> told;
   for (const DeletionOutcome& outcome : outcomes) {
     told.insert(outcome.originalURL);
@@ -285,17 +292,17 @@ TEST_F(Deletion, AStopBeforeTheStartRemovesNothing) {
   const auto items = cacheItems(20);
   EXPECT_THAT(engine.deleteItems(items, outright, source.get_token(), report()), IsEmpty());
   EXPECT_THAT(reports, IsEmpty());
-  for (const JunkItem& each : items) EXPECT_TRUE(files.holds(each.path));
+  for (const JunkItem& each : items) EXPECT_TRUE(disk.holds(each.path));
 }
 
 TEST_F(Deletion, ASelectionThatHoldsAFolderAndSomethingInsideItRemovesEachByteOnce) {
-  files.addFile(caches / "folder/inside", 60);
-  files.addFile(caches / "folder/other", 40);
+  disk.addFile(caches / "folder/inside", 60);
+  disk.addFile(caches / "folder/other", 40);
   const auto outcomes = engine.deleteItems(
       {named(caches / "folder"), named(caches / "folder/inside", 60)}, outright, {}, report());
   EXPECT_THAT(outcomes, SizeIs(2));
-  EXPECT_FALSE(files.holds(caches / "folder"));
-  EXPECT_FALSE(files.holds(caches / "folder/inside"));
+  EXPECT_FALSE(disk.holds(caches / "folder"));
+  EXPECT_FALSE(disk.holds(caches / "folder/inside"));
 }
 
 TEST_F(Deletion, TheSameItemTwiceIsRemovedOnce) {
@@ -306,22 +313,22 @@ TEST_F(Deletion, TheSameItemTwiceIsRemovedOnce) {
 }
 
 TEST_F(Deletion, PickedFilesGoToTheTrashFromFoldersThatHoldTheUsersOwn) {
-  files.addFile("/Users/ann/Documents/a.pdf", 100);
+  disk.addFile("/Users/ann/Documents/a.pdf", 100);
   const auto moved = engine.trashFiles(
       {{.url = "/Users/ann/Documents/a.pdf", .name = "A", .size = 100}}, {}, report());
   EXPECT_THAT(moved, ElementsAre(Path("/Users/ann/Documents/a.pdf")));
   EXPECT_THAT(reports, ElementsAre(DeletionProgress{1, 1, "a.pdf", 100}));
-  EXPECT_TRUE(files.holds(trashed / "a.pdf"));
+  EXPECT_TRUE(disk.holds(trashed / "a.pdf"));
 }
 
 TEST_F(Deletion, APickedFileThatIsRefusedOrStuckIsCountedButNotMoved) {
-  files.addFile("/usr/bin/tool", 100);
-  files.addFile("/Users/ann/notes.txt", 100);
-  files.addFile("/Users/ben/Documents/diary", 100);
-  files.addFile("/Users/ann/Documents/stuck", 100);
-  files.makeImmovable("/Users/ann/Documents/stuck");
-  files.addFile("/Users/ann/Documents/fine", 70);
-  const auto before = files.contents();
+  disk.addFile("/usr/bin/tool", 100);
+  disk.addFile("/Users/ann/notes.txt", 100);
+  disk.addFile("/Users/ben/Documents/diary", 100);
+  disk.addFile("/Users/ann/Documents/stuck", 100);
+  trash.fail(TrashOperation::moveToTrash, "/Users/ann/Documents/stuck");
+  disk.addFile("/Users/ann/Documents/fine", 70);
+  const auto before = disk.contents();
   std::vector<PickedFile> picked;
   for (const char* const path : {"/usr/bin/tool", "/Users/ann/notes.txt",
                                  "/Users/ben/Documents/diary", "/Users/ann/Documents/stuck"}) {
@@ -330,14 +337,14 @@ TEST_F(Deletion, APickedFileThatIsRefusedOrStuckIsCountedButNotMoved) {
   EXPECT_THAT(engine.trashFiles(picked, {}, report()), IsEmpty());
   EXPECT_EQ(reports.back().completed, 4);
   EXPECT_EQ(reports.back().freed, 0);
-  EXPECT_EQ(files.contents(), before);
+  EXPECT_EQ(disk.contents(), before);
   EXPECT_THAT(
       engine.trashFiles({{.url = "/Users/ann/Documents/fine", .name = "", .size = 70}}, {}, {}),
       SizeIs(1));
 }
 
 TEST_F(Deletion, OnePickedFileTellsItsBytesOnlyWhenItMoved) {
-  files.addFile("/Users/ann/Documents/a", 100);
+  disk.addFile("/Users/ann/Documents/a", 100);
   const auto moved = engine.trashFile({.url = "/Users/ann/Documents/a", .name = "", .size = 100});
   EXPECT_TRUE(moved.moved);
   EXPECT_EQ(moved.bytes, 100);
@@ -351,7 +358,7 @@ TEST_F(Deletion, AStopEndsTheMovingOfPickedFiles) {
   std::vector<PickedFile> picked;
   for (int number = 0; number < 40; ++number) {
     const Path path = "/Users/ann/Documents/f" + std::to_string(number);
-    files.addFile(path, 1);
+    disk.addFile(path, 1);
     picked.push_back({.url = path, .name = "", .size = 1});
   }
   std::stop_source source;
@@ -366,10 +373,10 @@ TEST_F(Deletion, AStopEndsTheMovingOfPickedFiles) {
 }
 
 TEST_F(Deletion, RestoresAnItemToWhereItWas) {
-  files.addFile(trashed / "x", 100);
+  disk.addFile(trashed / "x", 100);
   EXPECT_TRUE(engine.restoreItem(trashed / "x", caches / "gone/x"));
-  EXPECT_TRUE(files.holds(caches / "gone/x"));
-  EXPECT_FALSE(files.holds(trashed / "x"));
+  EXPECT_TRUE(disk.holds(caches / "gone/x"));
+  EXPECT_FALSE(disk.holds(trashed / "x"));
 }
 
 TEST_F(Deletion, DoesNotRestoreWhatIsNotThere) {
@@ -377,75 +384,72 @@ TEST_F(Deletion, DoesNotRestoreWhatIsNotThere) {
 }
 
 TEST_F(Deletion, RestoringOntoAnExistingFileFolderOrDanglingLinkIsRefusedAndBothStay) {
-  files.addFile(trashed / "x", 100);
-  files.addFile(caches / "file", 1);
-  files.addFolder(caches / "folder");
-  files.addLink(caches / "link");
-  const auto before = files.contents();
+  disk.addFile(trashed / "x", 100);
+  disk.addFile(caches / "file", 1);
+  disk.addFolder(caches / "folder");
+  disk.addLink(caches / "link");
+  const auto before = disk.contents();
   for (const char* const name : {"file", "folder", "link"}) {
     EXPECT_FALSE(engine.restoreItem(trashed / "x", caches / name)) << name;
   }
-  EXPECT_EQ(files.contents(), before);
+  EXPECT_EQ(disk.contents(), before);
 }
 
 TEST_F(Deletion, RestoresATrashedLinkThatLeadsNowhere) {
-  files.addLink(trashed / "link");
+  disk.addLink(trashed / "link");
   EXPECT_TRUE(engine.restoreItem(trashed / "link", caches / "link"));
 }
 
 TEST_F(Deletion, EmptiesAllFoldersOfTheTrashAndReports) {
-  files.addFile(trashed / "one/a", 100);
-  files.addFile(trashed / ".hidden", 20);
-  files.addFile("/Users/ann/.Trash/two", 3);
+  disk.addFile(trashed / "one/a", 100);
+  disk.addFile(trashed / ".hidden", 20);
+  disk.addFile("/Users/ann/.Trash/two", 3);
   EXPECT_EQ(engine.emptyTrash({}, report()), 123);
-  EXPECT_THAT(files.removed(),
+  EXPECT_THAT(removed(),
               UnorderedElementsAre(trashed / "one", trashed / ".hidden", "/Users/ann/.Trash/two"));
   EXPECT_EQ(reports.back(), (DeletionProgress{3, 3, reports.back().currentName, 123}));
   EXPECT_THAT(trash.moved(), IsEmpty());
 }
 
 TEST_F(Deletion, EmptyingATrashThatCannotBeListedRemovesNothing) {
-  files.addFile("/Users/ann/.Trash/two", 3);
-  files.makeUnreadable(trashed);
+  disk.addFile("/Users/ann/.Trash/two", 3);
+  trash.readable = false;
   EXPECT_EQ(engine.emptyTrash({}, report()), 0);
   EXPECT_THAT(reports, IsEmpty());
-  EXPECT_THAT(files.removed(), IsEmpty());
+  EXPECT_THAT(removed(), IsEmpty());
 }
 
 TEST_F(Deletion, AnEmptyingThatIsStoppedWhileItMeasuresMeasuresNoFurtherEntryAndRemovesNothing) {
-  FaultingFileSystem watched(files);
   std::stop_source stop;
   int measured = 0;
   for (const char* entry : {"one", "two", "three"}) {
-    files.addFile(trashed / entry / "a", 100);
-    watched.before(FaultingFileSystem::Operation::walk, trashed / entry, [&] {
+    disk.addFile(trashed / entry / "a", 100);
+    files.before(FileOperation::walk, trashed / entry, [&] {
       ++measured;
       stop.request_stop();
     });
   }
-  Platform watchedPlatform = platformOn(watched, trash);
-  ScannerEngine watchedEngine{watchedPlatform};
-  EXPECT_EQ(watchedEngine.emptyTrash(stop.get_token(), report()), 0);
+  EXPECT_EQ(engine.emptyTrash(stop.get_token(), report()), 0);
   EXPECT_EQ(measured, 1);
   EXPECT_THAT(reports, IsEmpty());
-  EXPECT_THAT(files.removed(), IsEmpty());
+  EXPECT_THAT(removed(), IsEmpty());
 }
 
 TEST_F(Deletion, OneFailureWhileEmptyingDoesNotStopTheRest) {
-  files.addFile(trashed / "stuck", 100);
-  files.makeImmovable(trashed / "stuck");
-  files.addFile(trashed / "a", 1);
-  files.addFile(trashed / "b", 2);
+  disk.addFile(trashed / "stuck", 100);
+  trash.fail(TrashOperation::remove, trashed / "stuck");
+  disk.addFile(trashed / "a", 1);
+  disk.addFile(trashed / "b", 2);
   EXPECT_EQ(engine.emptyTrash(), 3);
-  EXPECT_TRUE(files.holds(trashed / "stuck"));
+  EXPECT_TRUE(disk.holds(trashed / "stuck"));
 }
 
 TEST_F(Deletion, AnItemAddedToTheTrashWhileItIsEmptiedSurvives) {
-  files.addFile(trashed / "old", 100);
+  disk.addFile(trashed / "old", 100);
   EXPECT_EQ(
-      engine.emptyTrash({}, [&](const DeletionProgress&) { files.addFile(trashed / "new", 1); }),
+      engine.emptyTrash({}, [&](const DeletionProgress&) { disk.addFile(trashed / "new", 1); }),
       100);
-  EXPECT_TRUE(files.holds(trashed / "new"));
+  EXPECT_TRUE(disk.holds(trashed / "new"));
 }
 
 }  // namespace

@@ -24,28 +24,28 @@ class DeveloperScanners : public EngineFixture {
 };
 
 TEST_F(DeveloperScanners, XcodeCacheIsUpToFourWholeFoldersInTheirOrder) {
-  files.addFile(developer / "Xcode/tvOS DeviceSupport/a", 40);
-  files.addFile(developer / "Xcode/watchOS DeviceSupport/a", 30);
-  files.addFile(developer / "Xcode/iOS DeviceSupport/a", 20);
-  files.addFile(developer / "Xcode/DerivedData/a", 10);
+  disk.addFile(developer / "Xcode/tvOS DeviceSupport/a", 40);
+  disk.addFile(developer / "Xcode/watchOS DeviceSupport/a", 30);
+  disk.addFile(developer / "Xcode/iOS DeviceSupport/a", 20);
+  disk.addFile(developer / "Xcode/DerivedData/a", 10);
   const auto items = found(CategoryType::xcodeCache);
   EXPECT_THAT(names(items), ElementsAre("DerivedData", "iOS DeviceSupport", "watchOS DeviceSupport",
                                         "tvOS DeviceSupport"));
   EXPECT_EQ(items[0].path, developer / "Xcode/DerivedData");
   EXPECT_EQ(items[0].size, 10);
-  EXPECT_EQ(items[0].modifiedDate, MemoryFileSystem::usualDate);
+  EXPECT_EQ(items[0].modifiedDate, FakeFileSystem::usualDate);
 }
 
 TEST_F(DeveloperScanners, XcodeArchivesAreOneItem) {
-  files.addFile(developer / "Xcode/Archives/2025/a", 10);
-  files.addFile(developer / "Xcode/Archives/2026/b", 20);
+  disk.addFile(developer / "Xcode/Archives/2025/a", 10);
+  disk.addFile(developer / "Xcode/Archives/2026/b", 20);
   const auto items = found(CategoryType::xcodeArchives);
   ASSERT_THAT(names(items), ElementsAre("Archives"));
   EXPECT_EQ(items[0].size, 30);
 }
 
 TEST_F(DeveloperScanners, SimulatorCachesStandFirstAndAloneWithoutTools) {
-  files.addFile(developer / "CoreSimulator/Caches/a", 1);
+  disk.addFile(developer / "CoreSimulator/Caches/a", 1);
   const auto items = found(CategoryType::simulators);
   ASSERT_THAT(names(items), ElementsAre("CoreSimulator Caches"));
   EXPECT_EQ(items[0].path, developer / "CoreSimulator/Caches");
@@ -56,9 +56,9 @@ TEST_F(DeveloperScanners, SimulatorDevicesAreNamedWithTheirRuntime) {
   listDevices(R"({"devices": {"com.apple.CoreSimulator.SimRuntime.iOS-15-0": [
       {"udid": "A", "name": "iPhone 8", "runtime": "com.apple.CoreSimulator.SimRuntime.iOS-15-0"},
       {"udid": "B"}]}})");
-  files.addFile(devices / "A/data", 2'000'000);
-  files.addFile(devices / "B/data", 3'000'000);
-  files.addFile(developer / "CoreSimulator/Caches/a", 5);
+  disk.addFile(devices / "A/data", 2'000'000);
+  disk.addFile(devices / "B/data", 3'000'000);
+  disk.addFile(developer / "CoreSimulator/Caches/a", 5);
   const auto items = found(CategoryType::simulators);
   EXPECT_THAT(names(items), ElementsAre("CoreSimulator Caches", "iPhone 8 (iOS-15-0) — unavailable",
                                         "B () — unavailable"));
@@ -69,20 +69,20 @@ TEST_F(DeveloperScanners, SimulatorDevicesAreNamedWithTheirRuntime) {
 
 TEST_F(DeveloperScanners, ASimulatorDeviceWithoutAFolderGivesNoItemAndTheOthersDo) {
   listDevices(R"({"devices": {"x": [{"udid": "gone"}, {"udid": "A", "name": "iPad"}]}})");
-  files.addFile(devices / "A/data", 2'000'000);
+  disk.addFile(devices / "A/data", 2'000'000);
   EXPECT_THAT(names(found(CategoryType::simulators)), ElementsAre("iPad () — unavailable"));
 }
 
 TEST_F(DeveloperScanners, ASimulatorDeviceNeedsOneByteMoreThanAMillion) {
   listDevices(R"({"devices": {"x": [{"udid": "exact"}, {"udid": "more"}]}})");
-  files.addFile(devices / "exact/data", 1'000'000);
-  files.addFile(devices / "more/data", 1'000'001);
+  disk.addFile(devices / "exact/data", 1'000'000);
+  disk.addFile(devices / "more/data", 1'000'001);
   EXPECT_THAT(names(found(CategoryType::simulators)), ElementsAre("more () — unavailable"));
 }
 
 TEST_F(DeveloperScanners, ASimulatorListingNeverLeadsOutOfTheDevicesFolder) {
   listDevices(R"({"devices": {"x": [{"udid": ".."}, {"udid": ""}, {"udid": "../Caches"}]}})");
-  files.addFile(devices / "real/data", 5'000'000);
+  disk.addFile(devices / "real/data", 5'000'000);
   EXPECT_THAT(found(CategoryType::simulators), IsEmpty());
 }
 
@@ -101,30 +101,30 @@ TEST_F(DeveloperScanners, ARunningDockerIsOneItemThatStandsForWhatItCouldFree) {
 
 TEST_F(DeveloperScanners, CleaningADockerRowDoesNothing) {
   dockerRuns("TYPE TOTAL ACTIVE SIZE RECLAIMABLE\nImages 5 2 1.2GB 800MB (66%)\n");
-  files.addFile("/usr/local/bin/docker", 100);
+  disk.addFile("/usr/local/bin/docker", 100);
   const auto outcome = engine.deleteItem(found(CategoryType::dockerData)[0], false);
   EXPECT_EQ(outcome.reclaimed, 0);
-  EXPECT_TRUE(files.holds("/usr/local/bin/docker"));
+  EXPECT_TRUE(disk.holds("/usr/local/bin/docker"));
 }
 
 TEST_F(DeveloperScanners, ARunningDockerWithNothingToFreeHidesItsFolders) {
   dockerRuns("TYPE TOTAL ACTIVE SIZE RECLAIMABLE\nImages 5 2 1.2GB 0B (0%)\n");
-  files.addFile(docker / "cache/a", 5'000'000);
+  disk.addFile(docker / "cache/a", 5'000'000);
   EXPECT_THAT(found(CategoryType::dockerData), IsEmpty());
 }
 
 TEST_F(DeveloperScanners, AStoppedDockerShowsItsTwoFolders) {
-  files.addFile(docker / "log/a", 200'000);
-  files.addFile(docker / "cache/a", 150'000);
-  files.addFile(docker / "vms/a", 900'000);
+  disk.addFile(docker / "log/a", 200'000);
+  disk.addFile(docker / "cache/a", 150'000);
+  disk.addFile(docker / "vms/a", 900'000);
   const auto items = found(CategoryType::dockerData);
   EXPECT_THAT(names(items), ElementsAre("cache", "log"));
   EXPECT_EQ(items[0].modifiedDate, std::nullopt);
 }
 
 TEST_F(DeveloperScanners, ADockerFolderNeedsOneByteMoreThanAHundredThousand) {
-  files.addFile(docker / "cache/a", 100'000);
-  files.addFile(docker / "log/a", 100'001);
+  disk.addFile(docker / "cache/a", 100'000);
+  disk.addFile(docker / "log/a", 100'001);
   EXPECT_THAT(names(found(CategoryType::dockerData)), ElementsAre("log"));
 }
 

@@ -3,18 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "engine/scanner_engine.h"
-#include "support/desktop_fakes.h"
-#include "support/memory_file_system.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 
 /// An engine on a remembered disk, with tools that answer what a test says. The locale is en_US.
-class EngineFixture : public testing::Test, protected DesktopFakes {
+class EngineFixture : public testing::Test, protected FakeDesktopInMemory {
  protected:
-  MemoryFileSystem files;
-  MemoryTrash trash{files};
-  Platform platform = platformOn(files, trash);
-  ScannerEngine engine{platform};
+  ScannerEngine engine{desktop};
 
   [[nodiscard]] std::vector<CleanCategory> scan() { return engine.scanAll({}, {}, {}); }
 

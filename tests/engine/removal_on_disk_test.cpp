@@ -9,9 +9,8 @@
 #include "engine/allocated_size.h"
 #include "engine/scanner_engine.h"
 #include "support/disk_snapshot.h"
-#include "support/faulting_file_system.h"
+#include "support/fake_desktop.h"
 #include "support/private_mounts.h"
-#include "support/test_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -24,11 +23,10 @@ constexpr bool outright = false;
 
 class RemovalOnADisk : public testing::Test {
  protected:
-  TestDesktop world;
+  FakeDesktopOnDisk world;
   TemporaryFolder& disk = world.disk;
-  FaultingFileSystem files{world.files};
-  Platform platform = world.platformOn(files, world.trash);
-  ScannerEngine engine{platform};
+  FaultInjectingFileSystem& files = world.files;
+  ScannerEngine engine{world.desktop};
   const Path caches = "/Users/ann/Library/Caches";
   const Path trashed = "/Users/ann/.local/share/Trash/files";
 
@@ -98,7 +96,7 @@ TEST_F(RemovalOnADisk, AParentThatIsALinkToAnotherCleanablePlaceIsNot) {
 TEST_F(RemovalOnADisk, AParentThatBecameALinkAfterTheGuardWasAskedIsJudgedByTheRealPlace) {
   disk.makeFile(caches / "app/x/inside", "waste");
   DiskSnapshot before;
-  files.before(FaultingFileSystem::Operation::remove, caches / "app/x", [&] {
+  files.before(FaultInjectingFileSystem::Operation::remove, caches / "app/x", [&] {
     std::filesystem::rename(disk.onDisk(caches / "app"), disk.onDisk(caches / "aside"));
     disk.makeLink(caches / "app", "../../Documents");
     before = snapshot();
@@ -123,7 +121,7 @@ TEST_F(RemovalOnADisk, AnItemThatIsGoneAlreadyCountsAsNotRemovedAndTheRunGoesOn)
   for (const bool useTrash : {toTrash, outright}) {
     disk.makeFile(caches / "there", "waste");
     disk.makeFile(caches / "vanishing", "waste");
-    files.vanishBefore(FaultingFileSystem::Operation::remove, caches / "vanishing");
+    files.vanishBefore(FaultInjectingFileSystem::Operation::remove, caches / "vanishing");
     std::int64_t reclaimed = 0;
     const auto outcomes = engine.deleteItems(
         {item(caches / "gone"), item(caches / "vanishing"), item(caches / "there")}, useTrash);
@@ -255,7 +253,7 @@ TEST_F(RemovalOnADisk, ATrashEntryWhoseNameCameToSomethingElseStays) {
 
 TEST_F(RemovalOnADisk, AnItemThatTakesTheNameOfOneThatWentWhileTheTrashIsEmptiedSurvives) {
   disk.makeFile(trashed / "report/file", "old");
-  files.before(FaultingFileSystem::Operation::walk, trashed / "report", [&] {
+  files.before(FaultInjectingFileSystem::Operation::walk, trashed / "report", [&] {
     std::filesystem::rename(disk.onDisk(trashed / "report"), disk.onDisk("/Users/ann/report"));
     disk.makeFile(trashed / "report/file", "new");
   });
@@ -275,7 +273,7 @@ TEST_F(RemovalOnADisk, ANameIsToldApartBeforeAnythingElseInTheTrashIsMeasured) {
   };
   for (const auto& [entry, other] : {std::pair{"one", "two"}, std::pair{"two", "one"}}) {
     disk.makeFile(trashed / entry / "file", "old");
-    files.before(FaultingFileSystem::Operation::walk, trashed / entry,
+    files.before(FaultInjectingFileSystem::Operation::walk, trashed / entry,
                  [&, other = trashed / other] { swapOnce(other); });
   }
   EXPECT_GT(engine.emptyTrash(), 0);

@@ -47,10 +47,10 @@ TEST_F(ScanPipeline, GoesThroughElevenRowsInTheirOrder) {
 }
 
 TEST_F(ScanPipeline, WithoutDeveloperJunkHasSevenRowsAtTheirOwnFractions) {
-  files.addFile("/Users/ann/Library/Developer/Xcode/DerivedData/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Developer/Xcode/Archives/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Developer/CoreSimulator/Caches/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Containers/com.docker.docker/Data/log/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/DerivedData/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/Archives/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Developer/CoreSimulator/Caches/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Containers/com.docker.docker/Data/log/a", 5'000'000);
   defaults.set("includeDeveloperJunk", false);
 
   EXPECT_THAT(run(), IsEmpty());
@@ -73,8 +73,8 @@ TEST_F(ScanPipeline, TakesADeveloperSettingThatIsNoBooleanAsTrue) {
 }
 
 TEST_F(ScanPipeline, TellsEveryItemOfARowThatReports) {
-  files.addFile("/Users/ann/Library/Developer/Xcode/DerivedData/a", 300);
-  files.addFile("/Users/ann/Library/Developer/Xcode/tvOS DeviceSupport/b", 50);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/DerivedData/a", 300);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/tvOS DeviceSupport/b", 50);
   run();
   const auto xcodeUpdate = [](std::optional<std::string> path, std::int64_t items,
                               std::int64_t bytes) {
@@ -89,17 +89,17 @@ TEST_F(ScanPipeline, TellsEveryItemOfARowThatReports) {
 }
 
 TEST_F(ScanPipeline, ReportsItemsOnlyInFiveRows) {
-  files.addFile("/Users/ann/Library/Developer/Xcode/DerivedData/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Developer/CoreSimulator/Caches/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Developer/Xcode/Archives/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Caches/com.acme/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Logs/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Application Support/MobileSync/Backup/1/a", 5'000'000);
-  files.addFile("/Users/ann/.Trash/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Caches/Firefox/a", 5'000'000);
-  files.addFile("/Users/ann/Library/Containers/com.docker.docker/Data/log/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/DerivedData/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Developer/CoreSimulator/Caches/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/Archives/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Caches/com.acme/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Logs/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Application Support/MobileSync/Backup/1/a", 5'000'000);
+  disk.addFile("/Users/ann/.Trash/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Caches/Firefox/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Containers/com.docker.docker/Data/log/a", 5'000'000);
   commands.answer("tmutil listlocalsnapshotdates / 2>/dev/null", "2026-03-01-101530");
-  files.addFile("/Users/ann/Library/Cookies/a", 50'000'000);
+  disk.addFile("/Users/ann/Library/Cookies/a", 50'000'000);
 
   EXPECT_EQ(run().size(), 11U);
   std::vector<std::string> reporting;
@@ -111,9 +111,9 @@ TEST_F(ScanPipeline, ReportsItemsOnlyInFiveRows) {
 }
 
 TEST_F(ScanPipeline, DeliversCategoriesInTableOrderAndAnswersThemLargestFirst) {
-  files.addFile("/Users/ann/Library/Developer/Xcode/DerivedData/a", 100);
-  files.addFile("/Users/ann/Library/Caches/com.acme/a", 2'000'000);
-  files.addFile("/Users/ann/Library/Logs/a", 3'000'000);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/DerivedData/a", 100);
+  disk.addFile("/Users/ann/Library/Caches/com.acme/a", 2'000'000);
+  disk.addFile("/Users/ann/Library/Logs/a", 3'000'000);
   std::vector<CategoryType> sorted;
   for (const CleanCategory& category : run()) sorted.push_back(category.type);
   using enum CategoryType;
@@ -122,9 +122,9 @@ TEST_F(ScanPipeline, DeliversCategoriesInTableOrderAndAnswersThemLargestFirst) {
 }
 
 TEST_F(ScanPipeline, KeepsCategoriesOfOneSizeInTableOrder) {
-  files.addFile("/Users/ann/Library/Developer/Xcode/Archives/a", 5'000);
-  files.addFile("/Users/ann/Library/Logs/a", 5'000);
-  files.addFile("/Users/ann/Library/Caches/Firefox/a", 5'000);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/Archives/a", 5'000);
+  disk.addFile("/Users/ann/Library/Logs/a", 5'000);
+  disk.addFile("/Users/ann/Library/Caches/Firefox/a", 5'000);
   std::vector<CategoryType> sorted;
   for (const CleanCategory& category : run()) sorted.push_back(category.type);
   using enum CategoryType;
@@ -132,22 +132,22 @@ TEST_F(ScanPipeline, KeepsCategoriesOfOneSizeInTableOrder) {
 }
 
 TEST_F(ScanPipeline, DropsACategoryInWhichEverythingMeasuredNothing) {
-  files.addFile("/Users/ann/.Trash/empty", 0);
-  files.addLink("/Users/ann/.Trash/link");
+  disk.addFile("/Users/ann/.Trash/empty", 0);
+  disk.addLink("/Users/ann/.Trash/link");
   EXPECT_THAT(run(), IsEmpty());
   EXPECT_THAT(delivered, IsEmpty());
   EXPECT_EQ(updates.back().completedCategories, 11);
 }
 
 TEST_F(ScanPipeline, DropsOnlyTheItemsThatMeasuredNothing) {
-  files.addFile("/Users/ann/.Trash/empty", 0);
-  files.addFile("/Users/ann/.Trash/one", 1);
+  disk.addFile("/Users/ann/.Trash/empty", 0);
+  disk.addFile("/Users/ann/.Trash/one", 1);
   EXPECT_THAT(names(found(CategoryType::trashBin)), ElementsAre("one"));
 }
 
 TEST_F(ScanPipeline, AStopDuringARowLetsItFinishAndStartsNoOther) {
-  files.addFile("/Users/ann/Library/Developer/Xcode/Archives/a", 5'000);
-  files.addFile("/Users/ann/Library/Caches/com.acme/a", 5'000'000);
+  disk.addFile("/Users/ann/Library/Developer/Xcode/Archives/a", 5'000);
+  disk.addFile("/Users/ann/Library/Caches/com.acme/a", 5'000'000);
   std::stop_source source;
   const auto result = engine.scanAll(
       source.get_token(),
@@ -182,7 +182,7 @@ TEST_F(ScanPipeline, AStopDuringTheLastRowIsToldAsSuch) {
 }
 
 TEST_F(ScanPipeline, RunsAfreshEachTime) {
-  files.addFile("/Users/ann/Library/Logs/a", 3'000'000);
+  disk.addFile("/Users/ann/Library/Logs/a", 3'000'000);
   const auto first = run();
   updates.clear();
   const auto second = run();

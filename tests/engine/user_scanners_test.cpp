@@ -24,19 +24,19 @@ class UserScanners : public EngineFixture {
 };
 
 TEST_F(UserScanners, AppCachesAreTheChildrenOfTheFolderLargestFirst) {
-  files.addFile(caches / "small/a", 2'000'000);
-  files.addFile(caches / "large/a", 3'000'000);
-  files.addFile(caches / ".hidden/a", 2'500'000);
-  files.addFile(caches / "plain.db", 4'000'000);
+  disk.addFile(caches / "small/a", 2'000'000);
+  disk.addFile(caches / "large/a", 3'000'000);
+  disk.addFile(caches / ".hidden/a", 2'500'000);
+  disk.addFile(caches / "plain.db", 4'000'000);
   const auto items = found(CategoryType::appCaches);
   EXPECT_THAT(names(items), ElementsAre("plain.db", "large", ".hidden", "small"));
   EXPECT_EQ(items[1].path, caches / "large");
-  EXPECT_EQ(items[1].modifiedDate, MemoryFileSystem::usualDate);
+  EXPECT_EQ(items[1].modifiedDate, FakeFileSystem::usualDate);
 }
 
 TEST_F(UserScanners, AnAppCacheNeedsOneByteMoreThanAMillion) {
-  files.addFile(caches / "exact/a", 1'000'000);
-  files.addFile(caches / "more/a", 1'000'001);
+  disk.addFile(caches / "exact/a", 1'000'000);
+  disk.addFile(caches / "more/a", 1'000'001);
   EXPECT_THAT(names(found(CategoryType::appCaches)), ElementsAre("more"));
 }
 
@@ -45,67 +45,67 @@ TEST_F(UserScanners, AppCachesLeaveWhatOtherRowsOwnByHowTheNameBegins) {
        {"com.google.Chrome", "com.google.Chrome.helper", "Google", "GoogleUpdater",
         "com.apple.Safari.SafeBrowsing", "Firefox", "com.brave.Browser", "com.microsoft.edgemac",
         "com.apple.dt.Xcode", "org.llvm.clang", "com.docker.docker"}) {
-    files.addFile(caches / name / "a", 5'000'000);
+    disk.addFile(caches / name / "a", 5'000'000);
   }
-  files.addFile(caches / "com.google.chrome/a", 5'000'000);
-  files.addFile(caches / "my.Google/a", 5'000'000);
+  disk.addFile(caches / "com.google.chrome/a", 5'000'000);
+  disk.addFile(caches / "my.Google/a", 5'000'000);
   EXPECT_THAT(names(found(CategoryType::appCaches)),
               UnorderedElementsAre("com.google.chrome", "my.Google"));
 }
 
 TEST_F(UserScanners, ALinkAmongTheAppCachesGivesNoItem) {
-  files.addLink(caches / "link");
+  disk.addLink(caches / "link");
   EXPECT_THAT(found(CategoryType::appCaches), IsEmpty());
 }
 
 TEST_F(UserScanners, AnAppCacheWithoutADateKeepsNone) {
-  files.addFile(caches / "plain.db", 4'000'000, std::nullopt);
+  disk.addFile(caches / "plain.db", 4'000'000, std::nullopt);
   EXPECT_EQ(found(CategoryType::appCaches)[0].modifiedDate, std::nullopt);
 }
 
 TEST_F(UserScanners, AppCachesThatCannotBeListedGiveNoCategory) {
-  files.addFile(caches / "a/b", 4'000'000);
+  disk.addFile(caches / "a/b", 4'000'000);
   files.makeUnreadable(caches);
   EXPECT_THAT(found(CategoryType::appCaches), IsEmpty());
 }
 
 TEST_F(UserScanners, SystemLogsAreTwoWholeFolders) {
-  files.addFile("/var/log/system.log", 900);
-  files.addFile(library / "Logs/app/a.log", 10);
+  disk.addFile("/var/log/system.log", 900);
+  disk.addFile(library / "Logs/app/a.log", 10);
   const auto items = found(CategoryType::systemLogs);
   EXPECT_THAT(names(items), ElementsAre("Logs", "log"));
   EXPECT_EQ(items[1].path, "/var/log");
 }
 
 TEST_F(UserScanners, BackupsAreNamedByTheirDateLargestFirst) {
-  files.addFile(backups / "00008101-000A1D2E/a", 10);
-  files.addFile(backups / "00008110-001B2C3D/a", 20);
-  files.setModified(backups / "00008110-001B2C3D", std::nullopt);
+  disk.addFile(backups / "00008101-000A1D2E/a", 10);
+  disk.addFile(backups / "00008110-001B2C3D/a", 20);
+  disk.setModified(backups / "00008110-001B2C3D", std::nullopt);
   const auto items = found(CategoryType::iosBackups);
-  EXPECT_THAT(names(items), ElementsAre("iPhone Backup — 00008110",
-                                        "iPhone Backup — " +
-                                            formatting.dateAndTime(MemoryFileSystem::usualDate)));
+  EXPECT_THAT(names(items),
+              ElementsAre("iPhone Backup — 00008110",
+                          "iPhone Backup — " + formatting.dateAndTime(FakeFileSystem::usualDate)));
   EXPECT_EQ(items[0].path, backups / "00008110-001B2C3D");
 }
 
 TEST_F(UserScanners, ABackupWithAShortNameAndNoDateKeepsItsWholeName) {
-  files.addFile(backups / "ab/a", 10);
-  files.setModified(backups / "ab", std::nullopt);
+  disk.addFile(backups / "ab/a", 10);
+  disk.setModified(backups / "ab", std::nullopt);
   EXPECT_THAT(names(found(CategoryType::iosBackups)), ElementsAre("iPhone Backup — ab"));
 }
 
 TEST_F(UserScanners, TheTrashIsTheTopLevelOfAllItsFolders) {
-  files.addFile("/Users/ann/.local/share/Trash/files/one/a", 10);
-  files.addFile("/Users/ann/.Trash/.hidden", 30);
-  files.addFile("/Users/ann/.Trash/two", 20);
+  disk.addFile("/Users/ann/.local/share/Trash/files/one/a", 10);
+  disk.addFile("/Users/ann/.Trash/.hidden", 30);
+  disk.addFile("/Users/ann/.Trash/two", 20);
   const auto items = found(CategoryType::trashBin);
   EXPECT_THAT(names(items), ElementsAre("one", ".hidden", "two"));
-  EXPECT_EQ(items[2].modifiedDate, MemoryFileSystem::usualDate);
+  EXPECT_EQ(items[2].modifiedDate, FakeFileSystem::usualDate);
 }
 
 TEST_F(UserScanners, ATrashThatCannotBeListedGivesNoCategory) {
-  files.addFile("/Users/ann/.local/share/Trash/files/one", 10);
-  files.makeUnreadable("/Users/ann/.local/share/Trash/files");
+  disk.addFile("/Users/ann/.local/share/Trash/files/one", 10);
+  trash.readable = false;
   EXPECT_THAT(found(CategoryType::trashBin), IsEmpty());
 }
 
@@ -113,7 +113,7 @@ TEST_F(UserScanners, BrowserCachesAreSixWholeFoldersInTheirOrder) {
   for (const char* const name :
        {"com.microsoft.edgemac", "com.brave.Browser", "Firefox", "com.apple.Safari",
         "com.google.Chrome", "Google/Chrome", "Opera"}) {
-    files.addFile(caches / name / "a", 5);
+    disk.addFile(caches / name / "a", 5);
   }
   EXPECT_THAT(names(found(CategoryType::browserCaches)),
               ElementsAre("Chrome", "com.google.Chrome", "com.apple.Safari", "Firefox",
@@ -160,22 +160,22 @@ TEST_F(UserScanners, ASnapshotNameWithShellCharactersIsShownButNeverRun) {
 
 TEST_F(UserScanners, FirmwareIsAFileOfTwoExtensionsInFourFolders) {
   const std::int64_t size = 200'000'000;
-  files.addFile(library / "iTunes/iPhone Software Updates/a.ipsw", size + 4);
-  files.addFile(library / "iTunes/iPad Software Updates/b.ipa", size + 3);
-  files.addFile(library / "iTunes/iPod Software Updates/c.ipsw", size + 2);
-  files.addFile(library / "Apple/MobileSync/Backup/d.ipsw", size + 1);
-  files.addFile(library / "iTunes/iPhone Software Updates/capitals.IPSW", size);
-  files.addFile(library / "iTunes/iPhone Software Updates/other.zip", size);
-  files.addFile(library / "iTunes/e.ipsw", size);
+  disk.addFile(library / "iTunes/iPhone Software Updates/a.ipsw", size + 4);
+  disk.addFile(library / "iTunes/iPad Software Updates/b.ipa", size + 3);
+  disk.addFile(library / "iTunes/iPod Software Updates/c.ipsw", size + 2);
+  disk.addFile(library / "Apple/MobileSync/Backup/d.ipsw", size + 1);
+  disk.addFile(library / "iTunes/iPhone Software Updates/capitals.IPSW", size);
+  disk.addFile(library / "iTunes/iPhone Software Updates/other.zip", size);
+  disk.addFile(library / "iTunes/e.ipsw", size);
   const auto items = found(CategoryType::systemData);
   EXPECT_THAT(names(items), ElementsAre("📱 Firmware: a.ipsw", "📱 Firmware: b.ipa",
                                         "📱 Firmware: c.ipsw", "📱 Firmware: d.ipsw"));
-  EXPECT_EQ(items[0].modifiedDate, MemoryFileSystem::usualDate);
+  EXPECT_EQ(items[0].modifiedDate, FakeFileSystem::usualDate);
 }
 
 TEST_F(UserScanners, AFirmwareFileNeedsOneByteMoreThanAHundredMillion) {
-  files.addFile(library / "iTunes/iPhone Software Updates/exact.ipsw", 100'000'000);
-  files.addFile(library / "iTunes/iPhone Software Updates/more.ipsw", 100'000'001);
+  disk.addFile(library / "iTunes/iPhone Software Updates/exact.ipsw", 100'000'000);
+  disk.addFile(library / "iTunes/iPhone Software Updates/more.ipsw", 100'000'001);
   EXPECT_THAT(names(found(CategoryType::systemData)), ElementsAre("📱 Firmware: more.ipsw"));
 }
 
@@ -188,12 +188,12 @@ struct LeftoverCase {
 class Leftovers : public UserScanners, public testing::WithParamInterface<LeftoverCase> {};
 
 TEST_P(Leftovers, AFolderOfExactlyTheThresholdGivesNoItem) {
-  files.addFile(Path(GetParam().path) / "a", GetParam().largestIgnored);
+  disk.addFile(Path(GetParam().path) / "a", GetParam().largestIgnored);
   EXPECT_THAT(found(CategoryType::systemData), IsEmpty());
 }
 
 TEST_P(Leftovers, AFolderOneByteAboveGivesOneWithoutADate) {
-  files.addFile(Path(GetParam().path) / "a", GetParam().largestIgnored + 1);
+  disk.addFile(Path(GetParam().path) / "a", GetParam().largestIgnored + 1);
   const auto items = found(CategoryType::systemData);
   ASSERT_THAT(names(items), ElementsAre(GetParam().name));
   EXPECT_EQ(items[0].path, GetParam().path);
@@ -214,11 +214,11 @@ INSTANTIATE_TEST_SUITE_P(
         LeftoverCase{"/Users/ann/Library/HTTPStorages", 20'000'000, "🌐 HTTP Storage"}));
 
 TEST_F(UserScanners, LeftoversOfAllKindsStandInOneListLargestFirst) {
-  files.addFile(library / "Cookies/a", 30'000'000);
-  files.addFile(library / "Saved Application State/a", 60'000'000);
-  files.addFile("/opt/homebrew/Caches/a", 110'000'000);
-  files.addFile(library / "Caches/Homebrew/a", 120'000'000);
-  files.addFile(library / "iTunes/iPad Software Updates/a.ipsw", 105'000'000);
+  disk.addFile(library / "Cookies/a", 30'000'000);
+  disk.addFile(library / "Saved Application State/a", 60'000'000);
+  disk.addFile("/opt/homebrew/Caches/a", 110'000'000);
+  disk.addFile(library / "Caches/Homebrew/a", 120'000'000);
+  disk.addFile(library / "iTunes/iPad Software Updates/a.ipsw", 105'000'000);
   EXPECT_THAT(names(found(CategoryType::systemData)),
               ElementsAre("🍺 Homebrew Cache", "🍺 Homebrew Cache", "📱 Firmware: a.ipsw",
                           "📋 Saved App State", "🍪 Cookies"));

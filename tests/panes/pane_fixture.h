@@ -9,8 +9,7 @@
 #include <string>
 
 #include "state/shared_state.h"
-#include "support/desktop_on_disk.h"
-#include "support/faulting_file_system.h"
+#include "support/fake_desktop.h"
 #include "thread_watch.h"
 
 namespace klarvik {
@@ -19,7 +18,7 @@ namespace klarvik {
 /// disk. A test can put faults under the pane, and hold threads up at `gate`.
 class PaneFixture : public ::testing::Test {
  protected:
-  using Operation = FaultingFileSystem::Operation;
+  using Operation = FaultInjectingFileSystem::Operation;
   static constexpr std::int64_t kilobyte = 1'000;
   static constexpr std::int64_t megabyte = 1'000'000;
   static constexpr std::int64_t mebibyte = 1'048'576;
@@ -79,9 +78,9 @@ class PaneFixture : public ::testing::Test {
 
   Gate gate;
   ThreadWatch passers;
-  DesktopOnDisk desk;
-  FaultingFileSystem files{desk.files};
-  Desktop desktop = desk.around(files, desk.desktop.trash, desk.clock);
+  FakeDesktopOnDisk desk;
+  FaultInjectingFileSystem& files = desk.files;
+  const Desktop& desktop = desk.desktop;
   SharedState shared{desktop};
 };
 

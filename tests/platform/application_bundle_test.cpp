@@ -4,7 +4,7 @@
 #include <sys/stat.h>
 
 #include "platform/linux/linux_file_system.h"
-#include "support/faulting_file_system.h"
+#include "support/fault_injecting_file_system.h"
 #include "support/property_lists.h"
 #include "support/temporary_folder.h"
 
@@ -236,7 +236,7 @@ TEST_F(ApplicationBundleTest, AFifoAFolderOrALinkIsNeverOpened) {
 
 TEST_F(ApplicationBundleTest, APropertyListWhoseReadingFailsHalfWayIsNoBundle) {
   disk.makeFile(app / "Contents/Info.plist", xmlPropertyList(kWriter) + std::string(200'000, ' '));
-  FaultingFileSystem faulty(files);
+  FaultInjectingFileSystem faulty(files);
   EXPECT_TRUE(ApplicationBundle::at(faulty, app));
   faulty.failReadingAfter(100'000, app / "Contents/Info.plist");
   EXPECT_FALSE(ApplicationBundle::at(faulty, app));

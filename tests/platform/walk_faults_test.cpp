@@ -14,7 +14,7 @@
 #include "deep_tree.h"
 #include "platform/linux/linux_file_system.h"
 #include "support/child_process.h"
-#include "support/faulting_file_system.h"
+#include "support/fault_injecting_file_system.h"
 #include "support/private_mounts.h"
 #include "support/system_call_faults.h"
 #include "support/temporary_folder.h"
@@ -375,7 +375,7 @@ TEST_F(WalkFaultsTest, TwoNamesOfOneFileCountForEachName) {
 TEST_F(WalkFaultsTest, SumsBeyondTwoToThe53AreExact) {
   disk.makeFile("/start/a");
   disk.makeFile("/start/b");
-  FaultingFileSystem overlaid(files);
+  FaultInjectingFileSystem overlaid(files);
   overlaid.overlaySize("/start/a", (std::int64_t{1} << 53) + 1);
   overlaid.overlaySize("/start/b", 2);
   EXPECT_EQ(sumBelow(overlaid, "/start"), 9'007'199'254'740'995);

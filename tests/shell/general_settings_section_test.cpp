@@ -7,7 +7,7 @@
 #include <QSysInfo>
 #include <map>
 
-#include "support/desktop_on_disk.h"
+#include "support/fake_desktop.h"
 #include "support/fake_login_item.h"
 
 namespace klarvik {
@@ -25,7 +25,7 @@ class GeneralSettings : public ::testing::Test {
             {"includeDeveloperJunk", page.includeDeveloperJunk()}};
   }
 
-  DesktopOnDisk desk;
+  FakeDesktopOnDisk desk;
   FakeLoginItem loginItem;
   PermissionsManager permissions{desk.desktop};
   GeneralSettingsSection page{permissions, loginItem, desk.desktop};

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QSignalSpy>
 
-#include "support/desktop_on_disk.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 class Onboarding : public ::testing::Test {
  protected:
-  struct DeniedDesktop : DesktopOnDisk {
+  struct DeniedDesktop : FakeDesktopOnDisk {
     DeniedDesktop() { denyFullDiskAccess(); }
   };
 

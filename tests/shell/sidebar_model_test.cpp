@@ -7,7 +7,7 @@
 
 #include "shell/app_shell.h"
 #include "state/shared_state.h"
-#include "support/desktop_on_disk.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -42,7 +42,7 @@ class SidebarRows : public ::testing::Test {
   QObject _model;
 
  protected:
-  DesktopOnDisk desk;
+  FakeDesktopOnDisk desk;
   AppCommands commands{std::vector<AppCommand>{}};
   SharedState shared{desk.desktop};
   AppState appState{desk.desktop, shared.toolActivity(), shared.scanCoordinator(),

@@ -6,7 +6,7 @@
 #include <QSignalSpy>
 
 #include "panes/kit/symbol_table.h"
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -23,8 +23,8 @@ class UpdateSettings : public ::testing::Test {
     EXPECT_FALSE(glyphOfSymbol(symbol).empty());
   }
 
-  TestDesktop around;
-  Desktop desktop = around.desktop();
+  FakeDesktopOnDisk around;
+  const Desktop& desktop = around.desktop;
   UpdateManager manager{desktop};
   UpdateSettingsView view{manager, desktop};
 };

@@ -4,7 +4,7 @@
 
 #include <QSignalSpy>
 
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -13,8 +13,8 @@ class UpdateWindowTest : public ::testing::Test {
  protected:
   void show(const UpdateStage& stage) { around.updater.show(stage); }
 
-  TestDesktop around;
-  Desktop desktop = around.desktop();
+  FakeDesktopOnDisk around;
+  const Desktop& desktop = around.desktop;
   UpdateWindow window{desktop};
 };
 

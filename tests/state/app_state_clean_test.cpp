@@ -10,8 +10,6 @@
 #include "platform/notification_center.h"
 #include "signal_count.h"
 #include "state/section.h"
-#include "state_desktop.h"
-#include "support/test_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -19,23 +17,20 @@ namespace {
 using namespace std::chrono_literals;
 
 /// Items that are really on the disk, in the user's caches.
-template <typename DesktopAround>
-class CleanFixture : public AppStateFixture<DesktopAround> {
+class CleanFixture : public AppStateFixture {
  protected:
   [[nodiscard]] JunkItem onDisk(const std::string& name, std::int64_t size) const {
     const Path path = "/Users/ann/Library/Caches/" + name;
-    this->around.disk.makeFile(path, size);
+    around.disk.makeFile(path, size);
     return junk(path, size);
   }
-  [[nodiscard]] bool isThere(const JunkItem& item) const {
-    return this->around.disk.holds(item.path);
-  }
+  [[nodiscard]] bool isThere(const JunkItem& item) const { return around.disk.holds(item.path); }
   [[nodiscard]] bool cleaned() {
-    return turnMainLoopUntil([this] { return this->isCleanDone(); });
+    return turnMainLoopUntil([this] { return isCleanDone(); });
   }
   QCoro::Task<> restore() {
     restored = std::nullopt;
-    restored = co_await this->state->restoreLastClean();
+    restored = co_await state->restoreLastClean();
   }
   [[nodiscard]] std::int64_t restoreAll() {
     restore();
@@ -46,10 +41,10 @@ class CleanFixture : public AppStateFixture<DesktopAround> {
   std::optional<std::int64_t> restored;
   int diskChanges = 0;
   NotificationCenter::Subscription subscription =
-      this->around.notifications.observe(diskChangedNotification, [this] { ++diskChanges; });
+      around.notifications.observe(diskChangedNotification, [this] { ++diskChanges; });
 };
 
-class AppStateClean : public CleanFixture<StateDesktop> {
+class AppStateClean : public CleanFixture {
  protected:
   const JunkItem a = onDisk("a", 1000);
   const JunkItem b = onDisk("b", 2000);
@@ -191,13 +186,13 @@ TEST_F(AppStateClean, WithoutTheTrashNothingCanComeBack) {
   ASSERT_TRUE(cleaned());
   EXPECT_EQ(state->lastClean()->freed, 6000);
   EXPECT_TRUE(state->lastClean()->restorable.empty());
-  EXPECT_FALSE(around.disk.holds("/Users/ann/.Trash"));
+  EXPECT_TRUE(around.trash.list()->empty());
 }
 
 TEST_F(AppStateClean, ShowsTheProgressAndTheMainLoopTicksMeanwhile) {
   scanAndFind({caches});
   std::counting_semaphore<> letGo(0);
-  around.files.setHook([&](const std::string&, const Path&) { letGo.acquire(); });
+  around.trash.beforeEach(TrashOperation::moveToTrash, [&](const Path&) { letGo.acquire(); });
   state->performClean();
   int ticks = 0;
   QTimer timer;
@@ -219,8 +214,7 @@ class LongClean : public AppStateClean {
     for (int item = 0; item < 30; ++item) {
       many.push_back(onDisk("many " + std::to_string(item), 10));
     }
-    around.files.setHook([this](const std::string& operation, const Path&) {
-      if (operation != "move") return;
+    around.trash.beforeEach(TrashOperation::moveToTrash, [this](const Path&) {
       ++underWay;
       letGo.acquire();
     });
@@ -260,7 +254,8 @@ TEST_F(LongClean, QuittingDuringARemovalFinishesTheItemsInHandAndPutsThemOnRecor
   const std::int64_t gone = 30 - itemsLeft();
   EXPECT_GE(gone, 6);
   for (const JunkItem& item : many) {
-    EXPECT_NE(isThere(item), around.disk.holds("/Users/ann/.Trash/" + item.name)) << item.name;
+    EXPECT_NE(isThere(item), around.disk.holds("/Users/ann/.local/share/Trash/files/" + item.name))
+        << item.name;
   }
   ASSERT_EQ(history.cleans().size(), 1U);
   EXPECT_EQ(history.cleans()[0].totalJunk, 10 * gone);
@@ -336,9 +331,7 @@ TEST_F(AppStateClean, AFolderComesBackBeforeWhatLayInItThoughItWentLast) {
   const JunkItem beside = onDisk("folder/beside", 2);
   const JunkItem folder = junk("/Users/ann/Library/Caches/folder", 3);
   std::counting_semaphore<> letGo(0);
-  around.files.setHook([&](const std::string& operation, const Path& path) {
-    if (operation == "move" && path == folder.path) letGo.acquire();
-  });
+  around.trash.before(TrashOperation::moveToTrash, folder.path, [&] { letGo.acquire(); });
   scanAndFind({categoryOf(CategoryType::appCaches, {innerFolder, folder})});
   state->performClean();
   ASSERT_TRUE(turnMainLoopUntil([&] { return state->cleanProgress()->completed == 1; }));
@@ -405,8 +398,7 @@ TEST_F(AppStateClean, ANewScanForgetsTheLastClean) {
   EXPECT_EQ(state->lastClean(), std::nullopt);
 }
 
-/// The real Trash of this platform on a temporary disk.
-using CleanWithTheRealTrash = CleanFixture<TestDesktop>;
+using CleanWithTheRealTrash = CleanFixture;
 
 TEST_F(CleanWithTheRealTrash, WhatACleanTrashedComesBackWholeAndAScanFollows) {
   const JunkItem plain = onDisk("plain", 5000);

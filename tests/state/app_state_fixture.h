@@ -17,13 +17,8 @@ inline CleanCategory categoryOf(CategoryType type, std::vector<JunkItem> items) 
   return {.type = type, .items = std::move(items)};
 }
 
-template <typename DesktopAround>
-class AppStateFixture : public ::testing::Test, protected ScriptedAppState<DesktopAround> {
+class AppStateFixture : public ::testing::Test, protected ScriptedAppState {
  protected:
-  using ScriptedAppState<DesktopAround>::scans;
-  using ScriptedAppState<DesktopAround>::state;
-  using ScriptedAppState<DesktopAround>::activity;
-
   ~AppStateFixture() override {
     state.reset();
     turnMainLoop();

@@ -5,15 +5,13 @@
 
 #include "app_state_fixture.h"
 #include "signal_count.h"
-#include "state_desktop.h"
-#include "support/test_desktop.h"
 
 namespace klarvik {
 namespace {
 
 using namespace std::chrono_literals;
 
-class AppStateScan : public AppStateFixture<StateDesktop> {
+class AppStateScan : public AppStateFixture {
  protected:
   /// Delivers everything that the scan was told to report.
   [[nodiscard]] bool deliver(const std::function<bool()>& arrived) {
@@ -431,13 +429,12 @@ TEST_F(AppStateScan, AToggledItemIsTakenOutOfTheCountAndPutBack) {
 
 /// The real engine on a real disk.
 TEST(AppStateOnARealDisk, ScansWhatIsThere) {
-  TestDesktop around;
+  FakeDesktopOnDisk around;
   around.disk.makeFile("/Users/ann/Library/Caches/com.example.app/data", std::int64_t{2'000'000});
-  const Desktop desktop = around.desktop();
   ToolActivity activity(around.clock);
   ScanCoordinator coordinator(around.defaults);
   ScanHistory history(around.defaults, around.clock);
-  AppState state(desktop, activity, coordinator, history);
+  AppState state(around.desktop, activity, coordinator, history);
   state.startScan();
   ASSERT_TRUE(
       turnMainLoopUntil([&] { return std::holds_alternative<AppState::Done>(state.scanState()); }));

@@ -6,7 +6,7 @@
 
 #include "signal_count.h"
 #include "state/section.h"
-#include "state_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -19,7 +19,7 @@ class DiskMonitorTest : public ::testing::Test {
   [[nodiscard]] std::int64_t shownFree() const { return monitor->stats().freeBytes; }
   void postDiskChanged() { around.notifications.post(diskChangedNotification); }
 
-  StateDesktop around;
+  FakeDesktopOnDisk around;
   std::optional<DiskMonitor> monitor{std::in_place, around.desktop};
 };
 

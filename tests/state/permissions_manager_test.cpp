@@ -1,11 +1,9 @@
 #include "state/permissions_manager.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
+#include <gmock/gmock.h>
 
 #include "signal_count.h"
-#include "state_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -21,12 +19,12 @@ class PermissionsManagerTest : public ::testing::Test {
   void putReadable(const Path& path) { around.disk.makeFile(path); }
   void putUnreadable(const Path& path) {
     around.disk.makeFile(path);
-    around.files.makeUnreadable(path);
+    around.files.fail(FileOperation::openForReading, path);
   }
-  void grant() { around.files.makeReadable(first); }
+  void grant() { around.files.heal(FileOperation::openForReading, first); }
   [[nodiscard]] bool access() { return PermissionsManager(around.desktop).probeAccess(); }
 
-  StateDesktop around;
+  FakeDesktopOnDisk around;
 };
 
 TEST_F(PermissionsManagerTest, NoProtectedFileAtAllCountsAsAccess) {
@@ -37,7 +35,8 @@ TEST_F(PermissionsManagerTest, AReadableFirstFileDecidesWithoutALookAtTheOthers)
   putReadable(first);
   putUnreadable(second);
   EXPECT_TRUE(access());
-  EXPECT_EQ(std::ranges::count(around.files.openedFiles(), second), 0);
+  EXPECT_FALSE(around.files.openings().empty());
+  EXPECT_THAT(around.files.openings(), ::testing::Each(first));
 }
 
 TEST_F(PermissionsManagerTest, AnUnreadableFirstFileAndAReadableThirdCountAsAccess) {
@@ -117,7 +116,7 @@ TEST_F(WithoutAccess, WithTheAccessGrantedWorkRunsAtOnceAndNoSheetIsUsedUp) {
   ensure("storage");
   EXPECT_EQ(worked, std::vector<std::string>{"storage"});
   EXPECT_TRUE(permissions().hasFullDiskAccess());
-  around.files.makeUnreadable(first);
+  around.files.fail(FileOperation::openForReading, first);
   ensure("duplicates");
   EXPECT_TRUE(permissions().isRequestingAccess());
 }
@@ -160,7 +159,7 @@ TEST_F(WithoutAccess, AGrantIsSeenWithinTwoSecondsAndEndsThePolling) {
   around.clock.advance(1ns);
   EXPECT_TRUE(permissions().hasFullDiskAccess());
 
-  around.files.makeUnreadable(first);
+  around.files.fail(FileOperation::openForReading, first);
   around.clock.advance(1min);
   EXPECT_TRUE(permissions().hasFullDiskAccess());
 }

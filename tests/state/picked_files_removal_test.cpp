@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "state_desktop.h"
 #include "support/application/main_loop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -30,7 +30,7 @@ class PickedFilesRemovalTest : public ::testing::Test {
     return turnMainLoopUntil([this] { return moved.has_value(); });
   }
 
-  StateDesktop around;
+  FakeDesktopOnDisk around;
   std::optional<std::set<Path>> moved;
   PickedFilesRemoval removal{around.desktop};
 };

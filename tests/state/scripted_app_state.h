@@ -5,21 +5,20 @@
 #include "scripted_scan.h"
 #include "state/app_state.h"
 #include "state/scan_history.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 
-/// An `AppState` whose scans do what the test tells them to, with all that it stands on. Works on
-/// any `DesktopAround` with the members of a test's desktop.
-template <typename DesktopAround>
+/// An `AppState` over a real disk whose scans do what the test tells them to, with all that it
+/// stands on.
 struct ScriptedAppState {
-  DesktopAround around;
-  Desktop desktop = around.around(around.files, around.trash, around.clock);
+  FakeDesktopOnDisk around;
   ToolActivity activity{around.clock};
   ScanCoordinator coordinator{around.defaults};
   ScanHistory history{around.defaults, around.clock};
   ScriptedScan scans;
-  std::optional<AppState> state{std::in_place, desktop, activity,    coordinator,
-                                history,       nullptr, scans.scan()};
+  std::optional<AppState> state{std::in_place, around.desktop, activity,    coordinator,
+                                history,       nullptr,        scans.scan()};
 };
 
 }  // namespace klarvik

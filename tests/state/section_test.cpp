@@ -18,17 +18,5 @@ TEST(Section, IsFoundAgainByItsRawValue) {
   EXPECT_EQ(section(""), std::nullopt);
 }
 
-TEST(Section, HasATitleForTheSidebar) {
-  std::vector<std::string_view> titles;
-  for (const Section section : allSections()) titles.push_back(title(section));
-  EXPECT_EQ(titles,
-            (std::vector<std::string_view>{"Smart Scan", "Storage", "Duplicates", "Large Files",
-                                           "System Data", "Uninstaller", "Privacy"}));
-}
-
-TEST(Section, NamesTheNotificationOfAChangedDisk) {
-  EXPECT_STREQ(diskChangedNotification, "klarvik.diskChanged");
-}
-
 }  // namespace
 }  // namespace klarvik

@@ -3,15 +3,14 @@
 #include <gtest/gtest.h>
 
 #include "support/application/main_loop.h"
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
 
 TEST(SharedState, StandsBehindEverySharedObject) {
-  TestDesktop around;
-  const Desktop desktop = around.desktop();
-  SharedState shared(desktop);
+  const FakeDesktopOnDisk around;
+  SharedState shared(around.desktop);
   EXPECT_EQ(&Navigator::shared(), &shared.navigator());
   EXPECT_EQ(&ToolActivity::shared(), &shared.toolActivity());
   EXPECT_EQ(&ScanCoordinator::shared(), &shared.scanCoordinator());
@@ -21,23 +20,14 @@ TEST(SharedState, StandsBehindEverySharedObject) {
   EXPECT_EQ(&TrashMonitor::shared(), &shared.trashMonitor());
 }
 
-TEST(SharedState, CanBeMadeAgainOnceItIsGone) {
-  TestDesktop around;
-  const Desktop desktop = around.desktop();
-  { SharedState shared(desktop); }
-  SharedState shared(desktop);
-  EXPECT_EQ(&SharedState::instance(), &shared);
-}
-
 TEST(SharedStateDeathTest, AskedForBeforeItIsMadeItEndsTheProgramWithAMessage) {
   EXPECT_DEATH(static_cast<void>(Navigator::shared()), "no SharedState; main makes it first");
 }
 
 TEST(SharedStateDeathTest, ASecondOneEndsTheProgramWithAMessage) {
-  TestDesktop around;
-  const Desktop desktop = around.desktop();
-  SharedState shared(desktop);
-  EXPECT_DEATH(SharedState second(desktop), "There is a SharedState already");
+  const FakeDesktopOnDisk around;
+  SharedState shared(around.desktop);
+  EXPECT_DEATH(SharedState second(around.desktop), "There is a SharedState already");
 }
 
 }  // namespace

@@ -8,8 +8,8 @@
 #include "engine/allocated_size.h"
 #include "signal_count.h"
 #include "state/section.h"
-#include "state_desktop.h"
 #include "support/application/main_loop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -40,7 +40,7 @@ class TrashMonitorTest : public ::testing::Test {
   }
   QCoro::Task<> empty() { freed = co_await monitor->emptyTrash(); }
 
-  StateDesktop around;
+  FakeDesktopOnDisk around;
   std::optional<std::int64_t> freed;
   std::optional<TrashMonitor> monitor;
 };
@@ -157,7 +157,7 @@ TEST_F(TrashMonitorTest, AChangeDuringAMeasurementIsPickedUpByTheTimerLater) {
 TEST_F(TrashMonitorTest, TheMainLoopTicksWhileTheTrashIsMeasured) {
   around.disk.makeFile("/Users/ann/.Trash/folder/a", std::int64_t{10'000});
   std::binary_semaphore letGo(0);
-  around.files.setHook([&](const std::string&, const Path&) { letGo.acquire(); });
+  around.files.beforeEach(FileOperation::walk, [&](const Path&) { letGo.acquire(); });
   make();
   for (int turn = 0; turn < 100; ++turn) turnMainLoop();
   EXPECT_TRUE(monitor->isMeasuring());
@@ -203,9 +203,7 @@ TEST_F(TrashMonitorTest, ShowsTheProgressOfAnEmptying) {
   for (const char* name : {"a", "b", "c"}) trash(name);
   makeAndMeasure();
   std::counting_semaphore<> letGo(0);
-  around.files.setHook([&](const std::string& operation, const Path&) {
-    if (operation == "remove") letGo.acquire();
-  });
+  around.trash.beforeEach(TrashOperation::remove, [&](const Path&) { letGo.acquire(); });
   empty();
   for (int turn = 0; turn < 100; ++turn) turnMainLoop();
   EXPECT_EQ(monitor->emptyProgress(), std::nullopt);
@@ -241,8 +239,7 @@ TEST_F(TrashMonitorTest, QuittingDuringAnEmptyingFinishesTheItemsInHandAndLosesN
   makeAndMeasure();
   std::counting_semaphore<> letGo(0);
   std::atomic<int> removals = 0;
-  around.files.setHook([&](const std::string& operation, const Path&) {
-    if (operation != "remove") return;
+  around.trash.beforeEach(TrashOperation::remove, [&](const Path&) {
     ++removals;
     letGo.acquire();
   });

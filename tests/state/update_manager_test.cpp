@@ -4,8 +4,8 @@
 
 #include "signal_count.h"
 #include "state/shared_state.h"
-#include "state_desktop.h"
 #include "support/application/main_loop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -39,7 +39,7 @@ class UpdateManagerTest : public ::testing::Test {
   }
   void expect(const UpdateManager::Status& status) { EXPECT_EQ(manager.status(), status); }
 
-  StateDesktop around;
+  FakeDesktopOnDisk around;
   UpdateManager manager{around.desktop};
 };
 
@@ -201,7 +201,7 @@ TEST_F(UpdateManagerTest, GoesOnAllowingThemWhenTheNextStartIsToShowTheFirstRunA
 }
 
 TEST(SharedUpdateManager, IsMadeAtFirstUseAndStopsTheUpdaterWithTheSharedState) {
-  StateDesktop around;
+  FakeDesktopOnDisk around;
   {
     SharedState shared(around.desktop);
     EXPECT_EQ(around.updater.delegate, nullptr);

@@ -2,19 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include "support/desktop_fakes.h"
-#include "support/memory_file_system.h"
+#include "support/fake_desktop.h"
 #include "systemdata/system_data_engine.h"
 
 namespace klarvik {
 
 /// An analysis of a remembered disk, with tools that answer what a test says.
-class AnalysisFixture : public testing::Test, protected DesktopFakes {
+class AnalysisFixture : public testing::Test, protected FakeDesktopInMemory {
  protected:
-  MemoryFileSystem files;
-  MemoryTrash trash{files};
-  Platform platform = platformOn(files, trash);
-  SystemDataEngine engine{platform};
+  SystemDataEngine engine{desktop};
 
   [[nodiscard]] std::vector<SystemDataItem> analyse() {
     return engine.analyse([](const std::string&, double) {}).items();
@@ -22,7 +18,7 @@ class AnalysisFixture : public testing::Test, protected DesktopFakes {
 
   [[nodiscard]] static Path inLibrary(const Path& path) { return "/Users/ann/Library" / path; }
   /// Puts a file of that size into a folder.
-  void fill(const Path& folder, std::int64_t bytes) { files.addFile(folder / "data", bytes); }
+  void fill(const Path& folder, std::int64_t bytes) { disk.addFile(folder / "data", bytes); }
 
   [[nodiscard]] static std::vector<std::string> names(const std::vector<SystemDataItem>& items) {
     std::vector<std::string> all;

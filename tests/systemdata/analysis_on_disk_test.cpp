@@ -4,11 +4,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include "platform/linux/linux_file_system.h"
 #include "support/child_process.h"
-#include "support/desktop_fakes.h"
-#include "support/faulting_file_system.h"
-#include "support/memory_file_system.h"
+#include "support/fake_desktop.h"
 #include "support/sample_disk.h"
 #include "support/temporary_folder.h"
 #include "systemdata/pass_table.h"
@@ -23,18 +20,17 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::UnorderedElementsAre;
 using Kind = SystemDataSubCategory;
-using Operation = FaultingFileSystem::Operation;
+using Operation = FaultInjectingFileSystem::Operation;
 
 /// An analysis of a disk on the machine, with faults and sizes put over it.
-struct DiskAnalysis : DesktopFakes {
-  DiskAnalysis(const Path& root, const Path& home) : disk(root, home) {}
+struct DiskAnalysis {
+  DiskAnalysis(const Path& root, const Path& home) : disk(root, home), trash(root, home) {}
 
   LinuxFileSystem disk;
-  FaultingFileSystem files{disk};
-  MemoryFileSystem memory;
-  MemoryTrash trash{memory};
-  Platform platform = platformOn(files, trash);
-  SystemDataEngine engine{platform};
+  LinuxTrash trash;
+  FakeDesktop around{disk, trash};
+  FaultInjectingFileSystem& files = around.files;
+  SystemDataEngine engine{around.desktop};
 
   std::vector<SystemDataItem> items() {
     return engine.analyse([](const std::string&, double) {}).items();
@@ -100,7 +96,7 @@ TEST_F(AnalysisOfASampleDisk, EachWholePlaceIsARowFromItsSizeOnAndNoneBelow) {
       const auto others = analysis.engine.measure(path);
       const auto rowOfThePlace = [&](std::int64_t bytes) {
         analysis.files.overlaySize(*file, bytes - others);
-        auto found = SystemDataSearch(analysis.platform).find(pass);
+        auto found = SystemDataSearch(analysis.around.desktop).find(pass);
         std::erase_if(found, [&](const SystemDataItem& item) { return item.path != path; });
         return found;
       };
@@ -168,7 +164,7 @@ TEST_F(AnalysisOnDisk, FirmwareIsARowFromItsSizeOn) {
   makeFileOf(updates / "c.IPSW", 60'000'000);
   makeFileOf(updates / ".ipsw", 60'000'000);
   const auto* const pass = std::ranges::find(passTable(), Kind::firmware, &Pass::kind).base();
-  const auto items = SystemDataSearch(analysis.platform).find(*pass);
+  const auto items = SystemDataSearch(analysis.around.desktop).find(*pass);
   ASSERT_THAT(items, SizeIs(1));
   EXPECT_EQ(items[0].name, "Firmware: a.ipsw");
 }
@@ -199,7 +195,7 @@ TEST_F(AnalysisOnDisk, FoldersWithAPassOfTheirOwnAreNotPartOfTheRemainder) {
   makeFileOf(library / "plain file", 10'000'003);
   const auto* const pass = std::ranges::find(passTable(), Kind::otherLibrary, &Pass::kind).base();
   std::vector<std::string> names;
-  for (const auto& item : SystemDataSearch(analysis.platform).find(*pass))
+  for (const auto& item : SystemDataSearch(analysis.around.desktop).find(*pass))
     names.push_back(item.name);
   EXPECT_THAT(names, ElementsAre("Plain file", "Odd", "Caches"));
 }
@@ -353,16 +349,16 @@ TEST_F(AnalysisOnDisk, ManyChildrenInOneFolderAreEachLookedAt) {
 
 TEST_F(AnalysisOnDisk, ToolsThatAreAbsentPrintRubbishOrTooMuchFindNothingThatIsNotThere) {
   const std::string listing = "tmutil listlocalsnapshots / 2>/dev/null";
-  analysis.commands.failToStart(listing);
+  analysis.around.commands.failToStart(listing);
   EXPECT_THAT(analysis.items(), IsEmpty());
-  analysis.commands.answer(listing, "\xff\xfe.\n");
+  analysis.around.commands.answer(listing, "\xff\xfe.\n");
   EXPECT_THAT(analysis.items(), IsEmpty());
   std::string much;
   for (int number = 0; number < 20'000; ++number)
     much += "line of " + std::to_string(number) + "\n";
-  analysis.commands.answer(listing, much + std::string(1'000'000, 'x'));
+  analysis.around.commands.answer(listing, much + std::string(1'000'000, 'x'));
   EXPECT_THAT(analysis.items(), IsEmpty());
-  analysis.commands.answer(listing, much + std::string(1'000'000, '.') + "\n");
+  analysis.around.commands.answer(listing, much + std::string(1'000'000, '.') + "\n");
   const auto items = analysis.items();
   ASSERT_THAT(items, SizeIs(1));
   EXPECT_EQ(items[0].name, "Snapshot: " + std::string(30, '.'));

@@ -31,7 +31,7 @@ class SystemDataAnalysis : public AnalysisFixture {
   /// What the pass finds where no other one takes it in.
   [[nodiscard]] std::vector<SystemDataItem> foundAlone(Kind kind) {
     const auto pass = std::ranges::find(passTable(), kind, &Pass::kind);
-    return SystemDataSearch(platform).find(*pass);
+    return SystemDataSearch(desktop).find(*pass);
   }
 
   void answerSize(const std::string& text, const std::string& output) {
@@ -154,12 +154,12 @@ TEST_F(SystemDataAnalysis, ASnapshotNameWithShellCharactersIsNeverActedOnByAShel
 
 TEST_F(SystemDataAnalysis, FirmwareWithItsExtensionInCapitalsIsNoRow) {
   const Path folder = inLibrary("iTunes/iPhone Software Updates");
-  files.addFile(folder / "a.ipsw", 4 * gigabyte);
-  files.addFile(folder / "b.IPSW", 4 * gigabyte);
-  files.addFile(folder / "c.ipsw.zip", 4 * gigabyte);
-  files.addFile(folder / "d.ipa", 50'000'000);
-  files.addFile(inLibrary("iTunes/iPad Software Updates/e.ipa"), 50'000'001);
-  files.addFile(inLibrary("iTunes/iPod Software Updates/f.ipsw/part"), 50'000'001);
+  disk.addFile(folder / "a.ipsw", 4 * gigabyte);
+  disk.addFile(folder / "b.IPSW", 4 * gigabyte);
+  disk.addFile(folder / "c.ipsw.zip", 4 * gigabyte);
+  disk.addFile(folder / "d.ipa", 50'000'000);
+  disk.addFile(inLibrary("iTunes/iPad Software Updates/e.ipa"), 50'000'001);
+  disk.addFile(inLibrary("iTunes/iPod Software Updates/f.ipsw/part"), 50'000'001);
   EXPECT_THAT(names(foundAlone(Kind::firmware)),
               UnorderedElementsAre("Firmware: a.ipsw", "Firmware: e.ipa", "Firmware: f.ipsw"));
 }

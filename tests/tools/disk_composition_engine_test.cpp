@@ -2,11 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "platform/linux/linux_file_system.h"
-#include "support/desktop_fakes.h"
-#include "support/faulting_file_system.h"
-#include "support/memory_file_system.h"
-#include "support/temporary_folder.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -17,27 +13,24 @@ using Step = std::pair<std::string, double>;
 
 constexpr std::int64_t gigabyte = 1'000'000'000;
 
-class CompositionOfADisk : public testing::Test, protected DesktopFakes {
+std::vector<std::string> ids(const DiskComposition& found) {
+  std::vector<std::string> all;
+  for (const Bucket& bucket : found.buckets) all.push_back(bucket.id);
+  return all;
+}
+
+class CompositionOfADisk : public testing::Test, protected FakeDesktopInMemory {
  protected:
-  MemoryFileSystem files;
-  MemoryTrash trash{files};
-  Platform platform = platformOn(files, trash);
   const Date now{std::chrono::seconds(1'772'644'000)};
-  DiskCompositionEngine engine{platform, [this] { return now; }};
+  DiskCompositionEngine engine{desktop, [this] { return now; }};
   std::vector<Step> steps;
 
-  void fill(const Path& folder, std::int64_t bytes) { files.addFile(folder / "data", bytes); }
+  void fill(const Path& folder, std::int64_t bytes) { disk.addFile(folder / "data", bytes); }
   void fillHome(const Path& folder, std::int64_t bytes) { fill("/Users/ann" / folder, bytes); }
 
   DiskComposition measure(std::stop_token stop = {}) {
     return engine.measureDisk(
         stop, [this](const std::string& label, double part) { steps.emplace_back(label, part); });
-  }
-
-  static std::vector<std::string> ids(const DiskComposition& disk) {
-    std::vector<std::string> all;
-    for (const Bucket& bucket : disk.buckets) all.push_back(bucket.id);
-    return all;
   }
 };
 
@@ -55,11 +48,11 @@ TEST_F(CompositionOfADisk, HasEveryPlaceInOrderAndThenTheRemainder) {
   fillHome("Library/Containers", 11);
   fillHome("Library/Application Support", 12);
   fillHome("Library/Caches", 13);
-  const auto disk = measure();
+  const auto found = measure();
   const RgbColor gray{0.443, 0.443, 0.463};
   const Path home = "/Users/ann";
   EXPECT_THAT(
-      disk.buckets,
+      found.buckets,
       ElementsAre(
           Bucket{"applications", "Applications", 1, {0.224, 0.529, 0.898}, "/Applications"},
           Bucket{"documents", "Documents", 2, {0.851, 0.349, 0.149}, home / "Documents"},
@@ -79,9 +72,9 @@ TEST_F(CompositionOfADisk, HasEveryPlaceInOrderAndThenTheRemainder) {
                  300 * gigabyte - 91,
                  {0.34, 0.34, 0.34},
                  std::nullopt}));
-  EXPECT_EQ(disk.usedBytes, 300 * gigabyte);
-  EXPECT_EQ(disk.freeBytes, 200 * gigabyte);
-  EXPECT_EQ(disk.measuredAt, now);
+  EXPECT_EQ(found.usedBytes, 300 * gigabyte);
+  EXPECT_EQ(found.freeBytes, 200 * gigabyte);
+  EXPECT_EQ(found.measuredAt, now);
 }
 
 TEST_F(CompositionOfADisk, TheFractionCountsPlacesHoweverFewOfThemAreThere) {
@@ -111,11 +104,11 @@ TEST_F(CompositionOfADisk, AMeasuredSumAboveTheUsedBytesLeavesNoRemainder) {
 }
 
 TEST_F(CompositionOfADisk, CountsHiddenFilesAndPackagesAndNoLinks) {
-  files.addFile("/Users/ann/Pictures/Library.photoslibrary/originals/a", 100);
-  files.addFile("/Users/ann/Pictures/.hidden/b", 20);
-  files.addLink("/Users/ann/Pictures/link");
-  files.addLink("/Users/ann/Music");
-  files.addFile("/Users/ann/Movies", 3);
+  disk.addFile("/Users/ann/Pictures/Library.photoslibrary/originals/a", 100);
+  disk.addFile("/Users/ann/Pictures/.hidden/b", 20);
+  disk.addLink("/Users/ann/Pictures/link");
+  disk.addLink("/Users/ann/Music");
+  disk.addFile("/Users/ann/Movies", 3);
   EXPECT_EQ(engine.measure("/Users/ann/Pictures"), 120);
   EXPECT_EQ(engine.measure("/Users/ann/Music"), 0);
   EXPECT_EQ(engine.measure("/Users/ann/Movies"), 3);
@@ -128,20 +121,20 @@ TEST_F(CompositionOfADisk, AFolderThatMayNotBeReadFallsIntoTheRemainder) {
   fillHome("Desktop", 1 * gigabyte);
   files.makeUnreadable("/Users/ann/Documents");
   files.makeUnreadable("/Users/ann/Desktop/secret");
-  const auto disk = measure();
-  ASSERT_THAT(ids(disk), ElementsAre("desktop", "system"));
-  EXPECT_EQ(disk.buckets[0].bytes, 1 * gigabyte);
-  EXPECT_EQ(disk.buckets[1].bytes, 299 * gigabyte);
+  const auto found = measure();
+  ASSERT_THAT(ids(found), ElementsAre("desktop", "system"));
+  EXPECT_EQ(found.buckets[0].bytes, 1 * gigabyte);
+  EXPECT_EQ(found.buckets[1].bytes, 299 * gigabyte);
 }
 
 TEST_F(CompositionOfADisk, AVolumeThatTellsNothingHasNoRemainder) {
   volume.setTotalBytes(std::nullopt);
   volume.setAvailableBytes(std::nullopt);
   fillHome("Movies", 7);
-  const auto disk = measure();
-  EXPECT_THAT(ids(disk), ElementsAre("movies"));
-  EXPECT_EQ(disk.usedBytes, 0);
-  EXPECT_EQ(disk.freeBytes, 0);
+  const auto found = measure();
+  EXPECT_THAT(ids(found), ElementsAre("movies"));
+  EXPECT_EQ(found.usedBytes, 0);
+  EXPECT_EQ(found.freeBytes, 0);
 }
 
 TEST_F(CompositionOfADisk, AVolumeThatDoesNotTellWhatIsFreeCountsAsFull) {
@@ -153,50 +146,45 @@ TEST_F(CompositionOfADisk, AStopBeforeTheStartLeavesEverythingToTheRemainder) {
   fillHome("Movies", 7);
   std::stop_source source;
   source.request_stop();
-  const auto disk = measure(source.get_token());
-  EXPECT_THAT(ids(disk), ElementsAre("system"));
-  EXPECT_EQ(disk.buckets[0].bytes, 300 * gigabyte);
+  const auto found = measure(source.get_token());
+  EXPECT_THAT(ids(found), ElementsAre("system"));
+  EXPECT_EQ(found.buckets[0].bytes, 300 * gigabyte);
   EXPECT_THAT(steps, ElementsAre(Step("The rest of the disk", 13 / 14.0), Step("Done", 1.0)));
-  EXPECT_EQ(disk.measuredAt, now);
+  EXPECT_EQ(found.measuredAt, now);
 }
 
 TEST_F(CompositionOfADisk, AStopBetweenTwoPlacesKeepsWhatWasMeasured) {
   fillHome("Documents", 1 * gigabyte);
   fillHome("Downloads", 2 * gigabyte);
   std::stop_source source;
-  const auto disk = engine.measureDisk(source.get_token(), [&](const std::string& label, double) {
+  const auto found = engine.measureDisk(source.get_token(), [&](const std::string& label, double) {
     if (label == "Downloads") source.request_stop();
   });
-  ASSERT_THAT(ids(disk), ElementsAre("documents", "system"));
-  EXPECT_EQ(disk.buckets[1].bytes, 299 * gigabyte);
+  ASSERT_THAT(ids(found), ElementsAre("documents", "system"));
+  EXPECT_EQ(found.buckets[1].bytes, 299 * gigabyte);
 }
 
 /// The same on a disk of the machine.
-class CompositionOnDisk : public CompositionOfADisk {
+class CompositionOnDisk : public testing::Test, protected FakeDesktopOnDisk {
  protected:
-  TemporaryFolder folder;
-  LinuxFileSystem disk{folder.path(), "/Users/ann"};
-  FaultingFileSystem faulting{disk};
-  Platform realPlatform = platformOn(faulting, trash);
-  DiskCompositionEngine onDisk{realPlatform};
+  DiskCompositionEngine engine{desktop};
   const Path music = "/Users/ann/Music";
 
   DiskComposition measureFolder(const std::stop_token& stop = {}) {
-    return onDisk.measureDisk(stop, [](const std::string&, double) {});
+    return engine.measureDisk(stop, [](const std::string&, double) {});
   }
 };
 
 TEST_F(CompositionOnDisk, AStopInsideAWalkEndsItAtTheNextEntry) {
   for (const char* const name : {"a", "b", "c", "d"}) {
-    folder.makeFile(music / name, 1);
-    faulting.overlaySize(music / name, 10);
+    disk.makeFile(music / name, 1);
+    files.overlaySize(music / name, 10);
   }
   std::stop_source source;
   for (const char* const name : {"a", "b", "c", "d"}) {
-    faulting.before(FaultingFileSystem::Operation::attributes, music / name,
-                    [&] { source.request_stop(); });
+    files.before(FileOperation::attributes, music / name, [&] { source.request_stop(); });
   }
-  folder.makeFile("/Users/ann/Movies/a", 1'000);
+  disk.makeFile("/Users/ann/Movies/a", 1'000);
   const auto stopped = measureFolder(source.get_token());
   ASSERT_THAT(ids(stopped), ElementsAre("music", "system"));
   EXPECT_EQ(stopped.buckets[0].bytes, 10);
@@ -205,30 +193,30 @@ TEST_F(CompositionOnDisk, AStopInsideAWalkEndsItAtTheNextEntry) {
 }
 
 TEST_F(CompositionOnDisk, ALinkAsAPlaceAndLinksInsideOneAddNothing) {
-  folder.makeFile("/elsewhere/a", 100'000);
-  folder.makeLink("/Users/ann/Movies", folder.onDisk("/elsewhere"));
-  folder.makeLink(music / "out", folder.onDisk("/elsewhere"));
-  folder.makeLink(music / "loop", "..");
+  disk.makeFile("/elsewhere/a", 100'000);
+  disk.makeLink("/Users/ann/Movies", disk.onDisk("/elsewhere"));
+  disk.makeLink(music / "out", disk.onDisk("/elsewhere"));
+  disk.makeLink(music / "loop", "..");
   EXPECT_THAT(ids(measureFolder()), ElementsAre("system"));
 }
 
 TEST_F(CompositionOnDisk, ASparseFileOfATerabyteCountsByWhatIsAllocated) {
-  folder.makeSparseFile(music / "a", 1'000'000'000'000);
-  EXPECT_LT(onDisk.measure(music), 1'000'000);
+  disk.makeSparseFile(music / "a", 1'000'000'000'000);
+  EXPECT_LT(engine.measure(music), 1'000'000);
 }
 
 TEST_F(CompositionOnDisk, AFolderThatVanishesAsItIsMeasuredIsNoBucket) {
-  folder.makeFile(music / "a", 1'000);
-  faulting.vanishBefore(FaultingFileSystem::Operation::walk, music);
+  disk.makeFile(music / "a", 1'000);
+  files.vanishBefore(FileOperation::walk, music);
   EXPECT_THAT(ids(measureFolder()), ElementsAre("system"));
 }
 
 TEST_F(CompositionOnDisk, NamesOfAnyBytesAreCounted) {
   for (const char* const name : {"not utf-8 \xff", "two\nlines", "-rf", "$(id)"}) {
-    folder.makeFile(music / name / "a", 1);
-    faulting.overlaySize(music / name / "a", 10);
+    disk.makeFile(music / name / "a", 1);
+    files.overlaySize(music / name / "a", 10);
   }
-  EXPECT_EQ(onDisk.measure(music), 40);
+  EXPECT_EQ(engine.measure(music), 40);
 }
 
 TEST_F(CompositionOnDisk, SaysWhenItWasMeasured) {

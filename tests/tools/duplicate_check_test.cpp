@@ -5,14 +5,14 @@
 #include <random>
 
 #include "platform/linux/linux_file_system.h"
-#include "support/faulting_file_system.h"
+#include "support/fault_injecting_file_system.h"
 #include "support/temporary_folder.h"
 #include "tools/duplicate_scanner.h"
 
 namespace klarvik {
 namespace {
 
-using Operation = FaultingFileSystem::Operation;
+using Operation = FaultInjectingFileSystem::Operation;
 
 class DuplicateCheckTest : public testing::Test {
  protected:
@@ -36,7 +36,7 @@ class DuplicateCheckTest : public testing::Test {
 
   TemporaryFolder disk;
   LinuxFileSystem real{disk.path(), "/Users/ann"};
-  FaultingFileSystem files{real};
+  FaultInjectingFileSystem files{real};
   const std::string content = std::string(700'000, 'x') + "end";
   std::string hash;
 };

@@ -7,7 +7,7 @@
 
 #include "platform/linux/linux_file_system.h"
 #include "support/child_process.h"
-#include "support/faulting_file_system.h"
+#include "support/fault_injecting_file_system.h"
 #include "support/temporary_folder.h"
 #include "tools/duplicate_scanner.h"
 
@@ -16,7 +16,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Operation = FaultingFileSystem::Operation;
+using Operation = FaultInjectingFileSystem::Operation;
 
 class DuplicateFaults : public testing::Test {
  protected:
@@ -53,7 +53,7 @@ class DuplicateFaults : public testing::Test {
 
   TemporaryFolder disk;
   LinuxFileSystem real{disk.path(), "/Users/ann"};
-  FaultingFileSystem files{real};
+  FaultInjectingFileSystem files{real};
   std::function<void(const std::string& line)> onReport;
 };
 

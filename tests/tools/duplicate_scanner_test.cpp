@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/linux_file_system.h"
-#include "support/faulting_file_system.h"
+#include "support/fault_injecting_file_system.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 using testing::UnorderedElementsAre;
-using Operation = FaultingFileSystem::Operation;
+using Operation = FaultInjectingFileSystem::Operation;
 
 class DuplicateScannerTest : public testing::Test {
  protected:
@@ -54,7 +54,7 @@ class DuplicateScannerTest : public testing::Test {
 
   TemporaryFolder disk;
   LinuxFileSystem real{disk.path(), "/Users/ann"};
-  FaultingFileSystem files{real};
+  FaultInjectingFileSystem files{real};
   std::vector<DuplicateProgress> reports;
   DuplicateScanner::ProgressSink onReport;
 };

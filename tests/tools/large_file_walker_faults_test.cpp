@@ -6,8 +6,7 @@
 #include <sys/un.h>
 
 #include "support/child_process.h"
-#include "support/faulting_file_system.h"
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 #include "tools/large_file_walker.h"
 
 namespace klarvik {
@@ -17,15 +16,15 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
-using Operation = FaultingFileSystem::Operation;
+using Operation = FaultInjectingFileSystem::Operation;
 
 constexpr std::int64_t limit = 1'000;
 
 class LargeFileWalkerFaultsTest : public testing::Test {
  protected:
-  TestDesktop world;
+  FakeDesktopOnDisk world;
   TemporaryFolder& disk = world.disk;
-  FaultingFileSystem files{world.files};
+  FaultInjectingFileSystem& files = world.files;
   const Path movies = "/Users/ann/Movies";
 
   std::vector<std::string> found(std::int64_t threshold = limit) const {

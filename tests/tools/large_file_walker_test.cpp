@@ -6,8 +6,8 @@
 
 #include <array>
 
+#include "support/fake_desktop.h"
 #include "support/sample_disk.h"
-#include "support/test_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -21,7 +21,7 @@ constexpr std::int64_t limit = 1'000;
 
 class LargeFileWalkerTest : public testing::Test {
  protected:
-  TestDesktop world;
+  FakeDesktopOnDisk world;
   TemporaryFolder& disk = world.disk;
   std::vector<LargeFileUpdate> updates;
 

@@ -5,10 +5,7 @@
 
 #include "support/child_process.h"
 #include "support/disk_snapshot.h"
-#include "support/faulting_file_system.h"
-#include "support/memory_file_system.h"
-#include "support/sample_disk.h"
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -18,14 +15,14 @@ using testing::IsEmpty;
 using testing::Pair;
 using testing::SizeIs;
 
-using Operation = FaultingFileSystem::Operation;
+using Operation = FaultInjectingFileSystem::Operation;
 using enum PrivacyCategory;
 
 class PrivacyScannerTest : public testing::Test {
  protected:
-  TestDesktop world;
+  FakeDesktopOnDisk world;
   TemporaryFolder& disk = world.disk;
-  FaultingFileSystem files{world.files};
+  FaultInjectingFileSystem& files = world.files;
   PrivacyScanner scanner{files, world.pasteboard, world.recentDocuments};
 
   const Path library = "/Users/ann/Library";

@@ -7,9 +7,8 @@
 #include <vector>
 
 #include "support/disk_snapshot.h"
-#include "support/faulting_file_system.h"
+#include "support/fake_desktop.h"
 #include "support/property_lists.h"
-#include "support/test_desktop.h"
 #include "tools/uninstaller_engine.h"
 
 namespace klarvik {
@@ -17,11 +16,10 @@ namespace klarvik {
 /// The engine on a real disk with a real Trash; the file system can be made to fail.
 class UninstallerTest : public testing::Test {
  protected:
-  TestDesktop world;
+  FakeDesktopOnDisk world;
   TemporaryFolder& disk = world.disk;
-  FaultingFileSystem files{world.files};
-  Platform platform = world.platformOn(files, world.trash);
-  UninstallerEngine engine{platform};
+  FaultInjectingFileSystem& files = world.files;
+  UninstallerEngine engine{world.desktop};
   const Path library = "/Users/ann/Library";
   const Path trashed = "/Users/ann/.local/share/Trash/files";
 

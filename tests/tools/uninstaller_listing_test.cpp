@@ -96,17 +96,18 @@ TEST_F(UninstallerListing, ABundleThatIsALinkIsListedAndMeasuresTheLink) {
 TEST_F(UninstallerListing, AFolderThatCannotBeReadIsSkipped) {
   install("Writer", "com.acme.writer");
   installAt("/Users/ann/Applications/Mini.app", "Mini", "com.mini");
-  files.fail(FaultingFileSystem::Operation::list, "/Applications");
+  files.fail(FaultInjectingFileSystem::Operation::list, "/Applications");
   EXPECT_THAT(names(), ElementsAre("Mini"));
-  files.heal(FaultingFileSystem::Operation::list, "/Applications");
-  files.fail(FaultingFileSystem::Operation::list, "/Users/ann/Applications");
+  files.heal(FaultInjectingFileSystem::Operation::list, "/Applications");
+  files.fail(FaultInjectingFileSystem::Operation::list, "/Users/ann/Applications");
   EXPECT_THAT(names(), ElementsAre("Writer"));
 }
 
 TEST_F(UninstallerListing, AnApplicationThatVanishesMeanwhileIsLeftOut) {
   const AppInfo writer = install("Writer", "com.acme.writer");
   install("Booth", "com.shutter.booth");
-  files.before(FaultingFileSystem::Operation::openForReading, writer.appURL / "Contents/Info.plist",
+  files.before(FaultInjectingFileSystem::Operation::openForReading,
+               writer.appURL / "Contents/Info.plist",
                [&] { std::filesystem::remove_all(disk.onDisk(writer.appURL)); });
   EXPECT_THAT(names(), ElementsAre("Booth"));
 }

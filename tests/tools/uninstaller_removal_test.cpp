@@ -12,7 +12,7 @@ namespace {
 
 using testing::IsEmpty;
 using testing::SizeIs;
-using Operation = FaultingFileSystem::Operation;
+using Operation = FaultInjectingFileSystem::Operation;
 
 class Uninstalling : public UninstallerTest {
  protected:

@@ -1,7 +1,6 @@
 #include <set>
 
 #include "support/child_process.h"
-#include "support/desktop_on_disk.h"
 #include "uninstaller_fixture.h"
 
 namespace klarvik {
@@ -102,7 +101,7 @@ TEST_F(UninstallerResiduals, LieAtTheTopOfAFolderAndNotInside) {
 TEST_F(UninstallerResiduals, AFolderThatCannotBeReadIsSkipped) {
   disk.makeFile(library / "Caches/com.acme.writer", 10);
   disk.makeFile(library / "Logs/com.acme.writer", 10);
-  files.fail(FaultingFileSystem::Operation::list, library / "Caches");
+  files.fail(FaultInjectingFileSystem::Operation::list, library / "Caches");
   EXPECT_THAT(placesFound(writer), ElementsAre(library / "Logs/com.acme.writer"));
 }
 
@@ -153,7 +152,7 @@ TEST_F(UninstallerResiduals, OfAHomeThatIsNotThereAreThoseOutsideOfIt) {
 }
 
 TEST(UninstallerOnTheSampleDisk, FindsWhatIsThereAndLeavesTheRestAsItIs) {
-  DesktopOnDisk world{SampleDiskOptions{}};
+  FakeDesktopOnDisk world{SampleDiskOptions{}};
   const SampleDisk& sample = *world.sample;
   const FileSystem& files = world.files;
   UninstallerEngine engine(world.desktop);

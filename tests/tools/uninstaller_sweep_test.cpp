@@ -6,8 +6,8 @@
 #include <cerrno>
 
 #include "support/disk_snapshot.h"
+#include "support/fake_desktop.h"
 #include "support/system_call_faults.h"
-#include "support/test_desktop.h"
 #include "tools/uninstaller_engine.h"
 
 namespace klarvik {
@@ -28,8 +28,7 @@ class UninstallSweep : public testing::Test {
     }
 
     bool uninstall() {
-      const Desktop desktop = world.desktop();
-      UninstallerEngine engine(desktop);
+      UninstallerEngine engine(world.desktop);
       return engine.uninstall(app, {{.url = cache, .size = 10}}) == 110;
     }
 
@@ -54,7 +53,7 @@ class UninstallSweep : public testing::Test {
 
     [[nodiscard]] bool appIsInPlace() const { return isTheApp(app.appURL); }
 
-    TestDesktop world;
+    FakeDesktopOnDisk world;
     const TemporaryFolder& disk = world.disk;
     const AppInfo app{.name = "Writer",
                       .bundleID = "com.acme.writer",

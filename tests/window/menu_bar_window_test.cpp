@@ -7,7 +7,6 @@
 #include "scripted_app_state.h"
 #include "shell/menu_bar/menu_bar_controller.h"
 #include "shell/menu_bar/quick_popover.h"
-#include "state_desktop.h"
 #include "window_fixture.h"
 
 namespace klarvik {
@@ -27,7 +26,7 @@ QQuickWindow* openPopoverWindow() {
 }
 
 /// The real popover beside a status item that nobody sees.
-class MenuBarWindow : public EmptyHomeWindowFixture, protected ScriptedAppState<StateDesktop> {
+class MenuBarWindow : public EmptyHomeWindowFixture, protected ScriptedAppState {
  protected:
   void SetUp() override {
     EmptyHomeWindowFixture::SetUp();
@@ -159,9 +158,7 @@ TEST_F(MenuBarWindow, TheTrashRowNeedsThePermissionWhereTheTrashCannotBeRead) {
 
 TEST_F(MenuBarWindow, TheTrashIsEmptiedWithoutAQuestionAndTheRowSaysSo) {
   trashOneFile();
-  around.files.setHook([this](const std::string& operation, const Path&) {
-    if (operation == "remove") removal.pass();
-  });
+  around.trash.holdAt(TrashOperation::remove, removal);
   removal.close();
   openPopover();
   click("Empty Trash · 2.3 MB");

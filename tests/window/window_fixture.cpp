@@ -62,7 +62,7 @@ QQuickItem* findIn(QQuickItem& item, const std::function<bool(const QQuickItem&)
 void WindowFixture::SetUp() {
   warnings.clear();
   qInstallMessageHandler(rememberWarning);
-  desk = std::make_unique<DesktopOnDisk>(diskOptions);
+  desk = std::make_unique<FakeDesktopOnDisk>(diskOptions);
   shared = std::make_unique<SharedState>(desk->desktop);
   desk->defaults.set("backgroundScanOnLaunch", false);
   desk->defaults.set("onboarding_complete", true);

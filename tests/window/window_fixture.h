@@ -14,7 +14,7 @@
 
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
-#include "support/desktop_on_disk.h"
+#include "support/fake_desktop.h"
 #include "support/fake_login_item.h"
 
 namespace klarvik {
@@ -86,7 +86,7 @@ class WindowFixture : public ::testing::Test {
   /// What the disk under the window is furnished with; to be set before SetUp is through.
   std::optional<SampleDiskOptions> diskOptions = SampleDiskOptions{};
 
-  std::unique_ptr<DesktopOnDisk> desk;
+  std::unique_ptr<FakeDesktopOnDisk> desk;
   FakeLoginItem loginItem;
   std::unique_ptr<SharedState> shared;
   std::unique_ptr<KlarvikApp> app;

@@ -8,7 +8,7 @@
 
 #include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -56,8 +56,8 @@ class DuplicateRowsTest : public testing::Test {
   }
   [[nodiscard]] QVariant at(int row, int role) const { return rows.index(row).data(role); }
 
-  TestDesktop around;
-  Desktop desktop = around.desktop();
+  FakeDesktopOnDisk around;
+  const Desktop& desktop = around.desktop;
   DuplicateChoice choice;
   ChosenGroups former;
   DuplicateRows rows{choice, desktop};

@@ -4,8 +4,7 @@
 
 #include <filesystem>
 
-#include "support/faulting_file_system.h"
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 #include "tools/duplicate_scanner.h"
 
 namespace klarvik {
@@ -29,8 +28,8 @@ class KeeperCheckTest : public testing::Test {
 
   const Path keeper = "/Users/ann/Documents/f";
   const Path copy = "/Users/ann/Downloads/f";
-  TestDesktop world;
-  FaultingFileSystem files{world.files};
+  FakeDesktopOnDisk world;
+  FaultInjectingFileSystem& files = world.files;
   std::string hash;
   KeptCopies kept;
   std::stop_source stop;

@@ -8,7 +8,7 @@
 #include <random>
 
 #include "panes/kit/file_url.h"
-#include "support/test_desktop.h"
+#include "support/fake_desktop.h"
 
 namespace klarvik {
 namespace {
@@ -33,8 +33,8 @@ class LargeFileRowsFixture : public ::testing::Test {
     return rows.index(row).data(role);
   }
 
-  TestDesktop around;
-  Desktop desktop = around.desktop();
+  FakeDesktopOnDisk around;
+  const Desktop& desktop = around.desktop;
   std::unordered_set<Uuid> selected;
   LargeFileRows rows{selected, desktop};
 };

@@ -10,7 +10,6 @@
 
 #include "scripted_app_state.h"
 #include "shell/menu_bar/menu_bar_controller.h"
-#include "state_desktop.h"
 #include "support/application/main_loop.h"
 
 namespace klarvik {
@@ -40,7 +39,7 @@ class FakePopover final : public MenuBarPopover {
 };
 
 /// A controller on a desktop that a test moves by hand, and what it tells others to do.
-class MenuBarFixture : public ::testing::Test, protected ScriptedAppState<StateDesktop> {
+class MenuBarFixture : public ::testing::Test, protected ScriptedAppState {
  protected:
   ~MenuBarFixture() override {
     MenuBarController::openWindowHandler = nullptr;

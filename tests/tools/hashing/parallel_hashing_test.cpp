@@ -7,7 +7,7 @@
 #include <random>
 
 #include "platform/linux/linux_file_system.h"
-#include "support/faulting_file_system.h"
+#include "support/fault_injecting_file_system.h"
 #include "support/gate.h"
 #include "support/temporary_folder.h"
 #include "tools/duplicate_scanner.h"
@@ -16,7 +16,7 @@ namespace klarvik {
 namespace {
 
 using testing::ElementsAre;
-using Operation = FaultingFileSystem::Operation;
+using Operation = FaultInjectingFileSystem::Operation;
 
 class ParallelHashingTest : public testing::Test {
  protected:
@@ -54,7 +54,7 @@ class ParallelHashingTest : public testing::Test {
 
   TemporaryFolder disk;
   LinuxFileSystem real{disk.path(), "/Users/ann"};
-  FaultingFileSystem files{real};
+  FaultInjectingFileSystem files{real};
 };
 
 TEST_F(ParallelHashingTest, GivesTheSameReportsAndGroupsOnOneCoreAndOnMany) {

@@ -1,62 +1,54 @@
 #pragma once
 
-#include <functional>
-#include <map>
-#include <mutex>
-#include <optional>
-#include <set>
-#include <utility>
 #include <vector>
 
-#include "platform/file_system.h"
+#include "support/fault_injection.h"
 
 namespace klarvik {
 
-/// Another file system with faults put into it, and a record of what was removed and moved. Paths
-/// are logical; a fault concerns exactly the path it is told for. May be used from any thread.
-class FaultingFileSystem final : public FileSystem {
+enum class FileOperation {
+  exists,
+  attributes,  ///< of one path, and of an entry in a walk
+  list,
+  walk,  ///< a start is refused; a folder on the way is shown, but not entered
+  openForReading,
+  createDirectories,
+  move,  ///< by the path it is moved from
+  remove,
+};
+
+extern template class FaultInjection<FileOperation>;
+
+/// Another file system, real or remembered, with faults put into it, and a record of what was
+/// opened and removed. May be used from any thread.
+class FaultInjectingFileSystem final : public FileSystem, public FaultInjection<FileOperation> {
  public:
-  enum class Operation {
-    exists,
-    attributes,  ///< of one path, and of an entry in a walk
-    list,
-    walk,  ///< a start is refused; a folder on the way is shown, but not entered
-    openForReading,
-    createDirectories,
-    move,  ///< by the path it is moved from
-    remove,
-  };
-  struct Move {
-    Path from;
-    Path to;
-    bool done = false;
-  };
+  using Operation = FileOperation;
   struct Removal {
     Path item;
     bool done = false;
   };
 
-  explicit FaultingFileSystem(FileSystem& files) : _files(files) {}
+  explicit FaultInjectingFileSystem(FileSystem& files) : _files(files) {}
 
-  /// From now on, until `heal`.
-  void fail(Operation operation, const Path& path);
-  void heal(Operation operation, const Path& path);
+  /// From now on the folder can neither be listed nor walked.
+  void makeUnreadable(const Path& folder);
   /// Reading of `path` fails once this many bytes have been handed out.
   void failReadingAfter(std::size_t bytes, const Path& path);
 
   /// The file says it has this many bytes, allocated and in length.
   void overlaySize(const Path& path, std::int64_t bytes);
-  void overlayModified(const Path& path, Date modified);
 
-  /// Done once, just before the next such operation on `path`, whether that is to fail or not.
-  void before(Operation operation, const Path& path, std::function<void()> act);
-  /// `path` itself is gone, or is a link to `target`, by the time of the operation.
+  /// On a disk of the machine, `path` itself is gone, or is a link to `target`, by the time of the
+  /// operation.
   void vanishBefore(Operation operation, const Path& path);
   void becomeLinkBefore(Operation operation, const Path& path, const Path& target);
 
   /// In the order they were asked for, refused and failed ones included.
+  [[nodiscard]] std::vector<Path> openings() const;
   [[nodiscard]] std::vector<Removal> removals() const;
-  [[nodiscard]] std::vector<Move> moves() const;
+  /// What was removed for good, in order.
+  [[nodiscard]] std::vector<Path> removed() const;
 
   [[nodiscard]] Path diskPath(const Path& logical) const override;
   [[nodiscard]] std::optional<Path> logicalPath(const Path& disk) const override;
@@ -74,21 +66,16 @@ class FaultingFileSystem final : public FileSystem {
 
  private:
   class OverlaidEntry;
-  using Occasion = std::pair<Operation, Path>;
 
-  /// Does what was to be done before; then tells whether the operation goes ahead.
-  [[nodiscard]] bool goesAhead(Operation operation, const Path& path) const;
   [[nodiscard]] FileAttributes overlaid(const Path& path, FileAttributes attributes) const;
 
   FileSystem& _files;
+  std::atomic<bool> _isOverlaid = false;
   mutable std::mutex _mutex;  // guards all below
-  std::set<Occasion> _failing;
-  mutable std::map<Occasion, std::function<void()>> _acts;
   std::map<Path, std::size_t> _readLimits;
   std::map<Path, std::int64_t> _sizes;
-  std::map<Path, Date> _modified;
+  mutable std::vector<Path> _openings;
   std::vector<Removal> _removals;
-  std::vector<Move> _moves;
 };
 
 }  // namespace klarvik

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <functional>
 #include <map>
-#include <mutex>
 #include <set>
 #include <shared_mutex>
 #include <string>
@@ -13,11 +11,11 @@
 
 namespace klarvik {
 
-/// A disk that is only remembered: sizes to the byte, failures where a test wants them, and a list
-/// of what was removed. The home is /Users/ann. Links are entries of their own and lead nowhere.
+/// A disk that is only remembered, with sizes to the byte. The home is /Users/ann. Links are
+/// entries of their own and lead nowhere.
 ///
 /// Files are laid down before the disk is used; from then on it may be used from any thread.
-class MemoryFileSystem final : public FileSystem {
+class FakeFileSystem final : public FileSystem {
  public:
   /// When everything was changed that is given no other date: 2026-03-04 17:06:40 UTC.
   static constexpr Date usualDate{std::chrono::seconds(1'772'644'000)};
@@ -27,17 +25,9 @@ class MemoryFileSystem final : public FileSystem {
                std::optional<Date> modified = usualDate);
   void addLink(const Path& path);
   void setModified(const Path& path, std::optional<Date> modified);
-  /// The folder may be measured from above, but neither listed nor walked by itself.
-  void makeUnreadable(const Path& folder);
-  /// Neither removed nor moved, whoever asks.
-  void makeImmovable(const Path& item);
   /// The item is reached through a link: this is where it really is.
   void setRealPlace(const Path& item, const Path& real);
-  /// Runs on the removing thread before each removal and each move to the Trash.
-  void setBeforeRemoval(std::function<void(const Path& item)> hook);
 
-  /// Everything that was removed for good, in order.
-  [[nodiscard]] std::vector<Path> removed() const;
   [[nodiscard]] bool holds(const Path& path) const;
   /// Every path there is.
   [[nodiscard]] std::set<Path> contents() const;
@@ -58,32 +48,25 @@ class MemoryFileSystem final : public FileSystem {
   bool move(const Path& from, const Path& to) override;
   bool remove(const Path& item, const PlaceCheck& mayRemove) override;
 
-  /// A move with the same checks and hooks as a removal.
+  /// A move that asks for leave first, as a removal does.
   bool moveChecked(const Path& from, const Path& to, const PlaceCheck& mayMove);
 
  private:
-  [[nodiscard]] bool mayTouch(const Path& item, const PlaceCheck& check) const;
+  [[nodiscard]] bool isAllowed(const Path& item, const PlaceCheck& check) const;
   [[nodiscard]] std::vector<Path> subtree(const Path& item) const;
 
   mutable std::shared_mutex _mutex;
   std::map<Path, FileAttributes> _entries;
-  std::set<Path> _unreadable;
-  std::set<Path> _immovable;
   std::map<Path, Path> _realPlaces;
-  std::function<void(const Path&)> _beforeRemoval;
-  std::vector<Path> _removed;
   Path _realHome = "/Users/ann";
 };
 
 /// A Trash on such a disk, with its main folder in the user's data folder and a second one,
 /// ".Trash", in the home where a test makes it. It keeps no records: things go back where they are
 /// sent.
-class MemoryTrash final : public Trash {
+class FakeTrash final : public Trash {
  public:
-  explicit MemoryTrash(MemoryFileSystem& files);
-
-  /// From now on nothing can be moved to the Trash.
-  void refuseMoves() { _refusesMoves = true; }
+  explicit FakeTrash(FakeFileSystem& files);
 
   [[nodiscard]] std::vector<Path> folders() override;
   [[nodiscard]] std::optional<std::vector<Path>> list() override;
@@ -93,14 +76,8 @@ class MemoryTrash final : public Trash {
   bool putBack(const Path& trashed, const Path& original) override;
   bool remove(const Path& trashed, const PlaceCheck& mayRemove) override;
 
-  /// Everything that was moved to the Trash, by where it was.
-  [[nodiscard]] std::set<Path> moved() const;
-
  private:
-  MemoryFileSystem& _files;
-  bool _refusesMoves = false;
-  mutable std::mutex _mutex;
-  std::set<Path> _moved;
+  FakeFileSystem& _files;
 };
 
 }  // namespace klarvik

@@ -1,4 +1,4 @@
-#include "support/memory_file_system.h"
+#include "support/fake_file_system.h"
 
 #include <algorithm>
 
@@ -20,9 +20,9 @@ bool isHidden(const Path& name) {
   return name.native().starts_with('.');
 }
 
-class MemoryEntry final : public WalkEntry {
+class RememberedEntry final : public WalkEntry {
  public:
-  MemoryEntry(Path path, std::size_t depth, const FileAttributes& attributes)
+  RememberedEntry(Path path, std::size_t depth, const FileAttributes& attributes)
       : _path(std::move(path)), _name(_path.filename()), _depth(depth), _attributes(attributes) {}
 
   [[nodiscard]] std::string_view name() const override { return _name; }
@@ -41,7 +41,7 @@ class MemoryEntry final : public WalkEntry {
 
 }  // namespace
 
-void MemoryFileSystem::addFolder(const Path& path) {
+void FakeFileSystem::addFolder(const Path& path) {
   if (path.has_relative_path()) addFolder(path.parent_path());
   _entries.try_emplace(path, FileAttributes{.kind = FileKind::directory,
                                             .modified = usualDate,
@@ -49,8 +49,8 @@ void MemoryFileSystem::addFolder(const Path& path) {
                                             .created = usualDate});
 }
 
-void MemoryFileSystem::addFile(const Path& path, std::int64_t allocatedBytes,
-                               std::optional<Date> modified) {
+void FakeFileSystem::addFile(const Path& path, std::int64_t allocatedBytes,
+                             std::optional<Date> modified) {
   addFolder(path.parent_path());
   _entries[path] = {.kind = FileKind::regular,
                     .allocatedBytes = allocatedBytes,
@@ -60,64 +60,46 @@ void MemoryFileSystem::addFile(const Path& path, std::int64_t allocatedBytes,
                     .created = modified};
 }
 
-void MemoryFileSystem::addLink(const Path& path) {
+void FakeFileSystem::addLink(const Path& path) {
   addFile(path, 12);
   _entries[path].kind = FileKind::symbolicLink;
 }
 
-void MemoryFileSystem::setModified(const Path& path, std::optional<Date> modified) {
+void FakeFileSystem::setModified(const Path& path, std::optional<Date> modified) {
   _entries.at(path).modified = modified;
 }
 
-void MemoryFileSystem::makeUnreadable(const Path& folder) {
-  _unreadable.insert(folder);
-}
-void MemoryFileSystem::makeImmovable(const Path& item) {
-  _immovable.insert(item);
-}
-
-void MemoryFileSystem::setRealPlace(const Path& item, const Path& real) {
+void FakeFileSystem::setRealPlace(const Path& item, const Path& real) {
   _realPlaces[item] = real;
 }
 
-void MemoryFileSystem::setBeforeRemoval(std::function<void(const Path&)> hook) {
-  _beforeRemoval = std::move(hook);
-}
-
-std::vector<Path> MemoryFileSystem::removed() const {
-  const std::shared_lock lock(_mutex);
-  return _removed;
-}
-
-bool MemoryFileSystem::holds(const Path& path) const {
+bool FakeFileSystem::holds(const Path& path) const {
   const std::shared_lock lock(_mutex);
   return _entries.contains(path);
 }
 
-std::set<Path> MemoryFileSystem::contents() const {
+std::set<Path> FakeFileSystem::contents() const {
   const std::shared_lock lock(_mutex);
   std::set<Path> paths;
   for (const auto& [path, attributes] : _entries) paths.insert(path);
   return paths;
 }
 
-bool MemoryFileSystem::exists(const Path& path) const {
+bool FakeFileSystem::exists(const Path& path) const {
   const auto found = attributes(path);
   return found && found->kind != FileKind::symbolicLink;
 }
 
-std::optional<FileAttributes> MemoryFileSystem::attributes(const Path& path) const {
+std::optional<FileAttributes> FakeFileSystem::attributes(const Path& path) const {
   const std::shared_lock lock(_mutex);
   const auto found = _entries.find(path);
   if (found == _entries.end()) return std::nullopt;
   return found->second;
 }
 
-std::optional<std::vector<Path>> MemoryFileSystem::list(const Path& folder) const {
+std::optional<std::vector<Path>> FakeFileSystem::list(const Path& folder) const {
   const auto own = attributes(folder);
-  if (!own || own->kind != FileKind::directory || _unreadable.contains(folder)) {
-    return std::nullopt;
-  }
+  if (!own || own->kind != FileKind::directory) return std::nullopt;
   const std::shared_lock lock(_mutex);
   std::vector<Path> children = subtree(folder);
   std::erase_if(children,
@@ -125,8 +107,8 @@ std::optional<std::vector<Path>> MemoryFileSystem::list(const Path& folder) cons
   return children;
 }
 
-WalkOutcome MemoryFileSystem::walk(const Path& folder, WalkOptions options,
-                                   const WalkVisitor& visit) const {
+WalkOutcome FakeFileSystem::walk(const Path& folder, WalkOptions options,
+                                 const WalkVisitor& visit) const {
   const auto start = list(folder);
   if (!start) return WalkOutcome::refused;
   std::vector<std::pair<Path, std::size_t>> waiting;
@@ -139,7 +121,7 @@ WalkOutcome MemoryFileSystem::walk(const Path& folder, WalkOptions options,
     if (options.skipHidden && isHidden(path.filename())) continue;
     const auto own = attributes(path);
     if (!own) continue;
-    MemoryEntry entry(path, depth, *own);
+    RememberedEntry entry(path, depth, *own);
     const WalkStep step = visit(entry);
     if (step == WalkStep::stop) return WalkOutcome::stopped;
     const bool closed = step == WalkStep::skipDescendants || own->kind != FileKind::directory ||
@@ -149,18 +131,18 @@ WalkOutcome MemoryFileSystem::walk(const Path& folder, WalkOptions options,
   return WalkOutcome::completed;
 }
 
-std::unique_ptr<FileReader> MemoryFileSystem::openForReading(const Path&) const {
+std::unique_ptr<FileReader> FakeFileSystem::openForReading(const Path&) const {
   return nullptr;
 }
 
-bool MemoryFileSystem::createDirectories(const Path& folder) {
+bool FakeFileSystem::createDirectories(const Path& folder) {
   const std::scoped_lock lock(_mutex);
   addFolder(folder);
   return true;
 }
 
 /// Paths are in the order of their components, so that an item stands just before what it holds.
-std::vector<Path> MemoryFileSystem::subtree(const Path& item) const {
+std::vector<Path> FakeFileSystem::subtree(const Path& item) const {
   std::vector<Path> paths;
   for (auto entry = _entries.lower_bound(item); entry != _entries.end(); ++entry) {
     if (entry->first != item && !isBelow(item, entry->first)) break;
@@ -169,9 +151,9 @@ std::vector<Path> MemoryFileSystem::subtree(const Path& item) const {
   return paths;
 }
 
-bool MemoryFileSystem::move(const Path& from, const Path& to) {
+bool FakeFileSystem::move(const Path& from, const Path& to) {
   const std::scoped_lock lock(_mutex);
-  if (!_entries.contains(from) || _entries.contains(to) || _immovable.contains(from)) return false;
+  if (!_entries.contains(from) || _entries.contains(to)) return false;
   for (const Path& path : subtree(from)) {
     auto entry = _entries.extract(path);
     entry.key() = to.native() + path.native().substr(from.native().size());
@@ -180,34 +162,32 @@ bool MemoryFileSystem::move(const Path& from, const Path& to) {
   return true;
 }
 
-bool MemoryFileSystem::mayTouch(const Path& item, const PlaceCheck& check) const {
-  if (_beforeRemoval) _beforeRemoval(item);
+bool FakeFileSystem::isAllowed(const Path& item, const PlaceCheck& check) const {
   const auto real = _realPlaces.find(item);
   return check(real == _realPlaces.end() ? item : real->second);
 }
 
-bool MemoryFileSystem::moveChecked(const Path& from, const Path& to, const PlaceCheck& mayMove) {
-  return mayTouch(from, mayMove) && move(from, to);
+bool FakeFileSystem::moveChecked(const Path& from, const Path& to, const PlaceCheck& mayMove) {
+  return isAllowed(from, mayMove) && move(from, to);
 }
 
-bool MemoryFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
-  if (!mayTouch(item, mayRemove)) return false;
+bool FakeFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
+  if (!isAllowed(item, mayRemove)) return false;
   const std::scoped_lock lock(_mutex);
-  if (!_entries.contains(item) || _immovable.contains(item)) return false;
+  if (!_entries.contains(item)) return false;
   for (const Path& path : subtree(item)) _entries.erase(path);
-  _removed.push_back(item);
   return true;
 }
 
-MemoryTrash::MemoryTrash(MemoryFileSystem& files) : _files(files) {
+FakeTrash::FakeTrash(FakeFileSystem& files) : _files(files) {
   _files.addFolder(mainTrash);
 }
 
-std::vector<Path> MemoryTrash::folders() {
+std::vector<Path> FakeTrash::folders() {
   return {mainTrash, homeTrash};
 }
 
-std::optional<std::vector<Path>> MemoryTrash::list() {
+std::optional<std::vector<Path>> FakeTrash::list() {
   auto entries = _files.list(mainTrash);
   if (!entries) return std::nullopt;
   const auto more = _files.list(homeTrash).value_or(std::vector<Path>{});
@@ -215,34 +195,26 @@ std::optional<std::vector<Path>> MemoryTrash::list() {
   return entries;
 }
 
-std::optional<Date> MemoryTrash::modificationDate() {
-  return MemoryFileSystem::usualDate;
+std::optional<Date> FakeTrash::modificationDate() {
+  return FakeFileSystem::usualDate;
 }
 
-bool MemoryTrash::contains(const Path& item) const {
+bool FakeTrash::contains(const Path& item) const {
   return item.native().find("/.Trash/") != std::string::npos || isBelow(mainTrash, item);
 }
 
-std::optional<Path> MemoryTrash::moveToTrash(const Path& item, const PlaceCheck& mayMove) {
+std::optional<Path> FakeTrash::moveToTrash(const Path& item, const PlaceCheck& mayMove) {
   const Path trashed = mainTrash / item.filename();
-  if (_refusesMoves || !_files.moveChecked(item, trashed, mayMove)) return std::nullopt;
-  const std::scoped_lock lock(_mutex);
-  _moved.insert(item);
-  return trashed;
+  return _files.moveChecked(item, trashed, mayMove) ? std::optional(trashed) : std::nullopt;
 }
 
-bool MemoryTrash::putBack(const Path& trashed, const Path& original) {
+bool FakeTrash::putBack(const Path& trashed, const Path& original) {
   _files.createDirectories(original.parent_path());
   return _files.move(trashed, original);
 }
 
-bool MemoryTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
+bool FakeTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
   return _files.remove(trashed, mayRemove);
-}
-
-std::set<Path> MemoryTrash::moved() const {
-  const std::scoped_lock lock(_mutex);
-  return _moved;
 }
 
 }  // namespace klarvik

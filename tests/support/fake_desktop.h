@@ -1,0 +1,96 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/application_info.h"
+#include "platform/formatting.h"
+#include "platform/linux/linux_file_system.h"
+#include "platform/linux/linux_trash.h"
+#include "platform/notification_center.h"
+#include "platform/platform.h"
+#include "support/canned_command_runner.h"
+#include "support/fake_file_system.h"
+#include "support/fake_status_item.h"
+#include "support/fault_injecting_file_system.h"
+#include "support/fault_injecting_trash.h"
+#include "support/fixed_volume.h"
+#include "support/gate.h"
+#include "support/hand_moved_clock.h"
+#include "support/memory_defaults.h"
+#include "support/memory_pasteboard.h"
+#include "support/recording_recent_documents.h"
+#include "support/recording_workspace.h"
+#include "support/sample_disk.h"
+#include "support/scripted_open_panel.h"
+#include "support/scripted_updater.h"
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+
+/// The whole desktop around a disk, every part of which a test can steer: the one place where what
+/// surrounds a test is put together. Sizes and dates are written in the English of the United
+/// States.
+struct FakeDesktop {
+  /// Around files and a Trash that outlive it.
+  FakeDesktop(FileSystem& disk, Trash& trashOfTheDisk);
+  FakeDesktop(const FakeDesktop&) = delete;
+  FakeDesktop& operator=(const FakeDesktop&) = delete;
+
+  /// The same desktop with another clock.
+  [[nodiscard]] Desktop with(Clock& other);
+
+  Gate commandGate;  ///< for `commands.holdAt`
+  Gate trashGate;    ///< every move to the Trash waits here
+  Gate walkGate;     ///< every walk waits here, before each folder
+
+  FaultInjectingFileSystem files;
+  FaultInjectingTrash trash;
+  HandMovedClock clock;
+  CannedCommandRunner commands;
+  MemoryDefaults defaults;
+  FixedVolume volume;
+  Formatting formatting{"en_US"};
+  ApplicationInfo info{{"CFBundleShortVersionString", "1.2.3"}, {"CFBundleVersion", "45"}};
+  RecordingRecentDocuments recentDocuments;
+  NotificationCenter notifications;
+  RecordingWorkspace workspace;
+  MemoryPasteboard pasteboard;
+  ScriptedOpenPanel openPanel;
+  FakeStatusItem statusItem;
+  ScriptedUpdater updater;
+
+  /// What the program sees of it all; also the `Platform` of an engine.
+  const Desktop desktop = with(clock);
+};
+
+/// A disk of the machine in a temporary folder, with the home at "/Users/ann".
+struct TemporaryDisk {
+  TemporaryFolder disk;
+  LinuxFileSystem filesOnDisk{disk.path(), "/Users/ann"};
+  LinuxTrash trashOnDisk{disk.path(), "/Users/ann"};
+};
+
+/// Real files and a real Trash in a temporary folder, `disk`.
+struct FakeDesktopOnDisk : TemporaryDisk, FakeDesktop {
+  /// An empty home, or the sample disk where its options are given.
+  explicit FakeDesktopOnDisk(const std::optional<SampleDiskOptions>& options = std::nullopt);
+
+  /// Something protected is there that nobody can read, not even root.
+  void denyFullDiskAccess() const;
+  void grantFullDiskAccess() const;
+
+  std::optional<SampleDisk> sample;
+};
+
+/// A disk that is only remembered, and its Trash.
+struct RememberedDisk {
+  FakeFileSystem disk;
+  FakeTrash trashOnDisk{disk};
+};
+
+/// Files that are only remembered, in `disk`, with sizes to the byte.
+struct FakeDesktopInMemory : RememberedDisk, FakeDesktop {
+  FakeDesktopInMemory();
+};
+
+}  // namespace klarvik

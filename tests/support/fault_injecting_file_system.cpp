@@ -1,0 +1,189 @@
+#include "support/fault_injecting_file_system.h"
+
+#include <algorithm>
+
+namespace klarvik {
+
+template class FaultInjection<FileOperation>;
+
+namespace {
+
+class FailingReader final : public FileReader {
+ public:
+  FailingReader(std::unique_ptr<FileReader> file, std::size_t limit)
+      : _file(std::move(file)), _left(limit) {}
+
+  [[nodiscard]] std::optional<std::size_t> read(std::span<std::byte> buffer) override {
+    if (_left == 0) return std::nullopt;
+    const auto count = _file->read(buffer.first(std::min(buffer.size(), _left)));
+    _left -= count.value_or(0);
+    return count;
+  }
+
+ private:
+  std::unique_ptr<FileReader> _file;
+  std::size_t _left;
+};
+
+}  // namespace
+
+/// An entry of a walk with overlays and faults applied. Puts no path together where there are none,
+/// so that a walk costs what it costs without.
+class FaultInjectingFileSystem::OverlaidEntry final : public WalkEntry {
+ public:
+  OverlaidEntry(const FaultInjectingFileSystem& files, WalkEntry& entry)
+      : _files(files), _entry(entry) {}
+
+  [[nodiscard]] std::string_view name() const override { return _entry.name(); }
+  [[nodiscard]] FileKind kind() const override { return _entry.kind(); }
+  [[nodiscard]] std::size_t depth() const override { return _entry.depth(); }
+  [[nodiscard]] Path path() const override { return _entry.path(); }
+  [[nodiscard]] std::int64_t allocatedBytes() override {
+    if (isPlain()) return _entry.allocatedBytes();
+    const auto known = attributes();
+    return known ? known->allocatedBytes : 0;
+  }
+  [[nodiscard]] std::optional<FileAttributes> attributes() override {
+    if (isPlain()) return _entry.attributes();
+    const Path path = _entry.path();
+    if (!_files.goesAhead(Operation::attributes, path)) return std::nullopt;
+    const auto known = _entry.attributes();
+    return known ? std::optional(_files.overlaid(path, *known)) : std::nullopt;
+  }
+
+ private:
+  [[nodiscard]] bool isPlain() const {
+    return !_files.isInjected(Operation::attributes) && !_files._isOverlaid;
+  }
+
+  const FaultInjectingFileSystem& _files;
+  WalkEntry& _entry;
+};
+
+void FaultInjectingFileSystem::makeUnreadable(const Path& folder) {
+  fail(Operation::list, folder);
+  fail(Operation::walk, folder);
+}
+
+void FaultInjectingFileSystem::failReadingAfter(std::size_t bytes, const Path& path) {
+  const std::scoped_lock lock(_mutex);
+  _readLimits[path] = bytes;
+}
+
+void FaultInjectingFileSystem::overlaySize(const Path& path, std::int64_t bytes) {
+  const std::scoped_lock lock(_mutex);
+  _sizes[path] = bytes;
+  _isOverlaid = true;
+}
+
+void FaultInjectingFileSystem::vanishBefore(Operation operation, const Path& path) {
+  before(operation, path, [disk = diskPath(path)] { std::filesystem::remove_all(disk); });
+}
+
+void FaultInjectingFileSystem::becomeLinkBefore(Operation operation, const Path& path,
+                                                const Path& target) {
+  before(operation, path, [disk = diskPath(path), target] {
+    std::filesystem::remove_all(disk);
+    std::filesystem::create_symlink(target, disk);
+  });
+}
+
+std::vector<Path> FaultInjectingFileSystem::openings() const {
+  const std::scoped_lock lock(_mutex);
+  return _openings;
+}
+
+std::vector<FaultInjectingFileSystem::Removal> FaultInjectingFileSystem::removals() const {
+  const std::scoped_lock lock(_mutex);
+  return _removals;
+}
+
+std::vector<Path> FaultInjectingFileSystem::removed() const {
+  std::vector<Path> items;
+  for (const Removal& removal : removals()) {
+    if (removal.done) items.push_back(removal.item);
+  }
+  return items;
+}
+
+Path FaultInjectingFileSystem::diskPath(const Path& logical) const {
+  return _files.diskPath(logical);
+}
+
+std::optional<Path> FaultInjectingFileSystem::logicalPath(const Path& disk) const {
+  return _files.logicalPath(disk);
+}
+
+Path FaultInjectingFileSystem::home() const {
+  return _files.home();
+}
+
+Path FaultInjectingFileSystem::realHome() const {
+  return _files.realHome();
+}
+
+bool FaultInjectingFileSystem::exists(const Path& path) const {
+  return goesAhead(Operation::exists, path) && _files.exists(path);
+}
+
+std::optional<FileAttributes> FaultInjectingFileSystem::attributes(const Path& path) const {
+  if (!goesAhead(Operation::attributes, path)) return std::nullopt;
+  const auto known = _files.attributes(path);
+  return known ? std::optional(overlaid(path, *known)) : std::nullopt;
+}
+
+std::optional<std::vector<Path>> FaultInjectingFileSystem::list(const Path& folder) const {
+  return goesAhead(Operation::list, folder) ? _files.list(folder) : std::nullopt;
+}
+
+WalkOutcome FaultInjectingFileSystem::walk(const Path& folder, WalkOptions options,
+                                           const WalkVisitor& visit) const {
+  if (!goesAhead(Operation::walk, folder)) return WalkOutcome::refused;
+  return _files.walk(folder, options, [&](WalkEntry& entry) {
+    OverlaidEntry overlaidEntry(*this, entry);
+    const WalkStep step = visit(overlaidEntry);
+    const bool enters = step == WalkStep::proceed && entry.kind() == FileKind::directory;
+    if (!enters || !isInjected(Operation::walk)) return step;
+    return goesAhead(Operation::walk, entry.path()) ? step : WalkStep::skipDescendants;
+  });
+}
+
+std::unique_ptr<FileReader> FaultInjectingFileSystem::openForReading(const Path& path) const {
+  {
+    const std::scoped_lock lock(_mutex);
+    _openings.push_back(path);
+  }
+  if (!goesAhead(Operation::openForReading, path)) return nullptr;
+  auto file = _files.openForReading(path);
+  const std::scoped_lock lock(_mutex);
+  const auto limit = _readLimits.find(path);
+  if (!file || limit == _readLimits.end()) return file;
+  return std::make_unique<FailingReader>(std::move(file), limit->second);
+}
+
+bool FaultInjectingFileSystem::createDirectories(const Path& folder) {
+  return goesAhead(Operation::createDirectories, folder) && _files.createDirectories(folder);
+}
+
+bool FaultInjectingFileSystem::move(const Path& from, const Path& to) {
+  return goesAhead(Operation::move, from) && _files.move(from, to);
+}
+
+bool FaultInjectingFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
+  const bool done = goesAhead(Operation::remove, item) && _files.remove(item, mayRemove);
+  const std::scoped_lock lock(_mutex);
+  _removals.push_back({item, done});
+  return done;
+}
+
+FileAttributes FaultInjectingFileSystem::overlaid(const Path& path,
+                                                  FileAttributes attributes) const {
+  if (!_isOverlaid) return attributes;
+  const std::scoped_lock lock(_mutex);
+  if (const auto size = _sizes.find(path); size != _sizes.end()) {
+    attributes.allocatedBytes = attributes.logicalBytes = size->second;
+  }
+  return attributes;
+}
+
+}  // namespace klarvik
