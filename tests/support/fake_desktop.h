@@ -5,21 +5,16 @@
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_trash.h"
 #include "platform/platform.h"
-#include "support/canned_command_runner.h"
+#include "support/desktop_fakes.h"
+#include "support/fake_clock.h"
+#include "support/fake_command_runner.h"
 #include "support/fake_file_system.h"
-#include "support/fake_status_item.h"
+#include "support/fake_user_defaults.h"
+#include "support/fake_volume.h"
 #include "support/fault_injecting_file_system.h"
 #include "support/fault_injecting_trash.h"
-#include "support/fixed_volume.h"
 #include "support/gate.h"
-#include "support/hand_moved_clock.h"
-#include "support/memory_defaults.h"
-#include "support/memory_pasteboard.h"
-#include "support/recording_recent_documents.h"
-#include "support/recording_workspace.h"
 #include "support/sample_disk.h"
-#include "support/scripted_open_panel.h"
-#include "support/scripted_updater.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -42,19 +37,19 @@ struct FakeDesktop {
 
   FaultInjectingFileSystem files;
   FaultInjectingTrash trash;
-  HandMovedClock clock;
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  FixedVolume volume;
+  FakeClock clock;
+  FakeCommandRunner commands;
+  FakeUserDefaults defaults;
+  FakeVolume volume;
   Formatting formatting{"en_US"};
   ApplicationInfo info{{"CFBundleShortVersionString", "1.2.3"}, {"CFBundleVersion", "45"}};
-  RecordingRecentDocuments recentDocuments;
+  FakeRecentDocuments recentDocuments;
   NotificationCenter notifications;
-  RecordingWorkspace workspace;
-  MemoryPasteboard pasteboard;
-  ScriptedOpenPanel openPanel;
+  FakeWorkspace workspace;
+  FakePasteboard pasteboard;
+  FakeOpenPanel openPanel;
   FakeStatusItem statusItem;
-  ScriptedUpdater updater;
+  FakeUpdater updater;
 
   /// What the program sees of it all; also the `Platform` of an engine.
   const Desktop desktop = with(clock);
