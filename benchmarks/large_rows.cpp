@@ -21,8 +21,8 @@
 #include "platform/desktop/qt_clock.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
+#include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
-#include "support/fake_login_item.h"
 
 namespace {
 

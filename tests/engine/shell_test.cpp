@@ -3,26 +3,26 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/shell_command_runner.h"
-#include "support/canned_command_runner.h"
+#include "support/fake_command_runner.h"
 
 namespace klarvik {
 namespace {
 
 TEST(Shell, TrimsWhatTheCommandPrints) {
-  CannedCommandRunner commands;
+  FakeCommandRunner commands;
   commands.answer("tool", " \n two\nlines \n");
   EXPECT_EQ(runShell(commands, "tool"), "two\nlines");
 }
 
 TEST(Shell, AToolThatIsMissingOrPrintsNothingGivesTheEmptyText) {
-  CannedCommandRunner commands;
+  FakeCommandRunner commands;
   commands.failToStart("broken");
   EXPECT_EQ(runShell(commands, "broken"), "");
   EXPECT_EQ(runShell(commands, "silent"), "");
 }
 
 TEST(Shell, AToolThatPrintsRubbishGivesTheEmptyText) {
-  CannedCommandRunner commands;
+  FakeCommandRunner commands;
   commands.answer("rubbish", "size \xff\xfe\n");
   EXPECT_EQ(runShell(commands, "rubbish"), "");
 }

@@ -7,8 +7,8 @@
 #include <QSysInfo>
 #include <map>
 
+#include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
-#include "support/fake_login_item.h"
 
 namespace klarvik {
 namespace {

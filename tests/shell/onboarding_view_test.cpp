@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QSignalSpy>
 
+#include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
 
 namespace klarvik {

@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 
 #include "panes/kit/symbol_table.h"
+#include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
 
 namespace klarvik {

@@ -4,6 +4,7 @@
 
 #include <QSignalSpy>
 
+#include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
 
 namespace klarvik {

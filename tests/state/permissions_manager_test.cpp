@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "signal_count.h"
+#include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
 
 namespace klarvik {

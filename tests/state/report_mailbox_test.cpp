@@ -6,7 +6,7 @@
 #include <thread>
 
 #include "support/application/main_loop.h"
-#include "support/hand_moved_clock.h"
+#include "support/fake_clock.h"
 
 namespace klarvik {
 namespace {
@@ -19,7 +19,7 @@ class ReportMailboxTest : public ::testing::Test {
  protected:
   static bool isUpdate(const std::string& report) { return report.front() >= 'a'; }
 
-  HandMovedClock clock;
+  FakeClock clock;
   std::vector<std::string> applied;
   std::optional<ReportMailbox<std::string>> mailbox{
       std::in_place, clock, [this](std::string report) { applied.push_back(std::move(report)); },

@@ -6,8 +6,8 @@
 
 #include "signal_count.h"
 #include "support/application/main_loop.h"
-#include "support/hand_moved_clock.h"
-#include "support/memory_defaults.h"
+#include "support/fake_clock.h"
+#include "support/fake_user_defaults.h"
 
 namespace klarvik {
 namespace {
@@ -25,7 +25,7 @@ class ScanCoordinatorTest : public ::testing::Test {
     answers[key] = co_await coordinator->beginAutoScan(key, stop);
   }
 
-  MemoryDefaults defaults;
+  FakeUserDefaults defaults;
   std::vector<std::string> turns;
   std::map<std::string, std::optional<bool>> answers;
   std::optional<ScanCoordinator> coordinator{std::in_place, defaults};
@@ -164,7 +164,7 @@ class HoldTurn : public ScanCoordinatorTest {
   }
   [[nodiscard]] bool turnPassed() const { return answers.at("privacy").has_value(); }
 
-  HandMovedClock clock;
+  FakeClock clock;
   bool over = false;
   std::stop_source stop;
 };

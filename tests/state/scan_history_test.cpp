@@ -6,8 +6,8 @@
 
 #include "platform/linux/json_user_defaults.h"
 #include "signal_count.h"
-#include "support/hand_moved_clock.h"
-#include "support/memory_defaults.h"
+#include "support/fake_clock.h"
+#include "support/fake_user_defaults.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -37,8 +37,8 @@ class ScanHistoryTest : public ::testing::Test {
     return ScanHistory(defaults, clock).scans();
   }
 
-  MemoryDefaults defaults;
-  HandMovedClock clock;
+  FakeUserDefaults defaults;
+  FakeClock clock;
 };
 
 TEST_F(ScanHistoryTest, IsEmptyWhereNothingIsStored) {

@@ -4,7 +4,7 @@
 
 #include <QCoro/QCoroTask>
 
-#include "support/hand_moved_clock.h"
+#include "support/fake_clock.h"
 
 namespace klarvik {
 namespace {
@@ -18,7 +18,7 @@ class SleepFor : public ::testing::Test {
     awake = true;
   }
 
-  HandMovedClock clock;
+  FakeClock clock;
   std::stop_source stop;
   bool awake = false;
 };

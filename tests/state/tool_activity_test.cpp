@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "signal_count.h"
-#include "support/hand_moved_clock.h"
+#include "support/fake_clock.h"
 
 namespace klarvik {
 namespace {
@@ -17,7 +17,7 @@ class ToolActivityTest : public ::testing::Test {
  protected:
   [[nodiscard]] State privacy() const { return activity.state("privacy"); }
 
-  HandMovedClock clock;
+  FakeClock clock;
   ToolActivity activity{clock};
 };
 

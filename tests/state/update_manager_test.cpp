@@ -5,6 +5,7 @@
 #include "signal_count.h"
 #include "state/shared_state.h"
 #include "support/application/main_loop.h"
+#include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
 
 namespace klarvik {

@@ -1,5 +1,8 @@
 #include "support/fake_desktop.h"
 
+#include "platform/user_defaults.h"
+#include "support/desktop_fakes.h"
+
 namespace klarvik {
 namespace {
 
@@ -7,12 +10,31 @@ const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
 
 }  // namespace
 
+struct FakeDesktop::Surroundings {
+  FakeRecentDocuments recentDocuments;
+  FakeWorkspace workspace;
+  FakePasteboard pasteboard;
+  FakeOpenPanel openPanel;
+  FakeStatusItem statusItem;
+  FakeUpdater updater;
+};
+
 FakeDesktop::FakeDesktop(FileSystem& disk, Trash& trashOfTheDisk)
-    : files(disk), trash(trashOfTheDisk) {
+    : _surroundings(std::make_unique<Surroundings>()),
+      files(disk),
+      trash(trashOfTheDisk),
+      recentDocuments(_surroundings->recentDocuments),
+      workspace(_surroundings->workspace),
+      pasteboard(_surroundings->pasteboard),
+      openPanel(_surroundings->openPanel),
+      statusItem(_surroundings->statusItem),
+      updater(_surroundings->updater) {
   files.holdAt(FileOperation::walk, walkGate);
   trash.holdAt(TrashOperation::moveToTrash, trashGate);
   defaults.onChange([this] { notifications.post(defaultsChangedNotification); });
 }
+
+FakeDesktop::~FakeDesktop() = default;
 
 Desktop FakeDesktop::with(Clock& other) {
   return {{files, trash, commands, defaults, volume, formatting, info, recentDocuments},

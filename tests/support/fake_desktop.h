@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "platform/application_info.h"
@@ -8,31 +9,40 @@
 #include "platform/linux/linux_trash.h"
 #include "platform/notification_center.h"
 #include "platform/platform.h"
-#include "support/canned_command_runner.h"
+#include "support/fake_clock.h"
+#include "support/fake_command_runner.h"
 #include "support/fake_file_system.h"
-#include "support/fake_status_item.h"
+#include "support/fake_user_defaults.h"
+#include "support/fake_volume.h"
 #include "support/fault_injecting_file_system.h"
 #include "support/fault_injecting_trash.h"
-#include "support/fixed_volume.h"
 #include "support/gate.h"
-#include "support/hand_moved_clock.h"
-#include "support/memory_defaults.h"
-#include "support/memory_pasteboard.h"
-#include "support/recording_recent_documents.h"
-#include "support/recording_workspace.h"
 #include "support/sample_disk.h"
-#include "support/scripted_open_panel.h"
-#include "support/scripted_updater.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
+
+class FakeOpenPanel;
+class FakePasteboard;
+class FakeRecentDocuments;
+class FakeStatusItem;
+class FakeUpdater;
+class FakeWorkspace;
 
 /// The whole desktop around a disk, every part of which a test can steer: the one place where what
 /// surrounds a test is put together. Sizes and dates are written in the English of the United
 /// States.
 struct FakeDesktop {
+ private:
+  /// What few tests steer. Those include "support/desktop_fakes.h"; a change to one of the interfaces
+  /// behind it compiles no others.
+  struct Surroundings;
+  std::unique_ptr<Surroundings> _surroundings;
+
+ public:
   /// Around files and a Trash that outlive it.
   FakeDesktop(FileSystem& disk, Trash& trashOfTheDisk);
+  ~FakeDesktop();
   FakeDesktop(const FakeDesktop&) = delete;
   FakeDesktop& operator=(const FakeDesktop&) = delete;
 
@@ -45,19 +55,19 @@ struct FakeDesktop {
 
   FaultInjectingFileSystem files;
   FaultInjectingTrash trash;
-  HandMovedClock clock;
-  CannedCommandRunner commands;
-  MemoryDefaults defaults;
-  FixedVolume volume;
+  FakeClock clock;
+  FakeCommandRunner commands;
+  FakeUserDefaults defaults;
+  FakeVolume volume;
   Formatting formatting{"en_US"};
   ApplicationInfo info{{"CFBundleShortVersionString", "1.2.3"}, {"CFBundleVersion", "45"}};
-  RecordingRecentDocuments recentDocuments;
+  FakeRecentDocuments& recentDocuments;
   NotificationCenter notifications;
-  RecordingWorkspace workspace;
-  MemoryPasteboard pasteboard;
-  ScriptedOpenPanel openPanel;
-  FakeStatusItem statusItem;
-  ScriptedUpdater updater;
+  FakeWorkspace& workspace;
+  FakePasteboard& pasteboard;
+  FakeOpenPanel& openPanel;
+  FakeStatusItem& statusItem;
+  FakeUpdater& updater;
 
   /// What the program sees of it all; also the `Platform` of an engine.
   const Desktop desktop = with(clock);

@@ -1,3 +1,4 @@
+#include "support/desktop_fakes.h"
 #include "tools/privacy_scanner.h"
 
 #include <gmock/gmock.h>

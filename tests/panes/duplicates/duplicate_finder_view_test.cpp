@@ -10,6 +10,7 @@
 #include "duplicates_fixture.h"
 #include "panes/kit/kit_enums.h"
 #include "state/section.h"
+#include "support/desktop_fakes.h"
 
 namespace klarvik {
 namespace {

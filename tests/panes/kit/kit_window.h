@@ -16,8 +16,8 @@
 
 #include "panes/kit/kit.h"
 #include "platform/formatting.h"
-#include "support/hand_moved_clock.h"
-#include "support/recording_workspace.h"
+#include "support/desktop_fakes.h"
+#include "support/fake_clock.h"
 
 namespace klarvik {
 
@@ -84,8 +84,8 @@ class KitWindow : public ::testing::Test {
   }
 
   Formatting formatting{"en_US"};
-  RecordingWorkspace workspace;
-  HandMovedClock clock;
+  FakeWorkspace workspace;
+  FakeClock clock;
   QQuickView view;
 
  private:

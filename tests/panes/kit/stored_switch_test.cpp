@@ -4,7 +4,7 @@
 
 #include <QSignalSpy>
 
-#include "support/memory_defaults.h"
+#include "support/fake_user_defaults.h"
 
 namespace klarvik {
 namespace {
@@ -16,7 +16,7 @@ class StoredSwitchTest : public ::testing::Test {
     notifications.post(defaultsChangedNotification);
   }
 
-  MemoryDefaults defaults;
+  FakeUserDefaults defaults;
   NotificationCenter notifications;
 };
 

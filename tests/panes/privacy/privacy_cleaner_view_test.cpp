@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "privacy_fixture.h"
+#include "support/desktop_fakes.h"
 #include "support/disk_snapshot.h"
 
 namespace klarvik {

@@ -6,6 +6,7 @@
 
 #include "../pane_fixture.h"
 #include "panes/privacy/privacy_cleaner_view.h"
+#include "support/desktop_fakes.h"
 
 namespace klarvik {
 

@@ -10,7 +10,7 @@
 #include "platform/linux/json_user_defaults.h"
 #include "platform/notification_center.h"
 #include "support/application/main_loop.h"
-#include "support/memory_defaults.h"
+#include "support/fake_user_defaults.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -43,7 +43,7 @@ class ObservedUserDefaultsTest : public testing::Test {
 };
 
 TEST_F(ObservedUserDefaultsTest, TellsOfAChangeThatThisProgramMakesOnceTheMainLoopTurns) {
-  MemoryDefaults memory;
+  FakeUserDefaults memory;
   observe(memory, home.path() / "nowhere/preferences.json");
   EXPECT_TRUE(observed->set("showMenuBar", false));
   EXPECT_TRUE(seen.empty());
@@ -54,7 +54,7 @@ TEST_F(ObservedUserDefaultsTest, TellsOfAChangeThatThisProgramMakesOnceTheMainLo
 }
 
 TEST_F(ObservedUserDefaultsTest, TellsOfAChangeFromAnotherThreadOnTheMainOne) {
-  MemoryDefaults memory;
+  FakeUserDefaults memory;
   observe(memory, home.path() / "nowhere/preferences.json");
   std::thread([this] { observed->set("showMenuBar", false); }).join();
   EXPECT_TRUE(seen.empty());
@@ -62,7 +62,7 @@ TEST_F(ObservedUserDefaultsTest, TellsOfAChangeFromAnotherThreadOnTheMainOne) {
 }
 
 TEST_F(ObservedUserDefaultsTest, SaysThatAChangeCouldNotBeStored) {
-  MemoryDefaults memory;
+  FakeUserDefaults memory;
   memory.refuseWrites(true);
   observe(memory, home.path() / "nowhere/preferences.json");
   EXPECT_FALSE(observed->set("showMenuBar", false));

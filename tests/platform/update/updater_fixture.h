@@ -15,9 +15,9 @@
 #include "platform/linux/linux_file_system.h"
 #include "platform/update/appcast_updater.h"
 #include "support/application/main_loop.h"
-#include "support/hand_moved_clock.h"
-#include "support/memory_defaults.h"
-#include "support/recording_workspace.h"
+#include "support/desktop_fakes.h"
+#include "support/fake_clock.h"
+#include "support/fake_user_defaults.h"
 #include "support/temporary_folder.h"
 #include "test_keys.h"
 
@@ -135,9 +135,9 @@ class UpdaterFixture : public ::testing::Test {
   HttpsServer server;
   TemporaryFolder disk;
   LinuxFileSystem files{disk.path(), "/Users/ann"};
-  MemoryDefaults defaults;
-  HandMovedClock clock;
-  RecordingWorkspace workspace;
+  FakeUserDefaults defaults;
+  FakeClock clock;
+  FakeWorkspace workspace;
   ApplicationInfo info{{"CFBundleShortVersionString", std::string("1.9")},
                        {"CFBundleVersion", std::string("1.9")},
                        {"SUFeedURL", server.address("/feed")},

@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "menu_bar_fixture.h"
+#include "support/desktop_fakes.h"
 
 namespace klarvik {
 namespace {

@@ -11,6 +11,7 @@
 #include "scripted_app_state.h"
 #include "shell/menu_bar/menu_bar_controller.h"
 #include "support/application/main_loop.h"
+#include "support/desktop_fakes.h"
 
 namespace klarvik {
 

@@ -5,6 +5,7 @@
 
 #include "menu_bar_fixture.h"
 #include "shell/menu_bar/background_life.h"
+#include "support/desktop_fakes.h"
 
 namespace klarvik {
 namespace {

@@ -8,7 +8,7 @@ namespace klarvik {
 
 /// A volume with the figures a test gives it: 500 GB with 200 GB free, called "Macintosh HD", until
 /// told otherwise. May be used from any thread.
-class FixedVolume final : public Volume {
+class FakeVolume final : public Volume {
  public:
   void setTotalBytes(std::optional<std::int64_t> bytes);
   void setAvailableBytes(std::optional<std::int64_t> bytes);

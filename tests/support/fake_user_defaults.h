@@ -10,7 +10,7 @@
 namespace klarvik {
 
 /// Preferences that last as long as the object. May be used from any thread.
-class MemoryDefaults final : public UserDefaults {
+class FakeUserDefaults final : public UserDefaults {
  public:
   [[nodiscard]] std::optional<DefaultsValue> object(const std::string& key) const override;
   bool set(const std::string& key, const DefaultsValue& value) override;

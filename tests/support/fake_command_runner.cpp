@@ -1,29 +1,29 @@
-#include "support/canned_command_runner.h"
+#include "support/fake_command_runner.h"
 
 namespace klarvik {
 
-void CannedCommandRunner::answer(const std::string& commandLine, const std::string& output) {
+void FakeCommandRunner::answer(const std::string& commandLine, const std::string& output) {
   const std::lock_guard lock(_mutex);
   _answers[commandLine] = output;
 }
 
-void CannedCommandRunner::failToStart(const std::string& commandLine) {
+void FakeCommandRunner::failToStart(const std::string& commandLine) {
   const std::lock_guard lock(_mutex);
   _answers[commandLine] = std::nullopt;
 }
 
-std::vector<std::string> CannedCommandRunner::commandsRun() const {
+std::vector<std::string> FakeCommandRunner::commandsRun() const {
   const std::lock_guard lock(_mutex);
   return _commandsRun;
 }
 
-void CannedCommandRunner::holdAt(const std::string& text, Gate& gate) {
+void FakeCommandRunner::holdAt(const std::string& text, Gate& gate) {
   const std::lock_guard lock(_mutex);
   _heldText = text;
   _gate = &gate;
 }
 
-std::optional<std::string> CannedCommandRunner::run(const std::string& commandLine) {
+std::optional<std::string> FakeCommandRunner::run(const std::string& commandLine) {
   if (Gate* gate = gateOf(commandLine)) gate->pass();
   const std::lock_guard lock(_mutex);
   _commandsRun.push_back(commandLine);
@@ -31,7 +31,7 @@ std::optional<std::string> CannedCommandRunner::run(const std::string& commandLi
   return found != _answers.end() ? found->second : "";
 }
 
-Gate* CannedCommandRunner::gateOf(const std::string& commandLine) const {
+Gate* FakeCommandRunner::gateOf(const std::string& commandLine) const {
   const std::lock_guard lock(_mutex);
   return commandLine.find(_heldText) != std::string::npos ? _gate : nullptr;
 }

@@ -9,10 +9,10 @@
 namespace klarvik {
 
 /// A clock that stands still until a test moves it.
-class HandMovedClock final : public Clock {
+class FakeClock final : public Clock {
  public:
   /// Starts at 2026-03-04 17:06:40 UTC unless told otherwise.
-  explicit HandMovedClock(Date start = Date(std::chrono::seconds(1'772'644'000)));
+  explicit FakeClock(Date start = Date(std::chrono::seconds(1'772'644'000)));
 
   [[nodiscard]] Date now() const override;
   [[nodiscard]] std::unique_ptr<Alarm> wakeAfter(std::chrono::nanoseconds delay,

@@ -11,7 +11,7 @@ namespace klarvik {
 
 /// Answers exact command lines with texts laid down beforehand, and remembers what it was asked to
 /// run. An unknown command prints nothing. May be used from any thread.
-class CannedCommandRunner final : public CommandRunner {
+class FakeCommandRunner final : public CommandRunner {
  public:
   void answer(const std::string& commandLine, const std::string& output);
   /// From now on this command cannot be started at all.

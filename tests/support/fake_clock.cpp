@@ -1,10 +1,10 @@
-#include "support/hand_moved_clock.h"
+#include "support/fake_clock.h"
 
 #include <algorithm>
 
 namespace klarvik {
 
-class HandMovedClock::SetAlarm final : public Clock::Alarm {
+class FakeClock::SetAlarm final : public Clock::Alarm {
  public:
   SetAlarm(std::shared_ptr<Alarms> alarms, Turn turn) : _alarms(std::move(alarms)), _turn(turn) {}
   ~SetAlarm() override { _alarms->erase(_turn); }
@@ -16,20 +16,20 @@ class HandMovedClock::SetAlarm final : public Clock::Alarm {
   Turn _turn;
 };
 
-HandMovedClock::HandMovedClock(Date start) : _now(start) {}
+FakeClock::FakeClock(Date start) : _now(start) {}
 
-Date HandMovedClock::now() const {
+Date FakeClock::now() const {
   return _now;
 }
 
-std::unique_ptr<Clock::Alarm> HandMovedClock::wakeAfter(std::chrono::nanoseconds delay,
-                                                        std::function<void()> wake) {
+std::unique_ptr<Clock::Alarm> FakeClock::wakeAfter(std::chrono::nanoseconds delay,
+                                                   std::function<void()> wake) {
   const Turn turn{_now + delay, _alarmsEverSet++};
   _alarms->emplace(turn, std::move(wake));
   return std::make_unique<SetAlarm>(_alarms, turn);
 }
 
-void HandMovedClock::advance(std::chrono::nanoseconds duration) {
+void FakeClock::advance(std::chrono::nanoseconds duration) {
   const Date end = _now + duration;
   while (!_alarms->empty() && _alarms->begin()->first.first <= end) {
     auto due = _alarms->extract(_alarms->begin());
@@ -39,7 +39,7 @@ void HandMovedClock::advance(std::chrono::nanoseconds duration) {
   _now = end;
 }
 
-std::size_t HandMovedClock::pendingAlarms() const {
+std::size_t FakeClock::pendingAlarms() const {
   return _alarms->size();
 }
 
