@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <csignal>
 #include <nlohmann/json.hpp>
 #include <thread>
@@ -59,9 +58,7 @@ class InterruptedProbe : public testing::Test {
 
   static void waitUntilInterrupted(const Program& program) {
     const Path probe = std::filesystem::canonical(KLARVIK_PROBE);
-    while (program.file() != probe || program.hasPending(SIGINT)) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
+    while (program.file() != probe || program.hasPending(SIGINT)) std::this_thread::yield();
   }
 
   /// What it prints last.

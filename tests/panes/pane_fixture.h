@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <functional>
 #include <optional>
 #include <string>
 
 #include "state/shared_state.h"
+#include "support/application/main_loop.h"
 #include "support/fake_desktop.h"
 #include "thread_watch.h"
 
@@ -30,13 +30,8 @@ class PaneFixture : public ::testing::Test {
 
   /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
   [[nodiscard]] bool turnUntil(const std::function<bool()>& reached) {
-    const QDeadlineTimer giveUp(60'000);
-    while (!reached()) {
-      if (giveUp.hasExpired()) return false;
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-      desk.clock.advance(std::chrono::milliseconds(5));
-    }
-    return true;
+    return turnMainLoopUntil(reached,
+                             [this] { desk.clock.advance(std::chrono::milliseconds(20)); });
   }
   /// For a thread of the pane's: waits at the gate.
   void waitAtGate() {

@@ -5,10 +5,12 @@
 #include <signal.h>
 #include <sys/ioctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <functional>
@@ -175,13 +177,33 @@ TEST(ShellCommandRunner, GivesTheCommandTheUsualSignals) {
   ::signal(SIGPIPE, SIG_DFL);
 }
 
+/// A pipe in a folder of its own.
+class NamedPipe {
+ public:
+  NamedPipe() { EXPECT_EQ(::mkfifo(path().c_str(), 0600), 0); }
+  [[nodiscard]] Path path() const { return _folder.path() / "pipe"; }
+  /// A command that waits until somebody opens the pipe for writing.
+  [[nodiscard]] std::string waiting() const { return ": <" + path().native() + "; "; }
+
+ private:
+  TemporaryFolder _folder;
+};
+
 TEST(ShellCommandRunner, WaitsForTheEndAlsoWhenSignalsInterruptIt) {
-  EXPECT_TRUE(inChild([] {
+  const NamedPipe pipe;
+  static std::string path;
+  path = pipe.path();
+  EXPECT_TRUE(inChild([&] {
     struct ::sigaction action {};
-    action.sa_handler = [](int) {};
+    action.sa_handler = [](int) {
+      static int interruptions = 0;
+      const int error = errno;
+      if (++interruptions >= 20) ::close(::open(path.c_str(), O_WRONLY | O_NONBLOCK));
+      errno = error;
+    };
     ::sigaction(SIGALRM, &action, nullptr);
     ::ualarm(1'000, 1'000);
-    return run("sleep 0.2; echo end") == "end\n";
+    return run(pipe.waiting() + "echo end") == "end\n";
   }));
 }
 
@@ -202,10 +224,17 @@ TEST(ShellCommandRunner, RunsNoPartOfALineWithAZeroByte) {
 
 TEST(ShellCommandRunner, RunsManyCommandsAtOnce) {
   std::vector<std::optional<std::string>> outputs(8);
+  const std::vector<NamedPipe> pipes(outputs.size());
   {
     std::vector<std::jthread> threads;
     for (std::size_t i = 0; i < outputs.size(); ++i) {
-      threads.emplace_back([&, i] { outputs[i] = run("sleep 0.1; echo " + std::to_string(i)); });
+      threads.emplace_back(
+          [&, i] { outputs[i] = run(pipes[i].waiting() + "echo " + std::to_string(i)); });
+    }
+    // Each is let go once all are there: opening a pipe waits for its reader.
+    std::vector<UniqueFd> opened;
+    for (const NamedPipe& pipe : pipes) {
+      opened.emplace_back(::open(pipe.path().c_str(), O_WRONLY | O_CLOEXEC));
     }
   }
   for (std::size_t i = 0; i < outputs.size(); ++i) {

@@ -34,8 +34,8 @@ class FakeWorkspace;
 /// States.
 struct FakeDesktop {
  private:
-  /// What few tests steer. Those include "support/desktop_fakes.h"; a change to one of the interfaces
-  /// behind it compiles no others.
+  /// What few tests steer. Those include "support/desktop_fakes.h"; a change to one of the
+  /// interfaces behind it compiles no others.
   struct Surroundings;
   std::unique_ptr<Surroundings> _surroundings;
 

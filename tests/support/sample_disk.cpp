@@ -4,9 +4,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <vector>
@@ -59,10 +61,9 @@ class DiskWriter {
     const Path path = onDisk(place);
     const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     if (fd < 0) fail(path);
-    const auto written = ::write(fd, content.data(), content.size());
-    const int allocated = bytes > 0 ? ::posix_fallocate(fd, 0, bytes) : 0;
+    const bool isWritten = write(fd, content) && fill(fd, bytes);
     ::close(fd);
-    if (written != static_cast<ssize_t>(content.size()) || allocated != 0) fail(path);
+    if (!isWritten) fail(path);
     _made.push_back(place);
     ++_files;
   }
@@ -109,6 +110,20 @@ class DiskWriter {
 
  private:
   [[nodiscard]] Path onDisk(const Path& place) const { return _root / place.relative_path(); }
+
+  static bool write(int fd, std::string_view text) {
+    return ::write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size());
+  }
+  /// Up to a length of `bytes`. Small files are written out: the blocks of a disk that are asked
+  /// for without writing are slow to give back, file by file, and most sample disks do not live
+  /// long enough for what is written to reach the disk.
+  static bool fill(int fd, std::int64_t bytes) {
+    if (bytes > megabyte) return ::posix_fallocate(fd, 0, bytes) == 0;
+    static const std::string zeros(megabyte, '\0');
+    const off_t length = ::lseek(fd, 0, SEEK_END);
+    const auto missing = static_cast<std::size_t>(std::max<std::int64_t>(bytes - length, 0));
+    return length >= 0 && write(fd, std::string_view(zeros).substr(0, missing));
+  }
 
   Path _root;
   std::vector<Path> _made;

@@ -1,5 +1,5 @@
-#include "platform/formatting.h"
 #include "systemdata/system_data_item.h"
+#include "platform/formatting.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/formatting.h"
 #include "tools/large_file.h"
+#include "platform/formatting.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
-#include "support/desktop_fakes.h"
 #include "tools/privacy_scanner.h"
+#include "support/desktop_fakes.h"
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>

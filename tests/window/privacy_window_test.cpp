@@ -139,7 +139,8 @@ TEST_F(PrivacyWindow, HomeEndAndThePageKeysMoveThroughTheTrails) {
 TEST_F(PrivacyWindow, ScansInItsTurnAtLaunch) {
   desk->defaults.remove("backgroundScanOnLaunch");
   openWindow();
-  ASSERT_TRUE(turnUntil([this] { return shared->scanCoordinator().totals().contains("privacy"); }));
+  ASSERT_TRUE(
+      turnUntilItsTurn([this] { return shared->scanCoordinator().totals().contains("privacy"); }));
   EXPECT_GT(shared->scanCoordinator().totals().at("privacy").items, 5);
 }
 

@@ -48,6 +48,7 @@ TEST_F(SidebarWindow, EmptiesTheTrashAfterAskingAndTouchesNothingElse) {
   picture("trash_dialog");
   click("Cancel");
   settle();
+  EXPECT_FALSE(shared->trashMonitor().isEmptying());
   EXPECT_EQ(listing(), before);
 
   click("Empty");

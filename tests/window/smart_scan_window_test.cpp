@@ -161,6 +161,7 @@ TEST_F(SmartScanWindow, AsksBeforeReviewItemsGoAndCancelChangesNothing) {
   press(Qt::Key_Escape);
   settle();
   EXPECT_FALSE(shows("Clean anyway"));
+  EXPECT_TRUE(is<AppState::Done>());
   EXPECT_EQ(listing(), before);
 
   click("Clean ");

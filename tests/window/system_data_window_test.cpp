@@ -103,6 +103,7 @@ TEST_F(SystemDataWindow, MovesASelectedRowToTheTrashAfterAskingAndEmptiesIt) {
   picture("system_data-dialog");
   click("Cancel");
   settle();
+  EXPECT_FALSE(shows("Removing "));
   EXPECT_EQ(listing(), before);
 
   const std::size_t trashed = trashCount();
@@ -182,6 +183,7 @@ TEST_F(SystemDataWindow, IsUsedFromTheKeyboardAlone) {
   press(Qt::Key_Escape);
   settle();
   EXPECT_FALSE(shows("Move 1 item to Trash?"));
+  EXPECT_FALSE(shows("Removing "));
   EXPECT_TRUE(homeHolds("Library/Caches/com.acme.reader"));
 }
 

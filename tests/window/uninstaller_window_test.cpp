@@ -190,8 +190,8 @@ TEST_F(UninstallerWindow, HomeEndAndThePageKeysMoveThroughTheLeftovers) {
 TEST_F(UninstallerWindow, IsReadInItsTurnAtLaunch) {
   desk->defaults.remove("backgroundScanOnLaunch");
   openWindow();
-  ASSERT_TRUE(
-      turnUntil([this] { return shared->scanCoordinator().totals().contains("uninstaller"); }));
+  ASSERT_TRUE(turnUntilItsTurn(
+      [this] { return shared->scanCoordinator().totals().contains("uninstaller"); }));
   EXPECT_EQ(shared->scanCoordinator().totals().at("uninstaller").items,
             static_cast<std::int64_t>(desk->sample->applications));
 }

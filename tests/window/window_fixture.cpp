@@ -1,13 +1,22 @@
 #include "window_fixture.h"
 
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QImage>
 #include <QMutex>
+#include <QStorageInfo>
 #include <filesystem>
+
+#include "support/application/main_loop.h"
 
 namespace klarvik {
 namespace {
+
+using namespace std::chrono_literals;
+
+/// What settling takes of the animations' time: the longest of those that end takes 1.6 seconds.
+constexpr auto animationTime = 2000ms;
+/// And of the clock's: a loader appears within it, and no message goes that stands for seconds.
+constexpr auto clockTime = 600ms;
 
 QStringList warnings;
 QMutex warningsMutex;
@@ -23,6 +32,15 @@ void rememberWarning(QtMsgType type, const QMessageLogContext&, const QString& m
     const QMutexLocker lock(&warningsMutex);
     warnings << message;
   }
+}
+
+/// A sample disk comes and goes with nearly every test: some seconds each on many a real disk, and
+/// next to nothing in memory.
+void keepDisksInMemory() {
+  const QStorageInfo memory("/dev/shm");
+  constexpr qint64 enough = 2'000'000'000;
+  if (qEnvironmentVariableIsSet("TMPDIR") || memory.fileSystemType() != "tmpfs") return;
+  if (memory.bytesAvailable() > enough) qputenv("TMPDIR", memory.rootPath().toUtf8());
 }
 
 bool isOnScreen(const QQuickItem& item) {
@@ -62,6 +80,8 @@ QQuickItem* findIn(QQuickItem& item, const std::function<bool(const QQuickItem&)
 void WindowFixture::SetUp() {
   warnings.clear();
   qInstallMessageHandler(rememberWarning);
+  motion.emplace();
+  keepDisksInMemory();
   desk = std::make_unique<FakeDesktopOnDisk>(diskOptions);
   shared = std::make_unique<SharedState>(desk->desktop);
   desk->defaults.set("backgroundScanOnLaunch", false);
@@ -72,6 +92,7 @@ void WindowFixture::SetUp() {
 void WindowFixture::TearDown() {
   closeWindow();
   shared.reset();
+  motion.reset();
   qInstallMessageHandler(nullptr);
   const QMutexLocker lock(&warningsMutex);
   EXPECT_TRUE(warnings.isEmpty()) << warnings.join('\n').toStdString();
@@ -94,21 +115,23 @@ void WindowFixture::closeWindow() {
 }
 
 bool WindowFixture::turnUntil(const std::function<bool()>& reached) {
-  const QDeadlineTimer giveUp(60'000);
-  while (!reached()) {
-    if (giveUp.hasExpired()) {
-      return false;
-    }
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-    desk->clock.advance(std::chrono::milliseconds(5));
-  }
-  return true;
+  return turnMainLoopUntil(reached, [this] {
+    motion->moveOn(20ms);
+    desk->clock.advance(20ms);
+  });
+}
+
+bool WindowFixture::turnUntilItsTurn(const std::function<bool()>& reached) {
+  return turnMainLoopUntil(reached, [this] { desk->clock.advance(1min); });
 }
 
 void WindowFixture::settle() {
-  for (int turn = 0; turn < 40; ++turn) {
-    QTest::qWait(15);
-    desk->clock.advance(std::chrono::milliseconds(15));
+  constexpr int steps = 4;
+  HandMovedMotion::turnUntilStill();
+  for (int step = 0; step < steps; ++step) {
+    desk->clock.advance(clockTime / steps);
+    motion->moveOn(animationTime / steps);
+    HandMovedMotion::turnUntilStill();
   }
 }
 
@@ -212,7 +235,10 @@ WindowFixture::Listing WindowFixture::listing(const Path& folder) const {
 void WindowFixture::picture(const QString& name) {
   settle();
   QDir().mkpath(KLARVIK_SCREENSHOTS);
-  ASSERT_TRUE(window().grabWindow().save(QString(KLARVIK_SCREENSHOTS "/%1.png").arg(name)));
+  // Pressed together less than usual, which takes a tenth of the time.
+  constexpr int quality = 90;
+  const QString file = QString(KLARVIK_SCREENSHOTS "/%1.png").arg(name);
+  ASSERT_TRUE(window().grabWindow().save(file, "PNG", quality)) << file.toStdString();
 }
 
 bool WindowFixture::scanToTheEnd() {

@@ -10,10 +10,12 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
+#include "support/application/hand_moved_motion.h"
 #include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
 
@@ -33,7 +35,11 @@ class WindowFixture : public ::testing::Test {
 
   /// Turns the main loop, and moves the clock on, until `reached` holds. False when it never does.
   [[nodiscard]] bool turnUntil(const std::function<bool()>& reached);
-  /// Lets animations end and everything be drawn.
+  /// The same for what a tool does in its turn after launch: the tools before it keep the turn for
+  /// minutes, for as long as what they found is looked at.
+  [[nodiscard]] bool turnUntilItsTurn(const std::function<bool()>& reached);
+  /// Lets every animation that ends come to its end, and everything be drawn. Takes no time but
+  /// the clock's and the animations' own, and does not wait for other threads.
   void settle();
 
   /// The item on the screen that is called so: its title, its text or its spoken description
@@ -86,6 +92,7 @@ class WindowFixture : public ::testing::Test {
   /// What the disk under the window is furnished with; to be set before SetUp is through.
   std::optional<SampleDiskOptions> diskOptions = SampleDiskOptions{};
 
+  std::optional<HandMovedMotion> motion;
   std::unique_ptr<FakeDesktopOnDisk> desk;
   FakeLoginItem loginItem;
   std::unique_ptr<SharedState> shared;

@@ -16,6 +16,7 @@
 
 #include "panes/kit/kit.h"
 #include "platform/formatting.h"
+#include "support/application/hand_moved_motion.h"
 #include "support/desktop_fakes.h"
 #include "support/fake_clock.h"
 
@@ -58,7 +59,7 @@ class KitWindow : public ::testing::Test {
     return view.rootObject();
   }
 
-  static void settle() { QCoreApplication::processEvents(); }
+  static void settle() { HandMovedMotion::turnUntilStill(); }
 
   QQuickItem* part(const char* name) { return view.rootObject()->findChild<QQuickItem*>(name); }
   static QString text(const QQuickItem* item) { return item->property("text").toString(); }
@@ -86,6 +87,7 @@ class KitWindow : public ::testing::Test {
   Formatting formatting{"en_US"};
   FakeWorkspace workspace;
   FakeClock clock;
+  HandMovedMotion motion;
   QQuickView view;
 
  private:

@@ -44,12 +44,6 @@ class SystemDataPane : public PaneFixture {
     return SystemDataResult(std::move(items), 123);
   }
 
-  void turnAWhile() {
-    for (int turn = 0; turn < 40; ++turn) {
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-      desk.clock.advance(20ms);
-    }
-  }
   [[nodiscard]] bool analyse() {
     pane.performAction();
     return turnUntil([this] { return !pane.isScanning(); });
@@ -104,7 +98,8 @@ class SystemDataPane : public PaneFixture {
 
 TEST_F(SystemDataPane, IsEmptyUntilTheUserAsksForAnAnalysis) {
   desk.clock.advance(30min);
-  turnAWhile();
+  turnMainLoop();
+  EXPECT_FALSE(pane.isScanning());
   EXPECT_EQ(analyses, 0);
   EXPECT_EQ(pane.body(), Body::Empty);
   EXPECT_EQ(pane.title(), "System Data");
@@ -226,7 +221,8 @@ TEST_F(SystemDataPane, AsksEveryTimeBeforeItRemovesAndCancelChangesNothing) {
             "This frees 2 MB once the Trash is emptied. Nothing is removed permanently.");
   pane.cancelConfirmation();
   EXPECT_FALSE(pane.confirmDelete());
-  turnAWhile();
+  turnMainLoop();
+  EXPECT_FALSE(pane.isDeleting());
   EXPECT_TRUE(isOnDisk("a"));
   EXPECT_EQ(pane.findings().selected().count, 1);
 }
