@@ -12,6 +12,13 @@ set(klarvik_headers_qt <QAbstractListModel> <QCoreApplication> <QHash> <QObject>
 set(klarvik_headers_tests <gmock/gmock.h> <gtest/gtest.h>)
 set(klarvik_headers_qt_tests <QGuiApplication> <QQuickItem> <QQuickWindow> <QSignalSpy> <QTest>)
 
+# Optimising a test, and writing down for a debugger what it consists of, takes longer than either
+# saves. The sanitizers name the lines of their findings.
+set(klarvik_test_options -O0)
+if(NOT KLARVIK_SANITIZE)
+  list(APPEND klarvik_test_options -g0)
+endif()
+
 function(klarvik_precompiled name)
   cmake_parse_arguments(HEADERS "QT;TESTS" "" "" ${ARGN})
   set(set_name klarvik_headers)
@@ -37,7 +44,7 @@ function(klarvik_precompiled name)
     target_link_libraries(${set_name} PRIVATE ${links})
     target_precompile_headers(${set_name} PRIVATE ${headers})
     if(HEADERS_TESTS)
-      target_compile_options(${set_name} PRIVATE -O0)
+      target_compile_options(${set_name} PRIVATE ${klarvik_test_options})
     endif()
   endif()
   target_precompile_headers(${name} REUSE_FROM ${set_name})
