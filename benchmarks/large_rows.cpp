@@ -87,8 +87,9 @@ Gaps turnsUntilRows(LargeFileFinderView& pane, std::size_t rows) {
 
 void measureModel(const Desktop& desktop) {
   SharedState shared(desktop);
-  LargeFileFinderView pane(
-      {shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager()}, desktop);
+  LargeFileFinderView pane({shared.scanCoordinator(), shared.toolActivity(),
+                            shared.permissionsManager(), shared.removalNotice()},
+                           desktop);
   const std::size_t before = mallinfo2().uordblks;
   pane.performAction();
   turnsUntilRows(pane, fileCount).print("model, while found");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <string>
+#include <tuple>
 
 #include "platform/formatting.h"
 
@@ -91,6 +92,11 @@ SafetyLevel safety(CategoryType type) {
 }
 std::string_view description(CategoryType type) {
   return category(type).description;
+}
+
+bool JunkItem::operator==(const JunkItem& other) const {
+  return std::tie(id, name, path, size, modifiedDate) ==
+         std::tie(other.id, other.name, other.path, other.size, other.modifiedDate);
 }
 
 std::int64_t CleanCategory::totalSize() const {

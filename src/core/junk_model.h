@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/entry_identity.h"
 #include "core/uuid.h"
 #include "platform/date.h"
+#include "platform/entry_identity.h"
 #include "platform/path.h"
 
 namespace klarvik {
@@ -56,10 +56,12 @@ struct JunkItem {
   Path path;
   std::int64_t size = 0;  ///< bytes that the removal should reclaim
   std::optional<Date> modifiedDate = std::nullopt;
-  /// Of an entry of the Trash, whose name may be given to another thing at any time.
+  /// As it was found. Another thing that comes to its name later is not removed in its place.
+  /// Nothing for what is no file.
   std::optional<EntryIdentity> identity = std::nullopt;
 
-  bool operator==(const JunkItem&) const = default;
+  /// Of all that is shown.
+  bool operator==(const JunkItem& other) const;
 };
 
 /// What one category of a scan found.

@@ -8,15 +8,27 @@ bool mayRemove(const FileSystem& files, const Path& named, const DeletionScope& 
   return !DeletionGuard::refusalReason(named, scope, files.home());
 }
 
-PlaceCheck placeCheck(const FileSystem& files, const Path& named, const DeletionScope& scope) {
-  return [&files, named, scope](const Path& real) {
-    return real == named || !DeletionGuard::refusalReason(real, scope, files.realHome());
+ItemCheck itemCheck(const FileSystem& files, const Path& named, const DeletionScope& scope,
+                    const std::optional<EntryIdentity>& shown) {
+  return [&files, named, scope, shown](const Path& real, const FileAttributes& item) {
+    return entryIdentity(item) == shown &&
+           (real == named || !DeletionGuard::refusalReason(real, scope, files.realHome()));
   };
 }
 
-bool removeIfAllowed(FileSystem& files, const Path& path, const DeletionScope& scope) {
+void countIfReplaced(const FileSystem& files, const Path& named,
+                     const std::optional<EntryIdentity>& shown, LeftAlone* leftAlone) {
+  const auto now = files.attributes(named);
+  if (leftAlone && now && entryIdentity(*now) != shown) ++leftAlone->replaced;
+}
+
+bool removeIfAllowed(FileSystem& files, const Path& path, const DeletionScope& scope,
+                     const std::optional<EntryIdentity>& shown, LeftAlone* leftAlone) {
   const Path named = standardizedPath(path);
-  return mayRemove(files, named, scope) && files.remove(named, placeCheck(files, named, scope));
+  if (!mayRemove(files, named, scope)) return false;
+  const bool removed = files.remove(named, itemCheck(files, named, scope, shown));
+  if (!removed) countIfReplaced(files, named, shown, leftAlone);
+  return removed;
 }
 
 }  // namespace klarvik

@@ -1,6 +1,10 @@
 #pragma once
 
+#include <optional>
+
 #include "core/deletion_guard.h"
+#include "core/left_alone.h"
+#include "platform/entry_identity.h"
 #include "platform/file_system.h"
 
 namespace klarvik {
@@ -13,13 +17,22 @@ namespace klarvik {
 [[nodiscard]] bool mayRemove(const FileSystem& files, const Path& named,
                              const DeletionScope& scope);
 
-/// Links among the folders above may lead an allowed path to a place that is not: the real place is
-/// judged by the same rules. Must not outlive `files`.
-[[nodiscard]] PlaceCheck placeCheck(const FileSystem& files, const Path& named,
-                                    const DeletionScope& scope);
+/// Lets go only the thing that was `shown`: links among the folders above may lead to another one
+/// by now, and another one may have come to its name. The place where it really lies is judged by
+/// the same rules as the one it is named by. Must not outlive `files`.
+[[nodiscard]] ItemCheck itemCheck(const FileSystem& files, const Path& named,
+                                  const DeletionScope& scope,
+                                  const std::optional<EntryIdentity>& shown);
 
-/// Removes `path`, however it is spelled, if both the place it names and the place it really leads
-/// to are allowed. False when it is not all gone, whatever the reason.
-[[nodiscard]] bool removeIfAllowed(FileSystem& files, const Path& path, const DeletionScope& scope);
+/// Counts a thing that was not removed, if the reason is that another one stands under its name.
+void countIfReplaced(const FileSystem& files, const Path& named,
+                     const std::optional<EntryIdentity>& shown, LeftAlone* leftAlone);
+
+/// Removes `path` for good, however it is spelled, if it is still what was `shown`, and if both the
+/// place it names and the place it really leads to are allowed. False when it is not all gone,
+/// whatever the reason.
+[[nodiscard]] bool removeIfAllowed(FileSystem& files, const Path& path, const DeletionScope& scope,
+                                   const std::optional<EntryIdentity>& shown,
+                                   LeftAlone* leftAlone = nullptr);
 
 }  // namespace klarvik

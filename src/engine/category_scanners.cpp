@@ -23,16 +23,19 @@ bool CategoryScanners::isLink(const Path& path) const {
   return attributes && attributes->kind == FileKind::symbolicLink;
 }
 
-std::int64_t CategoryScanners::sizeOf(const Path& path) const {
-  return allocatedSize(_platform.files, path);
+JunkItem CategoryScanners::item(std::string name, const Path& path) const {
+  JunkItem found = datedItem(std::move(name), path);
+  found.modifiedDate.reset();
+  return found;
 }
 
-JunkItem CategoryScanners::datedItem(std::string name, const Path& path, std::int64_t size) const {
+JunkItem CategoryScanners::datedItem(std::string name, const Path& path) const {
   const auto attributes = _platform.files.attributes(path);
   return {.name = std::move(name),
           .path = path,
-          .size = size,
-          .modifiedDate = attributes ? attributes->modified : std::nullopt};
+          .size = allocatedSize(_platform.files, path),
+          .modifiedDate = attributes ? attributes->modified : std::nullopt,
+          .identity = attributes ? entryIdentity(*attributes) : std::nullopt};
 }
 
 CategoryScanners::Items CategoryScanners::scanPaths(
@@ -40,9 +43,9 @@ CategoryScanners::Items CategoryScanners::scanPaths(
   Items items;
   for (const std::string_view each : paths) {
     const Path path = inHome(each);
-    const auto size = sizeOf(path);
-    if (size < 1) continue;
-    items.push_back(datedItem(path.filename().native(), path, size));
+    JunkItem found = datedItem(path.filename().native(), path);
+    if (found.size < 1) continue;
+    items.push_back(std::move(found));
     _report(items.back());
   }
   return items;

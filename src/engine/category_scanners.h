@@ -40,9 +40,11 @@ class CategoryScanners {
   [[nodiscard]] Path inHome(std::string_view path) const;
   [[nodiscard]] std::vector<Path> children(std::string_view folderInHome) const;
   [[nodiscard]] bool isLink(const Path& path) const;
-  /// 0 for what is not there.
-  [[nodiscard]] std::int64_t sizeOf(const Path& path) const;
-  [[nodiscard]] JunkItem datedItem(std::string name, const Path& path, std::int64_t size) const;
+  /// What stands at `path`, measured: 0 bytes when nothing does. What comes to the name while it is
+  /// being measured is not meant.
+  [[nodiscard]] JunkItem item(std::string name, const Path& path) const;
+  /// The same, with the date of its last change.
+  [[nodiscard]] JunkItem datedItem(std::string name, const Path& path) const;
   [[nodiscard]] Items scanPaths(const std::vector<std::string_view>& paths) const;
   [[nodiscard]] std::string backupName(const JunkItem& folder) const;
   [[nodiscard]] std::string snapshotName(const std::string& text) const;

@@ -41,12 +41,6 @@ bool removeSnapshot(CommandRunner& commands, const Path& named) {
   return command && !runShell(commands, *command).empty();
 }
 
-/// Another thing may have come to the Trash under the name of one that went, be it by the very
-/// clean that is under way.
-bool isTheOneThatWasFound(const FileSystem& files, const JunkItem& item, const Path& named) {
-  return !item.identity || item.identity == entryIdentity(files, named);
-}
-
 }  // namespace
 
 DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
@@ -56,14 +50,12 @@ DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
   DeletionOutcome outcome{.originalURL = item.path};
   if (!mayRemove(_platform.files, named, scope)) return outcome;
 
-  const PlaceCheck check = placeCheck(_platform.files, named, scope);
+  const ItemCheck check = itemCheck(_platform.files, named, scope, item.identity);
   bool removed = false;
   if (isSnapshotPath(named)) {
     removed = removeSnapshot(_platform.commands, named);
   } else if (_platform.trash.contains(named)) {
-    removed = _platform.trash.remove(named, [&](const Path& real) {
-      return check(real) && isTheOneThatWasFound(_platform.files, item, named);
-    });
+    removed = _platform.trash.remove(named, check);
   } else if (!useTrash) {
     removed = _platform.files.remove(named, check);
   } else {
@@ -71,6 +63,7 @@ DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
     removed = outcome.trashedURL.has_value();
   }
   outcome.reclaimed = removed ? item.size : 0;
+  if (!removed) countIfReplaced(_platform.files, named, item.identity, _leftAlone);
   return outcome;
 }
 
@@ -94,9 +87,11 @@ PickedFileOutcome ScannerEngine::trashFile(const PickedFile& file, const PickedF
   const Path named = standardizedPath(file.url);
   const auto scope = DeletionScope::pickedFile();
   const FileSystem& files = _platform.files;
+  if (!mayRemove(files, named, scope)) return {.url = file.url};
   const bool moved =
-      mayRemove(files, named, scope) && (!check || check(file)) &&
-      _platform.trash.moveToTrash(named, placeCheck(files, named, scope)).has_value();
+      (!check || check(file)) &&
+      _platform.trash.moveToTrash(named, itemCheck(files, named, scope, file.identity)).has_value();
+  if (!moved) countIfReplaced(files, named, file.identity, _leftAlone);
   return {.url = file.url, .bytes = moved ? file.size : 0, .moved = moved};
 }
 
@@ -117,11 +112,22 @@ std::set<Path> ScannerEngine::trashFiles(const std::vector<PickedFile>& files, s
   return moved;
 }
 
-bool ScannerEngine::restoreItem(const Path& trashedURL, const Path& originalURL) {
-  if (!_platform.files.attributes(trashedURL)) return false;
+bool ScannerEngine::restoreItem(const Path& trashedURL, const Path& originalURL,
+                                const std::optional<EntryIdentity>& trashed) {
+  const auto isMeant = [&](const FileAttributes& item) {
+    return !trashed || entryIdentity(item) == trashed;
+  };
+  const auto waiting = _platform.files.attributes(trashedURL);
+  if (!waiting) return false;
+  if (!isMeant(*waiting)) {
+    if (_leftAlone) ++_leftAlone->notReturned;
+    return false;
+  }
   // A link that leads nowhere is somebody's file as well.
   if (_platform.files.attributes(originalURL)) return false;
-  return _platform.trash.putBack(trashedURL, originalURL);
+  return _platform.trash.putBack(
+      trashedURL, originalURL,
+      [&](const Path&, const FileAttributes& item) { return isMeant(item); });
 }
 
 std::int64_t ScannerEngine::emptyTrash(std::stop_token stop, const DeletionSink& progress) {

@@ -27,21 +27,16 @@ CategoryScanners::Items CategoryScanners::xcodeArchives() const {
 
 CategoryScanners::Items CategoryScanners::simulators() const {
   Items items;
-  const Path caches = inHome("Library/Developer/CoreSimulator/Caches");
-  if (const auto size = sizeOf(caches); size >= 1) {
-    items.push_back({.name = "CoreSimulator Caches", .path = caches, .size = size});
-  }
+  JunkItem caches = item("CoreSimulator Caches", inHome("Library/Developer/CoreSimulator/Caches"));
+  if (caches.size >= 1) items.push_back(std::move(caches));
 
   const auto listing =
       runShell(_platform.commands, "xcrun simctl list devices unavailable --json 2>/dev/null");
   const Path devices = inHome("Library/Developer/CoreSimulator/Devices");
   for (const SimulatorDevice& device : unavailableSimulators(listing)) {
-    const Path folder = devices / device.udid;
-    const auto size = sizeOf(folder);
-    if (size <= largestIgnoredDevice) continue;
-    items.push_back({.name = device.name + " (" + device.runtime + ") — unavailable",
-                     .path = folder,
-                     .size = size});
+    JunkItem folder =
+        item(device.name + " (" + device.runtime + ") — unavailable", devices / device.udid);
+    if (folder.size > largestIgnoredDevice) items.push_back(std::move(folder));
   }
   return items;
 }
@@ -58,11 +53,8 @@ CategoryScanners::Items CategoryScanners::docker() const {
 
   Items items;
   for (const char* const name : {"cache", "log"}) {
-    const Path folder = inHome("Library/Containers/com.docker.docker/Data") / name;
-    const auto size = sizeOf(folder);
-    if (size > largestIgnoredDockerFolder) {
-      items.push_back({.name = name, .path = folder, .size = size});
-    }
+    JunkItem folder = item(name, inHome("Library/Containers/com.docker.docker/Data") / name);
+    if (folder.size > largestIgnoredDockerFolder) items.push_back(std::move(folder));
   }
   return items;
 }

@@ -51,7 +51,8 @@ std::vector<ScanRow> scanTable(const UserDefaults& defaults) {
 
 }  // namespace
 
-ScannerEngine::ScannerEngine(const Platform& platform) : _platform(platform) {}
+ScannerEngine::ScannerEngine(const Platform& platform, LeftAlone* leftAlone)
+    : _platform(platform), _leftAlone(leftAlone) {}
 
 std::vector<CleanCategory> ScannerEngine::scanAll(std::stop_token stop, const UpdateSink& onUpdate,
                                                   const CategorySink& onCategory) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/junk_model.h"
+#include "core/left_alone.h"
 #include "platform/platform.h"
 
 namespace klarvik {
@@ -49,6 +50,8 @@ struct PickedFile {
   Path url;
   std::string name;
   std::int64_t size = 0;
+  /// As it was found. Another file that comes to its name later is not moved in its place.
+  std::optional<EntryIdentity> identity = std::nullopt;
 };
 
 struct PickedFileOutcome {
@@ -76,7 +79,9 @@ class ScannerEngine {
   /// No more removals than this are under way at any time.
   static constexpr std::size_t deletionWidth = 6;
 
-  explicit ScannerEngine(const Platform& platform);
+  /// `leftAlone`, where there is one, counts what is left although it was selected; it must outlive
+  /// the engine.
+  explicit ScannerEngine(const Platform& platform, LeftAlone* leftAlone = nullptr);
 
   /// Goes through the scan table, and answers what it found, largest category first. A stop request
   /// is seen between two rows; what was found until then is answered.
@@ -93,7 +98,9 @@ class ScannerEngine {
   /// The files that were really moved. Stopping is as in `deleteItems`.
   std::set<Path> trashFiles(const std::vector<PickedFile>& files, std::stop_token stop,
                             const DeletionSink& progress, const PickedFileCheck& check = {});
-  bool restoreItem(const Path& trashedURL, const Path& originalURL);
+  /// Nothing but what has the identity `trashed`, if it is told, goes back.
+  bool restoreItem(const Path& trashedURL, const Path& originalURL,
+                   const std::optional<EntryIdentity>& trashed = std::nullopt);
   /// Bytes reclaimed. Entries that come into the Trash meanwhile stay.
   std::int64_t emptyTrash(std::stop_token stop = {}, const DeletionSink& progress = {});
 
@@ -103,6 +110,7 @@ class ScannerEngine {
   void publishUpdate() const;
 
   const Platform& _platform;
+  LeftAlone* const _leftAlone;
   std::mutex _scanning;
   ScanUpdate _current;     ///< of the row being scanned; keeps its last values after the run
   UpdateSink _updateSink;  ///< only during a run

@@ -61,9 +61,9 @@ CategoryScanners::Items CategoryScanners::appCaches() const {
   Items items;
   for (const Path& child : children("Library/Caches")) {
     if (isLink(child) || hasAnotherOwner(child.filename().native())) continue;
-    const auto size = sizeOf(child);
-    if (size <= largestIgnoredCache) continue;
-    items.push_back(datedItem(child.filename().native(), child, size));
+    JunkItem cache = datedItem(child.filename().native(), child);
+    if (cache.size <= largestIgnoredCache) continue;
+    items.push_back(std::move(cache));
     _report(items.back());
   }
   sortItemsBySize(items);
@@ -77,7 +77,7 @@ CategoryScanners::Items CategoryScanners::systemLogs() const {
 CategoryScanners::Items CategoryScanners::deviceBackups() const {
   Items items;
   for (const Path& child : children("Library/Application Support/MobileSync/Backup")) {
-    items.push_back(datedItem(child.filename().native(), child, sizeOf(child)));
+    items.push_back(datedItem(child.filename().native(), child));
     items.back().name = backupName(items.back());
   }
   sortItemsBySize(items);
@@ -94,9 +94,7 @@ std::string CategoryScanners::backupName(const JunkItem& folder) const {
 CategoryScanners::Items CategoryScanners::trash() const {
   Items items;
   for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
-    const auto identity = entryIdentity(_platform.files, entry);
-    items.push_back(datedItem(entry.filename().native(), entry, sizeOf(entry)));
-    items.back().identity = identity;
+    items.push_back(datedItem(entry.filename().native(), entry));
   }
   return items;
 }
@@ -132,9 +130,8 @@ CategoryScanners::Items CategoryScanners::firmware() const {
   const auto lookInto = [&](std::string_view folder) {
     for (const Path& child : children(folder)) {
       if (!isFirmware(child)) continue;
-      const auto size = sizeOf(child);
-      if (size <= largestIgnoredFirmware) continue;
-      items.push_back(datedItem("📱 Firmware: " + child.filename().native(), child, size));
+      JunkItem file = datedItem("📱 Firmware: " + child.filename().native(), child);
+      if (file.size > largestIgnoredFirmware) items.push_back(std::move(file));
     }
   };
   for (const std::string_view folder : softwareUpdateFolders) lookInto(folder);
@@ -145,10 +142,8 @@ CategoryScanners::Items CategoryScanners::firmware() const {
 CategoryScanners::Items CategoryScanners::leftovers() const {
   Items items = firmware();
   for (const Leftover& leftover : leftoverFolders) {
-    const Path path = inHome(leftover.path);
-    const auto size = sizeOf(path);
-    if (size <= leftover.largestIgnored) continue;
-    items.push_back({.name = std::string(leftover.name), .path = path, .size = size});
+    JunkItem folder = item(std::string(leftover.name), inHome(leftover.path));
+    if (folder.size > leftover.largestIgnored) items.push_back(std::move(folder));
   }
   sortItemsBySize(items);
   return items;

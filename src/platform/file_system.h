@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -31,6 +32,9 @@ class WalkEntry {
   /// 1 for an entry that lies directly in the folder the walk started at.
   [[nodiscard]] virtual std::size_t depth() const = 0;
   [[nodiscard]] virtual Path path() const = 0;
+  /// The folder that the entry lies in, counted from the start of the walk: "a/b", and empty for
+  /// the start itself. Costs nothing.
+  [[nodiscard]] virtual std::string_view folder() const = 0;
   /// 0 for a directory, and when the entry cannot be asked.
   [[nodiscard]] virtual std::int64_t allocatedBytes() = 0;
   [[nodiscard]] virtual std::optional<FileAttributes> attributes() = 0;
@@ -44,16 +48,34 @@ enum class WalkOutcome {
   refused,  ///< the start is missing, is not a directory, or may not be read: nothing was visited
 };
 
-/// Sees the place where an item really lies, once its parent has been opened and nothing has been
-/// changed yet. Answering false leaves everything as it is.
-using PlaceCheck = std::function<bool(const Path& realPath)>;
+/// Sees an item, and the place where it really lies, once its parent has been opened and nothing
+/// has been changed yet. Answering false leaves everything as it is. Only the item that was seen is
+/// removed or moved then: what comes to its name afterwards stays.
+using ItemCheck = std::function<bool(const Path& realPath, const FileAttributes& item)>;
 
 /// Content of one regular file, read from front to back.
 class FileReader {
  public:
   virtual ~FileReader() = default;
+  /// Of the file that is open, whatever stands under its name by now. Nothing when it cannot be
+  /// asked.
+  [[nodiscard]] virtual std::optional<FileAttributes> attributes() const = 0;
   /// How many bytes were put into `buffer`: 0 at the end of the file, nothing when reading failed.
   [[nodiscard]] virtual std::optional<std::size_t> read(std::span<std::byte> buffer) = 0;
+};
+
+/// A folder that is held open. What lies in it is found without going down to it again, however
+/// deep it lies, and also when it has been moved since. Names are single components. Any thread,
+/// one at a time.
+class OpenedFolder {
+ public:
+  virtual ~OpenedFolder() = default;
+  /// As those of `FileSystem`.
+  [[nodiscard]] virtual std::optional<FileAttributes> attributes(const std::string& name) const = 0;
+  [[nodiscard]] virtual std::unique_ptr<FileReader> openForReading(
+      const std::string& name) const = 0;
+  /// Never through a link. Nothing when it cannot be opened.
+  [[nodiscard]] virtual std::unique_ptr<OpenedFolder> openFolder(const std::string& name) const = 0;
 };
 
 /// The files of one disk.
@@ -89,13 +111,15 @@ class FileSystem {
                            const WalkVisitor& visit) const = 0;
   /// Only regular files can be opened, and no link in the last component is followed.
   [[nodiscard]] virtual std::unique_ptr<FileReader> openForReading(const Path& path) const = 0;
+  /// Nothing when it cannot be opened.
+  [[nodiscard]] virtual std::unique_ptr<OpenedFolder> openFolder(const Path& folder) const = 0;
 
   virtual bool createDirectories(const Path& folder) = 0;
   /// Never replaces what stands at `to`, and never copies between volumes.
   virtual bool move(const Path& from, const Path& to) = 0;
   /// Removes for good an item and all it holds: through directory handles, never through a symbolic
   /// link, never across a mount point. True only when nothing of the item is left.
-  virtual bool remove(const Path& item, const PlaceCheck& mayRemove) = 0;
+  virtual bool remove(const Path& item, const ItemCheck& mayRemove) = 0;
 };
 
 }  // namespace klarvik

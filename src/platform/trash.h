@@ -28,14 +28,14 @@ class Trash {
 
   /// Moves `item` to the Trash of its own volume together with a record of where it was. Answers
   /// its new place. On any failure the item stays where it was and no record is left.
-  virtual std::optional<Path> moveToTrash(const Path& item, const PlaceCheck& mayMove) = 0;
+  virtual std::optional<Path> moveToTrash(const Path& item, const ItemCheck& mayMove) = 0;
   /// Moves a trashed item back, making the folders above `original` again where they are gone, and
   /// drops its record. False when something stands at `original`, when the folder there has become
   /// a link to elsewhere, when the record names another place, or when the move fails; the item
-  /// then stays in the Trash.
-  virtual bool putBack(const Path& trashed, const Path& original) = 0;
+  /// then stays in the Trash. `mayReturn` sees the item where it is in the Trash.
+  virtual bool putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) = 0;
   /// Removes for good an item that lies in a Trash, and its record.
-  virtual bool remove(const Path& trashed, const PlaceCheck& mayRemove) = 0;
+  virtual bool remove(const Path& trashed, const ItemCheck& mayRemove) = 0;
 };
 
 }  // namespace klarvik

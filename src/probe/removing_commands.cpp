@@ -42,7 +42,8 @@ int trashFiles(const Invocation& call) {
     const auto attributes = call.platform.files.attributes(path);
     files.push_back({.url = path,
                      .name = path.filename().native(),
-                     .size = attributes ? attributes->logicalBytes : 0});
+                     .size = attributes ? attributes->logicalBytes : 0,
+                     .identity = attributes ? entryIdentity(*attributes) : std::nullopt});
   }
   const auto moved = ScannerEngine(call.platform).trashFiles(files, call.stop, printProgress);
   for (const Path& path : moved) print({{"event", "moved"}, {"path", pathReport(path)}});

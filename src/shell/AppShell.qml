@@ -34,7 +34,7 @@ Item {
         anchors.left: divider.right
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.bottom: parent.bottom
+        anchors.bottom: notice.top
 
         Repeater {
             model: root.shell.panes
@@ -52,6 +52,34 @@ Item {
                 visible: isSelected
 
                 Component.onCompleted: setSource(view, { model: paneModel })
+            }
+        }
+    }
+
+    Item {
+        id: notice
+
+        anchors.left: divider.right
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: isNeeded ? banner.y + banner.implicitHeight : 0
+        visible: isNeeded
+
+        readonly property bool isNeeded: root.shell.removalNotice !== ""
+
+        ResultBanner {
+            id: banner
+
+            y: 12
+            symbol: "exclamationmark.triangle.fill"
+            symbolColor: Theme.review
+            headline: qsTr("Something was left as it was")
+            detail: root.shell.removalNotice
+
+            SymbolButton {
+                symbol: "xmark"
+                title: qsTr("Dismiss")
+                onAction: root.shell.dismissRemovalNotice()
             }
         }
     }

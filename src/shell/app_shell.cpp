@@ -11,6 +11,13 @@ AppShell::AppShell(const std::vector<LandedPane>& panes, AppState& appState, Sha
       _trash(shared.trashMonitor(), shared.permissionsManager(), desktop),
       _panes(panes, shared.navigator()),
       _access(shared.permissionsManager(), desktop),
-      _commands(commands) {}
+      _commands(commands),
+      _removalNotice(shared.removalNotice()) {
+  connect(&_removalNotice, &RemovalNotice::changed, this, &AppShell::removalNoticeChanged);
+}
+
+QString AppShell::removalNotice() const {
+  return QString::fromStdString(_removalNotice.text());
+}
 
 }  // namespace klarvik

@@ -2,6 +2,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
+#include <QString>
 #include <vector>
 
 #include "platform/platform.h"
@@ -29,6 +30,7 @@ class AppShell : public QObject {
   Q_PROPERTY(klarvik::PaneStack* panes READ panes CONSTANT)
   Q_PROPERTY(klarvik::FullDiskAccessView* access READ access CONSTANT)
   Q_PROPERTY(klarvik::AppCommands* commands READ commands CONSTANT)
+  Q_PROPERTY(QString removalNotice READ removalNotice NOTIFY removalNoticeChanged)
 
  public:
   AppShell(const std::vector<LandedPane>& panes, AppState& appState, SharedState& shared,
@@ -40,10 +42,14 @@ class AppShell : public QObject {
   [[nodiscard]] PaneStack* panes() { return &_panes; }
   [[nodiscard]] FullDiskAccessView* access() { return &_access; }
   [[nodiscard]] AppCommands* commands() const { return &_commands; }
+  /// Empty while there is none.
+  [[nodiscard]] QString removalNotice() const;
+  Q_INVOKABLE void dismissRemovalNotice() { _removalNotice.dismiss(); }
   Q_INVOKABLE void openSettings() { emit settingsAsked(); }
 
  signals:
   void settingsAsked();
+  void removalNoticeChanged();
 
  private:
   SidebarModel _sidebar;
@@ -52,6 +58,7 @@ class AppShell : public QObject {
   PaneStack _panes;
   FullDiskAccessView _access;
   AppCommands& _commands;
+  RemovalNotice& _removalNotice;
 };
 
 }  // namespace klarvik

@@ -66,8 +66,9 @@ KlarvikApp::~KlarvikApp() {
 
 AppState& KlarvikApp::appState() {
   if (!_appState) {
-    _appState = std::make_unique<AppState>(_desktop, _shared.toolActivity(),
-                                           _shared.scanCoordinator(), _shared.scanHistory());
+    _appState =
+        std::make_unique<AppState>(_desktop, _shared.toolActivity(), _shared.scanCoordinator(),
+                                   _shared.scanHistory(), _shared.removalNotice());
   }
   return *_appState;
 }
@@ -209,22 +210,25 @@ std::vector<LandedPane> KlarvikApp::landedPanes() {
       _desktop);
   _duplicatesPane = std::make_unique<DuplicateFinderView>(
       DuplicateFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                   _shared.permissionsManager()},
+                                   _shared.permissionsManager(), _shared.removalNotice()},
       _desktop);
   _largeFilesPane = std::make_unique<LargeFileFinderView>(
       LargeFileFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                   _shared.permissionsManager()},
+                                   _shared.permissionsManager(), _shared.removalNotice()},
       _desktop);
   _systemDataPane = std::make_unique<SystemDataView>(
       SystemDataView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                              _shared.permissionsManager(), _shared.trashMonitor()},
+                              _shared.permissionsManager(), _shared.trashMonitor(),
+                              _shared.removalNotice()},
       _desktop);
   _uninstallerPane = std::make_unique<AppUninstallerView>(
       AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                  _shared.navigator()},
+                                  _shared.navigator(), _shared.removalNotice()},
       _desktop);
   _privacyPane = std::make_unique<PrivacyCleanerView>(
-      PrivacyCleanerView::Sources{_shared.scanCoordinator(), _shared.toolActivity()}, _desktop);
+      PrivacyCleanerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
+                                  _shared.removalNotice()},
+      _desktop);
   return {
       landed(Section::smartScan, "SmartScanPane.qml", *_smartScanPane),
       landed(Section::storage, "StorageAnalyticsView.qml", *_storagePane),

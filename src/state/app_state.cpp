@@ -29,12 +29,13 @@ AppState::Scan scanWithFreshEngine(const Platform& platform) {
 }  // namespace
 
 AppState::AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
-                   ScanHistory& history, QObject* parent, Scan scan)
+                   ScanHistory& history, RemovalNotice& notice, QObject* parent, Scan scan)
     : QObject(parent),
       _desktop(desktop),
       _activity(activity),
       _coordinator(coordinator),
       _history(history),
+      _notice(notice),
       _scan(scan ? std::move(scan) : scanWithFreshEngine(desktop)) {}
 
 AppState::~AppState() {

@@ -20,6 +20,7 @@
 #include "platform/platform.h"
 #include "state/engine_work.h"
 #include "state/item_selection.h"
+#include "state/removal_notice.h"
 #include "state/scan_coordinator.h"
 #include "state/scan_history.h"
 #include "state/tool_activity.h"
@@ -63,10 +64,18 @@ class AppState : public QObject {
     bool operator==(const ScanActivity&) const = default;
   };
 
+  /// An item that a clean has put into the Trash.
+  struct Restorable {
+    Path original;
+    Path trashed;
+    std::optional<EntryIdentity> identity;
+    bool operator==(const Restorable&) const = default;
+  };
+
   struct CleanSummary {
     std::int64_t freed = 0;
     std::int64_t itemCount = 0;
-    std::vector<std::pair<Path, Path>> restorable;  ///< original, trashed
+    std::vector<Restorable> restorable;
     std::map<CategoryType, std::int64_t> cleanedCategories;
     bool operator==(const CleanSummary&) const = default;
   };
@@ -77,7 +86,7 @@ class AppState : public QObject {
 
   /// Without a `scan` of its own, each scan is that of a fresh `ScannerEngine`.
   AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
-           ScanHistory& history, QObject* parent = nullptr, Scan scan = {});
+           ScanHistory& history, RemovalNotice& notice, QObject* parent = nullptr, Scan scan = {});
   /// Asks whatever is running to stop, and waits for the row of the table that a scan is at and for
   /// the items that a removal has in hand; what a clean has removed is put on record first.
   ~AppState() override;
@@ -202,6 +211,7 @@ class AppState : public QObject {
   ToolActivity& _activity;
   ScanCoordinator& _coordinator;
   ScanHistory& _history;
+  RemovalNotice& _notice;
   Scan _scan;
   Results _scanResults = std::make_shared<std::vector<CleanCategory>>();
   ScanState _scanState;

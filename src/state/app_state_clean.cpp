@@ -37,6 +37,7 @@ struct AppState::CleanPlan {
   struct Target {
     Uuid id;
     CategoryType type;
+    std::optional<EntryIdentity> identity;
   };
   std::vector<JunkItem> items;
   std::unordered_map<std::string, Target> targets;  ///< by path
@@ -68,7 +69,8 @@ void AppState::performClean() {
 QCoro::Task<> AppState::runClean(Results results, ItemSelection selection,
                                  std::stop_token cancelled) {
   const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
-  ScannerEngine engine(_desktop);
+  LeftAlone leftAlone;
+  ScannerEngine engine(_desktop, &leftAlone);
   ReportMailbox<DeletionProgress> reports(
       _desktop.clock, [this](DeletionProgress progress) { setCleanProgress(std::move(progress)); });
   const bool useTrash = _desktop.defaults.boolean("useTrash", true);
@@ -82,6 +84,7 @@ QCoro::Task<> AppState::runClean(Results results, ItemSelection selection,
   };
   Cleaned cleaned = co_await onEngineThread(_removalWork, std::move(clean));
   reports.empty();
+  _notice.tell(leftAlone);
   finishClean(std::move(cleaned));
   _removalWork.discard(std::move(selection));
 }
@@ -93,7 +96,7 @@ AppState::CleanPlan AppState::planClean(const std::vector<CleanCategory>& result
     for (const JunkItem& item : category.items) {
       if (!selection.contains(item.id)) continue;
       plan.items.push_back(item);
-      plan.targets.try_emplace(item.path.native(), item.id, category.type);
+      plan.targets.try_emplace(item.path.native(), item.id, category.type, item.identity);
     }
   }
   return plan;
@@ -107,11 +110,11 @@ AppState::Cleaned AppState::sumUp(const CleanPlan& plan,
     if (outcome.reclaimed < 1) continue;
     const auto target = plan.targets.find(outcome.originalURL.native());
     if (target == plan.targets.end()) continue;
-    const auto& [id, type] = target->second;
+    const auto& [id, type, identity] = target->second;
     summary.freed = addBytes(summary.freed, outcome.reclaimed);
     cleaned.removed.insert(id);
     if (outcome.trashedURL) {
-      summary.restorable.emplace_back(outcome.originalURL, *outcome.trashedURL);
+      summary.restorable.push_back({outcome.originalURL, *outcome.trashedURL, identity});
     }
     std::int64_t& ofCategory = summary.cleanedCategories[type];
     ofCategory = addBytes(ofCategory, outcome.reclaimed);
@@ -172,19 +175,21 @@ QCoro::Task<std::int64_t> AppState::restoreLastClean() {
   const auto restorable = _lastClean->restorable;
   std::int64_t restored = 0;
   if (!restorable.empty()) {
-    ScannerEngine engine(_desktop);
+    LeftAlone leftAlone;
+    ScannerEngine engine(_desktop, &leftAlone);
     auto restore = [&engine, inOrder = restorable, stop = _lifetime.get_token()]() mutable {
       // A folder comes before what lay in it: what returns makes the folders above it again, and
       // such a folder would be in the way of the one that was there.
-      std::ranges::sort(inOrder);
+      std::ranges::sort(inOrder, {}, &Restorable::original);
       std::int64_t count = 0;
-      for (const auto& [original, trashed] : inOrder) {
+      for (const auto& [original, trashed, identity] : inOrder) {
         if (stop.stop_requested()) break;
-        if (engine.restoreItem(trashed, original)) ++count;
+        if (engine.restoreItem(trashed, original, identity)) ++count;
       }
       return count;
     };
     restored = co_await onEngineThread(_removalWork, std::move(restore));
+    _notice.tell(leftAlone);
   }
   setLastClean(std::nullopt);
   _desktop.notifications.post(diskChangedNotification);

@@ -6,33 +6,36 @@
 
 namespace klarvik {
 
-PickedFilesRemoval::PickedFilesRemoval(const Desktop& desktop, QObject* parent)
-    : QObject(parent), _desktop(desktop) {}
+PickedFilesRemoval::PickedFilesRemoval(const Desktop& desktop, RemovalNotice& notice,
+                                       QObject* parent)
+    : QObject(parent), _desktop(desktop), _notice(notice) {}
 
 PickedFilesRemoval::~PickedFilesRemoval() {
   finish();
 }
 
 QCoro::Task<std::set<Path>> PickedFilesRemoval::trash(std::size_t count,
-                                                      std::function<Pick()> pick) {
+                                                      std::function<Pick(LeftAlone&)> pick) {
   _isRunning = true;
   _progress = DeletionProgress{.total = static_cast<std::int64_t>(count), .currentName = ""};
   _stop = std::stop_source();
   emit changed();
 
-  ScannerEngine engine(_desktop);
+  LeftAlone leftAlone;
+  ScannerEngine engine(_desktop, &leftAlone);
   ReportMailbox<DeletionProgress> reports(_desktop.clock, [this](DeletionProgress progress) {
     _progress = std::move(progress);
     emit changed();
   });
-  auto move = [&engine, &reports, &pick, stop = _stop.get_token()] {
-    const Pick picked = pick();
+  auto move = [&engine, &reports, &pick, &leftAlone, stop = _stop.get_token()] {
+    const Pick picked = pick(leftAlone);
     return engine.trashFiles(
         picked.files, stop, [&](const DeletionProgress& progress) { reports.post(progress); },
         picked.check);
   };
   std::set<Path> moved = co_await onEngineThread(_work, std::move(move));
   reports.empty();
+  _notice.tell(leftAlone);
 
   _isRunning = false;
   _progress.reset();

@@ -12,6 +12,7 @@
 #include "engine/scanner_engine.h"
 #include "platform/platform.h"
 #include "state/engine_work.h"
+#include "state/removal_notice.h"
 
 namespace klarvik {
 
@@ -27,7 +28,7 @@ class PickedFilesRemoval : public QObject {
     ScannerEngine::PickedFileCheck check = {};
   };
 
-  explicit PickedFilesRemoval(const Desktop& desktop, QObject* parent = nullptr);
+  PickedFilesRemoval(const Desktop& desktop, RemovalNotice& notice, QObject* parent = nullptr);
   /// Starts no further file, and waits for those in hand; whoever awaits `trash` is resumed first.
   ~PickedFilesRemoval() override;
 
@@ -36,9 +37,10 @@ class PickedFilesRemoval : public QObject {
 
   /// Moves the files that `pick` answers, `count` of them. It is asked on an engine thread, since a
   /// long list takes long to write; it must not refer to what the main thread changes meanwhile.
+  /// What it is given counts what is left alone, and outlives the checks that it answers.
   /// Answers the files that were really moved, also after a cancellation. Must not be called while
   /// one is running; none is running any more when the answer comes.
-  QCoro::Task<std::set<Path>> trash(std::size_t count, std::function<Pick()> pick);
+  QCoro::Task<std::set<Path>> trash(std::size_t count, std::function<Pick(LeftAlone&)> pick);
   void cancel();
   /// For the end of the program: as the destructor does. Nothing may be started afterwards.
   void finish();
@@ -48,6 +50,7 @@ class PickedFilesRemoval : public QObject {
 
  private:
   const Desktop& _desktop;
+  RemovalNotice& _notice;
   bool _isRunning = false;
   std::optional<DeletionProgress> _progress;
   std::stop_source _stop;

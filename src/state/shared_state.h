@@ -6,6 +6,7 @@
 #include "state/disk_monitor.h"
 #include "state/navigator.h"
 #include "state/permissions_manager.h"
+#include "state/removal_notice.h"
 #include "state/scan_coordinator.h"
 #include "state/scan_history.h"
 #include "state/tool_activity.h"
@@ -36,6 +37,7 @@ class SharedState {
   [[nodiscard]] PermissionsManager& permissionsManager() { return _permissionsManager; }
   [[nodiscard]] DiskMonitor& diskMonitor() { return _diskMonitor; }
   [[nodiscard]] TrashMonitor& trashMonitor() { return _trashMonitor; }
+  [[nodiscard]] RemovalNotice& removalNotice() { return _removalNotice; }
   /// Made at first use, since that starts the updater.
   UpdateManager& updateManager();
 
@@ -48,6 +50,7 @@ class SharedState {
   PermissionsManager _permissionsManager;
   DiskMonitor _diskMonitor;
   TrashMonitor _trashMonitor;
+  RemovalNotice _removalNotice;
   std::optional<UpdateManager> _updateManager;
 };
 

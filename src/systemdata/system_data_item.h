@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/uuid.h"
+#include "platform/entry_identity.h"
 #include "platform/path.h"
 #include "systemdata/system_data_sub_category.h"
 
@@ -25,6 +26,9 @@ struct SystemDataItem {
   SystemDataSubCategory subCategory = SystemDataSubCategory::otherLibrary;
   /// Where this item differs from its kind.
   std::optional<ItemSafety> safetyOverride = std::nullopt;
+  /// As it was found. Another thing that comes to its name later is not removed in its place.
+  /// Nothing for what is no file.
+  std::optional<EntryIdentity> identity = std::nullopt;
 
   [[nodiscard]] ItemSafety safety() const;
   /// Whether a pane may select, count as removable, or remove it.

@@ -65,14 +65,10 @@ SystemDataSearch::Items SystemDataSearch::wholePlaces(std::span<const WholePlace
                                                       SystemDataSubCategory kind) const {
   Items items;
   for (const WholePlace& place : places) {
-    const Path path = inHome(place.path);
-    const auto size = sizeOf(path);
-    if (size < place.minimumSize) continue;
-    items.push_back({.name = std::string(place.name),
-                     .path = path,
-                     .size = size,
-                     .subCategory = kind,
-                     .safetyOverride = place.safetyOverride});
+    SystemDataItem found = item(std::string(place.name), inHome(place.path), kind);
+    if (found.size < place.minimumSize) continue;
+    found.safetyOverride = place.safetyOverride;
+    items.push_back(std::move(found));
   }
   return items;
 }
@@ -94,10 +90,8 @@ SystemDataSearch::Items SystemDataSearch::childrenExcept(std::span<const std::st
   for (const Path& child : list(folder)) {
     const Path name = child.filename();
     if (std::ranges::find(names, name.native()) != names.end()) continue;
-    const auto size = sizeOf(child);
-    if (size < minimumSize || isLink(child)) continue;
-    items.push_back(
-        {.name = friendlyName(name.native()), .path = child, .size = size, .subCategory = kind});
+    SystemDataItem found = item(friendlyName(name.native()), child, kind);
+    if (found.size >= minimumSize && !isLink(child)) items.push_back(std::move(found));
   }
   sortBySize(items);
   return items;
@@ -128,7 +122,8 @@ SystemDataSearch::Items SystemDataSearch::swapFiles(SystemDataSubCategory kind) 
     items.push_back({.name = file.filename().native(),
                      .path = file,
                      .size = attributes->logicalBytes,
-                     .subCategory = kind});
+                     .subCategory = kind,
+                     .identity = entryIdentity(*attributes)});
   }
   return items;
 }
@@ -138,12 +133,8 @@ SystemDataSearch::Items SystemDataSearch::firmware(SystemDataSubCategory kind) c
   for (const std::string_view folder : softwareUpdateFolders) {
     for (const Path& file : list(inHome(folder))) {
       if (!isFirmware(file)) continue;
-      const auto size = sizeOf(file);
-      if (size < smallestFirmware) continue;
-      items.push_back({.name = "Firmware: " + file.filename().native(),
-                       .path = file,
-                       .size = size,
-                       .subCategory = kind});
+      SystemDataItem found = item("Firmware: " + file.filename().native(), file, kind);
+      if (found.size >= smallestFirmware) items.push_back(std::move(found));
     }
   }
   return items;
@@ -162,8 +153,14 @@ bool SystemDataSearch::isLink(const Path& path) const {
   return attributes && attributes->kind == FileKind::symbolicLink;
 }
 
-std::int64_t SystemDataSearch::sizeOf(const Path& path) const {
-  return wholeAllocatedSize(_platform.files, path);
+SystemDataItem SystemDataSearch::item(std::string name, const Path& path,
+                                      SystemDataSubCategory kind) const {
+  const auto identity = entryIdentity(_platform.files, path);
+  return {.name = std::move(name),
+          .path = path,
+          .size = wholeAllocatedSize(_platform.files, path),
+          .subCategory = kind,
+          .identity = identity};
 }
 
 }  // namespace klarvik

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -38,7 +39,10 @@ class SystemDataSearch {
   [[nodiscard]] Path inHome(std::string_view path) const;
   [[nodiscard]] std::vector<Path> list(const Path& folder) const;
   [[nodiscard]] bool isLink(const Path& path) const;
-  [[nodiscard]] std::int64_t sizeOf(const Path& path) const;
+  /// What stands at `path`, measured: 0 bytes when nothing does. What comes to the name while it is
+  /// being measured is not meant.
+  [[nodiscard]] SystemDataItem item(std::string name, const Path& path,
+                                    SystemDataSubCategory kind) const;
 
   const Platform& _platform;
 };

@@ -4,11 +4,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/uuid.h"
+#include "platform/entry_identity.h"
 #include "platform/path.h"
 
 namespace klarvik {
@@ -37,6 +39,8 @@ struct ResidualFile {
   std::int64_t size = 0;  ///< bytes of content, hidden things left out; at least 1
   ResidualCategory category = ResidualCategory::other;
   bool isSelected = true;
+  /// As it was found. Another thing that comes to its name later is not removed in its place.
+  std::optional<EntryIdentity> identity = std::nullopt;
 
   bool operator==(const ResidualFile&) const = default;
 };
@@ -49,6 +53,8 @@ struct AppInfo {
   Path appURL{};             ///< the .app folder
   std::int64_t appSize = 0;  ///< bytes of content, hidden things left out
   std::vector<ResidualFile> residuals{};
+  /// As it was found. Another thing that comes to its name later is not removed in its place.
+  std::optional<EntryIdentity> identity = std::nullopt;
 
   bool operator==(const AppInfo&) const = default;
 };

@@ -33,8 +33,7 @@ std::optional<Digest> Sha256::finish() {
   return done ? std::optional(digest) : std::nullopt;
 }
 
-std::optional<Digest> ContentHasher::digest(const FileSystem& files, const Path& path) {
-  const auto file = files.openForReading(path);
+std::optional<Digest> ContentHasher::digest(std::unique_ptr<FileReader> file) {
   if (!file) return std::nullopt;
   const std::span chunk(_chunk.get(), chunkBytes);
   _sha256.begin();

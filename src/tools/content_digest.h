@@ -9,11 +9,9 @@
 #include <span>
 #include <string>
 
-#include "platform/path.h"
-
 namespace klarvik {
 
-class FileSystem;
+class FileReader;
 
 /// A SHA-256.
 using Digest = std::array<unsigned char, 32>;
@@ -46,9 +44,9 @@ class ContentHasher {
  public:
   static constexpr std::size_t chunkBytes = std::size_t{4} * 1024 * 1024;
 
-  /// Nothing when the file cannot be opened. When reading fails on the way, what was read until
+  /// Nothing where there is no file. When reading fails on the way, what was read until
   /// then is all that counts.
-  [[nodiscard]] std::optional<Digest> digest(const FileSystem& files, const Path& path);
+  [[nodiscard]] std::optional<Digest> digest(std::unique_ptr<FileReader> file);
 
  private:
   Sha256 _sha256;

@@ -20,12 +20,13 @@ class Candidate {
   Candidate(const FileSystem& files, const Path& path)
       : _files(files),
         _path(path),
-        _attributes(files.attributes(path)),
-        _reader(files.openForReading(path)) {}
+        _reader(files.openForReading(path)),
+        _attributes(_reader ? _reader->attributes() : std::nullopt) {}
 
   [[nodiscard]] bool canBeRead() const {
-    return _reader && _attributes && _attributes->kind == FileKind::regular;
+    return _attributes && _attributes->kind == FileKind::regular;
   }
+  /// Of the very file that is being read.
   [[nodiscard]] const FileAttributes& attributes() const { return *_attributes; }
 
   /// The next bytes, none at the end; nothing when reading failed.
@@ -45,16 +46,11 @@ class Candidate {
  private:
   const FileSystem& _files;
   const Path& _path;
-  const std::optional<FileAttributes> _attributes;
   const std::unique_ptr<FileReader> _reader;
+  const std::optional<FileAttributes> _attributes;
   const std::unique_ptr<std::byte[]> _piece =
       std::make_unique_for_overwrite<std::byte[]>(pieceBytes);
 };
-
-/// Two paths lead to one file that has no second name: removing either removes both.
-bool areOneFile(const FileAttributes& left, const FileAttributes& right) {
-  return left.identity && left.identity == right.identity && left.names < 2;
-}
 
 /// Of what both hold; nothing when they differ in a byte or in length, or were not read whole.
 std::optional<Digest> commonDigest(Candidate& keeper, Candidate& copy,
@@ -77,12 +73,14 @@ std::optional<Digest> commonDigest(Candidate& keeper, Candidate& copy,
 
 }  // namespace
 
-bool DuplicateCheck::mayRemove(const FileSystem& files, const Path& keeper, const Path& copy,
+bool DuplicateCheck::mayRemove(const FileSystem& files, const Path& keeper, const Copy& copy,
                                std::string_view hash, const std::stop_token& stop) {
   Candidate staying(files, keeper);
-  Candidate going(files, copy);
-  if (keeper == copy || !staying.canBeRead() || !going.canBeRead()) return false;
-  if (areOneFile(staying.attributes(), going.attributes())) return false;
+  Candidate going(files, copy.path);
+  if (keeper == copy.path || !staying.canBeRead() || !going.canBeRead()) return false;
+  const auto goingIdentity = entryIdentity(going.attributes());
+  if (goingIdentity != copy.identity) return false;
+  if (goingIdentity && goingIdentity == entryIdentity(staying.attributes())) return false;
   if (staying.attributes().logicalBytes != going.attributes().logicalBytes) return false;
   const auto digest = commonDigest(staying, going, stop);
   return digest && hexadecimal(*digest) == hash && staying.isUnchanged() && going.isUnchanged();

@@ -9,6 +9,7 @@
 
 #include "core/uuid.h"
 #include "platform/date.h"
+#include "platform/entry_identity.h"
 #include "platform/path.h"
 
 namespace klarvik {
@@ -20,6 +21,8 @@ struct DuplicateFile {
   std::int64_t size = 0;                            ///< bytes; 0 when the file could not be asked
   std::optional<Date> modifiedDate = std::nullopt;  ///< nothing when the file could not be asked
   bool isSelected = false;
+  /// As it was found. Another thing that comes to its name later is not removed in its place.
+  std::optional<EntryIdentity> identity = std::nullopt;
 
   bool operator==(const DuplicateFile&) const = default;
 };

@@ -72,6 +72,7 @@ class Collection {
 
   void addFolder(const Path& folder) {
     if (!isNew(_files.attributes(folder))) return;
+    _found.beginWalk(folder);
     _files.walk(folder, {.skipHidden = true, .skipPackageContents = true},
                 [this](WalkEntry& entry) {
                   if (entry.kind() == FileKind::directory) {
@@ -120,8 +121,9 @@ FileNumbers sameSized(const FileSystem& files, const FoundFiles& found) {
     std::size_t number;
   };
   std::vector<Sized> sized;
+  FoundFileAccess access(files, found);
   for (std::size_t number = 0; number < found.size(); ++number) {
-    const auto now = files.attributes(found.path(number));
+    const auto now = access.attributes(number);
     if (now && now->kind != FileKind::directory) sized.push_back({now->logicalBytes, number});
   }
   std::ranges::stable_sort(sized, std::ranges::greater(), &Sized::size);
@@ -143,8 +145,12 @@ using Report = std::function<void(double fraction, std::int64_t groupsFound, std
 Contents hashed(const FileSystem& files, const FoundFiles& found, const FileNumbers& numbers,
                 std::size_t width, const Report& report) {
   Contents contents;
-  ParallelHashing hashing(
-      files, numbers.size(), [&](std::size_t at) { return found.path(numbers[at]); }, width);
+  const auto makeOpen = [&] {
+    return [&numbers, access = std::make_shared<FoundFileAccess>(files, found)](std::size_t at) {
+      return access->openForReading(numbers[at]);
+    };
+  };
+  ParallelHashing hashing(numbers.size(), makeOpen, width);
   const auto count = static_cast<double>(numbers.size());
   for (std::size_t at = 0; at < numbers.size(); ++at) {
     if (at % filesAReport == 0) {
@@ -156,20 +162,21 @@ Contents hashed(const FileSystem& files, const FoundFiles& found, const FileNumb
   return contents;
 }
 
-DuplicateFile duplicateFile(const FileSystem& files, Path path) {
-  const auto now = files.attributes(path);
-  DuplicateFile file{.url = std::move(path)};
+DuplicateFile duplicateFile(FoundFileAccess& access, const FoundFiles& found, std::size_t number) {
+  const auto now = access.attributes(number);
+  DuplicateFile file{.url = found.path(number)};
   if (!now) return file;
   file.size = now->kind == FileKind::directory ? 0 : now->logicalBytes;
   file.modifiedDate = now->modified;
+  file.identity = entryIdentity(*now);
   return file;
 }
 
-DuplicateGroup duplicateGroup(const FileSystem& files, const FoundFiles& found,
+DuplicateGroup duplicateGroup(FoundFileAccess& access, const FoundFiles& found,
                               const Digest& digest, const FileNumbers& holders) {
   DuplicateGroup group{.hash = hexadecimal(digest), .files = {}};
   for (const std::size_t number : holders) {
-    group.files.push_back(duplicateFile(files, found.path(number)));
+    group.files.push_back(duplicateFile(access, found, number));
   }
   std::ranges::stable_sort(group.files, std::ranges::greater(), [](const DuplicateFile& file) {
     return file.modifiedDate.value_or(Date::min());
@@ -206,8 +213,9 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
 
   report(0.97, 0, "Building results...");
   std::vector<DuplicateGroup> groups;
+  FoundFileAccess access(_files, found);
   contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
-    groups.push_back(duplicateGroup(_files, found, digest, holders));
+    groups.push_back(duplicateGroup(access, found, digest, holders));
   });
   report(1.0, static_cast<std::int64_t>(groups.size()), "Done");
   std::ranges::stable_sort(groups, std::ranges::greater(), &DuplicateGroup::reclaimableBytes);
@@ -216,7 +224,7 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
 
 std::optional<std::string> DuplicateScanner::hashFile(const Path& url) {
   const std::scoped_lock lock(_scanning);
-  const auto digest = ContentHasher().digest(_files, url);
+  const auto digest = ContentHasher().digest(_files.openForReading(url));
   return digest ? std::optional(hexadecimal(*digest)) : std::nullopt;
 }
 

@@ -9,6 +9,7 @@
 
 #include "core/uuid.h"
 #include "platform/date.h"
+#include "platform/entry_identity.h"
 #include "platform/path.h"
 
 namespace klarvik {
@@ -23,6 +24,8 @@ struct LargeFile {
   std::optional<Date> modifiedDate = std::nullopt;
   std::optional<Date> lastOpened = std::nullopt;  ///< when the file system last saw it read
   bool isDirectory = false;                       ///< never of what a walk lists
+  /// As it was found. Another thing that comes to its name later is not removed in its place.
+  std::optional<EntryIdentity> identity = std::nullopt;
 
   /// What the user calls such a file: "Video", "Archive", "Other". By the extension alone.
   [[nodiscard]] std::string_view kind() const;

@@ -102,6 +102,7 @@ class Run {
         .size = attributes->logicalBytes,
         .modifiedDate = attributes->modified,
         .lastOpened = attributes->accessed,
+        .identity = entryIdentity(*attributes),
     }));
   }
 

@@ -6,9 +6,8 @@
 
 namespace klarvik {
 
-ParallelHashing::ParallelHashing(const FileSystem& files, std::size_t count, PathOf pathOf,
-                                 std::size_t width)
-    : _files(files), _pathOf(std::move(pathOf)), _results(count) {
+ParallelHashing::ParallelHashing(std::size_t count, MakeOpen makeOpen, std::size_t width)
+    : _makeOpen(std::move(makeOpen)), _results(count) {
   startThreads(std::min(count, width));
 }
 
@@ -37,7 +36,8 @@ void ParallelHashing::startThreads(std::size_t width) {
 
 void ParallelHashing::work() {
   ContentHasher hasher;
-  while (const auto number = takeFile()) put(*number, hasher.digest(_files, _pathOf(*number)));
+  const Open open = _makeOpen();
+  while (const auto number = takeFile()) put(*number, hasher.digest(open(*number)));
 }
 
 std::optional<std::size_t> ParallelHashing::takeFile() {

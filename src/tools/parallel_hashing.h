@@ -3,11 +3,13 @@
 #include <condition_variable>
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <thread>
 #include <vector>
 
+#include "platform/file_system.h"
 #include "tools/content_digest.h"
 
 namespace klarvik {
@@ -17,11 +19,13 @@ namespace klarvik {
 /// come. Belongs to one thread; at its end nothing is read any more.
 class ParallelHashing {
  public:
-  using PathOf = std::function<Path(std::size_t number)>;
+  /// Opens a file of the list; none when that failed. Made for each thread, and used by it alone.
+  using Open = std::function<std::unique_ptr<FileReader>(std::size_t number)>;
+  using MakeOpen = std::function<Open()>;
 
-  /// Files 0 to `count - 1`, with at most `width` of them open at once. `pathOf` is called from any
-  /// thread. `files` outlives this object.
-  ParallelHashing(const FileSystem& files, std::size_t count, PathOf pathOf, std::size_t width);
+  /// Files 0 to `count - 1`, with at most `width` of them open at once. `makeOpen` is called from
+  /// any thread; what it refers to outlives this object.
+  ParallelHashing(std::size_t count, MakeOpen makeOpen, std::size_t width);
   ~ParallelHashing();
   ParallelHashing(const ParallelHashing&) = delete;
   ParallelHashing& operator=(const ParallelHashing&) = delete;
@@ -41,8 +45,7 @@ class ParallelHashing {
   [[nodiscard]] std::optional<std::size_t> takeFile();
   void put(std::size_t number, const std::optional<Digest>& digest);
 
-  const FileSystem& _files;
-  const PathOf _pathOf;
+  const MakeOpen _makeOpen;
   std::mutex _mutex;  // guards all that follows
   std::condition_variable _arrived;
   std::vector<Result> _results;

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/uuid.h"
+#include "platform/entry_identity.h"
 #include "platform/path.h"
 
 namespace klarvik {
@@ -40,6 +41,8 @@ struct PrivacyItem {
   std::int64_t count = 0;                   ///< entries, where they are counted at all
   std::int64_t size = 0;                    ///< bytes
   bool isSelected = true;
+  /// Of the path, as it was found. Another thing that comes to it later is not removed instead.
+  std::optional<EntryIdentity> identity = std::nullopt;
 
   bool operator==(const PrivacyItem&) const = default;
 };

@@ -71,8 +71,12 @@ Found fileTrail(const FileSystem& files, PrivacyCategory category, std::string n
                 std::string_view place) {
   const Path path = files.home() / place;
   if (!files.exists(path)) return std::nullopt;
-  return PrivacyItem{
-      .category = category, .name = std::move(name), .path = path, .size = fileSize(files, path)};
+  const auto identity = entryIdentity(files, path);
+  return PrivacyItem{.category = category,
+                     .name = std::move(name),
+                     .path = path,
+                     .size = fileSize(files, path),
+                     .identity = identity};
 }
 
 Found history(const FileSystem& files, Pasteboard&) {
@@ -182,7 +186,9 @@ PrivacyClearance PrivacyScanner::clearItem(const PrivacyItem& item) {
     _pasteboard.clear();
     return {.cleaned = 1};
   }
-  if (item.path && !removeIfAllowed(_files, *item.path, DeletionScope::general())) return {};
+  const bool stays = item.path && !removeIfAllowed(_files, *item.path, DeletionScope::general(),
+                                                   item.identity, _leftAlone);
+  if (stays) return {};
   return {.cleaned = 1, .freed = item.size};
 }
 

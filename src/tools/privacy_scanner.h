@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/left_alone.h"
 #include "platform/path.h"
 #include "tools/privacy_item.h"
 
@@ -34,8 +35,13 @@ class PrivacyScanner {
   /// Called on the scanning thread, with a share of 1 and a line that says what comes next.
   using ProgressSink = std::function<void(double fraction, std::string_view line)>;
 
-  PrivacyScanner(FileSystem& files, Pasteboard& pasteboard, RecentDocuments& recentDocuments)
-      : _files(files), _pasteboard(pasteboard), _recentDocuments(recentDocuments) {}
+  /// `leftAlone`, where there is one, counts what is left although it was selected.
+  PrivacyScanner(FileSystem& files, Pasteboard& pasteboard, RecentDocuments& recentDocuments,
+                 LeftAlone* leftAlone = nullptr)
+      : _files(files),
+        _pasteboard(pasteboard),
+        _recentDocuments(recentDocuments),
+        _leftAlone(leftAlone) {}
 
   /// One item for each kind of trail there is. Short, and so not to be stopped.
   [[nodiscard]] std::vector<PrivacyItem> scan(const ProgressSink& progress);
@@ -51,6 +57,7 @@ class PrivacyScanner {
   FileSystem& _files;
   Pasteboard& _pasteboard;
   RecentDocuments& _recentDocuments;
+  LeftAlone* const _leftAlone;
   std::mutex _working;
 };
 

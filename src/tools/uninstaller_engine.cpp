@@ -48,24 +48,32 @@ std::vector<Path> visibleEntries(const FileSystem& files, const Path& folder) {
 
 std::optional<AppInfo> appAt(const FileSystem& files, const Path& path) {
   if (!isApplicationName(path)) return std::nullopt;
+  const auto identity = entryIdentity(files, path);
   const auto bundle = ApplicationBundle::at(files, path);
   if (!bundle) return std::nullopt;
   return AppInfo{.name = bundle->displayName.value_or(bundle->name.value_or(path.stem().native())),
                  .bundleID = bundle->identifier,
                  .appURL = path,
-                 .appSize = contentSize(files, path)};
+                 .appSize = contentSize(files, path),
+                 .identity = identity};
 }
 
 /// No rule is asked for an application that the user chose to remove: it can be put back.
-bool moveToTrash(Trash& trash, const Path& app) {
-  const Path named = standardizedPath(app);
-  const auto anywhere = [](const Path&) { return true; };
-  return isApplicationName(named) && trash.moveToTrash(named, anywhere).has_value();
+bool moveToTrash(const Platform& platform, const AppInfo& app, LeftAlone* leftAlone) {
+  const Path named = standardizedPath(app.appURL);
+  const auto isTheApp = [&](const Path&, const FileAttributes& item) {
+    return entryIdentity(item) == app.identity;
+  };
+  if (!isApplicationName(named)) return false;
+  const bool moved = platform.trash.moveToTrash(named, isTheApp).has_value();
+  if (!moved) countIfReplaced(platform.files, named, app.identity, leftAlone);
+  return moved;
 }
 
 }  // namespace
 
-UninstallerEngine::UninstallerEngine(const Platform& platform) : _platform(platform) {}
+UninstallerEngine::UninstallerEngine(const Platform& platform, LeftAlone* leftAlone)
+    : _platform(platform), _leftAlone(leftAlone) {}
 
 std::vector<AppInfo> UninstallerEngine::listApps() {
   const std::lock_guard lock(_working);
@@ -88,8 +96,11 @@ std::vector<ResidualFile> UninstallerEngine::findResiduals(const AppInfo& app) {
   for (const SearchRoot& root : searchRoots) {
     for (const Path& entry : visibleEntries(files, files.home() / root.folder)) {
       if (!matcher.matches(entry.filename().native())) continue;
+      const auto identity = entryIdentity(files, entry);
       const std::int64_t size = contentSize(files, entry);
-      if (size > 0) found.push_back({.url = entry, .size = size, .category = root.category});
+      if (size < 1) continue;
+      found.push_back(
+          {.url = entry, .size = size, .category = root.category, .identity = identity});
     }
   }
   std::ranges::stable_sort(found, std::ranges::greater{}, &ResidualFile::size);
@@ -102,10 +113,11 @@ std::int64_t UninstallerEngine::uninstall(const AppInfo& app,
   const auto scope = DeletionScope::residual(residualIdentifiers(app));
   std::int64_t freed = 0;
   for (const ResidualFile& residual : residuals) {
-    if (removeIfAllowed(_platform.files, residual.url, scope))
-      freed = addBytes(freed, residual.size);
+    const bool isGone =
+        removeIfAllowed(_platform.files, residual.url, scope, residual.identity, _leftAlone);
+    if (isGone) freed = addBytes(freed, residual.size);
   }
-  if (moveToTrash(_platform.trash, app.appURL)) freed = addBytes(freed, app.appSize);
+  if (moveToTrash(_platform, app, _leftAlone)) freed = addBytes(freed, app.appSize);
   return freed;
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/left_alone.h"
 #include "platform/platform.h"
 #include "tools/app_info.h"
 
@@ -19,7 +20,9 @@ namespace klarvik {
 /// Nothing throws: what fails counts as not found or not removed.
 class UninstallerEngine {
  public:
-  explicit UninstallerEngine(const Platform& platform);
+  /// `leftAlone`, where there is one, counts what is left although it was selected; it must outlive
+  /// the engine.
+  explicit UninstallerEngine(const Platform& platform, LeftAlone* leftAlone = nullptr);
 
   /// What lies directly in /Applications and in the user's own Applications folder and has a bundle
   /// identifier, by name. No residuals yet.
@@ -30,8 +33,9 @@ class UninstallerEngine {
   [[nodiscard]] std::vector<ResidualFile> findResiduals(const AppInfo& app);
 
   /// Removes `residuals` for good, one after the other, each only if `DeletionGuard` lets it go as
-  /// a residual of `app`; then moves the application to the Trash. Answers the bytes freed: of each
-  /// thing that is gone, what it measured when it was found.
+  /// a residual of `app`; then moves the application to the Trash. What is not the thing that was
+  /// found stays. Answers the bytes freed: of each thing that is gone, what it measured when it was
+  /// found.
   std::int64_t uninstall(const AppInfo& app, const std::vector<ResidualFile>& residuals);
 
   /// The words by which `DeletionGuard` knows what is a residual of `app`.
@@ -39,6 +43,7 @@ class UninstallerEngine {
 
  private:
   const Platform& _platform;
+  LeftAlone* const _leftAlone;
   std::mutex _working;
 };
 

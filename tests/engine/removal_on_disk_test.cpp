@@ -38,8 +38,12 @@ class RemovalOnADisk : public testing::Test {
     static_cast<void>(world.trash.folders());
   }
 
-  static JunkItem item(const Path& path) {
-    return {.name = path.filename().native(), .path = path, .size = 100};
+  /// What stands at `path` now, as a scan would find it.
+  [[nodiscard]] JunkItem item(const Path& path) const {
+    return {.name = path.filename().native(),
+            .path = path,
+            .size = 100,
+            .identity = entryIdentity(files, path)};
   }
 
   /// An entry of the Trash as a scan finds it.

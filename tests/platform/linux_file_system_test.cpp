@@ -18,7 +18,7 @@ namespace {
 using testing::Optional;
 using testing::UnorderedElementsAre;
 
-const PlaceCheck anywhere = [](const Path&) { return true; };
+const ItemCheck anywhere = [](const Path&, const FileAttributes&) { return true; };
 
 class LinuxFileSystemTest : public testing::Test {
  protected:

@@ -78,10 +78,11 @@ TEST_F(LinuxTrashTest, RecordsTheRealPlaceOfAnItemBehindALink) {
   disk.makeFile("/Users/ann/real/a", "content");
   disk.makeLink("/Users/ann/named", "real");
   std::vector<Path> asked;
-  EXPECT_TRUE(trash.moveToTrash("/Users/ann/named/a", [&](const Path& place) {
-    asked.push_back(place);
-    return true;
-  }));
+  EXPECT_TRUE(
+      trash.moveToTrash("/Users/ann/named/a", [&](const Path& place, const FileAttributes&) {
+        asked.push_back(place);
+        return true;
+      }));
   EXPECT_THAT(asked, ElementsAre(Path("/Users/ann/real/a")));
   EXPECT_THAT(disk.contentOf(recordOf("a")), testing::HasSubstr("/Users/ann/real/a\n"));
 }
@@ -114,7 +115,7 @@ TEST_P(NoItem, IsNeitherMovedNorRemoved) {
   const DiskSnapshot before = snapshot();
   EXPECT_FALSE(trash.moveToTrash(GetParam(), anywhere));
   EXPECT_FALSE(trash.remove(GetParam(), anywhere));
-  EXPECT_FALSE(trash.putBack(GetParam(), "/Users/ann/a"));
+  EXPECT_FALSE(trash.putBack(GetParam(), "/Users/ann/a", anywhere));
   EXPECT_EQ(snapshot(), before);
 }
 
@@ -148,7 +149,7 @@ TEST_F(LinuxTrashTest, ANameOf255BytesIsTrashed) {
     ASSERT_TRUE(second);
     EXPECT_EQ(disk.contentOf(*first), name);
     EXPECT_EQ(disk.contentOf(*second), "second");
-    EXPECT_TRUE(trash.putBack(*first, Path(kHome) / name));
+    EXPECT_TRUE(trash.putBack(*first, Path(kHome) / name, anywhere));
     EXPECT_EQ(disk.contentOf(Path(kHome) / name), name);
   }
 }
@@ -277,7 +278,7 @@ TEST_F(LinuxTrashTest, RemovesAnItemForGoodAndThenItsRecord) {
   const auto place = trash.moveToTrash("/Users/ann/folder", anywhere);
   ASSERT_TRUE(place);
   std::vector<Path> asked;
-  EXPECT_TRUE(trash.remove(*place, [&](const Path& real) {
+  EXPECT_TRUE(trash.remove(*place, [&](const Path& real, const FileAttributes&) {
     asked.push_back(real);
     return true;
   }));
@@ -345,8 +346,8 @@ TEST_F(LinuxTrashTest, WhatIsBeingRemovedDoesNotComeBackHollow) {
   const auto trashed = trash.moveToTrash("/Users/ann/a", anywhere);
   ASSERT_TRUE(trashed);
   bool cameBack = true;
-  EXPECT_TRUE(trash.remove(*trashed, [&](const Path&) {
-    cameBack = trash.putBack(*trashed, "/Users/ann/a");
+  EXPECT_TRUE(trash.remove(*trashed, [&](const Path&, const FileAttributes&) {
+    cameBack = trash.putBack(*trashed, "/Users/ann/a", anywhere);
     return true;
   }));
   EXPECT_FALSE(cameBack);
@@ -357,8 +358,8 @@ TEST_F(LinuxTrashTest, WhatCouldNotBeRemovedCanStillComeBack) {
   disk.makeFile("/Users/ann/a", "old");
   const auto trashed = trash.moveToTrash("/Users/ann/a", anywhere);
   ASSERT_TRUE(trashed);
-  EXPECT_FALSE(trash.remove(*trashed, [](const Path&) { return false; }));
-  EXPECT_TRUE(trash.putBack(*trashed, "/Users/ann/a"));
+  EXPECT_FALSE(trash.remove(*trashed, [](const Path&, const FileAttributes&) { return false; }));
+  EXPECT_TRUE(trash.putBack(*trashed, "/Users/ann/a", anywhere));
 }
 
 TEST_F(LinuxTrashTest, EmptyingAnItemAddedMeanwhileSurvives) {
@@ -372,7 +373,7 @@ TEST_F(LinuxTrashTest, EmptyingAnItemAddedMeanwhileSurvives) {
   for (const Path& item : *listed) EXPECT_TRUE(trash.remove(item, anywhere));
   EXPECT_EQ(unexpectedDifferences(before, snapshot(), {inFiles("a"), recordOf("a")}), "");
   EXPECT_EQ(trash.list(), std::vector<Path>{*added});
-  EXPECT_TRUE(trash.putBack(*added, "/Users/ann/a"));
+  EXPECT_TRUE(trash.putBack(*added, "/Users/ann/a", anywhere));
   EXPECT_EQ(disk.contentOf("/Users/ann/a"), "new");
 }
 

@@ -33,7 +33,7 @@ class RemovalFaultsTest : public testing::Test {
   }
 
   bool remove(const Path& item) const {
-    return files.remove(item, [](const Path&) { return true; });
+    return files.remove(item, [](const Path&, const FileAttributes&) { return true; });
   }
   /// The same; fails the test when anything but the item is gone, or anything has changed.
   bool removeOnly(const Path& item) const {
@@ -238,7 +238,8 @@ TEST(DeepRemovalTest, AHundredThousandLevelsDeepWithFewFileHandlesCompletes) {
   makeDeepTree(disk.makeFolder("/tree"), 100'000);
   EXPECT_TRUE(inChild([&] {
     LinuxFileSystem files(disk.path(), "/Users/ann");
-    return limitHandles(64) && files.remove("/tree", [](const Path&) { return true; });
+    return limitHandles(64) &&
+           files.remove("/tree", [](const Path&, const FileAttributes&) { return true; });
   }));
   EXPECT_FALSE(disk.holds("/tree"));
 }
@@ -250,10 +251,10 @@ TEST(DeepRemovalTest, APathLongerThanPathMaxIsRemoved) {
   makeDeepTree(disk.makeFolder("/tree"), 50, name);
   Path deep = "/tree";
   for (int i = 0; i < 49; ++i) deep /= name;
-  EXPECT_TRUE(files.remove(deep, [](const Path&) { return true; }));
+  EXPECT_TRUE(files.remove(deep, [](const Path&, const FileAttributes&) { return true; }));
   EXPECT_FALSE(files.exists(deep));
   EXPECT_TRUE(files.exists(deep.parent_path()));
-  EXPECT_TRUE(files.remove("/tree", [](const Path&) { return true; }));
+  EXPECT_TRUE(files.remove("/tree", [](const Path&, const FileAttributes&) { return true; }));
 }
 
 }  // namespace

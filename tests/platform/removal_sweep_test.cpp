@@ -1,9 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/syscall.h>
 
 #include <cerrno>
 
 #include "deep_tree.h"
+#include "platform/entry_identity.h"
 #include "platform/linux/linux_file_system.h"
 #include "support/disk_snapshot.h"
 #include "support/system_call_faults.h"
@@ -28,8 +30,9 @@ class RemovalSweepTest : public testing::Test {
       }
     }
     bool removeTree() {
-      return files.remove("/chosen/tree",
-                          [](const Path& place) { return place == "/chosen/tree"; });
+      return files.remove("/chosen/tree", [](const Path& place, const FileAttributes&) {
+        return place == "/chosen/tree";
+      });
     }
     std::string unexpectedSince(const DiskSnapshot& before) const {
       return unexpectedDifferences(before, snapshotOf(disk.path()), {"/chosen/tree"});
@@ -129,6 +132,109 @@ TEST_F(RemovalSweepTest, KilledAtEachStepTheNextRunFinishes) {
         EXPECT_FALSE(stage.disk.holds("/chosen/tree"));
       });
   EXPECT_GT(calls, 20);
+}
+
+/// One file, and another of its name beside it.
+class FileRemovalSweepTest : public testing::Test {
+ protected:
+  struct Stage {
+    Stage() {
+      disk.makeFile("/chosen/file", "waste");
+      disk.makeFile("/kept/file", "mine");
+      identity = entryIdentity(files, "/chosen/file");
+    }
+    bool removeFile() {
+      return files.remove("/chosen/file", [this](const Path&, const FileAttributes& item) {
+        return entryIdentity(item) == identity;
+      });
+    }
+
+    TemporaryFolder disk{memoryFolder()};
+    LinuxFileSystem files{disk.path(), "/Users/ann"};
+    std::optional<EntryIdentity> identity;
+  };
+
+  template <typename Check>
+  static void sweep(const std::function<SystemCallFault(Stage&, int)>& faultAt,
+                    const Check& check) {
+    int calls = 0;
+    for (bool reached = true; reached && !HasFailure(); ++calls) {
+      SCOPED_TRACE("at call " + std::to_string(calls + 1));
+      Stage stage;
+      const FaultyRun run =
+          runWithFault(faultAt(stage, calls + 1), [&stage] { return stage.removeFile(); });
+      check(stage, run);
+      EXPECT_EQ(stage.disk.contentOf("/kept/file"), "mine");
+      reached = run.reached;
+      EXPECT_TRUE(reached || run.answer);
+    }
+    EXPECT_GT(calls, 8);
+  }
+};
+
+TEST_F(FileRemovalSweepTest, ACallThatFailsLeavesTheFileUnderItsName) {
+  for (const int error : {EIO, EACCES, EMFILE}) {
+    sweep(
+        [&](Stage&, int call) {
+          return SystemCallFault{
+              .kind = Kind::failsOnce, .at = call, .error = error, .disturbance = {}};
+        },
+        [](Stage& stage, const FaultyRun& run) {
+          EXPECT_NE(run.answer, stage.disk.holds("/chosen/file"));
+        });
+  }
+}
+
+TEST_F(FileRemovalSweepTest, KilledAtEachStepTheFileIsWholeUnderItsNameOrOneThatTellsOfIt) {
+  sweep(
+      [](Stage&, int call) {
+        return SystemCallFault{.kind = Kind::killed, .at = call, .error = 0, .disturbance = {}};
+      },
+      [](Stage& stage, const FaultyRun&) {
+        for (const auto& entry :
+             std::filesystem::directory_iterator(stage.disk.onDisk("/chosen"))) {
+          const std::string name = entry.path().filename();
+          EXPECT_TRUE(name == "file" || name.starts_with("file.klarvik-removal-")) << name;
+          EXPECT_EQ(stage.disk.contentOf(Path("/chosen") / name), "waste");
+        }
+      });
+}
+
+TEST_F(FileRemovalSweepTest, AnotherFileUnderTheNameAtEveryStepStays) {
+  sweep(
+      [](Stage& stage, int call) {
+        return SystemCallFault{
+            .kind = Kind::disturbed, .at = call, .error = 0, .disturbance = [&stage] {
+              std::error_code error;
+              const Path file = stage.disk.onDisk("/chosen/file");
+              std::filesystem::rename(file, stage.disk.onDisk("/aside"), error);
+              if (error) return;
+              stage.disk.makeFile("/chosen/file", "also mine");
+            }};
+      },
+      [](Stage& stage, const FaultyRun&) {
+        if (!stage.disk.holds("/aside")) return;
+        EXPECT_EQ(stage.disk.contentOf("/chosen/file"), "also mine");
+      });
+}
+
+TEST_F(FileRemovalSweepTest, WhereNothingCanBeMovedWithoutReplacingTheFileGoesAllTheSame) {
+  Stage stage;
+  const FaultyRun run = runWithFault({}, [&stage] {
+    refuseSystemCall(SYS_renameat2, EINVAL);
+    return stage.removeFile();
+  });
+  EXPECT_TRUE(run.answer);
+  EXPECT_FALSE(stage.disk.holds("/chosen/file"));
+}
+
+TEST_F(FileRemovalSweepTest, ANameThatIsAsLongAsCanBeGoesToo) {
+  Stage stage;
+  const std::string longest(255, 'n');
+  stage.disk.makeFile(Path("/chosen") / longest, "waste");
+  EXPECT_TRUE(stage.files.remove(Path("/chosen") / longest,
+                                 [](const Path&, const FileAttributes&) { return true; }));
+  EXPECT_FALSE(stage.disk.holds(Path("/chosen") / longest));
 }
 
 TEST_F(RemovalSweepTest, AParentSwappedForALinkAtEveryStepLosesNothingOutside) {

@@ -79,7 +79,8 @@ TEST_F(TrashConcurrency, SixThreadsMoveAndPutBackAtOnce) {
 
   std::atomic<int> restored = 0;
   onSixThreads([&](int i) {
-    restored += trash.putBack(places[static_cast<std::size_t>(i)].value_or(Path()), itemOf(i));
+    restored +=
+        trash.putBack(places[static_cast<std::size_t>(i)].value_or(Path()), itemOf(i), anywhere);
   });
   EXPECT_EQ(restored, kItems);
   for (int i = 0; i < kItems; ++i) {

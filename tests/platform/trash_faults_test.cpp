@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -72,6 +73,17 @@ class TrashFaults : public TrashFixture, public testing::WithParamInterface<Swee
     }
   }
 
+  /// Other Trash programs show a record that is not as broken.
+  void expectEachRecordIsWhole() const {
+    if (!disk.holds(kInfo)) return;
+    for (const auto& entry : fs::directory_iterator(disk.onDisk(kInfo))) {
+      if (entry.path().extension() != ".trashinfo") continue;
+      const std::string text = disk.contentOf(Path(kInfo) / entry.path().filename());
+      EXPECT_EQ(placeInTrashRecord(text), disk.onDisk(kItem)) << entry.path();
+      EXPECT_TRUE(text.ends_with("\n") && text.find("DeletionDate=") != std::string::npos) << text;
+    }
+  }
+
   DiskSnapshot whole;
   DiskSnapshot outside;
 };
@@ -85,6 +97,7 @@ TEST_P(TrashFaults, MovingToTheTrashLosesNothingAndTheNextRunWorks) {
     });
     expectWholeInOnePlace();
     expectEachTrashedItemHasAWholeRecord();
+    expectEachRecordIsWhole();
     if (!run.killed) {
       EXPECT_EQ(run.answer, disk.holds(inFiles("item")));
     }
@@ -105,16 +118,18 @@ TEST_P(TrashFaults, PuttingBackLosesNothingAndTheNextRunWorks) {
     SCOPED_TRACE(at);
     makeHomeWithTheItemTrashed();
     fs::remove(disk.onDisk("/Users/ann/parent"));
-    const FaultyRun run = runWithFault({GetParam().kind, at, GetParam().error, {}},
-                                       [&] { return trash.putBack(inFiles("item"), kItem); });
+    const FaultyRun run = runWithFault({GetParam().kind, at, GetParam().error, {}}, [&] {
+      return trash.putBack(inFiles("item"), kItem, anywhere);
+    });
     expectWholeInOnePlace();
     expectEachTrashedItemHasAWholeRecord();
+    expectEachRecordIsWhole();
     if (!run.killed) {
       EXPECT_EQ(run.answer, disk.holds(kItem));
     }
 
     if (!disk.holds(kItem)) {
-      EXPECT_TRUE(trash.putBack(inFiles("item"), kItem));
+      EXPECT_TRUE(trash.putBack(inFiles("item"), kItem, anywhere));
     }
     EXPECT_TRUE(isWholeAt(kItem));
     return run.reached;
@@ -129,6 +144,7 @@ TEST_P(TrashFaults, RemovingKeepsTheRecordForAsLongAsAnythingIsLeft) {
     const FaultyRun run = runWithFault({GetParam().kind, at, GetParam().error, {}},
                                        [&] { return trash.remove(inFiles("item"), anywhere); });
     expectEachTrashedItemHasAWholeRecord();
+    expectEachRecordIsWhole();
     EXPECT_EQ(disk.contentOf("/Users/ann/other"), "stays");
     if (!run.killed) {
       EXPECT_EQ(run.answer, !disk.holds(inFiles("item")));
@@ -180,12 +196,15 @@ TEST_F(TrashSwaps, AParentSwappedForALinkAtEveryStepOfAMoveNothingOutsideIsLost)
     makeHomeAnew();
     const FaultyRun run =
         runWithFault({Kind::disturbed, at, 0, swapForLink(disk, "/Users/ann/parent")}, [&] {
-          return trash.moveToTrash(kItem, [](const Path& real) { return real == kItem; })
+          return trash
+              .moveToTrash(kItem,
+                           [](const Path& real, const FileAttributes&) { return real == kItem; })
               .has_value();
         });
     EXPECT_EQ(snapshot(kOutside), outside);
     expectWholeSomewhere({kItem, "/Users/ann/parent moved/item", inFiles("item")});
     expectEachTrashedItemHasAWholeRecord();
+    expectEachRecordIsWhole();
     return run.reached;
   });
 }
@@ -215,7 +234,7 @@ TEST_F(TrashSwaps, AParentSwappedForALinkAtEveryStepOfARestoreNothingOutsideIsTo
     makeHomeWithTheItemTrashed();
     const FaultyRun run =
         runWithFault({Kind::disturbed, at, 0, swapForLink(disk, "/Users/ann/parent")},
-                     [&] { return trash.putBack(inFiles("item"), kItem); });
+                     [&] { return trash.putBack(inFiles("item"), kItem, anywhere); });
     EXPECT_EQ(snapshot(kOutside), outside);
     expectWholeSomewhere({kItem, "/Users/ann/parent moved/item", inFiles("item")});
     return run.reached;
@@ -227,8 +246,9 @@ TEST_F(TrashSwaps, ATrashFolderSwappedForALinkAtEveryStepOfARemovalNothingOutsid
     SCOPED_TRACE(at);
     makeHomeWithTheItemTrashed();
     const FaultyRun run = runWithFault({Kind::disturbed, at, 0, swapForLink(disk, kFiles)}, [&] {
-      return trash.remove(inFiles("item"),
-                          [&](const Path& real) { return real == inFiles("item"); });
+      return trash.remove(inFiles("item"), [&](const Path& real, const FileAttributes&) {
+        return real == inFiles("item");
+      });
     });
     EXPECT_EQ(snapshot(kOutside), outside);
     return run.reached;
@@ -261,11 +281,39 @@ TEST_F(TrashSwaps, RestoreOntoAFileThatAppearsInBetweenRefusedBothStay) {
       const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL, 0600);
       if (file >= 0) ::close(file);
     };
-    const FaultyRun run = runWithFault({Kind::disturbed, at, 0, appear},
-                                       [&] { return trash.putBack(inFiles("item"), kItem); });
+    const FaultyRun run = runWithFault({Kind::disturbed, at, 0, appear}, [&] {
+      return trash.putBack(inFiles("item"), kItem, anywhere);
+    });
     EXPECT_TRUE(isWholeAt(run.answer ? Path(kItem) : inFiles("item")));
     EXPECT_TRUE(run.answer || fs::is_empty(disk.onDisk(kItem)));
     EXPECT_EQ(disk.holds(recordOf("item")), !run.answer);
+    return run.reached;
+  });
+}
+
+TEST_F(TrashSwaps, ARecordThatCannotBeFlushedToTheDiskKeepsTheItemWhereItIs) {
+  makeHomeAnew();
+  const FaultyRun run = runWithFault({}, [&] {
+    refuseSystemCall(SYS_fdatasync, EIO);
+    return trash.moveToTrash(kItem, anywhere).has_value();
+  });
+  EXPECT_FALSE(run.answer);
+  EXPECT_TRUE(isWholeAt(kItem));
+  EXPECT_EQ(countIn(kInfo), 0u);
+}
+
+TEST_F(TrashSwaps, WhereFilesCannotBeNamelessAKillLeavesNoHalfWrittenRecordEither) {
+  sweep([&](int at) {
+    SCOPED_TRACE(at);
+    makeHomeAnew();
+    const FaultyRun run = runWithFault({Kind::killed, at, 0, {}}, [&] {
+      refuseNamelessFiles();
+      return trash.moveToTrash(kItem, anywhere) == inFiles("item");
+    });
+    expectWholeInOnePlace();
+    expectEachTrashedItemHasAWholeRecord();
+    expectEachRecordIsWhole();
+    EXPECT_TRUE(run.killed || run.answer);
     return run.reached;
   });
 }

@@ -10,11 +10,11 @@
 
 namespace klarvik {
 
-inline bool anywhere(const Path&) {
+inline bool anywhere(const Path&, const FileAttributes&) {
   return true;
 }
 
-inline bool nowhere(const Path&) {
+inline bool nowhere(const Path&, const FileAttributes&) {
   return false;
 }
 

@@ -130,7 +130,7 @@ TEST_F(TrashNeighbours, OddBytesInTheNameOfWhatGioTrashedAreListedAndRestored) {
     gio({"trash", "--", disk.onDisk(original)});
     ASSERT_FALSE(disk.holds(original));
     EXPECT_EQ(trash.list(), std::vector<Path>{inFiles(name)});
-    EXPECT_TRUE(trash.putBack(inFiles(name), original));
+    EXPECT_TRUE(trash.putBack(inFiles(name), original, anywhere));
     EXPECT_EQ(disk.contentOf(original), name);
     EXPECT_EQ(countIn(kInfo), 0u);
   }
@@ -188,7 +188,7 @@ TEST_F(TrashNeighbours, OddBytesInTheNameOfWhatTrashCliTrashedAreListedAndRestor
     outputOf({"trash-put", "--", disk.onDisk(original)});
     ASSERT_FALSE(disk.holds(original)) << name;
     EXPECT_EQ(trash.list(), std::vector<Path>{inFiles(name)});
-    EXPECT_TRUE(trash.putBack(inFiles(name), original));
+    EXPECT_TRUE(trash.putBack(inFiles(name), original, anywhere));
     EXPECT_EQ(disk.contentOf(original), name);
     EXPECT_EQ(countIn(kInfo), 0u);
   }

@@ -19,7 +19,7 @@ class TrashRestore : public TrashFixture {
 
   void expectRefusedAndBothStay(const Path& waiting, const Path& original) {
     const DiskSnapshot before = snapshot();
-    EXPECT_FALSE(trash.putBack(waiting, original));
+    EXPECT_FALSE(trash.putBack(waiting, original, anywhere));
     EXPECT_EQ(snapshot(), before);
   }
 
@@ -30,7 +30,7 @@ class TrashRestore : public TrashFixture {
 
 TEST_F(TrashRestore, MovesTheItemBackAndDropsItsRecord) {
   const Path waiting = trashed("/Users/ann/folder/a");
-  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/folder/a"));
+  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/folder/a", anywhere));
   EXPECT_EQ(disk.contentOf("/Users/ann/folder/a"), "content");
   EXPECT_EQ(countIn(kFiles) + countIn(kInfo), 0u);
 }
@@ -45,7 +45,7 @@ TEST_F(TrashRestore, KeepsModesDatesAndLinks) {
   const DiskSnapshot before = snapshot("/Users/ann/folder");
 
   const auto waiting = trash.moveToTrash("/Users/ann/folder", anywhere);
-  ASSERT_TRUE(waiting && trash.putBack(*waiting, "/Users/ann/folder"));
+  ASSERT_TRUE(waiting && trash.putBack(*waiting, "/Users/ann/folder", anywhere));
   EXPECT_EQ(snapshot("/Users/ann/folder"), before);
   struct stat status {};
   ASSERT_EQ(::stat(folder.c_str(), &status), 0);
@@ -75,7 +75,7 @@ TEST_F(TrashRestore, OntoADanglingLinkRefusedBothStay) {
 TEST_F(TrashRestore, WithTheParentGoneMadeAgain) {
   const Path waiting = trashed("/Users/ann/one/two/three/a");
   std::filesystem::remove_all(disk.onDisk("/Users/ann/one"));
-  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/one/two/three/a"));
+  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/one/two/three/a", anywhere));
   EXPECT_EQ(disk.contentOf("/Users/ann/one/two/three/a"), "content");
 }
 
@@ -110,14 +110,14 @@ TEST_F(TrashRestore, AnotherThingThatCameToTheNameInTheTrashIsRefused) {
   std::filesystem::remove(disk.onDisk(recordOf("a")));
   ASSERT_EQ(trashed("/Users/ann/two/a"), waiting);
   expectRefusedAndBothStay(waiting, "/Users/ann/one/a");
-  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/two/a"));
+  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/two/a", anywhere));
 }
 
 TEST_F(TrashRestore, AParentThatWasALinkAllAlongIsNoHindrance) {
   disk.makeFolder("/Users/ann/real");
   disk.makeLink("/Users/ann/named", "real");
   const Path waiting = trashed("/Users/ann/named/a");
-  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/named/a"));
+  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/named/a", anywhere));
   EXPECT_EQ(disk.contentOf("/Users/ann/real/a"), "content");
 }
 
@@ -126,14 +126,14 @@ TEST_F(TrashRestore, AHomeThatIsALinkIsNoHindranceWithoutARecord) {
   disk.makeLink("/Users/bob", disk.onDisk("/data/bob"));
   LinuxTrash ofBob(disk.path(), "/Users/bob");
   disk.makeFile("/Users/bob/.Trash/a", "content");
-  EXPECT_TRUE(ofBob.putBack("/Users/bob/.Trash/a", "/Users/bob/folder/a"));
+  EXPECT_TRUE(ofBob.putBack("/Users/bob/.Trash/a", "/Users/bob/folder/a", anywhere));
   EXPECT_EQ(disk.contentOf("/data/bob/folder/a"), "content");
 }
 
 TEST_F(TrashRestore, BringsBackFromATrashFolderOfTheHomeAndTouchesNoRecord) {
   disk.makeFile("/Users/ann/.Trash/a", "content");
   writeRecord("a", "of another");
-  EXPECT_TRUE(trash.putBack("/Users/ann/.Trash/a", "/Users/ann/a"));
+  EXPECT_TRUE(trash.putBack("/Users/ann/.Trash/a", "/Users/ann/a", anywhere));
   EXPECT_EQ(disk.contentOf("/Users/ann/a"), "content");
   EXPECT_EQ(disk.contentOf(recordOf("a")), "of another");
 }
@@ -146,8 +146,8 @@ TEST_F(TrashRestore, MovesNothingThatIsNotInATrash) {
 
 TEST_F(TrashRestore, AnItemThatIsGoneIsNotPutBack) {
   const Path waiting = trashed("/Users/ann/a");
-  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/a"));
-  EXPECT_FALSE(trash.putBack(waiting, "/Users/ann/b"));
+  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/a", anywhere));
+  EXPECT_FALSE(trash.putBack(waiting, "/Users/ann/b", anywhere));
 }
 
 class BadRecord : public TrashRestore, public testing::WithParamInterface<std::string> {};
@@ -161,7 +161,7 @@ TEST_P(BadRecord, ARecordThatIsMalformedOrPointsOutsideIsNeverFollowed) {
   expectRefusedAndBothStay(waiting, "/Users/ann/folder/a");
 
   std::filesystem::remove(disk.onDisk("/Users/ann/folder"));
-  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/folder/a"));
+  EXPECT_TRUE(trash.putBack(waiting, "/Users/ann/folder/a", anywhere));
   EXPECT_EQ(disk.contentOf("/Users/ann/folder/a"), "content");
   EXPECT_FALSE(disk.holds("/Users/ann/elsewhere/a"));
 }

@@ -73,7 +73,7 @@ TEST_F(TrashVolumes, AnItemComesBackFromItsVolumesTrash) {
     const auto place = trash.moveToTrash(onStick("folder/a"), anywhere);
     ASSERT_TRUE(place && trash.contains(*place));
     std::filesystem::remove(disk.onDisk(onStick("folder")));
-    EXPECT_TRUE(trash.putBack(*place, onStick("folder/a")));
+    EXPECT_TRUE(trash.putBack(*place, onStick("folder/a"), anywhere));
     EXPECT_EQ(disk.contentOf(onStick("folder/a")), "content");
     EXPECT_EQ(countIn(ownTrash() / "files") + countIn(ownTrash() / "info"), 0u);
   }));
@@ -109,7 +109,7 @@ TEST_F(TrashVolumes, ASharedTrashWithTheStickyBitIsPreferred) {
     const auto place = trash.moveToTrash(onStick("a"), anywhere);
     ASSERT_EQ(place, own / "files/a");
     EXPECT_THAT(disk.contentOf(own / "info/a.trashinfo"), HasSubstr("\nPath=a\n"));
-    EXPECT_TRUE(trash.putBack(*place, onStick("a")));
+    EXPECT_TRUE(trash.putBack(*place, onStick("a"), anywhere));
     EXPECT_EQ(countIn(own / "info"), 0u);
   }));
 }
@@ -213,7 +213,7 @@ TEST_F(TrashVolumes, WithTheHomeOnAVolumeOfItsOwnTheRestOfTheDiskHasATrashAtItsT
     ASSERT_EQ(place, own / "files/a");
     EXPECT_THAT(disk.contentOf(own / "info/a.trashinfo"), HasSubstr("\nPath=Library/Caches/a\n"));
     EXPECT_TRUE(trash.contains(*place));
-    EXPECT_TRUE(trash.putBack(*place, "/Library/Caches/a"));
+    EXPECT_TRUE(trash.putBack(*place, "/Library/Caches/a", anywhere));
   }));
 }
 

@@ -10,7 +10,7 @@ namespace {
 class TreeRemovalTest : public testing::Test {
  protected:
   bool remove(const Path& item) {
-    return files.remove(item, [](const Path&) { return true; });
+    return files.remove(item, [](const Path&, const FileAttributes&) { return true; });
   }
 
   TemporaryFolder disk;
@@ -39,7 +39,7 @@ TEST_F(TreeRemovalTest, AsksOnceWithTheRealPlaceBeforeAnythingChanges) {
   disk.makeFile("/real/tree/file", "x");
   disk.makeLink("/link", "real");
   std::vector<Path> asked;
-  EXPECT_TRUE(files.remove("/link/tree", [&](const Path& place) {
+  EXPECT_TRUE(files.remove("/link/tree", [&](const Path& place, const FileAttributes&) {
     asked.push_back(place);
     EXPECT_TRUE(disk.holds("/real/tree/file"));
     return true;
@@ -49,7 +49,7 @@ TEST_F(TreeRemovalTest, AsksOnceWithTheRealPlaceBeforeAnythingChanges) {
 
 TEST_F(TreeRemovalTest, LeavesEverythingWhenThePlaceIsRefused) {
   disk.makeFile("/a/tree/file", "kept");
-  EXPECT_FALSE(files.remove("/a/tree", [](const Path&) { return false; }));
+  EXPECT_FALSE(files.remove("/a/tree", [](const Path&, const FileAttributes&) { return false; }));
   EXPECT_FALSE(files.remove("/a/tree", nullptr));
   EXPECT_EQ(disk.contentOf("/a/tree/file"), "kept");
 }

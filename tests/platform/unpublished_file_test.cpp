@@ -1,5 +1,6 @@
 #include "platform/linux/unpublished_file.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -7,6 +8,7 @@
 #include <cerrno>
 #include <string>
 
+#include "platform/linux/folder_handle.h"
 #include "support/system_call_faults.h"
 #include "support/temporary_folder.h"
 
@@ -22,6 +24,10 @@ std::string contentOf(const UnpublishedFile& file) {
   return content;
 }
 
+std::optional<UnpublishedFile> in(const Path& folder) {
+  return UnpublishedFile::in(openFolderHandle(AT_FDCWD, folder.c_str()));
+}
+
 class UnpublishedFileTest : public ::testing::Test {
  protected:
   [[nodiscard]] bool isEmpty() const { return std::filesystem::is_empty(folder.path()); }
@@ -30,20 +36,20 @@ class UnpublishedFileTest : public ::testing::Test {
 };
 
 TEST_F(UnpublishedFileTest, IsNotThereForAnybodyUntilItIsPublished) {
-  auto file = UnpublishedFile::in(folder.path());
+  auto file = in(folder.path());
   ASSERT_TRUE(file);
   ASSERT_TRUE(file->append("half "));
   ASSERT_TRUE(file->append("and half"));
   EXPECT_TRUE(isEmpty());
   EXPECT_EQ(contentOf(*file), "half and half");
   EXPECT_EQ(file->size(), 13);
-  EXPECT_EQ(file->publish("Klarvik", ".deb"), folder.path() / "Klarvik.deb");
+  EXPECT_EQ(file->publish("Klarvik", ".deb"), "Klarvik.deb");
   EXPECT_EQ(folder.contentOf("Klarvik.deb"), "half and half");
 }
 
 TEST_F(UnpublishedFileTest, LeavesNothingWhenItGoesUnpublished) {
   {
-    auto file = UnpublishedFile::in(folder.path());
+    auto file = in(folder.path());
     ASSERT_TRUE(file && file->append("x"));
   }
   EXPECT_TRUE(isEmpty());
@@ -51,7 +57,7 @@ TEST_F(UnpublishedFileTest, LeavesNothingWhenItGoesUnpublished) {
 
 TEST_F(UnpublishedFileTest, StaysWhenItGoesPublished) {
   {
-    auto file = UnpublishedFile::in(folder.path());
+    auto file = in(folder.path());
     ASSERT_TRUE(file && file->append("x"));
     UnpublishedFile moved(std::move(*file));
     ASSERT_TRUE(moved.publish("a", ".zip"));
@@ -62,31 +68,31 @@ TEST_F(UnpublishedFileTest, StaysWhenItGoesPublished) {
 TEST_F(UnpublishedFileTest, NeverReplacesWhatStandsThere) {
   folder.makeFile("a.deb", "first");
   std::filesystem::create_symlink("nowhere", folder.path() / "a-2.deb");
-  auto file = UnpublishedFile::in(folder.path());
+  auto file = in(folder.path());
   ASSERT_TRUE(file && file->append("new"));
-  EXPECT_EQ(file->publish("a", ".deb"), folder.path() / "a-3.deb");
+  EXPECT_EQ(file->publish("a", ".deb"), "a-3.deb");
   EXPECT_EQ(folder.contentOf("a.deb"), "first");
   EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "a-2.deb"));
 }
 
 TEST_F(UnpublishedFileTest, MayBeReadByEverybodyOnceItIsPublished) {
-  auto file = UnpublishedFile::in(folder.path());
-  const auto path = file->publish("a", "");
-  ASSERT_TRUE(path);
+  auto file = in(folder.path());
+  const auto name = file->publish("a", "");
+  ASSERT_TRUE(name);
   struct ::stat status {};
-  ASSERT_EQ(::stat(path->c_str(), &status), 0);
+  ASSERT_EQ(::stat((folder.path() / *name).c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 0777U, 0644U);
 }
 
 TEST_F(UnpublishedFileTest, CannotBeMadeWhereThereIsNoFolder) {
-  EXPECT_FALSE(UnpublishedFile::in(folder.path() / "missing"));
+  EXPECT_FALSE(in(folder.path() / "missing"));
   folder.makeFile("file", "");
-  EXPECT_FALSE(UnpublishedFile::in(folder.path() / "file"));
+  EXPECT_FALSE(in(folder.path() / "file"));
 }
 
 TEST_F(UnpublishedFileTest, CannotBePublishedIntoAFolderThatHasGone) {
   folder.makeFolder("gone");
-  auto file = UnpublishedFile::in(folder.path() / "gone");
+  auto file = in(folder.path() / "gone");
   ASSERT_TRUE(file);
   std::filesystem::remove_all(folder.path() / "gone");
   EXPECT_FALSE(file->publish("a", ""));
@@ -95,7 +101,7 @@ TEST_F(UnpublishedFileTest, CannotBePublishedIntoAFolderThatHasGone) {
 /// Where a fault leaves the folder: empty, or with the whole file under its name.
 TEST_F(UnpublishedFileTest, IsWholeOrNotThereWhicheverSystemCallFails) {
   const auto operation = [this] {
-    auto file = UnpublishedFile::in(folder.path());
+    auto file = in(folder.path());
     return file && file->append("first ") && file->append("second") && file->flush() &&
            file->publish("a", ".deb").has_value();
   };
@@ -117,26 +123,23 @@ TEST_F(UnpublishedFileTest, IsWholeOrNotThereWhicheverSystemCallFails) {
 TEST_F(UnpublishedFileTest, SaysWhenItCannotBeFlushed) {
   const auto flush = [this] {
     refuseSystemCall(SYS_fdatasync, EIO);
-    auto file = UnpublishedFile::in(folder.path());
+    auto file = in(folder.path());
     return file && file->append("x") && file->flush();
   };
   EXPECT_FALSE(runWithFault({}, flush).answer);
 }
 
-/// The first call fails that would make a file without a name.
-const SystemCallFault noNameless{
-    .kind = SystemCallFault::Kind::failsOnce, .at = 1, .error = EOPNOTSUPP, .disturbance = {}};
-
 TEST_F(UnpublishedFileTest, IsHiddenAndGoesAllTheSameWhereFilesCannotBeNameless) {
   const auto write = [this](bool publishes) {
-    auto file = UnpublishedFile::in(folder.path());
+    refuseNamelessFiles();
+    auto file = in(folder.path());
     if (!file || !file->append("x") || isEmpty()) return false;
     return !publishes || file->publish("a", ".deb").has_value();
   };
-  EXPECT_TRUE(runWithFault(noNameless, [&] { return write(false); }).answer);
+  EXPECT_TRUE(runWithFault({}, [&] { return write(false); }).answer);
   EXPECT_TRUE(isEmpty());
   folder.makeFile("a.deb", "first");
-  EXPECT_TRUE(runWithFault(noNameless, [&] { return write(true); }).answer);
+  EXPECT_TRUE(runWithFault({}, [&] { return write(true); }).answer);
   EXPECT_EQ(folder.contentOf("a.deb"), "first");
   EXPECT_EQ(folder.contentOf("a-2.deb"), "x");
 }
@@ -144,11 +147,12 @@ TEST_F(UnpublishedFileTest, IsHiddenAndGoesAllTheSameWhereFilesCannotBeNameless)
 TEST_F(UnpublishedFileTest, ReplacesNothingWhereNoRenamingPromisesThatAndFilesCannotBeNameless) {
   folder.makeFile("a.deb", "first");
   const auto write = [this] {
+    refuseNamelessFiles();
     refuseSystemCall(SYS_renameat2, EINVAL);
-    auto file = UnpublishedFile::in(folder.path());
-    return file && file->append("x") && file->publish("a", ".deb") == folder.path() / "a-2.deb";
+    auto file = in(folder.path());
+    return file && file->append("x") && file->publish("a", ".deb") == "a-2.deb";
   };
-  EXPECT_TRUE(runWithFault(noNameless, write).answer);
+  EXPECT_TRUE(runWithFault({}, write).answer);
   EXPECT_EQ(folder.contentOf("a.deb"), "first");
   EXPECT_EQ(folder.contentOf("a-2.deb"), "x");
   std::filesystem::remove(folder.path() / "a.deb");
@@ -158,12 +162,13 @@ TEST_F(UnpublishedFileTest, ReplacesNothingWhereNoRenamingPromisesThatAndFilesCa
 
 TEST_F(UnpublishedFileTest, IsGoneOnceDiscardedThoughSomebodyReadsItAndItCannotBeNameless) {
   const auto discard = [this] {
-    auto file = UnpublishedFile::in(folder.path());
+    refuseNamelessFiles();
+    auto file = in(folder.path());
     if (!file || !file->append("x") || isEmpty()) return false;
     file->discard();
     return isEmpty() && contentOf(*file) == "x";
   };
-  EXPECT_TRUE(runWithFault(noNameless, discard).answer);
+  EXPECT_TRUE(runWithFault({}, discard).answer);
 }
 
 }  // namespace

@@ -353,7 +353,8 @@ TEST_F(WalkFaultsTest, AFileSystemThatDoesNotTellKindsGivesTheSameResult) {
   EXPECT_EQ(expected.size(), 5U);
   kindsAreHidden = true;
   const auto seen = observe();
-  const bool removed = files.remove("/start", [](const Path&) { return true; });
+  const bool removed =
+      files.remove("/start", [](const Path&, const FileAttributes&) { return true; });
   kindsAreHidden = false;
   EXPECT_EQ(seen, expected);
   EXPECT_TRUE(removed);

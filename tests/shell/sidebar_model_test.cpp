@@ -46,7 +46,7 @@ class SidebarRows : public ::testing::Test {
   AppCommands commands{std::vector<AppCommand>{}};
   SharedState shared{desk.desktop};
   AppState appState{desk.desktop, shared.toolActivity(), shared.scanCoordinator(),
-                    shared.scanHistory()};
+                    shared.scanHistory(), shared.removalNotice()};
 };
 
 TEST_F(SidebarRows, StandInTheirOrderBelowTheHeadingsOfTheirGroups) {

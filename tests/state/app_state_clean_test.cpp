@@ -134,7 +134,7 @@ TEST_F(AppStateClean, TheSummaryTellsTheBytesTheItemsTheCategoriesAndTheWayBack)
             (std::map<CategoryType, std::int64_t>{{CategoryType::appCaches, 6000},
                                                   {CategoryType::xcodeArchives, 40'000}}));
   ASSERT_EQ(summary.restorable.size(), 4U);
-  for (const auto& [original, trashed] : summary.restorable) {
+  for (const auto& [original, trashed, identity] : summary.restorable) {
     EXPECT_FALSE(around.disk.holds(original));
     EXPECT_TRUE(around.disk.holds(trashed));
   }
@@ -338,10 +338,34 @@ TEST_F(AppStateClean, AFolderComesBackBeforeWhatLayInItThoughItWentLast) {
   letGo.release();
   ASSERT_TRUE(cleaned());
   ASSERT_EQ(state->lastClean()->restorable.size(), 2U);
-  ASSERT_EQ(state->lastClean()->restorable[0].first, innerFolder.path);
+  ASSERT_EQ(state->lastClean()->restorable[0].original, innerFolder.path);
   EXPECT_EQ(restoreAll(), 2);
   EXPECT_TRUE(isThere(inner));
   EXPECT_TRUE(isThere(beside));
+}
+
+TEST_F(AppStateClean, WhatIsAnotherThingSinceTheScanStaysAndTheUserIsTold) {
+  scanAndFind({caches});
+  around.disk.makeFile("/Users/ann/other", std::string_view("new"));
+  std::filesystem::rename(around.disk.onDisk("/Users/ann/other"), around.disk.onDisk(b.path));
+  state->performClean();
+  ASSERT_TRUE(cleaned());
+  EXPECT_TRUE(is(AppState::CleanDone{4000}));
+  EXPECT_EQ(around.disk.contentOf(b.path), "new");
+  EXPECT_EQ(state->scanResults().at(0).items, std::vector<JunkItem>{b});
+  EXPECT_TRUE(QString::fromStdString(notice.text()).startsWith("1 item was left alone"));
+}
+
+TEST_F(AppStateClean, WhatIsAnotherThingInTheTrashByNowDoesNotComeBackAndTheUserIsTold) {
+  scanAndFind({caches});
+  state->performClean();
+  ASSERT_TRUE(cleaned());
+  const Path trashed = around.disk.onDisk("/Users/ann/.local/share/Trash/files/b");
+  std::filesystem::rename(trashed, around.disk.onDisk("/Users/ann/taken out"));
+  around.disk.makeFile("/Users/ann/.local/share/Trash/files/b", std::string_view("new"));
+  EXPECT_EQ(restoreAll(), 2);
+  EXPECT_FALSE(isThere(b));
+  EXPECT_TRUE(QString::fromStdString(notice.text()).startsWith("1 item was not put back"));
 }
 
 TEST_F(AppStateClean, RemoveItemsOfNothingChangesNothing) {

@@ -434,7 +434,8 @@ TEST(AppStateOnARealDisk, ScansWhatIsThere) {
   ToolActivity activity(around.clock);
   ScanCoordinator coordinator(around.defaults);
   ScanHistory history(around.defaults, around.clock);
-  AppState state(around.desktop, activity, coordinator, history);
+  RemovalNotice notice;
+  AppState state(around.desktop, activity, coordinator, history, notice);
   state.startScan();
   ASSERT_TRUE(
       turnMainLoopUntil([&] { return std::holds_alternative<AppState::Done>(state.scanState()); }));

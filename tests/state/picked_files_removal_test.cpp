@@ -17,11 +17,12 @@ class PickedFilesRemovalTest : public ::testing::Test {
   PickedFile file(const std::string& name, std::int64_t bytes = 100) {
     const Path place = "/Users/ann/Documents/" + name;
     around.disk.makeFile(place, bytes);
-    return {.url = place, .name = name, .size = bytes};
+    return {
+        .url = place, .name = name, .size = bytes, .identity = entryIdentity(around.files, place)};
   }
   QCoro::Task<> trash(std::vector<PickedFile> files, ScannerEngine::PickedFileCheck check = {}) {
     const std::size_t count = files.size();
-    auto pick = [files = std::move(files), check = std::move(check)] {
+    auto pick = [files = std::move(files), check = std::move(check)](LeftAlone&) {
       return PickedFilesRemoval::Pick{files, check};
     };
     moved = co_await removal.trash(count, std::move(pick));
@@ -32,7 +33,8 @@ class PickedFilesRemovalTest : public ::testing::Test {
 
   FakeDesktopOnDisk around;
   std::optional<std::set<Path>> moved;
-  PickedFilesRemoval removal{around.desktop};
+  RemovalNotice notice;
+  PickedFilesRemoval removal{around.desktop, notice};
 };
 
 TEST_F(PickedFilesRemovalTest, MovesTheFilesAndTellsWhich) {

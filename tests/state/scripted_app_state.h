@@ -16,9 +16,10 @@ struct ScriptedAppState {
   ToolActivity activity{around.clock};
   ScanCoordinator coordinator{around.defaults};
   ScanHistory history{around.defaults, around.clock};
-  ScriptedScan scans;
-  std::optional<AppState> state{std::in_place, around.desktop, activity,    coordinator,
-                                history,       nullptr,        scans.scan()};
+  RemovalNotice notice;
+  ScriptedScan scans{around.files};
+  std::optional<AppState> state{std::in_place, around.desktop, activity, coordinator,
+                                history,       notice,         nullptr,  scans.scan()};
 };
 
 }  // namespace klarvik

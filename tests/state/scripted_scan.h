@@ -6,14 +6,19 @@
 #include <map>
 #include <mutex>
 
+#include "platform/file_system.h"
 #include "state/app_state.h"
 
 namespace klarvik {
 
 /// A Smart Scan that reports what a test tells it to, when it is told to: from a thread of its own,
 /// like the real one. Runs are counted from 0; what is told to a run waits until the run begins.
+///
+/// Items have the identity of what stands at their paths when they are told, as a scan finds them.
 class ScriptedScan {
  public:
+  explicit ScriptedScan(const FileSystem& files) : _files(files) {}
+
   using Step =
       std::function<void(const ScannerEngine::UpdateSink&, const ScannerEngine::CategorySink&)>;
 
@@ -32,10 +37,12 @@ class ScriptedScan {
     tell(run, [update](const auto& onUpdate, const auto&) { onUpdate(update); });
   }
   void category(int run, CleanCategory category) {
+    identify(category);
     tell(run, [category](const auto&, const auto& onCategory) { onCategory(category); });
   }
   /// The run comes back with `found`, once it has done all that it was told before.
   void finish(int run, std::vector<CleanCategory> found) {
+    for (CleanCategory& category : found) identify(category);
     const std::scoped_lock lock(_mutex);
     _found[run] = std::move(found);
     _told.notify_all();
@@ -73,6 +80,11 @@ class ScriptedScan {
     return _found[number];
   }
 
+  void identify(CleanCategory& category) const {
+    for (JunkItem& item : category.items) item.identity = entryIdentity(_files, item.path);
+  }
+
+  const FileSystem& _files;
   mutable std::mutex _mutex;
   std::condition_variable_any _told;
   int _runs = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/packages.h"
+#include "support/folder_by_path.h"
 
 namespace klarvik {
 
@@ -22,18 +23,24 @@ bool isHidden(const Path& name) {
 
 class RememberedEntry final : public WalkEntry {
  public:
-  RememberedEntry(Path path, std::size_t depth, const FileAttributes& attributes)
-      : _path(std::move(path)), _name(_path.filename()), _depth(depth), _attributes(attributes) {}
+  RememberedEntry(const Path& start, Path path, std::size_t depth, const FileAttributes& attributes)
+      : _path(std::move(path)),
+        _folder(depth == 1 ? "" : _path.parent_path().lexically_relative(start).native()),
+        _name(_path.filename()),
+        _depth(depth),
+        _attributes(attributes) {}
 
   [[nodiscard]] std::string_view name() const override { return _name; }
   [[nodiscard]] FileKind kind() const override { return _attributes.kind; }
   [[nodiscard]] std::size_t depth() const override { return _depth; }
   [[nodiscard]] Path path() const override { return _path; }
+  [[nodiscard]] std::string_view folder() const override { return _folder; }
   [[nodiscard]] std::int64_t allocatedBytes() override { return _attributes.allocatedBytes; }
   [[nodiscard]] std::optional<FileAttributes> attributes() override { return _attributes; }
 
  private:
   Path _path;
+  std::string _folder;
   std::string _name;
   std::size_t _depth;
   FileAttributes _attributes;
@@ -121,7 +128,7 @@ WalkOutcome FakeFileSystem::walk(const Path& folder, WalkOptions options,
     if (options.skipHidden && isHidden(path.filename())) continue;
     const auto own = attributes(path);
     if (!own) continue;
-    RememberedEntry entry(path, depth, *own);
+    RememberedEntry entry(folder, path, depth, *own);
     const WalkStep step = visit(entry);
     if (step == WalkStep::stop) return WalkOutcome::stopped;
     const bool closed = step == WalkStep::skipDescendants || own->kind != FileKind::directory ||
@@ -133,6 +140,10 @@ WalkOutcome FakeFileSystem::walk(const Path& folder, WalkOptions options,
 
 std::unique_ptr<FileReader> FakeFileSystem::openForReading(const Path&) const {
   return nullptr;
+}
+
+std::unique_ptr<OpenedFolder> FakeFileSystem::openFolder(const Path& folder) const {
+  return std::make_unique<FolderByPath>(*this, folder);
 }
 
 bool FakeFileSystem::createDirectories(const Path& folder) {
@@ -162,16 +173,17 @@ bool FakeFileSystem::move(const Path& from, const Path& to) {
   return true;
 }
 
-bool FakeFileSystem::isAllowed(const Path& item, const PlaceCheck& check) const {
+bool FakeFileSystem::isAllowed(const Path& item, const ItemCheck& check) const {
   const auto real = _realPlaces.find(item);
-  return check(real == _realPlaces.end() ? item : real->second);
+  const auto own = attributes(item);
+  return own && check(real == _realPlaces.end() ? item : real->second, *own);
 }
 
-bool FakeFileSystem::moveChecked(const Path& from, const Path& to, const PlaceCheck& mayMove) {
+bool FakeFileSystem::moveChecked(const Path& from, const Path& to, const ItemCheck& mayMove) {
   return isAllowed(from, mayMove) && move(from, to);
 }
 
-bool FakeFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
+bool FakeFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   if (!isAllowed(item, mayRemove)) return false;
   const std::scoped_lock lock(_mutex);
   if (!_entries.contains(item)) return false;
@@ -203,17 +215,17 @@ bool FakeTrash::contains(const Path& item) const {
   return item.native().find("/.Trash/") != std::string::npos || isBelow(mainTrash, item);
 }
 
-std::optional<Path> FakeTrash::moveToTrash(const Path& item, const PlaceCheck& mayMove) {
+std::optional<Path> FakeTrash::moveToTrash(const Path& item, const ItemCheck& mayMove) {
   const Path trashed = mainTrash / item.filename();
   return _files.moveChecked(item, trashed, mayMove) ? std::optional(trashed) : std::nullopt;
 }
 
-bool FakeTrash::putBack(const Path& trashed, const Path& original) {
+bool FakeTrash::putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) {
   _files.createDirectories(original.parent_path());
-  return _files.move(trashed, original);
+  return _files.moveChecked(trashed, original, mayReturn);
 }
 
-bool FakeTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
+bool FakeTrash::remove(const Path& trashed, const ItemCheck& mayRemove) {
   return _files.remove(trashed, mayRemove);
 }
 

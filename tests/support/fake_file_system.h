@@ -44,15 +44,16 @@ class FakeFileSystem final : public FileSystem {
   WalkOutcome walk(const Path& folder, WalkOptions options,
                    const WalkVisitor& visit) const override;
   [[nodiscard]] std::unique_ptr<FileReader> openForReading(const Path& path) const override;
+  [[nodiscard]] std::unique_ptr<OpenedFolder> openFolder(const Path& folder) const override;
   bool createDirectories(const Path& folder) override;
   bool move(const Path& from, const Path& to) override;
-  bool remove(const Path& item, const PlaceCheck& mayRemove) override;
+  bool remove(const Path& item, const ItemCheck& mayRemove) override;
 
   /// A move that asks for leave first, as a removal does.
-  bool moveChecked(const Path& from, const Path& to, const PlaceCheck& mayMove);
+  bool moveChecked(const Path& from, const Path& to, const ItemCheck& mayMove);
 
  private:
-  [[nodiscard]] bool isAllowed(const Path& item, const PlaceCheck& check) const;
+  [[nodiscard]] bool isAllowed(const Path& item, const ItemCheck& check) const;
   [[nodiscard]] std::vector<Path> subtree(const Path& item) const;
 
   mutable std::shared_mutex _mutex;
@@ -72,9 +73,9 @@ class FakeTrash final : public Trash {
   [[nodiscard]] std::optional<std::vector<Path>> list() override;
   [[nodiscard]] std::optional<Date> modificationDate() override;
   [[nodiscard]] bool contains(const Path& item) const override;
-  std::optional<Path> moveToTrash(const Path& item, const PlaceCheck& mayMove) override;
-  bool putBack(const Path& trashed, const Path& original) override;
-  bool remove(const Path& trashed, const PlaceCheck& mayRemove) override;
+  std::optional<Path> moveToTrash(const Path& item, const ItemCheck& mayMove) override;
+  bool putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) override;
+  bool remove(const Path& trashed, const ItemCheck& mayRemove) override;
 
  private:
   FakeFileSystem& _files;

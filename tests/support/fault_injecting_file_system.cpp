@@ -1,6 +1,9 @@
 #include "support/fault_injecting_file_system.h"
 
 #include <algorithm>
+#include <limits>
+
+#include "support/folder_by_path.h"
 
 namespace klarvik {
 
@@ -8,11 +11,18 @@ template class FaultInjection<FileOperation>;
 
 namespace {
 
-class FailingReader final : public FileReader {
+class OverlaidReader final : public FileReader {
  public:
-  FailingReader(std::unique_ptr<FileReader> file, std::size_t limit)
-      : _file(std::move(file)), _left(limit) {}
+  using Overlay = std::function<FileAttributes(const FileAttributes&)>;
 
+  /// Fails once `limit` bytes have been read.
+  OverlaidReader(std::unique_ptr<FileReader> file, std::size_t limit, Overlay overlay)
+      : _file(std::move(file)), _left(limit), _overlay(std::move(overlay)) {}
+
+  [[nodiscard]] std::optional<FileAttributes> attributes() const override {
+    const auto known = _file->attributes();
+    return known ? std::optional(_overlay(*known)) : std::nullopt;
+  }
   [[nodiscard]] std::optional<std::size_t> read(std::span<std::byte> buffer) override {
     if (_left == 0) return std::nullopt;
     const auto count = _file->read(buffer.first(std::min(buffer.size(), _left)));
@@ -23,6 +33,7 @@ class FailingReader final : public FileReader {
  private:
   std::unique_ptr<FileReader> _file;
   std::size_t _left;
+  Overlay _overlay;
 };
 
 }  // namespace
@@ -38,6 +49,7 @@ class FaultInjectingFileSystem::OverlaidEntry final : public WalkEntry {
   [[nodiscard]] FileKind kind() const override { return _entry.kind(); }
   [[nodiscard]] std::size_t depth() const override { return _entry.depth(); }
   [[nodiscard]] Path path() const override { return _entry.path(); }
+  [[nodiscard]] std::string_view folder() const override { return _entry.folder(); }
   [[nodiscard]] std::int64_t allocatedBytes() override {
     if (isPlain()) return _entry.allocatedBytes();
     const auto known = attributes();
@@ -157,8 +169,15 @@ std::unique_ptr<FileReader> FaultInjectingFileSystem::openForReading(const Path&
   auto file = _files.openForReading(path);
   const std::scoped_lock lock(_mutex);
   const auto limit = _readLimits.find(path);
-  if (!file || limit == _readLimits.end()) return file;
-  return std::make_unique<FailingReader>(std::move(file), limit->second);
+  const bool isLimited = limit != _readLimits.end();
+  if (!file || (!isLimited && !_isOverlaid)) return file;
+  return std::make_unique<OverlaidReader>(
+      std::move(file), isLimited ? limit->second : std::numeric_limits<std::size_t>::max(),
+      [this, path](const FileAttributes& known) { return overlaid(path, known); });
+}
+
+std::unique_ptr<OpenedFolder> FaultInjectingFileSystem::openFolder(const Path& folder) const {
+  return std::make_unique<FolderByPath>(*this, folder);
 }
 
 bool FaultInjectingFileSystem::createDirectories(const Path& folder) {
@@ -169,7 +188,7 @@ bool FaultInjectingFileSystem::move(const Path& from, const Path& to) {
   return goesAhead(Operation::move, from) && _files.move(from, to);
 }
 
-bool FaultInjectingFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
+bool FaultInjectingFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   const bool done = goesAhead(Operation::remove, item) && _files.remove(item, mayRemove);
   const std::scoped_lock lock(_mutex);
   _removals.push_back({item, done});

@@ -60,9 +60,10 @@ class FaultInjectingFileSystem final : public FileSystem, public FaultInjection<
   WalkOutcome walk(const Path& folder, WalkOptions options,
                    const WalkVisitor& visit) const override;
   [[nodiscard]] std::unique_ptr<FileReader> openForReading(const Path& path) const override;
+  [[nodiscard]] std::unique_ptr<OpenedFolder> openFolder(const Path& folder) const override;
   bool createDirectories(const Path& folder) override;
   bool move(const Path& from, const Path& to) override;
-  bool remove(const Path& item, const PlaceCheck& mayRemove) override;
+  bool remove(const Path& item, const ItemCheck& mayRemove) override;
 
  private:
   class OverlaidEntry;

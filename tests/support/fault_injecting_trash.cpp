@@ -45,7 +45,7 @@ bool FaultInjectingTrash::contains(const Path& item) const {
   return _trash.contains(item);
 }
 
-std::optional<Path> FaultInjectingTrash::moveToTrash(const Path& item, const PlaceCheck& mayMove) {
+std::optional<Path> FaultInjectingTrash::moveToTrash(const Path& item, const ItemCheck& mayMove) {
   if (!goesAhead(Operation::moveToTrash, item)) return std::nullopt;
   auto trashed = _trash.moveToTrash(item, mayMove);
   if (!trashed) return std::nullopt;
@@ -55,13 +55,15 @@ std::optional<Path> FaultInjectingTrash::moveToTrash(const Path& item, const Pla
   return trashed;
 }
 
-bool FaultInjectingTrash::putBack(const Path& trashed, const Path& original) {
-  if (!goesAhead(Operation::putBack, trashed) || !_trash.putBack(trashed, original)) return false;
+bool FaultInjectingTrash::putBack(const Path& trashed, const Path& original,
+                                  const ItemCheck& mayReturn) {
+  if (!goesAhead(Operation::putBack, trashed)) return false;
+  if (!_trash.putBack(trashed, original, mayReturn)) return false;
   moveStampThatIsSet();
   return true;
 }
 
-bool FaultInjectingTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
+bool FaultInjectingTrash::remove(const Path& trashed, const ItemCheck& mayRemove) {
   if (!goesAhead(Operation::remove, trashed) || !_trash.remove(trashed, mayRemove)) return false;
   moveStampThatIsSet();
   const std::scoped_lock lock(_mutex);

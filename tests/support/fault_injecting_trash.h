@@ -41,9 +41,9 @@ class FaultInjectingTrash final : public Trash, public FaultInjection<TrashOpera
   [[nodiscard]] std::optional<std::vector<Path>> list() override;
   [[nodiscard]] std::optional<Date> modificationDate() override;
   [[nodiscard]] bool contains(const Path& item) const override;
-  std::optional<Path> moveToTrash(const Path& item, const PlaceCheck& mayMove) override;
-  bool putBack(const Path& trashed, const Path& original) override;
-  bool remove(const Path& trashed, const PlaceCheck& mayRemove) override;
+  std::optional<Path> moveToTrash(const Path& item, const ItemCheck& mayMove) override;
+  bool putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) override;
+  bool remove(const Path& trashed, const ItemCheck& mayRemove) override;
 
  private:
   void moveStampThatIsSet();

@@ -133,6 +133,18 @@ void refuseSystemCall(long call, int error) {
   if (installFilter(program, 0) != 0) giveUp("refuse a system call");
 }
 
+void refuseNamelessFiles() {
+  constexpr unsigned onlyNameless = O_TMPFILE & ~O_DIRECTORY;
+  std::vector<sock_filter> program{
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+      BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_openat, 0, 3),
+      BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args[2])),
+      BPF_JUMP(BPF_JMP | BPF_JSET | BPF_K, onlyNameless, 0, 1),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EOPNOTSUPP),
+      BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+  if (installFilter(program, 0) != 0) giveUp("refuse files without a name");
+}
+
 FaultyRun runWithFault(const SystemCallFault& fault, const std::function<bool()>& operation) {
   Outcome* const outcome = sharedOutcome();
   const pid_t child = ::fork();

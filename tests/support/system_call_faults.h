@@ -29,6 +29,9 @@ struct FaultyRun {
 /// operations that run with a fault only: nothing takes it back.
 void refuseSystemCall(long call, int error);
 
+/// From here on this thread is on a file system that has no files without a name.
+void refuseNamelessFiles();
+
 /// Runs `operation` on one thread of a child process, with the fault. Its calls are caught in the
 /// kernel (seccomp), however they are made. What the operation changes in memory is lost with the
 /// child. Where this cannot be set up the test program ends with a message.

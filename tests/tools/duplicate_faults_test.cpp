@@ -1,13 +1,16 @@
 // What a scan for duplicates meets on a disk that is not as it should be.
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "platform/linux/linux_file_system.h"
+#include "platform/linux/unique_fd.h"
 #include "support/child_process.h"
 #include "support/fault_injecting_file_system.h"
+#include "support/system_call_faults.h"
 #include "support/temporary_folder.h"
 #include "tools/duplicate_scanner.h"
 
@@ -234,6 +237,27 @@ TEST_F(DuplicateFaults, WhereHandlesRunOutLessIsFoundAndNothingWrong) {
       });
     })) << handles;
   }
+}
+
+/// Deeper than any path that the system takes at once, with an equal file on each level.
+TEST_F(DuplicateFaults, OnAChainOfFoldersAFileCostsTheSameFewSystemCallsHoweverDeepItLies) {
+  constexpr int levels = 600;
+  const std::string name(40, 'n');
+  UniqueFd folder(::open(disk.path().c_str(), O_PATH | O_DIRECTORY));
+  for (int level = 0; level < levels; ++level) {
+    ASSERT_EQ(::mkdirat(folder.get(), name.c_str(), 0755), 0);
+    folder.reset(::openat(folder.get(), name.c_str(), O_PATH | O_DIRECTORY));
+    const UniqueFd file(::openat(folder.get(), "file", O_WRONLY | O_CREAT, 0600));
+    ASSERT_EQ(::write(file.get(), "equal", 5), 5);
+  }
+  constexpr int mostCalls = 30 * levels;
+  const FaultyRun run =
+      runWithFault({SystemCallFault::Kind::disturbed, mostCalls, 0, [] {}}, [this] {
+        const auto groups = DuplicateScanner(real, 1).scan({"/"}, 1, {});
+        return groups.size() == 1 && groups[0].files.size() == levels;
+      });
+  EXPECT_TRUE(run.answer);
+  EXPECT_FALSE(run.reached) << "more than 30 calls a file";
 }
 
 TEST_F(DuplicateFaults, WhereNoThreadCanBeHadTheCallersDoesTheWork) {

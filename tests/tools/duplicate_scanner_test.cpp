@@ -79,6 +79,16 @@ TEST_F(DuplicateScannerTest, SizesThatAreAllDifferentYieldTwoReports) {
                                    DuplicateProgress{0.15, 0, "Grouping by size (2 files)..."}));
 }
 
+TEST_F(DuplicateScannerTest, ReportsAGroupAsSoonAsItHasTwoFiles) {
+  for (const char* name : {"a", "b"}) disk.makeFile(Path("/pair") / name, "the two larger ones");
+  for (int number = 0; number < 9; ++number) {
+    disk.makeFile("/others/" + std::to_string(number), std::to_string(number));
+  }
+  scan({"/"});
+  ASSERT_EQ(reports.size(), 6U);
+  EXPECT_EQ(reports[3].groupsFound, 1) << "after ten of the eleven files, the two largest first";
+}
+
 TEST_F(DuplicateScannerTest, ReportsEachStepAndEveryTenthFile) {
   for (int number = 0; number < 21; ++number) {
     disk.makeFile("/folder/" + std::to_string(number), "the same");

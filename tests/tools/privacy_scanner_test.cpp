@@ -43,9 +43,14 @@ class PrivacyScannerTest : public testing::Test {
     return std::nullopt;
   }
 
-  static PrivacyItem item(PrivacyCategory category, std::int64_t size,
-                          std::optional<Path> path = std::nullopt) {
-    return {.category = category, .name = "x", .path = std::move(path), .size = size};
+  /// What stands at `path` now, as a scan would find it.
+  [[nodiscard]] PrivacyItem item(PrivacyCategory category, std::int64_t size,
+                                 const std::optional<Path>& path = std::nullopt) const {
+    return {.category = category,
+            .name = "x",
+            .path = path,
+            .size = size,
+            .identity = path ? entryIdentity(files, *path) : std::nullopt};
   }
 };
 

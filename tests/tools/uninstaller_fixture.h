@@ -36,7 +36,8 @@ class UninstallerTest : public testing::Test {
     return {.name = name,
             .bundleID = bundleID,
             .appURL = place,
-            .appSize = static_cast<std::int64_t>(list.size()) + 100};
+            .appSize = static_cast<std::int64_t>(list.size()) + 100,
+            .identity = entryIdentity(files, place)};
   }
 
   [[nodiscard]] std::vector<Path> placesFound(const AppInfo& app) {
@@ -46,15 +47,17 @@ class UninstallerTest : public testing::Test {
     return places;
   }
 
+  /// What the user keeps selected of an application's leftovers, by their places.
+  [[nodiscard]] std::vector<ResidualFile> residualsAt(const std::vector<Path>& places,
+                                                      std::int64_t size = 10) const {
+    std::vector<ResidualFile> residuals;
+    for (const Path& place : places) {
+      residuals.push_back({.url = place, .size = size, .identity = entryIdentity(files, place)});
+    }
+    return residuals;
+  }
+
   [[nodiscard]] DiskSnapshot snapshot() const { return snapshotOf(disk.path()); }
 };
-
-/// What the user keeps selected of an application's leftovers, by their places.
-inline std::vector<ResidualFile> residualsAt(const std::vector<Path>& places,
-                                             std::int64_t size = 10) {
-  std::vector<ResidualFile> residuals;
-  for (const Path& place : places) residuals.push_back({.url = place, .size = size});
-  return residuals;
-}
 
 }  // namespace klarvik

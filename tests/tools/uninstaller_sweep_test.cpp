@@ -25,11 +25,13 @@ class UninstallSweep : public testing::Test {
       disk.makeFile(canary / "com.acme.writer/data/blob", "mine");
       disk.makeFile(canary / "Writer.app/Contents/program", "mine");
       static_cast<void>(world.trash.folders());
+      app.identity = entryIdentity(world.files, app.appURL);
+      leftover.identity = entryIdentity(world.files, cache);
     }
 
     bool uninstall() {
       UninstallerEngine engine(world.desktop);
-      return engine.uninstall(app, {{.url = cache, .size = 10}}) == 110;
+      return engine.uninstall(app, {leftover}) == 110;
     }
 
     [[nodiscard]] DiskSnapshot outsideTheTrash() const {
@@ -55,11 +57,12 @@ class UninstallSweep : public testing::Test {
 
     FakeDesktopOnDisk world;
     const TemporaryFolder& disk = world.disk;
-    const AppInfo app{.name = "Writer",
-                      .bundleID = "com.acme.writer",
-                      .appURL = "/Applications/Writer.app",
-                      .appSize = 100};
+    AppInfo app{.name = "Writer",
+                .bundleID = "com.acme.writer",
+                .appURL = "/Applications/Writer.app",
+                .appSize = 100};
     const Path cache = "/Users/ann/Library/Caches/com.acme.writer";
+    ResidualFile leftover{.url = cache, .size = 10};
     const Path canary = "/Users/ann/Documents";
   };
 

@@ -85,6 +85,30 @@ TEST_F(LargeFilesWindow, ListsTheFilesAndMovesThePickedOneToTheTrash) {
   picture("large-files-after");
 }
 
+TEST_F(LargeFilesWindow, SaysThatAFileStaysWhoseNameCameToAnotherOne) {
+  openLargeFiles();
+  ASSERT_TRUE(rescan("holiday.MOV"));
+  const Path film = desk->disk.onDisk("/Users/ann/Movies/holiday.MOV");
+  desk->disk.makeFile("/Users/ann/another film", std::string_view("nobody was shown this"));
+  std::filesystem::rename(desk->disk.onDisk("/Users/ann/another film"), film);
+  clickSelectionBox("holiday.MOV");
+  settle();
+  click("Move 734 MB to Trash");
+  ASSERT_NE(waitFor("Something was left as it was"), nullptr);
+  settle();
+  EXPECT_TRUE(shows("1 item was left alone: something else has taken its place"));
+  EXPECT_TRUE(shows("holiday.MOV"));
+  EXPECT_EQ(desk->disk.contentOf("/Users/ann/Movies/holiday.MOV"), "nobody was shown this");
+  picture("large-files-left-alone");
+  window().resize(920, 640);
+  picture("large-files-left-alone_920x640");
+
+  ASSERT_TRUE(tabTo("Dismiss"));
+  press(Qt::Key_Space);
+  settle();
+  EXPECT_FALSE(shows("Something was left as it was"));
+}
+
 TEST_F(LargeFilesWindow, FiltersByKindAndOrdersByName) {
   openLargeFiles();
   ASSERT_TRUE(rescan("holiday.MOV"));

@@ -132,7 +132,7 @@ TEST_F(SmartScanWindow, CleansSafeItemsWithoutAskingAndTakesThemBack) {
   ASSERT_FALSE(restorable.empty());
   click("Restore");
   ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
-  for (const auto& [original, trashed] : restorable) {
+  for (const auto& [original, trashed, identity] : restorable) {
     EXPECT_TRUE(desk->disk.holds(original)) << original;
   }
   EXPECT_FALSE(shows("Restore"));
@@ -186,7 +186,7 @@ TEST_F(SmartScanWindow, StopsACleanAndTellsWhatWentUntilThen) {
   desk->trashGate.open();
   ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
   const AppState::CleanSummary& summary = *app->appState().lastClean();
-  for (const auto& [original, trashed] : summary.restorable) {
+  for (const auto& [original, trashed, identity] : summary.restorable) {
     EXPECT_FALSE(desk->disk.holds(original));
     EXPECT_TRUE(desk->disk.holds(trashed));
   }

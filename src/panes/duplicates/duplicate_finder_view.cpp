@@ -22,7 +22,7 @@ std::vector<PickedFile> pickedFiles(const std::vector<SelectedCopy>& copies) {
   all.reserve(copies.size());
   std::ranges::transform(copies, std::back_inserter(all), [](const SelectedCopy& copy) {
     const DuplicateFile& file = copy.group->files[copy.file];
-    return PickedFile{file.url, file.url.filename().native(), file.size};
+    return PickedFile{file.url, file.url.filename().native(), file.size, file.identity};
   });
   return all;
 }
@@ -51,7 +51,7 @@ DuplicateFinderView::DuplicateFinderView(const Sources& sources, const Desktop& 
       _permissions(sources.permissions),
       _desktop(desktop),
       _rows(_choice, desktop),
-      _removal(desktop) {
+      _removal(desktop, sources.notice) {
   for (const char* name : {"Documents", "Downloads", "Desktop"}) {
     _scanDirs.push_back(desktop.files.home() / name);
   }
@@ -287,10 +287,11 @@ void DuplicateFinderView::stopDeleting() {
 
 QCoro::Task<> DuplicateFinderView::moveSelectedToTrash() {
   auto pick = [&desktop = _desktop, selection = _choice.selection(),
-               stop = _deleteTask.emplace().get_token()] {
+               stop = _deleteTask.emplace().get_token()](LeftAlone& leftAlone) {
     const std::vector<SelectedCopy> copies = selection.list();
     return PickedFilesRemoval::Pick{
-        pickedFiles(copies), keeperCheck(desktop.files, desktop.trash, keptCopies(copies), stop)};
+        pickedFiles(copies),
+        keeperCheck(desktop.files, desktop.trash, keptCopies(copies), stop, &leftAlone)};
   };
   std::set<Path> trashed = co_await _removal.trash(_choice.totals().selectedCount, std::move(pick));
   _deleteTask.reset();

@@ -64,6 +64,7 @@ class DuplicateFinderView : public QObject {
     ScanCoordinator& coordinator;
     ToolActivity& activity;
     PermissionsManager& permissions;
+    RemovalNotice& notice;
   };
 
   static constexpr double minSizeMB = 1.0;

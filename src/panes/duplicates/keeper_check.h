@@ -21,11 +21,13 @@ struct KeptCopy {
 using KeptCopies = std::unordered_map<std::string, std::shared_ptr<const KeptCopy>>;
 
 /// Asked right before a copy goes, on any of the removal's threads: it may only if the one that
-/// stays was just now read whole, holds the same content, and is another file, or the same file
-/// under a name of its own. One that waits in the Trash does not stay. Nothing that stays for the
-/// sake of any copy may go. After a stop request nothing may. Must not outlive `files` and `trash`.
+/// stays was just now read whole, holds the same content, and is another file. One that waits in
+/// the Trash does not stay. Nothing that stays for the sake of any copy may go. After a stop
+/// request nothing may. `leftAlone`, where there is one, counts copies that are the very file that
+/// stays. The answer must not outlive what it refers to.
 [[nodiscard]] ScannerEngine::PickedFileCheck keeperCheck(const FileSystem& files,
                                                          const Trash& trash, KeptCopies keptCopies,
-                                                         std::stop_token stop);
+                                                         std::stop_token stop,
+                                                         LeftAlone* leftAlone = nullptr);
 
 }  // namespace klarvik

@@ -29,15 +29,9 @@ std::vector<PickedFile> picked(const LargeFileList& files) {
   std::vector<PickedFile> all;
   all.reserve(files.size());
   std::ranges::transform(files, std::back_inserter(all), [](const auto& file) {
-    return PickedFile{file->url, file->url.filename().native(), file->size};
+    return PickedFile{file->url, file->url.filename().native(), file->size, file->identity};
   });
   return all;
-}
-
-/// A folder may have come under the name since the file was listed.
-bool isFile(const FileSystem& disk, const Path& path) {
-  const auto now = disk.attributes(path);
-  return now && now->kind == FileKind::regular;
 }
 
 }  // namespace
@@ -50,7 +44,7 @@ LargeFileFinderView::LargeFileFinderView(const Sources& sources, const Desktop& 
       _permissions(sources.permissions),
       _desktop(desktop),
       _rows(_selected, desktop),
-      _removal(desktop) {
+      _removal(desktop, sources.notice) {
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
           &LargeFileFinderView::placeholderChanged);
   connect(&_removal, &PickedFilesRemoval::changed, this, &LargeFileFinderView::deletionChanged);
@@ -317,9 +311,8 @@ void LargeFileFinderView::stopTrashing() {
 }
 
 QCoro::Task<> LargeFileFinderView::moveSelectedToTrash() {
-  auto pick = [&disk = _desktop.files, files = selectedFiles()] {
-    return PickedFilesRemoval::Pick{picked(files),
-                                    [&disk](const auto& file) { return isFile(disk, file.url); }};
+  auto pick = [files = selectedFiles()](LeftAlone&) {
+    return PickedFilesRemoval::Pick{picked(files)};
   };
   const std::set<Path> trashed = co_await _removal.trash(_selected.size(), std::move(pick));
   forget(trashed);

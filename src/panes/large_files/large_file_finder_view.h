@@ -63,6 +63,7 @@ class LargeFileFinderView : public QObject {
     ScanCoordinator& coordinator;
     ToolActivity& activity;
     PermissionsManager& permissions;
+    RemovalNotice& notice;
   };
 
   /// Megabytes; the only values on offer.

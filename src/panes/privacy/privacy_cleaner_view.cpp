@@ -27,6 +27,7 @@ PrivacyCleanerView::PrivacyCleanerView(const Sources& sources, const Desktop& de
     : QObject(parent),
       _coordinator(sources.coordinator),
       _activity(sources.activity),
+      _notice(sources.notice),
       _desktop(desktop),
       _trailList(desktop.formatting) {
   connect(&_trailList, &TrailList::selectionChanged, this, &PrivacyCleanerView::selectionChanged);
@@ -160,9 +161,11 @@ QCoro::Task<> PrivacyCleanerView::clearItems(std::vector<PrivacyItem> items) {
   emit stateChanged();
   emit selectionChanged();
 
-  PrivacyScanner scanner(_desktop.files, _desktop.pasteboard, _desktop.recentDocuments);
+  LeftAlone leftAlone;
+  PrivacyScanner scanner(_desktop.files, _desktop.pasteboard, _desktop.recentDocuments, &leftAlone);
   const PrivacyClearance done =
       co_await onEngineThread(_clearings, [&] { return scanner.clear(items); });
+  _notice.tell(leftAlone);
 
   _isCleaning = false;
   _lastResult = done;

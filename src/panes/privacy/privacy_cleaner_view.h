@@ -13,6 +13,7 @@
 #include "panes/privacy/trail_list.h"
 #include "platform/platform.h"
 #include "state/engine_work.h"
+#include "state/removal_notice.h"
 #include "state/scan_coordinator.h"
 #include "state/tool_activity.h"
 #include "tools/privacy_scanner.h"
@@ -41,6 +42,7 @@ class PrivacyCleanerView : public QObject {
   struct Sources {
     ScanCoordinator& coordinator;
     ToolActivity& activity;
+    RemovalNotice& notice;
   };
 
   PrivacyCleanerView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
@@ -96,6 +98,7 @@ class PrivacyCleanerView : public QObject {
 
   ScanCoordinator& _coordinator;
   ToolActivity& _activity;
+  RemovalNotice& _notice;
   const Desktop& _desktop;
 
   TrailList _trailList;

@@ -28,7 +28,9 @@ SystemDataView::Analyse analyseWithFreshEngine(const Platform& platform) {
 std::vector<PickedFile> pickedFiles(const std::vector<SystemDataItem>& items) {
   std::vector<PickedFile> files;
   files.reserve(items.size());
-  for (const SystemDataItem& item : items) files.push_back({item.path, item.name, item.size});
+  for (const SystemDataItem& item : items) {
+    files.push_back({item.path, item.name, item.size, item.identity});
+  }
   return files;
 }
 
@@ -44,7 +46,7 @@ SystemDataView::SystemDataView(const Sources& sources, const Desktop& desktop, Q
       _desktop(desktop),
       _analyse(analyse ? std::move(analyse) : analyseWithFreshEngine(desktop)),
       _table(_findings, desktop.formatting, desktop.files.home()),
-      _removal(desktop) {
+      _removal(desktop, sources.notice) {
   connect(&_table, &SystemDataTable::selectionToggled, this, &SystemDataView::selectionToggled);
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
           &SystemDataView::hasFullDiskAccessChanged);
@@ -252,7 +254,7 @@ void SystemDataView::finishAnalysis(const SystemDataResult& result) {
 }
 
 QCoro::Task<> SystemDataView::remove(std::vector<SystemDataItem> items) {
-  auto pick = [&items] { return PickedFilesRemoval::Pick{pickedFiles(items)}; };
+  auto pick = [&items](LeftAlone&) { return PickedFilesRemoval::Pick{pickedFiles(items)}; };
   const std::set<Path> moved = co_await _removal.trash(items.size(), std::move(pick));
   finishRemoval(items, moved);
 }

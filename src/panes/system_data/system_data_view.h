@@ -89,6 +89,7 @@ class SystemDataView : public QObject {
     ToolActivity& activity;
     PermissionsManager& permissions;
     TrashMonitor& trash;
+    RemovalNotice& notice;
   };
   /// Analyses on the calling thread, as `SystemDataEngine::analyse` does; its result says how much
   /// is free.

@@ -26,6 +26,7 @@ AppUninstallerView::AppUninstallerView(const Sources& sources, const Desktop& de
       _coordinator(sources.coordinator),
       _activity(sources.activity),
       _navigator(sources.navigator),
+      _notice(sources.notice),
       _desktop(desktop),
       _appList(desktop.formatting),
       _leftoverList(desktop.formatting) {
@@ -209,8 +210,10 @@ QCoro::Task<> AppUninstallerView::remove(AppInfo app, std::vector<ResidualFile> 
   _isUninstalling = true;
   emit stateChanged();
 
-  UninstallerEngine engine(_desktop);
+  LeftAlone leftAlone;
+  UninstallerEngine engine(_desktop, &leftAlone);
   co_await onEngineThread(_removals, [&] { return engine.uninstall(app, residuals); });
+  _notice.tell(leftAlone);
 
   _appList.remove(app.appURL);
   if (_isLoading) _removedWhileReading.insert(app.appURL);

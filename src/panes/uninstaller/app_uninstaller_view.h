@@ -16,6 +16,7 @@
 #include "platform/platform.h"
 #include "state/engine_work.h"
 #include "state/navigator.h"
+#include "state/removal_notice.h"
 #include "state/scan_coordinator.h"
 #include "state/tool_activity.h"
 
@@ -46,6 +47,7 @@ class AppUninstallerView : public QObject {
     ScanCoordinator& coordinator;
     ToolActivity& activity;
     Navigator& navigator;
+    RemovalNotice& notice;
   };
 
   AppUninstallerView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
@@ -113,6 +115,7 @@ class AppUninstallerView : public QObject {
   ScanCoordinator& _coordinator;
   ToolActivity& _activity;
   Navigator& _navigator;
+  RemovalNotice& _notice;
   const Desktop& _desktop;
 
   AppList _appList;

@@ -37,6 +37,8 @@ class VisitedEntry final : public WalkEntry {
     return Path(std::move(text));
   }
 
+  [[nodiscard]] std::string_view folder() const override { return _trail.path(); }
+
   [[nodiscard]] std::int64_t allocatedBytes() override {
     if (_kind == FileKind::directory) return 0;
     return ask() ? allocatedBytesOf(*_status) : 0;

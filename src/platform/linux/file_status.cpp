@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 
+#include "platform/entry_identity.h"
 #include "platform/linux/uninterrupted.h"
 
 namespace klarvik {
@@ -34,6 +35,15 @@ std::optional<struct statx> statusOf(int folder, const char* name) {
   const auto ask = [&] { return ::statx(folder, name, flags, mask, &status); };
   if (uninterrupted(ask) != 0) return std::nullopt;
   return status;
+}
+
+bool isTheSame(const struct statx& now, const struct statx& before) {
+  return entryIdentity(attributesOf(now)) == entryIdentity(attributesOf(before));
+}
+
+bool isStill(const struct statx& before, int folder, const char* name) {
+  const auto now = statusOf(folder, name);
+  return now && isTheSame(*now, before);
 }
 
 FileKind kindOf(const struct statx& status) {

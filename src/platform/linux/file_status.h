@@ -18,6 +18,11 @@ namespace klarvik {
 /// furthest on its side.
 [[nodiscard]] Date dateOf(std::int64_t seconds, std::int64_t nanoseconds);
 
+/// Whether both were told of one entry, be it changed in between.
+[[nodiscard]] bool isTheSame(const struct statx& now, const struct statx& before);
+/// Whether `name` in `folder` still means what the system told of it before.
+[[nodiscard]] bool isStill(const struct statx& before, int folder, const char* name);
+
 [[nodiscard]] FileKind kindOf(const struct statx& status);
 /// Bytes taken on the disk; a directory takes none.
 [[nodiscard]] std::int64_t allocatedBytesOf(const struct statx& status);

@@ -13,6 +13,7 @@
 #include "platform/linux/directory_reader.h"
 #include "platform/linux/directory_walk.h"
 #include "platform/linux/file_status.h"
+#include "platform/linux/folder_handle.h"
 #include "platform/linux/tree_removal.h"
 #include "platform/linux/uninterrupted.h"
 
@@ -38,6 +39,11 @@ class LinuxFileReader final : public FileReader {
  public:
   explicit LinuxFileReader(UniqueFd file) : _file(std::move(file)) {}
 
+  [[nodiscard]] std::optional<FileAttributes> attributes() const override {
+    const auto status = statusOf(_file.get(), "");
+    return status ? std::optional(attributesOf(*status)) : std::nullopt;
+  }
+
   [[nodiscard]] std::optional<std::size_t> read(std::span<std::byte> buffer) override {
     std::size_t filled = 0;
     while (filled < buffer.size()) {
@@ -53,6 +59,43 @@ class LinuxFileReader final : public FileReader {
 
  private:
   UniqueFd _file;
+};
+
+std::optional<FileAttributes> attributesAt(int folder, const char* name) {
+  const auto status = statusOf(folder, name);
+  return status ? std::optional(attributesOf(*status)) : std::nullopt;
+}
+
+/// Asked twice for its kind: should it have become a pipe by now, opening it does not wait for a
+/// writer.
+std::unique_ptr<FileReader> openRegularFile(int folder, const char* name) {
+  const auto isRegular = [](const std::optional<struct statx>& status) {
+    return status && kindOf(*status) == FileKind::regular;
+  };
+  if (!isRegular(statusOf(folder, name))) return nullptr;
+  constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+  UniqueFd file(uninterrupted([&] { return ::openat(folder, name, flags); }));
+  if (!file || !isRegular(statusOf(file.get(), ""))) return nullptr;
+  return std::make_unique<LinuxFileReader>(std::move(file));
+}
+
+class LinuxFolder final : public OpenedFolder {
+ public:
+  explicit LinuxFolder(UniqueFd folder) : _folder(std::move(folder)) {}
+
+  [[nodiscard]] std::optional<FileAttributes> attributes(const std::string& name) const override {
+    return attributesAt(_folder.get(), name.c_str());
+  }
+  [[nodiscard]] std::unique_ptr<FileReader> openForReading(const std::string& name) const override {
+    return openRegularFile(_folder.get(), name.c_str());
+  }
+  [[nodiscard]] std::unique_ptr<OpenedFolder> openFolder(const std::string& name) const override {
+    UniqueFd folder = openFolderHandle(_folder.get(), name.c_str());
+    return folder ? std::make_unique<LinuxFolder>(std::move(folder)) : nullptr;
+  }
+
+ private:
+  UniqueFd _folder;
 };
 
 }  // namespace
@@ -93,11 +136,22 @@ int LinuxFileSystem::Location::at() const {
 
 std::optional<LinuxFileSystem::Location> LinuxFileSystem::locate(const Path& path) const {
   if (!path.is_absolute() || path.native().find('\0') != std::string::npos) return std::nullopt;
-  std::string disk = diskText(path);
-  if (disk.size() < PATH_MAX) return Location{{}, std::move(disk)};
-  auto parent = openParent(_root, withoutTrailingSlashes(path));
-  if (!parent) return std::nullopt;
-  return Location{std::move(parent->folder), std::move(parent->name)};
+  Location location{{}, diskText(path)};
+  while (location.name.size() >= PATH_MAX) {
+    if (!enterLongestPart(location)) return std::nullopt;
+  }
+  return location;
+}
+
+/// The system takes no text of `PATH_MAX` bytes at once, however deep the folders are.
+bool LinuxFileSystem::enterLongestPart(Location& location) {
+  const std::size_t slash = location.name.rfind('/', PATH_MAX - 1);
+  if (slash == std::string::npos || slash == 0) return false;
+  const std::string rest = location.name.substr(slash + 1);
+  location.name.resize(slash);
+  location.folder = openAt(location, O_PATH | O_DIRECTORY);
+  location.name = rest;
+  return static_cast<bool>(location.folder);
 }
 
 bool LinuxFileSystem::exists(const Path& path) const {
@@ -111,8 +165,7 @@ bool LinuxFileSystem::exists(const Path& path) const {
 std::optional<FileAttributes> LinuxFileSystem::attributes(const Path& path) const {
   const auto location = locate(path);
   if (!location) return std::nullopt;
-  const auto status = statusOf(location->at(), location->name.c_str());
-  return status ? std::optional(attributesOf(*status)) : std::nullopt;
+  return attributesAt(location->at(), location->name.c_str());
 }
 
 std::optional<std::vector<Path>> LinuxFileSystem::list(const Path& folder) const {
@@ -134,15 +187,13 @@ WalkOutcome LinuxFileSystem::walk(const Path& folder, WalkOptions options,
 }
 
 std::unique_ptr<FileReader> LinuxFileSystem::openForReading(const Path& path) const {
-  const auto isRegular = [](const std::optional<struct statx>& status) {
-    return status && kindOf(*status) == FileKind::regular;
-  };
   const auto location = locate(path);
-  if (!location || !isRegular(statusOf(location->at(), location->name.c_str()))) return nullptr;
-  // Should it have become a pipe by now, opening it does not wait for a writer.
-  UniqueFd file = openAt(*location, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
-  if (!file || !isRegular(statusOf(file.get(), ""))) return nullptr;
-  return std::make_unique<LinuxFileReader>(std::move(file));
+  return location ? openRegularFile(location->at(), location->name.c_str()) : nullptr;
+}
+
+std::unique_ptr<OpenedFolder> LinuxFileSystem::openFolder(const Path& folder) const {
+  UniqueFd opened = open(folder, O_PATH | O_DIRECTORY);
+  return opened ? std::make_unique<LinuxFolder>(std::move(opened)) : nullptr;
 }
 
 bool LinuxFileSystem::createDirectories(const Path& folder) {
@@ -164,9 +215,11 @@ bool LinuxFileSystem::move(const Path& from, const Path& to) {
          }) == 0;
 }
 
-bool LinuxFileSystem::remove(const Path& item, const PlaceCheck& mayRemove) {
+bool LinuxFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   const auto place = openParent(_root, item);
-  return place && mayRemove && mayRemove(place->realPath) && removeTree(*place);
+  const auto seen = place ? statusOf(place->folder.get(), place->name.c_str()) : std::nullopt;
+  return seen && mayRemove && mayRemove(place->realPath, attributesOf(*seen)) &&
+         removeTree(*place, *seen);
 }
 
 UniqueFd LinuxFileSystem::open(const Path& path, int flags) const {

@@ -26,10 +26,11 @@ class LinuxFileSystem : public FileSystem {
   WalkOutcome walk(const Path& folder, WalkOptions options,
                    const WalkVisitor& visit) const override;
   [[nodiscard]] std::unique_ptr<FileReader> openForReading(const Path& path) const override;
+  [[nodiscard]] std::unique_ptr<OpenedFolder> openFolder(const Path& folder) const override;
 
   bool createDirectories(const Path& folder) override;
   bool move(const Path& from, const Path& to) override;
-  bool remove(const Path& item, const PlaceCheck& mayRemove) override;
+  bool remove(const Path& item, const ItemCheck& mayRemove) override;
 
  private:
   /// What system calls are told: a folder and a name in it that together mean `path`.
@@ -40,6 +41,7 @@ class LinuxFileSystem : public FileSystem {
     [[nodiscard]] int at() const;
   };
   [[nodiscard]] std::optional<Location> locate(const Path& path) const;
+  [[nodiscard]] static bool enterLongestPart(Location& location);
   /// Without trailing slashes. Plain text: this is asked for every file that a scan reads.
   [[nodiscard]] std::string diskText(const Path& logical) const;
   [[nodiscard]] static UniqueFd openAt(const Location& location, int flags);

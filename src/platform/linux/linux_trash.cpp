@@ -1,7 +1,6 @@
 #include "platform/linux/linux_trash.h"
 
 #include <fcntl.h>
-#include <stdio.h>
 
 #include <algorithm>
 #include <ctime>
@@ -10,6 +9,7 @@
 #include "platform/linux/directory_reader.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/folder_handle.h"
+#include "platform/linux/item_move.h"
 #include "platform/linux/mount_table.h"
 #include "platform/linux/trash_record.h"
 #include "platform/linux/tree_removal.h"
@@ -64,6 +64,11 @@ std::optional<FileAttributes> attributesAt(const Path& root, const Path& item) {
   return status ? std::optional(attributesOf(*status)) : std::nullopt;
 }
 
+bool returnTo(const ParentHandle& to, const ParentHandle& from, const struct statx& seen) {
+  const Move move = moveItem({from.folder.get(), from.name}, seen, {to.folder.get(), to.name});
+  return move == Move::done || move == Move::unseen;
+}
+
 bool isFolder(const std::optional<FileAttributes>& attributes) {
   return attributes && attributes->kind == FileKind::directory;
 }
@@ -116,49 +121,53 @@ bool LinuxTrash::contains(const Path& item) const {
   return false;
 }
 
-std::optional<Path> LinuxTrash::moveToTrash(const Path& item, const PlaceCheck& mayMove) {
+std::optional<Path> LinuxTrash::moveToTrash(const Path& item, const ItemCheck& mayMove) {
   const auto parent = openParent(_root, item);
   if (!parent || isPartOfATrash(parent->realPath)) return std::nullopt;
-  const auto entry = mountOfEntry(parent->folder.get(), parent->name.c_str());
-  if (!entry || entry->isMountPoint || !mayMove(parent->realPath)) return std::nullopt;
+  const auto seen = statusOf(parent->folder.get(), parent->name.c_str());
+  const auto entry = seen ? mountOf(*seen) : std::nullopt;
+  if (!entry || entry->isMountPoint) return std::nullopt;
+  if (!mayMove(parent->realPath, attributesOf(*seen))) return std::nullopt;
   if (entry->isDirectory && holdsMountPoint(parent->realPath)) return std::nullopt;
 
   const auto destination = destinationFor(parent->realPath, entry->id);
   if (!destination) return std::nullopt;
   const auto name = destination->trash.take(
-      *parent, trashRecordText(destination->recordedPlace, std::time(nullptr)));
+      *parent, *seen, trashRecordText(destination->recordedPlace, std::time(nullptr)));
   if (!name) return std::nullopt;
   return destination->files / *name;
 }
 
-bool LinuxTrash::putBack(const Path& trashed, const Path& original) {
+bool LinuxTrash::putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) {
   const ThingsInHand::Hold hold(_inHand, trashed.lexically_normal());
   if (!hold) return false;
   const auto from = openTrashed(trashed);
-  if (!from) return false;
+  const auto seen = from ? statusOf(from->folder.get(), from->name.c_str()) : std::nullopt;
+  if (!seen || !mayReturn(from->realPath, attributesOf(*seen))) return false;
   const auto recorder = recorderOf(*from, trashed);
   const auto recorded = recorder ? recordedPlace(*recorder, from->name) : std::nullopt;
 
   const bool isRecorded = recorder && recorder->trash.holdsRecord(from->name);
-  const auto mayReturn = [&](const Path& real) { return leadsBack(real, original, recorded); };
-  const auto to = openParentCreating(_root, original, mayReturn);
-  if (!to || !mayReturn(to->realPath)) return false;
-  if (::renameat2(from->folder.get(), from->name.c_str(), to->folder.get(), to->name.c_str(),
-                  RENAME_NOREPLACE) != 0) {
+  const auto mayGoThere = [&](const Path& real) { return leadsBack(real, original, recorded); };
+  const auto to = openParentCreating(_root, original, mayGoThere);
+  if (!to || !mayGoThere(to->realPath) || !returnTo(*to, *from, *seen)) {
     return false;
   }
   if (isRecorded) recorder->trash.dropRecord(from->name);
   return true;
 }
 
-bool LinuxTrash::remove(const Path& trashed, const PlaceCheck& mayRemove) {
+bool LinuxTrash::remove(const Path& trashed, const ItemCheck& mayRemove) {
   const ThingsInHand::Hold hold(_inHand, trashed.lexically_normal());
   if (!hold) return false;
   const auto parent = openTrashed(trashed);
-  if (!parent) return false;
+  const auto seen = parent ? statusOf(parent->folder.get(), parent->name.c_str()) : std::nullopt;
+  if (!seen) return false;
   const auto recorder = recorderOf(*parent, trashed);
   const bool isRecorded = recorder && recorder->trash.holdsRecord(parent->name);
-  if (!mayRemove(parent->realPath) || !removeTree(*parent)) return false;
+  if (!mayRemove(parent->realPath, attributesOf(*seen)) || !removeTree(*parent, *seen)) {
+    return false;
+  }
   if (isRecorded) recorder->trash.dropRecord(parent->name);
   return true;
 }

@@ -30,9 +30,9 @@ class LinuxTrash : public Trash {
   [[nodiscard]] std::optional<Date> modificationDate() override;
   [[nodiscard]] bool contains(const Path& item) const override;
 
-  std::optional<Path> moveToTrash(const Path& item, const PlaceCheck& mayMove) override;
-  bool putBack(const Path& trashed, const Path& original) override;
-  bool remove(const Path& trashed, const PlaceCheck& mayRemove) override;
+  std::optional<Path> moveToTrash(const Path& item, const ItemCheck& mayMove) override;
+  bool putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) override;
+  bool remove(const Path& trashed, const ItemCheck& mayRemove) override;
 
  private:
   /// A Trash that can take a certain item.

@@ -75,16 +75,20 @@ std::optional<std::vector<MountPoint>> readMountTable() {
   return mountTableFrom(*text);
 }
 
-std::optional<MountOfEntry> mountOfEntry(int folder, const char* name) {
-  struct statx entry {};
-  if (::statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_EMPTY_PATH, STATX_TYPE | STATX_MNT_ID,
-              &entry) != 0 ||
-      !(entry.stx_mask & STATX_MNT_ID) || !(entry.stx_attributes_mask & STATX_ATTR_MOUNT_ROOT)) {
+std::optional<MountOfEntry> mountOf(const struct statx& entry) {
+  if (!(entry.stx_mask & STATX_MNT_ID) || !(entry.stx_attributes_mask & STATX_ATTR_MOUNT_ROOT)) {
     return std::nullopt;
   }
   return MountOfEntry{.id = entry.stx_mnt_id,
                       .isDirectory = S_ISDIR(entry.stx_mode),
                       .isMountPoint = (entry.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0};
+}
+
+std::optional<MountOfEntry> mountOfEntry(int folder, const char* name) {
+  struct statx entry {};
+  constexpr int flags = AT_SYMLINK_NOFOLLOW | AT_EMPTY_PATH;
+  if (::statx(folder, name, flags, STATX_TYPE | STATX_MNT_ID, &entry) != 0) return std::nullopt;
+  return mountOf(entry);
 }
 
 }  // namespace klarvik

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -27,6 +29,8 @@ struct MountOfEntry {
   bool isMountPoint = false;
 };
 
+/// Of what the system has told of an entry. Nothing when it does not tell its mount.
+[[nodiscard]] std::optional<MountOfEntry> mountOf(const struct statx& entry);
 /// Asks for the entry `name` of the opened `folder`, or for `folder` itself when `name` is empty.
 /// Nothing when there is none, or when the system does not tell its mount.
 [[nodiscard]] std::optional<MountOfEntry> mountOfEntry(int folder, const char* name);

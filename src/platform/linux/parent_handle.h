@@ -1,10 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
-#include "platform/file_system.h"
 #include "platform/linux/unique_fd.h"
+#include "platform/path.h"
 
 namespace klarvik {
 
@@ -28,6 +29,10 @@ struct ParentHandle {
 /// lies outside of `root`, and when `item` is not absolute or does not end in a name.
 /// May be called from any thread.
 [[nodiscard]] std::optional<ParentHandle> openParent(const Path& root, const Path& item);
+
+/// Sees the place that an item will really have, before any folder above it is made. Answering
+/// false leaves everything as it is.
+using PlaceCheck = std::function<bool(const Path& realPath)>;
 
 /// The same, but makes the parents that are missing. Before the first is made, `mayCreate` is asked
 /// with the real place of the item; false leaves everything as it is. A link to nothing is not

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <sys/stat.h>
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,9 +15,10 @@ namespace klarvik {
 /// its record. Neither may be a link. May be used from several threads at once, and other programs
 /// may use the same Trash meanwhile.
 ///
-/// Whoever holds the record of a name holds that name in `files/`. A record is whole before its
-/// thing comes and is dropped only after its thing went, so a program that is killed leaves at
-/// worst a record without a thing.
+/// Whoever holds the record of a name holds that name in `files/`. A record is whole and on the
+/// disk before it has its name, has its name before its thing comes, and is dropped only after its
+/// thing went. A program that is killed, or a machine that loses power, leaves at worst a whole
+/// record without a thing.
 class TrashFolder {
  public:
   /// Makes `files/` and `info/` in `folder` where they are missing. Nothing when they cannot be
@@ -26,9 +29,10 @@ class TrashFolder {
 
   [[nodiscard]] int files() const { return _files.get(); }
 
-  /// Moves the item in and answers the name that it has here. On failure the item stays and no
-  /// record is left.
-  [[nodiscard]] std::optional<std::string> take(const ParentHandle& item,
+  /// Moves the item in and answers the name that it has here. `seen` is what the system told of it
+  /// before: what has come to its name since stays. On failure the item stays and no record is
+  /// left.
+  [[nodiscard]] std::optional<std::string> take(const ParentHandle& item, const struct statx& seen,
                                                 std::string_view record) const;
   [[nodiscard]] std::optional<std::string> readRecord(const std::string& name) const;
   [[nodiscard]] bool holdsRecord(const std::string& name) const;

@@ -1,15 +1,20 @@
 #include "platform/linux/tree_removal.h"
 
 #include <fcntl.h>
+#include <limits.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
+#include <cstdio>
+#include <random>
 #include <string>
 #include <vector>
 
 #include "platform/linux/directory_reader.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/folder_trail.h"
+#include "platform/linux/item_move.h"
 #include "platform/linux/name_stack.h"
 #include "platform/linux/uninterrupted.h"
 
@@ -124,30 +129,54 @@ class TreeRemoval {
   std::vector<std::size_t> _firstPending;  // for each level, where its own begin
 };
 
-void emptyFolder(const ParentHandle& item, const struct statx& listed, const Mount& mount) {
+void emptyFolder(const ParentHandle& item, const struct statx& seen, const Mount& mount) {
   constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
   UniqueFd folder(
       uninterrupted([&] { return ::openat(item.folder.get(), item.name.c_str(), flags); }));
-  if (!folder) return;
-  const auto opened = statusOf(folder.get(), "");
-  if (!opened || opened->stx_ino != listed.stx_ino) return;
-  if (!TreeRemoval::mayEnter(*opened, mount)) return;
+  const auto opened = folder ? statusOf(folder.get(), "") : std::nullopt;
+  if (!opened || !isTheSame(*opened, seen) || !TreeRemoval::mayEnter(*opened, mount)) return;
   TreeRemoval(std::move(folder), mount).run();
+}
+
+/// A name that nobody else gives.
+std::string nameForRemoval(const std::string& name) {
+  std::array<char, 32> suffix{};
+  const int length =
+      std::snprintf(suffix.data(), suffix.size(), ".klarvik-removal-%08x", std::random_device()());
+  return name.substr(0, NAME_MAX - static_cast<std::size_t>(length)) + suffix.data();
+}
+
+/// The system removes whatever stands under a name by the time it is asked. So the file is taken to
+/// a name of its own first, and looked at again there.
+bool removeFile(const ParentHandle& item, const struct statx& seen) {
+  const int folder = item.folder.get();
+  const std::string nameAside = nameForRemoval(item.name);
+  const Name place{folder, item.name};
+  const Name aside{folder, nameAside};
+  const Move move = moveItem(place, seen, aside);
+  if (move == Move::unsupported) {
+    return isStill(seen, folder, item.name.c_str()) &&
+           unlinkName(folder, item.name.c_str(), 0) == 0;
+  }
+  if (move != Move::done && move != Move::unseen) return false;
+  if (move == Move::done && unlinkName(folder, nameAside.c_str(), 0) == 0) return true;
+  static_cast<void>(moveItem(aside, seen, place));
+  return false;
+}
+
+bool removeFolder(const ParentHandle& item, const struct statx& seen, const Mount& mount) {
+  if (!TreeRemoval::mayEnter(seen, mount)) return false;
+  emptyFolder(item, seen, mount);
+  return isStill(seen, item.folder.get(), item.name.c_str()) &&
+         unlinkName(item.folder.get(), item.name.c_str(), AT_REMOVEDIR) == 0;
 }
 
 }  // namespace
 
-bool removeTree(const ParentHandle& item) {
+bool removeTree(const ParentHandle& item, const struct statx& seen) {
+  if (kindOf(seen) != FileKind::directory) return removeFile(item, seen);
   const auto parent = statusOf(item.folder.get(), "");
-  const auto listed = statusOf(item.folder.get(), item.name.c_str());
-  if (!parent || !listed) return false;
-  if (kindOf(*listed) != FileKind::directory) {
-    return unlinkName(item.folder.get(), item.name.c_str(), 0) == 0;
-  }
-  const Mount mount(*parent);
-  if (!TreeRemoval::mayEnter(*listed, mount)) return false;
-  emptyFolder(item, *listed, mount);
-  return unlinkName(item.folder.get(), item.name.c_str(), AT_REMOVEDIR) == 0;
+  return parent && removeFolder(item, seen, Mount(*parent));
 }
 
 }  // namespace klarvik

@@ -6,24 +6,39 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
-#include <cstdlib>
+#include <cstdio>
+#include <random>
 #include <utility>
 
+#include "platform/linux/uninterrupted.h"
 #include "platform/linux/write_whole.h"
 
 namespace klarvik {
 namespace {
 
 constexpr int mostNames = 1000;
+constexpr mode_t forTheUserAlone = 0600;
 
-Path nameFor(const std::string& name, int number, const std::string& extension) {
+std::string nameFor(const std::string& name, int number, const std::string& extension) {
   return name + (number == 1 ? "" : "-" + std::to_string(number)) + extension;
+}
+
+UniqueFd openAt(int folder, const char* name, int flags) {
+  return UniqueFd(uninterrupted(
+      [&] { return ::openat(folder, name, flags | O_RDWR | O_CLOEXEC, forTheUserAlone); }));
+}
+
+std::string temporaryName() {
+  std::array<char, 32> name{};
+  std::snprintf(name.data(), name.size(), ".klarvik-new-%08x", std::random_device()());
+  return name.data();
 }
 
 }  // namespace
 
-UnpublishedFile::UnpublishedFile(Path folder, UniqueFd fd, Path temporary)
+UnpublishedFile::UnpublishedFile(UniqueFd folder, UniqueFd fd, std::string temporary)
     : _folder(std::move(folder)), _fd(std::move(fd)), _temporary(std::move(temporary)) {}
 
 UnpublishedFile::UnpublishedFile(UnpublishedFile&& other) noexcept
@@ -36,13 +51,14 @@ UnpublishedFile::~UnpublishedFile() {
   discard();
 }
 
-std::optional<UnpublishedFile> UnpublishedFile::in(const Path& folder) {
-  UniqueFd nameless{::open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600)};
-  if (nameless) return UnpublishedFile(folder, std::move(nameless), {});
-  std::string temporary = (folder / ".klarvik-update-XXXXXX").native();
-  UniqueFd named{::mkostemp(temporary.data(), O_CLOEXEC)};
+std::optional<UnpublishedFile> UnpublishedFile::in(UniqueFd folder) {
+  if (!folder) return std::nullopt;
+  UniqueFd nameless = openAt(folder.get(), ".", O_TMPFILE);
+  if (nameless) return UnpublishedFile(std::move(folder), std::move(nameless), {});
+  std::string temporary = temporaryName();
+  UniqueFd named = openAt(folder.get(), temporary.c_str(), O_CREAT | O_EXCL | O_NOFOLLOW);
   if (!named) return std::nullopt;
-  return UnpublishedFile(folder, std::move(named), temporary);
+  return UnpublishedFile(std::move(folder), std::move(named), std::move(temporary));
 }
 
 bool UnpublishedFile::append(std::string_view bytes) {
@@ -62,42 +78,55 @@ bool UnpublishedFile::inspect(const std::function<bool(std::span<const std::byte
 }
 
 bool UnpublishedFile::flush() const {
-  return ::fdatasync(_fd.get()) == 0;
+  return uninterrupted([&] { return ::fdatasync(_fd.get()); }) == 0;
 }
 
 void UnpublishedFile::discard() {
-  if (!_temporary.empty()) ::unlink(_temporary.c_str());
+  if (!_temporary.empty()) ::unlinkat(_folder.get(), _temporary.c_str(), 0);
   _temporary.clear();
 }
 
 /// Where the file system knows no renaming that replaces nothing, as on NFS, a second name does not
 /// replace anything either.
-bool UnpublishedFile::rename(const Path& path) const {
-  if (::renameat2(AT_FDCWD, _temporary.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0) {
+bool UnpublishedFile::rename(const std::string& name) const {
+  const int folder = _folder.get();
+  if (::renameat2(folder, _temporary.c_str(), folder, name.c_str(), RENAME_NOREPLACE) == 0) {
     return true;
   }
-  if (errno != EINVAL || ::link(_temporary.c_str(), path.c_str()) != 0) return false;
-  ::unlink(_temporary.c_str());
+  if (errno != EINVAL || ::linkat(folder, _temporary.c_str(), folder, name.c_str(), 0) != 0) {
+    return false;
+  }
+  ::unlinkat(folder, _temporary.c_str(), 0);
   return true;
 }
 
-bool UnpublishedFile::giveName(const Path& path) const {
-  if (!_temporary.empty()) return rename(path);
+bool UnpublishedFile::link(const std::string& name) const {
   const std::string handle = "/proc/self/fd/" + std::to_string(_fd.get());
-  return ::linkat(AT_FDCWD, handle.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
+  return ::linkat(AT_FDCWD, handle.c_str(), _folder.get(), name.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-std::optional<Path> UnpublishedFile::publish(const std::string& name,
-                                             const std::string& extension) {
+UnpublishedFile::Naming UnpublishedFile::giveName(const std::string& name) {
+  const bool isNamed =
+      uninterrupted([&] { return (_temporary.empty() ? link(name) : rename(name)) ? 0 : -1; }) == 0;
+  if (!isNamed) return errno == EEXIST ? Naming::nameTaken : Naming::failed;
+  _temporary.clear();
+  return Naming::done;
+}
+
+std::optional<std::string> UnpublishedFile::publish(const std::string& name,
+                                                    const std::string& extension) {
   ::fchmod(_fd.get(), 0644);  // where the file system keeps such modes
   if (::fsync(_fd.get()) != 0) return std::nullopt;
   for (int number = 1; number <= mostNames; ++number) {
-    const Path path = _folder / nameFor(name, number, extension);
-    if (giveName(path)) {
-      _temporary.clear();
-      return path;
+    std::string wanted = nameFor(name, number, extension);
+    switch (giveName(wanted)) {
+      case Naming::done:
+        return wanted;
+      case Naming::nameTaken:
+        continue;
+      case Naming::failed:
+        return std::nullopt;
     }
-    if (errno != EEXIST) return std::nullopt;
   }
   return std::nullopt;
 }

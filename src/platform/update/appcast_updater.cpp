@@ -1,5 +1,7 @@
 #include "platform/update/appcast_updater.h"
 
+#include <fcntl.h>
+
 #include <QSslConfiguration>
 #include <QUrl>
 #include <QtConcurrentRun>
@@ -9,6 +11,7 @@
 
 #include "platform/application_info.h"
 #include "platform/base64.h"
+#include "platform/linux/folder_handle.h"
 #include "platform/unicode_text.h"
 #include "platform/update/appcast.h"
 #include "platform/update/archive_signature.h"
@@ -237,7 +240,8 @@ void AppcastUpdater::download() {
   _isFollowed = true;
   _phase = Phase::downloading;
   _around.files.createDirectories(_options.downloads);
-  auto file = UnpublishedFile::in(_around.files.diskPath(_options.downloads));
+  auto file = UnpublishedFile::in(openFolderHandle(
+      AT_FDCWD, _around.files.diskPath(_options.downloads).c_str(), LinkInPlace::followed));
   if (!file) return fail(notSaved());
   _archive = std::make_shared<UnpublishedFile>(std::move(*file));
   FetchLimits limits = _options.archive;
@@ -300,10 +304,10 @@ void AppcastUpdater::deliver(const std::optional<UpdaterError>& objection) {
   if (!published) return fail(notSaved());
   const std::string version = _offer.version;
   abandon();
-  _delivered = _options.downloads / published->filename();
+  _delivered = _options.downloads / *published;
   _deliveredAs = _around.files.attributes(_delivered);
   _delegate->didFinishUpdateCycle(std::nullopt);
-  show(update_stage::Delivered{version, published->filename().native()});
+  show(update_stage::Delivered{version, *published});
   _around.workspace.reveal(_delivered);
 }
 

@@ -377,14 +377,17 @@ TEST_F(DuplicateFinderViewTest, EveryCopyOfAGroupCanNeverGo) {
   EXPECT_EQ(trashCount(), 23U);
 }
 
-TEST_F(DuplicateFinderViewTest, ASecondNameOfTheKeptFileMayGoAndTheContentStays) {
+TEST_F(DuplicateFinderViewTest, ASecondNameOfTheKeptFileStaysSinceItFreesNothingAndTheUserIsTold) {
   const Path a = add("Documents/a", 2);
   const Path b = inHome("Documents/b");
   std::filesystem::create_hard_link(desk.disk.onDisk(a), desk.disk.onDisk(b));
   ASSERT_TRUE(scan());
   ASSERT_THAT(pane->groups(), SizeIs(1));
   ASSERT_TRUE(deleteSelected());
-  EXPECT_NE(desk.disk.holds(a), desk.disk.holds(b));
+  EXPECT_TRUE(desk.disk.holds(a) && desk.disk.holds(b));
+  EXPECT_EQ(shared.removalNotice().text(),
+            "1 copy was left alone: it is the same file as the one that stays, under another name, "
+            "so deleting it would free nothing.");
 }
 
 TEST_F(DuplicateFinderViewTest, AFolderSwappedForALinkSinceTheScanTakesNoFileAlong) {

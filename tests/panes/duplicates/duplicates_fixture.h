@@ -101,7 +101,7 @@ class DuplicatesFixture : public PaneFixture {
  protected:
   std::unique_ptr<DuplicateFinderView> pane = std::make_unique<DuplicateFinderView>(
       DuplicateFinderView::Sources{shared.scanCoordinator(), shared.toolActivity(),
-                                   shared.permissionsManager()},
+                                   shared.permissionsManager(), shared.removalNotice()},
       desktop);
 };
 

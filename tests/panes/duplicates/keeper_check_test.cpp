@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "support/fake_desktop.h"
+#include "support/system_call_faults.h"
 #include "tools/duplicate_scanner.h"
 
 namespace klarvik {
@@ -21,8 +22,9 @@ class KeeperCheckTest : public testing::Test {
   void keeps(const Path& stays, const Path& goes) {
     kept[goes.native()] = std::make_shared<const KeptCopy>(KeptCopy{stays, hash});
   }
-  [[nodiscard]] bool mayGo(const Path& goes) const {
-    return keeperCheck(files, world.trash, kept, stop.get_token())({goes, "name", 8});
+  [[nodiscard]] bool mayGo(const Path& goes) {
+    return keeperCheck(files, world.trash, kept, stop.get_token(),
+                       &leftAlone)({goes, "name", 8, entryIdentity(files, goes)});
   }
   [[nodiscard]] Path onDisk(const Path& place) const { return world.disk.onDisk(place); }
 
@@ -33,6 +35,7 @@ class KeeperCheckTest : public testing::Test {
   std::string hash;
   KeptCopies kept;
   std::stop_source stop;
+  LeftAlone leftAlone;
 };
 
 TEST_F(KeeperCheckTest, ACopyMayGoWhileTheOtherStays) {
@@ -111,11 +114,20 @@ TEST_F(KeeperCheckTest, OneOfTwoNamesUnderTwoPathsStays) {
   EXPECT_FALSE(mayGo(copy));
 }
 
-TEST_F(KeeperCheckTest, ASecondNameOfTheSameFileMayGo) {
+TEST_F(KeeperCheckTest, ASecondNameOfTheKeptFileStaysAndIsCounted) {
   std::filesystem::remove(onDisk(copy));
   std::filesystem::create_hard_link(onDisk(keeper), onDisk(copy));
   keeps(keeper, copy);
-  EXPECT_TRUE(mayGo(copy));
+  EXPECT_FALSE(mayGo(copy));
+  EXPECT_EQ(leftAlone.keptCopies, 1);
+}
+
+TEST_F(KeeperCheckTest, ACopyThatIsAnotherFileSinceTheScanStaysThoughItIsEqual) {
+  keeps(keeper, copy);
+  const PickedFile picked{copy, "name", 8, entryIdentity(files, copy)};
+  std::filesystem::rename(onDisk(copy), onDisk("/Users/ann/first"));
+  world.disk.makeFile(copy, "the same");
+  EXPECT_FALSE(keeperCheck(files, world.trash, kept, stop.get_token())(picked));
 }
 
 TEST_F(KeeperCheckTest, ALinkInThePlaceOfTheKeptCopyKeepsNothing) {
@@ -130,6 +142,43 @@ TEST_F(KeeperCheckTest, AFolderInThePlaceOfACopyStays) {
   std::filesystem::remove(onDisk(copy));
   world.disk.makeFile(copy / "inside", "the same");
   EXPECT_FALSE(mayGo(copy));
+}
+
+/// A copy on its way to the Trash while another file, equal in all, comes to its name or to that of
+/// the kept one: at each system call in turn.
+TEST_F(KeeperCheckTest, OnlyTheCopyThatWasShownGoesWhateverStepAnEqualOneTakesItsPlaceAtSweep) {
+  const Path folders[] = {keeper.parent_path(), copy.parent_path()};
+  for (const Path& swapped : folders) {
+    bool reached = true;
+    for (int at = 1; reached && !HasFailure(); ++at) {
+      SCOPED_TRACE(swapped.native() + " at call " + std::to_string(at));
+      FakeDesktopOnDisk desk;
+      const Path unseen = "/Users/ann/Projects/f";
+      for (const Path& place : {keeper, copy, unseen}) desk.disk.makeFile(place, "the same");
+      const PickedFile picked{copy, "f", 8, entryIdentity(desk.files, copy)};
+      kept.clear();
+      keeps(keeper, copy);
+      const auto swap = [&] {
+        const Path folder = desk.disk.onDisk(swapped);
+        std::error_code failed;
+        std::filesystem::rename(folder, folder.native() + " aside", failed);
+        const Path other = swapped == copy.parent_path() ? unseen : copy;
+        std::filesystem::create_symlink(desk.disk.onDisk(other.parent_path()), folder, failed);
+      };
+      const FaultyRun run = runWithFault({SystemCallFault::Kind::disturbed, at, 0, swap}, [&] {
+        const auto check = keeperCheck(desk.files, desk.trash, kept, {});
+        return ScannerEngine(desk.desktop).trashFile(picked, check).moved;
+      });
+      EXPECT_TRUE(desk.disk.holds(unseen));
+      const bool keeperIsThere = desk.disk.holds("/Users/ann/Documents aside/f") ||
+                                 (swapped != keeper.parent_path() && desk.disk.holds(keeper));
+      EXPECT_TRUE(keeperIsThere || !run.reached);
+      reached = run.reached;
+      if (!reached) {
+        EXPECT_TRUE(run.answer);
+      }
+    }
+  }
 }
 
 }  // namespace

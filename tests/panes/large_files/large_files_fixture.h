@@ -84,7 +84,7 @@ class LargeFilesFixture : public PaneFixture {
  protected:
   std::unique_ptr<LargeFileFinderView> pane = std::make_unique<LargeFileFinderView>(
       LargeFileFinderView::Sources{shared.scanCoordinator(), shared.toolActivity(),
-                                   shared.permissionsManager()},
+                                   shared.permissionsManager(), shared.removalNotice()},
       desktop);
 };
 

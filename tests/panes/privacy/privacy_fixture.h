@@ -16,7 +16,8 @@ namespace klarvik {
 class PrivacyFixture : public PaneFixture {
  protected:
   PrivacyFixture() {
-    view.emplace(PrivacyCleanerView::Sources{shared.scanCoordinator(), shared.toolActivity()},
+    view.emplace(PrivacyCleanerView::Sources{shared.scanCoordinator(), shared.toolActivity(),
+                                             shared.removalNotice()},
                  desktop);
   }
 

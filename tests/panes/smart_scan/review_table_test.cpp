@@ -170,6 +170,7 @@ class AMillionReviewedItems : public PaneFixture {
                     shared.toolActivity(),
                     shared.scanCoordinator(),
                     shared.scanHistory(),
+                    shared.removalNotice(),
                     nullptr,
                     [](auto&&...) { return found(count); }};
   ReviewTable table{appState, desk.formatting};

@@ -48,7 +48,8 @@ class SmartScanFixture : public PaneFixture {
   }
 
  protected:
-  AppState appState{desktop, shared.toolActivity(), shared.scanCoordinator(), shared.scanHistory()};
+  AppState appState{desktop, shared.toolActivity(), shared.scanCoordinator(), shared.scanHistory(),
+                    shared.removalNotice()};
   SmartScanPane pane{{appState, shared.diskMonitor(), shared.trashMonitor(),
                       shared.scanCoordinator(), shared.toolActivity(), shared.navigator()},
                      desktop};

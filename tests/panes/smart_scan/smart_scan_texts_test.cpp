@@ -128,7 +128,7 @@ AppState::CleanSummary summaryOf(bool restorable) {
   summary.freed = 3'000'000;
   summary.itemCount = 1;
   if (restorable) {
-    summary.restorable.emplace_back("/Users/ann/x", "/Users/ann/.Trash/x");
+    summary.restorable.push_back({"/Users/ann/x", "/Users/ann/.Trash/x", {}});
   }
   return summary;
 }

@@ -37,7 +37,10 @@ class SystemDataPane : public PaneFixture {
   SystemDataResult analyseAsLaidDown(const SystemDataEngine::ProgressSink& progress) {
     ++analyses;
     std::vector<SystemDataItem> items = laidDown;
-    for (SystemDataItem& item : items) item.id = Uuid::random();
+    for (SystemDataItem& item : items) {
+      item.id = Uuid::random();
+      item.identity = entryIdentity(desk.files, item.path);
+    }
     progress("Scanning Logs...", 0.6);
     waitAtGate();
     progress("Analysis complete", 1.0);
@@ -88,7 +91,7 @@ class SystemDataPane : public PaneFixture {
   std::vector<SystemDataItem> laidDown;
   std::atomic<int> analyses = 0;
   SystemDataView pane{{shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager(),
-                       shared.trashMonitor()},
+                       shared.trashMonitor(), shared.removalNotice()},
                       desktop,
                       nullptr,
                       [this](const SystemDataEngine::ProgressSink& progress) {
@@ -444,7 +447,7 @@ TEST_F(SystemDataPane, FinishesTheFilesInHandWhenTheProgramEnds) {
 TEST_F(SystemDataPane, AnalysesTheDiskItself) {
   desk.disk.makeFile("/Users/ann/Library/Caches/com.acme.writer/data", 6 * megabyte);
   SystemDataView real({shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager(),
-                       shared.trashMonitor()},
+                       shared.trashMonitor(), shared.removalNotice()},
                       desktop);
   real.performAction();
   ASSERT_TRUE(turnUntil([&] { return !real.isScanning(); }));

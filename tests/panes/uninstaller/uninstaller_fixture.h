@@ -14,7 +14,7 @@ class UninstallerFixture : public PaneFixture {
  protected:
   UninstallerFixture() {
     view.emplace(AppUninstallerView::Sources{shared.scanCoordinator(), shared.toolActivity(),
-                                             shared.navigator()},
+                                             shared.navigator(), shared.removalNotice()},
                  desktop);
   }
 

@@ -43,7 +43,8 @@ TEST(DesktopPlatformTest, LiesWhollyBelowItsRoot) {
   root.makeFile("/Users/ann/.local/share/recently-used.xbel", "<xbel/>");
   EXPECT_TRUE(desktop.recentDocuments.clear());
   EXPECT_NE(root.contentOf("/Users/ann/.local/share/recently-used.xbel"), "<xbel/>");
-  EXPECT_TRUE(desktop.trash.moveToTrash("/Users/ann/x", [](const Path&) { return true; }));
+  EXPECT_TRUE(desktop.trash.moveToTrash("/Users/ann/x",
+                                        [](const Path&, const FileAttributes&) { return true; }));
   EXPECT_TRUE(root.holds("/Users/ann/.local/share/Trash/files/x"));
 }
 

@@ -52,6 +52,14 @@ class ParallelHashingTest : public testing::Test {
     }
   }
 
+  /// Opens the files called by their numbers.
+  [[nodiscard]] ParallelHashing::MakeOpen openNumbered() const {
+    return [this] {
+      return
+          [this](std::size_t number) { return real.openForReading("/" + std::to_string(number)); };
+    };
+  }
+
   TemporaryFolder disk;
   LinuxFileSystem real{disk.path(), "/Users/ann"};
   FaultInjectingFileSystem files{real};
@@ -76,12 +84,11 @@ TEST_F(ParallelHashingTest, HandsTheDigestsOutInTheOrderOfTheList) {
   for (std::size_t number = 0; number < count; ++number) {
     const Path place = "/" + std::to_string(number);
     if (number % 17 != 0) disk.makeFile(place, std::string(number * 997 % 50'000, 'x'));
-    expected.push_back(hasher.digest(real, place));
+    expected.push_back(hasher.digest(real.openForReading(place)));
     EXPECT_EQ(expected.back().has_value(), number % 17 != 0);
   }
   for (const std::size_t width : {1, 2, 5}) {
-    ParallelHashing hashing(
-        real, count, [](std::size_t number) { return Path("/" + std::to_string(number)); }, width);
+    ParallelHashing hashing(count, openNumbered(), width);
     for (const auto& digest : expected) EXPECT_EQ(hashing.next(), digest);
   }
 }
@@ -136,8 +143,7 @@ TEST_F(ParallelHashingTest, MayBeGivenUpBeforeItsEnd) {
   for (int number = 0; number < 50; ++number) {
     disk.makeFile("/" + std::to_string(number), std::string(10'000, 'x'));
   }
-  ParallelHashing hashing(
-      real, 50, [](std::size_t number) { return Path("/" + std::to_string(number)); }, 4);
+  ParallelHashing hashing(50, openNumbered(), 4);
   EXPECT_TRUE(hashing.next());
 }
 
