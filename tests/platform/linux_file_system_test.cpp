@@ -8,6 +8,7 @@
 #include <array>
 #include <limits>
 
+#include "deep_tree.h"
 #include "platform/linux/file_status.h"
 #include "support/child_process.h"
 #include "support/temporary_folder.h"
@@ -45,6 +46,27 @@ TEST_F(LinuxFileSystemTest, CountsPathsFromItsRoot) {
   EXPECT_THAT(files.logicalPath(disk.path()), Optional(Path("/")));
   EXPECT_EQ(files.logicalPath(disk.path().parent_path()), std::nullopt);
   EXPECT_EQ(files.logicalPath(disk.path().native() + "2/x"), std::nullopt);
+}
+
+/// Wherever the text is divided, a doubled slash does not turn the rest into a path of its own.
+TEST_F(LinuxFileSystemTest, FindsWhatLiesDeeperThanTheSystemTakesAtOnceHoweverThePathIsSpelled) {
+  constexpr int levels = 120;
+  const std::string name(50, 'n');
+  makeDeepTree(disk.makeFolder("/start"), levels, name);
+  for (const std::string slashes : {"/", "//", "///"}) {
+    for (std::size_t shift = 0; shift < 60; ++shift) {
+      std::string path = "/start" + std::string(shift + 1, '/');
+      for (int level = 0; level < levels; ++level) path.append(name).append(slashes);
+      const Path bottom = path + "bottom";
+      const auto attributes = files.attributes(bottom);
+      ASSERT_TRUE(attributes && attributes->kind == FileKind::regular) << slashes << shift;
+      EXPECT_NE(files.openForReading(bottom), nullptr);
+      EXPECT_FALSE(files.attributes(path + "missing"));
+      const auto folder = files.openFolder(path);
+      ASSERT_NE(folder, nullptr);
+      EXPECT_EQ(folder->attributes("bottom")->identity, attributes->identity);
+    }
+  }
 }
 
 TEST_F(LinuxFileSystemTest, CountsPathsFromTheRootOfTheMachine) {

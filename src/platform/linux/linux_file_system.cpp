@@ -147,7 +147,9 @@ std::optional<LinuxFileSystem::Location> LinuxFileSystem::locate(const Path& pat
 bool LinuxFileSystem::enterLongestPart(Location& location) {
   const std::size_t slash = location.name.rfind('/', PATH_MAX - 1);
   if (slash == std::string::npos || slash == 0) return false;
-  const std::string rest = location.name.substr(slash + 1);
+  const std::size_t next =
+      std::min(location.name.find_first_not_of('/', slash), location.name.size());
+  const std::string rest = location.name.substr(next);
   location.name.resize(slash);
   location.folder = openAt(location, O_PATH | O_DIRECTORY);
   location.name = rest;
