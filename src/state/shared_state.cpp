@@ -17,7 +17,7 @@ SharedState::SharedState(const Desktop& desktop)
       _scanHistory(desktop.defaults, desktop.clock),
       _permissionsManager(desktop),
       _diskMonitor(desktop),
-      _trashMonitor(desktop) {
+      _trashMonitor(desktop, _removalNotice) {
   if (theSharedState != nullptr) qFatal("There is a SharedState already; the process has one.");
   theSharedState = this;
 }

@@ -49,8 +49,8 @@ class SharedState {
   ScanHistory _scanHistory;
   PermissionsManager _permissionsManager;
   DiskMonitor _diskMonitor;
-  TrashMonitor _trashMonitor;
   RemovalNotice _removalNotice;
+  TrashMonitor _trashMonitor;
   std::optional<UpdateManager> _updateManager;
 };
 

@@ -33,9 +33,10 @@ TrashMonitor& TrashMonitor::shared() {
   return SharedState::instance().trashMonitor();
 }
 
-TrashMonitor::TrashMonitor(const Desktop& desktop, QObject* parent)
+TrashMonitor::TrashMonitor(const Desktop& desktop, RemovalNotice& notice, QObject* parent)
     : QObject(parent),
       _desktop(desktop),
+      _notice(notice),
       _onDiskChanged(
           desktop.notifications.observe(diskChangedNotification, [this] { refresh(false); })),
       _onActive(
@@ -80,7 +81,8 @@ QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {
   if (_figures.isEmptying) co_return std::int64_t{0};
   setEmptying(true);
   setEmptyProgress(std::nullopt);
-  ScannerEngine engine(_desktop);
+  LeftAlone leftAlone;
+  ScannerEngine engine(_desktop, &leftAlone);
   ReportMailbox<DeletionProgress> reports(
       _desktop.clock, [this](DeletionProgress progress) { setEmptyProgress(std::move(progress)); });
   auto empty = [&engine, &reports, stop = _lifetime.get_token()] {
@@ -88,6 +90,7 @@ QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {
                              [&](const DeletionProgress& progress) { reports.post(progress); });
   };
   const std::int64_t freed = co_await onEngineThread(_emptyingWork, std::move(empty));
+  _notice.tell(leftAlone);
   setEmptyProgress(std::nullopt);
   setEmptying(false);
   _desktop.notifications.post(diskChangedNotification);

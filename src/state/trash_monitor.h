@@ -11,6 +11,7 @@
 #include "platform/notification_center.h"
 #include "platform/platform.h"
 #include "state/engine_work.h"
+#include "state/removal_notice.h"
 #include "state/repeating_timer.h"
 
 namespace klarvik {
@@ -31,7 +32,7 @@ class TrashMonitor : public QObject {
 
   [[nodiscard]] static TrashMonitor& shared();
 
-  explicit TrashMonitor(const Desktop& desktop, QObject* parent = nullptr);
+  TrashMonitor(const Desktop& desktop, RemovalNotice& notice, QObject* parent = nullptr);
   /// Waits for the entry that is being measured, and for those that are being removed.
   ~TrashMonitor() override;
 
@@ -67,6 +68,7 @@ class TrashMonitor : public QObject {
   void setBytes(std::int64_t bytes);
 
   const Desktop& _desktop;
+  RemovalNotice& _notice;
   Figures _figures;
   std::optional<Date> _lastStamp;
   NotificationCenter::Subscription _onDiskChanged;

@@ -30,7 +30,7 @@ class TrashMonitorTest : public ::testing::Test {
   [[nodiscard]] std::int64_t sizeOf(const std::string& name) const {
     return allocatedSize(around.files, "/Users/ann/.Trash/" + name);
   }
-  void make() { monitor.emplace(around.desktop); }
+  void make() { monitor.emplace(around.desktop, notice); }
   void makeAndMeasure() {
     make();
     ASSERT_TRUE(measured());
@@ -41,9 +41,28 @@ class TrashMonitorTest : public ::testing::Test {
   QCoro::Task<> empty() { freed = co_await monitor->emptyTrash(); }
 
   FakeDesktopOnDisk around;
+  RemovalNotice notice;
   std::optional<std::int64_t> freed;
   std::optional<TrashMonitor> monitor;
 };
+
+TEST_F(TrashMonitorTest, AnEntryThatIsAnotherThingOnceItsTurnComesStaysAndTheUserIsTold) {
+  trash("a");
+  trash("b");
+  makeAndMeasure();
+  around.trash.before(TrashOperation::remove, "/Users/ann/.Trash/b", [this] {
+    const Path entry = around.disk.onDisk("/Users/ann/.Trash/b");
+    std::filesystem::rename(entry, around.disk.onDisk("/Users/ann/b"));
+    around.disk.makeFile("/Users/ann/.Trash/b", std::string_view("new"));
+  });
+  empty();
+  ASSERT_TRUE(turnMainLoopUntil([this] { return freed.has_value(); }));
+  EXPECT_EQ(around.disk.contentOf("/Users/ann/.Trash/b"), "new");
+  EXPECT_EQ(notice.text(),
+            "1 item was left alone: something else has taken its place since it was listed.");
+  EXPECT_TRUE(measured());
+  EXPECT_EQ(monitor->itemCount(), 1);
+}
 
 TEST_F(TrashMonitorTest, AnEmptyTrashReadsZeroItemsAndZeroBytes) {
   make();

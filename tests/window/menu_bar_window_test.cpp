@@ -90,7 +90,7 @@ class MenuBarWindow : public EmptyHomeWindowFixture, protected ScriptedAppState 
   [[nodiscard]] QQuickItem* row(const QString& name) { return WindowFixture::find(name); }
 
   Gate removal;
-  TrashMonitor trash{around.desktop};
+  TrashMonitor trash{around.desktop, notice};
   QQmlEngine engine;
   std::optional<MenuBarController> controller;
   QStringList opened;

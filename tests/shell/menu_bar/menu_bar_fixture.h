@@ -82,7 +82,7 @@ class MenuBarFixture : public ::testing::Test, protected ScriptedAppState {
   [[nodiscard]] bool isShown() const { return around.statusItem.shown.has_value(); }
   [[nodiscard]] const StatusItem::Look& look() const { return *around.statusItem.shown; }
 
-  TrashMonitor trash{around.desktop};
+  TrashMonitor trash{around.desktop, notice};
   std::optional<MenuBarController> controller;
   bool popoverIsOpen = false;
   int popoversMade = 0;
