@@ -130,10 +130,11 @@ class VirtualDesktop:
 class SampleHome:
     """The home of a sample disk, whose user has been through the first run already."""
 
-    USER = "Users/ann"
+    USER = "home/ann"
 
-    def __init__(self, disk, build):
-        subprocess.run([build / "klarvik-sample-disk", disk], check=True, stdout=subprocess.DEVNULL)
+    def __init__(self, disk, build, scale=1):
+        command = [build / "klarvik-sample-disk", disk, "--home", f"/{self.USER}", "--scale", str(scale)]
+        subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
         self.path = disk / self.USER
         self._preferences = self.path / ".config/klarvik/preferences.json"
         self.prefer({"onboarding_complete": True, "fda_prompt_shown": True})

@@ -5,8 +5,11 @@
 #include <vector>
 
 #include "platform/path.h"
+#include "platform/user_folders.h"
 
 namespace klarvik {
+
+struct DiskLayout;
 
 /// What kind of removal is being asked for.
 struct DeletionScope {
@@ -34,6 +37,11 @@ class DeletionGuard {
   [[nodiscard]] static std::optional<std::string> refusalReason(const Path& path,
                                                                 const DeletionScope& scope,
                                                                 const Path& home);
+  /// The same by the rules of `layout`, for a user whose folders lie elsewhere.
+  [[nodiscard]] static std::optional<std::string> refusalReason(const Path& path,
+                                                                const DeletionScope& scope,
+                                                                const UserFolders& folders,
+                                                                const DiskLayout& layout);
 };
 
 /// `path` made absolute in form only: "." and ".." resolved, doubled and trailing slashes dropped.

@@ -5,6 +5,7 @@
 namespace klarvik {
 
 class Volume;
+struct DiskLayout;
 
 /// How full a volume is, in bytes.
 struct DiskStats {
@@ -16,7 +17,7 @@ struct DiskStats {
 };
 
 /// May be called from any thread. A volume that does not tell what is free counts as full, and one
-/// that tells nothing as one of 0 bytes.
-[[nodiscard]] DiskStats readDiskStats(const Volume& volume);
+/// that tells nothing as one of 0 bytes. Whether what is kept for root is used, the layout says.
+[[nodiscard]] DiskStats readDiskStats(const Volume& volume, const DiskLayout& layout);
 
 }  // namespace klarvik

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -9,6 +7,7 @@
 #include <vector>
 
 #include "core/uuid.h"
+#include "places/category_type.h"
 #include "platform/date.h"
 #include "platform/entry_identity.h"
 #include "platform/path.h"
@@ -16,38 +15,6 @@
 namespace klarvik {
 
 class Formatting;
-
-/// Whether the items of a category may be selected without asking. Shown as Safe and Review.
-enum class SafetyLevel { safe, caution };
-
-/// The places that a Smart Scan looks at, in the order in which they are listed.
-enum class CategoryType {
-  xcodeCache,
-  simulators,
-  xcodeArchives,
-  appCaches,
-  systemLogs,
-  iosBackups,
-  trashBin,
-  browserCaches,
-  dockerData,
-  timeMachine,
-  systemData,
-};
-
-/// The named system colours that categories are drawn in.
-enum class SystemColor { blue, purple, indigo, orange, yellow, green, red, cyan, mint, teal, gray };
-
-inline constexpr std::size_t categoryTypeCount = 11;
-[[nodiscard]] const std::array<CategoryType, categoryTypeCount>& allCategoryTypes();
-
-/// The name that the user reads. It is also the key under which the history stores a category.
-[[nodiscard]] std::string_view rawValue(CategoryType type);
-[[nodiscard]] std::optional<CategoryType> categoryType(std::string_view rawValue);
-[[nodiscard]] std::string_view icon(CategoryType type);
-[[nodiscard]] SystemColor color(CategoryType type);
-[[nodiscard]] SafetyLevel safety(CategoryType type);
-[[nodiscard]] std::string_view description(CategoryType type);
 
 /// One thing that can be removed.
 struct JunkItem {
@@ -59,9 +26,21 @@ struct JunkItem {
   /// As it was found. Another thing that comes to its name later is not removed in its place.
   /// Nothing for what is no file.
   std::optional<EntryIdentity> identity = std::nullopt;
+  std::string reason{};      ///< one sentence on what becomes of it; empty where none is needed
+  bool goesForGood = false;  ///< never to the Trash
+  std::string closeFirst{};  ///< the running program that uses it; empty when none does
 
   /// Of all that is shown.
   bool operator==(const JunkItem& other) const;
+};
+
+/// Something that takes space and that Klarvik does not remove. It is told, and cannot be selected.
+struct Hint {
+  std::string name;
+  Path path;
+  std::int64_t size = 0;  ///< bytes
+  std::string reason;     ///< one sentence
+  std::string command;    ///< what the user may run; empty when there is nothing to run
 };
 
 /// What one category of a scan found.
@@ -69,6 +48,7 @@ struct CleanCategory {
   Uuid id = Uuid::random();
   CategoryType type = CategoryType::xcodeCache;
   std::vector<JunkItem> items;  ///< in the order the scanner gave them
+  std::vector<Hint> hints{};    ///< largest first
 
   [[nodiscard]] std::int64_t totalSize() const;
   [[nodiscard]] std::string formattedSize(const Formatting& formatting) const;

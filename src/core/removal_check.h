@@ -17,6 +17,10 @@ namespace klarvik {
 [[nodiscard]] bool mayRemove(const FileSystem& files, const Path& named,
                              const DeletionScope& scope);
 
+/// The same for the place where it really lies, counted from where the home really is.
+[[nodiscard]] bool mayRemoveReal(const FileSystem& files, const Path& real,
+                                 const DeletionScope& scope);
+
 /// Lets go only the thing that was `shown`: links among the folders above may lead to another one
 /// by now, and another one may have come to its name. The place where it really lies is judged by
 /// the same rules as the one it is named by. Must not outlive `files`.

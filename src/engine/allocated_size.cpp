@@ -1,6 +1,7 @@
 #include "engine/allocated_size.h"
 
 #include "core/junk_model.h"
+#include "places/disk_layout.h"
 #include "platform/file_system.h"
 
 namespace klarvik {
@@ -27,15 +28,24 @@ std::int64_t sumOfAllocations(const FileSystem& files, const Path& path, WalkOpt
   return outcome == WalkOutcome::refused ? ownAllocation(files, path) : total;
 }
 
+bool sizesAreWhole(const FileSystem& files) {
+  return layoutFor(files.home()).sizesAreWhole;
+}
+
 }  // namespace
 
+WalkOptions wholeWalk(const FileSystem& files) {
+  return {.stayOnMount = sizesAreWhole(files)};
+}
+
 std::int64_t allocatedSize(const FileSystem& files, const Path& path) {
-  return sumOfAllocations(files, path, {.skipHidden = true, .skipPackageContents = true}, {});
+  const WalkOptions partly{.skipHidden = true, .skipPackageContents = true};
+  return sumOfAllocations(files, path, sizesAreWhole(files) ? wholeWalk(files) : partly, {});
 }
 
 std::int64_t wholeAllocatedSize(const FileSystem& files, const Path& path,
                                 const std::stop_token& stop) {
-  return sumOfAllocations(files, path, {}, stop);
+  return sumOfAllocations(files, path, wholeWalk(files), stop);
 }
 
 }  // namespace klarvik

@@ -8,11 +8,15 @@
 namespace klarvik {
 
 class FileSystem;
+struct WalkOptions;
 
-/// The size of a thing in a Smart Scan: bytes allocated on the disk, hidden files and the contents
-/// of packages inside it left out, links not followed. 0 for a link and for what cannot be read; a
-/// plain file counts its own allocation. May be called from any thread; takes as long as the tree
-/// is large.
+/// A walk that sees all that a removal would take.
+[[nodiscard]] WalkOptions wholeWalk(const FileSystem& files);
+
+/// The size of a thing in a Smart Scan: bytes allocated on the disk, links not followed; on a disk
+/// whose layout does not count whole, hidden files and the contents of packages inside it left out.
+/// 0 for a link and for what cannot be read; a plain file counts its own allocation. May be called
+/// from any thread; takes as long as the tree is large.
 [[nodiscard]] std::int64_t allocatedSize(const FileSystem& files, const Path& path);
 
 /// What a thing takes of the disk, everything in it counted: hidden files and the contents of

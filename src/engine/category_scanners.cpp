@@ -10,6 +10,39 @@ namespace klarvik {
 CategoryScanners::CategoryScanners(const Platform& platform, ItemReport report)
     : _platform(platform), _report(std::move(report)) {}
 
+CategoryScanners::Items CategoryScanners::find(CategoryType type) const {
+  switch (type) {
+    case CategoryType::xcodeCache:
+      return xcodeCache();
+    case CategoryType::simulators:
+      return simulators();
+    case CategoryType::xcodeArchives:
+      return xcodeArchives();
+    case CategoryType::appCaches:
+      return appCaches();
+    case CategoryType::systemLogs:
+      return systemLogs();
+    case CategoryType::iosBackups:
+      return deviceBackups();
+    case CategoryType::trashBin:
+      return trash();
+    case CategoryType::browserCaches:
+      return browserCaches();
+    case CategoryType::dockerData:
+      return docker();
+    case CategoryType::timeMachine:
+      return timeMachine();
+    case CategoryType::systemData:
+      return leftovers();
+    case CategoryType::buildArtifacts:
+    case CategoryType::packageCaches:
+    case CategoryType::toolchains:
+    case CategoryType::installedPackages:
+      break;  // no Mac has them
+  }
+  return {};
+}
+
 Path CategoryScanners::inHome(std::string_view path) const {
   return _platform.files.home() / path;
 }
@@ -38,8 +71,7 @@ JunkItem CategoryScanners::datedItem(std::string name, const Path& path) const {
           .identity = attributes ? entryIdentity(*attributes) : std::nullopt};
 }
 
-CategoryScanners::Items CategoryScanners::scanPaths(
-    const std::vector<std::string_view>& paths) const {
+CategoryScanners::Items CategoryScanners::scanPaths(std::span<const std::string_view> paths) const {
   Items items;
   for (const std::string_view each : paths) {
     const Path path = inHome(each);

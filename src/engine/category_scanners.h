@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,8 +12,9 @@
 
 namespace klarvik {
 
-/// The scanners behind the rows of a Smart Scan: each looks at its own fixed places, and answers
-/// what it found there. They show what there is; whether it may go is asked when it is removed.
+/// The scanners behind the rows of a Smart Scan of a Mac's disk: each looks at its own fixed
+/// places, and answers what it found there. They show what there is; whether it may go is asked
+/// when it is removed.
 ///
 /// Lives for one scan, on its thread.
 class CategoryScanners {
@@ -23,19 +25,21 @@ class CategoryScanners {
   /// Scanners that find their items one by one tell each to `report` at once.
   CategoryScanners(const Platform& platform, ItemReport report);
 
+  [[nodiscard]] Items find(CategoryType type) const;
+  [[nodiscard]] Items trash() const;
+
+ private:
   [[nodiscard]] Items xcodeCache() const;
   [[nodiscard]] Items simulators() const;
   [[nodiscard]] Items xcodeArchives() const;
   [[nodiscard]] Items appCaches() const;
   [[nodiscard]] Items systemLogs() const;
   [[nodiscard]] Items deviceBackups() const;
-  [[nodiscard]] Items trash() const;
   [[nodiscard]] Items browserCaches() const;
   [[nodiscard]] Items docker() const;
   [[nodiscard]] Items timeMachine() const;
   [[nodiscard]] Items leftovers() const;
 
- private:
   /// Absolute paths stay as they are.
   [[nodiscard]] Path inHome(std::string_view path) const;
   [[nodiscard]] std::vector<Path> children(std::string_view folderInHome) const;
@@ -45,7 +49,7 @@ class CategoryScanners {
   [[nodiscard]] JunkItem item(std::string name, const Path& path) const;
   /// The same, with the date of its last change.
   [[nodiscard]] JunkItem datedItem(std::string name, const Path& path) const;
-  [[nodiscard]] Items scanPaths(const std::vector<std::string_view>& paths) const;
+  [[nodiscard]] Items scanPaths(std::span<const std::string_view> paths) const;
   [[nodiscard]] std::string backupName(const JunkItem& folder) const;
   [[nodiscard]] std::string snapshotName(const std::string& text) const;
   [[nodiscard]] std::int64_t snapshotSize(const std::string& text) const;

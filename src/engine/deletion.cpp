@@ -3,6 +3,7 @@
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"
 #include "engine/local_snapshots.h"
+#include "engine/place_scanner.h"
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
 #include "engine/sliding_group.h"
@@ -48,7 +49,9 @@ DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
   const Path named = standardizedPath(item.path);
   const auto scope = DeletionScope::general();
   DeletionOutcome outcome{.originalURL = item.path};
-  if (!mayRemove(_platform.files, named, scope)) return outcome;
+  if (!mayRemove(_platform.files, named, scope) || !isStillOffered(_platform, named)) {
+    return outcome;
+  }
 
   const ItemCheck check = itemCheck(_platform.files, named, scope, item.identity);
   bool removed = false;
@@ -56,7 +59,7 @@ DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
     removed = removeSnapshot(_platform.commands, named);
   } else if (_platform.trash.contains(named)) {
     removed = _platform.trash.remove(named, check);
-  } else if (!useTrash) {
+  } else if (!useTrash || item.goesForGood) {
     removed = _platform.files.remove(named, check);
   } else {
     outcome.trashedURL = _platform.trash.moveToTrash(named, check);

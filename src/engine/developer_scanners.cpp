@@ -4,39 +4,30 @@
 #include "engine/docker_table.h"
 #include "engine/shell.h"
 #include "engine/simulator_devices.h"
+#include "places/mac/scan_places.h"
 
 namespace klarvik {
 
-namespace {
-
-constexpr std::int64_t largestIgnoredDevice = 1'000'000;
-constexpr std::int64_t largestIgnoredDockerFolder = 100'000;
-
-}  // namespace
-
 CategoryScanners::Items CategoryScanners::xcodeCache() const {
-  return scanPaths({"Library/Developer/Xcode/DerivedData",
-                    "Library/Developer/Xcode/iOS DeviceSupport",
-                    "Library/Developer/Xcode/watchOS DeviceSupport",
-                    "Library/Developer/Xcode/tvOS DeviceSupport"});
+  return scanPaths(mac::xcodeCaches);
 }
 
 CategoryScanners::Items CategoryScanners::xcodeArchives() const {
-  return scanPaths({"Library/Developer/Xcode/Archives"});
+  return scanPaths(mac::xcodeArchives);
 }
 
 CategoryScanners::Items CategoryScanners::simulators() const {
   Items items;
-  JunkItem caches = item("CoreSimulator Caches", inHome("Library/Developer/CoreSimulator/Caches"));
+  JunkItem caches = item("CoreSimulator Caches", inHome(mac::simulatorCaches));
   if (caches.size >= 1) items.push_back(std::move(caches));
 
   const auto listing =
       runShell(_platform.commands, "xcrun simctl list devices unavailable --json 2>/dev/null");
-  const Path devices = inHome("Library/Developer/CoreSimulator/Devices");
+  const Path devices = inHome(mac::simulatorDevices);
   for (const SimulatorDevice& device : unavailableSimulators(listing)) {
     JunkItem folder =
         item(device.name + " (" + device.runtime + ") — unavailable", devices / device.udid);
-    if (folder.size > largestIgnoredDevice) items.push_back(std::move(folder));
+    if (folder.size > mac::largestIgnoredDevice) items.push_back(std::move(folder));
   }
   return items;
 }
@@ -52,9 +43,10 @@ CategoryScanners::Items CategoryScanners::docker() const {
   }
 
   Items items;
-  for (const char* const name : {"cache", "log"}) {
-    JunkItem folder = item(name, inHome("Library/Containers/com.docker.docker/Data") / name);
-    if (folder.size > largestIgnoredDockerFolder) items.push_back(std::move(folder));
+  for (const std::string_view each : mac::dockerFolders) {
+    const Path path = inHome(each);
+    JunkItem folder = item(path.filename().native(), path);
+    if (folder.size > mac::largestIgnoredDockerFolder) items.push_back(std::move(folder));
   }
   return items;
 }

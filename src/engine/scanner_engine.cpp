@@ -3,23 +3,14 @@
 #include <algorithm>
 
 #include "engine/category_scanners.h"
+#include "engine/place_scanner.h"
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/user_defaults.h"
 
 namespace klarvik {
 
 namespace {
-
-struct ScanRow {
-  std::string_view name;
-  double fraction;  ///< told when the row begins, and until it ends
-  CategoryType type;
-  CategoryScanners::Items (CategoryScanners::*scan)() const;
-};
-
-bool isDeveloperRow(std::string_view name) {
-  return name == "Xcode Cache" || name == "iOS Simulators" || name == "Xcode Archives" ||
-         name == "Docker";
-}
 
 void sortBySize(std::vector<CleanCategory>& categories) {
   std::stable_sort(categories.begin(), categories.end(),
@@ -28,26 +19,35 @@ void sortBySize(std::vector<CleanCategory>& categories) {
                    });
 }
 
-std::vector<ScanRow> scanTable(const UserDefaults& defaults) {
-  using enum CategoryType;
-  std::vector<ScanRow> rows{
-      {"Xcode Cache", 0.10, xcodeCache, &CategoryScanners::xcodeCache},
-      {"iOS Simulators", 0.22, simulators, &CategoryScanners::simulators},
-      {"Xcode Archives", 0.34, xcodeArchives, &CategoryScanners::xcodeArchives},
-      {"App Caches", 0.50, appCaches, &CategoryScanners::appCaches},
-      {"System Logs", 0.62, systemLogs, &CategoryScanners::systemLogs},
-      {"iPhone Backups", 0.72, iosBackups, &CategoryScanners::deviceBackups},
-      {"Trash", 0.82, trashBin, &CategoryScanners::trash},
-      {"Browser Caches", 0.88, browserCaches, &CategoryScanners::browserCaches},
-      {"Docker", 0.91, dockerData, &CategoryScanners::docker},
-      {"Time Machine", 0.95, timeMachine, &CategoryScanners::timeMachine},
-      {"Leftovers", 0.99, systemData, &CategoryScanners::leftovers},
-  };
+std::vector<ScanRow> wantedRows(const DiskLayout& layout, const UserDefaults& defaults) {
+  std::vector<ScanRow> rows(layout.scanRows.begin(), layout.scanRows.end());
   if (!defaults.boolean("includeDeveloperJunk", true)) {
-    std::erase_if(rows, [](const ScanRow& row) { return isDeveloperRow(row.name); });
+    std::erase_if(rows, [](const ScanRow& row) { return row.isForDevelopers; });
   }
   return rows;
 }
+
+/// The scanners of one run.
+class Scanners {
+ public:
+  Scanners(const Platform& platform, std::stop_token stop,
+           const CategoryScanners::ItemReport& report)
+      : _hasPlaces(!layoutFor(platform.files.home()).places.empty()),
+        _methods(platform, report),
+        _places(platform, std::move(stop), report) {}
+
+  CleanCategory find(CategoryType type) {
+    if (!_hasPlaces) return {.type = type, .items = _methods.find(type)};
+    if (type == CategoryType::trashBin) return {.type = type, .items = _methods.trash()};
+    if (type == CategoryType::buildArtifacts) return _places.findArtifacts();
+    return _places.find(type);
+  }
+
+ private:
+  const bool _hasPlaces;
+  const CategoryScanners _methods;
+  PlaceScanner _places;
+};
 
 }  // namespace
 
@@ -57,17 +57,17 @@ ScannerEngine::ScannerEngine(const Platform& platform, LeftAlone* leftAlone)
 std::vector<CleanCategory> ScannerEngine::scanAll(std::stop_token stop, const UpdateSink& onUpdate,
                                                   const CategorySink& onCategory) {
   const std::scoped_lock serial(_scanning);
-  const auto rows = scanTable(_platform.defaults);
+  const auto rows = wantedRows(layoutFor(_platform.files.home()), _platform.defaults);
   _updateSink = onUpdate;
   _current.completedCategories = 0;
   _current.totalCategories = static_cast<std::int64_t>(rows.size());
 
-  const CategoryScanners scanners(_platform, [this](const JunkItem& item) { countItem(item); });
+  Scanners scanners(_platform, stop, [this](const JunkItem& item) { countItem(item); });
   std::vector<CleanCategory> found;
   for (const ScanRow& row : rows) {
     if (stop.stop_requested()) break;
     begin(std::string(row.name), row.fraction);
-    CleanCategory category{.type = row.type, .items = (scanners.*row.scan)()};
+    CleanCategory category = scanners.find(row.type);
     std::erase_if(category.items, [](const JunkItem& item) { return item.size < 1; });
     if (!category.items.empty()) {
       if (onCategory) onCategory(category);

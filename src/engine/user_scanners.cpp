@@ -1,7 +1,6 @@
 // The rows of the scan table that look at what everybody's disk collects.
 
 #include <algorithm>
-#include <array>
 
 #include "engine/category_scanners.h"
 #include "engine/firmware_files.h"
@@ -9,6 +8,7 @@
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
 #include "engine/tool_text.h"
+#include "places/mac/scan_places.h"
 #include "platform/formatting.h"
 #include "platform/trash.h"
 
@@ -16,42 +16,10 @@ namespace klarvik {
 
 namespace {
 
-constexpr std::int64_t largestIgnoredCache = 1'000'000;
-constexpr std::int64_t largestIgnoredFirmware = 100'000'000;
 constexpr std::size_t backupNameCharacters = 8;
 
-/// Children of the caches folder that other rows account for, by what their names begin with.
-constexpr std::array<std::string_view, 9> knownCacheOwners{
-    "com.google.Chrome",  "Google",
-    "com.apple.Safari",   "Firefox",
-    "com.brave.Browser",  "com.microsoft.edgemac",
-    "com.apple.dt.Xcode", "org.llvm",
-    "com.docker.docker",
-};
-
-/// Holds firmware beside backups of devices.
-constexpr std::string_view mobileSyncFolder = "Library/Apple/MobileSync/Backup";
-
-/// A folder that is worth a row of the leftovers from a certain size on.
-struct Leftover {
-  std::string_view path;  ///< below the home unless absolute
-  std::int64_t largestIgnored;
-  std::string_view name;
-};
-
-constexpr std::array<Leftover, 8> leftoverFolders{{
-    {"Library/Caches/Homebrew", 100'000'000, "🍺 Homebrew Cache"},
-    {"/opt/homebrew/Caches", 100'000'000, "🍺 Homebrew Cache"},
-    {"/usr/local/Homebrew/Cache", 100'000'000, "🍺 Homebrew Cache"},
-    {"Library/Logs/DiagnosticReports", 100'000'000, "🩺 Diagnostic Reports"},
-    {"/Library/Logs/DiagnosticReports", 100'000'000, "🩺 Diagnostic Reports"},
-    {"Library/Saved Application State", 50'000'000, "📋 Saved App State"},
-    {"Library/Cookies", 20'000'000, "🍪 Cookies"},
-    {"Library/HTTPStorages", 20'000'000, "🌐 HTTP Storage"},
-}};
-
 bool hasAnotherOwner(std::string_view name) {
-  return std::any_of(knownCacheOwners.begin(), knownCacheOwners.end(),
+  return std::any_of(mac::knownCacheOwners.begin(), mac::knownCacheOwners.end(),
                      [&](std::string_view owner) { return name.starts_with(owner); });
 }
 
@@ -59,10 +27,10 @@ bool hasAnotherOwner(std::string_view name) {
 
 CategoryScanners::Items CategoryScanners::appCaches() const {
   Items items;
-  for (const Path& child : children("Library/Caches")) {
+  for (const Path& child : children(mac::appCaches)) {
     if (isLink(child) || hasAnotherOwner(child.filename().native())) continue;
     JunkItem cache = datedItem(child.filename().native(), child);
-    if (cache.size <= largestIgnoredCache) continue;
+    if (cache.size <= mac::largestIgnoredCache) continue;
     items.push_back(std::move(cache));
     _report(items.back());
   }
@@ -71,12 +39,12 @@ CategoryScanners::Items CategoryScanners::appCaches() const {
 }
 
 CategoryScanners::Items CategoryScanners::systemLogs() const {
-  return scanPaths({"Library/Logs", "/var/log"});
+  return scanPaths(mac::logs);
 }
 
 CategoryScanners::Items CategoryScanners::deviceBackups() const {
   Items items;
-  for (const Path& child : children("Library/Application Support/MobileSync/Backup")) {
+  for (const Path& child : children(mac::deviceBackups)) {
     items.push_back(datedItem(child.filename().native(), child));
     items.back().name = backupName(items.back());
   }
@@ -95,14 +63,13 @@ CategoryScanners::Items CategoryScanners::trash() const {
   Items items;
   for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
     items.push_back(datedItem(entry.filename().native(), entry));
+    items.back().goesForGood = true;
   }
   return items;
 }
 
 CategoryScanners::Items CategoryScanners::browserCaches() const {
-  return scanPaths({"Library/Caches/Google/Chrome", "Library/Caches/com.google.Chrome",
-                    "Library/Caches/com.apple.Safari", "Library/Caches/Firefox",
-                    "Library/Caches/com.brave.Browser", "Library/Caches/com.microsoft.edgemac"});
+  return scanPaths(mac::browserCaches);
 }
 
 CategoryScanners::Items CategoryScanners::timeMachine() const {
@@ -131,17 +98,17 @@ CategoryScanners::Items CategoryScanners::firmware() const {
     for (const Path& child : children(folder)) {
       if (!isFirmware(child)) continue;
       JunkItem file = datedItem("📱 Firmware: " + child.filename().native(), child);
-      if (file.size > largestIgnoredFirmware) items.push_back(std::move(file));
+      if (file.size > mac::largestIgnoredFirmware) items.push_back(std::move(file));
     }
   };
   for (const std::string_view folder : softwareUpdateFolders) lookInto(folder);
-  lookInto(mobileSyncFolder);
+  lookInto(mac::mobileSyncFolder);
   return items;
 }
 
 CategoryScanners::Items CategoryScanners::leftovers() const {
   Items items = firmware();
-  for (const Leftover& leftover : leftoverFolders) {
+  for (const mac::Leftover& leftover : mac::leftoverFolders) {
     JunkItem folder = item(std::string(leftover.name), inHome(leftover.path));
     if (folder.size > leftover.largestIgnored) items.push_back(std::move(folder));
   }

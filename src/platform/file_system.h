@@ -12,12 +12,14 @@
 
 #include "platform/file_attributes.h"
 #include "platform/path.h"
+#include "platform/user_folders.h"
 
 namespace klarvik {
 
 struct WalkOptions {
   bool skipHidden = false;           ///< leave out entries whose name begins with a dot
   bool skipPackageContents = false;  ///< show a package inside the tree, but not what is in it
+  bool stayOnMount = false;  ///< show a folder where another volume begins, but do not enter
 };
 
 enum class WalkStep { proceed, skipDescendants, stop };
@@ -95,11 +97,18 @@ class FileSystem {
   /// The user's home as it is named, and the place it really is at when links are followed.
   [[nodiscard]] virtual Path home() const = 0;
   [[nodiscard]] virtual Path realHome() const = 0;
+  /// Where else the user's things lie.
+  [[nodiscard]] virtual UserFolders folders() const { return UserFolders::in(home()); }
+  /// Where `path` really lies when the links among the folders above it are followed; a link in the
+  /// last component is not. Nothing when there is no such folder.
+  [[nodiscard]] virtual std::optional<Path> realPath(const Path& path) const = 0;
 
   /// Follows links: a link to nothing does not exist.
   [[nodiscard]] virtual bool exists(const Path& path) const = 0;
   /// Never follows a link in the last component.
   [[nodiscard]] virtual std::optional<FileAttributes> attributes(const Path& path) const = 0;
+  /// Whether another volume begins at `path`. Waits for no server.
+  [[nodiscard]] virtual bool isMountPoint(const Path& path) const = 0;
   /// Full paths of the direct children, hidden ones included, in the order the disk gives them.
   /// Nothing when the folder cannot be listed.
   [[nodiscard]] virtual std::optional<std::vector<Path>> list(const Path& folder) const = 0;

@@ -13,6 +13,7 @@ class NotificationCenter;
 class OpenPanel;
 class Pasteboard;
 class RecentDocuments;
+class RunningPrograms;
 class StatusItem;
 class Trash;
 class Updater;
@@ -31,6 +32,7 @@ struct Platform {
   Formatting& formatting;
   const ApplicationInfo& info;
   RecentDocuments& recentDocuments;
+  RunningPrograms& programs;
 };
 
 /// The same, with what only a program that has a main loop and a desktop around it can offer.

@@ -4,6 +4,7 @@
 
 #include "core/deletion_guard.h"
 #include "engine/allocated_size.h"
+#include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "probe/command.h"
 #include "probe/report.h"
@@ -29,9 +30,10 @@ int guard(const Invocation& call) {
     std::cerr << "klarvik-probe: guard: no such scope\n";
     return usageError;
   }
-  const Path home = call.platform.files.home();
+  const FileSystem& files = call.platform.files;
   for (const std::string& path : readEntries(std::cin, call)) {
-    const auto refusal = DeletionGuard::refusalReason(path, *scope, home);
+    const auto refusal =
+        DeletionGuard::refusalReason(path, *scope, files.folders(), layoutFor(files.home()));
     print({{"path", textReport(path)},
            {"refusal", refusal ? textReport(*refusal) : Report(nullptr)}});
   }

@@ -84,8 +84,12 @@ Item {
         }
     }
 
-    FullDiskAccessView {
-        model: root.shell.access
+    Repeater {
+        model: Words.asksForFullDiskAccess ? 1 : 0
+
+        FullDiskAccessView {
+            model: root.shell.access
+        }
     }
 
     ConfirmationDialog {

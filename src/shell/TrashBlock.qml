@@ -10,7 +10,7 @@ Pressable {
     required property TrashBlockModel model
 
     title: qsTr("Trash") + ", " + model.subtitle
-    help: qsTr("Open the Trash in Finder")
+    help: Words.openTrash
     implicitHeight: 50
     onAction: model.open()
 

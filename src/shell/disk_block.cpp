@@ -1,9 +1,23 @@
 #include "shell/disk_block.h"
 
+#include "panes/kit/row_text.h"
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/volume.h"
 #include "shell/disk_texts.h"
 
 namespace klarvik {
+namespace {
+
+/// Whether another volume begins on the way from the root to the home.
+bool homeHasItsOwnVolume(const FileSystem& files) {
+  for (Path folder = files.home(); folder.has_relative_path(); folder = folder.parent_path()) {
+    if (files.isMountPoint(folder)) return true;
+  }
+  return false;
+}
+
+}  // namespace
 
 DiskBlock::DiskBlock(const DiskMonitor& monitor, const Platform& platform, QObject* parent)
     : QObject(parent), _monitor(monitor), _platform(platform) {
@@ -12,7 +26,10 @@ DiskBlock::DiskBlock(const DiskMonitor& monitor, const Platform& platform, QObje
 
 QString DiskBlock::volumeName() const {
   const auto name = _platform.volume.name();
-  return name ? QString::fromStdString(printable(*name)) : QStringLiteral("Macintosh HD");
+  if (name) return printableText(*name);
+  const Words& words = layoutFor(_platform.files.home()).words;
+  return programText(homeHasItsOwnVolume(_platform.files) ? words.unnamedHomeVolume
+                                                          : words.unnamedVolume);
 }
 
 QString DiskBlock::percentFull() const {

@@ -23,7 +23,7 @@ class DiskBlock : public QObject {
  public:
   DiskBlock(const DiskMonitor& monitor, const Platform& platform, QObject* parent = nullptr);
 
-  /// "Macintosh HD" when the volume has no name or it cannot be read.
+  /// The layout's word for it when the volume has no name or it cannot be read.
   [[nodiscard]] QString volumeName() const;
   [[nodiscard]] QString percentFull() const;
   [[nodiscard]] double usedFraction() const;

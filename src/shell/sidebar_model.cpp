@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "places/disk_layout.h"
 #include "shell/sidebar_texts.h"
 
 namespace klarvik {
@@ -116,7 +117,8 @@ SidebarModel::Row SidebarModel::row(Section section) const {
   const sidebar::RightHand rightHand = sidebar::rightHand(
       activity,
       sidebar::trailing(section, _appState.scanState(), _coordinator.totals(), _formatting));
-  const auto help = sidebar::help(section, _coordinator.totals(), _formatting);
+  const auto help =
+      sidebar::help(section, _coordinator.totals(), _appState.layout().words, _formatting);
   Row row;
   row.title = text(title(section));
   row.section = section;

@@ -54,7 +54,7 @@ std::optional<std::string> trailing(Section section, const AppState::ScanState& 
   return total != nullptr ? std::optional(formatting.byteText(total->bytes)) : std::nullopt;
 }
 
-std::optional<std::string> help(Section section, const Totals& totals,
+std::optional<std::string> help(Section section, const Totals& totals, const Words& words,
                                 const Formatting& formatting) {
   const ScanCoordinator::Total* total = shownTotal(section, totals);
   if (total == nullptr) {
@@ -72,7 +72,7 @@ std::optional<std::string> help(Section section, const Totals& totals,
     case Section::largeFiles:
       return items + " files over the size threshold, " + bytes + " in total";
     case Section::systemData:
-      return bytes + " Klarvik can remove from the folders macOS keeps out of Storage settings";
+      return filledIn(words.systemDataHelp, bytes);
     case Section::uninstaller:
       return items + " apps installed, " + bytes + " on disk";
     case Section::privacy:

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "places/words.h"
 #include "platform/formatting.h"
 #include "state/app_state.h"
 #include "state/scan_coordinator.h"
@@ -26,7 +27,7 @@ using Totals = std::map<std::string, ScanCoordinator::Total>;
                                                   const Totals& totals,
                                                   const Formatting& formatting);
 [[nodiscard]] std::optional<std::string> help(Section section, const Totals& totals,
-                                              const Formatting& formatting);
+                                              const Words& words, const Formatting& formatting);
 
 /// What stands at the right of a row, once the tool's activity has had its say.
 struct RightHand {

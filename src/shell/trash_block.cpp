@@ -1,5 +1,7 @@
 #include "shell/trash_block.h"
 
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/trash.h"
 #include "platform/workspace.h"
 #include "shell/trash_texts.h"
@@ -17,11 +19,12 @@ QString TrashBlock::symbol() const {
 }
 
 QString TrashBlock::subtitle() const {
-  return QString::fromStdString(sidebar::trashSubtitle(_monitor.figures(), _desktop.formatting));
+  return QString::fromStdString(
+      sidebar::trashSubtitle(_monitor.figures(), layout().words, _desktop.formatting));
 }
 
 TrashBlock::Control TrashBlock::control() const {
-  return sidebar::trashControl(_monitor.figures());
+  return sidebar::trashControl(_monitor.figures(), layout());
 }
 
 QString TrashBlock::controlTitle() const {
@@ -38,7 +41,8 @@ QString TrashBlock::controlTitle() const {
 }
 
 QString TrashBlock::controlHelp() const {
-  return QString::fromStdString(sidebar::trashControlHelp(_monitor.figures(), _desktop.formatting));
+  return QString::fromStdString(
+      sidebar::trashControlHelp(_monitor.figures(), layout(), _desktop.formatting));
 }
 
 QString TrashBlock::confirmationMessage() const {
@@ -74,6 +78,10 @@ void TrashBlock::confirmEmpty() {
 
 void TrashBlock::cancelConfirmation() {
   setConfirming(false);
+}
+
+const DiskLayout& TrashBlock::layout() const {
+  return layoutFor(_desktop.files.home());
 }
 
 void TrashBlock::setConfirming(bool confirming) {

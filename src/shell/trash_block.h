@@ -10,6 +10,8 @@
 
 namespace klarvik {
 
+struct DiskLayout;
+
 /// What the Trash holds, and how to look into it or empty it. Main thread only.
 class TrashBlock : public QObject {
   Q_OBJECT
@@ -51,6 +53,7 @@ class TrashBlock : public QObject {
   void isConfirmingChanged();
 
  private:
+  [[nodiscard]] const DiskLayout& layout() const;
   void setConfirming(bool confirming);
 
   TrashMonitor& _monitor;

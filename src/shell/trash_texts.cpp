@@ -23,12 +23,13 @@ std::string_view trashSymbol(const TrashMonitor::Figures& trash) {
   return trash.itemCount > 0 ? "trash.fill" : "trash";
 }
 
-std::string trashSubtitle(const TrashMonitor::Figures& trash, const Formatting& formatting) {
+std::string trashSubtitle(const TrashMonitor::Figures& trash, const Words& words,
+                          const Formatting& formatting) {
   if (trash.isEmptying) {
     return emptyingText(trash.emptyProgress);
   }
   if (!trash.isReadable) {
-    return "Needs Full Disk Access";
+    return std::string(words.trashUnreadable);
   }
   if (trash.itemCount == 0) {
     return "Empty";
@@ -38,18 +39,19 @@ std::string trashSubtitle(const TrashMonitor::Figures& trash, const Formatting& 
                            : formatting.byteText(trash.bytes) + " · " + count;
 }
 
-TrashBlock::Control trashControl(const TrashMonitor::Figures& trash) {
+TrashBlock::Control trashControl(const TrashMonitor::Figures& trash, const DiskLayout& layout) {
   if (trash.isEmptying) {
     return TrashBlock::Control::Progress;
   }
   if (!trash.isReadable) {
-    return TrashBlock::Control::Grant;
+    return layout.asksForFullDiskAccess() ? TrashBlock::Control::Grant : TrashBlock::Control::None;
   }
   return trash.itemCount == 0 ? TrashBlock::Control::None : TrashBlock::Control::Empty;
 }
 
-std::string trashControlHelp(const TrashMonitor::Figures& trash, const Formatting& formatting) {
-  switch (trashControl(trash)) {
+std::string trashControlHelp(const TrashMonitor::Figures& trash, const DiskLayout& layout,
+                             const Formatting& formatting) {
+  switch (trashControl(trash, layout)) {
     case TrashBlock::Control::Grant:
       return "macOS keeps the Trash behind Full Disk Access";
     case TrashBlock::Control::Empty:

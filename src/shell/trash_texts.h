@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "places/disk_layout.h"
 #include "platform/formatting.h"
 #include "shell/trash_block.h"
 
@@ -10,11 +11,13 @@
 namespace klarvik::sidebar {
 
 [[nodiscard]] std::string_view trashSymbol(const TrashMonitor::Figures& trash);
-[[nodiscard]] std::string trashSubtitle(const TrashMonitor::Figures& trash,
+[[nodiscard]] std::string trashSubtitle(const TrashMonitor::Figures& trash, const Words& words,
                                         const Formatting& formatting);
-[[nodiscard]] TrashBlock::Control trashControl(const TrashMonitor::Figures& trash);
+/// A Trash that cannot be read can be granted where the layout knows of such a permission.
+[[nodiscard]] TrashBlock::Control trashControl(const TrashMonitor::Figures& trash,
+                                               const DiskLayout& layout);
 [[nodiscard]] std::string trashControlHelp(const TrashMonitor::Figures& trash,
-                                           const Formatting& formatting);
+                                           const DiskLayout& layout, const Formatting& formatting);
 [[nodiscard]] std::string emptyTrashMessage(const TrashMonitor::Figures& trash,
                                             const Formatting& formatting);
 

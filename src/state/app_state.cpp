@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/formatting.h"
 #include "state/change_to.h"
 #include "state/linked_stop.h"
@@ -42,6 +44,10 @@ AppState::~AppState() {
   blockSignals(true);
   finishRemovals();
   _scanWork.finish();
+}
+
+const DiskLayout& AppState::layout() const {
+  return layoutFor(_desktop.files.home());
 }
 
 void AppState::startScan() {
@@ -113,7 +119,7 @@ void AppState::applyUpdate(const ScanUpdate& update) {
 void AppState::applyCategory(FoundCategory found) {
   const bool isSafe = safety(found.category.type) == SafetyLevel::safe;
   _selectedItems.add(found.category, std::move(found.items));
-  const bool selects = isSafe && _selectedItems.setAll(found.category.id, true);
+  const bool selects = isSafe && _selectedItems.selectUnused(found.category.id);
   // A clean that was started meanwhile reads the former results on a thread of its own.
   if (_scanResults.use_count() > 1) {
     _scanResults = std::make_shared<std::vector<CleanCategory>>(*_scanResults);

@@ -27,6 +27,8 @@
 
 namespace klarvik {
 
+struct DiskLayout;
+
 /// The result of a Smart Scan, and the clean that may follow. Main thread only; nothing is kept
 /// across restarts. Every signal fires only when its value has really changed. Must not outlive
 /// what its constructor is given.
@@ -91,6 +93,8 @@ class AppState : public QObject {
   /// the items that a removal has in hand; what a clean has removed is put on record first.
   ~AppState() override;
 
+  /// Of the disk that is scanned.
+  [[nodiscard]] const DiskLayout& layout() const;
   [[nodiscard]] const std::vector<CleanCategory>& scanResults() const { return *_scanResults; }
   [[nodiscard]] const ScanState& scanState() const { return _scanState; }
   [[nodiscard]] std::int64_t totalSpaceFreeable() const { return _totalSpaceFreeable; }

@@ -2,6 +2,8 @@
 
 #include <chrono>
 
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/notification_center.h"
 #include "state/change_to.h"
 #include "state/section.h"
@@ -19,7 +21,7 @@ DiskMonitor& DiskMonitor::shared() {
 DiskMonitor::DiskMonitor(const Desktop& desktop, QObject* parent)
     : QObject(parent),
       _desktop(desktop),
-      _stats(readDiskStats(desktop.volume)),
+      _stats(readStats()),
       _onDiskChanged(
           desktop.notifications.observe(diskChangedNotification, [this] { diskChanged(); })),
       _onActive(
@@ -31,7 +33,11 @@ DiskMonitor::~DiskMonitor() {
 }
 
 void DiskMonitor::refreshNow() {
-  if (changeTo(_stats, readDiskStats(_desktop.volume))) emit statsChanged();
+  if (changeTo(_stats, readStats())) emit statsChanged();
+}
+
+DiskStats DiskMonitor::readStats() const {
+  return readDiskStats(_desktop.volume, layoutFor(_desktop.files.home()));
 }
 
 void DiskMonitor::diskChanged() {

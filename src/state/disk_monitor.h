@@ -35,6 +35,7 @@ class DiskMonitor : public QObject {
       std::chrono::milliseconds(500), std::chrono::milliseconds(1000),
       std::chrono::milliseconds(2000), std::chrono::milliseconds(4000)};
 
+  [[nodiscard]] DiskStats readStats() const;
   void diskChanged();
   QCoro::Task<> settle(std::stop_token stop);
 

@@ -32,6 +32,12 @@ bool ItemSelection::Group::setAll(bool select) {
   return true;
 }
 
+bool ItemSelection::Group::selectUnused() {
+  bool changed = setAll(true);
+  for (const std::size_t rank : items->ranksInUse()) changed = set(rank, false) || changed;
+  return changed;
+}
+
 bool ItemSelection::Group::isWithin(const ItemSelection& other) const {
   const Group* same = other.find(category);
   if (same != nullptr) return same->isSelected == isSelected;
@@ -74,10 +80,21 @@ bool ItemSelection::setAll(const Uuid& category, bool selected) {
   return group != _groups.end() && group->setAll(selected);
 }
 
+bool ItemSelection::selectUnused(const Uuid& category) {
+  const auto group = std::ranges::find(_groups, category, &Group::category);
+  return group != _groups.end() && group->selectUnused();
+}
+
 ItemSelection ItemSelection::safeItems() const {
   ItemSelection safe = *this;
   safe._strangers.clear();
-  for (Group& group : safe._groups) group.setAll(isSafe(group.type));
+  for (Group& group : safe._groups) {
+    if (isSafe(group.type)) {
+      group.selectUnused();
+    } else {
+      group.setAll(false);
+    }
+  }
   return safe;
 }
 

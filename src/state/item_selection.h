@@ -36,9 +36,11 @@ class ItemSelection {
   bool set(const Uuid& id, bool selected);
   /// Nothing when there is no such category.
   bool setAll(const Uuid& category, bool selected);
+  /// Selects of a category what may be selected without asking: all that no program uses.
+  bool selectUnused(const Uuid& category);
   void toggle(const Uuid& id) { set(id, !contains(id)); }
 
-  /// Exactly the items of the safe categories of the same results.
+  /// Exactly the items of the safe categories of the same results, without those in use.
   [[nodiscard]] ItemSelection safeItems() const;
   /// The same selection without `gone`, over results of which no more than `kept` is left.
   [[nodiscard]] ItemSelection without(const std::unordered_set<Uuid>& gone,
@@ -68,6 +70,7 @@ class ItemSelection {
 
     bool set(std::size_t rank, bool select);
     bool setAll(bool select);
+    bool selectUnused();
     [[nodiscard]] bool isWithin(const ItemSelection& other) const;
   };
 

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <utility>
 
+#include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/path.h"
 #include "platform/workspace.h"
@@ -23,13 +24,10 @@ constexpr std::array settingsPages{
     "x-apple.systempreferences:com.apple.preference.security?Privacy_AllFilesAccess",
 };
 
-/// Files that only a program with the permission can open.
 std::vector<Path> protectedFiles(const Path& home) {
-  return {
-      home / "Library/Application Support/com.apple.TCC/TCC.db",
-      home / "Library/Safari/CloudTabs.db",
-      "/Library/Application Support/com.apple.TCC/TCC.db",
-  };
+  std::vector<Path> files;
+  for (const std::string_view file : layoutFor(home).protectedFiles) files.push_back(home / file);
+  return files;
 }
 
 }  // namespace

@@ -7,17 +7,19 @@ namespace klarvik {
 ItemSum& ItemSum::operator+=(const ItemSum& other) {
   size = addBytes(size, other.size);
   count += other.count;
+  forGood = addBytes(forGood, other.forGood);
   return *this;
 }
 
 ItemSum& ItemSum::operator-=(const ItemSum& other) {
-  return *this += {-other.size, -other.count};
+  return *this += {-other.size, -other.count, -other.forGood};
 }
 
 RankedItems::RankedItems(const std::vector<JunkItem>& items) {
   _items.reserve(items.size());
   for (const JunkItem& item : items) {
-    _items.push_back({item.id, static_cast<std::uint32_t>(_items.size()), item.size});
+    _items.push_back({item.id, static_cast<std::uint32_t>(_items.size()), item.size,
+                      item.goesForGood, !item.closeFirst.empty()});
     _total += _items.back().sum();
   }
   std::ranges::sort(_items, [](const Item& left, const Item& right) {
@@ -25,6 +27,7 @@ RankedItems::RankedItems(const std::vector<JunkItem>& items) {
   });
   _ranks.reserve(_items.size());
   for (const Item& item : _items) {
+    if (item.isInUse) _ranksInUse.push_back(_ranks.size());
     _ranks.emplace_back(item.id, static_cast<std::uint32_t>(_ranks.size()));
   }
   std::ranges::sort(_ranks);

@@ -14,6 +14,7 @@ namespace klarvik {
 struct ItemSum {
   std::int64_t size = 0;
   std::int64_t count = 0;
+  std::int64_t forGood = 0;  ///< bytes of those that never go to the Trash
 
   ItemSum& operator+=(const ItemSum& other);
   ItemSum& operator-=(const ItemSum& other);
@@ -30,8 +31,10 @@ class RankedItems {
     Uuid id;
     std::uint32_t place = 0;  ///< in the category's items
     std::int64_t size = 0;    ///< bytes
+    bool goesForGood = false;
+    bool isInUse = false;  ///< by a program that should be closed first
 
-    [[nodiscard]] ItemSum sum() const { return {size, 1}; }
+    [[nodiscard]] ItemSum sum() const { return {size, 1, goesForGood ? size : 0}; }
   };
 
   explicit RankedItems(const std::vector<JunkItem>& items);
@@ -39,12 +42,15 @@ class RankedItems {
   [[nodiscard]] std::size_t size() const { return _items.size(); }
   [[nodiscard]] const Item& operator[](std::size_t rank) const { return _items[rank]; }
   [[nodiscard]] const ItemSum& total() const { return _total; }
+  /// Of the items that are in use, in ascending order.
+  [[nodiscard]] const std::vector<std::size_t>& ranksInUse() const { return _ranksInUse; }
   /// Nothing when there is no such item.
   [[nodiscard]] std::optional<std::size_t> rankOf(const Uuid& id) const;
 
  private:
   std::vector<Item> _items;
   std::vector<std::pair<Uuid, std::uint32_t>> _ranks;  ///< in the order of the identifiers
+  std::vector<std::size_t> _ranksInUse;
   ItemSum _total;
 };
 

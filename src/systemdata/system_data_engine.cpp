@@ -4,19 +4,28 @@
 #include <utility>
 
 #include "engine/allocated_size.h"
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/volume.h"
 #include "systemdata/overlaps.h"
-#include "systemdata/pass_table.h"
 #include "systemdata/system_data_search.h"
 
 namespace klarvik {
+namespace {
+
+std::string_view labelOf(const Pass& pass, std::span<const SystemDataWords> words) {
+  return words.empty() ? pass.label : words[static_cast<std::size_t>(pass.kind)].scanning;
+}
+
+}  // namespace
 
 SystemDataResult SystemDataEngine::analyse(const ProgressSink& progress) {
   const std::scoped_lock serial(_analysing);
   const SystemDataSearch search(_platform);
+  const DiskLayout& layout = layoutFor(_platform.files.home());
   std::vector<SystemDataItem> items;
-  for (const Pass& pass : passTable()) {
-    progress(std::string(pass.label), pass.fraction);
+  for (const Pass& pass : layout.analysisPasses) {
+    progress(std::string(labelOf(pass, layout.systemData)), pass.fraction);
     auto found = search.find(pass);
     items.insert(items.end(), std::make_move_iterator(found.begin()),
                  std::make_move_iterator(found.end()));

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 
+#include "core/removal_check.h"
 #include "engine/allocated_size.h"
 #include "engine/firmware_files.h"
 #include "engine/local_snapshots.h"
+#include "engine/place_scanner.h"
 #include "engine/shell.h"
 #include "engine/tool_text.h"
 #include "platform/file_attributes.h"
@@ -51,14 +53,38 @@ Overloaded(Cases...) -> Overloaded<Cases...>;
 
 }  // namespace
 
+SystemDataSearch::SystemDataSearch(const Platform& platform)
+    : _platform(platform),
+      _layout(layoutFor(platform.files.home())),
+      _catalogue(_layout, platform.files.folders()) {}
+
 SystemDataSearch::Items SystemDataSearch::find(const Pass& pass) const {
   return std::visit(
-      Overloaded{[&](const ChildFolder& folder) {
-                   return children(inHome(folder.path), pass.kind, folder.minimumSize);
-                 },
+      Overloaded{[&](const ChildFolder& folder) { return childrenOf(folder, pass.kind); },
                  [&](std::span<const WholePlace> places) { return wholePlaces(places, pass.kind); },
-                 [&](OwnSearch search) { return (this->*search)(pass.kind); }},
+                 [&](AnalysisMethod method) { return byMethod(method, pass.kind); }},
       pass.places);
+}
+
+SystemDataSearch::Items SystemDataSearch::byMethod(AnalysisMethod method,
+                                                   SystemDataSubCategory kind) const {
+  switch (method) {
+    case AnalysisMethod::localSnapshots:
+      return localSnapshots(kind);
+    case AnalysisMethod::swapFiles:
+      return swapFiles(kind);
+    case AnalysisMethod::firmware:
+      return firmware(kind);
+    case AnalysisMethod::libraryRemainder:
+      return libraryRemainder(kind);
+  }
+  return {};
+}
+
+SystemDataSearch::Items SystemDataSearch::childrenOf(const ChildFolder& folder,
+                                                     SystemDataSubCategory kind) const {
+  const Path start = inHome(_catalogue.folder(folder.base).value_or("")) / folder.path;
+  return childrenExcept(folder.except, start, kind, folder.minimumSize, folder.onlyHidden);
 }
 
 SystemDataSearch::Items SystemDataSearch::wholePlaces(std::span<const WholePlace> places,
@@ -67,7 +93,7 @@ SystemDataSearch::Items SystemDataSearch::wholePlaces(std::span<const WholePlace
   for (const WholePlace& place : places) {
     SystemDataItem found = item(std::string(place.name), inHome(place.path), kind);
     if (found.size < place.minimumSize) continue;
-    found.safetyOverride = place.safetyOverride;
+    if (place.safetyOverride) found.safetyOverride = place.safetyOverride;
     items.push_back(std::move(found));
   }
   return items;
@@ -85,11 +111,13 @@ SystemDataSearch::Items SystemDataSearch::libraryRemainder(SystemDataSubCategory
 SystemDataSearch::Items SystemDataSearch::childrenExcept(std::span<const std::string_view> names,
                                                          const Path& folder,
                                                          SystemDataSubCategory kind,
-                                                         std::int64_t minimumSize) const {
+                                                         std::int64_t minimumSize,
+                                                         bool onlyHidden) const {
   Items items;
   for (const Path& child : list(folder)) {
     const Path name = child.filename();
     if (std::ranges::find(names, name.native()) != names.end()) continue;
+    if (onlyHidden && !name.native().starts_with('.')) continue;
     SystemDataItem found = item(friendlyName(name.native()), child, kind);
     if (found.size >= minimumSize && !isLink(child)) items.push_back(std::move(found));
   }
@@ -97,7 +125,7 @@ SystemDataSearch::Items SystemDataSearch::childrenExcept(std::span<const std::st
   return items;
 }
 
-SystemDataSearch::Items SystemDataSearch::snapshots(SystemDataSubCategory kind) const {
+SystemDataSearch::Items SystemDataSearch::localSnapshots(SystemDataSubCategory kind) const {
   Items items;
   const auto listing = runShell(_platform.commands, "tmutil listlocalsnapshots / 2>/dev/null");
   for (const std::string& text : listedSnapshots(listing)) {
@@ -160,7 +188,26 @@ SystemDataItem SystemDataSearch::item(std::string name, const Path& path,
           .path = path,
           .size = wholeAllocatedSize(_platform.files, path),
           .subCategory = kind,
+          .safetyOverride = verdict(path),
           .identity = identity};
+}
+
+std::optional<ItemSafety> SystemDataSearch::verdict(const Path& path) const {
+  if (!_layout.guard.onlyListedPlaces) return std::nullopt;
+  const FileSystem& files = _platform.files;
+  const auto real = files.realPath(path);
+  const auto scope = DeletionScope::general();
+  const bool mayGo = mayRemove(files, path, scope) && real &&
+                     (*real == path || mayRemoveReal(files, *real, scope)) &&
+                     !files.isMountPoint(path) && isStillOffered(_platform, path);
+  if (!mayGo) return ItemSafety::protected_;
+  const Path below = path.lexically_relative(files.home());
+  const bool inHome = !below.empty() && *below.begin() != "..";
+  const std::string text = inHome ? below.native() : path.native();
+  const bool isSafe = std::ranges::any_of(
+      _catalogue.placesOf(pathPieces(text), inHome),
+      [](const Place* place) { return safety(place->category) == SafetyLevel::safe; });
+  return isSafe ? ItemSafety::safe : ItemSafety::review;
 }
 
 }  // namespace klarvik

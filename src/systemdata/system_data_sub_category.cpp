@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "core/storage_palette.h"
+#include "places/disk_layout.h"
+#include "places/storage_palette.h"
 
 namespace klarvik {
 namespace {
@@ -119,6 +120,14 @@ RgbColor color(SystemDataSubCategory kind) {
 }
 std::string_view description(SystemDataSubCategory kind) {
   return row(kind).description;
+}
+std::string_view label(SystemDataSubCategory kind, const DiskLayout& layout) {
+  const auto place = static_cast<std::size_t>(kind);
+  return layout.systemData.empty() ? rawValue(kind) : layout.systemData[place].label;
+}
+std::string_view description(SystemDataSubCategory kind, const DiskLayout& layout) {
+  const auto place = static_cast<std::size_t>(kind);
+  return layout.systemData.empty() ? description(kind) : layout.systemData[place].description;
 }
 ItemSafety defaultSafety(SystemDataSubCategory kind) {
   return row(kind).safety;

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "core/junk_model.h"
-#include "core/storage_palette.h"
+#include "places/storage_palette.h"
 
 namespace klarvik {
 

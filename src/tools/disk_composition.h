@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/rgb_color.h"
+#include "places/rgb_color.h"
 #include "platform/date.h"
 #include "platform/path.h"
 

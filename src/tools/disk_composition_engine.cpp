@@ -1,45 +1,34 @@
 #include "tools/disk_composition_engine.h"
 
-#include <array>
+#include <algorithm>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "core/disk_stats.h"
 #include "core/junk_model.h"
-#include "core/storage_palette.h"
+#include "core/shown_folders.h"
 #include "engine/allocated_size.h"
+#include "places/disk_layout.h"
+#include "places/storage_palette.h"
 #include "platform/file_system.h"
 
 namespace klarvik {
 
 namespace {
 
-struct Target {
-  std::string_view id;
-  std::string_view label;
-  std::string_view path;  ///< below the home unless absolute
-  RgbColor color;
-};
+constexpr std::string_view remainderId = "system";
 
-// People keep photos in Pictures, so that is what its share is called.
-constexpr std::array<Target, 13> targets{{
-    {"applications", "Applications", "/Applications", storage_palette::blue},
-    {"documents", "Documents", "Documents", storage_palette::orange},
-    {"desktop", "Desktop", "Desktop", storage_palette::teal},
-    {"downloads", "Downloads", "Downloads", storage_palette::amber},
-    {"photos", "Photos", "Pictures", storage_palette::pink},
-    {"music", "Music", "Music", storage_palette::green},
-    {"movies", "Movies", "Movies", storage_palette::violet},
-    {"developer", "Developer", "Library/Developer", storage_palette::coral},
-    {"icloud", "iCloud Drive (local)", "Library/Mobile Documents", storage_palette::lightGray},
-    {"mail", "Mail", "Library/Mail", storage_palette::lightGray},
-    {"containers", "App containers", "Library/Containers", storage_palette::lightGray},
-    {"appSupport", "App support", "Library/Application Support", storage_palette::lightGray},
-    {"caches", "Caches", "Library/Caches", storage_palette::lightGray},
-}};
-
-/// The targets, and the remainder.
-constexpr double stepCount = targets.size() + 1;
+/// Whether no kind of folder before this one is the same folder.
+bool isFirstOf(const UserFolders& shown, Path UserFolders::*kind) {
+  for (Path UserFolders::*before :
+       {&UserFolders::documents, &UserFolders::desktop, &UserFolders::downloads,
+        &UserFolders::pictures, &UserFolders::music, &UserFolders::videos}) {
+    if (before == kind) return true;
+    if (shown.*before == shown.*kind) return false;
+  }
+  return true;
+}
 
 }  // namespace
 
@@ -49,38 +38,60 @@ DiskCompositionEngine::DiskCompositionEngine(const Platform& platform, PresentTi
 DiskComposition DiskCompositionEngine::measureDisk(std::stop_token stop,
                                                    const ProgressSink& progress) {
   const std::scoped_lock serial(_measuring);
+  const DiskLayout& layout = layoutFor(_platform.files.home());
+  const double stepCount = static_cast<double>(layout.storageShares.size()) + 1;
   DiskComposition disk;
   std::int64_t sum = 0;
   double stepsBegun = 0;
-  for (const Target& target : targets) {
+  for (const StorageShare& share : layout.storageShares) {
     if (stop.stop_requested()) break;
-    progress(std::string(target.label), stepsBegun++ / stepCount);
-    const Path url = _platform.files.home() / target.path;
-    const auto bytes = measure(url, stop);
+    progress(std::string(share.label), stepsBegun++ / stepCount);
+    const std::vector<Path> places = placesOf(share);
+    std::int64_t bytes = 0;
+    for (const Path& place : places) bytes = addBytes(bytes, measure(place, stop));
     if (bytes < 1) continue;
     sum = addBytes(sum, bytes);
-    disk.buckets.push_back({.id = std::string(target.id),
-                            .label = std::string(target.label),
-                            .bytes = bytes,
-                            .color = target.color,
-                            .url = url});
+    disk.buckets.push_back(
+        {.id = std::string(share.id),
+         .label = std::string(share.label),
+         .bytes = bytes,
+         .color = share.color,
+         .url = places.size() == 1 ? std::optional(places.front()) : std::nullopt});
   }
 
-  progress("The rest of the disk", targets.size() / stepCount);
-  const DiskStats stats = readDiskStats(_platform.volume);
+  progress("The rest of the disk", (stepCount - 1) / stepCount);
+  const DiskStats stats = readDiskStats(_platform.volume, layout);
   disk.usedBytes = stats.usedBytes;
   disk.freeBytes = stats.freeBytes;
   // Clones, shared space and sparse files can make the places add up to more than what is used.
   const auto rest = stats.usedBytes - sum;
   if (rest >= 1) {
-    disk.buckets.push_back({.id = "system",
-                            .label = "macOS and everything else",
+    disk.buckets.push_back({.id = std::string(remainderId),
+                            .label = std::string(layout.words.systemAndEverythingElse),
                             .bytes = rest,
                             .color = storage_palette::white(0.34)});
   }
   progress("Done", 1.0);
   disk.measuredAt = _now();
   return disk;
+}
+
+/// A folder that the user sees, unless it is the home itself or lies in another of them: everything
+/// is part of one share only.
+std::vector<Path> DiskCompositionEngine::placesOf(const StorageShare& share) const {
+  const FileSystem& files = _platform.files;
+  if (share.shown != nullptr) {
+    const UserFolders shown = shownFolders(files);
+    const Path& folder = shown.*share.shown;
+    const auto all = withoutNested({shown.documents, shown.desktop, shown.downloads, shown.pictures,
+                                    shown.music, shown.videos},
+                                   files.home());
+    const bool isOne = std::ranges::find(all, folder) != all.end() && isFirstOf(shown, share.shown);
+    return isOne ? std::vector{folder} : std::vector<Path>{};
+  }
+  std::vector<Path> places;
+  for (const std::string_view place : share.places) places.push_back(files.home() / place);
+  return places;
 }
 
 std::int64_t DiskCompositionEngine::measure(const Path& url, std::stop_token stop) const {

@@ -6,11 +6,14 @@
 #include <mutex>
 #include <stop_token>
 #include <string>
+#include <vector>
 
 #include "platform/platform.h"
 #include "tools/disk_composition.h"
 
 namespace klarvik {
+
+struct StorageShare;
 
 /// Measures the places that people keep things in, and sets their sum against what the volume says
 /// is used. Reads sizes only.
@@ -38,6 +41,7 @@ class DiskCompositionEngine {
   [[nodiscard]] std::int64_t measure(const Path& url, std::stop_token stop = {}) const;
 
  private:
+  [[nodiscard]] std::vector<Path> placesOf(const StorageShare& share) const;
   const Platform& _platform;
   PresentTime _now;
   std::mutex _measuring;

@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "engine/allocated_size.h"
 #include "platform/file_system.h"
 #include "platform/packages.h"
 #include "tools/found_files.h"
@@ -73,15 +74,17 @@ class Collection {
   void addFolder(const Path& folder) {
     if (!isNew(_files.attributes(folder))) return;
     _found.beginWalk(folder);
-    _files.walk(folder, {.skipHidden = true, .skipPackageContents = true},
-                [this](WalkEntry& entry) {
-                  if (entry.kind() == FileKind::directory) {
-                    const bool isEntered = isPackageName(entry.name()) || isNew(entry.attributes());
-                    return isEntered ? WalkStep::proceed : WalkStep::skipDescendants;
-                  }
-                  if (isEligible(entry)) _found.add(entry);
-                  return WalkStep::proceed;
-                });
+    WalkOptions options = wholeWalk(_files);
+    options.skipHidden = true;
+    options.skipPackageContents = true;
+    _files.walk(folder, options, [this](WalkEntry& entry) {
+      if (entry.kind() == FileKind::directory) {
+        const bool isEntered = isPackageName(entry.name()) || isNew(entry.attributes());
+        return isEntered ? WalkStep::proceed : WalkStep::skipDescendants;
+      }
+      if (isEligible(entry)) _found.add(entry);
+      return WalkStep::proceed;
+    });
   }
 
   [[nodiscard]] FoundFiles take() { return std::move(_found); }

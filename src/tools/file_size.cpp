@@ -1,6 +1,7 @@
 #include "tools/file_size.h"
 
 #include "core/junk_model.h"
+#include "engine/allocated_size.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"
 
@@ -21,7 +22,9 @@ std::int64_t fileSize(const FileSystem& files, const Path& path) {
 
 std::int64_t contentSize(const FileSystem& files, const Path& path) {
   std::int64_t total = 0;
-  const auto outcome = files.walk(path, {.skipHidden = true}, [&](WalkEntry& entry) {
+  WalkOptions options = wholeWalk(files);
+  options.skipHidden = true;
+  const auto outcome = files.walk(path, options, [&](WalkEntry& entry) {
     if (entry.kind() != FileKind::directory) total = addBytes(total, lengthOf(entry.attributes()));
     return WalkStep::proceed;
   });

@@ -4,16 +4,15 @@
 #include <array>
 #include <utility>
 
+#include "core/catalogue.h"
+#include "core/shown_folders.h"
+#include "engine/allocated_size.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"
 
 namespace klarvik {
 
 namespace {
-
-constexpr std::array<std::string_view, 8> roots{
-    "Documents", "Downloads", "Desktop",           "Movies",
-    "Music",     "Pictures",  "Library/Developer", "Library/Caches"};
 
 /// Folders that build tools and package managers fill.
 constexpr std::array<std::string_view, 8> skippedComponents{
@@ -63,6 +62,35 @@ bool liesInPassedOver(const Path& path) {
                      [](const Path& part) { return isPassedOver(part.native()); });
 }
 
+/// The visible folders of the home that hold neither what programs have put there for themselves
+/// nor what may not be picked.
+std::vector<Path> visibleFolders(const FileSystem& files, const DiskLayout& layout) {
+  const Catalogue catalogue(layout, files.folders());
+  std::vector<Path> folders = files.list(files.home()).value_or(std::vector<Path>{});
+  std::erase_if(folders, [&](const Path& folder) {
+    const std::string name = folder.filename().native();
+    const std::array<std::string_view, 1> pieces{name};
+    const auto& others = layout.notSearchedForProjects;
+    return name.starts_with('.') || std::ranges::find(others, name) != others.end() ||
+           catalogue.ownPlaceOf(pieces) || files.isMountPoint(folder);
+  });
+  std::ranges::sort(folders);
+  return folders;
+}
+
+std::vector<Path> roots(const FileSystem& files) {
+  const DiskLayout& layout = layoutFor(files.home());
+  const UserFolders shown = shownFolders(files);
+  std::vector<Path> folders{shown.documents, shown.downloads, shown.desktop,
+                            shown.videos,    shown.music,     shown.pictures};
+  for (const std::string_view more : layout.moreLargeFileFolders) {
+    folders.push_back(files.home() / more);
+  }
+  if (!layout.allVisibleFoldersMayBeLarge) return folders;
+  for (Path& folder : visibleFolders(files, layout)) folders.push_back(std::move(folder));
+  return withoutNested(folders, files.home());
+}
+
 /// One run through the roots.
 class Run {
  public:
@@ -71,9 +99,9 @@ class Run {
       : _files(files), _threshold(thresholdBytes), _stop(std::move(stop)), _sink(onProgress) {}
 
   LargeFileList found() {
-    for (const std::string_view root : roots) {
+    for (const Path& root : roots(_files)) {
       if (_stop.stop_requested()) break;
-      walkRoot(_files.home() / root);
+      walkRoot(root);
     }
     mergeBySize(_update.files, std::exchange(_fresh, {}));
     return std::move(_update.files);
@@ -81,13 +109,23 @@ class Run {
 
  private:
   void walkRoot(const Path& root) {
-    if (liesInPassedOver(root)) return;
-    _files.walk(root, {.skipHidden = true, .skipPackageContents = true}, [this](WalkEntry& entry) {
+    if (liesInPassedOver(judgedPart(root))) return;
+    WalkOptions options = wholeWalk(_files);
+    options.skipHidden = true;
+    options.skipPackageContents = true;
+    _files.walk(root, options, [this](WalkEntry& entry) {
       if (_stop.stop_requested()) return WalkStep::stop;
       if (isPassedOver(entry.name())) return WalkStep::skipDescendants;
       visit(entry);
       return WalkStep::proceed;
     });
+  }
+
+  /// A Linux home may lie anywhere, also in a folder called "build".
+  [[nodiscard]] Path judgedPart(const Path& root) const {
+    const Path below = root.lexically_relative(_files.home());
+    const bool isInHome = !below.empty() && *below.begin() != "..";
+    return isInHome && layoutFor(_files.home()).allVisibleFoldersMayBeLarge ? below : root;
   }
 
   void visit(WalkEntry& entry) {

@@ -86,8 +86,8 @@ TEST(DeletionGuard, RefusesTheHomeAndEveryOtherAccount) {
 
 TEST(DeletionGuard, RefusesASiblingThatSharesAPrefixWithTheHome) {
   EXPECT_EQ(ask("/Users/ann2/Library/Caches/x"), "Refusing to touch another user account.");
-  EXPECT_EQ(ask("/home/ann2/Library/Caches/x", general, "/home/ann"),
-            "/home/ann2/Library/Caches/x is outside the locations Klarvik cleans.");
+  EXPECT_EQ(ask("/home/ann2/.cache/x", general, "/home/ann"),
+            "Refusing to touch another user account.");
 }
 
 TEST(DeletionGuard, RefusesEveryFolderOfTheUsersOwnFilesAndWhatItHolds) {

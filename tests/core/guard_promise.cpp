@@ -63,6 +63,12 @@ constexpr std::array usersOwn{"Desktop",
 constexpr std::array sharedPlaces{"/private/tmp", "/tmp", "/.MobileBackups", "/Library/Caches",
                                   "/private/var/log"};
 
+constexpr std::array linuxSharedPlaces{"/tmp", "/var/tmp", "/var/crash"};
+
+constexpr std::array linuxNever{
+    ".ssh", ".gnupg",           ".password-store", ".local/share/keyrings",
+    ".aws", ".mozilla/firefox", ".thunderbird",    "Documents/x.kdbx"};
+
 // A residual may lie in the Library of the machine as well.
 constexpr std::array machineLibrary{"/Library/Preferences",
                                     "/Library/Caches",
@@ -94,14 +100,23 @@ std::optional<std::string> brokenPromise(const Path& given, const DeletionScope&
 
   const Path path = resolved(given);
   const Path home = resolved(givenHome);
+  const bool isMac = isAtOrBelow(home, "/Users") && home != "/Users";
+  const bool homeIsReal = home.is_absolute() && home != "/";
   for (const Path place : neverItself) {
     if (path == place) return "a system directory";
   }
   for (const Path place : neverBelow) {
+    if (!isMac && homeIsReal && isAtOrBelow(path, home)) break;
     if (isAtOrBelow(path, place) && path != place) return "below " + place.native();
   }
-  const bool homeIsReal = home.is_absolute() && home != "/";
   if (homeIsReal && isAtOrBelow(path, home)) {
+    if (!isMac) {
+      for (const Path never : linuxNever) {
+        const bool isResidualOfTheBrowser = isResidual && never.native().starts_with(".mozilla");
+        if (isAtOrBelow(path, home / never) && !isResidualOfTheBrowser) return "secrets, or mail";
+      }
+      return depthBelow(path, home) < 1 ? std::optional<std::string>("the home") : std::nullopt;
+    }
     if (depthBelow(path, home) < 2) return "the home, or directly in it";
     for (const Path own : usersOwn) {
       const bool isOwn = isAtOrBelow(path, home / own);
@@ -110,7 +125,8 @@ std::optional<std::string> brokenPromise(const Path& given, const DeletionScope&
     return std::nullopt;
   }
   if (isAtOrBelow(path, "/Users")) return "another account";
-  const bool isShared = liesBelowOneOf(path, sharedPlaces);
+  const bool isShared =
+      isMac ? liesBelowOneOf(path, sharedPlaces) : liesBelowOneOf(path, linuxSharedPlaces);
   const bool isMachineResidual = isResidual && liesBelowOneOf(path, machineLibrary);
   if (!isShared && !isMachineResidual) return "outside of every cleanable place";
   return std::nullopt;

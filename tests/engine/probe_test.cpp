@@ -345,5 +345,13 @@ TEST_F(Probe, BuildsItsSampleDiskOnlyInAnEmptyFolder) {
   EXPECT_FALSE(disk.holds("/newer"));
 }
 
+TEST_F(Probe, BuildsItsSampleDiskInTheShapeThatTheHomeAsksFor) {
+  Program linuxShaped({KLARVIK_SAMPLE_DISK, disk.onDisk("/new"), "--home", "/home/eve"});
+  EXPECT_THAT(linuxShaped.readToEnd(), SizeIs(1));
+  EXPECT_EQ(linuxShaped.wait(), 0);
+  EXPECT_TRUE(disk.holds("/new/home/eve/.config/user-dirs.dirs"));
+  EXPECT_FALSE(disk.holds("/new/Applications"));
+}
+
 }  // namespace
 }  // namespace klarvik

@@ -2,43 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <fstream>
 #include <map>
 
 #include "engine/scanner_engine.h"
+#include "support/disk_snapshot.h"
 #include "support/fake_desktop.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::string beginningOf(const Path& file) {
-  std::array<char, 512> buffer{};
-  std::ifstream stream(file, std::ios::binary);
-  stream.read(buffer.data(), buffer.size());
-  return {buffer.data(), static_cast<std::size_t>(stream.gcount())};
-}
-
-std::string describe(const fs::directory_entry& entry) {
-  if (entry.is_symlink()) return "link to " + fs::read_symlink(entry).native();
-  if (entry.is_directory()) return "folder";
-  const auto modified = entry.last_write_time().time_since_epoch().count();
-  return "file " + std::to_string(entry.file_size()) + ' ' + std::to_string(modified) + ' ' +
-         beginningOf(entry.path());
-}
-
-/// What lies below a folder. Large files are told apart by how they begin: reading gigabytes of
-/// nothing would take a while.
-std::map<std::string, std::string> contentsOf(const Path& folder) {
-  std::map<std::string, std::string> contents;
-  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-    contents[entry.path().lexically_relative(folder)] = describe(entry);
-  }
-  return contents;
-}
 
 /// An engine on the sample disk, with tools that answer what a test says.
 struct SampleEngine {
@@ -81,14 +53,14 @@ TEST(SampleDisk, ACleanOfEverythingFoundTouchesNothingElse) {
   for (const CleanCategory& category : run.engine.scanAll({}, {}, {})) {
     items.insert(items.end(), category.items.begin(), category.items.end());
   }
-  const auto before = contentsOf(folder.path());
+  const auto before = outlineOf(folder.path());
   std::vector<std::string> removed;
   for (const DeletionOutcome& outcome : run.engine.deleteItems(items, /*useTrash=*/false)) {
     if (outcome.reclaimed > 0) removed.push_back(outcome.originalURL.relative_path());
   }
   EXPECT_GT(removed.size(), 20U);
 
-  const auto after = contentsOf(folder.path());
+  const auto after = outlineOf(folder.path());
   for (const auto& [place, content] : before) {
     const bool selected = std::any_of(removed.begin(), removed.end(), [&](const std::string& each) {
       return place == each || place.starts_with(each + "/");

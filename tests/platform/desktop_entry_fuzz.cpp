@@ -1,6 +1,6 @@
 // Whatever an autostart entry holds, a value is a piece of one of its lines, without blanks around.
 
-#include "platform/linux/desktop_entry.h"
+#include "platform/desktop_entry.h"
 
 #include <cstddef>
 #include <cstdint>

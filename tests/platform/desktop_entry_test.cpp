@@ -1,4 +1,4 @@
-#include "platform/linux/desktop_entry.h"
+#include "platform/desktop_entry.h"
 
 #include <gtest/gtest.h>
 

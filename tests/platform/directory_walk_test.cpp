@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/linux_file_system.h"
+#include "support/private_mounts.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -163,6 +164,30 @@ TEST_F(DirectoryWalkTest, AllowsAWalkWithinAWalk) {
     return WalkStep::proceed;
   });
   EXPECT_THAT(inner, UnorderedElementsAre("/start/a/x", "/start/b/y"));
+}
+
+TEST(DirectoryWalk, StaysOnTheVolumeWhereItIsToldTo) {
+  const TemporaryFolder disk;
+  disk.makeFile("/home/ann/cache/own", 10);
+  disk.makeFolder("/home/ann/cache/mounted");
+  EXPECT_TRUE(passesWithPrivateMounts([&] {
+    mountTmpfs(disk.onDisk("/home/ann/cache/mounted"));
+    disk.makeFile("/home/ann/cache/mounted/far", 10);
+    const LinuxFileSystem files(disk.path(), "/home/ann");
+    const auto names = [&](WalkOptions options) {
+      std::set<std::string> seen;
+      files.walk("/home/ann/cache", options, [&](WalkEntry& entry) {
+        seen.emplace(entry.name());
+        return WalkStep::proceed;
+      });
+      return seen;
+    };
+    EXPECT_EQ(names({.stayOnMount = true}), (std::set<std::string>{"mounted", "own"}));
+    EXPECT_EQ(names({}), (std::set<std::string>{"far", "mounted", "own"}));
+    EXPECT_TRUE(files.isMountPoint("/home/ann/cache/mounted"));
+    EXPECT_FALSE(files.isMountPoint("/home/ann/cache"));
+    EXPECT_FALSE(files.isMountPoint("/home/ann/cache/nowhere"));
+  }));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "platform/linux/mounted_volume.h"
 
 #include <gtest/gtest.h>
+#include <sys/statvfs.h>
 
 #include "support/private_mounts.h"
 #include "support/temporary_folder.h"
@@ -17,7 +18,15 @@ TEST(MountedVolume, TellsItsFiguresInBytes) {
     EXPECT_EQ(volume.availableBytes(), 1024 * 1024);
     folder.makeFile("/file", 512 * 1024);
     EXPECT_EQ(volume.availableBytes(), 512 * 1024);
+    EXPECT_EQ(volume.keptForRootBytes(), 0);
   }));
+}
+
+TEST(MountedVolume, TellsWhatOnlyRootCouldWrite) {
+  struct ::statvfs status {};
+  ASSERT_EQ(::statvfs("/", &status), 0);
+  const auto kept = static_cast<std::int64_t>((status.f_bfree - status.f_bavail) * status.f_frsize);
+  EXPECT_EQ(MountedVolume("/").keptForRootBytes(), kept);
 }
 
 TEST(MountedVolume, HasNoNameWhereTheFileSystemHasNoLabel) {
@@ -28,6 +37,7 @@ TEST(MountedVolume, TellsNothingOfAPlaceThatIsNotThere) {
   const MountedVolume volume("/nowhere/at/all");
   EXPECT_EQ(volume.totalBytes(), std::nullopt);
   EXPECT_EQ(volume.availableBytes(), std::nullopt);
+  EXPECT_EQ(volume.keptForRootBytes(), std::nullopt);
   EXPECT_EQ(volume.name(), std::nullopt);
 }
 

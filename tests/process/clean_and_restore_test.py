@@ -17,7 +17,7 @@ class CleanAndRestore(ProcessTest):
         self.trash_folder = self.home.path / ".local/share/Trash"
 
     def add_caches_with_every_kind_of_entry(self):
-        cache = self.home.path / "Library/Caches/com.example.every kind"
+        cache = self.home.path / ".cache/org.gnome.every kind"
         (cache / "deep/er").mkdir(parents=True)
         (cache / "deep/er/data").write_bytes(os.urandom(1_200_000))
         (cache / "deep/secret").write_text("for one reader", encoding="utf-8")
@@ -29,7 +29,7 @@ class CleanAndRestore(ProcessTest):
         os.utime(cache / "tool", ns=(1_000_000_000_123_456_789, 1_100_000_000_987_654_321))
 
     def picture(self):
-        own = [".config", ".cache", ".local", ".Trash"]
+        own = [".config/klarvik", ".local/share/Trash", ".cache/fontconfig", ".cache/mesa_shader_cache"]
         return picture_of(self.home.path, [self.home.path / name for name in own])
 
     def trashed_paths(self):
@@ -50,7 +50,7 @@ class CleanAndRestore(ProcessTest):
         klarvik.wait_until(self.home.cleans, "The end of the clean")
         after = self.picture()
         gone = before.keys() - after.keys()
-        self.assertIn("com.example.every kind", {path.name for path in gone})
+        self.assertIn("org.gnome.every kind", {path.name for path in gone})
         self.assertEqual(after, {path: before[path] for path in before if path not in gone})
         self.assert_what_is_gone_is_in_the_trash(gone)
 

@@ -13,8 +13,6 @@ class FirstRun(ProcessTest):
 
     def go_to_the_last_page(self, klarvik):
         self.pointer.click(klarvik, "Continue")
-        self.wait_for(klarvik, "Give it Full Disk Access")
-        self.pointer.click(klarvik, "Continue")
         self.wait_for(klarvik, "Ready when you are")
 
     def wait_for(self, klarvik, name):
@@ -28,12 +26,12 @@ class FirstRun(ProcessTest):
         return int(fields["WIDTH"]), int(fields["HEIGHT"])
 
     def test_leads_from_the_first_page_to_the_first_clean_and_is_not_shown_again(self):
-        cache = self.home.path / "Library/Caches/com.example.first-run"
+        cache = self.home.path / ".cache/org.gnome.first-run"
         cache.mkdir(parents=True)
         (cache / "data").write_bytes(b"junk" * 500_000)
 
         klarvik = self.start()
-        self.wait_for(klarvik, "Klarvik finds what the Finder hides")
+        self.wait_for(klarvik, "Klarvik finds what file managers hide")
         self.assertEqual(self.size_of_the_window(klarvik), (520, 560))
         self.go_to_the_last_page(klarvik)
         self.assertEqual(self.home.scans(), [])
@@ -50,7 +48,7 @@ class FirstRun(ProcessTest):
         self.pointer.click(klarvik, "Clean ")
         klarvik.wait_until(self.home.cleans, "The end of the clean")
         self.assertFalse(cache.exists())
-        trashed = self.home.path / ".local/share/Trash/files/com.example.first-run/data"
+        trashed = self.home.path / ".local/share/Trash/files/org.gnome.first-run/data"
         self.assertEqual(trashed.read_bytes(), b"junk" * 500_000)
         klarvik.quit()
         self.assertEqual(klarvik.said(), "")
@@ -65,7 +63,7 @@ class FirstRun(ProcessTest):
     def test_put_off_it_scans_nothing_and_is_not_shown_again(self):
         klarvik = self.start()
         self.go_to_the_last_page(klarvik)
-        self.pointer.click(klarvik, "Keep Klarvik in the menu bar")
+        self.pointer.click(klarvik, "Keep Klarvik in the system tray")
         klarvik.wait_until(
             lambda: self.home.preferences().get("showMenuBar") is False, "The box on the disk"
         )
@@ -84,10 +82,10 @@ class FirstRun(ProcessTest):
     def test_quit_in_the_middle_begins_anew(self):
         klarvik = self.start()
         self.pointer.click(klarvik, "Continue")
-        self.wait_for(klarvik, "Give it Full Disk Access")
+        self.wait_for(klarvik, "Ready when you are")
         klarvik.quit()
         again = self.start()
-        self.wait_for(again, "Klarvik finds what the Finder hides")
+        self.wait_for(again, "Klarvik finds what file managers hide")
 
 
 if __name__ == "__main__":

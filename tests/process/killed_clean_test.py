@@ -17,9 +17,9 @@ class KilledClean(ProcessTest):
         self.pointer = Pointer(self.desktop)
         self.trash_folder = self.home.path / ".local/share/Trash"
         self.files = self.trash_folder / "files"
-        self.caches = self.home.path / "Library/Caches"
+        self.caches = self.home.path / ".cache"
         for number in range(self.ITEMS):
-            cache = self.caches / f"com.example.cache-{number}"
+            cache = self.caches / f"org.gnome.cache-{number}"
             cache.mkdir()
             with open(cache / "data", "wb") as data:
                 data.write(f"content of {number}".encode())
@@ -28,21 +28,21 @@ class KilledClean(ProcessTest):
     def content_of(self, folder):
         return {
             path.name: picture_of(path, [])
-            for path in folder.glob("com.example.cache-*")
+            for path in folder.glob("org.gnome.cache-*")
         }
 
     def kill_as_soon_as_something_goes(self):
         klarvik = self.start()
         klarvik.wait_for_scan()
         self.pointer.click(klarvik, "Clean ")
-        while not (self.files.is_dir() and any(self.files.glob("com.example.cache-*"))):
+        while not (self.files.is_dir() and any(self.files.glob("org.gnome.cache-*"))):
             self.assertIsNone(klarvik.process.poll(), klarvik.said())
         klarvik.kill()
 
     def put_everything_back(self):
-        for item in self.files.glob("com.example.cache-*"):
+        for item in self.files.glob("org.gnome.cache-*"):
             item.rename(self.caches / item.name)
-        for record in (self.trash_folder / "info").glob("com.example.cache-*"):
+        for record in (self.trash_folder / "info").glob("org.gnome.cache-*"):
             record.unlink()
 
     def test_leaves_every_item_whole_in_one_place(self):

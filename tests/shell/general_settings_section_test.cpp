@@ -153,5 +153,13 @@ TEST_F(GeneralSettings, LinksAreThereOnlyWhereTheBuildHasAddresses) {
                                                                  "mailto:help@klarvik.example"}));
 }
 
+TEST(GeneralSettingsOnALinuxDisk, NameTheDistributionAlone) {
+  const FakeDesktopOnDisk desk(std::nullopt, linuxHome);
+  FakeLoginItem loginItem;
+  PermissionsManager permissions(desk.desktop);
+  const GeneralSettingsSection page(permissions, loginItem, desk.desktop);
+  EXPECT_EQ(page.systemLine(), QSysInfo::prettyProductName());
+}
+
 }  // namespace
 }  // namespace klarvik

@@ -135,5 +135,16 @@ TEST_F(Onboarding, BeginsAnewAfterAQuitInTheMiddle) {
   EXPECT_EQ(next.step(), 0);
 }
 
+TEST(OnboardingOnALinuxDisk, HasNoPageOfAPermission) {
+  const FakeDesktopOnDisk desk(std::nullopt, linuxHome);
+  PermissionsManager permissions(desk.desktop);
+  OnboardingView view(permissions, desk.desktop);
+  EXPECT_EQ(view.stepCount(), 2);
+  EXPECT_EQ(view.buttonTitle(), "Continue");
+  view.proceed();
+  EXPECT_TRUE(view.isLastStep());
+  EXPECT_EQ(view.buttonTitle(), "Run first scan");
+}
+
 }  // namespace
 }  // namespace klarvik

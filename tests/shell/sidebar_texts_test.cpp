@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "places/disk_layout.h"
+
 namespace klarvik::sidebar {
 namespace {
 
@@ -10,12 +12,20 @@ const Formatting& english() {
   return formatting;
 }
 
+const DiskLayout& macDisk() {
+  return layoutFor("/Users/ann");
+}
+
+const DiskLayout& linuxDisk() {
+  return layoutFor("/home/ann");
+}
+
 Totals totalOf(Section section, std::int64_t bytes, std::int64_t items) {
   return {{std::string(rawValue(section)), {bytes, items, Date{}}}};
 }
 
-std::string helpOf(Section section) {
-  return help(section, totalOf(section, 1'500'000, 1), english()).value_or("");
+std::string helpOf(Section section, const DiskLayout& disk = macDisk()) {
+  return help(section, totalOf(section, 1'500'000, 1), disk.words, english()).value_or("");
 }
 
 TEST(SidebarLook, GivesEachSectionItsSymbolAndGroup) {
@@ -73,10 +83,16 @@ TEST(SidebarHelp, IsASentenceForEachSectionWithFixedPlurals) {
   EXPECT_EQ(helpOf(Section::privacy), "1 trails, 1.5 MB");
 }
 
+TEST(SidebarHelp, NamesNoSystemOnALinuxDisk) {
+  EXPECT_EQ(helpOf(Section::systemData, linuxDisk()),
+            "1.5 MB Klarvik can remove from the folders that apps keep out of sight");
+}
+
 TEST(SidebarHelp, IsAbsentWithoutATotalAndAtZeroBytes) {
   for (const Section section : allSections()) {
-    EXPECT_FALSE(help(section, {}, english())) << rawValue(section);
-    EXPECT_FALSE(help(section, totalOf(section, 0, 9), english())) << rawValue(section);
+    EXPECT_FALSE(help(section, {}, macDisk().words, english())) << rawValue(section);
+    EXPECT_FALSE(help(section, totalOf(section, 0, 9), macDisk().words, english()))
+        << rawValue(section);
   }
 }
 

@@ -2,12 +2,22 @@
 
 #include <gtest/gtest.h>
 
+#include "places/disk_layout.h"
+
 namespace klarvik::sidebar {
 namespace {
 
 const Formatting& english() {
   static const Formatting formatting("en_US");
   return formatting;
+}
+
+const DiskLayout& macDisk() {
+  return layoutFor("/Users/ann");
+}
+
+const DiskLayout& linuxDisk() {
+  return layoutFor("/home/ann");
 }
 
 TrashMonitor::Figures trashOf(std::int64_t items, std::int64_t bytes) {
@@ -18,43 +28,52 @@ TrashMonitor::Figures trashOf(std::int64_t items, std::int64_t bytes) {
 }
 
 TEST(TrashBlockTexts, SayHowManyItemsTakeHowMuch) {
-  EXPECT_EQ(trashSubtitle(trashOf(0, 0), english()), "Empty");
-  EXPECT_EQ(trashSubtitle(trashOf(1, 12'000), english()), "12 KB · 1 item");
-  EXPECT_EQ(trashSubtitle(trashOf(2, 12'000), english()), "12 KB · 2 items");
+  EXPECT_EQ(trashSubtitle(trashOf(0, 0), macDisk().words, english()), "Empty");
+  EXPECT_EQ(trashSubtitle(trashOf(1, 12'000), macDisk().words, english()), "12 KB · 1 item");
+  EXPECT_EQ(trashSubtitle(trashOf(2, 12'000), macDisk().words, english()), "12 KB · 2 items");
 }
 
 TEST(TrashBlockTexts, SayThatTheTrashIsBeingMeasured) {
   TrashMonitor::Figures trash = trashOf(1, 0);
   trash.isMeasuring = true;
-  EXPECT_EQ(trashSubtitle(trash, english()), "1 item · measuring…");
+  EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "1 item · measuring…");
 }
 
 TEST(TrashBlockTexts, SayThatAccessIsMissing) {
   TrashMonitor::Figures trash;
   trash.isReadable = false;
-  EXPECT_EQ(trashSubtitle(trash, english()), "Needs Full Disk Access");
-  EXPECT_EQ(trashControl(trash), TrashBlock::Control::Grant);
-  EXPECT_EQ(trashControlHelp(trash, english()), "macOS keeps the Trash behind Full Disk Access");
+  EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "Needs Full Disk Access");
+  EXPECT_EQ(trashControl(trash, macDisk()), TrashBlock::Control::Grant);
+  EXPECT_EQ(trashControlHelp(trash, macDisk(), english()),
+            "macOS keeps the Trash behind Full Disk Access");
+}
+
+TEST(TrashBlockTexts, GrantNothingWhereThereIsNoPermissionToGrant) {
+  TrashMonitor::Figures trash;
+  trash.isReadable = false;
+  EXPECT_EQ(trashSubtitle(trash, linuxDisk().words, english()), "Cannot be read");
+  EXPECT_EQ(trashControl(trash, linuxDisk()), TrashBlock::Control::None);
+  EXPECT_EQ(trashControlHelp(trash, linuxDisk(), english()), "");
 }
 
 TEST(TrashBlockTexts, CountAnEmptyingUpToItsTotalAndNotBeyond) {
   TrashMonitor::Figures trash = trashOf(5, 12'000);
   trash.isEmptying = true;
   trash.isReadable = false;
-  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying…");
+  EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "Emptying…");
   trash.emptyProgress = DeletionProgress{.completed = 0, .total = 0, .currentName = "", .freed = 0};
-  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying…");
+  EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "Emptying…");
   trash.emptyProgress = DeletionProgress{.completed = 0, .total = 5, .currentName = "", .freed = 0};
-  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying 1 of 5");
+  EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "Emptying 1 of 5");
   trash.emptyProgress = DeletionProgress{.completed = 5, .total = 5, .currentName = "", .freed = 0};
-  EXPECT_EQ(trashSubtitle(trash, english()), "Emptying 5 of 5");
-  EXPECT_EQ(trashControl(trash), TrashBlock::Control::Progress);
+  EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "Emptying 5 of 5");
+  EXPECT_EQ(trashControl(trash, macDisk()), TrashBlock::Control::Progress);
 }
 
 TEST(TrashBlockTexts, OfferToEmptyOnlyWhatHoldsSomething) {
-  EXPECT_EQ(trashControl(trashOf(0, 0)), TrashBlock::Control::None);
-  EXPECT_EQ(trashControl(trashOf(3, 12'000)), TrashBlock::Control::Empty);
-  EXPECT_EQ(trashControlHelp(trashOf(3, 12'000), english()),
+  EXPECT_EQ(trashControl(trashOf(0, 0), macDisk()), TrashBlock::Control::None);
+  EXPECT_EQ(trashControl(trashOf(3, 12'000), macDisk()), TrashBlock::Control::Empty);
+  EXPECT_EQ(trashControlHelp(trashOf(3, 12'000), macDisk(), english()),
             "Delete everything in the Trash and reclaim 12 KB");
 }
 

@@ -104,5 +104,18 @@ TEST_F(DiskMonitorTest, GoesInTheMiddleOfItsFollowUpReadings) {
   around.clock.advance(1min);
 }
 
+TEST(DiskMonitorOnALinuxDisk, CountsWhatIsKeptForRootAsNeitherUsedNorFree) {
+  FakeDesktopOnDisk around(std::nullopt, linuxHome);
+  around.volume.setKeptForRootBytes(25'000'000'000);
+  const DiskMonitor monitor(around.desktop);
+  EXPECT_EQ(monitor.stats(), (DiskStats{500'000'000'000, 275'000'000'000, 200'000'000'000}));
+}
+
+TEST_F(DiskMonitorTest, OnAMacsDiskWhatIsKeptForRootIsUsed) {
+  around.volume.setKeptForRootBytes(25'000'000'000);
+  monitor->refreshNow();
+  EXPECT_EQ(monitor->stats(), (DiskStats{500'000'000'000, 300'000'000'000, 200'000'000'000}));
+}
+
 }  // namespace
 }  // namespace klarvik

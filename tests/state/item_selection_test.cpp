@@ -140,5 +140,30 @@ TEST(ItemSelectionOfAMillionRows, IsWholeAndExact) {
   EXPECT_TRUE(selection.empty());
 }
 
+TEST(ItemSelectionOfThingsInUse, LeavesThemOutOfWhatIsSelectedWithoutAsking) {
+  CleanCategory caches = categoryOf(CategoryType::appCaches, {10, 30, 20});
+  caches.items[1].closeFirst = "Firefox";
+  ItemSelection selection;
+  selection.add(caches, ranked(caches));
+  EXPECT_TRUE(selection.selectUnused(caches.id));
+  EXPECT_EQ(selection.selected(), (ItemSum{30, 2}));
+  EXPECT_FALSE(selection.contains(caches.items[1].id));
+  EXPECT_FALSE(selection.selectUnused(Uuid::random()));
+
+  EXPECT_TRUE(selection.set(caches.items[1].id, true));
+  EXPECT_EQ(selection.safeItems().selected(), (ItemSum{30, 2}));
+}
+
+TEST(ItemSelectionOfThingsThatGoForGood, KnowsTheirPartOfTheSum) {
+  CleanCategory caches = categoryOf(CategoryType::appCaches, {10, 30, 20});
+  caches.items[2].goesForGood = true;
+  ItemSelection selection;
+  selection.add(caches, ranked(caches));
+  EXPECT_TRUE(selection.setAll(caches.id, true));
+  EXPECT_EQ(selection.selected(), (ItemSum{60, 3, 20}));
+  EXPECT_TRUE(selection.set(caches.items[2].id, false));
+  EXPECT_EQ(selection.selected(), (ItemSum{40, 2, 0}));
+}
+
 }  // namespace
 }  // namespace klarvik

@@ -195,5 +195,14 @@ TEST_F(WithoutAccess, RelaunchIsHandedToTheWorkspace) {
   EXPECT_EQ(around.workspace.relaunches, 1);
 }
 
+TEST(PermissionsManagerOnALinuxDisk, HasAccessWhateverLiesAtTheFilesOfAMac) {
+  FakeDesktopOnDisk around(std::nullopt, linuxHome);
+  for (const Path& path : {Path("/home/ann/Library/Safari/CloudTabs.db"), third}) {
+    around.disk.makeFile(path);
+    around.files.fail(FileOperation::openForReading, path);
+  }
+  EXPECT_TRUE(PermissionsManager(around.desktop).probeAccess());
+}
+
 }  // namespace
 }  // namespace klarvik

@@ -1,6 +1,7 @@
 #include "support/disk_snapshot.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <iterator>
 
@@ -9,15 +10,39 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string describe(const fs::directory_entry& entry) {
+using ContentOf = std::string (*)(const Path& file);
+
+std::string wholeContent(const Path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::string lengthAndBeginning(const Path& file) {
+  std::array<char, 512> buffer{};
+  std::ifstream stream(file, std::ios::binary);
+  stream.read(buffer.data(), buffer.size());
+  return std::to_string(fs::file_size(file)) + ' ' +
+         std::string(buffer.data(), static_cast<std::size_t>(stream.gcount()));
+}
+
+std::string describe(const fs::directory_entry& entry, ContentOf contentOf) {
   const fs::file_status status = entry.symlink_status();
   const std::string mode = std::to_string(static_cast<unsigned>(status.permissions()));
   if (status.type() == fs::file_type::symlink) return "link to " + fs::read_symlink(entry).native();
   if (status.type() == fs::file_type::directory) return "folder " + mode;
   if (status.type() != fs::file_type::regular) return "other " + mode;
   const std::string date = std::to_string(entry.last_write_time().time_since_epoch().count());
-  std::ifstream file(entry.path(), std::ios::binary);
-  return "file " + mode + " " + date + " " + std::string{std::istreambuf_iterator<char>(file), {}};
+  return "file " + mode + " " + date + " " + contentOf(entry.path());
+}
+
+DiskSnapshot snapshotWith(const Path& folder, ContentOf contentOf) {
+  DiskSnapshot snapshot;
+  if (!fs::is_directory(fs::symlink_status(folder)))
+    return {{"", describe(fs::directory_entry(folder), contentOf)}};
+  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+    snapshot[entry.path().lexically_relative(folder)] = describe(entry, contentOf);
+  }
+  return snapshot;
 }
 
 bool liesIn(const Path& place, const Path& folder) {
@@ -28,13 +53,11 @@ bool liesIn(const Path& place, const Path& folder) {
 }  // namespace
 
 DiskSnapshot snapshotOf(const Path& folder) {
-  DiskSnapshot snapshot;
-  if (!fs::is_directory(fs::symlink_status(folder)))
-    return {{"", describe(fs::directory_entry(folder))}};
-  for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-    snapshot[entry.path().lexically_relative(folder)] = describe(entry);
-  }
-  return snapshot;
+  return snapshotWith(folder, wholeContent);
+}
+
+DiskSnapshot outlineOf(const Path& folder) {
+  return snapshotWith(folder, lengthAndBeginning);
 }
 
 std::string differences(const DiskSnapshot& before, const DiskSnapshot& after) {

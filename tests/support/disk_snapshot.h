@@ -14,6 +14,8 @@ namespace klarvik {
 using DiskSnapshot = std::map<std::string, std::string>;
 
 [[nodiscard]] DiskSnapshot snapshotOf(const Path& folder);
+/// The same for disks with gigabytes of nothing in them: of a file, its length and how it begins.
+[[nodiscard]] DiskSnapshot outlineOf(const Path& folder);
 
 /// A line for each place that differs: "gone a/b", "new c", "changed d". Empty when none does.
 [[nodiscard]] std::string differences(const DiskSnapshot& before, const DiskSnapshot& after);

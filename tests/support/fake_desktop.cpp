@@ -37,7 +37,7 @@ FakeDesktop::FakeDesktop(FileSystem& disk, Trash& trashOfTheDisk)
 FakeDesktop::~FakeDesktop() = default;
 
 Desktop FakeDesktop::with(Clock& other) {
-  return {{files, trash, commands, defaults, volume, formatting, info, recentDocuments},
+  return {{files, trash, commands, defaults, volume, formatting, info, recentDocuments, programs},
           other,
           notifications,
           workspace,
@@ -47,10 +47,11 @@ Desktop FakeDesktop::with(Clock& other) {
           updater};
 }
 
-FakeDesktopOnDisk::FakeDesktopOnDisk(const std::optional<SampleDiskOptions>& options)
-    : FakeDesktop(filesOnDisk, trashOnDisk) {
+FakeDesktopOnDisk::FakeDesktopOnDisk(const std::optional<SampleDiskOptions>& options,
+                                     const Path& home)
+    : TemporaryDisk(home), FakeDesktop(filesOnDisk, trashOnDisk) {
   if (!options) {
-    disk.makeFolder("/Users/ann");
+    disk.makeFolder(home);
     return;
   }
   sample = buildSampleDisk(disk.path(), *options);
@@ -68,6 +69,7 @@ void FakeDesktopOnDisk::grantFullDiskAccess() const {
   disk.makeFile(protectedFile);
 }
 
-FakeDesktopInMemory::FakeDesktopInMemory() : FakeDesktop(disk, trashOnDisk) {}
+FakeDesktopInMemory::FakeDesktopInMemory(const Path& home)
+    : RememberedDisk(home), FakeDesktop(disk, trashOnDisk) {}
 
 }  // namespace klarvik

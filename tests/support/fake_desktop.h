@@ -12,6 +12,7 @@
 #include "support/fake_clock.h"
 #include "support/fake_command_runner.h"
 #include "support/fake_file_system.h"
+#include "support/fake_running_programs.h"
 #include "support/fake_user_defaults.h"
 #include "support/fake_volume.h"
 #include "support/fault_injecting_file_system.h"
@@ -62,6 +63,7 @@ struct FakeDesktop {
   Formatting formatting{"en_US"};
   ApplicationInfo info{{"CFBundleShortVersionString", "1.2.3"}, {"CFBundleVersion", "45"}};
   FakeRecentDocuments& recentDocuments;
+  FakeRunningPrograms programs;
   NotificationCenter notifications;
   FakeWorkspace& workspace;
   FakePasteboard& pasteboard;
@@ -73,17 +75,25 @@ struct FakeDesktop {
   const Desktop desktop = with(clock);
 };
 
-/// A disk of the machine in a temporary folder, with the home at "/Users/ann".
+/// Where tests have their home: that of a Mac's disk, and that of a Linux machine's.
+inline const Path macHome = "/Users/ann";
+inline const Path linuxHome = "/home/ann";
+
+/// A disk of the machine in a temporary folder.
 struct TemporaryDisk {
+  explicit TemporaryDisk(const Path& home)
+      : filesOnDisk(disk.path(), home), trashOnDisk(disk.path(), home) {}
+
   TemporaryFolder disk;
-  LinuxFileSystem filesOnDisk{disk.path(), "/Users/ann"};
-  LinuxTrash trashOnDisk{disk.path(), "/Users/ann"};
+  LinuxFileSystem filesOnDisk;
+  LinuxTrash trashOnDisk;
 };
 
 /// Real files and a real Trash in a temporary folder, `disk`.
 struct FakeDesktopOnDisk : TemporaryDisk, FakeDesktop {
-  /// An empty home, or the sample disk where its options are given.
-  explicit FakeDesktopOnDisk(const std::optional<SampleDiskOptions>& options = std::nullopt);
+  /// An empty home, or the sample disk where its options are given, which is a Mac's.
+  explicit FakeDesktopOnDisk(const std::optional<SampleDiskOptions>& options = std::nullopt,
+                             const Path& home = macHome);
 
   /// Something protected is there that nobody can read, not even root.
   void denyFullDiskAccess() const;
@@ -94,13 +104,15 @@ struct FakeDesktopOnDisk : TemporaryDisk, FakeDesktop {
 
 /// A disk that is only remembered, and its Trash.
 struct RememberedDisk {
+  explicit RememberedDisk(const Path& home) : disk(home) {}
+
   FakeFileSystem disk;
   FakeTrash trashOnDisk{disk};
 };
 
 /// Files that are only remembered, in `disk`, with sizes to the byte.
 struct FakeDesktopInMemory : RememberedDisk, FakeDesktop {
-  FakeDesktopInMemory();
+  explicit FakeDesktopInMemory(const Path& home = macHome);
 };
 
 }  // namespace klarvik

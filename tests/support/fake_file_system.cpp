@@ -1,6 +1,7 @@
 #include "support/fake_file_system.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/packages.h"
 #include "support/folder_by_path.h"
@@ -8,9 +9,6 @@
 namespace klarvik {
 
 namespace {
-
-const Path mainTrash = "/Users/ann/.local/share/Trash/files";
-const Path homeTrash = "/Users/ann/.Trash";
 
 bool isBelow(const Path& folder, const Path& path) {
   const std::string above = folder == "/" ? "/" : folder.native() + "/";
@@ -47,6 +45,8 @@ class RememberedEntry final : public WalkEntry {
 };
 
 }  // namespace
+
+FakeFileSystem::FakeFileSystem(Path home) : _home(std::move(home)) {}
 
 void FakeFileSystem::addFolder(const Path& path) {
   if (path.has_relative_path()) addFolder(path.parent_path());
@@ -191,18 +191,21 @@ bool FakeFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   return true;
 }
 
-FakeTrash::FakeTrash(FakeFileSystem& files) : _files(files) {
-  _files.addFolder(mainTrash);
+FakeTrash::FakeTrash(FakeFileSystem& files)
+    : _files(files),
+      _mainTrash(files.home() / ".local/share/Trash/files"),
+      _homeTrash(files.home() / ".Trash") {
+  _files.addFolder(_mainTrash);
 }
 
 std::vector<Path> FakeTrash::folders() {
-  return {mainTrash, homeTrash};
+  return {_mainTrash, _homeTrash};
 }
 
 std::optional<std::vector<Path>> FakeTrash::list() {
-  auto entries = _files.list(mainTrash);
+  auto entries = _files.list(_mainTrash);
   if (!entries) return std::nullopt;
-  const auto more = _files.list(homeTrash).value_or(std::vector<Path>{});
+  const auto more = _files.list(_homeTrash).value_or(std::vector<Path>{});
   entries->insert(entries->end(), more.begin(), more.end());
   return entries;
 }
@@ -212,11 +215,11 @@ std::optional<Date> FakeTrash::modificationDate() {
 }
 
 bool FakeTrash::contains(const Path& item) const {
-  return item.native().find("/.Trash/") != std::string::npos || isBelow(mainTrash, item);
+  return item.native().find("/.Trash/") != std::string::npos || isBelow(_mainTrash, item);
 }
 
 std::optional<Path> FakeTrash::moveToTrash(const Path& item, const ItemCheck& mayMove) {
-  const Path trashed = mainTrash / item.filename();
+  const Path trashed = _mainTrash / item.filename();
   return _files.moveChecked(item, trashed, mayMove) ? std::optional(trashed) : std::nullopt;
 }
 

@@ -11,14 +11,16 @@
 
 namespace klarvik {
 
-/// A disk that is only remembered, with sizes to the byte. The home is /Users/ann. Links are
-/// entries of their own and lead nowhere.
+/// A disk that is only remembered, with sizes to the byte. The home is a Mac's, unless another is
+/// given. Links are entries of their own and lead nowhere.
 ///
 /// Files are laid down before the disk is used; from then on it may be used from any thread.
 class FakeFileSystem final : public FileSystem {
  public:
   /// When everything was changed that is given no other date: 2026-03-04 17:06:40 UTC.
   static constexpr Date usualDate{std::chrono::seconds(1'772'644'000)};
+
+  explicit FakeFileSystem(Path home = "/Users/ann");
 
   void addFolder(const Path& path);
   void addFile(const Path& path, std::int64_t allocatedBytes,
@@ -34,9 +36,11 @@ class FakeFileSystem final : public FileSystem {
 
   [[nodiscard]] Path diskPath(const Path& logical) const override { return logical; }
   [[nodiscard]] std::optional<Path> logicalPath(const Path& disk) const override { return disk; }
-  [[nodiscard]] Path home() const override { return "/Users/ann"; }
+  [[nodiscard]] Path home() const override { return _home; }
   [[nodiscard]] Path realHome() const override { return _realHome; }
   void setRealHome(const Path& path) { _realHome = path; }
+  [[nodiscard]] std::optional<Path> realPath(const Path& path) const override { return path; }
+  [[nodiscard]] bool isMountPoint(const Path&) const override { return false; }
 
   [[nodiscard]] bool exists(const Path& path) const override;
   [[nodiscard]] std::optional<FileAttributes> attributes(const Path& path) const override;
@@ -59,7 +63,8 @@ class FakeFileSystem final : public FileSystem {
   mutable std::shared_mutex _mutex;
   std::map<Path, FileAttributes> _entries;
   std::map<Path, Path> _realPlaces;
-  Path _realHome = "/Users/ann";
+  const Path _home;
+  Path _realHome = _home;
 };
 
 /// A Trash on such a disk, with its main folder in the user's data folder and a second one,
@@ -79,6 +84,8 @@ class FakeTrash final : public Trash {
 
  private:
   FakeFileSystem& _files;
+  const Path _mainTrash;
+  const Path _homeTrash;
 };
 
 }  // namespace klarvik

@@ -12,6 +12,11 @@ void FakeVolume::setAvailableBytes(std::optional<std::int64_t> bytes) {
   _availableBytes = bytes;
 }
 
+void FakeVolume::setKeptForRootBytes(std::optional<std::int64_t> bytes) {
+  const std::lock_guard lock(_mutex);
+  _keptForRootBytes = bytes;
+}
+
 void FakeVolume::setName(std::optional<std::string> name) {
   const std::lock_guard lock(_mutex);
   _name = std::move(name);
@@ -25,6 +30,11 @@ std::optional<std::int64_t> FakeVolume::totalBytes() const {
 std::optional<std::int64_t> FakeVolume::availableBytes() const {
   const std::lock_guard lock(_mutex);
   return _availableBytes;
+}
+
+std::optional<std::int64_t> FakeVolume::keptForRootBytes() const {
+  const std::lock_guard lock(_mutex);
+  return _keptForRootBytes;
 }
 
 std::optional<std::string> FakeVolume::name() const {

@@ -134,6 +134,18 @@ Path FaultInjectingFileSystem::realHome() const {
   return _files.realHome();
 }
 
+bool FaultInjectingFileSystem::isMountPoint(const Path& path) const {
+  return _files.isMountPoint(path);
+}
+
+UserFolders FaultInjectingFileSystem::folders() const {
+  return _files.folders();
+}
+
+std::optional<Path> FaultInjectingFileSystem::realPath(const Path& path) const {
+  return _files.realPath(path);
+}
+
 bool FaultInjectingFileSystem::exists(const Path& path) const {
   return goesAhead(Operation::exists, path) && _files.exists(path);
 }

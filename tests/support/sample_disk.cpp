@@ -1,134 +1,16 @@
 #include "support/sample_disk.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <algorithm>
 #include <array>
-#include <cerrno>
-#include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <vector>
 
+#include "support/disk_writer.h"
 #include "support/property_lists.h"
 
 namespace klarvik {
 
 namespace {
-
-constexpr std::int64_t kilobyte = 1'000;
-constexpr std::int64_t megabyte = 1'000'000;
-constexpr std::int64_t mebibyte = 1'048'576;
-/// 2026-01-01 00:00 UTC: everything on the disk is somewhat older.
-constexpr std::int64_t newestSecond = 1'767'225'600;
-constexpr std::int64_t secondsADay = 86'400;
-
-std::uint64_t hashOf(std::string_view text) {
-  std::uint64_t hash = 14'695'981'039'346'656'037U;
-  for (const char character : text) {
-    hash = (hash ^ static_cast<unsigned char>(character)) * 1'099'511'628'211U;
-  }
-  return hash;
-}
-
-[[noreturn]] void fail(const Path& path) {
-  throw std::system_error(errno, std::generic_category(), path.native());
-}
-
-/// Writes files below a root, and dates all of them in the end.
-class DiskWriter {
- public:
-  explicit DiskWriter(Path root) : _root(std::move(root)) {
-    std::filesystem::create_directories(_root);
-    if (!std::filesystem::is_empty(_root)) {
-      throw std::invalid_argument(_root.native() + " is not empty");
-    }
-  }
-
-  void folder(const Path& place) {
-    if (std::filesystem::exists(onDisk(place))) return;
-    folder(place.parent_path());
-    std::filesystem::create_directory(onDisk(place));
-    _made.push_back(place);
-  }
-
-  /// `bytes` that are really allocated; the content begins with `content`.
-  void file(const Path& place, std::int64_t bytes, std::string_view content) {
-    folder(place.parent_path());
-    const Path path = onDisk(place);
-    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
-    if (fd < 0) fail(path);
-    const bool isWritten = write(fd, content) && fill(fd, bytes);
-    ::close(fd);
-    if (!isWritten) fail(path);
-    _made.push_back(place);
-    ++_files;
-  }
-
-  /// Like no other file on the disk.
-  void file(const Path& place, std::int64_t bytes) {
-    const std::string own = place.native() + '\n';
-    file(place, bytes, std::string_view(own).substr(0, static_cast<std::size_t>(bytes)));
-  }
-
-  void text(const Path& place, std::string_view content) { file(place, 0, content); }
-
-  /// As long as `bytes`, and next to nothing allocated.
-  void sparse(const Path& place, std::int64_t bytes) {
-    file(place, 1);
-    if (::truncate(onDisk(place).c_str(), bytes) != 0) fail(onDisk(place));
-  }
-
-  /// `count` files that share `bytes` evenly.
-  void files(const Path& folderPlace, std::int64_t count, std::int64_t bytes) {
-    for (std::int64_t number = 0; number < count; ++number) {
-      file(folderPlace / ("data-" + std::to_string(number) + ".bin"), bytes / count);
-    }
-  }
-
-  void link(const Path& place, const Path& target) {
-    folder(place.parent_path());
-    std::filesystem::create_symlink(target, onDisk(place));
-    _made.push_back(place);
-  }
-
-  /// To be called last: making a file changes the date of its folder.
-  void dateEverything() const {
-    for (const Path& place : _made) {
-      const auto daysAgo = static_cast<std::int64_t>(hashOf(place.native()) % 700);
-      const timespec modified{.tv_sec = newestSecond - daysAgo * secondsADay, .tv_nsec = 0};
-      const std::array<timespec, 2> times{modified, modified};
-      const Path path = onDisk(place);
-      if (::utimensat(AT_FDCWD, path.c_str(), times.data(), AT_SYMLINK_NOFOLLOW) != 0) fail(path);
-    }
-  }
-
-  [[nodiscard]] std::size_t fileCount() const { return _files; }
-
- private:
-  [[nodiscard]] Path onDisk(const Path& place) const { return _root / place.relative_path(); }
-
-  static bool write(int fd, std::string_view text) {
-    return ::write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size());
-  }
-  /// Up to a length of `bytes`. Small files are written out: the blocks of a disk that are asked
-  /// for without writing are slow to give back, file by file, and most sample disks do not live
-  /// long enough for what is written to reach the disk.
-  static bool fill(int fd, std::int64_t bytes) {
-    if (bytes > megabyte) return ::posix_fallocate(fd, 0, bytes) == 0;
-    static const std::string zeros(megabyte, '\0');
-    const off_t length = ::lseek(fd, 0, SEEK_END);
-    const auto missing = static_cast<std::size_t>(std::max<std::int64_t>(bytes - length, 0));
-    return length >= 0 && write(fd, std::string_view(zeros).substr(0, missing));
-  }
-
-  Path _root;
-  std::vector<Path> _made;
-  std::size_t _files = 0;
-};
 
 struct SampleCache {
   std::string_view name;
@@ -222,7 +104,7 @@ class SampleDiskBuilder {
     trash();
     otherUsers();
     oddities();
-    _writer.dateEverything();
+    _writer.finish();
     _disk.files = _writer.fileCount();
     return std::move(_disk);
   }
@@ -232,10 +114,8 @@ class SampleDiskBuilder {
   [[nodiscard]] Path inLibrary(const Path& relative) const { return _home / "Library" / relative; }
   std::size_t& rows(CategoryType type) { return _disk.smartScanItems[type]; }
 
-  /// Names the place as it is on the machine, so that other programs can put the thing back.
-  [[nodiscard]] std::string trashRecord(const Path& original) const {
-    const Path place = _disk.root / inHome(original).relative_path();
-    return "[Trash Info]\nPath=" + place.native() + "\nDeletionDate=2025-12-24T18:00:00\n";
+  [[nodiscard]] std::string recordOf(const Path& original) const {
+    return trashRecord(_disk.root / inHome(original).relative_path());
   }
 
   void systemFolders() {
@@ -528,9 +408,9 @@ class SampleDiskBuilder {
     const Path files = inHome(".local/share/Trash/files");
     const Path records = inHome(".local/share/Trash/info");
     _writer.file(files / "draft.txt", 20 * kilobyte);
-    _writer.text(records / "draft.txt.trashinfo", trashRecord("Documents/draft.txt"));
+    _writer.text(records / "draft.txt.trashinfo", recordOf("Documents/draft.txt"));
     _writer.files(files / "Screenshots", 5, 900 * kilobyte * _scale);
-    _writer.text(records / "Screenshots.trashinfo", trashRecord("Desktop/Screenshots"));
+    _writer.text(records / "Screenshots.trashinfo", recordOf("Desktop/Screenshots"));
     _disk.trashEntries = 6;
     // All of them but the link, which measures nothing.
     rows(CategoryType::trashBin) = 5;

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <vector>
 
 namespace klarvik {
 namespace {
@@ -26,19 +27,28 @@ Path makeUniqueFolder(const Path& base) {
   return name;
 }
 
-// The system's own tool, since a test may leave behind trees that are deeper than the standard
-// library can remove.
-void removeTree(const Path& path) {
-  const char* const arguments[] = {"rm", "-rf", "--one-file-system", "--", path.c_str(), nullptr};
+bool runs(std::vector<const char*> arguments) {
+  arguments.push_back(nullptr);
   pid_t child = 0;
-  if (::posix_spawnp(&child, "rm", nullptr, nullptr, const_cast<char* const*>(arguments),
-                     environ) != 0) {
-    giveUp("start rm for", path);
+  if (::posix_spawnp(&child, arguments.front(), nullptr, nullptr,
+                     const_cast<char* const*>(arguments.data()), environ) != 0) {
+    giveUp("start a tool for", arguments.end()[-2]);
   }
   int status = 0;
   while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
   }
-  if (status != 0) std::fprintf(stderr, "left behind: %s\n", path.c_str());
+  return status == 0;
+}
+
+// The system's own tool, since a test may leave behind trees that are deeper than the standard
+// library can remove. What lies in read-only folders goes when they are no longer so.
+void removeTree(const Path& path) {
+  const auto isRemoved = [&] {
+    return runs({"rm", "-rf", "--one-file-system", "--", path.c_str()});
+  };
+  if (isRemoved()) return;
+  if (runs({"chmod", "-R", "u+rwX", "--", path.c_str()}) && isRemoved()) return;
+  std::fprintf(stderr, "left behind: %s\n", path.c_str());
 }
 
 }  // namespace

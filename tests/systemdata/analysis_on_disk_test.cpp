@@ -4,11 +4,11 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "places/disk_layout.h"
 #include "support/child_process.h"
 #include "support/fake_desktop.h"
 #include "support/sample_disk.h"
 #include "support/temporary_folder.h"
-#include "systemdata/pass_table.h"
 #include "systemdata/system_data_engine.h"
 #include "systemdata/system_data_search.h"
 
@@ -82,7 +82,7 @@ class AnalysisOfASampleDisk : public testing::Test {
 };
 
 TEST_F(AnalysisOfASampleDisk, EachWholePlaceIsARowFromItsSizeOnAndNoneBelow) {
-  for (const Pass& pass : passTable()) {
+  for (const Pass& pass : layoutFor("/Users/ann").analysisPasses) {
     const auto* const places = std::get_if<std::span<const WholePlace>>(&pass.places);
     if (places == nullptr) continue;
     for (const WholePlace& place : *places) {
@@ -163,7 +163,8 @@ TEST_F(AnalysisOnDisk, FirmwareIsARowFromItsSizeOn) {
   makeFileOf(updates / "b.ipa", 50'000'000);
   makeFileOf(updates / "c.IPSW", 60'000'000);
   makeFileOf(updates / ".ipsw", 60'000'000);
-  const auto* const pass = std::ranges::find(passTable(), Kind::firmware, &Pass::kind).base();
+  const auto* const pass =
+      std::ranges::find(layoutFor("/Users/ann").analysisPasses, Kind::firmware, &Pass::kind).base();
   const auto items = SystemDataSearch(analysis.around.desktop).find(*pass);
   ASSERT_THAT(items, SizeIs(1));
   EXPECT_EQ(items[0].name, "Firmware: a.ipsw");
@@ -193,7 +194,9 @@ TEST_F(AnalysisOnDisk, FoldersWithAPassOfTheirOwnAreNotPartOfTheRemainder) {
   makeFileOf(library / "com.apple.odd/a", 10'000'002);
   makeFileOf(library / "Small/a", 10'000'000);
   makeFileOf(library / "plain file", 10'000'003);
-  const auto* const pass = std::ranges::find(passTable(), Kind::otherLibrary, &Pass::kind).base();
+  const auto* const pass =
+      std::ranges::find(layoutFor("/Users/ann").analysisPasses, Kind::otherLibrary, &Pass::kind)
+          .base();
   std::vector<std::string> names;
   for (const auto& item : SystemDataSearch(analysis.around.desktop).find(*pass))
     names.push_back(item.name);

@@ -1,12 +1,19 @@
-#include "systemdata/pass_table.h"
+#include "places/analysis_pass.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
 
+#include "places/disk_layout.h"
+#include "systemdata/system_data_sub_category.h"
+
 namespace klarvik {
 namespace {
+
+std::span<const Pass> passTable() {
+  return layoutFor("/Users/ann").analysisPasses;
+}
 
 /// The kind of each pass over whole places, followed by a line for each place: path, name, smallest
 /// size, and a verdict of its own where it has one.

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "analysis_fixture.h"
-#include "systemdata/pass_table.h"
+#include "places/disk_layout.h"
 #include "systemdata/system_data_search.h"
 
 namespace klarvik {
@@ -30,7 +30,7 @@ class SystemDataAnalysis : public AnalysisFixture {
 
   /// What the pass finds where no other one takes it in.
   [[nodiscard]] std::vector<SystemDataItem> foundAlone(Kind kind) {
-    const auto pass = std::ranges::find(passTable(), kind, &Pass::kind);
+    const auto pass = std::ranges::find(layoutFor("/Users/ann").analysisPasses, kind, &Pass::kind);
     return SystemDataSearch(desktop).find(*pass);
   }
 

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <sstream>
+
+#include "places/disk_layout.h"
 
 namespace klarvik {
 namespace {
@@ -70,6 +73,56 @@ iCloud & Mobile Docs | icloud.fill | 0.298 0.298 0.318 | protected
 Other Library Data | folder.fill | 0.443 0.443 0.463 | review
   Other data in your Library folder not covered by specific categories. Review individually.
 )");
+}
+
+TEST(SystemDataSubCategory, IsCalledByItsOwnNameOnAMacsDisk) {
+  const DiskLayout& mac = layoutFor("/Users/ann");
+  for (const SystemDataSubCategory kind : allSystemDataSubCategories()) {
+    EXPECT_EQ(label(kind, mac), rawValue(kind));
+    EXPECT_EQ(description(kind, mac), description(kind));
+  }
+}
+
+TEST(SystemDataSubCategory, HasALabelOfItsOwnOnALinuxDisk) {
+  const DiskLayout& linux = layoutFor("/home/ann");
+  std::set<std::string_view> labels;
+  for (const SystemDataSubCategory kind : allSystemDataSubCategories()) {
+    labels.insert(label(kind, linux));
+    EXPECT_TRUE(description(kind, linux).ends_with('.')) << label(kind, linux);
+  }
+  EXPECT_EQ(labels, (std::set<std::string_view>{"App Caches",
+                                                "App Data",
+                                                "Cloud Folders",
+                                                "Crash Reports",
+                                                "Developer Tools",
+                                                "Flatpak Data",
+                                                "Homebrew",
+                                                "Installed System",
+                                                "Kernels & Firmware",
+                                                "Logs",
+                                                "Mail",
+                                                "Other Hidden Folders",
+                                                "Package Caches",
+                                                "Saved State",
+                                                "Search Index",
+                                                "Settings",
+                                                "Snap Data",
+                                                "Snapshots",
+                                                "Swap & Hibernation",
+                                                "System Databases",
+                                                "Temporary Files",
+                                                "Web Storage"}));
+}
+
+TEST(SystemDataSubCategory, NamesNoOtherSystemOnALinuxDisk) {
+  for (const SystemDataWords& words : layoutFor("/home/ann").systemData) {
+    for (const std::string_view text : {words.label, words.description, words.scanning}) {
+      for (const char* const name : {"macOS", "Mac", "Finder", "Xcode", "iPhone", "iPad", "Safari",
+                                     "Time Machine", "iCloud", "Spotlight"}) {
+        EXPECT_EQ(text.find(name), std::string_view::npos) << text;
+      }
+    }
+  }
 }
 
 TEST(SystemDataSubCategory, IsFoundAgainByItsName) {

@@ -226,5 +226,20 @@ TEST_F(CompositionOnDisk, SaysWhenItWasMeasured) {
   EXPECT_LE(measured, std::chrono::system_clock::now());
 }
 
+TEST(CompositionOfALinuxDisk, NamesNoOtherSystemAndCountsWhatIsKeptForRootAsFree) {
+  FakeDesktopInMemory around(linuxHome);
+  around.volume.setKeptForRootBytes(25 * gigabyte);
+  std::vector<std::string> labels;
+  const auto found =
+      DiskCompositionEngine(around.desktop).measureDisk({}, [&](const std::string& label, double) {
+        labels.push_back(label);
+      });
+  ASSERT_EQ(found.buckets.size(), 1U);
+  EXPECT_EQ(found.buckets.front().label, "The system and everything else");
+  EXPECT_EQ(found.usedBytes, 275 * gigabyte);
+  EXPECT_THAT(labels, testing::Contains("Projects"));
+  EXPECT_THAT(labels, testing::Not(testing::Contains(testing::HasSubstr("iCloud"))));
+}
+
 }  // namespace
 }  // namespace klarvik

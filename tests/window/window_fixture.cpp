@@ -82,7 +82,7 @@ void WindowFixture::SetUp() {
   qInstallMessageHandler(rememberWarning);
   motion.emplace();
   keepDisksInMemory();
-  desk = std::make_unique<FakeDesktopOnDisk>(diskOptions);
+  desk = std::make_unique<FakeDesktopOnDisk>(diskOptions, home);
   shared = std::make_unique<SharedState>(desk->desktop);
   desk->defaults.set("backgroundScanOnLaunch", false);
   desk->defaults.set("onboarding_complete", true);

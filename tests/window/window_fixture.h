@@ -91,6 +91,7 @@ class WindowFixture : public ::testing::Test {
 
   /// What the disk under the window is furnished with; to be set before SetUp is through.
   std::optional<SampleDiskOptions> diskOptions = SampleDiskOptions{};
+  Path home = macHome;
 
   std::optional<HandMovedMotion> motion;
   std::unique_ptr<FakeDesktopOnDisk> desk;

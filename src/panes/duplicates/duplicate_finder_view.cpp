@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/deletion_guard.h"
+#include "core/shown_folders.h"
 #include "platform/notification_center.h"
 #include "platform/open_panel.h"
 #include "state/change_to.h"
@@ -52,9 +53,9 @@ DuplicateFinderView::DuplicateFinderView(const Sources& sources, const Desktop& 
       _desktop(desktop),
       _rows(_choice, desktop),
       _removal(desktop, sources.notice) {
-  for (const char* name : {"Documents", "Downloads", "Desktop"}) {
-    _scanDirs.push_back(desktop.files.home() / name);
-  }
+  const UserFolders shown = shownFolders(desktop.files);
+  _scanDirs =
+      withoutNested({shown.documents, shown.downloads, shown.desktop}, desktop.files.home());
   connect(&_removal, &PickedFilesRemoval::changed, this, &DuplicateFinderView::deletionChanged);
 }
 

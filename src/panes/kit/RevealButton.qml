@@ -9,7 +9,7 @@ SymbolButton {
     required property url url
 
     symbol: "magnifyingglass"
-    title: "Show in Finder"
+    title: Words.showInFileManager
     help: root.title
     size: 11
     slot: 20

@@ -14,6 +14,9 @@ RowFrame {
     required property string title
     // What the tooltip of the title says; the title itself, where it is cut, while this is empty.
     property string pathText
+    // A second line below the title, where there is one.
+    property string note
+    property color noteColor: Theme.textTertiary
     property real titleSize: 13
     property int titleWeight: Font.Medium
     property color titleColor: Theme.textPrimary
@@ -61,12 +64,26 @@ RowFrame {
         spacing: root.spacing
     }
 
-    ElidedText {
+    ColumnLayout {
         Layout.fillWidth: true
-        text: root.title
-        fullText: root.pathText
-        size: root.titleSize
-        weight: root.titleWeight
-        color: root.titleColor
+        spacing: 1
+
+        ElidedText {
+            Layout.fillWidth: true
+            text: root.title
+            fullText: root.pathText
+            size: root.titleSize
+            weight: root.titleWeight
+            color: root.titleColor
+        }
+
+        ElidedText {
+            Layout.fillWidth: true
+            visible: text.length > 0
+            text: root.note
+            elide: Text.ElideRight
+            size: 11
+            color: root.noteColor
+        }
     }
 }

@@ -12,6 +12,7 @@
 #include "panes/kit/list_keys.h"
 #include "panes/kit/loader_timeline.h"
 #include "panes/kit/row_text.h"
+#include "places/disk_layout.h"
 #include "platform/formatting.h"
 #include "platform/workspace.h"
 
@@ -49,6 +50,10 @@ Kit* Kit::create(QQmlEngine* engine, QJSEngine* /*scripts*/) {
   Kit* kit = &of(*engine);
   QJSEngine::setObjectOwnership(kit, QJSEngine::CppOwnership);
   return kit;
+}
+
+const DiskLayout& Kit::layout() const {
+  return layoutFor(_services.home);
 }
 
 QString Kit::withSizesUnbroken(const QString& text) const {

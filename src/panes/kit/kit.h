@@ -18,6 +18,7 @@ namespace klarvik {
 class Clock;
 class Formatting;
 class Workspace;
+struct DiskLayout;
 
 /// What the elements need of the platform. The engine must not outlive what this refers to.
 struct KitServices {
@@ -47,6 +48,8 @@ class Kit : public QObject {
   static Kit* create(QQmlEngine* engine, QJSEngine* scripts);
 
   [[nodiscard]] Clock& clock() { return _services.clock; }
+  /// Of the disk that the home lies on.
+  [[nodiscard]] const DiskLayout& layout() const;
   [[nodiscard]] bool reduceMotion() const { return _motion.isReduced(); }
 
   /// A size in text; held to what 64 bits take.

@@ -7,7 +7,7 @@
 #include <QString>
 
 #include "core/junk_model.h"
-#include "core/rgb_color.h"
+#include "places/rgb_color.h"
 
 namespace klarvik {
 

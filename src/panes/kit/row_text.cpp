@@ -7,6 +7,10 @@
 
 namespace klarvik {
 
+QString programText(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
 QString printableText(std::string_view bytes) {
   return QString::fromStdString(printable(bytes));
 }

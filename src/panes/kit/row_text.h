@@ -8,6 +8,8 @@
 
 namespace klarvik {
 
+/// A text of the program.
+[[nodiscard]] QString programText(std::string_view utf8);
 /// Bytes of the disk, made fit for one line of the screen: what is not UTF-8, and what would break
 /// the line or reverse it, becomes U+FFFD.
 [[nodiscard]] QString printableText(std::string_view bytes);

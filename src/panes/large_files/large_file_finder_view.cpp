@@ -7,6 +7,8 @@
 #include <numeric>
 #include <utility>
 
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/notification_center.h"
 #include "state/change_to.h"
 #include "state/report_mailbox.h"
@@ -81,7 +83,7 @@ QString LargeFileFinderView::actionTitle() const {
 
 Placeholder LargeFileFinderView::placeholder() const {
   if (!_files->empty()) return {};
-  if (_isScanning) return large_files::measuring();
+  if (_isScanning) return large_files::measuring(layoutFor(_desktop.files.home()).words);
   return _hasScanned ? large_files::nothingFound(_thresholdMB)
                      : large_files::notScanned(_permissions.hasFullDiskAccess());
 }

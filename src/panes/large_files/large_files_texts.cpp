@@ -26,11 +26,8 @@ QString unscannedSubtitle() {
   return QStringLiteral("Finds the biggest files in your home folder. Nothing is pre-selected.");
 }
 
-Placeholder measuring() {
-  return Placeholder::busy(
-      QStringLiteral("Measuring"),
-      QStringLiteral("Walking Documents, Downloads, Desktop, Movies and Music. "
-                     "Photo and music libraries are skipped."));
+Placeholder measuring(const Words& words) {
+  return Placeholder::busy(QStringLiteral("Measuring"), programText(words.walkingForLargeFiles));
 }
 
 Placeholder notScanned(bool hasFullDiskAccess) {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "panes/kit/placeholder.h"
+#include "places/words.h"
 #include "platform/formatting.h"
 #include "tools/large_file.h"
 
@@ -17,7 +18,7 @@ namespace klarvik::large_files {
 [[nodiscard]] QString unscannedSubtitle();
 
 /// What stands in the place of the rows.
-[[nodiscard]] Placeholder measuring();
+[[nodiscard]] Placeholder measuring(const Words& words);
 [[nodiscard]] Placeholder notScanned(bool hasFullDiskAccess);
 [[nodiscard]] Placeholder nothingFound(double thresholdMB);
 

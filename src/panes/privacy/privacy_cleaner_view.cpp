@@ -7,6 +7,8 @@
 #include "core/junk_model.h"
 #include "panes/kit/row_text.h"
 #include "panes/privacy/privacy_texts.h"
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/notification_center.h"
 #include "state/report_mailbox.h"
 #include "state/section.h"
@@ -29,7 +31,7 @@ PrivacyCleanerView::PrivacyCleanerView(const Sources& sources, const Desktop& de
       _activity(sources.activity),
       _notice(sources.notice),
       _desktop(desktop),
-      _trailList(desktop.formatting) {
+      _trailList(desktop.formatting, layoutFor(desktop.files.home()).words) {
   connect(&_trailList, &TrailList::selectionChanged, this, &PrivacyCleanerView::selectionChanged);
 }
 
@@ -56,7 +58,7 @@ Placeholder PrivacyCleanerView::placeholder() const {
   if (hasItems()) return {};
   if (!_hasScanned) {
     return Placeholder::idle(QStringLiteral("shield"), QStringLiteral("No scan yet"),
-                             QStringLiteral("Rescan to see what your Mac has recorded."));
+                             programText(layoutFor(_desktop.files.home()).words.trailsUnread));
   }
   return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("Nothing to clear"),
                            QStringLiteral("No browsing or system trails were found."));

@@ -12,6 +12,10 @@ QString trails(std::size_t count) {
 
 }  // namespace
 
+std::string_view label(PrivacyCategory category, const Words& words) {
+  return category == PrivacyCategory::quarantine ? words.downloadOrigins : rawValue(category);
+}
+
 QString cost(PrivacyCategory category) {
   switch (category) {
     case PrivacyCategory::browserHistory:

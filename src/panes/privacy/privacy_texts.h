@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "places/words.h"
 #include "platform/formatting.h"
 #include "tools/privacy_item.h"
 #include "tools/privacy_scanner.h"
@@ -11,6 +12,8 @@
 /// The texts of the Privacy pane that follow a rule.
 namespace klarvik::privacy {
 
+/// The name of the kind, as it is called on this disk.
+[[nodiscard]] std::string_view label(PrivacyCategory category, const Words& words);
 /// What clearing a trail of this kind costs the user.
 [[nodiscard]] QString cost(PrivacyCategory category);
 /// How many entries a trail has; a dash where they are not counted.

@@ -13,8 +13,6 @@
 namespace klarvik {
 namespace {
 
-constexpr std::array sectionTitles{"SAFARI, CHROME, FIREFOX", "MACOS RECENTS", "SYSTEM TRAILS"};
-
 std::size_t sectionOf(PrivacyCategory category) {
   switch (category) {
     case PrivacyCategory::browserHistory:
@@ -34,14 +32,18 @@ std::size_t sectionOf(PrivacyCategory category) {
   return 2;
 }
 
+std::array<std::string_view, 3> sectionTitles(const Words& words) {
+  return {words.browserTrails, words.recentTrails, "SYSTEM TRAILS"};
+}
+
 }  // namespace
 
 bool hurts(PrivacyCategory category) {
   return category == PrivacyCategory::browserCookies || category == PrivacyCategory::clipboard;
 }
 
-TrailList::TrailList(const Formatting& formatting, QObject* parent)
-    : QAbstractListModel(parent), _formatting(formatting) {}
+TrailList::TrailList(const Formatting& formatting, const Words& words, QObject* parent)
+    : QAbstractListModel(parent), _formatting(formatting), _words(words) {}
 
 int TrailList::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(_rows.size());
@@ -123,15 +125,16 @@ void TrailList::toggle(int row) {
   emit selectionChanged();
 }
 
-std::vector<TrailList::Row> TrailList::rowsOf(const std::vector<PrivacyItem>& items) {
+std::vector<TrailList::Row> TrailList::rowsOf(const std::vector<PrivacyItem>& items) const {
   std::vector<PrivacyItem> bySize = items;
   std::ranges::stable_sort(bySize, std::ranges::greater{}, &PrivacyItem::size);
+  const auto titles = sectionTitles(_words);
   std::vector<Row> rows;
-  for (std::size_t section = 0; section < sectionTitles.size(); ++section) {
+  for (std::size_t section = 0; section < titles.size(); ++section) {
     bool hasHeading = false;
     for (const PrivacyItem& item : bySize) {
       if (sectionOf(item.category) != section) continue;
-      if (!std::exchange(hasHeading, true)) rows.emplace_back(Heading{sectionTitles.at(section)});
+      if (!std::exchange(hasHeading, true)) rows.emplace_back(Heading{titles.at(section)});
       rows.emplace_back(item.id);
     }
   }
@@ -155,7 +158,7 @@ QVariant TrailList::headingData(const Heading& heading, int role) {
       return static_cast<int>(RowKind::Heading);
     case NameRole:
     case DescriptionRole:
-      return QString::fromLatin1(heading.title);
+      return programText(heading.title);
     case UrlRole:
       return QUrl();
     case PathRole:
@@ -171,7 +174,7 @@ QVariant TrailList::headingData(const Heading& heading, int role) {
 }
 
 QVariant TrailList::trailData(const PrivacyItem& item, int role) const {
-  const QString name = printableText(rawValue(item.category));
+  const QString name = programText(privacy::label(item.category, _words));
   const QString size = byteText(item.size, _formatting);
   const Path path = item.path.value_or(Path());
   switch (role) {

@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "places/words.h"
 #include "tools/privacy_item.h"
 
 namespace klarvik {
@@ -35,7 +36,7 @@ class TrailList : public QAbstractListModel {
     DescriptionRole,
   };
 
-  explicit TrailList(const Formatting& formatting, QObject* parent = nullptr);
+  TrailList(const Formatting& formatting, const Words& words, QObject* parent = nullptr);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -60,17 +61,18 @@ class TrailList : public QAbstractListModel {
 
  private:
   struct Heading {
-    const char* title = "";
+    std::string_view title;
   };
   using Row = std::variant<Heading, Uuid>;
 
-  [[nodiscard]] static std::vector<Row> rowsOf(const std::vector<PrivacyItem>& items);
+  [[nodiscard]] std::vector<Row> rowsOf(const std::vector<PrivacyItem>& items) const;
   void removeRow(std::size_t row);
   [[nodiscard]] const PrivacyItem& item(const Uuid& id) const;
   [[nodiscard]] static QVariant headingData(const Heading& heading, int role);
   [[nodiscard]] QVariant trailData(const PrivacyItem& item, int role) const;
 
   const Formatting& _formatting;
+  const Words& _words;
   std::vector<PrivacyItem> _items;
   std::unordered_set<Uuid> _selected;
   std::vector<Row> _rows;

@@ -18,25 +18,31 @@ ToolGroupRow {
     required property int color
     required property int safety
     required property string items
+    required note
+    required property bool isInUse
     required property string size
     required description
 
     readonly property bool isCategory: kind === ReviewTableModel.Category
     readonly property bool isItem: kind === ReviewTableModel.Item
     readonly property bool isShowMore: kind === ReviewTableModel.ShowMore
+    readonly property bool isHint: kind === ReviewTableModel.Hint
 
     title: name
     titleSize: isCategory ? 13 : 12
     titleWeight: isCategory ? Font.Medium : Font.Normal
-    titleColor: isShowMore ? Theme.accent : Theme.textPrimary
-    showsBox: !isShowMore
+    titleColor: isShowMore ? Theme.accent : isHint ? Theme.textSecondary : Theme.textPrimary
+    noteColor: isInUse ? Theme.review : Theme.textTertiary
+    showsBox: !isShowMore && !isHint
     canToggleExpanded: isCategory
     showsLeading: !isShowMore
     tint: hovered ? 0.03 : isCategory ? 0 : 0.02
-    indent: isCategory ? 0 : 26
+    // A hint has no box, and its name begins where those of the items do.
+    indent: isCategory ? 0 : isHint ? 54 : 26
     implicitHeight: SmartScanMetrics.rowHeight
-    Accessible.role: isShowMore ? Accessible.Button : isCategory ? Accessible.TreeItem : Accessible.CheckBox
-    Accessible.checkable: !isShowMore
+    Accessible.role: isShowMore ? Accessible.Button : isCategory ? Accessible.TreeItem
+                     : isHint ? Accessible.StaticText : Accessible.CheckBox
+    Accessible.checkable: isCategory || isItem
     Accessible.checked: selection === ReviewTableModel.All
     Accessible.checkStateMixed: selection === ReviewTableModel.Partial
 
@@ -65,7 +71,7 @@ ToolGroupRow {
     }
 
     RevealButton {
-        visible: root.isItem
+        visible: root.isItem || root.isHint
         activeFocusOnTab: root.ListView.isCurrentItem
         url: root.url
     }

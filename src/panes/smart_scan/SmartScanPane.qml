@@ -81,7 +81,7 @@ ToolPane {
     ConfirmationDialog {
         isPresented: root.model.isConfirming
         title: qsTr("Your selection includes Review items")
-        message: qsTr("Review items are things you might want back — iPhone backups, Xcode archives, local snapshots. Everything goes to the Trash, so it can be restored until you empty it.\n\nTurn this warning off in Settings → General.")
+        message: Words.reviewItemsAreSelected
         buttons: [
             DialogButton {
                 title: qsTr("Cancel")

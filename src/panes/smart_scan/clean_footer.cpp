@@ -1,11 +1,14 @@
 #include "panes/smart_scan/clean_footer.h"
 
 #include "panes/smart_scan/smart_scan_texts.h"
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
+#include "platform/user_defaults.h"
 
 namespace klarvik {
 
-CleanFooter::CleanFooter(AppState& appState, const Formatting& formatting, QObject* parent)
-    : QObject(parent), _appState(appState), _formatting(formatting) {
+CleanFooter::CleanFooter(AppState& appState, const Desktop& desktop, QObject* parent)
+    : QObject(parent), _appState(appState), _desktop(desktop), _formatting(desktop.formatting) {
   connect(&appState, &AppState::selectedItemsChanged, this, &CleanFooter::readSelection);
   connect(&appState, &AppState::scanResultsChanged, this, &CleanFooter::readSelection);
   connect(&appState, &AppState::scanStateChanged, this, &CleanFooter::readSelection);
@@ -46,14 +49,23 @@ void CleanFooter::readSelection() {
   if (std::holds_alternative<AppState::Scanning>(_appState.scanState())) {
     return;
   }
-  const std::int64_t count = _appState.selectedCount();
-  const std::int64_t size = _appState.selectedSize();
+  const ItemSum selected = _appState.selectedItems().selected();
+  const std::int64_t count = selected.count;
+  const std::int64_t size = selected.size;
   _hasSelection = count > 0;
   _selectionSummary =
       QString::fromStdString(smart_scan::selectionSummary(size, count, _formatting));
-  _hint = QString::fromStdString(smart_scan::selectionHint(count, _appState.selectionIsAllSafe()));
+  _hint = QString::fromStdString(
+      smart_scan::selectionHint(count, _appState.selectionIsAllSafe(), fate(selected)));
   _cleanTitle = QString::fromStdString(smart_scan::cleanTitle(size, _formatting));
   emit changed();
+}
+
+std::string CleanFooter::fate(const ItemSum& selected) const {
+  const Words& words = layoutFor(_desktop.files.home()).words;
+  if (!words.fateOfSelection.empty()) return std::string(words.fateOfSelection);
+  return smart_scan::fateOf(selected, _desktop.defaults.boolean("useTrash", true),
+                            _desktop.formatting);
 }
 
 /// What a scan has found so far is not to be cleaned yet.

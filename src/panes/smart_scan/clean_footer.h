@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "panes/kit/tool_rules.h"
+#include "platform/platform.h"
 #include "state/app_state.h"
 
 namespace klarvik {
@@ -21,7 +22,7 @@ class CleanFooter : public QObject {
   Q_PROPERTY(klarvik::ToolFooterState shown READ shown NOTIFY changed)
 
  public:
-  CleanFooter(AppState& appState, const Formatting& formatting, QObject* parent = nullptr);
+  CleanFooter(AppState& appState, const Desktop& desktop, QObject* parent = nullptr);
 
   [[nodiscard]] QString selectionSummary() const { return _selectionSummary; }
   [[nodiscard]] QString hint() const { return _hint; }
@@ -38,9 +39,12 @@ class CleanFooter : public QObject {
 
  private:
   void readSelection();
+  /// What becomes of what is selected, in one sentence.
+  [[nodiscard]] std::string fate(const ItemSum& selected) const;
   [[nodiscard]] bool isBusy() const;
 
   AppState& _appState;
+  const Desktop& _desktop;
   const Formatting& _formatting;
   QString _selectionSummary;
   QString _hint;

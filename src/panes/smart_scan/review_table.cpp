@@ -11,6 +11,7 @@
 #include "panes/kit/row_runs.h"
 #include "panes/kit/row_text.h"
 #include "panes/smart_scan/smart_scan_texts.h"
+#include "places/disk_layout.h"
 
 namespace klarvik {
 namespace {
@@ -23,6 +24,7 @@ QVariant nothing(int role) {
     case ReviewTable::SelectionRole:
       return 0;
     case ReviewTable::IsExpandedRole:
+    case ReviewTable::IsInUseRole:
       return false;
     case ReviewTable::UrlRole:
       return QUrl();
@@ -71,6 +73,8 @@ QVariant ReviewTable::data(const QModelIndex& index, int role) const {
                  ? QString::fromStdString(
                        smart_scan::showMoreTitle(static_cast<std::int64_t>(shown.hiddenCount)))
                  : nothing(role);
+    case RowKind::Hint:
+      return rowDataOfHint(at, role);
   }
   return {};
 }
@@ -87,7 +91,9 @@ QHash<int, QByteArray> ReviewTable::roleNames() const {
           {ItemsRole, "items"},
           {SizeRole, "size"},
           {IsExpandedRole, "isExpanded"},
-          {DescriptionRole, "description"}};
+          {DescriptionRole, "description"},
+          {NoteRole, "note"},
+          {IsInUseRole, "isInUse"}};
 }
 
 void ReviewTable::activate(int row) {
@@ -104,6 +110,8 @@ void ReviewTable::activate(int row) {
       return;
     case RowKind::ShowMore:
       showAll(at.category);
+      return;
+    case RowKind::Hint:
       return;
   }
 }
@@ -201,12 +209,14 @@ void ReviewTable::syncItems(std::size_t at) {
   if (category == nullptr || !shown.isExpanded) {
     replaceItems(at, nullptr, 0);
     setHiddenCount(at, 0);
+    setHintCount(at, 0);
     return;
   }
   const std::size_t count = category->items.size();
   const std::size_t shownCount = shown.showsAll ? count : std::min(count, firstItems);
   replaceItems(at, _appState.selectedItems().items(category->id), shownCount);
   setHiddenCount(at, count - shownCount);
+  setHintCount(at, category->hints.size());
 }
 
 /// The first `count` of `items` take the place of those shown. Items keep their order from one
@@ -270,6 +280,23 @@ void ReviewTable::setHiddenCount(std::size_t at, std::size_t hiddenCount) {
   }
 }
 
+void ReviewTable::setHintCount(std::size_t at, std::size_t count) {
+  ShownCategory& shown = _shown[at];
+  const std::size_t before = shown.hintCount;
+  if (before == count) return;
+  const std::size_t first = firstRow(at) + shown.hintsBegin();
+  const auto row = [&](std::size_t hint) { return static_cast<int>(first + hint); };
+  if (before < count) {
+    beginInsertRows({}, row(before), row(count - 1));
+    shown.hintCount = count;
+    endInsertRows();
+  } else {
+    beginRemoveRows({}, row(count), row(before - 1));
+    shown.hintCount = count;
+    endRemoveRows();
+  }
+}
+
 void ReviewTable::rowChanged(std::size_t row, const QList<int>& roles) {
   const QModelIndex changed = index(static_cast<int>(row));
   emit dataChanged(changed, changed, roles);
@@ -304,6 +331,9 @@ ReviewTable::Place ReviewTable::place(int row) const {
   if (rest == 0) {
     return {at, RowKind::Category, 0};
   }
+  if (rest >= _shown[at].hintsBegin()) {
+    return {at, RowKind::Hint, rest - _shown[at].hintsBegin()};
+  }
   const std::size_t item = rest - 1;
   return {at, item < _shown[at].ranks.size() ? RowKind::Item : RowKind::ShowMore, item};
 }
@@ -335,7 +365,7 @@ QVariant ReviewTable::rowDataOfCategory(const ShownCategory& shown, int role) co
   if (category == nullptr) {
     return nothing(role);
   }
-  const QString name = printableText(rawValue(shown.type));
+  const QString name = printableText(_appState.layout().label(shown.type));
   const QString size = byteText(_appState.selectedItems().total(category->id).size, _formatting);
   switch (role) {
     case NameRole:
@@ -361,6 +391,34 @@ QVariant ReviewTable::rowDataOfCategory(const ShownCategory& shown, int role) co
   }
 }
 
+QVariant ReviewTable::rowDataOfHint(const Place& place, int role) const {
+  const CleanCategory* category = find(_shown[place.category].type);
+  if (category == nullptr || place.item >= category->hints.size()) {
+    return nothing(role);
+  }
+  const Hint& hint = category->hints[place.item];
+  const QString name = printableText(hint.name);
+  const QString note = printableText(smart_scan::hintNote(hint));
+  switch (role) {
+    case NameRole:
+      return name;
+    case PathRole:
+      return printableText(hint.path.native());
+    case UrlRole:
+      return urlOfPath(hint.path);
+    case SymbolRole:
+      return QStringLiteral("info.circle");
+    case SizeRole:
+      return byteText(hint.size, _formatting);
+    case NoteRole:
+      return note;
+    case DescriptionRole:
+      return rowDescription(name, byteText(hint.size, _formatting), note);
+    default:
+      return nothing(role);
+  }
+}
+
 QVariant ReviewTable::rowDataOfItem(const JunkItem& item, CategoryType type, int role) const {
   const QString name = printableText(item.name);
   switch (role) {
@@ -379,8 +437,16 @@ QVariant ReviewTable::rowDataOfItem(const JunkItem& item, CategoryType type, int
                                                                           : Selection::None);
     case SizeRole:
       return byteText(item.size, _formatting);
-    case DescriptionRole:
-      return rowDescription(name, byteText(item.size, _formatting), verdictText(safety(type)));
+    case NoteRole:
+      return printableText(smart_scan::itemNote(item));
+    case IsInUseRole:
+      return !item.closeFirst.empty();
+    case DescriptionRole: {
+      const QString note = printableText(smart_scan::itemNote(item));
+      const QString verdict = verdictText(safety(type));
+      return rowDescription(name, byteText(item.size, _formatting),
+                            note.isEmpty() ? verdict : verdict + ", " + note);
+    }
     default:
       return nothing(role);
   }

@@ -10,15 +10,15 @@
 namespace klarvik {
 
 /// What a finished scan found, as one flat list for a virtualised view: a row for each category,
-/// and below an expanded one its largest items and, where there are more, a row that shows the
-/// rest. Rows come and go one by one, so that scroll position, focus and expansion survive. Main
-/// thread only.
+/// and below an expanded one its largest items, where there are more a row that shows the rest, and
+/// the hints. Rows come and go one by one, so that scroll position, focus and expansion survive.
+/// Main thread only.
 class ReviewTable : public QAbstractListModel {
   Q_OBJECT
   QML_NAMED_ELEMENT(ReviewTableModel)
   QML_UNCREATABLE("The pane makes it.")
  public:
-  enum class RowKind { Category, Item, ShowMore };
+  enum class RowKind { Category, Item, ShowMore, Hint };
   Q_ENUM(RowKind)
   enum class Selection { None, Partial, All };
   Q_ENUM(Selection)
@@ -35,6 +35,8 @@ class ReviewTable : public QAbstractListModel {
     SizeRole,
     IsExpandedRole,
     DescriptionRole,
+    NoteRole,
+    IsInUseRole,
   };
 
   /// Items of an expanded category that show before the user asks for the rest.
@@ -60,13 +62,15 @@ class ReviewTable : public QAbstractListModel {
     ItemSelection::Items items;
     std::vector<std::size_t> ranks;  ///< of the items that have a row
     std::size_t hiddenCount = 0;     ///< items behind the row that shows the rest
+    std::size_t hintCount = 0;       ///< hints that have a row
 
-    [[nodiscard]] std::size_t rowCount() const { return 1 + ranks.size() + (hiddenCount > 0); }
+    [[nodiscard]] std::size_t hintsBegin() const { return 1 + ranks.size() + (hiddenCount > 0); }
+    [[nodiscard]] std::size_t rowCount() const { return hintsBegin() + hintCount; }
   };
   struct Place {
     std::size_t category = 0;  ///< in `_shown`
     RowKind kind = RowKind::Category;
-    std::size_t item = 0;  ///< in the ranks shown of that category
+    std::size_t item = 0;  ///< in the ranks shown of that category, or in its hints
   };
 
   void syncResults();
@@ -83,6 +87,7 @@ class ReviewTable : public QAbstractListModel {
   void replaceItems(std::size_t at, ItemSelection::Items items, std::size_t count);
   void removeItems(std::size_t at, std::size_t first, std::size_t count);
   void setHiddenCount(std::size_t at, std::size_t hiddenCount);
+  void setHintCount(std::size_t at, std::size_t count);
   void rowChanged(std::size_t row, const QList<int>& roles = {});
 
   [[nodiscard]] const std::vector<CleanCategory>& results() const;
@@ -92,6 +97,7 @@ class ReviewTable : public QAbstractListModel {
   [[nodiscard]] const JunkItem* item(const Place& place) const;
   [[nodiscard]] Selection selection(const CleanCategory& category) const;
   [[nodiscard]] QVariant rowDataOfCategory(const ShownCategory& shown, int role) const;
+  [[nodiscard]] QVariant rowDataOfHint(const Place& place, int role) const;
   [[nodiscard]] QVariant rowDataOfItem(const JunkItem& item, CategoryType type, int role) const;
 
   AppState& _appState;

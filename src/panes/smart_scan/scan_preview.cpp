@@ -4,9 +4,9 @@
 
 namespace klarvik {
 
-ScanPreview::ScanPreview(QObject* parent) : QAbstractListModel(parent) {
-  for (const CategoryType type : allCategoryTypes()) {
-    _rows.push_back({.name = std::string(rawValue(type)), .level = safety(type)});
+ScanPreview::ScanPreview(const DiskLayout& layout, QObject* parent) : QAbstractListModel(parent) {
+  for (const ScanRow& row : layout.scanRows) {
+    _rows.push_back({.name = std::string(row.name), .level = safety(row.type)});
   }
 }
 

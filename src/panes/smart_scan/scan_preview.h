@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "core/junk_model.h"
+#include "core/uuid.h"
+#include "places/disk_layout.h"
 
 namespace klarvik {
 
@@ -22,7 +23,7 @@ class ScanPreview : public QAbstractListModel {
   };
   enum Role { NameRole = Qt::UserRole, SafetyRole };
 
-  explicit ScanPreview(QObject* parent = nullptr);
+  explicit ScanPreview(const DiskLayout& layout, QObject* parent = nullptr);
 
   [[nodiscard]] const std::vector<Row>& rows() const { return _rows; }
 

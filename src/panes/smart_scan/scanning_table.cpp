@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "panes/kit/row_text.h"
+#include "places/disk_layout.h"
 
 namespace klarvik {
 namespace {
@@ -98,8 +99,8 @@ std::vector<FoundRow> ScanningTable::currentRows() const {
   std::vector<FoundRow> rows;
   for (const CleanCategory& category : _appState.scanResults()) {
     const ItemSum found = _appState.selectedItems().total(category.id);
-    rows.push_back(
-        {std::string(rawValue(category.type)), safety(category.type), found.count, found.size});
+    rows.push_back({std::string(_appState.layout().label(category.type)), safety(category.type),
+                    found.count, found.size});
   }
   const AppState::ScanActivity& activity = _appState.scanActivity();
   if (!activity.categoryName.empty()) {

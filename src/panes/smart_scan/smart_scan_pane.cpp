@@ -11,9 +11,10 @@ SmartScanPane::SmartScanPane(const Sources& sources, const Desktop& desktop, QOb
     : QObject(parent),
       _appState(sources.appState),
       _desktop(desktop),
+      _preview(sources.appState.layout()),
       _scanningTable(sources.appState, desktop.formatting),
       _reviewTable(sources.appState, desktop.formatting),
-      _footer(sources.appState, desktop.formatting),
+      _footer(sources.appState, desktop),
       _banner(sources.appState, sources.diskMonitor, sources.trashMonitor, desktop.formatting),
       _elsewhere(sources.coordinator, sources.activity, sources.navigator, desktop.formatting) {
   connect(&_appState, &AppState::scanStateChanged, this, &SmartScanPane::stateChanged);

@@ -57,13 +57,31 @@ std::string selectionSummary(std::int64_t selectedSize, std::int64_t selectedCou
          " items";
 }
 
-std::string selectionHint(std::int64_t selectedCount, bool selectionIsAllSafe) {
+std::string selectionHint(std::int64_t selectedCount, bool selectionIsAllSafe,
+                          std::string_view fate) {
   if (selectedCount == 0) {
     return "Select something to clean.";
   }
   const std::string verdict = selectionIsAllSafe ? "Everything selected is marked Safe."
                                                  : "Your selection includes Review items.";
-  return verdict + " Items move to the Trash.";
+  return verdict + " " + std::string(fate);
+}
+
+std::string fateOf(const ItemSum& selected, bool useTrash, const Formatting& formatting) {
+  const std::int64_t forGood = useTrash ? selected.forGood : selected.size;
+  if (forGood == 0) return "Items move to the Trash.";
+  if (forGood == selected.size) return "Items are removed for good.";
+  return formatting.byteText(selected.size - forGood) + " moves to the Trash, " +
+         formatting.byteText(forGood) + " is removed for good.";
+}
+
+std::string itemNote(const JunkItem& item) {
+  if (item.closeFirst.empty()) return item.reason;
+  return "Close " + item.closeFirst + " first. " + item.reason;
+}
+
+std::string hintNote(const Hint& hint) {
+  return hint.command.empty() ? hint.reason : hint.reason + " Run: " + hint.command;
 }
 
 std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting) {

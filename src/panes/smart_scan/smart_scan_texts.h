@@ -28,7 +28,15 @@ namespace klarvik::smart_scan {
 
 [[nodiscard]] std::string selectionSummary(std::int64_t selectedSize, std::int64_t selectedCount,
                                            const Formatting& formatting);
-[[nodiscard]] std::string selectionHint(std::int64_t selectedCount, bool selectionIsAllSafe);
+/// `fate` says what becomes of the selection.
+[[nodiscard]] std::string selectionHint(std::int64_t selectedCount, bool selectionIsAllSafe,
+                                        std::string_view fate);
+/// What of the selection goes to the Trash, and what for good.
+[[nodiscard]] std::string fateOf(const ItemSum& selected, bool useTrash,
+                                 const Formatting& formatting);
+/// What an item's row says below its name; may be empty.
+[[nodiscard]] std::string itemNote(const JunkItem& item);
+[[nodiscard]] std::string hintNote(const Hint& hint);
 [[nodiscard]] std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting);
 [[nodiscard]] std::string removingLine(const DeletionProgress& progress,
                                        const Formatting& formatting);

@@ -33,21 +33,21 @@ Item {
 
                 EmptyStateRow {
                     Layout.fillWidth: true
-                    name: qsTr("Device backups, Mail downloads, Homebrew and other caches")
+                    name: Words.analysisFindsSafe
                     word: root.model.safetyText(SystemDataModel.Safe)
                     wordColor: Theme.safe
                 }
 
                 EmptyStateRow {
                     Layout.fillWidth: true
-                    name: qsTr("Local Time Machine snapshots")
+                    name: Words.analysisFindsSnapshots
                     word: root.model.safetyText(SystemDataModel.Review)
                     wordColor: Theme.review
                 }
 
                 EmptyStateRow {
                     Layout.fillWidth: true
-                    name: qsTr("Swap, iCloud local copies, system frameworks")
+                    name: Words.analysisFindsProtected
                     word: root.model.safetyText(SystemDataModel.Protected)
                 }
             }

@@ -53,7 +53,8 @@ SystemDataTable::SystemDataTable(SystemDataFindings& findings, const Formatting&
     : QAbstractListModel(parent),
       _findings(findings),
       _formatting(formatting),
-      _home(std::move(home)) {}
+      _home(std::move(home)),
+      _layout(layoutFor(_home)) {}
 
 int SystemDataTable::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(_rows.size());
@@ -66,7 +67,7 @@ QVariant SystemDataTable::data(const QModelIndex& index, int role) const {
     case RowKindRole:
       return static_cast<int>(row.kind);
     case KindNameRole:
-      return text(rawValue(row.category));
+      return text(label(row.category, _layout));
     default:
       break;
   }
@@ -76,7 +77,7 @@ QVariant SystemDataTable::data(const QModelIndex& index, int role) const {
       break;
     case RowKind::Header:
       if (role == NameRole || role == DescriptionRole) {
-        return text(klarvik::description(row.category));
+        return text(klarvik::description(row.category, _layout));
       }
       break;
     case RowKind::Item:
@@ -237,14 +238,15 @@ const SystemDataItem* SystemDataTable::itemOf(const Row& row) const {
 }
 
 QVariant SystemDataTable::dataOfKind(const SystemDataKind& kind, int role) const {
-  const QString name = text(rawValue(kind.kind));
+  const QString name = text(label(kind.kind, _layout));
   const QString size = byteText(kind.bytes, _formatting);
   const QString safety = QString::fromStdString(system_data::safetyText(kind.safety));
   switch (role) {
     case NameRole:
       return name;
     case DetailRole:
-      return QString::fromStdString(system_data::kindDetail(kind.items.size(), kind.kind));
+      return QString::fromStdString(
+          system_data::kindDetail(kind.items.size(), kind.kind, _layout.words));
     case SymbolRole:
       return text(icon(kind.kind));
     case ColorRole:
@@ -258,7 +260,7 @@ QVariant SystemDataTable::dataOfKind(const SystemDataKind& kind, int role) const
     case CanToggleRole:
       return kind.removableCount > 0;
     case SelectionHelpRole:
-      return QString::fromStdString(system_data::selectionHelp(kind.kind));
+      return QString::fromStdString(system_data::selectionHelp(kind.kind, _layout));
     case ShareRole:
       return shareText(_findings.share(kind.bytes));
     case SizeRole:

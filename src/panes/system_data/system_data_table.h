@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "panes/system_data/system_data_findings.h"
+#include "places/disk_layout.h"
 
 namespace klarvik {
 
@@ -103,6 +104,7 @@ class SystemDataTable : public QAbstractListModel {
   SystemDataFindings& _findings;
   const Formatting& _formatting;
   Path _home;
+  const DiskLayout& _layout;
   std::set<std::string> _expandedCategories;
   std::vector<Row> _rows;
 };

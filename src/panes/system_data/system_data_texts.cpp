@@ -13,13 +13,10 @@ std::string paneTitle(std::optional<std::int64_t> total, const Formatting& forma
   return total ? "System Data · " + formatting.byteText(*total) : "System Data";
 }
 
-std::string subtitle(std::optional<std::int64_t> removableBytes, const Formatting& formatting) {
-  return removableBytes
-             ? "System Data, plus the Developer, Mail and app folders Storage settings files "
-               "elsewhere and explains just as poorly. " +
-                   formatting.byteText(*removableBytes) + " of it can go."
-             : "Not analysed yet. Storage settings will not say what is in these folders. Klarvik "
-               "will.";
+std::string subtitle(std::optional<std::int64_t> removableBytes, const Words& words,
+                     const Formatting& formatting) {
+  return removableBytes ? filledIn(words.systemDataAnalysed, formatting.byteText(*removableBytes))
+                        : std::string(words.systemDataUnanalysed);
 }
 
 std::string actionTitle(bool isScanning, bool hasResult) {
@@ -35,13 +32,14 @@ std::string protectedSummary(std::int64_t protectedBytes, const Formatting& form
   return formatting.byteText(protectedBytes) + " shown, never offered";
 }
 
-std::string kindDetail(std::size_t items, SystemDataSubCategory kind) {
+std::string kindDetail(std::size_t items, SystemDataSubCategory kind, const Words& words) {
   const std::string count = counted(static_cast<std::int64_t>(items));
-  return defaultSafety(kind) == ItemSafety::protected_ ? count + " · macOS needs these" : count;
+  return defaultSafety(kind) == ItemSafety::protected_ ? filledIn(words.itemsOfProtectedKind, count)
+                                                       : count;
 }
 
-std::string selectionHelp(SystemDataSubCategory kind) {
-  return "Select everything in " + std::string(rawValue(kind));
+std::string selectionHelp(SystemDataSubCategory kind, const DiskLayout& layout) {
+  return "Select everything in " + std::string(label(kind, layout));
 }
 
 std::string safetyText(ItemSafety safety) {

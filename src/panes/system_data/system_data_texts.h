@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "places/disk_layout.h"
 #include "platform/formatting.h"
 #include "systemdata/system_data_sub_category.h"
 
@@ -16,7 +17,7 @@ namespace klarvik::system_data {
 [[nodiscard]] std::string paneTitle(std::optional<std::int64_t> total,
                                     const Formatting& formatting);
 /// Without a figure there is no result.
-[[nodiscard]] std::string subtitle(std::optional<std::int64_t> removableBytes,
+[[nodiscard]] std::string subtitle(std::optional<std::int64_t> removableBytes, const Words& words,
                                    const Formatting& formatting);
 [[nodiscard]] std::string actionTitle(bool isScanning, bool hasResult);
 
@@ -26,8 +27,9 @@ namespace klarvik::system_data {
                                            const Formatting& formatting);
 
 /// Whether the system needs them is told of the kind, whatever its items say.
-[[nodiscard]] std::string kindDetail(std::size_t items, SystemDataSubCategory kind);
-[[nodiscard]] std::string selectionHelp(SystemDataSubCategory kind);
+[[nodiscard]] std::string kindDetail(std::size_t items, SystemDataSubCategory kind,
+                                     const Words& words);
+[[nodiscard]] std::string selectionHelp(SystemDataSubCategory kind, const DiskLayout& layout);
 [[nodiscard]] std::string safetyText(ItemSafety safety);
 
 [[nodiscard]] std::string selectionSummary(std::int64_t selected);

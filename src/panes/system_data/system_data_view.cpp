@@ -8,6 +8,7 @@
 #include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"
 #include "panes/system_data/system_data_texts.h"
+#include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "state/change_to.h"
 #include "state/report_mailbox.h"
@@ -72,7 +73,8 @@ QString SystemDataView::title() const {
 QString SystemDataView::subtitle() const {
   const auto removable = _findings.result() ? std::optional(_findings.removable().bytes)
                                             : std::optional<std::int64_t>();
-  return QString::fromStdString(system_data::subtitle(removable, _desktop.formatting));
+  return QString::fromStdString(
+      system_data::subtitle(removable, layout().words, _desktop.formatting));
 }
 
 QString SystemDataView::actionTitle() const {
@@ -88,7 +90,7 @@ SystemDataView::Body SystemDataView::body() const {
 QList<DonutSlice> SystemDataView::slices() const {
   QList<DonutSlice> slices;
   for (const SystemDataKind& kind : _findings.kinds()) {
-    const QString name = QString::fromStdString(std::string(rawValue(kind.kind)));
+    const QString name = programText(label(kind.kind, layout()));
     slices.append({.id = name,
                    .label = name,
                    .value = kind.bytes,
@@ -199,6 +201,10 @@ void SystemDataView::finishRemovals() {
   _removal.finish();
 }
 
+const DiskLayout& SystemDataView::layout() const {
+  return layoutFor(_desktop.files.home());
+}
+
 void SystemDataView::startAnalysis() {
   _isScanning = true;
   _scanLabel.clear();
@@ -285,7 +291,7 @@ void SystemDataView::finishRemoval(const std::vector<SystemDataItem>& items,
 void SystemDataView::findingsChanged() {
   _table.syncRows();
   const bool isStillThere = std::ranges::any_of(_findings.kinds(), [this](const auto& kind) {
-    return _highlighted.toStdString() == rawValue(kind.kind);
+    return _highlighted == programText(label(kind.kind, layout()));
   });
   if (!isStillThere) setHighlighted({});
   emit resultChanged();

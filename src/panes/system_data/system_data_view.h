@@ -173,6 +173,7 @@ class SystemDataView : public QObject {
     double fraction = 0;
   };
 
+  [[nodiscard]] const DiskLayout& layout() const;
   void startAnalysis();
   void stopAnalysis();
   QCoro::Task<> analyse(std::stop_token stopped);

@@ -13,7 +13,7 @@ ToolPane {
     readonly property placeholder instead: model.placeholder
     readonly property list<ColumnSpec> appColumns: [
         ColumnSpec {
-            title: qsTr("BUNDLE")
+            title: Words.applicationColumn
         },
         ColumnSpec {
             title: qsTr("TOTAL")

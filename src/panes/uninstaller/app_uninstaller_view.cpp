@@ -5,7 +5,10 @@
 #include <utility>
 
 #include "core/junk_model.h"
+#include "panes/kit/row_text.h"
 #include "panes/uninstaller/uninstaller_texts.h"
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "platform/notification_center.h"
 #include "state/section.h"
 #include "tools/uninstaller_engine.h"
@@ -57,7 +60,8 @@ QString AppUninstallerView::title() const {
 
 QString AppUninstallerView::subtitle() const {
   if (!_selectedApp) {
-    return uninstaller::listSubtitle(_isWaitingForTurn, _isLoading, apps().size());
+    return uninstaller::listSubtitle(_isWaitingForTurn, _isLoading, apps().size(),
+                                     layoutFor(_desktop.files.home()).words);
   }
   return uninstaller::detailSubtitle(residuals().size(),
                                      addBytes(_selectedApp->appSize, _leftoverList.totalSize()),
@@ -83,7 +87,7 @@ Placeholder AppUninstallerView::listPlaceholder() const {
   if (!_hasLoaded || _appList.rowCount() > 0) return {};
   if (apps().empty()) {
     return Placeholder::idle(QStringLiteral("square.dashed"), QStringLiteral("No apps"),
-                             QStringLiteral("Nothing found in /Applications."));
+                             programText(layoutFor(_desktop.files.home()).words.noApplications));
   }
   return Placeholder::idle(QStringLiteral("magnifyingglass"), QStringLiteral("No apps match"),
                            uninstaller::noMatch(searchText()));

@@ -4,11 +4,11 @@
 
 namespace klarvik::uninstaller {
 
-QString listSubtitle(bool isWaitingForTurn, bool isLoading, std::size_t appCount) {
+QString listSubtitle(bool isWaitingForTurn, bool isLoading, std::size_t appCount,
+                     const Words& words) {
   if (isWaitingForTurn) return QStringLiteral("Waiting for another tool to finish measuring");
-  if (isLoading) return QStringLiteral("Reading /Applications…");
-  return QString::number(appCount) +
-         QStringLiteral(" apps · dragging one to the Trash leaves its support files behind");
+  if (isLoading) return programText(words.readingApplications);
+  return programText(words.applicationsListed).arg(appCount);
 }
 
 QString detailSubtitle(std::size_t residualCount, std::int64_t totalBytes,

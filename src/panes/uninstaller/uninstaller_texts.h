@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "places/words.h"
 #include "platform/formatting.h"
 #include "tools/app_info.h"
 
@@ -12,7 +13,8 @@
 /// the disk has them, and come back printable.
 namespace klarvik::uninstaller {
 
-[[nodiscard]] QString listSubtitle(bool isWaitingForTurn, bool isLoading, std::size_t appCount);
+[[nodiscard]] QString listSubtitle(bool isWaitingForTurn, bool isLoading, std::size_t appCount,
+                                   const Words& words);
 [[nodiscard]] QString detailSubtitle(std::size_t residualCount, std::int64_t totalBytes,
                                      const Formatting& formatting);
 /// The title of the detail level, and of the button that does it.

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "platform/linux/unique_fd.h"
-#include "platform/linux/user_folders.h"
+#include "platform/user_folders.h"
 
 namespace klarvik {
 

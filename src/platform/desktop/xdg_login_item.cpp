@@ -7,8 +7,8 @@
 #include <fstream>
 #include <utility>
 
+#include "platform/desktop_entry.h"
 #include "platform/linux/atomic_write.h"
-#include "platform/linux/desktop_entry.h"
 #include "platform/unicode_text.h"
 
 namespace klarvik {

@@ -1,5 +1,6 @@
 #include "platform/linux/directory_walk.h"
 
+#include <optional>
 #include <vector>
 
 #include "platform/linux/directory_reader.h"
@@ -83,7 +84,9 @@ class VisitedEntry final : public WalkEntry {
 class Walk {
  public:
   Walk(UniqueFd start, const Path& startPath, WalkOptions options, const WalkVisitor& visit)
-      : _trail(std::move(start)), _options(options), _visit(visit), _entry(_trail, startPath) {}
+      : _trail(std::move(start)), _options(options), _visit(visit), _entry(_trail, startPath) {
+    if (_options.stayOnMount) _mount = mountOf(_trail.current(), "");
+  }
 
   WalkOutcome run() {
     if (!visitFolder()) return WalkOutcome::refused;
@@ -125,10 +128,17 @@ class Walk {
 
   void enterNextFolder() {
     const std::string name = _pending.pop();
+    if (_mount && !liesOnTheMount(name)) return;
     UniqueFd folder = _trail.open(name.c_str());
     if (!folder) return;
     _trail.enter(std::move(folder), name);
     visitFolder();
+  }
+
+  /// Asked before the folder is opened, which could wait for a server for ever.
+  [[nodiscard]] bool liesOnTheMount(const std::string& name) const {
+    const auto mount = mountOf(_trail.current(), name.c_str());
+    return mount && mount->number == _mount->number;
   }
 
   FolderTrail _trail;
@@ -138,6 +148,7 @@ class Walk {
   DirectoryReader _reader;
   NameStack _pending;                      // folders still to be entered, of all levels
   std::vector<std::size_t> _firstPending;  // for each level, where its own begin
+  std::optional<MountOf> _mount;           // to stay on; nothing where the walk goes everywhere
   bool _stopped = false;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/linux/file_status.h"
 
 #include <sys/sysmacros.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -16,6 +17,11 @@ constexpr std::int64_t kBlockBytes = 512;  // the unit of stx_blocks on every fi
 std::optional<Date> dateIf(const struct statx& status, unsigned mask,
                            const struct statx_timestamp& time) {
   return status.stx_mask & mask ? std::optional(dateOf(time.tv_sec, time.tv_nsec)) : std::nullopt;
+}
+
+uid_t thisUser() {
+  static const uid_t user = ::geteuid();
+  return user;
 }
 
 }  // namespace
@@ -35,6 +41,16 @@ std::optional<struct statx> statusOf(int folder, const char* name) {
   const auto ask = [&] { return ::statx(folder, name, flags, mask, &status); };
   if (uninterrupted(ask) != 0) return std::nullopt;
   return status;
+}
+
+std::optional<MountOf> mountOf(int folder, const char* name) {
+  struct statx status;
+  const int flags =
+      AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC | (*name ? 0 : AT_EMPTY_PATH);
+  const auto ask = [&] { return ::statx(folder, name, flags, STATX_MNT_ID, &status); };
+  if (uninterrupted(ask) != 0 || (status.stx_mask & STATX_MNT_ID) == 0) return std::nullopt;
+  return MountOf{.number = status.stx_mnt_id,
+                 .isItsRoot = (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0};
 }
 
 bool isTheSame(const struct statx& now, const struct statx& before) {
@@ -73,7 +89,9 @@ FileAttributes attributesOf(const struct statx& status) {
           .created = dateIf(status, STATX_BTIME, status.stx_btime),
           .identity = FileIdentity{.device = ::makedev(status.stx_dev_major, status.stx_dev_minor),
                                    .inode = status.stx_ino},
-          .names = status.stx_nlink};
+          .names = status.stx_nlink,
+          .isOwn = status.stx_uid == thisUser(),
+          .isReadOnly = (status.stx_mode & S_IWUSR) == 0};
 }
 
 }  // namespace klarvik

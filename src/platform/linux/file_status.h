@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cstdint>
 #include <optional>
 
 #include "platform/file_attributes.h"
@@ -13,6 +14,16 @@ namespace klarvik {
 /// What the system tells of `name` in `folder` without following a link; of `folder` itself when
 /// `name` is empty. Nothing when it cannot be asked.
 [[nodiscard]] std::optional<struct statx> statusOf(int folder, const char* name);
+
+/// The mount on which `name` in `folder` lies, or `folder` itself when `name` is empty; of a folder
+/// where another volume is mounted, that volume's. A server that does not answer is not waited for.
+struct MountOf {
+  std::uint64_t number = 0;
+  bool isItsRoot = false;  ///< whether the volume is mounted right here
+
+  bool operator==(const MountOf&) const = default;
+};
+[[nodiscard]] std::optional<MountOf> mountOf(int folder, const char* name);
 
 /// A moment counted from 1970. One that a `Date` cannot hold, before 1678 or after 2261, is the
 /// furthest on its side.

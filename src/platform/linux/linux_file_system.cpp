@@ -100,8 +100,8 @@ class LinuxFolder final : public OpenedFolder {
 
 }  // namespace
 
-LinuxFileSystem::LinuxFileSystem(const Path& root, Path home)
-    : _root(absoluteRoot(root)), _home(std::move(home)) {}
+LinuxFileSystem::LinuxFileSystem(const Path& root, UserFolders folders)
+    : _root(absoluteRoot(root)), _folders(std::move(folders)) {}
 
 Path LinuxFileSystem::diskPath(const Path& logical) const {
   const Path below = logical.relative_path();
@@ -117,8 +117,13 @@ std::optional<Path> LinuxFileSystem::logicalPath(const Path& disk) const {
 }
 
 Path LinuxFileSystem::realHome() const {
-  const auto inHome = openParent(_root, _home / "x");
-  return inHome ? inHome->realPath.parent_path() : _home;
+  const auto inHome = realPath(_folders.home / "x");
+  return inHome ? inHome->parent_path() : _folders.home;
+}
+
+std::optional<Path> LinuxFileSystem::realPath(const Path& path) const {
+  const auto parent = openParent(_root, path);
+  return parent ? std::optional(parent->realPath) : std::nullopt;
 }
 
 std::string LinuxFileSystem::diskText(const Path& logical) const {
@@ -168,6 +173,12 @@ std::optional<FileAttributes> LinuxFileSystem::attributes(const Path& path) cons
   const auto location = locate(path);
   if (!location) return std::nullopt;
   return attributesAt(location->at(), location->name.c_str());
+}
+
+bool LinuxFileSystem::isMountPoint(const Path& path) const {
+  const auto location = locate(path);
+  const auto mount = location ? mountOf(location->at(), location->name.c_str()) : std::nullopt;
+  return mount && mount->isItsRoot;
 }
 
 std::optional<std::vector<Path>> LinuxFileSystem::list(const Path& folder) const {

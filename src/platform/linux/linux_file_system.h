@@ -12,16 +12,21 @@ namespace klarvik {
 class LinuxFileSystem : public FileSystem {
  public:
   /// `root` is where the logical "/" lies on the machine, also counted from the working folder;
-  /// `home` is a logical path. Below a relative root that is not there, nothing is.
-  LinuxFileSystem(const Path& root, Path home);
+  /// `folders` are logical paths. Below a relative root that is not there, nothing is.
+  LinuxFileSystem(const Path& root, UserFolders folders);
+  LinuxFileSystem(const Path& root, const Path& home)
+      : LinuxFileSystem(root, UserFolders::in(home)) {}
 
   [[nodiscard]] Path diskPath(const Path& logical) const override;
   [[nodiscard]] std::optional<Path> logicalPath(const Path& disk) const override;
-  [[nodiscard]] Path home() const override { return _home; }
+  [[nodiscard]] Path home() const override { return _folders.home; }
   [[nodiscard]] Path realHome() const override;
+  [[nodiscard]] UserFolders folders() const override { return _folders; }
+  [[nodiscard]] std::optional<Path> realPath(const Path& path) const override;
 
   [[nodiscard]] bool exists(const Path& path) const override;
   [[nodiscard]] std::optional<FileAttributes> attributes(const Path& path) const override;
+  [[nodiscard]] bool isMountPoint(const Path& path) const override;
   [[nodiscard]] std::optional<std::vector<Path>> list(const Path& folder) const override;
   WalkOutcome walk(const Path& folder, WalkOptions options,
                    const WalkVisitor& visit) const override;
@@ -48,7 +53,7 @@ class LinuxFileSystem : public FileSystem {
   [[nodiscard]] UniqueFd open(const Path& path, int flags) const;
 
   Path _root;
-  Path _home;
+  UserFolders _folders;
 };
 
 }  // namespace klarvik

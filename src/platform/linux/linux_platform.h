@@ -6,10 +6,11 @@
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_trash.h"
 #include "platform/linux/mounted_volume.h"
+#include "platform/linux/process_table.h"
 #include "platform/linux/recently_used_list.h"
 #include "platform/linux/shell_command_runner.h"
-#include "platform/linux/user_folders.h"
 #include "platform/platform.h"
+#include "platform/user_folders.h"
 
 namespace klarvik {
 
@@ -34,6 +35,7 @@ class LinuxPlatform {
   Formatting _formatting;
   const ApplicationInfo _info;
   RecentlyUsedList _recentDocuments;
+  ProcessTable _programs;
 };
 
 }  // namespace klarvik

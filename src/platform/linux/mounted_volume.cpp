@@ -39,6 +39,12 @@ std::optional<std::int64_t> MountedVolume::availableBytes() const {
   return status ? bytes(status->f_bavail, status->f_frsize) : std::nullopt;
 }
 
+std::optional<std::int64_t> MountedVolume::keptForRootBytes() const {
+  const auto status = statusOf(_folder);
+  if (!status || status->f_bfree < status->f_bavail) return std::nullopt;
+  return bytes(status->f_bfree - status->f_bavail, status->f_frsize);
+}
+
 std::optional<std::string> MountedVolume::name() const {
   const UniqueFd fd{::open(_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
   std::array<char, FSLABEL_MAX + 1> label{};

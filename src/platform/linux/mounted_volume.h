@@ -13,6 +13,7 @@ class MountedVolume final : public Volume {
 
   [[nodiscard]] std::optional<std::int64_t> totalBytes() const override;
   [[nodiscard]] std::optional<std::int64_t> availableBytes() const override;
+  [[nodiscard]] std::optional<std::int64_t> keptForRootBytes() const override;
   [[nodiscard]] std::optional<std::string> name() const override;
 
  private:

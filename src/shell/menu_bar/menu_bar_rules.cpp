@@ -43,9 +43,10 @@ std::string_view trashSymbol(const TrashMonitor::Figures& trash) {
   return trash.isReadable && trash.itemCount > 0 ? "trash.fill" : "trash";
 }
 
-std::string trashLabel(const TrashMonitor::Figures& trash, const Formatting& formatting) {
+std::string trashLabel(const TrashMonitor::Figures& trash, const Words& words,
+                       const Formatting& formatting) {
   if (trash.isEmptying) return "Emptying Trash…";
-  if (!trash.isReadable) return "Trash · needs Full Disk Access";
+  if (!trash.isReadable) return std::string(words.trashUnreadableInTray);
   if (trash.itemCount > 0) return "Empty Trash · " + formatting.byteText(trash.bytes);
   return "Trash is empty";
 }

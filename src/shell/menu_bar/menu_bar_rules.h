@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "places/words.h"
 #include "platform/formatting.h"
 #include "platform/status_item.h"
 #include "state/app_state.h"
@@ -25,7 +26,7 @@ inline constexpr std::size_t shownCategories = 4;
 [[nodiscard]] std::string moreCategories(std::size_t count);
 
 [[nodiscard]] std::string_view trashSymbol(const TrashMonitor::Figures& trash);
-[[nodiscard]] std::string trashLabel(const TrashMonitor::Figures& trash,
+[[nodiscard]] std::string trashLabel(const TrashMonitor::Figures& trash, const Words& words,
                                      const Formatting& formatting);
 [[nodiscard]] bool canEmpty(const TrashMonitor::Figures& trash);
 

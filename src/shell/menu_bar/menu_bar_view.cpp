@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "panes/kit/palette.h"
+#include "places/disk_layout.h"
 #include "shell/menu_bar/menu_bar_rules.h"
 #include "shell/menu_bar/window_fronting.h"
 #include "state/change_to.h"
@@ -34,7 +35,8 @@ QList<MenuBarCategory> MenuBarView::categories() const {
   QList<MenuBarCategory> lines;
   for (std::size_t at = 0; at < std::min(found.size(), menu_bar::shownCategories); ++at) {
     const CategoryType type = found[at].type;
-    lines.push_back({text(icon(type)), Palette::systemColor(color(type)), text(rawValue(type)),
+    lines.push_back({text(icon(type)), Palette::systemColor(color(type)),
+                     text(_appState.layout().label(type)),
                      text(found[at].formattedSize(_formatting))});
   }
   return lines;
@@ -52,7 +54,8 @@ QList<MenuBarAction> MenuBarView::currentActions() const {
   const TrashMonitor::Figures& trash = _trash.figures();
   return {
       {"magnifyingglass", "Scan Now"},
-      {text(menu_bar::trashSymbol(trash)), text(menu_bar::trashLabel(trash, _formatting)),
+      {text(menu_bar::trashSymbol(trash)),
+       text(menu_bar::trashLabel(trash, _appState.layout().words, _formatting)),
        menu_bar::canEmpty(trash)},
       {"macwindow", "Open Klarvik", true, true},
       {"gear", "Preferences"},

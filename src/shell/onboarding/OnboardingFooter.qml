@@ -30,7 +30,7 @@ Item {
         Repeater {
             id: dots
 
-            model: 3
+            model: root.model.stepCount
 
             Rectangle {
                 id: dot

@@ -26,8 +26,8 @@ FocusScope {
     component Page: Item {
         id: page
 
-        required property int index
-        readonly property int offset: index - root.model.step
+        required property int place
+        readonly property int offset: place - root.model.step
 
         width: root.width
         height: root.height - footer.height
@@ -54,24 +54,28 @@ FocusScope {
     }
 
     Page {
-        index: 0
+        place: 0
 
         WelcomePage {
             anchors.fill: parent
         }
     }
 
-    Page {
-        index: 1
+    Repeater {
+        model: Words.asksForFullDiskAccess ? 1 : 0
 
-        PermissionPage {
-            anchors.fill: parent
-            model: root.model
+        Page {
+            place: 1
+
+            PermissionPage {
+                anchors.fill: parent
+                model: root.model
+            }
         }
     }
 
     Page {
-        index: 2
+        place: root.model.stepCount - 1
 
         ReadyPage {
             anchors.fill: parent

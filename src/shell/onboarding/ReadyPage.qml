@@ -72,9 +72,16 @@ Item {
                 width: parent.width
 
                 SummaryRow {
+                    visible: Words.asksForFullDiskAccess
                     label: qsTr("Full Disk Access")
                     value: root.model.isGranted ? qsTr("Granted") : qsTr("Not granted")
                     color: root.model.isGranted ? Theme.safe : Theme.review
+                }
+
+                SummaryRow {
+                    visible: !Words.asksForFullDiskAccess
+                    label: qsTr("Reads")
+                    value: qsTr("your home folder, and what everybody may read")
                 }
 
                 Rectangle {
@@ -91,7 +98,7 @@ Item {
         }
 
         CheckRow {
-            title: qsTr("Keep Klarvik in the menu bar")
+            title: Words.keepInTray
             isOn: root.model.showMenuBar.isOn
             onToggled: root.model.showMenuBar.toggle()
         }

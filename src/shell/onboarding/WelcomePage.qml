@@ -17,8 +17,8 @@ Item {
 
         PageHeading {
             width: parent.width
-            title: qsTr("Klarvik finds what the Finder hides")
-            text: qsTr("App caches, old iPhone backups, browser leftovers, logs and the residue apps leave behind when you drag them to the Trash.")
+            title: Words.welcomeTitle
+            text: Words.welcomeText
 
             KlarvikAppIcon {
                 anchors.centerIn: parent
@@ -33,7 +33,7 @@ Item {
             PromiseRow {
                 width: parent.width
                 symbol: "lock.shield.fill"
-                text: qsTr("Nothing leaves your Mac. No account, no telemetry.")
+                text: Words.nothingLeaves
             }
 
             PromiseRow {

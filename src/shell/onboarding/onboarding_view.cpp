@@ -1,5 +1,8 @@
 #include "shell/onboarding/onboarding_view.h"
 
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
+
 namespace klarvik {
 
 namespace {
@@ -13,6 +16,7 @@ OnboardingView::OnboardingView(PermissionsManager& permissions, const Desktop& d
     : QObject(parent),
       _permissions(permissions),
       _defaults(desktop.defaults),
+      _stepCount(layoutFor(desktop.files.home()).asksForFullDiskAccess() ? 3 : 2),
       _showMenuBar(desktop.defaults, desktop.notifications, "showMenuBar") {
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
           &OnboardingView::isGrantedChanged);

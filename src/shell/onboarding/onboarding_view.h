@@ -10,26 +10,27 @@
 
 namespace klarvik {
 
-/// The first run: three pages, and no way back. Nothing of it is kept before its end. Main thread
+/// The first run: its pages, and no way back. Nothing of it is kept before its end. Main thread
 /// only; everything handed in must outlive it.
 class OnboardingView : public QObject {
   Q_OBJECT
   QML_NAMED_ELEMENT(OnboardingModel)
   QML_UNCREATABLE("The program makes it.")
   Q_PROPERTY(int step READ step NOTIFY stepChanged)
+  Q_PROPERTY(int stepCount READ stepCount CONSTANT)
   Q_PROPERTY(bool isLastStep READ isLastStep NOTIFY stepChanged)
   Q_PROPERTY(bool isGranted READ isGranted NOTIFY isGrantedChanged)
   Q_PROPERTY(QString buttonTitle READ buttonTitle NOTIFY buttonTitleChanged)
   Q_PROPERTY(klarvik::StoredSwitch* showMenuBar READ showMenuBar CONSTANT)
 
  public:
-  static constexpr int steps = 3;
-
   OnboardingView(PermissionsManager& permissions, const Desktop& desktop,
                  QObject* parent = nullptr);
 
   [[nodiscard]] int step() const { return _step; }
-  [[nodiscard]] bool isLastStep() const { return _step == steps - 1; }
+  /// One less where there is no permission to ask for.
+  [[nodiscard]] int stepCount() const { return _stepCount; }
+  [[nodiscard]] bool isLastStep() const { return _step == _stepCount - 1; }
   [[nodiscard]] bool isGranted() const { return _permissions.hasFullDiskAccess(); }
   [[nodiscard]] QString buttonTitle() const;
   [[nodiscard]] StoredSwitch* showMenuBar() { return &_showMenuBar; }
@@ -54,6 +55,7 @@ class OnboardingView : public QObject {
 
   PermissionsManager& _permissions;
   UserDefaults& _defaults;
+  const int _stepCount;
   int _step = 0;
   bool _isFinished = false;
   StoredSwitch _showMenuBar;

@@ -26,11 +26,11 @@ ToolScrollView {
 
         SettingsNote {
             visible: root.model.launchAtLogin.isUnavailable
-            text: qsTr("Unavailable until Klarvik is signed and in /Applications.")
+            text: Words.launchAtLoginUnavailable
         }
 
         SettingsCheckbox {
-            title: qsTr("Show in the menu bar")
+            title: Words.showInTray
             isOn: root.model.showMenuBar.isOn
             onToggled: root.model.showMenuBar.toggle()
         }
@@ -59,6 +59,7 @@ ToolScrollView {
 
     SettingsRow {
         width: parent.width
+        visible: Words.asksForFullDiskAccess
         label: qsTr("Full Disk Access")
 
         Row {
@@ -99,7 +100,7 @@ ToolScrollView {
         }
 
         SettingsCheckbox {
-            title: qsTr("Include developer caches (Xcode, npm, Docker)")
+            title: Words.includeDeveloperCaches
             isOn: root.model.includeDeveloperJunk.isOn
             onToggled: root.model.includeDeveloperJunk.toggle()
         }

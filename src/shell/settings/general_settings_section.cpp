@@ -2,8 +2,10 @@
 
 #include <QSysInfo>
 
-#include "core/junk_model.h"
+#include "panes/kit/row_text.h"
+#include "places/disk_layout.h"
 #include "platform/application_info.h"
+#include "platform/file_system.h"
 #include "platform/workspace.h"
 
 namespace klarvik {
@@ -31,7 +33,8 @@ QString GeneralSettingsSection::versionLine() const {
 }
 
 QString GeneralSettingsSection::systemLine() const {
-  return "macOS " + QSysInfo::prettyProductName();
+  const Words& words = layoutFor(_desktop.files.home()).words;
+  return programText(words.systemLine).arg(QSysInfo::prettyProductName());
 }
 
 bool GeneralSettingsSection::hasWebsite() const {

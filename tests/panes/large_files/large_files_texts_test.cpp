@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "places/disk_layout.h"
+
 namespace klarvik {
 namespace {
 
@@ -34,7 +36,7 @@ TEST_F(LargeFilesTexts, BeforeAScanTheSubtitleSaysWhatThePaneIsFor) {
 }
 
 TEST_F(LargeFilesTexts, EveryPlaceholderHasItsWords) {
-  EXPECT_EQ(measuring(),
+  EXPECT_EQ(measuring(layoutFor("/Users/ann").words),
             Placeholder::busy("Measuring",
                               "Walking Documents, Downloads, Desktop, Movies and Music. "
                               "Photo and music libraries are skipped."));

@@ -1,4 +1,5 @@
 #include "panes/privacy/trail_list.h"
+#include "places/disk_layout.h"
 #include "platform/formatting.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +27,7 @@ class TrailListRows : public ::testing::Test {
   }
 
   Formatting formatting{"en_US"};
-  TrailList list{formatting};
+  TrailList list{formatting, layoutFor("/Users/ann").words};
   QAbstractItemModelTester tester{&list, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
@@ -40,6 +41,17 @@ TEST_F(TrailListRows, StandInTheirSectionsWhateverTheOrderTheyWereFoundIn) {
                                   "Browser History", "MACOS RECENTS", "Trash History",
                                   "Downloads List", "Recent Apps", "Recent Files", "SYSTEM TRAILS",
                                   "Location Cache", "Quarantine DB", "Clipboard"}));
+}
+
+TEST_F(TrailListRows, AreCalledAsOnALinuxDiskThere) {
+  TrailList onLinux(formatting, layoutFor("/home/ann").words);
+  onLinux.show({trail(browserHistory), trail(recentFiles), trail(quarantine)});
+  QStringList shown;
+  for (int row = 0; row < onLinux.rowCount(); ++row) {
+    shown << onLinux.index(row).data(TrailList::NameRole).toString();
+  }
+  EXPECT_EQ(shown, (QStringList{"BROWSERS", "Browser History", "RECENT FILES", "Recent Files",
+                                "SYSTEM TRAILS", "Origin of downloads"}));
 }
 
 TEST_F(TrailListRows, StandBySizeInTheirSection) {

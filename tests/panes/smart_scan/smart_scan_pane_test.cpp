@@ -65,6 +65,16 @@ TEST_F(SmartScanPaneModel, ShowsARunningScanAndStopsIt) {
   gate.open();
 }
 
+TEST(ScanPreviewOfALinuxDisk, ListsTheRowsOfItsScanInTheirOrder) {
+  const ScanPreview preview(layoutFor("/home/ann"));
+  std::vector<std::string> names;
+  for (const ScanPreview::Row& row : preview.rows()) names.push_back(row.name);
+  EXPECT_EQ(names, (std::vector<std::string>{
+                       "Build Artifacts", "Package Caches", "Toolchains & Stores", "App Caches",
+                       "Logs & Crash Reports", "Installed Packages", "Trash", "Browser Caches",
+                       "Containers", "Snapshots", "Leftovers"}));
+}
+
 TEST_F(SmartScanPaneModel, GrowsTheScanningTableRowByRow) {
   addCache("a");
   QSignalSpy inserted(pane.scanningTable(), &ScanningTable::rowsInserted);

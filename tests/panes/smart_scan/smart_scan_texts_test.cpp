@@ -102,13 +102,40 @@ TEST(SelectionSummary, TellsSizeAndCount) {
 }
 
 TEST(SelectionHint, AsksForASelectionWhenThereIsNone) {
-  EXPECT_EQ(selectionHint(0, true), "Select something to clean.");
+  EXPECT_EQ(selectionHint(0, true, ""), "Select something to clean.");
 }
 
 TEST(SelectionHint, SaysWhatTheSelectionIsMarkedAs) {
-  EXPECT_EQ(selectionHint(2, true), "Everything selected is marked Safe. Items move to the Trash.");
-  EXPECT_EQ(selectionHint(2, false),
-            "Your selection includes Review items. Items move to the Trash.");
+  EXPECT_EQ(selectionHint(2, true, "Items move."),
+            "Everything selected is marked Safe. Items move.");
+  EXPECT_EQ(selectionHint(2, false, "Items move."),
+            "Your selection includes Review items. Items move.");
+}
+
+TEST(FateOfASelection, TellsApartWhatGoesToTheTrashAndWhatForGood) {
+  EXPECT_EQ(fateOf({.size = 3'000'000, .count = 2, .forGood = 0}, true, english()),
+            "Items move to the Trash.");
+  EXPECT_EQ(fateOf({.size = 3'000'000, .count = 2, .forGood = 1'000'000}, true, english()),
+            "2 MB moves to the Trash, 1 MB is removed for good.");
+  EXPECT_EQ(fateOf({.size = 3'000'000, .count = 2, .forGood = 3'000'000}, true, english()),
+            "Items are removed for good.");
+  EXPECT_EQ(fateOf({.size = 3'000'000, .count = 2, .forGood = 0}, false, english()),
+            "Items are removed for good.");
+}
+
+TEST(ItemNote, GivesTheReasonAndSaysWhatToCloseFirst) {
+  EXPECT_EQ(itemNote({.name = "npm", .path = "/x"}), "");
+  EXPECT_EQ(itemNote({.name = "npm", .path = "/x", .reason = "It comes back."}), "It comes back.");
+  EXPECT_EQ(
+      itemNote({.name = "f", .path = "/x", .reason = "It comes back.", .closeFirst = "Firefox"}),
+      "Close Firefox first. It comes back.");
+}
+
+TEST(HintNote, EndsWithWhatTheUserMayRun) {
+  EXPECT_EQ(hintNote({.name = "go", .path = "/x", .reason = "Read-only.", .command = ""}),
+            "Read-only.");
+  EXPECT_EQ(hintNote({.name = "go", .path = "/x", .reason = "Read-only.", .command = "go clean"}),
+            "Read-only. Run: go clean");
 }
 
 TEST(CleanTitle, NamesTheSizeOfTheSelection) {

@@ -5,7 +5,7 @@
 #include <QSignalSpy>
 
 #include "../pane_fixture.h"
-#include "core/storage_palette.h"
+#include "places/storage_palette.h"
 
 namespace klarvik {
 namespace {

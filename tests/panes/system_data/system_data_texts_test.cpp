@@ -8,6 +8,8 @@ namespace {
 class SystemDataTexts : public ::testing::Test {
  protected:
   Formatting formatting{"en_US"};
+  const DiskLayout& macDisk = layoutFor("/Users/ann");
+  const DiskLayout& linuxDisk = layoutFor("/home/ann");
 };
 
 TEST_F(SystemDataTexts, TitleThePaneByWhatWasFound) {
@@ -17,10 +19,10 @@ TEST_F(SystemDataTexts, TitleThePaneByWhatWasFound) {
 }
 
 TEST_F(SystemDataTexts, SayBelowTheTitleHowMuchCanGo) {
-  EXPECT_EQ(system_data::subtitle(std::nullopt, formatting),
+  EXPECT_EQ(system_data::subtitle(std::nullopt, macDisk.words, formatting),
             "Not analysed yet. Storage settings will not say what is in these folders. Klarvik "
             "will.");
-  EXPECT_EQ(system_data::subtitle(1'500'000, formatting),
+  EXPECT_EQ(system_data::subtitle(1'500'000, macDisk.words, formatting),
             "System Data, plus the Developer, Mail and app folders Storage settings files "
             "elsewhere and explains just as poorly. 1.5 MB of it can go.");
 }
@@ -38,14 +40,15 @@ TEST_F(SystemDataTexts, TellWhatCanGoFromWhatIsOnlyShown) {
 }
 
 TEST_F(SystemDataTexts, CountTheItemsOfAKind) {
-  EXPECT_EQ(system_data::kindDetail(1, SystemDataSubCategory::logs), "1 item");
-  EXPECT_EQ(system_data::kindDetail(2, SystemDataSubCategory::logs), "2 items");
+  EXPECT_EQ(system_data::kindDetail(1, SystemDataSubCategory::logs, macDisk.words), "1 item");
+  EXPECT_EQ(system_data::kindDetail(2, SystemDataSubCategory::logs, macDisk.words), "2 items");
 }
 
 TEST_F(SystemDataTexts, SayOfTheSixProtectedKindsThatTheSystemNeedsThem) {
   int needed = 0;
   for (const SystemDataSubCategory kind : allSystemDataSubCategories()) {
-    const bool isNeeded = system_data::kindDetail(3, kind) == "3 items · macOS needs these";
+    const bool isNeeded =
+        system_data::kindDetail(3, kind, macDisk.words) == "3 items · macOS needs these";
     EXPECT_EQ(isNeeded, defaultSafety(kind) == ItemSafety::protected_);
     needed += isNeeded ? 1 : 0;
   }
@@ -53,8 +56,20 @@ TEST_F(SystemDataTexts, SayOfTheSixProtectedKindsThatTheSystemNeedsThem) {
 }
 
 TEST_F(SystemDataTexts, SayWhatABoxSelects) {
-  EXPECT_EQ(system_data::selectionHelp(SystemDataSubCategory::vmSwap),
+  EXPECT_EQ(system_data::selectionHelp(SystemDataSubCategory::vmSwap, macDisk),
             "Select everything in VM & Swap");
+}
+
+TEST_F(SystemDataTexts, NameNoSystemOnALinuxDisk) {
+  EXPECT_EQ(system_data::subtitle(std::nullopt, linuxDisk.words, formatting),
+            "Not analysed yet. Your file manager will not say what is in these folders. Klarvik "
+            "will.");
+  EXPECT_EQ(system_data::subtitle(1'500'000, linuxDisk.words, formatting),
+            "What apps, packages and the system itself keep out of sight. 1.5 MB of it can go.");
+  EXPECT_EQ(system_data::kindDetail(1, SystemDataSubCategory::vmSwap, linuxDisk.words),
+            "1 item · left alone");
+  EXPECT_EQ(system_data::selectionHelp(SystemDataSubCategory::vmSwap, linuxDisk),
+            "Select everything in Swap & Hibernation");
 }
 
 TEST_F(SystemDataTexts, PutTheVerdictsIntoWords) {

@@ -2,17 +2,27 @@
 
 #include <gtest/gtest.h>
 
+#include "places/disk_layout.h"
+
 namespace klarvik::uninstaller {
 namespace {
 
 TEST(UninstallerTexts, TellWhatTheListIsDoing) {
-  EXPECT_EQ(listSubtitle(true, false, 0), "Waiting for another tool to finish measuring");
-  EXPECT_EQ(listSubtitle(true, true, 0), "Waiting for another tool to finish measuring");
-  EXPECT_EQ(listSubtitle(false, true, 3), "Reading /Applications…");
-  EXPECT_EQ(listSubtitle(false, false, 3),
+  const Words& words = layoutFor("/Users/ann").words;
+  EXPECT_EQ(listSubtitle(true, false, 0, words), "Waiting for another tool to finish measuring");
+  EXPECT_EQ(listSubtitle(true, true, 0, words), "Waiting for another tool to finish measuring");
+  EXPECT_EQ(listSubtitle(false, true, 3, words), "Reading /Applications…");
+  EXPECT_EQ(listSubtitle(false, false, 3, words),
             "3 apps · dragging one to the Trash leaves its support files behind");
-  EXPECT_EQ(listSubtitle(false, false, 1),
+  EXPECT_EQ(listSubtitle(false, false, 1, words),
             "1 apps · dragging one to the Trash leaves its support files behind");
+}
+
+TEST(UninstallerTexts, NameNoFolderOfAnotherSystemOnALinuxDisk) {
+  const Words& words = layoutFor("/home/ann").words;
+  EXPECT_EQ(listSubtitle(false, true, 3, words), "Reading the installed apps…");
+  EXPECT_EQ(listSubtitle(false, false, 3, words),
+            "3 apps · deleting one leaves its support files behind");
 }
 
 TEST(UninstallerTexts, TellWhatTheOpenedApplicationTakes) {

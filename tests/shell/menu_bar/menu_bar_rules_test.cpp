@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "places/disk_layout.h"
+
 namespace klarvik::menu_bar {
 namespace {
 
@@ -83,10 +85,15 @@ TEST(TrashRow, SaysWhatCanBeDone) {
        false},
   };
   for (const Row& row : rows) {
-    EXPECT_EQ(trashLabel(row.trash, english()), row.label);
+    EXPECT_EQ(trashLabel(row.trash, layoutFor("/Users/ann").words, english()), row.label);
     EXPECT_EQ(trashSymbol(row.trash), row.symbol) << row.label;
     EXPECT_EQ(canEmpty(row.trash), row.canEmpty) << row.label;
   }
+}
+
+TEST(TrashRow, AsksForNoPermissionOnALinuxDisk) {
+  const TrashMonitor::Figures trash{.bytes = 5, .isReadable = false};
+  EXPECT_EQ(trashLabel(trash, layoutFor("/home/ann").words, english()), "Trash · cannot be read");
 }
 
 }  // namespace

@@ -1,10 +1,13 @@
 #include <charconv>
+#include <chrono>
 #include <exception>
 #include <iostream>
 #include <optional>
 #include <span>
 #include <string_view>
 
+#include "places/linux/linux_layout.h"
+#include "support/linux_sample_disk.h"
 #include "support/sample_disk.h"
 
 namespace {
@@ -46,18 +49,36 @@ std::optional<Arguments> parsed(std::span<char* const> words) {
   return arguments;
 }
 
+/// What is fresh on a Linux disk is so for whoever tries it now.
+std::int64_t secondsNow() {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::seconds>(now).count();
+}
+
+/// Answers how many files there are.
+std::size_t build(const klarvik::Path& root, const klarvik::SampleDiskOptions& options) {
+  if (&klarvik::layoutFor(options.home) != &klarvik::linux_disk::layout()) {
+    return klarvik::buildSampleDisk(root, options).files;
+  }
+  return klarvik::buildLinuxSampleDisk(
+             root, {.scale = options.scale, .home = options.home, .now = secondsNow()})
+      .files;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const auto arguments = parsed(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
   if (!arguments) {
     std::cerr << "usage: klarvik-sample-disk DIR [--scale N] [--home /Users/ann]\n"
-                 "Builds a Mac-shaped disk below DIR, which must be missing or empty.\n";
+                 "Builds a disk below DIR, which must be missing or empty: Mac-shaped for a home\n"
+                 "below /Users/, Linux-shaped for any other, such as /home/ann.\n";
     return usageError;
   }
   try {
-    const auto disk = klarvik::buildSampleDisk(arguments->root, arguments->options);
-    std::cout << disk.files << " files below " << disk.root.native() << '\n';
+    const std::size_t files = build(arguments->root, arguments->options);
+    const auto root = std::filesystem::canonical(arguments->root);
+    std::cout << files << " files below " << root.native() << '\n';
   } catch (const std::exception& error) {
     std::cerr << "klarvik-sample-disk: " << error.what() << '\n';
     return 1;

@@ -1,10 +1,6 @@
-#include "systemdata/pass_table.h"
+#include "places/mac/mac_layout.h"
 
-#include <array>
-
-#include "systemdata/system_data_search.h"
-
-namespace klarvik {
+namespace klarvik::mac {
 
 namespace {
 
@@ -129,15 +125,15 @@ constexpr std::array<Pass, systemDataSubCategoryCount> passes{{
     {"Scanning Package Manager Caches...", 0.25, SystemDataSubCategory::packageManagerCaches,
      packageManagerCaches},
     {"Scanning Time Machine...", 0.30, SystemDataSubCategory::timeMachineSnapshots,
-     &SystemDataSearch::snapshots},
+     AnalysisMethod::localSnapshots},
     {"Scanning System Temp...", 0.34, SystemDataSubCategory::systemTemp, temporaryFiles},
-    {"Scanning VM & Swap...", 0.38, SystemDataSubCategory::vmSwap, &SystemDataSearch::swapFiles},
+    {"Scanning VM & Swap...", 0.38, SystemDataSubCategory::vmSwap, AnalysisMethod::swapFiles},
     {"Scanning System Databases...", 0.42, SystemDataSubCategory::systemDatabases, databases},
     {"Scanning System Library...", 0.47, SystemDataSubCategory::systemLibrary, systemLibrary},
     {"Scanning Mail Storage...", 0.52, SystemDataSubCategory::mailStorage, mail},
     {"Scanning Homebrew...", 0.56, SystemDataSubCategory::homebrewCache, homebrew},
     {"Scanning Logs...", 0.60, SystemDataSubCategory::logs, logs},
-    {"Scanning Firmware...", 0.64, SystemDataSubCategory::firmware, &SystemDataSearch::firmware},
+    {"Scanning Firmware...", 0.64, SystemDataSubCategory::firmware, AnalysisMethod::firmware},
     {"Scanning Spotlight...", 0.68, SystemDataSubCategory::spotlightIndex, spotlight},
     {"Scanning Diagnostics...", 0.72, SystemDataSubCategory::diagnostics, diagnostics},
     {"Scanning Preferences...", 0.76, SystemDataSubCategory::preferences, preferences},
@@ -146,13 +142,13 @@ constexpr std::array<Pass, systemDataSubCategoryCount> passes{{
     {"Scanning iCloud Data...", 0.88, SystemDataSubCategory::icloudData,
      ChildFolder{"Library/Mobile Documents", 10'000'000}},
     {"Scanning remaining Library data...", 0.92, SystemDataSubCategory::otherLibrary,
-     &SystemDataSearch::libraryRemainder},
+     AnalysisMethod::libraryRemainder},
 }};
 
 }  // namespace
 
-std::span<const Pass> passTable() {
+std::span<const Pass> analysisPasses() {
   return passes;
 }
 
-}  // namespace klarvik
+}  // namespace klarvik::mac

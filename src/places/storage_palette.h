@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/rgb_color.h"
+#include "places/rgb_color.h"
 
 /// The colours in which the tools that explain the disk tell kinds of things apart.
 namespace klarvik::storage_palette {

@@ -5,18 +5,19 @@
 #include <span>
 #include <string_view>
 #include <variant>
-#include <vector>
 
-#include "systemdata/system_data_item.h"
+#include "places/place.h"
+#include "places/system_data_sub_category.h"
 
 namespace klarvik {
 
-class SystemDataSearch;
-
 /// A folder each of whose children is worth a row from a certain size on.
 struct ChildFolder {
-  std::string_view path;  ///< below the home
+  std::string_view path;  ///< below the base
   std::int64_t minimumSize;
+  Base base = Base::home;
+  bool onlyHidden = false;
+  std::span<const std::string_view> except{};  ///< children that other passes look at
 };
 
 /// A place that is worth one row as a whole, from a certain size on.
@@ -28,17 +29,14 @@ struct WholePlace {
 };
 
 /// What is found by rules of its own.
-using OwnSearch = std::vector<SystemDataItem> (SystemDataSearch::*)(SystemDataSubCategory) const;
+enum class AnalysisMethod { localSnapshots, swapFiles, firmware, libraryRemainder };
 
-/// One step of the analysis.
+/// One step of the analysis of System Data.
 struct Pass {
   std::string_view label;
   double fraction;  ///< of the whole analysis, told when the pass begins
   SystemDataSubCategory kind;
-  std::variant<ChildFolder, std::span<const WholePlace>, OwnSearch> places;
+  std::variant<ChildFolder, std::span<const WholePlace>, AnalysisMethod> places;
 };
-
-/// Every pass, in the order in which they run.
-[[nodiscard]] std::span<const Pass> passTable();
 
 }  // namespace klarvik

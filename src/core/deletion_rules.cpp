@@ -1,0 +1,37 @@
+#include "core/deletion_rules.h"
+
+#include "places/disk_layout.h"
+#include "places/path_pattern.h"
+#include "platform/unicode_text.h"
+
+namespace klarvik {
+
+bool isSystemDirectory(const DeletionQuestion& question) {
+  const auto directories = question.layout.guard.systemDirectories;
+  return std::ranges::find(directories, question.path) != directories.end();
+}
+
+bool isSomeonesHome(const DeletionQuestion& question) {
+  const GuardRules& rules = question.layout.guard;
+  const std::string_view home = question.home;
+  if (!home.starts_with('/')) return false;
+  const auto pieces = pathPieces(home);
+  const auto liesIn = [&](std::string_view pattern) {
+    const Relation relation = matchPattern(pieces, {pattern}).relation;
+    return relation == Relation::at || relation == Relation::below;
+  };
+  if (std::ranges::any_of(rules.homesAllTheSame, liesIn)) return true;
+  return std::ranges::find(rules.systemDirectories, home) == rules.systemDirectories.end() &&
+         std::ranges::none_of(rules.nobodysHomes, liesIn);
+}
+
+std::vector<std::string> distinctiveIdentifiers(const std::vector<std::string>& identifiers) {
+  std::vector<std::string> kept;
+  for (const std::string& identifier : identifiers) {
+    std::string lower = lowercased(identifier);
+    if (characterCount(lower) > 3) kept.push_back(std::move(lower));
+  }
+  return kept;
+}
+
+}  // namespace klarvik

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/deletion_guard.h"
+#include "core/refusal.h"
+
+namespace klarvik {
+
+/// A removal that is to be judged. Paths are absolute and standardized.
+struct DeletionQuestion {
+  std::string_view path;
+  const DeletionScope& scope;
+  const UserFolders& folders;
+  const DiskLayout& layout;
+  std::string_view home;
+};
+
+/// Lets go all that no rule keeps.
+[[nodiscard]] Refusal refusalByDenyList(const DeletionQuestion& question);
+/// Lets go only what a table of the layout names.
+[[nodiscard]] Refusal refusalByAllowList(const DeletionQuestion& question);
+
+/// What both say alike.
+[[nodiscard]] bool isSystemDirectory(const DeletionQuestion& question);
+/// Whether the home is one that a person has. An account without one is often given "/" or another
+/// system directory; what lies there belongs to everybody.
+[[nodiscard]] bool isSomeonesHome(const DeletionQuestion& question);
+/// In lower case; those that are too short to tell anything are left out.
+[[nodiscard]] std::vector<std::string> distinctiveIdentifiers(
+    const std::vector<std::string>& identifiers);
+
+}  // namespace klarvik

@@ -1,0 +1,38 @@
+#include "core/shown_folders.h"
+
+#include <algorithm>
+
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
+
+namespace klarvik {
+namespace {
+
+bool isAtOrBelow(const Path& path, const Path& folder) {
+  const Path below = path.lexically_relative(folder);
+  return !below.empty() && *below.begin() != "..";
+}
+
+}  // namespace
+
+UserFolders shownFolders(const FileSystem& files) {
+  if (layoutFor(files.home()).desktopNamesFolders) return files.folders();
+  UserFolders usual = UserFolders::in(files.home());
+  usual.videos = files.home() / "Movies";
+  return usual;
+}
+
+std::vector<Path> withoutNested(const std::vector<Path>& folders, const Path& home) {
+  std::vector<Path> kept;
+  for (const Path& folder : folders) {
+    const bool isNested =
+        isAtOrBelow(home, folder) || std::ranges::any_of(folders, [&](const Path& other) {
+          return &other != &folder && isAtOrBelow(folder, other) &&
+                 (other != folder || &other < &folder) && !isAtOrBelow(home, other);
+        });
+    if (!isNested) kept.push_back(folder);
+  }
+  return kept;
+}
+
+}  // namespace klarvik

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "core/catalogue.h"
+#include "places/place.h"
+#include "platform/date.h"
+#include "platform/path.h"
+#include "platform/platform.h"
+
+namespace klarvik {
+
+/// What a walk through a thing tells of it.
+struct Measure {
+  std::int64_t bytes = 0;            ///< all that a removal gives back
+  std::optional<Date> used;          ///< when something in it was last changed or read
+  bool isOwn = true;                 ///< all of it belongs to the user
+  bool holdsReadOnlyFolder = false;  ///< what lies in such a folder cannot be removed file by file
+};
+
+/// Of all of `path`, links not followed, on its own volume only. Any thread; takes as long as the
+/// tree is large.
+[[nodiscard]] Measure measureWhole(const FileSystem& files, const Path& path);
+
+/// Whether the condition of `place` holds for the thing at `path`, whose pattern's "*" stand for
+/// `stars`. When it cannot be told, it does not.
+[[nodiscard]] bool conditionHolds(const Platform& platform, const Catalogue& catalogue,
+                                  const Place& place, const Path& path,
+                                  const std::vector<std::string_view>& stars,
+                                  const Measure& measure, Date now);
+
+}  // namespace klarvik

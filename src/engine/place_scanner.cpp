@@ -1,0 +1,270 @@
+#include "engine/place_scanner.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "core/removal_check.h"
+#include "engine/project_walk.h"
+#include "engine/scanner_engine.h"
+#include "places/path_pattern.h"
+#include "platform/file_system.h"
+#include "platform/running_programs.h"
+
+namespace klarvik {
+namespace {
+
+/// `text` with each "*" replaced by the next of `stars`.
+std::string filledIn(std::string_view text, const std::vector<std::string>& stars) {
+  std::string filled;
+  auto next = stars.begin();
+  for (const char character : text) {
+    if (character == '*' && next != stars.end()) {
+      filled += *next++;
+    } else {
+      filled += character;
+    }
+  }
+  return filled;
+}
+
+std::vector<std::string_view> views(const std::vector<std::string>& texts) {
+  return {texts.begin(), texts.end()};
+}
+
+bool isFolderOrFile(const std::optional<FileAttributes>& attributes) {
+  return attributes &&
+         (attributes->kind == FileKind::directory || attributes->kind == FileKind::regular);
+}
+
+void sortHintsBySize(std::vector<Hint>& hints) {
+  std::ranges::stable_sort(hints, std::ranges::greater{}, &Hint::size);
+}
+
+}  // namespace
+
+PlaceScanner::PlaceScanner(const Platform& platform, std::stop_token stop, ItemReport report)
+    : _platform(platform),
+      _layout(layoutFor(platform.files.home())),
+      _catalogue(_layout, platform.files.folders()),
+      _stop(std::move(stop)),
+      _report(std::move(report)),
+      _now(std::chrono::system_clock::now()) {}
+
+CleanCategory PlaceScanner::find(CategoryType type) {
+  CleanCategory category{.type = type, .items = {}};
+  for (const Place& place : _layout.places) {
+    if (place.category != type) continue;
+    for (const Match& match : matches(place)) {
+      if (_stop.stop_requested()) return category;
+      look(place, match, category);
+    }
+  }
+  sortItemsBySize(category.items);
+  sortHintsBySize(category.hints);
+  return category;
+}
+
+CleanCategory PlaceScanner::findArtifacts() {
+  CleanCategory category{.type = CategoryType::buildArtifacts, .items = {}};
+  for (const auto& [path, kind] :
+       findProjectArtifacts(_platform.files, _catalogue, _layout, _stop)) {
+    if (_stop.stop_requested()) return category;
+    const auto attributes = _platform.files.attributes(path);
+    const Measure measure = measureWhole(_platform.files, path);
+    if (!attributes || measure.bytes <= _layout.artifactsAbove) continue;
+    const Path project = path.parent_path().filename();
+    offer({.name = (project / path.filename()).native(),
+           .path = path,
+           .size = measure.bytes,
+           .modifiedDate = attributes->modified,
+           .identity = entryIdentity(*attributes),
+           .reason = std::string(kind->reason)},
+          measure, category);
+  }
+  sortItemsBySize(category.items);
+  sortHintsBySize(category.hints);
+  return category;
+}
+
+std::vector<PlaceScanner::Match> PlaceScanner::matches(const Place& place) const {
+  const auto base = _catalogue.folder(place.base);
+  const Path start = base ? _platform.files.home() / *base : Path("/");
+  std::vector<Match> found = expanded({{.path = start}}, place.pattern);
+  std::erase_if(found, [&](const Match& match) { return isExcepted(place, match); });
+  if (!place.details.only.empty()) {
+    std::vector<Match> inside;
+    for (const Match& outer : found) {
+      for (const std::string_view pattern : place.details.only) {
+        for (Match& inner : expanded({outer}, pattern)) {
+          inner.inside = inner.path.lexically_relative(outer.path);
+          inside.push_back(std::move(inner));
+        }
+      }
+    }
+    found = std::move(inside);
+  }
+  if (place.unit == Unit::children || place.unit == Unit::unknown) found = expanded(found, "*");
+  std::erase_if(found, [&](const Match& match) { return isExcepted(place, match); });
+  return found;
+}
+
+std::vector<PlaceScanner::Match> PlaceScanner::expanded(std::vector<Match> starts,
+                                                        std::string_view pattern) const {
+  for (const std::string_view piece : pathPieces(pattern)) {
+    std::vector<Match> next;
+    for (Match& start : starts) {
+      if (piece.find('*') == std::string_view::npos) {
+        start.path /= piece;
+        next.push_back(std::move(start));
+        continue;
+      }
+      for (const Path& child : _platform.files.list(start.path).value_or(std::vector<Path>{})) {
+        const std::string name = child.filename().native();
+        if (!nameMatches(piece, name) || isElsewhere(child)) continue;
+        next.push_back({.path = child, .stars = start.stars});
+        next.back().stars.push_back(name);
+      }
+    }
+    starts = std::move(next);
+  }
+  return starts;
+}
+
+/// Looked at first, because what is mounted at a place may not answer.
+bool PlaceScanner::isElsewhere(const Path& path) const {
+  if (_platform.files.isMountPoint(path)) return true;
+  const auto attributes = _platform.files.attributes(path);
+  return attributes && attributes->kind == FileKind::symbolicLink;
+}
+
+bool PlaceScanner::isExcepted(const Place& place, const Match& match) const {
+  const auto isNone = [&](const std::string& name) {
+    return nameMatchesAny(place.details.except, name);
+  };
+  if (std::ranges::any_of(match.stars, isNone)) return true;
+  return place.unit == Unit::unknown && !match.stars.empty() &&
+         _catalogue.hasRowOfItsOwn(place.base, match.stars.back());
+}
+
+std::string PlaceScanner::nameOf(const Place& place, const Match& match) {
+  if (place.name.empty()) return match.path.filename().native();
+  const std::string name = filledIn(place.name, match.stars);
+  return match.inside.empty() ? name : name + " — " + match.inside.native();
+}
+
+void PlaceScanner::look(const Place& place, const Match& match, CleanCategory& category) {
+  const FileSystem& files = _platform.files;
+  if (overlapsAnItem(match.path) || isElsewhere(match.path)) return;
+  const auto attributes = files.attributes(match.path);
+  const bool foldersOnly = place.unit == Unit::unknown || place.unit == Unit::children;
+  if (!isFolderOrFile(attributes)) return;
+  if (foldersOnly && attributes->kind != FileKind::directory) return;
+  const Measure measure = measureWhole(files, match.path);
+  if (measure.bytes <= place.above) return;
+  if (!conditionHolds(_platform, _catalogue, place, match.path, views(match.stars), measure,
+                      _now)) {
+    return;
+  }
+  std::string name = nameOf(place, match);
+  if (place.details.removal == Removal::byTool) {
+    category.hints.push_back({.name = std::move(name),
+                              .path = match.path,
+                              .size = measure.bytes,
+                              .reason = std::string(place.reason),
+                              .command = std::string(place.details.command)});
+    return;
+  }
+  offer({.name = std::move(name),
+         .path = match.path,
+         .size = measure.bytes,
+         .modifiedDate = attributes->modified,
+         .identity = entryIdentity(*attributes),
+         .reason = std::string(place.reason),
+         .goesForGood = place.details.removal == Removal::outright,
+         .closeFirst = runningUser(place, match)},
+        measure, category);
+}
+
+void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& category) {
+  if (const std::string why = obstacle(item.path, measure); !why.empty()) {
+    category.hints.push_back({.name = std::move(item.name),
+                              .path = std::move(item.path),
+                              .size = item.size,
+                              .reason = why,
+                              .command = {}});
+    return;
+  }
+  _taken.insert(item.path.native() + "/");
+  category.items.push_back(std::move(item));
+  _report(category.items.back());
+}
+
+std::string PlaceScanner::obstacle(const Path& path, const Measure& measure) const {
+  const FileSystem& files = _platform.files;
+  const auto scope = DeletionScope::general();
+  if (const auto refusal = DeletionGuard::refusalReason(path, scope, files.folders(), _layout)) {
+    return *refusal;
+  }
+  const auto real = files.realPath(path);
+  if (!real) return "The folder that it lies in cannot be opened.";
+  if (*real != path && !mayRemoveReal(files, *real, scope)) {
+    return "It really lies at " + real->native() + ", which Klarvik leaves alone.";
+  }
+  if (!measure.isOwn) return "Some of it belongs to another user, so that it cannot be moved.";
+  if (measure.holdsReadOnlyFolder) {
+    return "Some of its folders are read-only: the Trash could not be emptied of them again.";
+  }
+  return {};
+}
+
+std::string PlaceScanner::runningUser(const Place& place, const Match& match) const {
+  const std::string_view program = place.details.closedFirst;
+  if (program.empty()) return {};
+  if (program == "*") {
+    const std::string& application = match.stars.front();
+    return _platform.programs.isSandboxRunning(application) ? application : "";
+  }
+  const auto known = std::ranges::find(_layout.programs, program, &ProgramName::program);
+  const std::string_view name = known != _layout.programs.end() ? known->name : program;
+  // One program may go by several names.
+  const auto isItRunning = [&](const ProgramName& each) {
+    return each.name == name && _platform.programs.isRunning(each.program);
+  };
+  const bool isRunning =
+      _platform.programs.isRunning(program) || std::ranges::any_of(_layout.programs, isItRunning);
+  return isRunning ? std::string(name) : "";
+}
+
+bool PlaceScanner::overlapsAnItem(const Path& path) const {
+  const std::string folder = path.native() + "/";
+  // The taken ones in this folder come right after it in the order of the texts.
+  const auto after = _taken.lower_bound(folder);
+  if (after != _taken.end() && after->starts_with(folder)) return true;
+  for (Path above = path; above.has_relative_path(); above = above.parent_path()) {
+    if (_taken.contains(above.native() + "/")) return true;
+  }
+  return false;
+}
+
+bool isStillOffered(const Platform& platform, const Path& path) {
+  const FileSystem& files = platform.files;
+  const DiskLayout& layout = layoutFor(files.home());
+  if (!layout.guard.onlyListedPlaces) return true;
+  const Catalogue catalogue(layout, files.folders());
+  const Path below = path.lexically_relative(files.home());
+  const bool inHome = !below.empty() && *below.begin() != "..";
+  const std::string text = inHome ? below.native() : path.native();
+  const auto pieces = pathPieces(text);
+  const auto places = catalogue.placesOf(pieces, inHome);
+  if (places.empty()) return artifactAt(files, layout, path) != nullptr;
+  return std::ranges::any_of(places, [&](const Place* place) {
+    if (place->details.condition == Condition::none) return true;
+    const auto base = catalogue.folder(place->base).value_or("");
+    const PatternMatch match = matchPattern(pieces, {base, place->pattern});
+    return conditionHolds(platform, catalogue, *place, path, match.stars, measureWhole(files, path),
+                          std::chrono::system_clock::now());
+  });
+}
+
+}  // namespace klarvik

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <set>
+#include <stop_token>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/catalogue.h"
+#include "core/junk_model.h"
+#include "engine/place_conditions.h"
+#include "platform/platform.h"
+
+namespace klarvik {
+
+/// Finds what the tables of a layout name. Only what the guard would let go, where it is named and
+/// where it really lies, becomes an item; what is there and cannot be removed becomes a hint.
+///
+/// Lives for one scan, on its thread. No thing is part of two items, whatever the rows.
+class PlaceScanner {
+ public:
+  using ItemReport = std::function<void(const JunkItem&)>;
+
+  /// Tells each item to `report` as soon as it is found.
+  PlaceScanner(const Platform& platform, std::stop_token stop, ItemReport report);
+
+  /// The items of one category by its rows, largest first.
+  [[nodiscard]] CleanCategory find(CategoryType type);
+  /// What builds have left in the projects of the home.
+  [[nodiscard]] CleanCategory findArtifacts();
+
+ private:
+  /// A thing that a pattern stands for.
+  struct Match {
+    Path path;
+    std::vector<std::string> stars{};  ///< the names that its "*" stand for
+    Path inside{};  ///< the part of the path below the pattern, where only parts of it are meant
+  };
+
+  [[nodiscard]] std::vector<Match> matches(const Place& place) const;
+  [[nodiscard]] std::vector<Match> expanded(std::vector<Match> starts,
+                                            std::string_view pattern) const;
+  [[nodiscard]] bool isElsewhere(const Path& path) const;
+  [[nodiscard]] static std::string nameOf(const Place& place, const Match& match);
+  [[nodiscard]] bool isExcepted(const Place& place, const Match& match) const;
+  void look(const Place& place, const Match& match, CleanCategory& category);
+  void offer(JunkItem item, const Measure& measure, CleanCategory& category);
+  [[nodiscard]] std::string obstacle(const Path& path, const Measure& measure) const;
+  [[nodiscard]] std::string runningUser(const Place& place, const Match& match) const;
+  [[nodiscard]] bool overlapsAnItem(const Path& path) const;
+
+  const Platform& _platform;
+  const DiskLayout& _layout;
+  const Catalogue _catalogue;
+  const std::stop_token _stop;
+  const ItemReport _report;
+  const Date _now;
+  std::set<std::string> _taken;  ///< paths of items, each with a slash at its end
+};
+
+/// Whether what a scan found at `path` is still what it was offered as: its marker and its
+/// condition are looked at again. True for what no table puts under a condition. Asked right before
+/// a removal.
+[[nodiscard]] bool isStillOffered(const Platform& platform, const Path& path);
+
+}  // namespace klarvik

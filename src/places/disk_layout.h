@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "places/analysis_pass.h"
+#include "places/category_type.h"
+#include "places/guard_rules.h"
+#include "places/place.h"
+#include "places/storage_share.h"
+#include "places/system_data_sub_category.h"
+#include "places/words.h"
+#include "platform/path.h"
+
+namespace klarvik {
+
+/// One step of a Smart Scan.
+struct ScanRow {
+  std::string_view name;  ///< what the user reads while it runs
+  double fraction;        ///< of the whole scan, told when the step begins
+  CategoryType type;
+  bool isForDevelopers = false;  ///< left out where the user does not want them
+};
+
+/// How a program is called that has to be closed first.
+struct ProgramName {
+  std::string_view program;
+  std::string_view name;
+};
+
+/// Everything that one system's disks have in common: what lies where, what may go, and how things
+/// are called. The same object for the whole run of the program; any thread.
+struct DiskLayout {
+  std::span<const ScanRow> scanRows;  ///< in the order in which they run
+  std::span<const Place> places;      ///< empty where the scan rows have methods of their own
+  std::span<const ProjectArtifact> artifacts;
+  std::int64_t artifactsAbove;  ///< bytes; what takes no more is not listed
+  std::span<const std::string_view> notSearchedForProjects;  ///< names of folders in the home
+  std::span<const ProgramName> programs;
+  /// Whether a size is all that a removal gives back: hidden things and the contents of packages
+  /// too, and nothing of another volume.
+  bool sizesAreWhole;
+  bool desktopNamesFolders;  ///< whether the user's desktop says which folders are shown, and how
+  /// Below the home: where else than in the shown folders large files are looked for.
+  std::span<const std::string_view> moreLargeFileFolders;
+  bool allVisibleFoldersMayBeLarge;  ///< every other visible folder of the home is looked at too
+  std::span<const Pass> analysisPasses;         ///< of System Data, in the order in which they run
+  std::span<const StorageShare> storageShares;  ///< in the order in which they are measured
+  const GuardRules& guard;
+  const Words& words;
+  /// In the order of the kinds; empty where their own names and texts hold.
+  std::span<const SystemDataWords> systemData;
+  /// Files that only a program with Full Disk Access can open, below the home unless absolute; none
+  /// where there is no such permission.
+  std::span<const std::string_view> protectedFiles;
+  /// Whether the blocks that no ordinary user may write count as used.
+  bool keptBlocksAreUsed;
+
+  /// What the user reads; `rawValue` where the layout has no other word.
+  [[nodiscard]] std::string_view label(CategoryType type) const;
+  /// Whether the user is asked for Full Disk Access, and reads of it.
+  [[nodiscard]] bool asksForFullDiskAccess() const { return !protectedFiles.empty(); }
+};
+
+/// A home below "/Users" lies on a Mac's disk, every other one on a Linux disk. Only the text of
+/// the path counts.
+[[nodiscard]] const DiskLayout& layoutFor(const Path& home);
+
+}  // namespace klarvik

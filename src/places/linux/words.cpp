@@ -1,0 +1,53 @@
+#include "places/linux/linux_layout.h"
+
+namespace klarvik::linux_disk {
+
+const Words words{
+    .systemAndEverythingElse = "The system and everything else",
+    .unnamedVolume = "System",
+    .fateOfSelection = "",
+    .unnamedHomeVolume = "Home",
+    .systemLine = "%1",
+
+    .showInFileManager = "Show in File Manager",
+    .openTrash = "Open the Trash in your file manager",
+    .trashUnreadable = "Cannot be read",
+    .trashUnreadableInTray = "Trash · cannot be read",
+
+    .welcomeTitle = "Klarvik finds what file managers hide",
+    .welcomeText =
+        "App caches, package downloads, browser leftovers, logs and the residue apps leave behind "
+        "when you delete them.",
+    .nothingLeaves = "Nothing leaves this computer. No account, no telemetry.",
+    .keepInTray = "Keep Klarvik in the system tray",
+
+    .launchAtLoginUnavailable = "Unavailable until Klarvik is installed.",
+    .showInTray = "Show in the system tray",
+    .includeDeveloperCaches = "Include developer caches (builds, packages, containers)",
+
+    .reviewItemsAreSelected =
+        "Review items are things you might want back — build results, toolchains, what removed "
+        "apps left behind. What goes to the Trash can be restored until you empty it.\n\nTurn this "
+        "warning off in Settings → General.",
+    .walkingForLargeFiles =
+        "Walking the visible folders of your home. Photo and music libraries are skipped.",
+    .systemDataUnanalysed =
+        "Not analysed yet. Your file manager will not say what is in these folders. Klarvik will.",
+    .systemDataAnalysed =
+        "What apps, packages and the system itself keep out of sight. %1 of it can go.",
+    .systemDataHelp = "%1 Klarvik can remove from the folders that apps keep out of sight",
+    .itemsOfProtectedKind = "%1 · left alone",
+    .analysisFindsSafe = "Package downloads, crash reports and other caches",
+    .analysisFindsSnapshots = "Snapshots, app data, toolchains",
+    .analysisFindsProtected = "Swap, cloud folders, the installed system",
+    .readingApplications = "Reading the installed apps…",
+    .noApplications = "Klarvik does not list the apps of a Linux disk yet.",
+    .applicationsListed = "%1 apps · deleting one leaves its support files behind",
+    .applicationColumn = "APP",
+    .trailsUnread = "Rescan to see what this computer has recorded.",
+    .browserTrails = "BROWSERS",
+    .recentTrails = "RECENT FILES",
+    .downloadOrigins = "Origin of downloads",
+};
+
+}  // namespace klarvik::linux_disk

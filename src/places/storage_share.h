@@ -1,0 +1,22 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "places/rgb_color.h"
+#include "platform/user_folders.h"
+
+namespace klarvik {
+
+/// A share of the disk in the coarse terms that a person thinks in.
+struct StorageShare {
+  std::string_view id;
+  std::string_view label;
+  RgbColor color;
+  /// Below the home unless absolute. What several places take together has no folder to open.
+  std::span<const std::string_view> places{};
+  /// One of the folders that the user sees, in the place of `places`.
+  Path UserFolders::*shown = nullptr;
+};
+
+}  // namespace klarvik

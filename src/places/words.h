@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace klarvik {
+
+/// The texts of the windows that name a system or a part of it: whole sentences, never put together
+/// from words. "%1" stands for what `filledIn` puts there.
+struct Words {
+  // The disk.
+  std::string_view systemAndEverythingElse;  ///< the share of the disk that no folder explains
+  std::string_view unnamedVolume;            ///< for a volume without a label
+  std::string_view
+      fateOfSelection;  ///< what becomes of selected junk; empty where that is told anew
+  std::string_view unnamedHomeVolume;  ///< the same, where only the home lies on it
+  std::string_view systemLine;         ///< "%1": name and version, as the system tells them
+
+  // The file manager and the Trash.
+  std::string_view showInFileManager;
+  std::string_view openTrash;
+  std::string_view trashUnreadable;
+  std::string_view trashUnreadableInTray;
+
+  // The first run.
+  std::string_view welcomeTitle;
+  std::string_view welcomeText;
+  std::string_view nothingLeaves;
+  std::string_view keepInTray;
+
+  // The settings.
+  std::string_view launchAtLoginUnavailable;
+  std::string_view showInTray;
+  std::string_view includeDeveloperCaches;
+
+  // The sections.
+  std::string_view reviewItemsAreSelected;
+  std::string_view walkingForLargeFiles;
+  std::string_view systemDataUnanalysed;
+  std::string_view systemDataAnalysed;    ///< "%1": a size
+  std::string_view systemDataHelp;        ///< "%1": a size
+  std::string_view itemsOfProtectedKind;  ///< "%1": "3 items"
+  std::string_view analysisFindsSafe;
+  std::string_view analysisFindsSnapshots;
+  std::string_view analysisFindsProtected;
+  std::string_view readingApplications;
+  std::string_view noApplications;
+  std::string_view applicationsListed;  ///< "%1": a number
+  std::string_view applicationColumn;
+  std::string_view trailsUnread;
+  std::string_view browserTrails;
+  std::string_view recentTrails;
+  std::string_view downloadOrigins;
+};
+
+/// The sentence with `value` in the place of its "%1".
+[[nodiscard]] std::string filledIn(std::string_view sentence, std::string_view value);
+
+}  // namespace klarvik

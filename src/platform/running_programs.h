@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string_view>
+
+#include "platform/path.h"
+
+namespace klarvik {
+
+/// What this user's programs are doing right now. Each answer looks anew; any thread.
+class RunningPrograms {
+ public:
+  virtual ~RunningPrograms() = default;
+
+  /// Whether a process of this user is the program of that name: its executable, or the main class
+  /// of a Java program.
+  [[nodiscard]] virtual bool isRunning(std::string_view program) const = 0;
+  /// Whether the application with this identifier runs in a Flatpak or a snap.
+  [[nodiscard]] virtual bool isSandboxRunning(std::string_view application) const = 0;
+  /// Whether a process of this user has something open at or below `path`, a path on the machine.
+  [[nodiscard]] virtual bool hasOpen(const Path& path) const = 0;
+};
+
+}  // namespace klarvik

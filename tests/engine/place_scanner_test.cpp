@@ -1,0 +1,395 @@
+#include "engine/place_scanner.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "engine/scanner_engine.h"
+#include "platform/linux/linux_platform.h"
+#include "support/fake_running_programs.h"
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::size_t big = 10'500'000;
+constexpr std::size_t middling = 1'500'000;
+
+/// A Linux home on a disk of the machine.
+class LinuxDiskTest : public testing::Test {
+ protected:
+  [[nodiscard]] Path onDisk(const Path& place) const {
+    return disk.path() / (place.is_absolute() ? place : home / place).relative_path();
+  }
+
+  void file(const Path& place, std::size_t bytes = middling) const {
+    std::filesystem::create_directories(onDisk(place).parent_path());
+    std::ofstream(onDisk(place), std::ios::binary) << std::string(bytes, 'x');
+  }
+
+  void folder(const Path& place) const { std::filesystem::create_directories(onDisk(place)); }
+
+  void link(const Path& place, const Path& target) const {
+    std::filesystem::create_directories(onDisk(place).parent_path());
+    std::filesystem::create_symlink(target, onDisk(place));
+  }
+
+  /// The thing and all in it was last used so many days ago.
+  void age(const Path& place, int days) const {
+    const timespec then{.tv_sec = ::time(nullptr) - 86'400L * days, .tv_nsec = 0};
+    const std::array<timespec, 2> times{then, then};
+    ASSERT_EQ(::utimensat(AT_FDCWD, onDisk(place).c_str(), times.data(), AT_SYMLINK_NOFOLLOW), 0);
+  }
+
+  [[nodiscard]] Platform platform() {
+    const Platform system = machine.platform();
+    return {system.files,      system.trash, system.commands,        system.defaults, system.volume,
+            system.formatting, system.info,  system.recentDocuments, programs};
+  }
+
+  [[nodiscard]] CleanCategory find(CategoryType type) {
+    const Platform used = platform();
+    PlaceScanner scanner(used, {}, [](const JunkItem&) {});
+    return type == CategoryType::buildArtifacts ? scanner.findArtifacts() : scanner.find(type);
+  }
+
+  [[nodiscard]] std::vector<std::string> paths(CategoryType type) {
+    std::vector<std::string> found;
+    for (const JunkItem& item : find(type).items) {
+      found.push_back(
+          item.path
+              .lexically_relative(item.path.native().starts_with(home.native()) ? home : Path("/"))
+              .native());
+    }
+    std::ranges::sort(found);
+    return found;
+  }
+
+  const Path home = "/home/ann";
+  TemporaryFolder disk;
+  LinuxPlatform machine{disk.path(), home};
+  FakeRunningPrograms programs;
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(LinuxDiskTest, OffersAPlaceWithItsNameItsReasonAndAllThatItTakes) {
+  file(".npm/_cacache/index", big);
+  file(".npm/_cacache/.hidden/part", middling);
+  const CleanCategory found = find(CategoryType::packageCaches);
+  ASSERT_EQ(found.items.size(), 1U);
+  const JunkItem& item = found.items.front();
+  EXPECT_EQ(item.name, "npm");
+  EXPECT_EQ(item.reason, "npm downloads what it needs again.");
+  EXPECT_GE(item.size, static_cast<std::int64_t>(big + middling));
+  EXPECT_TRUE(item.identity.has_value());
+  EXPECT_FALSE(item.goesForGood);
+  EXPECT_EQ(item.closeFirst, "");
+}
+
+TEST_F(LinuxDiskTest, LeavesOutWhatIsTooSmallToBeWorthARow) {
+  file(".npm/_cacache/index", middling);
+  EXPECT_EQ(paths(CategoryType::packageCaches), Names{});
+}
+
+TEST_F(LinuxDiskTest, TakesUnknownCachesForLeftoversAndLeavesTheKeptOnesAlone) {
+  for (const char* name : {"unknown", "pip", "mozilla", "rclone", "nvim", "gnome-control-center",
+                           "fontconfig", "keepassxc", ".hidden"}) {
+    file(Path(".cache") / name / "data", big);
+  }
+  file(".cache/plain file", big);
+  link(".cache/linked", "unknown");
+  EXPECT_EQ(paths(CategoryType::systemData), Names{".cache/unknown"});
+  EXPECT_EQ(paths(CategoryType::packageCaches), Names{".cache/pip"});
+  EXPECT_EQ(paths(CategoryType::appCaches), Names{});
+}
+
+TEST_F(LinuxDiskTest, OffersOnlyTheNamedPartsOfAFolderThatHoldsMore) {
+  file(".config/Code/CachedData/x");
+  file(".config/Code/User/History/x");
+  file(".config/google-chrome/Profile 2/GPUCache/x");
+  file(".config/google-chrome/Profile 2/History");
+  EXPECT_EQ(paths(CategoryType::appCaches), Names{".config/Code/CachedData"});
+  EXPECT_EQ(paths(CategoryType::browserCaches), Names{".config/google-chrome/Profile 2/GPUCache"});
+}
+
+TEST_F(LinuxDiskTest, OffersNothingTwiceWhereRowsOverlap) {
+  file(".cache/JetBrains/IdeaIC2023.3/index/x", big);
+  file(".cache/JetBrains/IdeaIC2023.3/caches/x", big);
+  file(".cache/JetBrains/IdeaIC2024.1/index/x", big);
+  file(".cache/JetBrains/IdeaIC2024.1/caches/x", big);
+  const Platform used = platform();
+  PlaceScanner scanner(used, {}, [](const JunkItem&) {});
+  Names found;
+  for (const ScanRow& row : layoutFor(home).scanRows) {
+    for (const JunkItem& item : scanner.find(row.type).items) found.push_back(item.path);
+  }
+  std::ranges::sort(found);
+  EXPECT_EQ(found, (Names{"/home/ann/.cache/JetBrains/IdeaIC2023.3",
+                          "/home/ann/.cache/JetBrains/IdeaIC2024.1/caches",
+                          "/home/ann/.cache/JetBrains/IdeaIC2024.1/index"}));
+}
+
+TEST_F(LinuxDiskTest, SaysWhatToCloseFirst) {
+  file(".cache/mozilla/firefox/ab.default/x");
+  EXPECT_EQ(find(CategoryType::browserCaches).items.front().closeFirst, "");
+  for (const char* name : {"firefox", "firefox-esr"}) {
+    programs.running = {name};
+    EXPECT_EQ(find(CategoryType::browserCaches).items.front().closeFirst, "Firefox") << name;
+  }
+}
+
+TEST_F(LinuxDiskTest, AsksForTheApplicationWhoseFolderItIs) {
+  folder("/var/lib/flatpak/app/org.acme.Writer");
+  file(".var/app/org.acme.Writer/cache/x");
+  programs.running = {"org.acme.Writer"};
+  const auto found = find(CategoryType::appCaches);
+  ASSERT_EQ(found.items.size(), 1U);
+  EXPECT_EQ(found.items.front().closeFirst, "org.acme.Writer");
+}
+
+TEST_F(LinuxDiskTest, TakesTheDataOfAFlatpakForALeftoverOnlyWhenItIsGone) {
+  folder("/var/lib/flatpak/app/org.acme.Writer");
+  file(".var/app/org.acme.Writer/data/x", big);
+  file(".var/app/org.gone.App/data/x", big);
+  EXPECT_EQ(paths(CategoryType::systemData), Names{".var/app/org.gone.App"});
+  file("/etc/flatpak/installations.d/other.conf", 1);
+  EXPECT_EQ(paths(CategoryType::systemData), Names{});
+}
+
+TEST_F(LinuxDiskTest, TakesTheDataOfASnapForALeftoverOnlyWhenItIsKnownToBeGone) {
+  file("snap/gone/common/x", big);
+  file("snap/there/12/x", big);
+  file("snap/there/13/x", big);
+  EXPECT_EQ(paths(CategoryType::systemData), Names{});
+  file("/var/lib/snapd/snaps/there_13.snap", 1);
+  EXPECT_EQ(paths(CategoryType::systemData), (Names{"snap/gone", "snap/there/12"}));
+}
+
+TEST_F(LinuxDiskTest, TellsWhatOnlyItsOwnToolCanRemove) {
+  file("go/pkg/mod/x/file", big);
+  const CleanCategory found = find(CategoryType::packageCaches);
+  EXPECT_TRUE(found.items.empty());
+  ASSERT_EQ(found.hints.size(), 1U);
+  EXPECT_EQ(found.hints.front().command, "go clean -modcache");
+}
+
+TEST_F(LinuxDiskTest, TellsWhatLiesOutsideOfTheHomeThroughALink) {
+  file("/data/caches/pip/x", big);
+  link(".cache", disk.path() / "data/caches");
+  const CleanCategory found = find(CategoryType::packageCaches);
+  EXPECT_TRUE(found.items.empty());
+  ASSERT_EQ(found.hints.size(), 1U);
+  EXPECT_EQ(found.hints.front().reason,
+            "It really lies at /data/caches/pip, which Klarvik leaves alone.");
+}
+
+TEST_F(LinuxDiskTest, OffersWhatALinkInTheHomeLeadsTo) {
+  file(".my caches/pip/x", big);
+  link(".cache", ".my caches");
+  EXPECT_EQ(paths(CategoryType::packageCaches), Names{".cache/pip"});
+}
+
+TEST_F(LinuxDiskTest, OffersNothingOfALinkIntoWhatPeopleKeep) {
+  file("Documents/pip/x", big);
+  link(".cache", "Documents");
+  EXPECT_EQ(paths(CategoryType::packageCaches), Names{});
+}
+
+TEST_F(LinuxDiskTest, TellsAReadOnlyTreeInsteadOfFillingTheTrashForGood) {
+  file(".cache/pip/deep/er/x", big);
+  ASSERT_EQ(::chmod(onDisk(".cache/pip/deep/er").c_str(), 0555), 0);
+  const CleanCategory found = find(CategoryType::packageCaches);
+  EXPECT_TRUE(found.items.empty());
+  ASSERT_EQ(found.hints.size(), 1U);
+  EXPECT_EQ(found.hints.front().reason,
+            "Some of its folders are read-only: the Trash could not be emptied of them again.");
+  ASSERT_EQ(::chmod(onDisk(".cache/pip/deep/er").c_str(), 0755), 0);
+}
+
+TEST_F(LinuxDiskTest, PassesOverAPlaceThatIsAFileASocketOrALink) {
+  file(".cache/go-build", big);
+  folder(".cache/real");
+  file(".cache/real/x", big);
+  link(".cache/pip", "real");
+  link(".cache/yarn", "nowhere");
+  ASSERT_EQ(::mkfifo(onDisk(".cache/deno").c_str(), 0600), 0);
+  EXPECT_EQ(paths(CategoryType::packageCaches), Names{".cache/go-build"});
+}
+
+TEST_F(LinuxDiskTest, OffersOldTemporaryThingsOfTheUserForGood) {
+  for (const char* name : {"old", "fresh", "open", "ssh-agent", ".hidden"}) {
+    file(Path("/tmp") / name, middling);
+    if (std::string(name) != "fresh") age(Path("/tmp") / name, 11);
+  }
+  file("/tmp/folder/old", middling);
+  file("/tmp/folder/fresh", 1);
+  age("/tmp/folder/old", 11);
+  age("/tmp/folder", 11);
+  programs.open = {disk.path() / "tmp/open"};
+  const CleanCategory found = find(CategoryType::systemData);
+  ASSERT_EQ(found.items.size(), 1U);
+  EXPECT_EQ(found.items.front().path, "/tmp/old");
+  EXPECT_TRUE(found.items.front().goesForGood);
+}
+
+TEST_F(LinuxDiskTest, CountsAFileWithTwoNamesOnceAndNotAtAllWhenOneIsElsewhere) {
+  file(".cache/pip/one", big);
+  std::filesystem::create_hard_link(onDisk(".cache/pip/one"), onDisk(".cache/pip/two"));
+  file("elsewhere", big);
+  std::filesystem::create_hard_link(onDisk("elsewhere"), onDisk(".cache/pip/three"));
+  const CleanCategory found = find(CategoryType::packageCaches);
+  ASSERT_EQ(found.items.size(), 1U);
+  EXPECT_LT(found.items.front().size, static_cast<std::int64_t>(2 * big));
+}
+
+TEST_F(LinuxDiskTest, OffersAMenuEntryWhoseProgramIsGone) {
+  const auto entry = [&](const Path& name, const std::string& text) {
+    file(Path(".local/share/applications") / name, 0);
+    std::ofstream(onDisk(Path(".local/share/applications") / name))
+        << "[Desktop Entry]\nType=Application\n"
+        << text;
+  };
+  file("/opt/there/bin", 1);
+  entry("gone.desktop", "Exec=/opt/gone/bin %U\n");
+  entry("there.desktop", "Exec=/opt/there/bin %U\n");
+  entry("by name.desktop", "Exec=gone\n");
+  entry("unplugged.desktop", "Exec=/media/ann/disk/bin\n");
+  entry("flatpak.desktop", "Exec=/usr/bin/flatpak run x\nX-Flatpak=x\n");
+  EXPECT_EQ(paths(CategoryType::systemData), Names{".local/share/applications/gone.desktop"});
+}
+
+TEST_F(LinuxDiskTest, FindsNothingInAHomeOfSecretsAndOwnThings) {
+  const DiskLayout& layout = layoutFor(home);
+  const Catalogue catalogue(layout, UserFolders::in(home));
+  for (const auto& table : {layout.guard.secrets, layout.guard.ownPlaces}) {
+    for (const auto& [base, pattern] : table) {
+      std::string text(catalogue.folder(base).value_or(""));
+      text += "/";
+      text += pattern;
+      std::ranges::replace(text, '*', 'x');
+      file(Path(text).relative_path() / "own/file.db", big / 8);
+    }
+  }
+  for (const char* name : {"Documents", "Pictures", "Dokumente", "Music/target", "Videos/build"}) {
+    file(Path(name) / "own.tex", big);
+  }
+  ScannerEngine engine(machine.platform());
+  for (const CleanCategory& category : engine.scanAll({}, {}, {})) {
+    for (const JunkItem& item : category.items) ADD_FAILURE() << item.path;
+  }
+}
+
+TEST_F(LinuxDiskTest, ACleanTakesWhatTheScanPromisedAndLeavesTheRest) {
+  file(".npm/_cacache/index", big);
+  file(".cache/mozilla/firefox/ab.default/x");
+  file(".local/share/Trash/files/old", middling);
+  file(".local/share/Trash/info/old.trashinfo", 0);
+  file(".ssh/id_ed25519", 100);
+  file("Documents/letter", middling);
+  ScannerEngine engine(machine.platform());
+  std::vector<JunkItem> items;
+  std::int64_t promised = 0;
+  for (const CleanCategory& category : engine.scanAll({}, {}, {})) {
+    promised += category.totalSize();
+    items.insert(items.end(), category.items.begin(), category.items.end());
+  }
+  EXPECT_EQ(items.size(), 3U);
+  std::int64_t freed = 0;
+  for (const DeletionOutcome& outcome : engine.deleteItems(items, /*useTrash=*/true)) {
+    freed += outcome.reclaimed;
+  }
+  EXPECT_EQ(freed, promised);
+  EXPECT_FALSE(std::filesystem::exists(onDisk(".npm/_cacache")));
+  EXPECT_FALSE(std::filesystem::exists(onDisk(".local/share/Trash/files/old")));
+  EXPECT_TRUE(std::filesystem::exists(onDisk(".local/share/Trash/files/_cacache/index")));
+  EXPECT_TRUE(std::filesystem::exists(onDisk(".ssh/id_ed25519")));
+  EXPECT_TRUE(std::filesystem::exists(onDisk("Documents/letter")));
+}
+
+TEST_F(LinuxDiskTest, AThingUnderAConditionStaysWhenTheConditionHasPassed) {
+  file("/tmp/old", middling);
+  age("/tmp/old", 11);
+  const Platform used = platform();
+  EXPECT_TRUE(isStillOffered(used, "/tmp/old"));
+  age("/tmp/old", 1);
+  EXPECT_FALSE(isStillOffered(used, "/tmp/old"));
+}
+
+TEST_F(LinuxDiskTest, OffersWhatABuildLeftBesideItsMarker) {
+  file("Projects/app/package.json", 1);
+  file("Projects/app/node_modules/.bin/x", big);
+  file("Projects/app/packages/part/package.json", 1);
+  file("Projects/app/packages/part/node_modules/x", big);
+  file("rust/tool/Cargo.toml", 1);
+  file("rust/tool/target/CACHEDIR.TAG", 1);
+  file("rust/tool/target/debug/x", big);
+  EXPECT_EQ(paths(CategoryType::buildArtifacts),
+            (Names{"Projects/app/node_modules", "Projects/app/packages/part/node_modules",
+                   "rust/tool/target"}));
+  Names names;
+  for (const JunkItem& item : find(CategoryType::buildArtifacts).items) names.push_back(item.name);
+  std::ranges::sort(names);
+  EXPECT_EQ(names, (Names{"app/node_modules", "part/node_modules", "tool/target"}));
+}
+
+TEST_F(LinuxDiskTest, TakesNoFolderForAnArtifactThatMayBeSomethingElse) {
+  file("Thesis/build/thesis.tex", big);
+  file("Shots/target/photo.jpg", big);
+  file("x/node_modules/x", big);  // no marker
+  file("y/CMakeLists.txt", 1);
+  file("y/out/x", big);  // no mark inside
+  file("z/package.json", 1);
+  file("z/node_modules/.git/HEAD", big);  // a repository
+  file("w/Cargo.toml", 1);
+  file("w/target/CACHEDIR.TAG", 1);
+  file("w/target/inner/x", big);
+  file("w/target/package.json", 1);  // a project of its own
+  file(".hidden/app/package.json", 1);
+  file(".hidden/app/node_modules/x", big);
+  file("go/src/app/package.json", 1);
+  file("go/src/app/node_modules/x", big);
+  file("package.json", 1);
+  file("node_modules/x", big);
+  file("t/main.tf", 1);
+  file("t/.terraform/terraform.tfstate", big);
+  EXPECT_EQ(paths(CategoryType::buildArtifacts), Names{});
+}
+
+TEST_F(LinuxDiskTest, TakesAFolderWithAYoungerDocumentForNoArtifact) {
+  file("app/package.json", 1);
+  age("app/package.json", 5);
+  file("app/.next/notes.docx", 1);
+  file("app/.next/x", big);
+  EXPECT_EQ(paths(CategoryType::buildArtifacts), Names{});
+  age("app/.next/notes.docx", 6);
+  EXPECT_EQ(paths(CategoryType::buildArtifacts), Names{"app/.next"});
+}
+
+TEST_F(LinuxDiskTest, AnArtifactStaysWhenItsMarkerHasGone) {
+  file("app/package.json", 1);
+  file("app/node_modules/x", big);
+  ScannerEngine engine(machine.platform());
+  const CleanCategory found = find(CategoryType::buildArtifacts);
+  ASSERT_EQ(found.items.size(), 1U);
+  std::filesystem::remove(onDisk("app/package.json"));
+  EXPECT_EQ(engine.deleteItem(found.items.front(), true).reclaimed, 0);
+  EXPECT_TRUE(std::filesystem::exists(onDisk("app/node_modules/x")));
+}
+
+TEST_F(LinuxDiskTest, AMacsFoldersInALinuxHomeGiveNoRow) {
+  file("Library/Caches/com.acme.writer/x", big);
+  file("Library/Developer/Xcode/DerivedData/x", big);
+  file("Library/Logs/x", big);
+  ScannerEngine engine(machine.platform());
+  EXPECT_TRUE(engine.scanAll({}, {}, {}).empty());
+}
+
+}  // namespace
+}  // namespace klarvik

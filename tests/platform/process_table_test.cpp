@@ -1,0 +1,92 @@
+#include "platform/linux/process_table.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <string>
+
+#include "support/temporary_folder.h"
+
+namespace klarvik {
+namespace {
+
+/// What the kernel would show of a process of this user.
+void addProcess(const TemporaryFolder& table, const Path& number, const std::string& name,
+                std::string words, const std::string& groups = "") {
+  table.makeFile("/" / number / "comm", name + "\n");
+  table.makeFile("/" / number / "cmdline", std::string_view(words));
+  table.makeFile("/" / number / "cgroup", groups);
+}
+
+TEST(ProcessTable, KnowsAProgramByItsNameItsFileAndItsMainClass) {
+  const TemporaryFolder table;
+  addProcess(table, "10", "firefox", {"/usr/lib/firefox/firefox\0--new-window\0", 38});
+  addProcess(table, "11", "GPU Process", {"/opt/vivaldi/vivaldi-bin\0", 25});
+  addProcess(table, "12", "java",
+             {"/usr/bin/java\0-Xmx1g\0org.gradle.launcher.GradleDaemon\0", 54});
+  addProcess(table, "13", "gnome-terminal-", {"/usr/libexec/gnome-terminal-server\0", 36});
+  addProcess(table, "14", "vim", {"vim\0steam\0", 10});
+  const ProcessTable programs(table.path());
+  for (const char* name :
+       {"firefox", "vivaldi-bin", "java", "GradleDaemon", "gnome-terminal-server"}) {
+    EXPECT_TRUE(programs.isRunning(name)) << name;
+  }
+  for (const char* name : {"chrome", "fire", "fox", "steam", "GPU", "bin"}) {
+    EXPECT_FALSE(programs.isRunning(name)) << name;
+  }
+}
+
+TEST(ProcessTable, KnowsAnApplicationInItsSandbox) {
+  const TemporaryFolder table;
+  addProcess(table, "10", "writer", "writer",
+             "0::/user.slice/app-flatpak-org.acme.Writer-1234.scope\n");
+  addProcess(table, "11", "spotify", "spotify", "0::/user.slice/snap.spotify.spotify-12.scope\n");
+  const ProcessTable programs(table.path());
+  EXPECT_TRUE(programs.isSandboxRunning("org.acme.Writer"));
+  EXPECT_TRUE(programs.isSandboxRunning("spotify"));
+  EXPECT_FALSE(programs.isSandboxRunning("org.acme"));
+  EXPECT_FALSE(programs.isSandboxRunning("spot"));
+}
+
+TEST(ProcessTable, KnowsWhatARealProcessIsAndHasOpen) {
+  const TemporaryFolder folder;
+  folder.makeFile("/open/file", 1);
+  folder.makeFile("/other/file", 1);
+  std::array<int, 2> ready{};
+  std::array<int, 2> silence{};
+  ASSERT_EQ(::pipe(ready.data()), 0);
+  ASSERT_EQ(::pipe(silence.data()), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const std::string file = folder.onDisk("/open/file");
+    ::dup2(ready[1], STDOUT_FILENO);
+    ::dup2(silence[0], STDIN_FILENO);
+    ::execl("/bin/sh", "klarvik-test-shell", "-c", "exec 9<\"$1\"; echo; read never", "sh",
+            file.c_str(), nullptr);
+    ::_exit(1);
+  }
+  ::close(ready[1]);
+  char byte = 0;
+  ASSERT_EQ(::read(ready[0], &byte, 1), 1);
+  const ProcessTable programs;
+  EXPECT_TRUE(programs.isRunning("klarvik-test-shell"));
+  EXPECT_TRUE(programs.hasOpen(folder.onDisk("/open/file")));
+  EXPECT_TRUE(programs.hasOpen(folder.onDisk("/open")));
+  EXPECT_FALSE(programs.hasOpen(folder.onDisk("/other")));
+  EXPECT_FALSE(programs.hasOpen(folder.onDisk("/ope")));
+  ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+  EXPECT_FALSE(programs.isRunning("klarvik-test-shell"));
+}
+
+TEST(ProcessTable, KnowsNothingWhereThereIsNoTable) {
+  const ProcessTable programs("/nowhere/at/all");
+  EXPECT_FALSE(programs.isRunning("firefox"));
+  EXPECT_FALSE(programs.hasOpen("/tmp"));
+}
+
+}  // namespace
+}  // namespace klarvik

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "platform/path.h"
+#include "platform/running_programs.h"
+
+namespace klarvik {
+
+/// Says of the programs that a test names that they run, and of the paths that they are open.
+class FakeRunningPrograms final : public RunningPrograms {
+ public:
+  [[nodiscard]] bool isRunning(std::string_view program) const override {
+    return running.contains(std::string(program));
+  }
+  [[nodiscard]] bool isSandboxRunning(std::string_view application) const override {
+    return running.contains(std::string(application));
+  }
+  [[nodiscard]] bool hasOpen(const Path& path) const override { return open.contains(path); }
+
+  std::set<std::string> running;
+  std::set<Path> open;
+};
+
+}  // namespace klarvik
