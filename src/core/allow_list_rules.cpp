@@ -41,6 +41,10 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
   }
 
   if (!catalogue.placesOf(path, /*inHome=*/true).empty()) return allowed;
+  // What waits in the Trash was put there to go, wherever the user keeps the Trash.
+  const Path trash =
+      question.folders.data.lexically_relative(question.folders.home) / "Trash/files";
+  if (isBelow(relative, trash.lexically_normal().native())) return allowed;
   if (const auto own = catalogue.ownPlaceOf(path)) {
     return refuse("~/", *own, " holds your own files, not junk.");
   }

@@ -49,15 +49,15 @@ DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
   const Path named = standardizedPath(item.path);
   const auto scope = DeletionScope::general();
   DeletionOutcome outcome{.originalURL = item.path};
-  if (!mayRemove(_platform.files, named, scope) || !isStillOffered(_platform, named)) {
-    return outcome;
-  }
+  const bool isInTrash = _platform.trash.contains(named);
+  if (!mayRemove(_platform.files, named, scope)) return outcome;
+  if (!isInTrash && !isStillOffered(_platform, named)) return outcome;
 
   const ItemCheck check = itemCheck(_platform.files, named, scope, item.identity);
   bool removed = false;
   if (isSnapshotPath(named)) {
     removed = removeSnapshot(_platform.commands, named);
-  } else if (_platform.trash.contains(named)) {
+  } else if (isInTrash) {
     removed = _platform.trash.remove(named, check);
   } else if (!useTrash || item.goesForGood) {
     removed = _platform.files.remove(named, check);

@@ -40,6 +40,20 @@ TEST(AllowListRules, LetGoOnlyWhatATableNames) {
   }
 }
 
+TEST(AllowListRules, LetGoWhatWaitsInTheTrashWhereverThatIs) {
+  for (const Path data : {"/home/ann/.local/share", "/home/ann/data", "/home/ann/.my data"}) {
+    UserFolders folders = UserFolders::in(ann);
+    folders.data = data;
+    const auto answer = [&](const Path& path) {
+      return DeletionGuard::refusalReason(path, general, folders, layoutFor(ann));
+    };
+    EXPECT_EQ(answer(data / "Trash/files/letter"), allowed) << data;
+    EXPECT_EQ(answer(data / "Trash/files/.venv/x"), allowed) << data;
+    EXPECT_NE(answer(data / "Trash/files"), allowed) << data;
+    EXPECT_NE(answer(data / "Trash/info/letter.trashinfo"), allowed) << data;
+  }
+}
+
 TEST(AllowListRules, KeepWhatPeopleKeep) {
   EXPECT_EQ(ask("/home/ann/.config/Code/User/settings.json"),
             "~/.config holds your own files, not junk.");

@@ -13,6 +13,7 @@
 #include "engine/scanner_engine.h"
 #include "platform/linux/linux_platform.h"
 #include "support/fake_running_programs.h"
+#include "support/private_mounts.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -221,6 +222,22 @@ TEST_F(LinuxDiskTest, PassesOverAPlaceThatIsAFileASocketOrALink) {
   link(".cache/yarn", "nowhere");
   ASSERT_EQ(::mkfifo(onDisk(".cache/deno").c_str(), 0600), 0);
   EXPECT_EQ(paths(CategoryType::packageCaches), Names{".cache/go-build"});
+}
+
+TEST_F(LinuxDiskTest, LeavesAnotherVolumeAlone) {
+  folder(".cache/pip");
+  folder(".cache/unknown/mounted");
+  file(".cache/unknown/own", big);
+  EXPECT_TRUE(passesWithPrivateMounts([&] {
+    mountTmpfs(onDisk(".cache/pip"));
+    mountTmpfs(onDisk(".cache/unknown/mounted"));
+    file(".cache/pip/far", big);
+    file(".cache/unknown/mounted/far", big);
+    EXPECT_EQ(paths(CategoryType::packageCaches), Names{});
+    const CleanCategory found = find(CategoryType::systemData);
+    ASSERT_EQ(found.items.size(), 1U);
+    EXPECT_LT(found.items.front().size, static_cast<std::int64_t>(2 * big));
+  }));
 }
 
 TEST_F(LinuxDiskTest, OffersOldTemporaryThingsOfTheUserForGood) {
