@@ -5,11 +5,13 @@
 #include <string_view>
 
 #include "places/analysis_pass.h"
+#include "places/application_places.h"
 #include "places/category_type.h"
 #include "places/guard_rules.h"
 #include "places/place.h"
 #include "places/storage_share.h"
 #include "places/system_data_sub_category.h"
+#include "places/trail_places.h"
 #include "places/words.h"
 #include "platform/path.h"
 
@@ -47,6 +49,8 @@ struct DiskLayout {
   bool allVisibleFoldersMayBeLarge;  ///< every other visible folder of the home is looked at too
   std::span<const Pass> analysisPasses;         ///< of System Data, in the order in which they run
   std::span<const StorageShare> storageShares;  ///< in the order in which they are measured
+  const TrailPlaces& trails;
+  const ApplicationPlaces& applications;
   const GuardRules& guard;
   const Words& words;
   /// In the order of the kinds; empty where their own names and texts hold.

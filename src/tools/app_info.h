@@ -10,22 +10,11 @@
 #include <vector>
 
 #include "core/uuid.h"
+#include "places/application_places.h"
 #include "platform/entry_identity.h"
 #include "platform/path.h"
 
 namespace klarvik {
-
-/// What a leftover of an application is, by the Library folder it lies in.
-enum class ResidualCategory {
-  preferences,
-  caches,
-  appSupport,
-  logs,
-  containers,
-  savedState,
-  cookies,
-  other,
-};
 
 inline constexpr std::size_t residualCategoryCount = 8;
 [[nodiscard]] const std::array<ResidualCategory, residualCategoryCount>& allResidualCategories();

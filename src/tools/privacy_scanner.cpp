@@ -6,6 +6,7 @@
 
 #include "core/junk_model.h"
 #include "core/removal_check.h"
+#include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/pasteboard.h"
 #include "platform/recent_documents.h"
@@ -15,33 +16,6 @@ namespace klarvik {
 
 namespace {
 
-// All paths are relative to the home. Some of them are folders, which as files measure nothing.
-constexpr std::string_view recentLists = "Library/Application Support/com.apple.sharedfilelist";
-constexpr std::string_view dockPreferences = "Library/Preferences/com.apple.dock.plist";
-constexpr std::string_view quarantineDatabase =
-    "Library/Preferences/com.apple.LaunchServices.QuarantineEventsV2";
-constexpr std::string_view firefoxProfiles = "Library/Application Support/Firefox/Profiles";
-
-constexpr std::array<std::string_view, 4> historyFiles{
-    "Library/Application Support/Google/Chrome/Default/History", "Library/Safari/History.db",
-    firefoxProfiles, recentLists};
-
-constexpr std::array<std::string_view, 3> cookieFiles{
-    "Library/Application Support/Google/Chrome/Default/Cookies", "Library/Cookies",
-    firefoxProfiles};
-
-constexpr std::array<std::string_view, 4> browserCaches{
-    "Library/Caches/Google/Chrome", "Library/Caches/com.apple.Safari",
-    "Library/Caches/com.google.Chrome", "Library/Caches/Firefox"};
-
-constexpr std::array<std::string_view, 2> downloadRecords{
-    quarantineDatabase,
-    "Library/Application Support/com.apple.sharedfilelist/"
-    "com.apple.LSSharedFileList.RecentDownloads.sfl2"};
-
-constexpr std::array<std::string_view, 2> locationCaches{"Library/Caches/com.apple.locationd",
-                                                         "Library/Caches/locationd"};
-
 using Places = std::span<const std::string_view>;
 using Measure = std::int64_t (*)(const FileSystem&, const Path&);
 
@@ -49,6 +23,10 @@ std::int64_t folderSize(const FileSystem& files, const Path& path) {
   const auto attributes = files.attributes(path);
   const bool isFolder = attributes && attributes->kind == FileKind::directory;
   return isFolder ? contentSize(files, path) : 0;
+}
+
+const TrailPlaces& trails(const FileSystem& files) {
+  return layoutFor(files.home()).trails;
 }
 
 std::int64_t sum(const FileSystem& files, Places places, Measure measure) {
@@ -70,7 +48,7 @@ Found trailOf(PrivacyCategory category, std::string name, std::int64_t size) {
 Found fileTrail(const FileSystem& files, PrivacyCategory category, std::string name,
                 std::string_view place) {
   const Path path = files.home() / place;
-  if (!files.exists(path)) return std::nullopt;
+  if (place.empty() || !files.exists(path)) return std::nullopt;
   const auto identity = entryIdentity(files, path);
   return PrivacyItem{.category = category,
                      .name = std::move(name),
@@ -81,17 +59,17 @@ Found fileTrail(const FileSystem& files, PrivacyCategory category, std::string n
 
 Found history(const FileSystem& files, Pasteboard&) {
   return trailOf(PrivacyCategory::browserHistory, "Browser History",
-                 sum(files, historyFiles, fileSize));
+                 sum(files, trails(files).histories, fileSize));
 }
 
 Found cookies(const FileSystem& files, Pasteboard&) {
   return trailOf(PrivacyCategory::browserCookies, "Browser Cookies",
-                 sum(files, cookieFiles, fileSize));
+                 sum(files, trails(files).cookies, fileSize));
 }
 
 Found browserCache(const FileSystem& files, Pasteboard&) {
   return trailOf(PrivacyCategory::browserCache, "Browser Cache",
-                 sum(files, browserCaches, folderSize));
+                 sum(files, trails(files).browserCaches, folderSize));
 }
 
 std::int64_t listCount(const FileSystem& files, const Path& folder) {
@@ -102,8 +80,8 @@ std::int64_t listCount(const FileSystem& files, const Path& folder) {
 }
 
 Found recentFiles(const FileSystem& files, Pasteboard&) {
-  const Path folder = files.home() / recentLists;
-  if (!files.exists(folder)) return std::nullopt;
+  const Path folder = files.home() / trails(files).recentLists;
+  if (trails(files).recentLists.empty() || !files.exists(folder)) return std::nullopt;
   return PrivacyItem{.category = PrivacyCategory::recentFiles,
                      .name = "Recent Files Lists",
                      .path = folder,
@@ -112,12 +90,13 @@ Found recentFiles(const FileSystem& files, Pasteboard&) {
 }
 
 Found recentApps(const FileSystem& files, Pasteboard&) {
-  return fileTrail(files, PrivacyCategory::recentApps, "Recent Apps (Dock)", dockPreferences);
+  return fileTrail(files, PrivacyCategory::recentApps, "Recent Apps (Dock)",
+                   trails(files).recentApplications);
 }
 
 Found downloads(const FileSystem& files, Pasteboard&) {
   return trailOf(PrivacyCategory::downloadsList, "Downloads History",
-                 sum(files, downloadRecords, fileSize));
+                 sum(files, trails(files).downloads, fileSize));
 }
 
 Found clipboard(const FileSystem&, Pasteboard& pasteboard) {
@@ -127,21 +106,22 @@ Found clipboard(const FileSystem&, Pasteboard& pasteboard) {
 }
 
 Found quarantine(const FileSystem& files, Pasteboard&) {
-  return fileTrail(files, PrivacyCategory::quarantine, "Quarantine Database", quarantineDatabase);
+  return fileTrail(files, PrivacyCategory::quarantine, "Quarantine Database",
+                   trails(files).downloadOrigins);
 }
 
 Found locationCache(const FileSystem& files, Pasteboard&) {
   return trailOf(PrivacyCategory::locationHistory, "Location Cache",
-                 sum(files, locationCaches, folderSize));
+                 sum(files, trails(files).locations, folderSize));
 }
 
-struct Pass {
+struct TrailSearch {
   double fraction;
   std::string_view line;
   Found (*find)(const FileSystem&, Pasteboard&);
 };
 
-constexpr std::array<Pass, 9> passes{{
+constexpr std::array<TrailSearch, 9> searches{{
     {0.1, "Scanning browser history...", history},
     {0.22, "Scanning browser cookies...", cookies},
     {0.34, "Scanning browser cache...", browserCache},
@@ -158,9 +138,9 @@ constexpr std::array<Pass, 9> passes{{
 std::vector<PrivacyItem> PrivacyScanner::scan(const ProgressSink& progress) {
   const std::scoped_lock lock(_working);
   std::vector<PrivacyItem> items;
-  for (const Pass& pass : passes) {
-    if (progress) progress(pass.fraction, pass.line);
-    if (auto item = pass.find(_files, _pasteboard)) items.push_back(std::move(*item));
+  for (const TrailSearch& search : searches) {
+    if (progress) progress(search.fraction, search.line);
+    if (auto item = search.find(_files, _pasteboard)) items.push_back(std::move(*item));
   }
   if (progress) progress(1.0, "Done");
   return items;

@@ -16,16 +16,6 @@ constexpr std::string_view wordSeparators = ".-_ ";
 constexpr std::array<std::string_view, 10> genericParts{"com", "org", "net", "io", "app",
                                                         "co",  "uk",  "de",  "fr", "it"};
 
-/// How the names of things begin that are the system's own.
-constexpr std::array<std::string_view, 21> protectedNames{
-    "com.apple.Music",       "com.apple.TV",          "com.apple.podcasts",
-    "com.apple.iTunes",      "com.apple.Photos",      "com.apple.PhotoLibrary",
-    "com.apple.CloudPhotos", "com.apple.PhotoBooth",  "com.apple.AddressBook",
-    "com.apple.ContactsUI",  "com.apple.iCal",        "com.apple.reminders",
-    "com.apple.mail",        "com.apple.Safari",      "com.apple.Notes",
-    "com.apple.Home",        "com.apple.AMS",         "com.apple.AppleMediaServices",
-    "com.apple.MarkupUI",    "group.com.apple.music", "group.com.apple.photos"};
-
 std::vector<std::string_view> split(std::string_view text, std::string_view separators) {
   std::vector<std::string_view> parts;
   for (std::size_t start = 0; start <= text.size();) {
@@ -78,27 +68,19 @@ std::vector<std::string> identifyingTexts(const std::vector<std::string>& parts,
   return texts;
 }
 
-bool isProtected(std::string_view lowerName) {
-  static const auto prefixes = [] {
-    std::array<std::string, protectedNames.size()> lower;
-    std::ranges::transform(protectedNames, lower.begin(), lowercased);
-    return lower;
-  }();
-  return std::ranges::any_of(
-      prefixes, [&](const std::string& prefix) { return lowerName.starts_with(prefix); });
-}
-
 }  // namespace
 
-ResidualMatcher::ResidualMatcher(const AppInfo& app)
-    : _bundleID(lowercased(app.bundleID)),
+ResidualMatcher::ResidualMatcher(const AppInfo& app, const ApplicationPlaces& places)
+    : _protectedNames(places.protectedNames),
+      _bundleID(lowercased(app.bundleID)),
       _tokens(identifyingTexts(distinctiveParts(app.bundleID), app)) {
   std::erase_if(_tokens, [](const std::string& token) { return !isLongEnough(token); });
 }
 
 bool ResidualMatcher::matches(std::string_view name) const {
   const std::string lower = lowercased(name);
-  if (isProtected(lower)) return false;
+  const auto begins = [&](std::string_view start) { return lower.starts_with(start); };
+  if (std::ranges::any_of(_protectedNames, begins)) return false;
   if (lower == _bundleID) return true;
   const std::vector<std::string_view> words = split(lower, wordSeparators);
   return std::ranges::any_of(_tokens, [&](const std::string& token) {

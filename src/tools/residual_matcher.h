@@ -12,7 +12,8 @@ namespace klarvik {
 /// Touches no file. Once made, it may be asked from any thread.
 class ResidualMatcher {
  public:
-  explicit ResidualMatcher(const AppInfo& app);
+  /// The tables of `places` live as long as the program.
+  ResidualMatcher(const AppInfo& app, const ApplicationPlaces& places);
 
   /// Whether an entry called `name` belongs to the application: it bears the bundle identifier, or
   /// one of the application's tokens stands in it as a whole word ("note" does in "note-cache", but
@@ -20,6 +21,7 @@ class ResidualMatcher {
   [[nodiscard]] bool matches(std::string_view name) const;
 
  private:
+  std::span<const std::string_view> _protectedNames;
   std::string _bundleID;             // in lower case
   std::vector<std::string> _tokens;  // long enough to tell one application from another
 };

@@ -1,10 +1,10 @@
 #include "tools/uninstaller_engine.h"
 
 #include <algorithm>
-#include <array>
 
 #include "core/junk_model.h"
 #include "core/removal_check.h"
+#include "places/disk_layout.h"
 #include "platform/application_bundle.h"
 #include "platform/file_system.h"
 #include "platform/trash.h"
@@ -14,26 +14,6 @@
 namespace klarvik {
 
 namespace {
-
-struct SearchRoot {
-  std::string_view folder;  ///< below the home, unless absolute
-  ResidualCategory category;
-};
-
-constexpr std::array<SearchRoot, 12> searchRoots{{
-    {"Library/Preferences", ResidualCategory::preferences},
-    {"Library/Caches", ResidualCategory::caches},
-    {"Library/Application Support", ResidualCategory::appSupport},
-    {"Library/Logs", ResidualCategory::logs},
-    {"Library/Containers", ResidualCategory::containers},
-    {"Library/Group Containers", ResidualCategory::containers},
-    {"Library/Saved Application State", ResidualCategory::savedState},
-    {"Library/Cookies", ResidualCategory::cookies},
-    {"Library/HTTPStorages", ResidualCategory::caches},
-    {"/Library/Preferences", ResidualCategory::preferences},
-    {"/Library/Application Support", ResidualCategory::appSupport},
-    {"/Library/Caches", ResidualCategory::caches},
-}};
 
 bool isApplicationName(const Path& path) {
   return path.extension() == ".app";
@@ -79,8 +59,8 @@ std::vector<AppInfo> UninstallerEngine::listApps() {
   const std::lock_guard lock(_working);
   const FileSystem& files = _platform.files;
   std::vector<AppInfo> apps;
-  for (const Path& folder : {Path("/Applications"), files.home() / "Applications"}) {
-    for (const Path& entry : visibleEntries(files, folder)) {
+  for (const std::string_view folder : layoutFor(files.home()).applications.folders) {
+    for (const Path& entry : visibleEntries(files, files.home() / folder)) {
       if (auto app = appAt(files, entry)) apps.push_back(*std::move(app));
     }
   }
@@ -91,9 +71,10 @@ std::vector<AppInfo> UninstallerEngine::listApps() {
 std::vector<ResidualFile> UninstallerEngine::findResiduals(const AppInfo& app) {
   const std::lock_guard lock(_working);
   const FileSystem& files = _platform.files;
-  const ResidualMatcher matcher(app);
+  const ApplicationPlaces& places = layoutFor(files.home()).applications;
+  const ResidualMatcher matcher(app, places);
   std::vector<ResidualFile> found;
-  for (const SearchRoot& root : searchRoots) {
+  for (const ResidualFolder& root : places.residuals) {
     for (const Path& entry : visibleEntries(files, files.home() / root.folder)) {
       if (!matcher.matches(entry.filename().native())) continue;
       const auto identity = entryIdentity(files, entry);

@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "places/disk_layout.h"
 #include "platform/unicode_text.h"
 #include "tools/uninstaller_engine.h"
 
@@ -17,7 +18,7 @@ AppInfo app(const std::string& name, const std::string& bundleID) {
 }
 
 bool matches(const AppInfo& application, std::string_view name) {
-  return ResidualMatcher(application).matches(name);
+  return ResidualMatcher(application, layoutFor("/Users/ann").applications).matches(name);
 }
 
 TEST(ResidualMatcher, TakesATokenAsAWholeWordOnly) {
@@ -135,7 +136,7 @@ TEST(ResidualMatcher, WhateverTheApplicationIsCalledNoTokenMatchesInsideAWord) {
   for (int round = 0; round < 20'000; ++round) {
     const AppInfo application = app(text(), text());
     const std::string entry = text();
-    const ResidualMatcher matcher(application);
+    const ResidualMatcher matcher(application, layoutFor("/Users/ann").applications);
     if (!matcher.matches(entry)) continue;
     ++matched;
     // The same entry with a letter grown onto every word of it belongs to somebody else.

@@ -58,6 +58,10 @@ constexpr std::array<ProgramName, 29> programs{{
     {"wineserver", "all Windows programs"},
 }};
 
+// Neither trails nor applications of a Linux disk are known yet.
+constexpr TrailPlaces trailPlaces{};
+constexpr ApplicationPlaces applicationPlaces{};
+
 }  // namespace
 
 const DiskLayout& layout() {
@@ -74,6 +78,8 @@ const DiskLayout& layout() {
       .allVisibleFoldersMayBeLarge = true,
       .analysisPasses = analysisPasses(),
       .storageShares = storageShares(),
+      .trails = trailPlaces,
+      .applications = applicationPlaces,
       .guard = guardRules,
       .words = words,
       .systemData = systemDataWords(),

@@ -45,6 +45,8 @@ const DiskLayout& layout() {
       .allVisibleFoldersMayBeLarge = false,
       .analysisPasses = analysisPasses(),
       .storageShares = storageShares(),
+      .trails = trailPlaces,
+      .applications = applicationPlaces,
       .guard = guardRules,
       .words = words,
       .systemData = {},

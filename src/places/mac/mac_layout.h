@@ -11,6 +11,8 @@ namespace klarvik::mac {
 
 [[nodiscard]] std::span<const Pass> analysisPasses();
 [[nodiscard]] std::span<const StorageShare> storageShares();
+extern const TrailPlaces trailPlaces;
+extern const ApplicationPlaces applicationPlaces;
 extern const GuardRules guardRules;
 extern const Words words;
 [[nodiscard]] const DiskLayout& layout();
