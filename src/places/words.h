@@ -47,6 +47,7 @@ struct Words {
   std::string_view noApplications;
   std::string_view applicationsListed;  ///< "%1": a number
   std::string_view applicationColumn;
+  std::string_view noTrails;
   std::string_view trailsUnread;
   std::string_view browserTrails;
   std::string_view recentTrails;

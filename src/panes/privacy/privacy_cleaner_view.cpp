@@ -61,7 +61,7 @@ Placeholder PrivacyCleanerView::placeholder() const {
                              programText(layoutFor(_desktop.files.home()).words.trailsUnread));
   }
   return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("Nothing to clear"),
-                           QStringLiteral("No browsing or system trails were found."));
+                           programText(layoutFor(_desktop.files.home()).words.noTrails));
 }
 
 QString PrivacyCleanerView::selectionSummary() const {

@@ -44,6 +44,7 @@ const Words words{
     .noApplications = "Klarvik does not list the apps of a Linux disk yet.",
     .applicationsListed = "%1 apps · deleting one leaves its support files behind",
     .applicationColumn = "APP",
+    .noTrails = "Klarvik does not look for the trails of a Linux desktop yet.",
     .trailsUnread = "Rescan to see what this computer has recorded.",
     .browserTrails = "BROWSERS",
     .recentTrails = "RECENT FILES",

@@ -47,6 +47,7 @@ const Words words{
     .noApplications = "Nothing found in /Applications.",
     .applicationsListed = "%1 apps · dragging one to the Trash leaves its support files behind",
     .applicationColumn = "BUNDLE",
+    .noTrails = "No browsing or system trails were found.",
     .trailsUnread = "Rescan to see what your Mac has recorded.",
     .browserTrails = "SAFARI, CHROME, FIREFOX",
     .recentTrails = "MACOS RECENTS",
