@@ -54,7 +54,8 @@ class LinuxSampleDiskTest : public testing::Test {
   static bool isPlaceOf(const Place& row, const Path& path) {
     const std::string text = row.base == Base::root ? path.native() : inHome(path);
     const auto pieces = pathPieces(text);
-    const auto base = catalogue().folder(row.base).value_or("");
+    const Catalogue known = catalogue();
+    const auto base = known.folder(row.base).value_or("");
     const auto isAt = [&](std::string_view inside) {
       return matchPattern(pieces, {base, row.pattern, inside}).relation == Relation::at;
     };

@@ -49,7 +49,6 @@ class LinuxDiskTest : public testing::Test {
   }
 
   [[nodiscard]] Platform platform() {
-    const Platform system = machine.platform();
     return {system.files,      system.trash, system.commands,        system.defaults, system.volume,
             system.formatting, system.info,  system.recentDocuments, programs};
   }
@@ -75,6 +74,7 @@ class LinuxDiskTest : public testing::Test {
   const Path home = "/home/ann";
   TemporaryFolder disk;
   LinuxPlatform machine{disk.path(), home};
+  const Platform system = machine.platform();
   FakeRunningPrograms programs;
 };
 
@@ -297,7 +297,7 @@ TEST_F(LinuxDiskTest, FindsNothingInAHomeOfSecretsAndOwnThings) {
   for (const char* name : {"Documents", "Pictures", "Dokumente", "Music/target", "Videos/build"}) {
     file(Path(name) / "own.tex", big);
   }
-  ScannerEngine engine(machine.platform());
+  ScannerEngine engine(system);
   for (const CleanCategory& category : engine.scanAll({}, {}, {})) {
     for (const JunkItem& item : category.items) ADD_FAILURE() << item.path;
   }
@@ -310,7 +310,7 @@ TEST_F(LinuxDiskTest, ACleanTakesWhatTheScanPromisedAndLeavesTheRest) {
   file(".local/share/Trash/info/old.trashinfo", 0);
   file(".ssh/id_ed25519", 100);
   file("Documents/letter", middling);
-  ScannerEngine engine(machine.platform());
+  ScannerEngine engine(system);
   std::vector<JunkItem> items;
   std::int64_t promised = 0;
   for (const CleanCategory& category : engine.scanAll({}, {}, {})) {
@@ -392,7 +392,7 @@ TEST_F(LinuxDiskTest, TakesAFolderWithAYoungerDocumentForNoArtifact) {
 TEST_F(LinuxDiskTest, AnArtifactStaysWhenItsMarkerHasGone) {
   file("app/package.json", 1);
   file("app/node_modules/x", big);
-  ScannerEngine engine(machine.platform());
+  ScannerEngine engine(system);
   const CleanCategory found = find(CategoryType::buildArtifacts);
   ASSERT_EQ(found.items.size(), 1U);
   std::filesystem::remove(onDisk("app/package.json"));
@@ -404,7 +404,7 @@ TEST_F(LinuxDiskTest, AMacsFoldersInALinuxHomeGiveNoRow) {
   file("Library/Caches/com.acme.writer/x", big);
   file("Library/Developer/Xcode/DerivedData/x", big);
   file("Library/Logs/x", big);
-  ScannerEngine engine(machine.platform());
+  ScannerEngine engine(system);
   EXPECT_TRUE(engine.scanAll({}, {}, {}).empty());
 }
 
