@@ -413,7 +413,7 @@ constexpr auto secretFiles = std::to_array<std::string_view>({
     ".config/age/key.txt",
     ".config/Signal/sql/db.sqlite",
     ".cache/keepassxc/keepassxc.ini",
-    ".cache/rclone/vfs/work/draft.odt",
+    ".cache/rclone/vfs/office/draft.odt",
     "Dokumente/Passwörter.kdbx",
     ".sync/old.kdbx",
 });
@@ -634,7 +634,7 @@ constexpr auto otherFiles = std::to_array<std::string_view>({
     "/tmp/krb5cc_1000",
     "/tmp/snap-private-tmp/snap.firefox/tmp/x1",
     "/tmp/snap.spotify/x1",
-    "/tmp/ssh-XXXXa1b2c3/agent.1",
+    "/tmp/ssh-q7Lma1b2c3/agent.1",
     "/tmp/systemd-private-a1b2-colord.service-x1/tmp/x1",
     "/tmp/tmux-1000/default",
     "/tmp/writer.lock",
