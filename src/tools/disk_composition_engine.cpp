@@ -1,6 +1,5 @@
 #include "tools/disk_composition_engine.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -17,17 +16,24 @@ namespace klarvik {
 
 namespace {
 
-constexpr std::string_view remainderId = "system";
+/// The folders that the user sees, each once: whatever lies in two of them is part of one share.
+std::vector<Path> shownOnce(const FileSystem& files) {
+  const UserFolders shown = shownFolders(files);
+  return withoutNested(
+      {shown.documents, shown.desktop, shown.downloads, shown.pictures, shown.music, shown.videos},
+      files.home());
+}
 
-/// Whether no kind of folder before this one is the same folder.
-bool isFirstOf(const UserFolders& shown, Path UserFolders::*kind) {
-  for (Path UserFolders::*before :
-       {&UserFolders::documents, &UserFolders::desktop, &UserFolders::downloads,
-        &UserFolders::pictures, &UserFolders::music, &UserFolders::videos}) {
-    if (before == kind) return true;
-    if (shown.*before == shown.*kind) return false;
+/// Takes the folder of the share out of `shown`, where it is still there.
+std::vector<Path> placesOf(const StorageShare& share, const FileSystem& files,
+                           std::vector<Path>& shown) {
+  std::vector<Path> places;
+  if (share.shown != nullptr) {
+    const Path folder = shownFolders(files).*share.shown;
+    if (std::erase(shown, folder) > 0) places.push_back(folder);
   }
-  return true;
+  for (const std::string_view place : share.places) places.push_back(files.home() / place);
+  return places;
 }
 
 }  // namespace
@@ -40,13 +46,14 @@ DiskComposition DiskCompositionEngine::measureDisk(std::stop_token stop,
   const std::scoped_lock serial(_measuring);
   const DiskLayout& layout = layoutFor(_platform.files.home());
   const double stepCount = static_cast<double>(layout.storageShares.size()) + 1;
+  std::vector<Path> shown = shownOnce(_platform.files);
   DiskComposition disk;
   std::int64_t sum = 0;
   double stepsBegun = 0;
   for (const StorageShare& share : layout.storageShares) {
     if (stop.stop_requested()) break;
     progress(std::string(share.label), stepsBegun++ / stepCount);
-    const std::vector<Path> places = placesOf(share);
+    const std::vector<Path> places = placesOf(share, _platform.files, shown);
     std::int64_t bytes = 0;
     for (const Path& place : places) bytes = addBytes(bytes, measure(place, stop));
     if (bytes < 1) continue;
@@ -66,7 +73,7 @@ DiskComposition DiskCompositionEngine::measureDisk(std::stop_token stop,
   // Clones, shared space and sparse files can make the places add up to more than what is used.
   const auto rest = stats.usedBytes - sum;
   if (rest >= 1) {
-    disk.buckets.push_back({.id = std::string(remainderId),
+    disk.buckets.push_back({.id = "system",
                             .label = std::string(layout.words.systemAndEverythingElse),
                             .bytes = rest,
                             .color = storage_palette::white(0.34)});
@@ -74,24 +81,6 @@ DiskComposition DiskCompositionEngine::measureDisk(std::stop_token stop,
   progress("Done", 1.0);
   disk.measuredAt = _now();
   return disk;
-}
-
-/// A folder that the user sees, unless it is the home itself or lies in another of them: everything
-/// is part of one share only.
-std::vector<Path> DiskCompositionEngine::placesOf(const StorageShare& share) const {
-  const FileSystem& files = _platform.files;
-  if (share.shown != nullptr) {
-    const UserFolders shown = shownFolders(files);
-    const Path& folder = shown.*share.shown;
-    const auto all = withoutNested({shown.documents, shown.desktop, shown.downloads, shown.pictures,
-                                    shown.music, shown.videos},
-                                   files.home());
-    const bool isOne = std::ranges::find(all, folder) != all.end() && isFirstOf(shown, share.shown);
-    return isOne ? std::vector{folder} : std::vector<Path>{};
-  }
-  std::vector<Path> places;
-  for (const std::string_view place : share.places) places.push_back(files.home() / place);
-  return places;
 }
 
 std::int64_t DiskCompositionEngine::measure(const Path& url, std::stop_token stop) const {

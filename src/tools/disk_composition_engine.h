@@ -13,8 +13,6 @@
 
 namespace klarvik {
 
-struct StorageShare;
-
 /// Measures the places that people keep things in, and sets their sum against what the volume says
 /// is used. Reads sizes only.
 ///
@@ -41,7 +39,6 @@ class DiskCompositionEngine {
   [[nodiscard]] std::int64_t measure(const Path& url, std::stop_token stop = {}) const;
 
  private:
-  [[nodiscard]] std::vector<Path> placesOf(const StorageShare& share) const;
   const Platform& _platform;
   PresentTime _now;
   std::mutex _measuring;

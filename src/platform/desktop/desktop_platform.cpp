@@ -1,6 +1,5 @@
 #include "platform/desktop/desktop_platform.h"
 
-#include <QStandardPaths>
 #include <QSysInfo>
 #include <QVersionNumber>
 
@@ -8,11 +7,6 @@
 
 namespace klarvik {
 namespace {
-
-/// Users have it where they like, under a name of their language.
-Path chosenDownloads() {
-  return QStandardPaths::writableLocation(QStandardPaths::DownloadLocation).toStdString();
-}
 
 /// Without what a distribution adds to the number.
 std::string systemVersion() {
@@ -22,9 +16,8 @@ std::string systemVersion() {
 }  // namespace
 
 std::unique_ptr<DesktopPlatform> DesktopPlatform::ofThisUser() {
-  auto folders = UserFolders::ofThisUser();
+  const auto folders = UserFolders::ofThisUser();
   if (!folders) return nullptr;
-  if (const Path chosen = chosenDownloads(); chosen.is_absolute()) folders->downloads = chosen;
   return std::make_unique<DesktopPlatform>("/", *folders);
 }
 
@@ -36,7 +29,8 @@ DesktopPlatform::DesktopPlatform(const Path& root, const UserFolders& folders)
       _loginItem(XdgLoginItem::placesOfThisProgram(
           _system.platform().files.diskPath(folders.configuration))),
       _updater({_system.platform().info, _defaults, _system.platform().files, _clock, _workspace},
-               {.downloads = folders.downloads, .systemVersion = systemVersion()}) {}
+               {.downloads = _system.platform().files.folders().downloads,
+                .systemVersion = systemVersion()}) {}
 
 Desktop DesktopPlatform::desktop() {
   const Platform system = _system.platform();
