@@ -3,6 +3,7 @@
 #include <QPointer>
 
 #include "panes/smart_scan/smart_scan_texts.h"
+#include "places/disk_layout.h"
 
 namespace klarvik {
 
@@ -23,7 +24,12 @@ bool CleanedBanner::isShown() const {
 }
 
 QString CleanedBanner::headline() const {
-  return QString::fromStdString(smart_scan::cleanedHeadline(summary(), _formatting));
+  const auto inTrash = static_cast<std::int64_t>(summary().restorable.size());
+  const bool isMixed = inTrash > 0 && inTrash < summary().itemCount;
+  const bool tellsApart = _appState.layout().words.fateOfSelection.empty();
+  return QString::fromStdString(isMixed && tellsApart
+                                    ? smart_scan::cleanedApartHeadline(summary(), _formatting)
+                                    : smart_scan::cleanedHeadline(summary(), _formatting));
 }
 
 QString CleanedBanner::detail() const {

@@ -93,6 +93,14 @@ std::string removingLine(const DeletionProgress& progress, const Formatting& for
          std::to_string(progress.total) + " · " + formatting.byteText(progress.freed) + " so far";
 }
 
+std::string cleanedApartHeadline(const AppState::CleanSummary& summary,
+                                 const Formatting& formatting) {
+  const auto inTrash = static_cast<std::int64_t>(summary.restorable.size());
+  return formatting.byteText(summary.freed) + " · " + std::to_string(inTrash) +
+         " items moved to Trash, " + std::to_string(summary.itemCount - inTrash) +
+         " removed for good";
+}
+
 std::string cleanedHeadline(const AppState::CleanSummary& summary, const Formatting& formatting) {
   return formatting.byteText(summary.freed) + " · " + std::to_string(summary.itemCount) +
          " items " + (summary.restorable.empty() ? "removed" : "moved to Trash");

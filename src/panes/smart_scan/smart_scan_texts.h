@@ -41,6 +41,9 @@ namespace klarvik::smart_scan {
 [[nodiscard]] std::string removingLine(const DeletionProgress& progress,
                                        const Formatting& formatting);
 
+/// Where some of the items went to the Trash and some for good: how many of each.
+[[nodiscard]] std::string cleanedApartHeadline(const AppState::CleanSummary& summary,
+                                               const Formatting& formatting);
 [[nodiscard]] std::string cleanedHeadline(const AppState::CleanSummary& summary,
                                           const Formatting& formatting);
 [[nodiscard]] std::string cleanedDetail(const AppState::CleanSummary& summary,

@@ -166,6 +166,13 @@ TEST(CleanedBannerTexts, TellOfTheTrashWhenItemsAreThere) {
             "200 GB free on disk — the Trash still holds this space until you empty it");
 }
 
+TEST(CleanedBannerTexts, TellApartWhatWentToTheTrashAndWhatForGood) {
+  AppState::CleanSummary summary = summaryOf(true);
+  summary.itemCount = 4;
+  EXPECT_EQ(cleanedApartHeadline(summary, english()),
+            "3 MB · 1 items moved to Trash, 3 removed for good");
+}
+
 TEST(CleanedBannerTexts, SayRemovedWhenNothingCanComeBack) {
   EXPECT_EQ(cleanedHeadline(summaryOf(false), english()), "3 MB · 1 items removed");
   EXPECT_EQ(cleanedDetail(summaryOf(false), 200'000'000'000, english()), "200 GB free on disk");
