@@ -29,6 +29,7 @@ struct JunkItem {
   std::string reason{};      ///< one sentence on what becomes of it; empty where none is needed
   bool goesForGood = false;  ///< never to the Trash
   std::string closeFirst{};  ///< the running program that uses it; empty when none does
+  bool wasJustUsed = false;  ///< comes after the others of its category
 
   /// Of all that is shown.
   bool operator==(const JunkItem& other) const;
@@ -50,6 +51,8 @@ struct CleanCategory {
   std::vector<JunkItem> items;  ///< in the order the scanner gave them
   std::vector<Hint> hints{};    ///< largest first
 
+  /// What Klarvik can remove of it may be nothing: then it only has hints.
+  [[nodiscard]] bool hasItems() const { return !items.empty(); }
   [[nodiscard]] std::int64_t totalSize() const;
   [[nodiscard]] std::string formattedSize(const Formatting& formatting) const;
 };

@@ -13,10 +13,20 @@ bool isAtOrBelow(const Path& path, const Path& folder) {
   return !below.empty() && *below.begin() != "..";
 }
 
+/// A folder on a volume of its own counts as none: nothing is looked for there.
+UserFolders ofTheHomesVolume(const FileSystem& files) {
+  UserFolders folders = files.folders();
+  for (const auto folder : {&UserFolders::desktop, &UserFolders::documents, &UserFolders::downloads,
+                            &UserFolders::music, &UserFolders::pictures, &UserFolders::videos}) {
+    if (files.isMountPoint(folders.*folder)) folders.*folder = folders.home;
+  }
+  return folders;
+}
+
 }  // namespace
 
 UserFolders shownFolders(const FileSystem& files) {
-  if (layoutFor(files.home()).desktopNamesFolders) return files.folders();
+  if (layoutFor(files.home()).desktopNamesFolders) return ofTheHomesVolume(files);
   UserFolders usual = UserFolders::in(files.home());
   usual.videos = files.home() / "Movies";
   return usual;

@@ -15,8 +15,13 @@ std::int64_t ownAllocation(const FileSystem& files, const Path& path) {
   return attributes->allocatedBytes;
 }
 
+bool sizesAreWhole(const FileSystem& files) {
+  return layoutFor(files.home()).sizesAreWhole;
+}
+
 std::int64_t sumOfAllocations(const FileSystem& files, const Path& path, WalkOptions options,
                               const std::stop_token& stop) {
+  if (isOtherVolume(files, path)) return 0;
   std::int64_t total = 0;
   const auto outcome = files.walk(path, options, [&](WalkEntry& entry) {
     if (stop.stop_requested()) return WalkStep::stop;
@@ -28,11 +33,11 @@ std::int64_t sumOfAllocations(const FileSystem& files, const Path& path, WalkOpt
   return outcome == WalkOutcome::refused ? ownAllocation(files, path) : total;
 }
 
-bool sizesAreWhole(const FileSystem& files) {
-  return layoutFor(files.home()).sizesAreWhole;
-}
-
 }  // namespace
+
+bool isOtherVolume(const FileSystem& files, const Path& path) {
+  return sizesAreWhole(files) && files.isMountPoint(path);
+}
 
 WalkOptions wholeWalk(const FileSystem& files) {
   return {.stayOnMount = sizesAreWhole(files)};

@@ -10,6 +10,10 @@ namespace klarvik {
 class FileSystem;
 struct WalkOptions;
 
+/// Whether `path` is the top of another volume, of which nothing is counted or removed, on a disk
+/// whose layout does not leave its volume. Waits for no server.
+[[nodiscard]] bool isOtherVolume(const FileSystem& files, const Path& path);
+
 /// A walk that sees all that a removal would take.
 [[nodiscard]] WalkOptions wholeWalk(const FileSystem& files);
 

@@ -151,6 +151,7 @@ Measure measureWhole(const FileSystem& files, const Path& path) {
   const auto add = [&](const FileAttributes& entry) {
     const bool isFolder = entry.kind == FileKind::directory;
     measure.isOwn = measure.isOwn && entry.isOwn;
+    measure.holdsMountPoint = measure.holdsMountPoint || entry.isMountPoint;
     measure.holdsReadOnlyFolder = measure.holdsReadOnlyFolder || (isFolder && entry.isReadOnly);
     // Looking into a folder counts as reading it, so that a scan itself would.
     for (const auto& date : {entry.modified, isFolder ? std::nullopt : entry.accessed}) {

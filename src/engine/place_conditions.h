@@ -17,6 +17,7 @@ struct Measure {
   std::int64_t bytes = 0;            ///< all that a removal gives back
   std::optional<Date> used;          ///< when something in it was last changed or read
   bool isOwn = true;                 ///< all of it belongs to the user
+  bool holdsMountPoint = false;      ///< other volumes are mounted in it: it cannot be moved
   bool holdsReadOnlyFolder = false;  ///< what lies in such a folder cannot be removed file by file
 };
 

@@ -10,6 +10,7 @@
 #include "places/path_pattern.h"
 #include "platform/file_system.h"
 #include "platform/running_programs.h"
+#include "platform/trash.h"
 
 namespace klarvik {
 namespace {
@@ -31,6 +32,8 @@ std::string filledIn(std::string_view text, const std::vector<std::string>& star
 std::vector<std::string_view> views(const std::vector<std::string>& texts) {
   return {texts.begin(), texts.end()};
 }
+
+constexpr std::chrono::hours oneDay{24};
 
 bool isFolderOrFile(const std::optional<FileAttributes>& attributes) {
   return attributes &&
@@ -79,7 +82,8 @@ CleanCategory PlaceScanner::findArtifacts() {
            .size = measure.bytes,
            .modifiedDate = attributes->modified,
            .identity = entryIdentity(*attributes),
-           .reason = std::string(kind->reason)},
+           .reason = std::string(kind->reason),
+           .wasJustUsed = measure.used && *measure.used > _now - oneDay},
           measure, category);
   }
   sortItemsBySize(category.items);
@@ -87,10 +91,34 @@ CleanCategory PlaceScanner::findArtifacts() {
   return category;
 }
 
+CleanCategory PlaceScanner::findTrashed() {
+  CleanCategory category{.type = CategoryType::trashBin, .items = {}};
+  for (const Path& entry : _platform.trash.list().value_or(std::vector<Path>{})) {
+    if (_stop.stop_requested()) return category;
+    if (_platform.files.isMountPoint(entry)) continue;
+    const auto attributes = _platform.files.attributes(entry);
+    if (!attributes) continue;
+    const Measure measure = measureWhole(_platform.files, entry);
+    offer({.name = entry.filename().native(),
+           .path = entry,
+           .size = measure.bytes,
+           .modifiedDate = attributes->modified,
+           .identity = entryIdentity(*attributes),
+           .goesForGood = true},
+          measure, category);
+  }
+  sortItemsBySize(category.items);
+  sortHintsBySize(category.hints);
+  return category;
+}
+
+Path PlaceScanner::folder(Base base) const {
+  const auto below = _catalogue.folder(base);
+  return below ? _platform.files.home() / *below : Path("/");
+}
+
 std::vector<PlaceScanner::Match> PlaceScanner::matches(const Place& place) const {
-  const auto base = _catalogue.folder(place.base);
-  const Path start = base ? _platform.files.home() / *base : Path("/");
-  std::vector<Match> found = expanded({{.path = start}}, place.pattern);
+  std::vector<Match> found = expanded({{.path = folder(place.base)}}, place.pattern);
   std::erase_if(found, [&](const Match& match) { return isExcepted(place, match); });
   if (!place.details.only.empty()) {
     std::vector<Match> inside;
@@ -116,7 +144,8 @@ std::vector<PlaceScanner::Match> PlaceScanner::expanded(std::vector<Match> start
     for (Match& start : starts) {
       if (piece.find('*') == std::string_view::npos) {
         start.path /= piece;
-        next.push_back(std::move(start));
+        // Not even a name is looked up on a volume that may not answer.
+        if (!_platform.files.isMountPoint(start.path)) next.push_back(std::move(start));
         continue;
       }
       for (const Path& child : _platform.files.list(start.path).value_or(std::vector<Path>{})) {
@@ -207,14 +236,13 @@ std::string PlaceScanner::obstacle(const Path& path, const Measure& measure) con
     return *refusal;
   }
   const auto real = files.realPath(path);
-  if (!real) return "The folder that it lies in cannot be opened.";
+  if (!real) return std::string(_layout.words.folderAboveUnreadable);
   if (*real != path && !mayRemoveReal(files, *real, scope)) {
-    return "It really lies at " + real->native() + ", which Klarvik leaves alone.";
+    return filledIn(_layout.words.liesElsewhere, real->native());
   }
-  if (!measure.isOwn) return "Some of it belongs to another user, so that it cannot be moved.";
-  if (measure.holdsReadOnlyFolder) {
-    return "Some of its folders are read-only: the Trash could not be emptied of them again.";
-  }
+  if (measure.holdsMountPoint) return std::string(_layout.words.holdsOtherVolume);
+  if (!measure.isOwn) return std::string(_layout.words.belongsToAnother);
+  if (measure.holdsReadOnlyFolder) return std::string(_layout.words.holdsReadOnlyFolders);
   return {};
 }
 
@@ -231,9 +259,20 @@ std::string PlaceScanner::runningUser(const Place& place, const Match& match) co
   const auto isItRunning = [&](const ProgramName& each) {
     return each.name == name && _platform.programs.isRunning(each.program);
   };
-  const bool isRunning =
-      _platform.programs.isRunning(program) || std::ranges::any_of(_layout.programs, isItRunning);
+  const auto isItsLockHeld = [&](const ProgramLock& lock) {
+    return lock.program == program && holdsLock(lock);
+  };
+  const bool isRunning = _platform.programs.isRunning(program) ||
+                         std::ranges::any_of(_layout.programs, isItRunning) ||
+                         std::ranges::any_of(_layout.programLocks, isItsLockHeld);
   return isRunning ? std::string(name) : "";
+}
+
+bool PlaceScanner::holdsLock(const ProgramLock& lock) const {
+  return std::ranges::any_of(
+      expanded({{.path = folder(lock.base)}}, lock.pattern), [&](const Match& link) {
+        return _platform.programs.isLockHeld(_platform.files.diskPath(link.path));
+      });
 }
 
 bool PlaceScanner::overlapsAnItem(const Path& path) const {

@@ -30,6 +30,8 @@ class PlaceScanner {
   [[nodiscard]] CleanCategory find(CategoryType type);
   /// What builds have left in the projects of the home.
   [[nodiscard]] CleanCategory findArtifacts();
+  /// What lies in the Trash.
+  [[nodiscard]] CleanCategory findTrashed();
 
  private:
   /// A thing that a pattern stands for.
@@ -39,6 +41,7 @@ class PlaceScanner {
     Path inside{};  ///< the part of the path below the pattern, where only parts of it are meant
   };
 
+  [[nodiscard]] Path folder(Base base) const;
   [[nodiscard]] std::vector<Match> matches(const Place& place) const;
   [[nodiscard]] std::vector<Match> expanded(std::vector<Match> starts,
                                             std::string_view pattern) const;
@@ -49,6 +52,7 @@ class PlaceScanner {
   void offer(JunkItem item, const Measure& measure, CleanCategory& category);
   [[nodiscard]] std::string obstacle(const Path& path, const Measure& measure) const;
   [[nodiscard]] std::string runningUser(const Place& place, const Match& match) const;
+  [[nodiscard]] bool holdsLock(const ProgramLock& lock) const;
   [[nodiscard]] bool overlapsAnItem(const Path& path) const;
 
   const Platform& _platform;

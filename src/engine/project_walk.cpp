@@ -127,6 +127,7 @@ std::vector<FoundArtifact> findProjectArtifacts(const FileSystem& files, const C
         });
     if (mayBeArtifact) {
       Path path = entry.path();
+      if (files.isMountPoint(path)) return WalkStep::skipDescendants;
       if (const ProjectArtifact* kind = judge.kindOf(path)) {
         found.push_back({std::move(path), kind});
         return WalkStep::skipDescendants;

@@ -38,7 +38,7 @@ class Scanners {
 
   CleanCategory find(CategoryType type) {
     if (!_hasPlaces) return {.type = type, .items = _methods.find(type)};
-    if (type == CategoryType::trashBin) return {.type = type, .items = _methods.trash()};
+    if (type == CategoryType::trashBin) return _places.findTrashed();
     if (type == CategoryType::buildArtifacts) return _places.findArtifacts();
     return _places.find(type);
   }
@@ -69,7 +69,7 @@ std::vector<CleanCategory> ScannerEngine::scanAll(std::stop_token stop, const Up
     begin(std::string(row.name), row.fraction);
     CleanCategory category = scanners.find(row.type);
     std::erase_if(category.items, [](const JunkItem& item) { return item.size < 1; });
-    if (!category.items.empty()) {
+    if (category.hasItems() || !category.hints.empty()) {
       if (onCategory) onCategory(category);
       found.push_back(std::move(category));
     }
@@ -103,7 +103,8 @@ void ScannerEngine::countItem(const JunkItem& item) {
 }
 
 void sortItemsBySize(std::vector<JunkItem>& items) {
-  std::stable_sort(items.begin(), items.end(), [](const JunkItem& left, const JunkItem& right) {
+  std::ranges::stable_sort(items, [](const JunkItem& left, const JunkItem& right) {
+    if (left.wasJustUsed != right.wasJustUsed) return right.wasJustUsed;
     return left.size > right.size;
   });
 }

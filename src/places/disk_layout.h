@@ -31,6 +31,19 @@ struct ProgramName {
   std::string_view name;
 };
 
+/// A link that a program keeps in its profile while it runs. Its text ends in a process number.
+struct ProgramLock {
+  std::string_view program;
+  Base base;
+  std::string_view pattern;
+};
+
+/// What the user calls files with one of these extensions.
+struct FileKindName {
+  std::string_view name;
+  std::span<const std::string_view> extensions;  ///< lower case, without the dot
+};
+
 /// Everything that one system's disks have in common: what lies where, what may go, and how things
 /// are called. The same object for the whole run of the program; any thread.
 struct DiskLayout {
@@ -40,12 +53,16 @@ struct DiskLayout {
   std::int64_t artifactsAbove;  ///< bytes; what takes no more is not listed
   std::span<const std::string_view> notSearchedForProjects;  ///< names of folders in the home
   std::span<const ProgramName> programs;
+  std::span<const ProgramLock> programLocks;
   /// Whether a size is all that a removal gives back: hidden things and the contents of packages
   /// too, and nothing of another volume.
   bool sizesAreWhole;
+  /// Whether it is told how much of a selection goes for good, where some of it does.
+  bool tellsWhatGoesForGood;
   bool desktopNamesFolders;  ///< whether the user's desktop says which folders are shown, and how
   /// Below the home: where else than in the shown folders large files are looked for.
   std::span<const std::string_view> moreLargeFileFolders;
+  std::span<const FileKindName> fileKinds;  ///< of large files
   bool allVisibleFoldersMayBeLarge;  ///< every other visible folder of the home is looked at too
   std::span<const Pass> analysisPasses;         ///< of System Data, in the order in which they run
   std::span<const StorageShare> storageShares;  ///< in the order in which they are measured

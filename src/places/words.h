@@ -11,10 +11,15 @@ struct Words {
   // The disk.
   std::string_view systemAndEverythingElse;  ///< the share of the disk that no folder explains
   std::string_view unnamedVolume;            ///< for a volume without a label
-  std::string_view
-      fateOfSelection;  ///< what becomes of selected junk; empty where that is told anew
-  std::string_view unnamedHomeVolume;  ///< the same, where only the home lies on it
-  std::string_view systemLine;         ///< "%1": name and version, as the system tells them
+  std::string_view unnamedHomeVolume;        ///< the same, where only the home lies on it
+  std::string_view systemLine;               ///< "%1": name and version, as the system tells them
+
+  // Why something that is found cannot be removed.
+  std::string_view folderAboveUnreadable;
+  std::string_view liesElsewhere;  ///< "%1": the path it really lies at
+  std::string_view holdsOtherVolume;
+  std::string_view belongsToAnother;
+  std::string_view holdsReadOnlyFolders;
 
   // The file manager and the Trash.
   std::string_view showInFileManager;

@@ -27,9 +27,10 @@ struct FileAttributes {
   std::optional<Date> accessed;
   std::optional<Date> created;
   std::optional<FileIdentity> identity = std::nullopt;  ///< nothing where files have none
-  std::uint64_t names = 1;  ///< how many names the disk keeps for the file
-  bool isOwn = true;        ///< belongs to the user whose program this is
-  bool isReadOnly = false;  ///< even its owner may not change it as it stands
+  std::uint64_t names = 1;    ///< how many names the disk keeps for the file
+  bool isOwn = true;          ///< belongs to the user whose program this is
+  bool isReadOnly = false;    ///< even its owner may not change it as it stands
+  bool isMountPoint = false;  ///< another volume begins here
 };
 
 }  // namespace klarvik

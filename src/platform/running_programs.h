@@ -16,6 +16,10 @@ class RunningPrograms {
   [[nodiscard]] virtual bool isRunning(std::string_view program) const = 0;
   /// Whether the application with this identifier runs in a Flatpak or a snap.
   [[nodiscard]] virtual bool isSandboxRunning(std::string_view application) const = 0;
+  /// Whether the process that made this link still runs. The link's text ends in the number of the
+  /// process, after the name of its machine where it has one: what runs on another machine cannot
+  /// be seen, and counts as running. `link` is a path on the machine.
+  [[nodiscard]] virtual bool isLockHeld(const Path& link) const = 0;
   /// Whether a process of this user has something open at or below `path`, a path on the machine.
   [[nodiscard]] virtual bool hasOpen(const Path& path) const = 0;
 };

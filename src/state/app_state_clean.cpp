@@ -20,10 +20,10 @@ std::vector<ItemSelection::Remainder> leftWithout(const std::unordered_set<Uuid>
                                                   const std::vector<CleanCategory>& results) {
   std::vector<ItemSelection::Remainder> left;
   for (const CleanCategory& category : results) {
-    CleanCategory kept{.type = category.type, .items = {}};
+    CleanCategory kept{.type = category.type, .items = {}, .hints = category.hints};
     std::ranges::copy_if(category.items, std::back_inserter(kept.items),
                          [&](const JunkItem& item) { return !removed.contains(item.id); });
-    if (kept.items.empty()) continue;
+    if (!kept.hasItems() && kept.hints.empty()) continue;
     auto items = std::make_shared<const RankedItems>(kept.items);
     left.push_back({category.id, std::move(kept), std::move(items)});
   }

@@ -19,10 +19,11 @@ RankedItems::RankedItems(const std::vector<JunkItem>& items) {
   _items.reserve(items.size());
   for (const JunkItem& item : items) {
     _items.push_back({item.id, static_cast<std::uint32_t>(_items.size()), item.size,
-                      item.goesForGood, !item.closeFirst.empty()});
+                      item.goesForGood, !item.closeFirst.empty(), item.wasJustUsed});
     _total += _items.back().sum();
   }
   std::ranges::sort(_items, [](const Item& left, const Item& right) {
+    if (left.wasJustUsed != right.wasJustUsed) return right.wasJustUsed;
     return left.size != right.size ? left.size > right.size : left.place < right.place;
   });
   _ranks.reserve(_items.size());

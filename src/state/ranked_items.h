@@ -33,6 +33,7 @@ class RankedItems {
     std::int64_t size = 0;    ///< bytes
     bool goesForGood = false;
     bool isInUse = false;  ///< by a program that should be closed first
+    bool wasJustUsed = false;
 
     [[nodiscard]] ItemSum sum() const { return {size, 1, goesForGood ? size : 0}; }
   };

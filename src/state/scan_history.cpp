@@ -1,5 +1,7 @@
 #include "state/scan_history.h"
 
+#include <algorithm>
+
 #include "platform/user_defaults.h"
 #include "state/scan_history_json.h"
 #include "state/shared_state.h"
@@ -34,7 +36,7 @@ ScanHistory::ScanHistory(UserDefaults& defaults, const Clock& clock, QObject* pa
       _cleans(load(defaults, cleansKey)) {}
 
 void ScanHistory::recordScan(const std::vector<CleanCategory>& categories) {
-  if (categories.empty()) return;
+  if (std::ranges::none_of(categories, &CleanCategory::hasItems)) return;
   ScanHistoryEntry entry;
   entry.date = _clock.now();
   for (const CleanCategory& category : categories) {

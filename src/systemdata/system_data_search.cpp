@@ -173,7 +173,11 @@ Path SystemDataSearch::inHome(std::string_view path) const {
 }
 
 std::vector<Path> SystemDataSearch::list(const Path& folder) const {
-  return _platform.files.list(folder).value_or(std::vector<Path>{});
+  const FileSystem& files = _platform.files;
+  if (isOtherVolume(files, folder)) return {};
+  auto children = files.list(folder).value_or(std::vector<Path>{});
+  std::erase_if(children, [&](const Path& child) { return isOtherVolume(files, child); });
+  return children;
 }
 
 bool SystemDataSearch::isLink(const Path& path) const {
@@ -183,6 +187,7 @@ bool SystemDataSearch::isLink(const Path& path) const {
 
 SystemDataItem SystemDataSearch::item(std::string name, const Path& path,
                                       SystemDataSubCategory kind) const {
+  if (isOtherVolume(_platform.files, path)) return {.name = std::move(name), .path = path};
   const auto identity = entryIdentity(_platform.files, path);
   return {.name = std::move(name),
           .path = path,

@@ -1,29 +1,14 @@
 #include "tools/large_file.h"
 
 #include <algorithm>
-#include <array>
 
+#include "places/disk_layout.h"
 #include "platform/formatting.h"
 #include "platform/unicode_text.h"
 
 namespace klarvik {
 
 namespace {
-
-struct Kind {
-  std::string_view name;
-  std::array<std::string_view, 7> extensions;
-};
-
-constexpr std::array<Kind, 7> kinds{{
-    {"Video", {"mp4", "mov", "avi", "mkv", "m4v"}},
-    {"Audio", {"m4a", "mp3", "wav", "aiff", "flac"}},
-    {"Archive", {"zip", "tar", "gz", "rar", "7z"}},
-    {"Disk image", {"dmg", "iso", "pkg", "sparsebundle"}},
-    {"Developer", {"xcarchive", "ipa", "dsym"}},
-    {"Document", {"pdf", "doc", "docx", "xls", "xlsx", "key", "pages"}},
-    {"Design", {"psd", "ai", "sketch", "fig"}},
-}};
 
 bool isLarger(const LargeFileList::value_type& left, const LargeFileList::value_type& right) {
   return left->size > right->size;
@@ -56,9 +41,9 @@ std::string_view LargeFile::kind() const {
   const std::string extension = lowercased(url.extension().native());
   if (extension.size() > 1) {
     const std::string_view wanted = std::string_view(extension).substr(1);
-    for (const Kind& kind : kinds) {
-      const auto& known = kind.extensions;
-      if (std::find(known.begin(), known.end(), wanted) != known.end()) return kind.name;
+    // Where the file lies tells the disk's layout as well as the home does.
+    for (const FileKindName& kind : layoutFor(url).fileKinds) {
+      if (std::ranges::find(kind.extensions, wanted) != kind.extensions.end()) return kind.name;
     }
   }
   return isDirectory ? "Folder" : "Other";

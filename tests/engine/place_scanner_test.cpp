@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -56,7 +57,9 @@ class LinuxDiskTest : public testing::Test {
   [[nodiscard]] CleanCategory find(CategoryType type) {
     const Platform used = platform();
     PlaceScanner scanner(used, {}, [](const JunkItem&) {});
-    return type == CategoryType::buildArtifacts ? scanner.findArtifacts() : scanner.find(type);
+    if (type == CategoryType::buildArtifacts) return scanner.findArtifacts();
+    if (type == CategoryType::trashBin) return scanner.findTrashed();
+    return scanner.find(type);
   }
 
   [[nodiscard]] std::vector<std::string> paths(CategoryType type) {
@@ -235,9 +238,111 @@ TEST_F(LinuxDiskTest, LeavesAnotherVolumeAlone) {
     file(".cache/unknown/mounted/far", big);
     EXPECT_EQ(paths(CategoryType::packageCaches), Names{});
     const CleanCategory found = find(CategoryType::systemData);
-    ASSERT_EQ(found.items.size(), 1U);
-    EXPECT_LT(found.items.front().size, static_cast<std::int64_t>(2 * big));
+    EXPECT_TRUE(found.items.empty());
+    ASSERT_EQ(found.hints.size(), 1U);
+    EXPECT_LT(found.hints.front().size, static_cast<std::int64_t>(2 * big));
+    EXPECT_EQ(found.hints.front().reason,
+              "Another volume is mounted inside of it, so that it cannot be removed.");
   }));
+}
+
+TEST_F(LinuxDiskTest, WaitsForNoServerThatDoesNotAnswer) {
+  constexpr std::array<const char*, 11> far{".cache/pip",
+                                            ".cache/unknown/far",
+                                            "Projects/far/node_modules",
+                                            "Documents/far",
+                                            "Videos",
+                                            "snap/far",
+                                            ".local/share/Trash/files/far",
+                                            "/tmp/far",
+                                            "/var/tmp/far",
+                                            ".config/far",
+                                            ".local/share/Steam"};
+  for (const char* name : far) folder(name);
+  file("Projects/far/package.json", 1);
+  file(".cache/unknown/own", big);
+  file(".cache/whole/own", big);
+  const bool passes = passesWithPrivateMounts([&] {
+    for (const char* name : far) {
+      if (!mountDead(onDisk(name))) GTEST_SKIP() << "no file system of a process can be mounted";
+    }
+    ::alarm(60);  // ends the process, should it wait
+    ScannerEngine engine(system);
+    std::vector<JunkItem> items;
+    Names told;
+    for (const CleanCategory& category : engine.scanAll({}, {}, {})) {
+      items.insert(items.end(), category.items.begin(), category.items.end());
+      for (const Hint& hint : category.hints) told.push_back(hint.path.filename().native());
+    }
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items.front().path, home / ".cache/whole");
+    EXPECT_GT(engine.deleteItem(items.front(), true).reclaimed, 0);
+    EXPECT_EQ(told, Names{"unknown"});
+    EXPECT_TRUE(std::filesystem::exists(onDisk(".cache/unknown/own")));
+  });
+  EXPECT_TRUE(passes);
+}
+
+TEST_F(LinuxDiskTest, TellsWhatBelongsToAnotherUser) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
+  constexpr uid_t nobody = 65'534;
+  file(".cache/pip/http/x", big);
+  file(".cache/go-build/x", big);
+  file(".cache/root's/deep/x", big);
+  ASSERT_EQ(::chown(onDisk(".cache/pip/http/x").c_str(), nobody, nobody), 0);
+  ASSERT_EQ(::chown(onDisk(".cache/root's").c_str(), nobody, nobody), 0);
+  for (const CategoryType type : {CategoryType::packageCaches, CategoryType::systemData}) {
+    const CleanCategory found = find(type);
+    ASSERT_EQ(found.hints.size(), 1U) << rawValue(type);
+    EXPECT_EQ(found.hints.front().reason,
+              "Some of it belongs to another user, so that it cannot be removed.");
+  }
+  EXPECT_EQ(paths(CategoryType::packageCaches), Names{".cache/go-build"});
+}
+
+TEST_F(LinuxDiskTest, PassesOverAFolderThatMayNotBeRead) {
+  if (::geteuid() == 0) GTEST_SKIP() << "root may read all";
+  file(".cache/pip/closed/x", big);
+  ASSERT_EQ(::chmod(onDisk(".cache/pip/closed").c_str(), 0), 0);
+  EXPECT_EQ(paths(CategoryType::packageCaches), Names{});
+  ASSERT_EQ(::chmod(onDisk(".cache/pip/closed").c_str(), 0755), 0);
+}
+
+TEST_F(LinuxDiskTest, OffersWhatIsInTheTrashForGoodAndTellsWhatCannotGo) {
+  file(".local/share/Trash/files/old", middling);
+  file(".local/share/Trash/files/keys.kdbx", middling);
+  file(".local/share/Trash/files/tree/deep/x", middling);
+  ASSERT_EQ(::chmod(onDisk(".local/share/Trash/files/tree/deep").c_str(), 0555), 0);
+  const CleanCategory found = find(CategoryType::trashBin);
+  ASSERT_EQ(found.items.size(), 1U);
+  EXPECT_EQ(found.items.front().name, "old");
+  EXPECT_TRUE(found.items.front().goesForGood);
+  Names told;
+  for (const Hint& hint : found.hints) told.push_back(hint.name);
+  std::ranges::sort(told);
+  EXPECT_EQ(told, (Names{"keys.kdbx", "tree"}));
+  ASSERT_EQ(::chmod(onDisk(".local/share/Trash/files/tree/deep").c_str(), 0755), 0);
+}
+
+TEST_F(LinuxDiskTest, ACategoryWithNothingButHintsIsFound) {
+  file("go/pkg/mod/x/file", big);
+  ScannerEngine engine(system);
+  const auto found = engine.scanAll({}, {}, {});
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_FALSE(found.front().hasItems());
+  EXPECT_EQ(found.front().hints.size(), 1U);
+}
+
+TEST_F(LinuxDiskTest, AHeldLockOfAProfileTellsThatItsProgramRuns) {
+  file(".config/google-chrome/Default/GPUCache/x");
+  link(".config/google-chrome/SingletonLock", "machine-12");
+  const auto closeFirst = [&] {
+    const CleanCategory found = find(CategoryType::browserCaches);
+    return found.items.empty() ? "nothing found" : found.items.front().closeFirst;
+  };
+  EXPECT_EQ(closeFirst(), "");
+  programs.running = {"SingletonLock"};
+  EXPECT_EQ(closeFirst(), "Google Chrome");
 }
 
 TEST_F(LinuxDiskTest, OffersOldTemporaryThingsOfTheUserForGood) {
@@ -354,6 +459,20 @@ TEST_F(LinuxDiskTest, OffersWhatABuildLeftBesideItsMarker) {
   for (const JunkItem& item : find(CategoryType::buildArtifacts).items) names.push_back(item.name);
   std::ranges::sort(names);
   EXPECT_EQ(names, (Names{"app/node_modules", "part/node_modules", "tool/target"}));
+}
+
+TEST_F(LinuxDiskTest, WhatWasBuiltJustNowComesAfterTheOtherArtifacts) {
+  for (const char* name : {"fresh", "old"}) {
+    file(Path(name) / "package.json", 1);
+    file(Path(name) / "node_modules/x", std::string(name) == "old" ? big : 2 * big);
+  }
+  age("old/node_modules/x", 2);
+  age("old/node_modules", 2);
+  const CleanCategory found = find(CategoryType::buildArtifacts);
+  ASSERT_EQ(found.items.size(), 2U);
+  EXPECT_EQ(found.items[0].name, "old/node_modules");
+  EXPECT_FALSE(found.items[0].wasJustUsed);
+  EXPECT_TRUE(found.items[1].wasJustUsed);
 }
 
 TEST_F(LinuxDiskTest, TakesNoFolderForAnArtifactThatMayBeSomethingElse) {

@@ -39,6 +39,28 @@ TEST(ProcessTable, KnowsAProgramByItsNameItsFileAndItsMainClass) {
   }
 }
 
+TEST(ProcessTable, ALockIsHeldWhileItsProcessRunsOrWhileNobodyCanTell) {
+  const TemporaryFolder folder;
+  folder.makeFile("/proc/10/comm", "firefox\n");
+  std::array<char, 256> machine{};
+  ASSERT_EQ(::gethostname(machine.data(), machine.size() - 1), 0);
+  const ProcessTable programs(folder.onDisk("/proc"));
+  const auto isHeld = [&](const std::string& text) {
+    std::filesystem::remove(folder.onDisk("/lock"));
+    folder.makeLink("/lock", text);
+    return programs.isLockHeld(folder.onDisk("/lock"));
+  };
+  EXPECT_TRUE(isHeld("127.0.1.1:+10"));
+  EXPECT_FALSE(isHeld("127.0.1.1:+11"));
+  EXPECT_TRUE(isHeld(std::string(machine.data()) + "-10"));
+  EXPECT_FALSE(isHeld(std::string(machine.data()) + "-11"));
+  EXPECT_TRUE(isHeld("another machine of the same home-11"));
+  for (const char* rubbish : {"x", "12", "host-", "-"}) EXPECT_FALSE(isHeld(rubbish)) << rubbish;
+  folder.makeFile("/no link", 1);
+  EXPECT_FALSE(programs.isLockHeld(folder.onDisk("/no link")));
+  EXPECT_FALSE(programs.isLockHeld(folder.onDisk("/missing")));
+}
+
 TEST(ProcessTable, KnowsAnApplicationInItsSandbox) {
   const TemporaryFolder table;
   addProcess(table, "10", "writer", "writer",

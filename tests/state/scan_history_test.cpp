@@ -67,6 +67,10 @@ TEST_F(ScanHistoryTest, AScanThatFoundNothingIsNotRecorded) {
   ScanHistory history(defaults, clock);
   history.recordScan({});
   EXPECT_TRUE(history.scans().empty());
+  CleanCategory told = category(CategoryType::packageCaches, {});
+  told.hints.push_back({.name = "uv", .path = "/uv", .size = 1, .reason = "", .command = ""});
+  history.recordScan({told});
+  EXPECT_TRUE(history.scans().empty());
   EXPECT_EQ(defaults.object(ScanHistory::scansKey), std::nullopt);
 }
 

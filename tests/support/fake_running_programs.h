@@ -17,6 +17,9 @@ class FakeRunningPrograms final : public RunningPrograms {
   [[nodiscard]] bool isSandboxRunning(std::string_view application) const override {
     return running.contains(std::string(application));
   }
+  [[nodiscard]] bool isLockHeld(const Path& link) const override {
+    return running.contains(link.filename().native());
+  }
   [[nodiscard]] bool hasOpen(const Path& path) const override { return open.contains(path); }
 
   std::set<std::string> running;

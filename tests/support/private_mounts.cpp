@@ -1,5 +1,6 @@
 #include "support/private_mounts.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
@@ -61,6 +62,16 @@ bool passesWithPrivateMounts(const std::function<void()>& body) {
 
 void mountTmpfs(const Path& folder, const char* options) {
   if (::mount("klarvik-test", folder.c_str(), "tmpfs", 0, options) != 0) giveUp("mount a tmpfs");
+}
+
+bool mountDead(const Path& folder) {
+  // Left open: the end of the process lets go of whoever waits.
+  const int server = ::open("/dev/fuse", O_RDWR | O_CLOEXEC);
+  if (server < 0) return false;
+  const std::string options =
+      "fd=" + std::to_string(server) + ",rootmode=40000,user_id=0,group_id=0";
+  return ::mount("klarvik-test", folder.c_str(), "fuse", MS_NOSUID | MS_NODEV, options.c_str()) ==
+         0;
 }
 
 void mountBind(const Path& folder, const Path& at) {

@@ -14,6 +14,9 @@ namespace klarvik {
 /// For use within: an empty file system in memory on `folder`. `options` are those of tmpfs, such
 /// as "size=64k".
 void mountTmpfs(const Path& folder, const char* options = "");
+/// A file system on `folder` whose server never answers: whoever looks into it waits until the
+/// process ends. False where the machine cannot mount one.
+[[nodiscard]] bool mountDead(const Path& folder);
 /// `folder` seen at `at` as well.
 void mountBind(const Path& folder, const Path& at);
 

@@ -3,10 +3,15 @@
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
 
 #include "places/disk_layout.h"
+#include "platform/linux/linux_platform.h"
 #include "support/child_process.h"
 #include "support/fake_desktop.h"
+#include "support/private_mounts.h"
 #include "support/sample_disk.h"
 #include "support/temporary_folder.h"
 #include "systemdata/system_data_engine.h"
@@ -365,6 +370,30 @@ TEST_F(AnalysisOnDisk, ToolsThatAreAbsentPrintRubbishOrTooMuchFindNothingThatIsN
   const auto items = analysis.items();
   ASSERT_THAT(items, SizeIs(1));
   EXPECT_EQ(items[0].name, "Snapshot: " + std::string(30, '.'));
+}
+
+TEST(AnalysisOfALinuxDisk, WaitsForNoServerThatDoesNotAnswer) {
+  const TemporaryFolder disk;
+  constexpr std::array<const char*, 5> far{"/home/ann/.local/share/far", "/home/ann/.cache/far",
+                                           "/home/ann/.var/app", "/home/ann/.hidden", "/tmp/far"};
+  for (const char* folder : far) disk.makeFolder(folder);
+  disk.makeFile("/home/ann/.local/share/writer/data", 40'000'000);
+  LinuxPlatform machine(disk.path(), "/home/ann");
+  const Platform platform = machine.platform();
+  const bool passes = passesWithPrivateMounts([&] {
+    for (const char* folder : far) {
+      if (!mountDead(disk.onDisk(folder))) GTEST_SKIP() << "no such file system can be mounted";
+    }
+    ::alarm(60);  // ends the process, should it wait
+    SystemDataEngine engine(platform);
+    std::vector<Path> found;
+    const SystemDataResult result = engine.analyse([](const std::string&, double) {});
+    for (const SystemDataItem& item : result.items()) {
+      if (item.path.native().starts_with("/home")) found.push_back(item.path);
+    }
+    EXPECT_THAT(found, ElementsAre("/home/ann/.local/share/writer"));
+  });
+  EXPECT_TRUE(passes);
 }
 
 }  // namespace

@@ -1,8 +1,15 @@
 #include "tools/disk_composition_engine.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
+#include <array>
+
+#include "platform/linux/linux_platform.h"
 #include "support/fake_desktop.h"
+#include "support/private_mounts.h"
+#include "support/temporary_folder.h"
+#include "tools/large_file_walker.h"
 
 namespace klarvik {
 namespace {
@@ -239,6 +246,52 @@ TEST(CompositionOfALinuxDisk, NamesNoOtherSystemAndCountsWhatIsKeptForRootAsFree
   EXPECT_EQ(found.usedBytes, 275 * gigabyte);
   EXPECT_THAT(labels, testing::Contains("Projects"));
   EXPECT_THAT(labels, testing::Not(testing::Contains(testing::HasSubstr("iCloud"))));
+}
+
+TEST(CompositionOfALinuxDisk, CountsAFolderOnceThatTheDesktopNamesTwiceOrWithinAnother) {
+  const TemporaryFolder disk;
+  disk.makeFile("/home/ann/.config/user-dirs.dirs",
+                "XDG_DOCUMENTS_DIR=\"$HOME/Files/Texts\"\nXDG_DOWNLOAD_DIR=\"$HOME/Files\"\n"
+                "XDG_PICTURES_DIR=\"$HOME/Shots\"\nXDG_VIDEOS_DIR=\"$HOME/Shots\"\n"
+                "XDG_MUSIC_DIR=\"$HOME\"\n");
+  disk.makeFile("/home/ann/Files/Texts/letter", 40'000'000);
+  disk.makeFile("/home/ann/Files/package", 10'000'000);
+  disk.makeFile("/home/ann/Shots/film", 20'000'000);
+  LinuxPlatform machine(disk.path(), "/home/ann");
+  const Platform platform = machine.platform();
+  std::int64_t inFolders = 0;
+  for (const Bucket& bucket :
+       DiskCompositionEngine(platform).measureDisk({}, [](auto&&...) {}).buckets) {
+    const bool isShown = bucket.id == "downloads" || bucket.id == "documents" ||
+                         bucket.id == "photos" || bucket.id == "movies" || bucket.id == "music";
+    if (isShown) inFolders += bucket.bytes;
+  }
+  EXPECT_GE(inFolders, 70'000'000);
+  EXPECT_LT(inFolders, 71'000'000);
+}
+
+/// Composition and large files ask for the same folders.
+TEST(CompositionOfALinuxDisk, WaitsForNoServerThatDoesNotAnswer) {
+  const TemporaryFolder disk;
+  constexpr std::array<const char*, 5> far{"/home/ann/Documents/far", "/home/ann/Videos",
+                                           "/home/ann/Projects/far", "/home/ann/.cache",
+                                           "/home/ann/Maildir"};
+  for (const char* folder : far) disk.makeFolder(folder);
+  disk.makeFile("/home/ann/Documents/letter", 40'000'000);
+  LinuxPlatform machine(disk.path(), "/home/ann");
+  const Platform platform = machine.platform();
+  const bool passes = passesWithPrivateMounts([&] {
+    for (const char* folder : far) {
+      if (!mountDead(disk.onDisk(folder))) GTEST_SKIP() << "no such file system can be mounted";
+    }
+    ::alarm(60);  // ends the process, should it wait
+    const auto found = DiskCompositionEngine(platform).measureDisk({}, [](auto&&...) {});
+    EXPECT_THAT(ids(found), ElementsAre("documents", "system"));
+    const auto large = LargeFileWalker(platform.files).walk(1'000'000, {}, {});
+    ASSERT_EQ(large.size(), 1U);
+    EXPECT_EQ(large.front()->url, "/home/ann/Documents/letter");
+  });
+  EXPECT_TRUE(passes);
 }
 
 }  // namespace

@@ -53,6 +53,17 @@ TEST(LargeFileKind, IsToldByTheExtension) {
   }
 }
 
+TEST(LargeFileKind, OfALinuxDiskHasItsOwnNames) {
+  const std::map<std::string, std::string> kinds{
+      {"a.qcow2", "Virtual machine"}, {"a.iso", "Disk image"},  {"a.deb", "Installer"},
+      {"a.AppImage", "Installer"},    {"a.webm", "Video"},      {"a.tar.zst", "Archive"},
+      {"a.odt", "Document"},          {"a.xcarchive", "Other"}, {"a.sparsebundle", "Other"},
+  };
+  for (const auto& [name, kind] : kinds) {
+    EXPECT_EQ(LargeFile{.url = "/home/ann/" + name}.kind(), kind) << name;
+  }
+}
+
 TEST(LargeFileKind, OfAnExtensionInUpperCaseIsTheSame) {
   EXPECT_EQ(named("holiday.MOV").kind(), "Video");
   EXPECT_EQ(named("a.tar.Gz").kind(), "Archive");

@@ -20,6 +20,7 @@ ToolGroupRow {
     required property string items
     required note
     required property bool isInUse
+    required property bool canSelect
     required property string size
     required description
 
@@ -33,6 +34,7 @@ ToolGroupRow {
     titleWeight: isCategory ? Font.Medium : Font.Normal
     titleColor: isShowMore ? Theme.accent : isHint ? Theme.textSecondary : Theme.textPrimary
     noteColor: isInUse ? Theme.review : Theme.textTertiary
+    canToggleSelection: canSelect
     showsBox: !isShowMore && !isHint
     canToggleExpanded: isCategory
     showsLeading: !isShowMore
@@ -42,7 +44,7 @@ ToolGroupRow {
     implicitHeight: SmartScanMetrics.rowHeight
     Accessible.role: isShowMore ? Accessible.Button : isCategory ? Accessible.TreeItem
                      : isHint ? Accessible.StaticText : Accessible.CheckBox
-    Accessible.checkable: isCategory || isItem
+    Accessible.checkable: canSelect
     Accessible.checked: selection === ReviewTableModel.All
     Accessible.checkStateMixed: selection === ReviewTableModel.Partial
 
@@ -59,6 +61,7 @@ ToolGroupRow {
         visible: root.isCategory
 
         SafetyTag {
+            visible: root.canSelect
             anchors.verticalCenter: parent.verticalCenter
             level: root.safety
         }

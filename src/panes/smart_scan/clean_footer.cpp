@@ -2,7 +2,6 @@
 
 #include "panes/smart_scan/smart_scan_texts.h"
 #include "places/disk_layout.h"
-#include "platform/file_system.h"
 #include "platform/user_defaults.h"
 
 namespace klarvik {
@@ -62,8 +61,7 @@ void CleanFooter::readSelection() {
 }
 
 std::string CleanFooter::fate(const ItemSum& selected) const {
-  const Words& words = layoutFor(_desktop.files.home()).words;
-  if (!words.fateOfSelection.empty()) return std::string(words.fateOfSelection);
+  if (!_appState.layout().tellsWhatGoesForGood) return "Items move to the Trash.";
   return smart_scan::fateOf(selected, _desktop.defaults.boolean("useTrash", true),
                             _desktop.formatting);
 }

@@ -24,17 +24,22 @@ bool CleanedBanner::isShown() const {
 }
 
 QString CleanedBanner::headline() const {
-  const auto inTrash = static_cast<std::int64_t>(summary().restorable.size());
-  const bool isMixed = inTrash > 0 && inTrash < summary().itemCount;
-  const bool tellsApart = _appState.layout().words.fateOfSelection.empty();
-  return QString::fromStdString(isMixed && tellsApart
+  return QString::fromStdString(tellsApart()
                                     ? smart_scan::cleanedApartHeadline(summary(), _formatting)
                                     : smart_scan::cleanedHeadline(summary(), _formatting));
 }
 
 QString CleanedBanner::detail() const {
-  return QString::fromStdString(
-      smart_scan::cleanedDetail(summary(), _diskMonitor.stats().freeBytes, _formatting));
+  const std::int64_t free = _diskMonitor.stats().freeBytes;
+  return QString::fromStdString(tellsApart()
+                                    ? smart_scan::cleanedApartDetail(free, _formatting)
+                                    : smart_scan::cleanedDetail(summary(), free, _formatting));
+}
+
+/// Whether some of it went to the Trash and some for good, and the user is told which.
+bool CleanedBanner::tellsApart() const {
+  const auto inTrash = static_cast<std::int64_t>(summary().restorable.size());
+  return _appState.layout().tellsWhatGoesForGood && inTrash > 0 && inTrash < summary().itemCount;
 }
 
 bool CleanedBanner::isRestorable() const {

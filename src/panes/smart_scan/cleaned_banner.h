@@ -44,6 +44,7 @@ class CleanedBanner : public QObject {
  private:
   QCoro::Task<> restoreLastClean();
   void setRestoring(bool restoring);
+  [[nodiscard]] bool tellsApart() const;
   [[nodiscard]] const AppState::CleanSummary& summary() const;
 
   AppState& _appState;

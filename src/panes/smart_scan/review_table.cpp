@@ -16,6 +16,8 @@
 namespace klarvik {
 namespace {
 
+constexpr QLatin1StringView hintsOnlyNote("Klarvik removes none of this itself.");
+
 /// What a row says that has nothing to say: a view binds every role of every row.
 QVariant nothing(int role) {
   switch (role) {
@@ -25,6 +27,7 @@ QVariant nothing(int role) {
       return 0;
     case ReviewTable::IsExpandedRole:
     case ReviewTable::IsInUseRole:
+    case ReviewTable::CanSelectRole:
       return false;
     case ReviewTable::UrlRole:
       return QUrl();
@@ -93,7 +96,8 @@ QHash<int, QByteArray> ReviewTable::roleNames() const {
           {IsExpandedRole, "isExpanded"},
           {DescriptionRole, "description"},
           {NoteRole, "note"},
-          {IsInUseRole, "isInUse"}};
+          {IsInUseRole, "isInUse"},
+          {CanSelectRole, "canSelect"}};
 }
 
 void ReviewTable::activate(int row) {
@@ -379,9 +383,13 @@ QVariant ReviewTable::rowDataOfCategory(const ShownCategory& shown, int role) co
     case SelectionRole:
       return static_cast<int>(selection(*category));
     case ItemsRole:
-      return QString::number(category->items.size());
+      return category->hasItems() ? QString::number(category->items.size()) : QString();
     case SizeRole:
-      return size;
+      return category->hasItems() ? size : QString();
+    case NoteRole:
+      return category->hasItems() ? QString() : QString(hintsOnlyNote);
+    case CanSelectRole:
+      return category->hasItems();
     case IsExpandedRole:
       return shown.isExpanded;
     case DescriptionRole:
@@ -441,6 +449,8 @@ QVariant ReviewTable::rowDataOfItem(const JunkItem& item, CategoryType type, int
       return printableText(smart_scan::itemNote(item));
     case IsInUseRole:
       return !item.closeFirst.empty();
+    case CanSelectRole:
+      return true;
     case DescriptionRole: {
       const QString note = printableText(smart_scan::itemNote(item));
       const QString verdict = verdictText(safety(type));

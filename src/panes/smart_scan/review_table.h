@@ -37,6 +37,7 @@ class ReviewTable : public QAbstractListModel {
     DescriptionRole,
     NoteRole,
     IsInUseRole,
+    CanSelectRole,
   };
 
   /// Items of an expanded category that show before the user asks for the rest.

@@ -98,6 +98,7 @@ std::vector<FoundRow> ScanningTable::currentRows() const {
   }
   std::vector<FoundRow> rows;
   for (const CleanCategory& category : _appState.scanResults()) {
+    if (!category.hasItems()) continue;
     const ItemSum found = _appState.selectedItems().total(category.id);
     rows.push_back({std::string(_appState.layout().label(category.type)), safety(category.type),
                     found.count, found.size});

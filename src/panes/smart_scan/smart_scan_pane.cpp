@@ -1,5 +1,6 @@
 #include "panes/smart_scan/smart_scan_pane.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "panes/smart_scan/smart_scan_texts.h"
@@ -59,7 +60,7 @@ QString SmartScanPane::actionTitle() const {
 
 bool SmartScanPane::offersSafeOnly() const {
   return std::holds_alternative<AppState::Done>(_appState.scanState()) &&
-         !_appState.scanResults().empty();
+         std::ranges::any_of(_appState.scanResults(), &CleanCategory::hasItems);
 }
 
 SmartScanPane::Body SmartScanPane::body() const {

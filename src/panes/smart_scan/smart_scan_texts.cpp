@@ -35,7 +35,8 @@ std::string resultSubtitle(const std::vector<CleanCategory>& results) {
   for (const CleanCategory& category : results) {
     items += category.items.size();
   }
-  return std::to_string(results.size()) + " categories · " + std::to_string(items) + " items";
+  const auto categories = std::ranges::count_if(results, &CleanCategory::hasItems);
+  return std::to_string(categories) + " categories · " + std::to_string(items) + " items";
 }
 
 std::string scanningHeadline(const AppState::ScanActivity& activity) {
@@ -76,8 +77,9 @@ std::string fateOf(const ItemSum& selected, bool useTrash, const Formatting& for
 }
 
 std::string itemNote(const JunkItem& item) {
-  if (item.closeFirst.empty()) return item.reason;
-  return "Close " + item.closeFirst + " first. " + item.reason;
+  std::string note = item.wasJustUsed ? "Used within the last day. " : "";
+  if (!item.closeFirst.empty()) note += "Close " + item.closeFirst + " first. ";
+  return note + item.reason;
 }
 
 std::string hintNote(const Hint& hint) {
@@ -99,6 +101,11 @@ std::string cleanedApartHeadline(const AppState::CleanSummary& summary,
   return formatting.byteText(summary.freed) + " · " + std::to_string(inTrash) +
          " items moved to Trash, " + std::to_string(summary.itemCount - inTrash) +
          " removed for good";
+}
+
+std::string cleanedApartDetail(std::int64_t freeBytes, const Formatting& formatting) {
+  return formatting.byteText(freeBytes) +
+         " free on disk — what went to the Trash takes its space until you empty it";
 }
 
 std::string cleanedHeadline(const AppState::CleanSummary& summary, const Formatting& formatting) {

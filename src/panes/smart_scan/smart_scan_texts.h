@@ -44,6 +44,7 @@ namespace klarvik::smart_scan {
 /// Where some of the items went to the Trash and some for good: how many of each.
 [[nodiscard]] std::string cleanedApartHeadline(const AppState::CleanSummary& summary,
                                                const Formatting& formatting);
+[[nodiscard]] std::string cleanedApartDetail(std::int64_t freeBytes, const Formatting& formatting);
 [[nodiscard]] std::string cleanedHeadline(const AppState::CleanSummary& summary,
                                           const Formatting& formatting);
 [[nodiscard]] std::string cleanedDetail(const AppState::CleanSummary& summary,

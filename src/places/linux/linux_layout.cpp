@@ -58,6 +58,50 @@ constexpr std::array<ProgramName, 29> programs{{
     {"wineserver", "all Windows programs"},
 }};
 
+constexpr std::array<ProgramLock, 18> programLocks{{
+    {"firefox", Base::home, ".mozilla/firefox/*/lock"},
+    {"firefox", Base::config, "mozilla/firefox/*/lock"},
+    {"firefox", Base::home, "snap/firefox/common/.mozilla/firefox/*/lock"},
+    {"firefox", Base::home, ".var/app/org.mozilla.firefox/.mozilla/firefox/*/lock"},
+    {"librewolf", Base::home, ".librewolf/*/lock"},
+    {"zen", Base::home, ".zen/*/lock"},
+    {"waterfox", Base::home, ".waterfox/*/lock"},
+    {"thunderbird", Base::home, ".thunderbird/*/lock"},
+    {"chrome", Base::config, "google-chrome*/SingletonLock"},
+    {"chrome", Base::home, ".var/app/com.google.Chrome/config/google-chrome/SingletonLock"},
+    {"chromium", Base::config, "chromium/SingletonLock"},
+    {"chromium", Base::home, "snap/chromium/common/chromium/SingletonLock"},
+    {"chromium", Base::home, ".var/app/org.chromium.Chromium/config/chromium/SingletonLock"},
+    {"brave", Base::config, "BraveSoftware/*/SingletonLock"},
+    {"msedge", Base::config, "microsoft-edge*/SingletonLock"},
+    {"vivaldi-bin", Base::config, "vivaldi*/SingletonLock"},
+    {"opera", Base::config, "opera*/SingletonLock"},
+    {"code", Base::config, "Code/SingletonLock"},
+}};
+
+constexpr std::array<std::string_view, 8> videos{"mp4", "mov",  "avi", "mkv",
+                                                 "m4v", "webm", "mpg", "wmv"};
+constexpr std::array<std::string_view, 7> audio{"m4a", "mp3", "wav", "aiff", "flac", "ogg", "opus"};
+constexpr std::array<std::string_view, 10> archives{"zip", "tar", "gz",  "rar", "7z",
+                                                    "xz",  "zst", "bz2", "tgz", "jar"};
+constexpr std::array<std::string_view, 3> diskImages{"iso", "img", "dmg"};
+constexpr std::array<std::string_view, 4> machines{"vdi", "qcow2", "vmdk", "vhdx"};
+constexpr std::array<std::string_view, 6> installers{"deb",     "rpm",        "appimage",
+                                                     "flatpak", "flatpakref", "snap"};
+constexpr std::array<std::string_view, 9> writings{"pdf", "doc", "docx", "xls", "xlsx",
+                                                   "odt", "ods", "odp",  "pptx"};
+constexpr std::array<std::string_view, 6> designs{"psd", "ai", "sketch", "fig", "xcf", "blend"};
+constexpr std::array<FileKindName, 8> fileKinds{{
+    {"Video", videos},
+    {"Audio", audio},
+    {"Archive", archives},
+    {"Disk image", diskImages},
+    {"Virtual machine", machines},
+    {"Installer", installers},
+    {"Document", writings},
+    {"Design", designs},
+}};
+
 // Neither trails nor applications of a Linux disk are known yet.
 constexpr TrailPlaces trailPlaces{};
 constexpr ApplicationPlaces applicationPlaces{};
@@ -72,9 +116,12 @@ const DiskLayout& layout() {
       .artifactsAbove = 10'000'000,
       .notSearchedForProjects = notSearchedForProjects,
       .programs = programs,
+      .programLocks = programLocks,
       .sizesAreWhole = true,
+      .tellsWhatGoesForGood = true,
       .desktopNamesFolders = true,
       .moreLargeFileFolders = {},
+      .fileKinds = fileKinds,
       .allVisibleFoldersMayBeLarge = true,
       .analysisPasses = analysisPasses(),
       .storageShares = storageShares(),

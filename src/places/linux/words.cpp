@@ -5,9 +5,15 @@ namespace klarvik::linux_disk {
 const Words words{
     .systemAndEverythingElse = "The system and everything else",
     .unnamedVolume = "System",
-    .fateOfSelection = "",
     .unnamedHomeVolume = "Home",
     .systemLine = "%1",
+
+    .folderAboveUnreadable = "The folder that it lies in cannot be opened.",
+    .liesElsewhere = "It really lies at %1, which Klarvik leaves alone.",
+    .holdsOtherVolume = "Another volume is mounted inside of it, so that it cannot be removed.",
+    .belongsToAnother = "Some of it belongs to another user, so that it cannot be removed.",
+    .holdsReadOnlyFolders =
+        "Some of its folders are read-only: the Trash could not be emptied of them again.",
 
     .showInFileManager = "Show in File Manager",
     .openTrash = "Open the Trash in your file manager",

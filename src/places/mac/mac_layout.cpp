@@ -23,6 +23,24 @@ constexpr std::array<ScanRow, 11> scanRows{{
 
 constexpr std::array<std::string_view, 2> moreLargeFileFolders{"Library/Developer",
                                                                "Library/Caches"};
+constexpr std::array<std::string_view, 5> videos{"mp4", "mov", "avi", "mkv", "m4v"};
+constexpr std::array<std::string_view, 5> audio{"m4a", "mp3", "wav", "aiff", "flac"};
+constexpr std::array<std::string_view, 5> archives{"zip", "tar", "gz", "rar", "7z"};
+constexpr std::array<std::string_view, 4> diskImages{"dmg", "iso", "pkg", "sparsebundle"};
+constexpr std::array<std::string_view, 3> developerFiles{"xcarchive", "ipa", "dsym"};
+constexpr std::array<std::string_view, 7> writings{"pdf",  "doc", "docx", "xls",
+                                                   "xlsx", "key", "pages"};
+constexpr std::array<std::string_view, 4> designs{"psd", "ai", "sketch", "fig"};
+constexpr std::array<FileKindName, 7> fileKinds{{
+    {"Video", videos},
+    {"Audio", audio},
+    {"Archive", archives},
+    {"Disk image", diskImages},
+    {"Developer", developerFiles},
+    {"Document", writings},
+    {"Design", designs},
+}};
+
 constexpr std::array<std::string_view, 3> protectedFiles{
     "Library/Application Support/com.apple.TCC/TCC.db",
     "Library/Safari/CloudTabs.db",
@@ -39,9 +57,12 @@ const DiskLayout& layout() {
       .artifactsAbove = 0,
       .notSearchedForProjects = {},
       .programs = {},
+      .programLocks = {},
       .sizesAreWhole = false,
+      .tellsWhatGoesForGood = false,
       .desktopNamesFolders = false,
       .moreLargeFileFolders = moreLargeFileFolders,
+      .fileKinds = fileKinds,
       .allVisibleFoldersMayBeLarge = false,
       .analysisPasses = analysisPasses(),
       .storageShares = storageShares(),

@@ -5,9 +5,15 @@ namespace klarvik::mac {
 const Words words{
     .systemAndEverythingElse = "macOS and everything else",
     .unnamedVolume = "Macintosh HD",
-    .fateOfSelection = "Items move to the Trash.",
     .unnamedHomeVolume = "Macintosh HD",
     .systemLine = "macOS %1",
+
+    // Its categories have methods of their own, which offer all that they find.
+    .folderAboveUnreadable = "",
+    .liesElsewhere = "",
+    .holdsOtherVolume = "",
+    .belongsToAnother = "",
+    .holdsReadOnlyFolders = "",
 
     .showInFileManager = "Show in Finder",
     .openTrash = "Open the Trash in Finder",

@@ -15,8 +15,8 @@ namespace {
 /// The one entry object of a walk, set to each entry in turn. Asks the system at most once.
 class VisitedEntry final : public WalkEntry {
  public:
-  VisitedEntry(const FolderTrail& trail, const Path& startPath)
-      : _trail(trail), _startPath(startPath) {}
+  VisitedEntry(const FolderTrail& trail, const Path& startPath, Waiting waiting)
+      : _trail(trail), _startPath(startPath), _waiting(waiting) {}
 
   void set(const ListedEntry& listed) {
     _name = listed.name;
@@ -67,7 +67,7 @@ class VisitedEntry final : public WalkEntry {
 
   bool ask() {
     if (!_asked) {
-      _status = statusOf(_trail.current(), _name.data());
+      _status = statusOf(_trail.current(), _name.data(), _waiting);
       _asked = true;
     }
     return _status.has_value();
@@ -75,6 +75,7 @@ class VisitedEntry final : public WalkEntry {
 
   const FolderTrail& _trail;
   const Path& _startPath;
+  const Waiting _waiting;
   std::string_view _name;
   FileKind _kind = FileKind::other;
   bool _asked = false;
@@ -84,7 +85,10 @@ class VisitedEntry final : public WalkEntry {
 class Walk {
  public:
   Walk(UniqueFd start, const Path& startPath, WalkOptions options, const WalkVisitor& visit)
-      : _trail(std::move(start)), _options(options), _visit(visit), _entry(_trail, startPath) {
+      : _trail(std::move(start)),
+        _options(options),
+        _visit(visit),
+        _entry(_trail, startPath, options.stayOnMount ? Waiting::forNobody : Waiting::forServer) {
     if (_options.stayOnMount) _mount = mountOf(_trail.current(), "");
   }
 

@@ -34,9 +34,10 @@ Date dateOf(std::int64_t seconds, std::int64_t nanoseconds) {
               std::chrono::nanoseconds(nanoseconds));
 }
 
-std::optional<struct statx> statusOf(int folder, const char* name) {
+std::optional<struct statx> statusOf(int folder, const char* name, Waiting waiting) {
   struct statx status;
-  const int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | (*name ? 0 : AT_EMPTY_PATH);
+  const int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | (*name ? 0 : AT_EMPTY_PATH) |
+                    (waiting == Waiting::forNobody ? AT_STATX_DONT_SYNC : 0);
   const unsigned mask = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
   const auto ask = [&] { return ::statx(folder, name, flags, mask, &status); };
   if (uninterrupted(ask) != 0) return std::nullopt;
@@ -91,7 +92,8 @@ FileAttributes attributesOf(const struct statx& status) {
                                    .inode = status.stx_ino},
           .names = status.stx_nlink,
           .isOwn = status.stx_uid == thisUser(),
-          .isReadOnly = (status.stx_mode & S_IWUSR) == 0};
+          .isReadOnly = (status.stx_mode & S_IWUSR) == 0,
+          .isMountPoint = (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0};
 }
 
 }  // namespace klarvik

@@ -11,9 +11,14 @@
 
 namespace klarvik {
 
+/// Whether a server is asked what has become of an entry on a volume of its own. One that does not
+/// answer would be waited for without end.
+enum class Waiting { forServer, forNobody };
+
 /// What the system tells of `name` in `folder` without following a link; of `folder` itself when
 /// `name` is empty. Nothing when it cannot be asked.
-[[nodiscard]] std::optional<struct statx> statusOf(int folder, const char* name);
+[[nodiscard]] std::optional<struct statx> statusOf(int folder, const char* name,
+                                                   Waiting waiting = Waiting::forServer);
 
 /// The mount on which `name` in `folder` lies, or `folder` itself when `name` is empty; of a folder
 /// where another volume is mounted, that volume's. A server that does not answer is not waited for.

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/utsname.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -31,6 +32,11 @@ bool isProcessOfThisUser(const Path& folder) {
   struct stat status {};
   return name.find_first_not_of("0123456789") == std::string::npos &&
          ::stat(folder.c_str(), &status) == 0 && status.st_uid == ::geteuid();
+}
+
+std::string machineName() {
+  struct utsname machine {};
+  return ::uname(&machine) == 0 ? machine.nodename : "";
 }
 
 /// Whether `holds` is true of the folder of one of this user's processes.
@@ -82,6 +88,17 @@ bool ProcessTable::isSandboxRunning(std::string_view application) const {
     const std::string groups = contentOf(process / "cgroup");
     return groups.find(flatpak) != std::string::npos || groups.find(snap) != std::string::npos;
   });
+}
+
+bool ProcessTable::isLockHeld(const Path& link) const {
+  std::error_code error;
+  const std::string text = std::filesystem::read_symlink(link, error).native();
+  const std::size_t end = text.find_last_not_of("0123456789");
+  if (error || end == std::string::npos || end + 1 == text.size()) return false;
+  // "machine-123", or the machine's address in front of ":+123".
+  const bool namesMachine = text[end] == '-';
+  if (namesMachine && text.substr(0, end) != machineName()) return true;
+  return std::filesystem::exists(_folder / text.substr(end + 1), error);
 }
 
 bool ProcessTable::hasOpen(const Path& path) const {

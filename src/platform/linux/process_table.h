@@ -12,6 +12,7 @@ class ProcessTable final : public RunningPrograms {
 
   [[nodiscard]] bool isRunning(std::string_view program) const override;
   [[nodiscard]] bool isSandboxRunning(std::string_view application) const override;
+  [[nodiscard]] bool isLockHeld(const Path& link) const override;
   [[nodiscard]] bool hasOpen(const Path& path) const override;
 
  private:

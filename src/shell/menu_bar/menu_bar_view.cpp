@@ -31,19 +31,20 @@ MenuBarView::MenuBarView(AppState& appState, TrashMonitor& trash, const Formatti
 }
 
 QList<MenuBarCategory> MenuBarView::categories() const {
-  const auto& found = _appState.scanResults();
   QList<MenuBarCategory> lines;
-  for (std::size_t at = 0; at < std::min(found.size(), menu_bar::shownCategories); ++at) {
-    const CategoryType type = found[at].type;
-    lines.push_back({text(icon(type)), Palette::systemColor(color(type)),
-                     text(_appState.layout().label(type)),
-                     text(found[at].formattedSize(_formatting))});
+  for (const CleanCategory& category : _appState.scanResults()) {
+    if (!category.hasItems()) continue;
+    if (lines.size() == menu_bar::shownCategories) break;
+    lines.push_back({text(icon(category.type)), Palette::systemColor(color(category.type)),
+                     text(_appState.layout().label(category.type)),
+                     text(category.formattedSize(_formatting))});
   }
   return lines;
 }
 
 QString MenuBarView::moreCategories() const {
-  return text(menu_bar::moreCategories(_appState.scanResults().size()));
+  const auto count = std::ranges::count_if(_appState.scanResults(), &CleanCategory::hasItems);
+  return text(menu_bar::moreCategories(static_cast<std::size_t>(count)));
 }
 
 QString MenuBarView::totalFound() const {

@@ -48,6 +48,36 @@ TEST_F(ReviewTableRows, DescribeACategory) {
   EXPECT_EQ(reviewed(0, ReviewTable::DescriptionRole), "App Caches, " + size + ", Safe");
 }
 
+TEST_F(ReviewTableRows, OfACategoryWithNothingButHintsCannotBeSelected) {
+  const AppState::Scan scan = [](const auto&, const auto&, const auto& onCategory) {
+    CleanCategory told{.type = CategoryType::packageCaches, .items = {}};
+    told.hints.push_back({.name = "Go modules",
+                          .path = "/home/ann/go/pkg/mod",
+                          .size = 5 * megabyte,
+                          .reason = "They are read-only.",
+                          .command = "go clean -modcache"});
+    onCategory(told);
+    return std::vector{told};
+  };
+  AppState state(desktop, shared.toolActivity(), shared.scanCoordinator(), shared.scanHistory(),
+                 shared.removalNotice(), nullptr, scan);
+  ReviewTable rows(state, desk.formatting);
+  QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::Fatal);
+  state.startScan();
+  ASSERT_TRUE(turnUntil([&] { return std::holds_alternative<AppState::Done>(state.scanState()); }));
+  ASSERT_EQ(rows.rowCount(), 1);
+  const QModelIndex category = rows.index(0);
+  EXPECT_FALSE(category.data(ReviewTable::CanSelectRole).toBool());
+  EXPECT_EQ(category.data(ReviewTable::NoteRole), "Klarvik removes none of this itself.");
+  EXPECT_EQ(category.data(ReviewTable::SizeRole), "");
+  rows.toggleSelection(0);
+  EXPECT_TRUE(state.selectedItems().empty());
+  rows.activate(0);
+  ASSERT_EQ(rows.rowCount(), 2);
+  EXPECT_EQ(rows.index(1).data(ReviewTable::NoteRole),
+            "They are read-only. Run: go clean -modcache");
+}
+
 TEST_F(ReviewTableRows, ShowEightItemsWithoutAButtonForMore) {
   for (int number = 0; number < 8; ++number) {
     addCache("cache-" + std::to_string(number));
