@@ -87,9 +87,7 @@ Gaps turnsUntilRows(LargeFileFinderView& pane, std::size_t rows) {
 
 void measureModel(const Desktop& desktop) {
   SharedState shared(desktop);
-  LargeFileFinderView pane({shared.scanCoordinator(), shared.toolActivity(),
-                            shared.permissionsManager(), shared.removalNotice()},
-                           desktop);
+  LargeFileFinderView pane(shared, desktop);
   const std::size_t before = mallinfo2().uordblks;
   pane.performAction();
   turnsUntilRows(pane, fileCount).print("model, while found");

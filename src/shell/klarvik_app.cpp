@@ -14,20 +14,8 @@ const WindowFrame settingsFrame = WindowFrame::fixed({600, 420});
 /// Its height follows what it has to say, once it is on the screen.
 const WindowFrame updateFrame{{460, 0}, {460, 160}, {460, WindowFrame::unbounded.height()}};
 
-/// A pane as the window shows it, with what it starts and finishes by itself, where it does.
-template <typename Pane>
-LandedPane landed(Section section, const QString& view, Pane& pane) {
-  LandedPane landed{section, QUrl("qrc:/Klarvik/Panes/" + view), &pane};
-  if constexpr (requires { pane.appear(); }) {
-    landed.appear = [&pane] { pane.appear(); };
-  }
-  if constexpr (requires { pane.stopRemovals(); }) {
-    landed.stopRemovals = [&pane] { pane.stopRemovals(); };
-  }
-  if constexpr (requires { pane.finishRemovals(); }) {
-    landed.finishRemovals = [&pane] { pane.finishRemovals(); };
-  }
-  return landed;
+LandedPane landed(Section section, const QString& view, ToolPane& pane) {
+  return {section, QUrl("qrc:/Klarvik/Panes/" + view), &pane};
 }
 
 }  // namespace
@@ -180,7 +168,7 @@ void KlarvikApp::makeShell() {
 void KlarvikApp::letPanesAppear() {
   for (const Section section : turnOrder()) {
     const auto pane = std::ranges::find(_panes, section, &LandedPane::section);
-    if (pane != _panes.end() && pane->appear) pane->appear();
+    if (pane != _panes.end()) pane->model->appear();
   }
 }
 
@@ -188,47 +176,20 @@ void KlarvikApp::letPanesAppear() {
 void KlarvikApp::finishRemovals() {
   appState().stopRemovals();
   _shared.trashMonitor().stopEmptying();
-  for (const LandedPane& pane : _panes) {
-    if (pane.stopRemovals) pane.stopRemovals();
-  }
+  for (const LandedPane& pane : _panes) pane.model->stopRemovals();
   appState().finishRemovals();
-  for (const LandedPane& pane : _panes) {
-    if (pane.finishRemovals) pane.finishRemovals();
-  }
+  for (const LandedPane& pane : _panes) pane.model->finishRemovals();
   _shared.trashMonitor().finishEmptying();
 }
 
 std::vector<LandedPane> KlarvikApp::landedPanes() {
-  _smartScanPane = std::make_unique<SmartScanPane>(
-      SmartScanPane::Sources{appState(), _shared.diskMonitor(), _shared.trashMonitor(),
-                             _shared.scanCoordinator(), _shared.toolActivity(),
-                             _shared.navigator()},
-      _desktop);
-  _storagePane = std::make_unique<StorageAnalyticsView>(
-      StorageAnalyticsView::Sources{_shared.scanHistory(), _shared.diskMonitor(),
-                                    _shared.permissionsManager()},
-      _desktop);
-  _duplicatesPane = std::make_unique<DuplicateFinderView>(
-      DuplicateFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                   _shared.permissionsManager(), _shared.removalNotice()},
-      _desktop);
-  _largeFilesPane = std::make_unique<LargeFileFinderView>(
-      LargeFileFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                   _shared.permissionsManager(), _shared.removalNotice()},
-      _desktop);
-  _systemDataPane = std::make_unique<SystemDataView>(
-      SystemDataView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                              _shared.permissionsManager(), _shared.trashMonitor(),
-                              _shared.removalNotice()},
-      _desktop);
-  _uninstallerPane = std::make_unique<AppUninstallerView>(
-      AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                  _shared.navigator(), _shared.removalNotice()},
-      _desktop);
-  _privacyPane = std::make_unique<PrivacyCleanerView>(
-      PrivacyCleanerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                  _shared.removalNotice()},
-      _desktop);
+  _smartScanPane = std::make_unique<SmartScanPane>(appState(), _shared, _desktop);
+  _storagePane = std::make_unique<StorageAnalyticsView>(_shared, _desktop);
+  _duplicatesPane = std::make_unique<DuplicateFinderView>(_shared, _desktop);
+  _largeFilesPane = std::make_unique<LargeFileFinderView>(_shared, _desktop);
+  _systemDataPane = std::make_unique<SystemDataView>(_shared, _desktop);
+  _uninstallerPane = std::make_unique<AppUninstallerView>(_shared, _desktop);
+  _privacyPane = std::make_unique<PrivacyCleanerView>(_shared, _desktop);
   return {
       landed(Section::smartScan, "SmartScanPane.qml", *_smartScanPane),
       landed(Section::storage, "StorageAnalyticsView.qml", *_storagePane),

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QObject>
 #include <QUrl>
-#include <functional>
 
+#include "panes/tool_pane.h"
 #include "state/section.h"
 
 namespace klarvik {
@@ -12,13 +11,7 @@ namespace klarvik {
 struct LandedPane {
   Section section = Section::smartScan;
   QUrl view;
-  QObject* model = nullptr;  ///< lives as long as the window
-  /// Once, when the window is on the screen: where a pane starts what it does by itself.
-  std::function<void()> appear = {};
-  /// For the end of the program: starts no further removal.
-  std::function<void()> stopRemovals = {};
-  /// The same, and waits for those in hand.
-  std::function<void()> finishRemovals = {};
+  ToolPane* model = nullptr;  ///< lives as long as the window
 };
 
 }  // namespace klarvik

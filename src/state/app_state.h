@@ -23,6 +23,7 @@
 #include "state/removal_notice.h"
 #include "state/scan_coordinator.h"
 #include "state/scan_history.h"
+#include "state/scan_session.h"
 #include "state/tool_activity.h"
 
 namespace klarvik {
@@ -139,7 +140,8 @@ class AppState : public QObject {
   /// Starts no further removal; what has gone by then is summarised and recorded like a whole
   /// clean.
   void cancelClean();
-  /// For the end of the program: starts no further removal. Nothing may be started afterwards.
+  /// For the end of the program: starts no further removal, and drops a running scan. Nothing may
+  /// be started afterwards.
   void stopRemovals();
   /// The same, and waits for the items in hand, and puts what went on record. A scan is not waited
   /// for.
@@ -179,7 +181,7 @@ class AppState : public QObject {
     ItemSelection safeItems;
   };
 
-  QCoro::Task<> runScan(std::stop_token cancelled);
+  [[nodiscard]] EngineRun::Job<ScanReport, Found> scanJob();
   void apply(ScanReport report);
   void applyUpdate(const ScanUpdate& update);
   void applyCategory(FoundCategory found);
@@ -212,7 +214,6 @@ class AppState : public QObject {
   void writeTotal();
 
   const Desktop& _desktop;
-  ToolActivity& _activity;
   ScanCoordinator& _coordinator;
   ScanHistory& _history;
   RemovalNotice& _notice;
@@ -227,10 +228,9 @@ class AppState : public QObject {
   std::optional<CleanSummary> _lastClean;
   ScanActivity _scanActivity;
   std::optional<DeletionProgress> _cleanProgress;
-  std::stop_source _scanTask{std::nostopstate};
   std::stop_source _cleanTask{std::nostopstate};
   std::stop_source _lifetime;
-  EngineWork _scanWork;
+  ScanSession _session;
   EngineWork _removalWork;
 };
 

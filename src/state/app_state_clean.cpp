@@ -148,6 +148,7 @@ void AppState::cancelClean() {
 
 void AppState::stopRemovals() {
   _lifetime.request_stop();
+  _session.drop();
 }
 
 void AppState::finishRemovals() {

@@ -39,7 +39,7 @@ class SidebarRows : public ::testing::Test {
   }
 
  private:
-  QObject _model;
+  ToolPane _model;
 
  protected:
   FakeDesktopOnDisk desk;
