@@ -17,6 +17,7 @@
 #include <utility>
 
 #include "own_time.h"
+#include "panes/large_files/large_file_finder_view.h"
 #include "platform/allocator.h"
 #include "platform/desktop/qt_clock.h"
 #include "shell/klarvik_app.h"

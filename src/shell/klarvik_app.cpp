@@ -14,10 +14,6 @@ const WindowFrame settingsFrame = WindowFrame::fixed({600, 420});
 /// Its height follows what it has to say, once it is on the screen.
 const WindowFrame updateFrame{{460, 0}, {460, 160}, {460, WindowFrame::unbounded.height()}};
 
-LandedPane landed(Section section, const QString& view, ToolPane& pane) {
-  return {section, QUrl("qrc:/Klarvik/Panes/" + view), &pane};
-}
-
 }  // namespace
 
 KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& loginItem,
@@ -158,7 +154,7 @@ void KlarvikApp::finishOnboarding(bool scans) {
 }
 
 void KlarvikApp::makeShell() {
-  _panes = landedPanes();
+  _panes = makePanes(appState(), _shared, _desktop);
   _shell = std::make_unique<AppShell>(_panes, appState(), _shared, _commands, _desktop);
   connect(_shell.get(), &AppShell::settingsAsked, this, [this] { openWindow(settingsWindowId); });
   _mainWindow.setShell(*_shell);
@@ -166,10 +162,9 @@ void KlarvikApp::makeShell() {
 
 /// In the order of their turns, since whoever asks first while nobody has it is given the turn.
 void KlarvikApp::letPanesAppear() {
-  for (const Section section : turnOrder()) {
-    const auto pane = std::ranges::find(_panes, section, &LandedPane::section);
-    if (pane != _panes.end()) pane->model->appear();
-  }
+  std::vector<LandedPane> inTurn = _panes;
+  std::ranges::sort(inTurn, {}, [](const LandedPane& pane) { return tool(pane.section).turn; });
+  for (const LandedPane& pane : inTurn) pane.model->appear();
 }
 
 /// All are stopped before one is waited for: else the others would go on removing meanwhile.
@@ -180,25 +175,6 @@ void KlarvikApp::finishRemovals() {
   appState().finishRemovals();
   for (const LandedPane& pane : _panes) pane.model->finishRemovals();
   _shared.trashMonitor().finishEmptying();
-}
-
-std::vector<LandedPane> KlarvikApp::landedPanes() {
-  _smartScanPane = std::make_unique<SmartScanPane>(appState(), _shared, _desktop);
-  _storagePane = std::make_unique<StorageAnalyticsView>(_shared, _desktop);
-  _duplicatesPane = std::make_unique<DuplicateFinderView>(_shared, _desktop);
-  _largeFilesPane = std::make_unique<LargeFileFinderView>(_shared, _desktop);
-  _systemDataPane = std::make_unique<SystemDataView>(_shared, _desktop);
-  _uninstallerPane = std::make_unique<AppUninstallerView>(_shared, _desktop);
-  _privacyPane = std::make_unique<PrivacyCleanerView>(_shared, _desktop);
-  return {
-      landed(Section::smartScan, "SmartScanPane.qml", *_smartScanPane),
-      landed(Section::storage, "StorageAnalyticsView.qml", *_storagePane),
-      landed(Section::duplicates, "DuplicateFinderView.qml", *_duplicatesPane),
-      landed(Section::largeFiles, "LargeFileFinderView.qml", *_largeFilesPane),
-      landed(Section::systemData, "SystemDataView.qml", *_systemDataPane),
-      landed(Section::uninstaller, "AppUninstallerView.qml", *_uninstallerPane),
-      landed(Section::privacy, "PrivacyCleanerView.qml", *_privacyPane),
-  };
 }
 
 }  // namespace klarvik
