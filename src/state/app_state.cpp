@@ -14,16 +14,15 @@ namespace klarvik {
 
 namespace {
 
-/// A category never changes once it is made, so its identity stands for its content.
-bool sameCategories(const std::vector<CleanCategory>& left,
-                    const std::vector<CleanCategory>& right) {
-  return std::ranges::equal(left, right, {}, &CleanCategory::id, &CleanCategory::id);
-}
-
 AppState::Scan scanWithFreshEngine(const Platform& platform) {
   return [&platform](std::stop_token stop, const ScannerEngine::UpdateSink& onUpdate,
                      const ScannerEngine::CategorySink& onCategory) {
-    return ScannerEngine(platform).scanAll(std::move(stop), onUpdate, onCategory);
+    std::vector<Uuid> order;
+    for (const auto& category :
+         ScannerEngine(platform).scanAll(std::move(stop), onUpdate, onCategory)) {
+      order.push_back(category.id);
+    }
+    return order;
   };
 }
 
@@ -49,7 +48,7 @@ const DiskLayout& AppState::layout() const {
 }
 
 void AppState::startScan() {
-  _session.start<ScanReport, Found>(scanJob());
+  _session.start(scanJob());
   setScanState(Scanning{0, "Starting scan"});
   setResults({}, {});
   if (changeTo(_expandedCategories, {})) emit expandedCategoriesChanged();
@@ -57,26 +56,15 @@ void AppState::startScan() {
   setLastClean(std::nullopt);
 }
 
-EngineRun::Job<AppState::ScanReport, AppState::Found> AppState::scanJob() {
+AppState::ScanJob AppState::scanJob() {
   auto work = [run = _scan](std::stop_token stop, const auto& post) {
-    std::map<Uuid, ItemSelection::Items> ranked;
-    const auto rank = [&](const CleanCategory& category) {
-      ItemSelection::Items& items = ranked[category.id];
-      if (items == nullptr) items = std::make_shared<const RankedItems>(category.items);
-      return items;
-    };
-    Found found;
-    found.categories = run(std::move(stop), post, [&](const CleanCategory& category) {
-      post(FoundCategory{category, rank(category)});
+    return run(std::move(stop), post, [&](const CleanCategory& category) {
+      post(FoundCategory{category, std::make_shared<const RankedItems>(category.items)});
     });
-    ItemSelection nothing;
-    for (const CleanCategory& category : found.categories) nothing.add(category, rank(category));
-    found.safeItems = nothing.safeItems();
-    return found;
   };
   return {.work = std::move(work),
           .report = [this](ScanReport report) { apply(std::move(report)); },
-          .finish = [this](Found found) { finishScan(std::move(found)); },
+          .finish = [this](const std::vector<Uuid>& order) { finishScan(order); },
           .replaces =
               [](const ScanReport& newer, const ScanReport& older) {
                 return std::holds_alternative<ScanUpdate>(newer) &&
@@ -106,22 +94,37 @@ void AppState::applyCategory(FoundCategory found) {
   const bool isSafe = safety(found.category.type) == SafetyLevel::safe;
   _selectedItems.add(found.category, std::move(found.items));
   const bool selects = isSafe && _selectedItems.selectUnused(found.category.id);
-  // A clean that was started meanwhile reads the former results on a thread of its own.
-  if (_scanResults.use_count() > 1) {
-    _scanResults = std::make_shared<std::vector<CleanCategory>>(*_scanResults);
-  }
-  _scanResults->push_back(std::move(found.category));
+  ownResults().push_back(std::move(found.category));
   emit scanResultsChanged();
   recomputeTotal();
   if (selects) emit selectedItemsChanged();
 }
 
-void AppState::finishScan(Found found) {
-  setResults(std::move(found.categories), std::move(found.safeItems));
+void AppState::finishScan(const std::vector<Uuid>& order) {
+  sortResults(order);
+  selectSafeItems();
   setScanState(Done{});
   _session.showSummary(_desktop.formatting.byteText(_totalSpaceFreeable));
   writeTotal();
   _history.recordScan(*_scanResults);
+}
+
+/// What a clean has changed meanwhile has another identity, and comes last.
+void AppState::sortResults(const std::vector<Uuid>& order) {
+  const auto place = [&order](const CleanCategory& category) {
+    return std::ranges::find(order, category.id);
+  };
+  if (std::ranges::is_sorted(*_scanResults, {}, place)) return;
+  std::ranges::stable_sort(ownResults(), {}, place);
+  emit scanResultsChanged();
+}
+
+/// A clean that was started meanwhile reads the former results on a thread of its own.
+std::vector<CleanCategory>& AppState::ownResults() {
+  if (_scanResults.use_count() > 1) {
+    _scanResults = std::make_shared<std::vector<CleanCategory>>(*_scanResults);
+  }
+  return *_scanResults;
 }
 
 void AppState::cancelScan() {
@@ -184,7 +187,7 @@ void AppState::setScanState(ScanState state) {
 }
 
 void AppState::setResults(std::vector<CleanCategory> results, ItemSelection selection) {
-  const bool resultsChange = !sameCategories(*_scanResults, results);
+  const bool resultsChange = !_scanResults->empty() || !results.empty();
   const bool selectionChanges = _selectedItems != selection;
   auto former =
       std::exchange(_scanResults, std::make_shared<std::vector<CleanCategory>>(std::move(results)));

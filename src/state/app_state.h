@@ -83,9 +83,10 @@ class AppState : public QObject {
     bool operator==(const CleanSummary&) const = default;
   };
 
-  /// Runs a Smart Scan on the calling thread, as `ScannerEngine::scanAll` does.
-  using Scan = std::function<std::vector<CleanCategory>(
-      std::stop_token, const ScannerEngine::UpdateSink&, const ScannerEngine::CategorySink&)>;
+  /// Runs a Smart Scan on the calling thread, as `ScannerEngine::scanAll` does. It tells each
+  /// category once, and answers the order in which they are to stand.
+  using Scan = std::function<std::vector<Uuid>(std::stop_token, const ScannerEngine::UpdateSink&,
+                                               const ScannerEngine::CategorySink&)>;
 
   /// Without a `scan` of its own, each scan is that of a fresh `ScannerEngine`.
   AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
@@ -166,7 +167,7 @@ class AppState : public QObject {
 
  private:
   /// As they were when they were last replaced, for whoever works on them off the main thread; only
-  /// a running scan adds to them in place.
+  /// a running scan adds to them and sorts them in place.
   using Results = std::shared_ptr<std::vector<CleanCategory>>;
 
   struct FoundCategory {
@@ -175,17 +176,15 @@ class AppState : public QObject {
   };
   using ScanReport = std::variant<ScanUpdate, FoundCategory>;
 
-  /// What a scan came back with.
-  struct Found {
-    std::vector<CleanCategory> categories;
-    ItemSelection safeItems;
-  };
+  using ScanJob = EngineRun::Job<ScanReport, std::vector<Uuid>>;
 
-  [[nodiscard]] EngineRun::Job<ScanReport, Found> scanJob();
+  [[nodiscard]] ScanJob scanJob();
   void apply(ScanReport report);
   void applyUpdate(const ScanUpdate& update);
   void applyCategory(FoundCategory found);
-  void finishScan(Found found);
+  void finishScan(const std::vector<Uuid>& order);
+  void sortResults(const std::vector<Uuid>& order);
+  [[nodiscard]] std::vector<CleanCategory>& ownResults();
   [[nodiscard]] bool hasNothingToShow() const;
 
   struct CleanPlan;
