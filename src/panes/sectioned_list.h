@@ -16,6 +16,7 @@ namespace klarvik {
 
 /// Items below the headings of their sections, as one flat list, and which of them are selected.
 /// Made for lists whose texts are quickly written: all rows are, when they come. Main thread only.
+/// Models name it with its namespace, since qmllint finds a base by its whole name.
 class SectionedList : public QAbstractListModel {
   Q_OBJECT
   QML_ANONYMOUS

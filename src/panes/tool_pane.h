@@ -5,7 +5,8 @@
 
 namespace klarvik {
 
-/// What the program asks of the model of a tool's pane, whatever the tool. Main thread only.
+/// What the program asks of the model of a tool's pane, whatever the tool. Main thread only. Models
+/// name it with its namespace, since qmllint finds a base by its whole name.
 class ToolPane : public QObject {
   Q_OBJECT
   QML_ANONYMOUS

@@ -32,7 +32,7 @@ namespace klarvik {
 /// one copy of each to the Trash. Right before a copy goes, the one that stays is read again: where
 /// it is gone or has changed, the copy stays as well. Main thread only; everything handed in must
 /// outlive it.
-class DuplicateFinderView : public ToolPane {
+class DuplicateFinderView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(DuplicateFinderModel)
   QML_UNCREATABLE("The pane makes it.")

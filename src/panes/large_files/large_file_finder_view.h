@@ -30,7 +30,7 @@ namespace klarvik {
 ///
 /// `files` changes with every report of the walk; the rows follow as soon as they have been
 /// filtered, ordered and compared off the main thread.
-class LargeFileFinderView : public ToolPane {
+class LargeFileFinderView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(LargeFileFinderModel)
   QML_UNCREATABLE("The pane makes it.")

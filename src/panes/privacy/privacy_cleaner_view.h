@@ -22,7 +22,7 @@ namespace klarvik {
 /// The pane that shows the trails of use, tells for each what clearing costs,
 /// and clears those selected. Main thread only; everything handed in must
 /// outlive it, and its destructor waits for a clearing under way.
-class PrivacyCleanerView : public ToolPane {
+class PrivacyCleanerView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(PrivacyCleanerModel)
   QML_UNCREATABLE("The program makes it.")

@@ -13,7 +13,7 @@ class Formatting;
 
 /// The trails that a scan found: for each section that holds one a heading, and below it the
 /// trails, largest first. Main thread only.
-class TrailList : public SectionedList {
+class TrailList : public klarvik::SectionedList {
   Q_OBJECT
   QML_NAMED_ELEMENT(TrailListModel)
   QML_UNCREATABLE("The pane makes it.")

@@ -21,7 +21,7 @@ namespace klarvik {
 /// The first section of the main window: a view of `AppState`, which keeps no scan data of its own.
 /// What is shown when, every text that follows a rule, and what each control does. Main thread
 /// only; everything handed in must outlive it.
-class SmartScanPane : public ToolPane {
+class SmartScanPane : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(SmartScanModel)
   QML_UNCREATABLE("The pane makes it.")

@@ -21,7 +21,7 @@ namespace klarvik {
 /// The Storage section: what fills the disk, once the user has asked for a measurement, and what
 /// the history of scans and cleans tells without reading the disk. It never measures by itself.
 /// Main thread only; everything handed in must outlive it.
-class StorageAnalyticsView : public ToolPane {
+class StorageAnalyticsView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(StorageAnalyticsModel)
   QML_UNCREATABLE("The pane makes it.")

@@ -28,7 +28,7 @@ namespace klarvik {
 /// The System Data section: an analysis when the user asks for one, its findings by kind, and the
 /// way of what is selected to the Trash. Removes nothing without a confirmation, and offers nothing
 /// that is protected. Main thread only; everything handed in must outlive it.
-class SystemDataView : public ToolPane {
+class SystemDataView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(SystemDataModel)
   QML_UNCREATABLE("The pane makes it.")

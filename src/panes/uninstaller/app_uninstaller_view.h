@@ -23,7 +23,7 @@ namespace klarvik {
 /// The pane that removes applications together with what they leave behind. It has two levels: the
 /// list of all applications, and one of them with its leftovers. Main thread only; everything
 /// handed in must outlive it, and its destructor waits for a removal under way.
-class AppUninstallerView : public ToolPane {
+class AppUninstallerView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(AppUninstallerModel)
   QML_UNCREATABLE("The program makes it.")

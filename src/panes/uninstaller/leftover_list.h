@@ -13,7 +13,7 @@ class Formatting;
 
 /// What the opened application has left behind: for each category that has something a heading,
 /// and below it the leftovers, largest first. Main thread only.
-class LeftoverList : public SectionedList {
+class LeftoverList : public klarvik::SectionedList {
   Q_OBJECT
   QML_NAMED_ELEMENT(LeftoverListModel)
   QML_UNCREATABLE("The pane makes it.")
