@@ -16,14 +16,8 @@ namespace {
 
 constexpr std::int64_t bytesPerMegabyte = 1'048'576;
 
-std::vector<PickedFile> pickedFiles(const std::vector<SelectedCopy>& copies) {
-  std::vector<PickedFile> all;
-  all.reserve(copies.size());
-  std::ranges::transform(copies, std::back_inserter(all), [](const SelectedCopy& copy) {
-    const DuplicateFile& file = copy.group->files[copy.file];
-    return PickedFile{file.url, file.url.filename().native(), file.size, file.identity};
-  });
-  return all;
+const DuplicateFile& fileOf(const SelectedCopy& copy) {
+  return copy.group->files[copy.file];
 }
 
 KeptCopies keptCopies(const std::vector<SelectedCopy>& copies) {
@@ -35,7 +29,7 @@ KeptCopies keptCopies(const std::vector<SelectedCopy>& copies) {
       keeper = std::make_shared<const KeptCopy>(
           KeptCopy{copy.group->files[copy.keeper].url, copy.group->hash});
     }
-    kept.try_emplace(copy.group->files[copy.file].url.native(), keeper);
+    kept.try_emplace(fileOf(copy).url.native(), keeper);
   }
   return kept;
 }
@@ -265,7 +259,7 @@ QCoro::Task<> DuplicateFinderView::moveSelectedToTrash() {
                stop = _deleteTask.get_token()](LeftAlone& leftAlone) {
     const std::vector<SelectedCopy> copies = selection.list();
     return PickedFilesRemoval::Pick{
-        pickedFiles(copies),
+        pickedFiles(copies, fileOf),
         keeperCheck(desktop.files, desktop.trash, keptCopies(copies), stop, &leftAlone)};
   };
   std::set<Path> trashed = co_await _removal.trash(_choice.totals().selectedCount, std::move(pick));

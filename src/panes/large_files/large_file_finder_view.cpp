@@ -26,15 +26,6 @@ int indexIn(const Choices& choices, const Choice& choice) {
       std::distance(choices.begin(), std::find(choices.begin(), choices.end(), choice)));
 }
 
-std::vector<PickedFile> picked(const LargeFileList& files) {
-  std::vector<PickedFile> all;
-  all.reserve(files.size());
-  std::ranges::transform(files, std::back_inserter(all), [](const auto& file) {
-    return PickedFile{file->url, file->url.filename().native(), file->size, file->identity};
-  });
-  return all;
-}
-
 }  // namespace
 
 LargeFileFinderView::LargeFileFinderView(SharedState& shared, const Desktop& desktop,
@@ -292,7 +283,8 @@ void LargeFileFinderView::stopTrashing() {
 
 QCoro::Task<> LargeFileFinderView::moveSelectedToTrash() {
   auto pick = [files = selectedFiles()](LeftAlone&) {
-    return PickedFilesRemoval::Pick{picked(files)};
+    return PickedFilesRemoval::Pick{
+        pickedFiles(files, [](const auto& file) -> const LargeFile& { return *file; })};
   };
   const std::set<Path> trashed = co_await _removal.trash(_selected.size(), std::move(pick));
   forget(trashed);
