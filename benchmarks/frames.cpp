@@ -115,9 +115,9 @@ void useTheWindow(KlarvikApp& app, Navigator& navigator) {
   });
   frames.measure("deselect one", [&] { table.toggleSelection(table.rowCount() - 1); });
   for (const bool isFirstVisit : {true, false}) {
-    for (const Section section : allSections()) {
+    for (const Tool& tool : tools()) {
       frames.measure(isFirstVisit ? "section, first" : "section, again",
-                     [&] { navigator.setSection(section); });
+                     [&] { navigator.setSection(tool.section); });
     }
   }
   navigator.setSection(Section::smartScan);

@@ -17,6 +17,7 @@
 #include <utility>
 
 #include "own_time.h"
+#include "panes/large_files/large_file_finder_view.h"
 #include "platform/allocator.h"
 #include "platform/desktop/qt_clock.h"
 #include "shell/klarvik_app.h"
@@ -87,9 +88,7 @@ Gaps turnsUntilRows(LargeFileFinderView& pane, std::size_t rows) {
 
 void measureModel(const Desktop& desktop) {
   SharedState shared(desktop);
-  LargeFileFinderView pane({shared.scanCoordinator(), shared.toolActivity(),
-                            shared.permissionsManager(), shared.removalNotice()},
-                           desktop);
+  LargeFileFinderView pane(shared, desktop);
   const std::size_t before = mallinfo2().uordblks;
   pane.performAction();
   turnsUntilRows(pane, fileCount).print("model, while found");

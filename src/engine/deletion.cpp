@@ -81,6 +81,7 @@ std::vector<DeletionOutcome> ScannerEngine::deleteItems(const std::vector<JunkIt
       [&](std::size_t number) { byNumber[number] = deleteItem(items[number], useTrash); },
       [&](std::size_t number) {
         outcomes.push_back(std::move(byNumber[number]));
+        outcomes.back().item = number;
         tally.add(items[number].name, outcomes.back().reclaimed);
       });
   return outcomes;

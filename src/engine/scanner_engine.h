@@ -43,6 +43,7 @@ struct DeletionOutcome {
   Path originalURL;
   /// Where the Trash put it; nothing when it is not there.
   std::optional<Path> trashedURL = std::nullopt;
+  std::size_t item = 0;  ///< its number in the list that `deleteItems` was given
 };
 
 /// A file that the user chose by hand.

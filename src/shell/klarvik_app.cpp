@@ -14,22 +14,6 @@ const WindowFrame settingsFrame = WindowFrame::fixed({600, 420});
 /// Its height follows what it has to say, once it is on the screen.
 const WindowFrame updateFrame{{460, 0}, {460, 160}, {460, WindowFrame::unbounded.height()}};
 
-/// A pane as the window shows it, with what it starts and finishes by itself, where it does.
-template <typename Pane>
-LandedPane landed(Section section, const QString& view, Pane& pane) {
-  LandedPane landed{section, QUrl("qrc:/Klarvik/Panes/" + view), &pane};
-  if constexpr (requires { pane.appear(); }) {
-    landed.appear = [&pane] { pane.appear(); };
-  }
-  if constexpr (requires { pane.stopRemovals(); }) {
-    landed.stopRemovals = [&pane] { pane.stopRemovals(); };
-  }
-  if constexpr (requires { pane.finishRemovals(); }) {
-    landed.finishRemovals = [&pane] { pane.finishRemovals(); };
-  }
-  return landed;
-}
-
 }  // namespace
 
 KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& loginItem,
@@ -170,7 +154,7 @@ void KlarvikApp::finishOnboarding(bool scans) {
 }
 
 void KlarvikApp::makeShell() {
-  _panes = landedPanes();
+  _panes = makePanes(appState(), _shared, _desktop);
   _shell = std::make_unique<AppShell>(_panes, appState(), _shared, _commands, _desktop);
   connect(_shell.get(), &AppShell::settingsAsked, this, [this] { openWindow(settingsWindowId); });
   _mainWindow.setShell(*_shell);
@@ -178,66 +162,19 @@ void KlarvikApp::makeShell() {
 
 /// In the order of their turns, since whoever asks first while nobody has it is given the turn.
 void KlarvikApp::letPanesAppear() {
-  for (const Section section : turnOrder()) {
-    const auto pane = std::ranges::find(_panes, section, &LandedPane::section);
-    if (pane != _panes.end() && pane->appear) pane->appear();
-  }
+  std::vector<LandedPane> inTurn = _panes;
+  std::ranges::sort(inTurn, {}, [](const LandedPane& pane) { return tool(pane.section).turn; });
+  for (const LandedPane& pane : inTurn) pane.model->appear();
 }
 
 /// All are stopped before one is waited for: else the others would go on removing meanwhile.
 void KlarvikApp::finishRemovals() {
   appState().stopRemovals();
   _shared.trashMonitor().stopEmptying();
-  for (const LandedPane& pane : _panes) {
-    if (pane.stopRemovals) pane.stopRemovals();
-  }
+  for (const LandedPane& pane : _panes) pane.model->stopRemovals();
   appState().finishRemovals();
-  for (const LandedPane& pane : _panes) {
-    if (pane.finishRemovals) pane.finishRemovals();
-  }
+  for (const LandedPane& pane : _panes) pane.model->finishRemovals();
   _shared.trashMonitor().finishEmptying();
-}
-
-std::vector<LandedPane> KlarvikApp::landedPanes() {
-  _smartScanPane = std::make_unique<SmartScanPane>(
-      SmartScanPane::Sources{appState(), _shared.diskMonitor(), _shared.trashMonitor(),
-                             _shared.scanCoordinator(), _shared.toolActivity(),
-                             _shared.navigator()},
-      _desktop);
-  _storagePane = std::make_unique<StorageAnalyticsView>(
-      StorageAnalyticsView::Sources{_shared.scanHistory(), _shared.diskMonitor(),
-                                    _shared.permissionsManager()},
-      _desktop);
-  _duplicatesPane = std::make_unique<DuplicateFinderView>(
-      DuplicateFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                   _shared.permissionsManager(), _shared.removalNotice()},
-      _desktop);
-  _largeFilesPane = std::make_unique<LargeFileFinderView>(
-      LargeFileFinderView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                   _shared.permissionsManager(), _shared.removalNotice()},
-      _desktop);
-  _systemDataPane = std::make_unique<SystemDataView>(
-      SystemDataView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                              _shared.permissionsManager(), _shared.trashMonitor(),
-                              _shared.removalNotice()},
-      _desktop);
-  _uninstallerPane = std::make_unique<AppUninstallerView>(
-      AppUninstallerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                  _shared.navigator(), _shared.removalNotice()},
-      _desktop);
-  _privacyPane = std::make_unique<PrivacyCleanerView>(
-      PrivacyCleanerView::Sources{_shared.scanCoordinator(), _shared.toolActivity(),
-                                  _shared.removalNotice()},
-      _desktop);
-  return {
-      landed(Section::smartScan, "SmartScanPane.qml", *_smartScanPane),
-      landed(Section::storage, "StorageAnalyticsView.qml", *_storagePane),
-      landed(Section::duplicates, "DuplicateFinderView.qml", *_duplicatesPane),
-      landed(Section::largeFiles, "LargeFileFinderView.qml", *_largeFilesPane),
-      landed(Section::systemData, "SystemDataView.qml", *_systemDataPane),
-      landed(Section::uninstaller, "AppUninstallerView.qml", *_uninstallerPane),
-      landed(Section::privacy, "PrivacyCleanerView.qml", *_privacyPane),
-  };
 }
 
 }  // namespace klarvik

@@ -5,13 +5,6 @@
 #include <stop_token>
 #include <vector>
 
-#include "panes/duplicates/duplicate_finder_view.h"
-#include "panes/large_files/large_file_finder_view.h"
-#include "panes/privacy/privacy_cleaner_view.h"
-#include "panes/smart_scan/smart_scan_pane.h"
-#include "panes/storage/storage_analytics_view.h"
-#include "panes/system_data/system_data_view.h"
-#include "panes/uninstaller/app_uninstaller_view.h"
 #include "platform/login_item.h"
 #include "platform/platform.h"
 #include "shell/app_commands.h"
@@ -22,6 +15,7 @@
 #include "shell/onboarding/onboarding_view.h"
 #include "shell/settings/general_settings_section.h"
 #include "shell/settings/settings_view.h"
+#include "shell/tool_panes.h"
 #include "shell/updates/update_settings_view.h"
 #include "shell/updates/update_window.h"
 #include "shell/windows.h"
@@ -68,7 +62,6 @@ class KlarvikApp : public QObject {
   void launch();
   void finishOnboarding(bool scans);
   void makeShell();
-  [[nodiscard]] std::vector<LandedPane> landedPanes();
   void letPanesAppear();
 
   const Desktop& _desktop;
@@ -77,14 +70,7 @@ class KlarvikApp : public QObject {
   std::stop_source _stop;
   std::unique_ptr<AppState> _appState;
   bool _onboardingComplete;
-  std::unique_ptr<SmartScanPane> _smartScanPane;
-  std::unique_ptr<StorageAnalyticsView> _storagePane;
-  std::unique_ptr<DuplicateFinderView> _duplicatesPane;
-  std::unique_ptr<LargeFileFinderView> _largeFilesPane;
-  std::unique_ptr<SystemDataView> _systemDataPane;
-  std::unique_ptr<AppUninstallerView> _uninstallerPane;
-  std::unique_ptr<PrivacyCleanerView> _privacyPane;
-  std::vector<LandedPane> _panes;  ///< in section order; none before the first run is through
+  std::vector<LandedPane> _panes;  ///< none before the first run is through
   AppCommands _commands;
   OnboardingView _onboarding;
   std::unique_ptr<AppShell> _shell;

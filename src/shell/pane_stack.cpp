@@ -28,7 +28,7 @@ QVariant PaneStack::data(const QModelIndex& index, int role) const {
     case ViewRole:
       return pane.view;
     case ModelRole:
-      return QVariant::fromValue(pane.model);
+      return QVariant::fromValue<QObject*>(pane.model.get());
     case IsSelectedRole:
       return pane.section == _navigator.section();
     default:

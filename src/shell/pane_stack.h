@@ -4,7 +4,7 @@
 #include <QAbstractListModel>
 #include <vector>
 
-#include "shell/landed_pane.h"
+#include "shell/tool_panes.h"
 #include "state/navigator.h"
 
 namespace klarvik {

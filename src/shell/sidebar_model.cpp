@@ -25,15 +25,15 @@ SidebarModel::SidebarModel(const std::vector<LandedPane>& panes, const AppState&
       _navigator(navigator),
       _formatting(formatting) {
   std::string_view group;
-  for (const Section section : allSections()) {
-    if (std::ranges::find(panes, section, &LandedPane::section) == panes.end()) {
+  for (const Tool& tool : tools()) {
+    if (std::ranges::find(panes, tool.section, &LandedPane::section) == panes.end()) {
       continue;
     }
-    if (sidebar::group(section) != group) {
-      group = sidebar::group(section);
+    if (tool.group != group) {
+      group = tool.group;
       _rows.push_back(heading(group));
     }
-    _rows.push_back(row(section));
+    _rows.push_back(row(tool.section));
   }
   connect(&appState, &AppState::scanStateChanged, this, &SidebarModel::update);
   connect(&coordinator, &ScanCoordinator::totalsChanged, this, &SidebarModel::update);
@@ -120,9 +120,9 @@ SidebarModel::Row SidebarModel::row(Section section) const {
   const auto help =
       sidebar::help(section, _coordinator.totals(), _appState.layout().words, _formatting);
   Row row;
-  row.title = text(title(section));
+  row.title = text(tool(section).title);
   row.section = section;
-  row.symbol = text(sidebar::symbol(section));
+  row.symbol = text(tool(section).symbol);
   row.help = help ? QString::fromStdString(*help) : row.title;
   row.rightHand = QString::fromStdString(rightHand.text);
   row.hasCheckmark = rightHand.hasCheckmark;

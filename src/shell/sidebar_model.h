@@ -5,7 +5,7 @@
 #include <QString>
 #include <vector>
 
-#include "shell/landed_pane.h"
+#include "shell/tool_panes.h"
 #include "state/app_state.h"
 #include "state/navigator.h"
 #include "state/scan_coordinator.h"

@@ -3,7 +3,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "places/words.h"
 #include "platform/formatting.h"
@@ -16,11 +15,6 @@
 namespace klarvik::sidebar {
 
 using Totals = std::map<std::string, ScanCoordinator::Total>;
-
-/// Empty for the one section that is drawn with the brand's own glyph.
-[[nodiscard]] std::string_view symbol(Section section);
-/// The heading that the section stands below; empty for the one that stands alone.
-[[nodiscard]] std::string_view group(Section section);
 
 [[nodiscard]] std::optional<std::string> trailing(Section section,
                                                   const AppState::ScanState& scanState,

@@ -8,23 +8,21 @@
 #include "platform/formatting.h"
 #include "state/change_to.h"
 #include "state/linked_stop.h"
-#include "state/report_mailbox.h"
 #include "state/section.h"
 
 namespace klarvik {
 
 namespace {
 
-/// A category never changes once it is made, so its identity stands for its content.
-bool sameCategories(const std::vector<CleanCategory>& left,
-                    const std::vector<CleanCategory>& right) {
-  return std::ranges::equal(left, right, {}, &CleanCategory::id, &CleanCategory::id);
-}
-
 AppState::Scan scanWithFreshEngine(const Platform& platform) {
   return [&platform](std::stop_token stop, const ScannerEngine::UpdateSink& onUpdate,
                      const ScannerEngine::CategorySink& onCategory) {
-    return ScannerEngine(platform).scanAll(std::move(stop), onUpdate, onCategory);
+    std::vector<Uuid> order;
+    for (const auto& category :
+         ScannerEngine(platform).scanAll(std::move(stop), onUpdate, onCategory)) {
+      order.push_back(category.id);
+    }
+    return order;
   };
 }
 
@@ -34,16 +32,15 @@ AppState::AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinat
                    ScanHistory& history, RemovalNotice& notice, QObject* parent, Scan scan)
     : QObject(parent),
       _desktop(desktop),
-      _activity(activity),
       _coordinator(coordinator),
       _history(history),
       _notice(notice),
-      _scan(scan ? std::move(scan) : scanWithFreshEngine(desktop)) {}
+      _scan(scan ? std::move(scan) : scanWithFreshEngine(desktop)),
+      _session(Section::smartScan, activity, coordinator, desktop.clock) {}
 
 AppState::~AppState() {
   blockSignals(true);
   finishRemovals();
-  _scanWork.finish();
 }
 
 const DiskLayout& AppState::layout() const {
@@ -51,51 +48,28 @@ const DiskLayout& AppState::layout() const {
 }
 
 void AppState::startScan() {
-  _scanTask.request_stop();
+  _session.start(scanJob());
   setScanState(Scanning{0, "Starting scan"});
   setResults({}, {});
   if (changeTo(_expandedCategories, {})) emit expandedCategoriesChanged();
   if (changeTo(_scanActivity, {})) emit scanActivityChanged();
   setLastClean(std::nullopt);
-  _activity.start(toolKey(Section::smartScan));
-  _scanTask = std::stop_source();
-  runScan(_scanTask.get_token());
 }
 
-QCoro::Task<> AppState::runScan(std::stop_token cancelled) {
-  const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
-  ReportMailbox<ScanReport> reports(
-      _desktop.clock,
-      [this, stopped = stop.token()](ScanReport report) {
-        // A scan that was stopped still ends the row in hand; what it says of that belongs to no
-        // state that the user has come to since, and least of all to another scan.
-        if (!stopped.stop_requested()) apply(std::move(report));
-      },
-      [](const ScanReport& newer, const ScanReport& older) {
-        return std::holds_alternative<ScanUpdate>(newer) &&
-               std::holds_alternative<ScanUpdate>(older);
-      });
-  auto scan = [&run = _scan, &reports, token = stop.token()] {
-    std::map<Uuid, ItemSelection::Items> ranked;
-    const auto rank = [&](const CleanCategory& category) {
-      ItemSelection::Items& items = ranked[category.id];
-      if (items == nullptr) items = std::make_shared<const RankedItems>(category.items);
-      return items;
-    };
-    Found found;
-    found.categories = run(
-        token, [&](const ScanUpdate& update) { reports.post(update); },
-        [&](const CleanCategory& category) {
-          reports.post(FoundCategory{category, rank(category)});
-        });
-    ItemSelection nothing;
-    for (const CleanCategory& category : found.categories) nothing.add(category, rank(category));
-    found.safeItems = nothing.safeItems();
-    return found;
+AppState::ScanJob AppState::scanJob() {
+  auto work = [run = _scan](std::stop_token stop, const auto& post) {
+    return run(std::move(stop), post, [&](const CleanCategory& category) {
+      post(FoundCategory{category, std::make_shared<const RankedItems>(category.items)});
+    });
   };
-  Found found = co_await onEngineThread(_scanWork, std::move(scan));
-  reports.empty();
-  if (!stop.token().stop_requested()) finishScan(std::move(found));
+  return {.work = std::move(work),
+          .report = [this](ScanReport report) { apply(std::move(report)); },
+          .finish = [this](const std::vector<Uuid>& order) { finishScan(order); },
+          .replaces =
+              [](const ScanReport& newer, const ScanReport& older) {
+                return std::holds_alternative<ScanUpdate>(newer) &&
+                       std::holds_alternative<ScanUpdate>(older);
+              }};
 }
 
 void AppState::apply(ScanReport report) {
@@ -108,7 +82,7 @@ void AppState::apply(ScanReport report) {
 
 void AppState::applyUpdate(const ScanUpdate& update) {
   setScanState(Scanning{update.fraction, update.categoryName});
-  _activity.setProgress(toolKey(Section::smartScan), update.fraction);
+  _session.showProgress(update.fraction);
   if (changeTo(_scanActivity,
                {update.categoryName, update.currentPath, update.partialItems, update.partialBytes,
                 update.completedCategories, update.totalCategories})) {
@@ -120,27 +94,41 @@ void AppState::applyCategory(FoundCategory found) {
   const bool isSafe = safety(found.category.type) == SafetyLevel::safe;
   _selectedItems.add(found.category, std::move(found.items));
   const bool selects = isSafe && _selectedItems.selectUnused(found.category.id);
-  // A clean that was started meanwhile reads the former results on a thread of its own.
-  if (_scanResults.use_count() > 1) {
-    _scanResults = std::make_shared<std::vector<CleanCategory>>(*_scanResults);
-  }
-  _scanResults->push_back(std::move(found.category));
+  ownResults().push_back(std::move(found.category));
   emit scanResultsChanged();
   recomputeTotal();
   if (selects) emit selectedItemsChanged();
 }
 
-void AppState::finishScan(Found found) {
-  setResults(std::move(found.categories), std::move(found.safeItems));
+void AppState::finishScan(const std::vector<Uuid>& order) {
+  sortResults(order);
+  selectSafeItems();
   setScanState(Done{});
-  _activity.finish(toolKey(Section::smartScan), _desktop.formatting.byteText(_totalSpaceFreeable));
+  _session.showSummary(_desktop.formatting.byteText(_totalSpaceFreeable));
   writeTotal();
   _history.recordScan(*_scanResults);
 }
 
+/// What a clean has changed meanwhile has another identity, and comes last.
+void AppState::sortResults(const std::vector<Uuid>& order) {
+  const auto place = [&order](const CleanCategory& category) {
+    return std::ranges::find(order, category.id);
+  };
+  if (std::ranges::is_sorted(*_scanResults, {}, place)) return;
+  std::ranges::stable_sort(ownResults(), {}, place);
+  emit scanResultsChanged();
+}
+
+/// A clean that was started meanwhile reads the former results on a thread of its own.
+std::vector<CleanCategory>& AppState::ownResults() {
+  if (_scanResults.use_count() > 1) {
+    _scanResults = std::make_shared<std::vector<CleanCategory>>(*_scanResults);
+  }
+  return *_scanResults;
+}
+
 void AppState::cancelScan() {
-  _scanTask.request_stop();
-  _activity.clear(toolKey(Section::smartScan));
+  _session.cancel();
   recomputeTotal();
   if (_scanResults->empty()) {
     setScanState(Idle{});
@@ -152,7 +140,7 @@ void AppState::cancelScan() {
 QCoro::Task<> AppState::autoScanIfNeeded(std::stop_token stop) {
   if (!hasNothingToShow()) co_return;
   const LinkedStop either(std::move(stop), _lifetime.get_token());
-  if (!co_await _coordinator.beginAutoScan(toolKey(Section::smartScan), either.token())) co_return;
+  if (!co_await _coordinator.beginAutoScan(_session.key(), either.token())) co_return;
   if (!hasNothingToShow()) {
     _coordinator.finishTurn();
     co_return;
@@ -199,11 +187,11 @@ void AppState::setScanState(ScanState state) {
 }
 
 void AppState::setResults(std::vector<CleanCategory> results, ItemSelection selection) {
-  const bool resultsChange = !sameCategories(*_scanResults, results);
+  const bool resultsChange = !_scanResults->empty() || !results.empty();
   const bool selectionChanges = _selectedItems != selection;
   auto former =
       std::exchange(_scanResults, std::make_shared<std::vector<CleanCategory>>(std::move(results)));
-  if (!former->empty()) _scanWork.discard(std::move(former));
+  if (!former->empty()) _session.discard(std::move(former));
   _selectedItems = std::move(selection);
   if (resultsChange) emit scanResultsChanged();
   recomputeTotal();
@@ -215,8 +203,7 @@ void AppState::recomputeTotal() {
 }
 
 void AppState::writeTotal() {
-  _coordinator.setTotal(toolKey(Section::smartScan),
-                        {_totalSpaceFreeable, _selectedItems.total().count, _desktop.clock.now()});
+  _session.setTotal(_totalSpaceFreeable, _selectedItems.total().count);
 }
 
 }  // namespace klarvik

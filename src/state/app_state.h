@@ -23,6 +23,7 @@
 #include "state/removal_notice.h"
 #include "state/scan_coordinator.h"
 #include "state/scan_history.h"
+#include "state/scan_session.h"
 #include "state/tool_activity.h"
 
 namespace klarvik {
@@ -82,9 +83,10 @@ class AppState : public QObject {
     bool operator==(const CleanSummary&) const = default;
   };
 
-  /// Runs a Smart Scan on the calling thread, as `ScannerEngine::scanAll` does.
-  using Scan = std::function<std::vector<CleanCategory>(
-      std::stop_token, const ScannerEngine::UpdateSink&, const ScannerEngine::CategorySink&)>;
+  /// Runs a Smart Scan on the calling thread, as `ScannerEngine::scanAll` does. It tells each
+  /// category once, and answers the order in which they are to stand.
+  using Scan = std::function<std::vector<Uuid>(std::stop_token, const ScannerEngine::UpdateSink&,
+                                               const ScannerEngine::CategorySink&)>;
 
   /// Without a `scan` of its own, each scan is that of a fresh `ScannerEngine`.
   AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinator& coordinator,
@@ -139,7 +141,8 @@ class AppState : public QObject {
   /// Starts no further removal; what has gone by then is summarised and recorded like a whole
   /// clean.
   void cancelClean();
-  /// For the end of the program: starts no further removal. Nothing may be started afterwards.
+  /// For the end of the program: starts no further removal, and drops a running scan. Nothing may
+  /// be started afterwards.
   void stopRemovals();
   /// The same, and waits for the items in hand, and puts what went on record. A scan is not waited
   /// for.
@@ -164,7 +167,7 @@ class AppState : public QObject {
 
  private:
   /// As they were when they were last replaced, for whoever works on them off the main thread; only
-  /// a running scan adds to them in place.
+  /// a running scan adds to them and sorts them in place.
   using Results = std::shared_ptr<std::vector<CleanCategory>>;
 
   struct FoundCategory {
@@ -173,17 +176,15 @@ class AppState : public QObject {
   };
   using ScanReport = std::variant<ScanUpdate, FoundCategory>;
 
-  /// What a scan came back with.
-  struct Found {
-    std::vector<CleanCategory> categories;
-    ItemSelection safeItems;
-  };
+  using ScanJob = EngineRun::Job<ScanReport, std::vector<Uuid>>;
 
-  QCoro::Task<> runScan(std::stop_token cancelled);
+  [[nodiscard]] ScanJob scanJob();
   void apply(ScanReport report);
   void applyUpdate(const ScanUpdate& update);
   void applyCategory(FoundCategory found);
-  void finishScan(Found found);
+  void finishScan(const std::vector<Uuid>& order);
+  void sortResults(const std::vector<Uuid>& order);
+  [[nodiscard]] std::vector<CleanCategory>& ownResults();
   [[nodiscard]] bool hasNothingToShow() const;
 
   struct CleanPlan;
@@ -212,7 +213,6 @@ class AppState : public QObject {
   void writeTotal();
 
   const Desktop& _desktop;
-  ToolActivity& _activity;
   ScanCoordinator& _coordinator;
   ScanHistory& _history;
   RemovalNotice& _notice;
@@ -227,10 +227,9 @@ class AppState : public QObject {
   std::optional<CleanSummary> _lastClean;
   ScanActivity _scanActivity;
   std::optional<DeletionProgress> _cleanProgress;
-  std::stop_source _scanTask{std::nostopstate};
   std::stop_source _cleanTask{std::nostopstate};
   std::stop_source _lifetime;
-  EngineWork _scanWork;
+  ScanSession _session;
   EngineWork _removalWork;
 };
 

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <iterator>
-#include <unordered_map>
 #include <utility>
 
 #include "platform/notification_center.h"
@@ -32,15 +31,10 @@ std::vector<ItemSelection::Remainder> leftWithout(const std::unordered_set<Uuid>
 
 }  // namespace
 
-/// What a clean is to remove, and which item each path stands for.
+/// What a clean is to remove.
 struct AppState::CleanPlan {
-  struct Target {
-    Uuid id;
-    CategoryType type;
-    std::optional<EntryIdentity> identity;
-  };
   std::vector<JunkItem> items;
-  std::unordered_map<std::string, Target> targets;  ///< by path
+  std::vector<CategoryType> types;  ///< of the items' categories
 };
 
 void AppState::setPendingCleanConfirmation(bool pending) {
@@ -96,7 +90,7 @@ AppState::CleanPlan AppState::planClean(const std::vector<CleanCategory>& result
     for (const JunkItem& item : category.items) {
       if (!selection.contains(item.id)) continue;
       plan.items.push_back(item);
-      plan.targets.try_emplace(item.path.native(), item.id, category.type, item.identity);
+      plan.types.push_back(category.type);
     }
   }
   return plan;
@@ -108,15 +102,13 @@ AppState::Cleaned AppState::sumUp(const CleanPlan& plan,
   CleanSummary& summary = cleaned.summary;
   for (const DeletionOutcome& outcome : outcomes) {
     if (outcome.reclaimed < 1) continue;
-    const auto target = plan.targets.find(outcome.originalURL.native());
-    if (target == plan.targets.end()) continue;
-    const auto& [id, type, identity] = target->second;
+    const JunkItem& item = plan.items[outcome.item];
     summary.freed = addBytes(summary.freed, outcome.reclaimed);
-    cleaned.removed.insert(id);
+    cleaned.removed.insert(item.id);
     if (outcome.trashedURL) {
-      summary.restorable.push_back({outcome.originalURL, *outcome.trashedURL, identity});
+      summary.restorable.push_back({item.path, *outcome.trashedURL, item.identity});
     }
-    std::int64_t& ofCategory = summary.cleanedCategories[type];
+    std::int64_t& ofCategory = summary.cleanedCategories[plan.types[outcome.item]];
     ofCategory = addBytes(ofCategory, outcome.reclaimed);
   }
   summary.itemCount = static_cast<std::int64_t>(cleaned.removed.size());
@@ -148,6 +140,7 @@ void AppState::cancelClean() {
 
 void AppState::stopRemovals() {
   _lifetime.request_stop();
+  _session.drop();
 }
 
 void AppState::finishRemovals() {

@@ -16,6 +16,19 @@
 
 namespace klarvik {
 
+/// The files that `fileOf` names of what was found, for a removal.
+template <typename Found, typename FileOf>
+[[nodiscard]] std::vector<PickedFile> pickedFiles(const std::vector<Found>& found,
+                                                  const FileOf& fileOf) {
+  std::vector<PickedFile> picked;
+  picked.reserve(found.size());
+  for (const Found& one : found) {
+    const auto& file = fileOf(one);
+    picked.push_back({file.url, file.url.filename().native(), file.size, file.identity});
+  }
+  return picked;
+}
+
 /// Moves files that the user picked to the Trash, for a pane that shows how it goes. One removal at
 /// a time. Main thread only. An owner that awaits `trash` begins its destructor with `finish`, so
 /// that it need not ask afterwards whether it still lives.

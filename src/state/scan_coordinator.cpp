@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <chrono>
-#include <iterator>
-#include <string_view>
+#include <limits>
 #include <utility>
 
 #include "platform/user_defaults.h"
+#include "state/section.h"
 #include "state/shared_state.h"
 #include "state/sleep_for.h"
 
@@ -17,20 +17,12 @@ namespace {
 using namespace std::chrono_literals;
 
 /// Place in the order of turns. A key that is no tool's comes last.
-std::ptrdiff_t rank(const std::string& key) {
-  return std::distance(
-      turnOrder().begin(),
-      std::ranges::find(turnOrder(), key, [](Section section) { return rawValue(section); }));
+int rank(const std::string& key) {
+  const Tool* const tool = toolOf(key);
+  return tool != nullptr ? tool->turn : std::numeric_limits<int>::max();
 }
 
 }  // namespace
-
-const std::array<Section, sectionCount>& turnOrder() {
-  static constexpr std::array order{Section::smartScan, Section::systemData, Section::uninstaller,
-                                    Section::privacy,   Section::largeFiles, Section::storage,
-                                    Section::duplicates};
-  return order;
-}
 
 /// Waits at the end of the queue until `finishTurn` picks the entry.
 struct ScanCoordinator::Turn {

@@ -2,7 +2,6 @@
 
 #include <QCoro/QCoroTask>
 #include <QObject>
-#include <array>
 #include <coroutine>
 #include <cstdint>
 #include <functional>
@@ -14,7 +13,6 @@
 
 #include "platform/date.h"
 #include "state/permissions_manager.h"
-#include "state/section.h"
 
 namespace klarvik {
 
@@ -73,9 +71,6 @@ class ScanCoordinator : public QObject {
   std::vector<Waiter> _waiting;
   std::set<std::string> _completedAutoScans;
 };
-
-/// The tools in the order in which they are given the turn, the most urgent first.
-[[nodiscard]] const std::array<Section, sectionCount>& turnOrder();
 
 /// Keeps the turn that the caller holds until `over` answers true, which is asked every 250
 /// milliseconds, until 900 seconds have passed or until a stop is requested; then gives it up. Once

@@ -1,56 +1,116 @@
 #include "state/section.h"
 
 #include <algorithm>
+#include <array>
+
+#include "places/words.h"
 
 namespace klarvik {
 
 namespace {
 
-struct Names {
-  std::string_view rawValue;
-  std::string_view title;
+constexpr std::string_view storageGroup = "STORAGE";
+constexpr std::string_view appsGroup = "APPS";
+constexpr Tool::Elsewhere notElsewhere{};
+
+constexpr std::array table{
+    Tool{.section = Section::smartScan,
+         .key = "smartScan",
+         .title = "Smart Scan",
+         .symbol = "",
+         .group = "",
+         .turn = 0,
+         .elsewhere = notElsewhere,
+         .help =
+             [](const Tool::Found& found) {
+               return found.bytes + " of junk found in " + found.items + " items";
+             }},
+    Tool{.section = Section::storage,
+         .key = "storage",
+         .title = "Storage",
+         .symbol = "chart.bar.fill",
+         .group = storageGroup,
+         .turn = 5,
+         .elsewhere = notElsewhere,
+         .help = nullptr},
+    Tool{.section = Section::duplicates,
+         .key = "duplicates",
+         .title = "Duplicates",
+         .symbol = "doc.on.doc",
+         .group = storageGroup,
+         .turn = 6,
+         .elsewhere = {1, "in extra copies"},
+         .help =
+             [](const Tool::Found& found) {
+               return found.bytes + " reclaimable across " + found.items + " extra copies";
+             }},
+    Tool{.section = Section::largeFiles,
+         .key = "largeFiles",
+         .title = "Large Files",
+         .symbol = "doc.text.magnifyingglass",
+         .group = storageGroup,
+         .turn = 4,
+         .elsewhere = {2, "in big files"},
+         .help =
+             [](const Tool::Found& found) {
+               return found.items + " files over the size threshold, " + found.bytes + " in total";
+             }},
+    Tool{.section = Section::systemData,
+         .key = "systemData",
+         .title = "System Data",
+         .symbol = "externaldrive",
+         .group = storageGroup,
+         .turn = 1,
+         .elsewhere = {0, "removable"},
+         .help =
+             [](const Tool::Found& found) {
+               return filledIn(found.words.systemDataHelp, found.bytes);
+             }},
+    Tool{.section = Section::uninstaller,
+         .key = "uninstaller",
+         .title = "Uninstaller",
+         .symbol = "square.dashed",
+         .group = appsGroup,
+         .turn = 2,
+         .elsewhere = notElsewhere,
+         .help =
+             [](const Tool::Found& found) {
+               return found.items + " apps installed, " + found.bytes + " on disk";
+             }},
+    Tool{.section = Section::privacy,
+         .key = "privacy",
+         .title = "Privacy",
+         .symbol = "shield",
+         .group = appsGroup,
+         .turn = 3,
+         .elsewhere = {3, "of browsing trails"},
+         .help = [](const Tool::Found& found) { return found.items + " trails, " + found.bytes; }},
 };
 
-const Names& names(Section section) {
-  static constexpr std::array<Names, sectionCount> table{{
-      {"smartScan", "Smart Scan"},
-      {"storage", "Storage"},
-      {"duplicates", "Duplicates"},
-      {"largeFiles", "Large Files"},
-      {"systemData", "System Data"},
-      {"uninstaller", "Uninstaller"},
-      {"privacy", "Privacy"},
-  }};
-  return table.at(static_cast<std::size_t>(section));
+constexpr bool everyRowStandsAtItsSection() {
+  std::size_t at = 0;
+  return std::ranges::all_of(
+      table, [&at](const Tool& tool) { return tool.section == static_cast<Section>(at++); });
 }
+static_assert(everyRowStandsAtItsSection());
 
 }  // namespace
 
-const std::array<Section, sectionCount>& allSections() {
-  static constexpr std::array<Section, sectionCount> sections{
-      Section::smartScan,  Section::storage,     Section::duplicates, Section::largeFiles,
-      Section::systemData, Section::uninstaller, Section::privacy};
-  return sections;
+std::span<const Tool> tools() {
+  return table;
 }
 
-std::string_view rawValue(Section section) {
-  return names(section).rawValue;
+const Tool& tool(Section section) {
+  return table[static_cast<std::size_t>(section)];
+}
+
+const Tool* toolOf(std::string_view key) {
+  const auto* const found = std::ranges::find(table, key, &Tool::key);
+  return found != table.end() ? found : nullptr;
 }
 
 std::string toolKey(Section section) {
-  return std::string(rawValue(section));
-}
-
-std::optional<Section> section(std::string_view text) {
-  const auto& sections = allSections();
-  const auto found = std::find_if(sections.begin(), sections.end(),
-                                  [&](Section known) { return rawValue(known) == text; });
-  if (found == sections.end()) return std::nullopt;
-  return *found;
-}
-
-std::string_view title(Section section) {
-  return names(section).title;
+  return std::string(tool(section).key);
 }
 
 }  // namespace klarvik

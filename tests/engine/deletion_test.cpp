@@ -221,6 +221,7 @@ TEST_F(Deletion, ReportsEachFinishedItemWithTheBytesSoFar) {
     EXPECT_EQ(reports[at].total, 50);
     EXPECT_EQ(reports[at].freed, static_cast<std::int64_t>(100 * (at + 1)));
     EXPECT_EQ(reports[at].currentName, outcomes[at].originalURL.filename());
+    EXPECT_EQ(items[outcomes[at].item].path, outcomes[at].originalURL);
   }
 }
 

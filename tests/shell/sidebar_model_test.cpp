@@ -17,7 +17,7 @@ class SidebarRows : public ::testing::Test {
   [[nodiscard]] std::vector<LandedPane> landed(const std::vector<Section>& sections) {
     std::vector<LandedPane> panes;
     for (const Section section : sections) {
-      panes.push_back({section, QUrl("qrc:/none.qml"), &_model});
+      panes.push_back({section, QUrl("qrc:/none.qml"), std::make_shared<ToolPane>()});
     }
     return panes;
   }
@@ -25,7 +25,9 @@ class SidebarRows : public ::testing::Test {
     return std::make_unique<AppShell>(landed(sections), appState, shared, commands, desk.desktop);
   }
   [[nodiscard]] std::unique_ptr<AppShell> shellWithAll() {
-    return shellWith({allSections().begin(), allSections().end()});
+    std::vector<Section> sections;
+    for (const Tool& tool : tools()) sections.push_back(tool.section);
+    return shellWith(sections);
   }
   static QVariant row(AppShell& shell, int at, SidebarModel::Role role) {
     return shell.sidebar()->index(at).data(role);
@@ -38,10 +40,6 @@ class SidebarRows : public ::testing::Test {
     return labels;
   }
 
- private:
-  QObject _model;
-
- protected:
   FakeDesktopOnDisk desk;
   AppCommands commands{std::vector<AppCommand>{}};
   SharedState shared{desk.desktop};
@@ -118,7 +116,7 @@ TEST_F(SidebarRows, TellTheViewOnlyOfWhatHasReallyChanged) {
 TEST_F(SidebarRows, KeepEveryPaneAliveAndShowTheSelectedOne) {
   const auto shell = shellWithAll();
   PaneStack& panes = *shell->panes();
-  ASSERT_EQ(panes.rowCount(), static_cast<int>(sectionCount));
+  ASSERT_EQ(panes.rowCount(), static_cast<int>(tools().size()));
   QSignalSpy removed(&panes, &PaneStack::rowsRemoved);
   const auto isSelected = [&](int at) {
     return panes.index(at).data(PaneStack::IsSelectedRole).toBool();

@@ -21,7 +21,7 @@ const DiskLayout& linuxDisk() {
 }
 
 Totals totalOf(Section section, std::int64_t bytes, std::int64_t items) {
-  return {{std::string(rawValue(section)), {bytes, items, Date{}}}};
+  return {{toolKey(section), {bytes, items, Date{}}}};
 }
 
 std::string helpOf(Section section, const DiskLayout& disk = macDisk()) {
@@ -41,18 +41,19 @@ TEST(SidebarLook, GivesEachSectionItsSymbolAndGroup) {
         Row{Section::systemData, "externaldrive", "STORAGE"},
         Row{Section::uninstaller, "square.dashed", "APPS"},
         Row{Section::privacy, "shield", "APPS"}}) {
-    EXPECT_EQ(symbol(row.section), row.symbol) << rawValue(row.section);
-    EXPECT_EQ(group(row.section), row.group) << rawValue(row.section);
+    EXPECT_EQ(tool(row.section).symbol, row.symbol) << toolKey(row.section);
+    EXPECT_EQ(tool(row.section).group, row.group) << toolKey(row.section);
   }
 }
 
 TEST(SidebarTrailing, IsTheTotalOfTheTool) {
-  for (const Section section : allSections()) {
+  for (const Tool& tool : tools()) {
+    const Section section = tool.section;
     const auto text = trailing(section, AppState::Done{}, totalOf(section, 12'000, 3), english());
     if (section == Section::storage) {
       EXPECT_FALSE(text.has_value());
     } else {
-      EXPECT_EQ(text, "12 KB") << rawValue(section);
+      EXPECT_EQ(text, "12 KB") << tool.key;
     }
   }
 }
@@ -89,10 +90,10 @@ TEST(SidebarHelp, NamesNoSystemOnALinuxDisk) {
 }
 
 TEST(SidebarHelp, IsAbsentWithoutATotalAndAtZeroBytes) {
-  for (const Section section : allSections()) {
-    EXPECT_FALSE(help(section, {}, macDisk().words, english())) << rawValue(section);
-    EXPECT_FALSE(help(section, totalOf(section, 0, 9), macDisk().words, english()))
-        << rawValue(section);
+  for (const Tool& tool : tools()) {
+    const Section section = tool.section;
+    EXPECT_FALSE(help(section, {}, macDisk().words, english())) << tool.key;
+    EXPECT_FALSE(help(section, totalOf(section, 0, 9), macDisk().words, english())) << tool.key;
   }
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <set>
 
 #include "platform/file_system.h"
 #include "state/app_state.h"
@@ -38,13 +39,19 @@ class ScriptedScan {
   }
   void category(int run, CleanCategory category) {
     identify(category);
+    _categoriesTold[run].insert(category.id);
     tell(run, [category](const auto&, const auto& onCategory) { onCategory(category); });
   }
-  /// The run comes back with `found`, once it has done all that it was told before.
-  void finish(int run, std::vector<CleanCategory> found) {
-    for (CleanCategory& category : found) identify(category);
+  /// The run ends with `found`, in this order, once it has done all that it was told before. Tells
+  /// those categories that it has not told yet.
+  void finish(int run, const std::vector<CleanCategory>& found) {
+    std::vector<Uuid> order;
+    for (const CleanCategory& one : found) {
+      if (!_categoriesTold[run].contains(one.id)) category(run, one);
+      order.push_back(one.id);
+    }
     const std::scoped_lock lock(_mutex);
-    _found[run] = std::move(found);
+    _order[run] = std::move(order);
     _told.notify_all();
   }
   /// How many runs have been asked to stop while they were waiting to be told more.
@@ -62,13 +69,13 @@ class ScriptedScan {
   bool endsWhenAskedToStop = true;
 
  private:
-  std::vector<CleanCategory> run(std::stop_token stop, const ScannerEngine::UpdateSink& onUpdate,
-                                 const ScannerEngine::CategorySink& onCategory) {
+  std::vector<Uuid> run(std::stop_token stop, const ScannerEngine::UpdateSink& onUpdate,
+                        const ScannerEngine::CategorySink& onCategory) {
     std::unique_lock lock(_mutex);
     const int number = _runs++;
     const std::stop_token heeded = endsWhenAskedToStop ? stop : std::stop_token();
     while (true) {
-      _told.wait(lock, heeded, [&] { return !_steps[number].empty() || _found.contains(number); });
+      _told.wait(lock, heeded, [&] { return !_steps[number].empty() || _order.contains(number); });
       if (_steps[number].empty()) break;
       const Step step = std::move(_steps[number].front());
       _steps[number].pop_front();
@@ -77,7 +84,7 @@ class ScriptedScan {
       lock.lock();
     }
     ++_ended;
-    return _found[number];
+    return _order[number];
   }
 
   void identify(CleanCategory& category) const {
@@ -90,7 +97,8 @@ class ScriptedScan {
   int _runs = 0;
   int _ended = 0;
   std::map<int, std::deque<Step>> _steps;
-  std::map<int, std::vector<CleanCategory>> _found;
+  std::map<int, std::vector<Uuid>> _order;
+  std::map<int, std::set<Uuid>> _categoriesTold;  ///< of each run
 };
 
 }  // namespace klarvik

@@ -7,15 +7,18 @@ namespace {
 
 TEST(Section, HasTheSevenToolsInTheOrderOfTheSidebar) {
   std::vector<std::string_view> keys;
-  for (const Section section : allSections()) keys.push_back(rawValue(section));
+  for (const Tool& tool : tools()) keys.push_back(tool.key);
   EXPECT_EQ(keys, (std::vector<std::string_view>{"smartScan", "storage", "duplicates", "largeFiles",
                                                  "systemData", "uninstaller", "privacy"}));
 }
 
-TEST(Section, IsFoundAgainByItsRawValue) {
-  for (const Section known : allSections()) EXPECT_EQ(section(rawValue(known)), known);
-  EXPECT_EQ(section("smartscan"), std::nullopt);
-  EXPECT_EQ(section(""), std::nullopt);
+TEST(Section, IsFoundAgainByItsKey) {
+  for (const Tool& known : tools()) {
+    EXPECT_EQ(toolOf(known.key), &known);
+    EXPECT_EQ(&tool(known.section), &known);
+  }
+  EXPECT_EQ(toolOf("smartscan"), nullptr);
+  EXPECT_EQ(toolOf(""), nullptr);
 }
 
 }  // namespace

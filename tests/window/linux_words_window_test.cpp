@@ -8,6 +8,8 @@
 #include <set>
 #include <vector>
 
+#include "places/disk_layout.h"
+#include "systemdata/system_data_sub_category.h"
 #include "window_fixture.h"
 
 namespace klarvik {

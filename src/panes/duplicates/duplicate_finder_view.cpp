@@ -9,8 +9,6 @@
 #include "core/shown_folders.h"
 #include "platform/notification_center.h"
 #include "platform/open_panel.h"
-#include "state/change_to.h"
-#include "state/report_mailbox.h"
 #include "state/section.h"
 
 namespace klarvik {
@@ -18,14 +16,8 @@ namespace {
 
 constexpr std::int64_t bytesPerMegabyte = 1'048'576;
 
-std::vector<PickedFile> pickedFiles(const std::vector<SelectedCopy>& copies) {
-  std::vector<PickedFile> all;
-  all.reserve(copies.size());
-  std::ranges::transform(copies, std::back_inserter(all), [](const SelectedCopy& copy) {
-    const DuplicateFile& file = copy.group->files[copy.file];
-    return PickedFile{file.url, file.url.filename().native(), file.size, file.identity};
-  });
-  return all;
+const DuplicateFile& fileOf(const SelectedCopy& copy) {
+  return copy.group->files[copy.file];
 }
 
 KeptCopies keptCopies(const std::vector<SelectedCopy>& copies) {
@@ -37,22 +29,21 @@ KeptCopies keptCopies(const std::vector<SelectedCopy>& copies) {
       keeper = std::make_shared<const KeptCopy>(
           KeptCopy{copy.group->files[copy.keeper].url, copy.group->hash});
     }
-    kept.try_emplace(copy.group->files[copy.file].url.native(), keeper);
+    kept.try_emplace(fileOf(copy).url.native(), keeper);
   }
   return kept;
 }
 
 }  // namespace
 
-DuplicateFinderView::DuplicateFinderView(const Sources& sources, const Desktop& desktop,
+DuplicateFinderView::DuplicateFinderView(SharedState& shared, const Desktop& desktop,
                                          QObject* parent)
-    : QObject(parent),
-      _coordinator(sources.coordinator),
-      _activity(sources.activity),
-      _permissions(sources.permissions),
+    : ToolPane(parent),
+      _permissions(shared.permissionsManager()),
       _desktop(desktop),
       _rows(_choice, desktop),
-      _removal(desktop, sources.notice) {
+      _removal(desktop, shared.removalNotice()),
+      _scan(Section::duplicates, shared.toolActivity(), shared.scanCoordinator(), desktop.clock) {
   const UserFolders shown = shownFolders(desktop.files);
   _scanDirs =
       withoutNested({shown.documents, shown.downloads, shown.desktop}, desktop.files.home());
@@ -60,10 +51,8 @@ DuplicateFinderView::DuplicateFinderView(const Sources& sources, const Desktop& 
 }
 
 DuplicateFinderView::~DuplicateFinderView() {
-  _lifetime.request_stop();
-  if (_scanTask) _scanTask->request_stop();
+  _scan.drop();
   finishRemovals();
-  _work.finish();
 }
 
 QString DuplicateFinderView::title() const {
@@ -71,11 +60,11 @@ QString DuplicateFinderView::title() const {
 }
 
 QString DuplicateFinderView::subtitle() const {
-  if (_isScanning) {
+  if (isScanning()) {
     return duplicates::scanningSubtitle(foundCount(), currentPath(), _desktop.files.home());
   }
-  return _hasScanned ? duplicates::foundSubtitle(groups().size(), extraCopies())
-                     : duplicates::unscannedSubtitle();
+  return hasScanned() ? duplicates::foundSubtitle(groups().size(), extraCopies())
+                      : duplicates::unscannedSubtitle();
 }
 
 QString DuplicateFinderView::actionTitle() const {
@@ -84,8 +73,8 @@ QString DuplicateFinderView::actionTitle() const {
 
 Placeholder DuplicateFinderView::placeholder() const {
   if (!groups().empty()) return {};
-  if (_isScanning) return duplicates::hashing();
-  return _hasScanned ? duplicates::nothingFound() : duplicates::notScanned(_scanDirs);
+  if (isScanning()) return duplicates::hashing();
+  return hasScanned() ? duplicates::nothingFound() : duplicates::notScanned(_scanDirs);
 }
 
 QStringList DuplicateFinderView::folderHelps() const {
@@ -117,12 +106,7 @@ QString DuplicateFinderView::deleteButtonTitle() const {
 }
 
 void DuplicateFinderView::appear() {
-  runAutoScanWithAccess(_permissions, _coordinator, _desktop.clock,
-                        {.key = toolKey(Section::duplicates),
-                         .isNeeded = [this] { return !_isScanning && !_hasScanned; },
-                         .start = [this] { startScan(); },
-                         .isRunning = [this] { return _isScanning; }},
-                        _lifetime.get_token());
+  _scan.startInTurnWithAccess(_permissions, [this] { startScan(); });
 }
 
 void DuplicateFinderView::finishRemovals() {
@@ -132,7 +116,7 @@ void DuplicateFinderView::finishRemovals() {
 
 void DuplicateFinderView::performAction() {
   if (isDeleting()) return;
-  if (_isScanning) return cancelScan();
+  if (isScanning()) return cancelScan();
   askAndScan();
 }
 
@@ -144,59 +128,42 @@ void DuplicateFinderView::askAndScan() {
 
 void DuplicateFinderView::startScan() {
   // The prompt may have ended after a scan or a deletion was started another way.
-  if (_isScanning || isDeleting()) return;
+  if (isScanning() || isDeleting()) return;
   _report = {};
-  setScanning(true, _hasScanned);
+  _scan.start<DuplicateProgress, ChosenGroups>(
+      {.work =
+           [&files = _desktop.files, folders = _scanDirs](std::stop_token, const auto& post) {
+             DuplicateScanner scanner(files);
+             return unchosen(scanner.scan(
+                 folders, static_cast<std::int64_t>(minSizeMB) * bytesPerMegabyte, post));
+           },
+       .report = [this](DuplicateProgress report) { scanMovedOn(std::move(report)); },
+       .finish = [this](ChosenGroups found) { scanFinished(std::move(found)); }});
+  scanningChanged();
   setGroups({});
-  _activity.start(toolKey(Section::duplicates));
-  scan(_scanTask.emplace().get_token());
 }
 
-/// The search itself runs on to its end; what it brings is nobody's.
+/// The search itself cannot be stopped: it works on to its end, unseen.
 void DuplicateFinderView::cancelScan() {
-  _scanTask->request_stop();
-  _scanTask.reset();
-  setScanning(false, true);
-  _activity.clear(toolKey(Section::duplicates));
-}
-
-QCoro::Task<> DuplicateFinderView::scan(std::stop_token stop) {
-  ReportMailbox<DuplicateProgress> reports(_desktop.clock, [this, stop](DuplicateProgress report) {
-    if (!stop.stop_requested()) scanMovedOn(std::move(report));
-  });
-  auto search = [&files = _desktop.files, folders = _scanDirs, &reports] {
-    DuplicateScanner scanner(files);
-    return unchosen(scanner.scan(folders, static_cast<std::int64_t>(minSizeMB) * bytesPerMegabyte,
-                                 [&](const DuplicateProgress& report) { reports.post(report); }));
-  };
-  ChosenGroups found = co_await onEngineThread(_work, std::move(search));
-  reports.empty();
-  if (stop.stop_requested()) {
-    _work.discard(std::move(found));
-  } else {
-    scanFinished(std::move(found));
-  }
+  _scan.cancel();
+  scanningChanged();
 }
 
 void DuplicateFinderView::scanMovedOn(DuplicateProgress report) {
   _report = std::move(report);
-  _activity.setProgress(toolKey(Section::duplicates), _report.fraction);
+  _scan.showProgress(_report.fraction);
   emit subtitleChanged();
 }
 
 void DuplicateFinderView::scanFinished(ChosenGroups groups) {
-  _scanTask.reset();
   setGroups(std::move(groups));
-  setScanning(false, true);
-  _activity.finish(toolKey(Section::duplicates),
-                   duplicates::finishedSummary(_choice.groups().size()));
+  scanningChanged();
+  _scan.showSummary(duplicates::finishedSummary(_choice.groups().size()));
   writeTotal();
 }
 
-void DuplicateFinderView::setScanning(bool isScanning, bool hasScanned) {
-  const bool isOther = changeTo(_isScanning, isScanning);
-  if (!changeTo(_hasScanned, hasScanned) && !isOther) return;
-  if (isOther) emit isScanningChanged();
+void DuplicateFinderView::scanningChanged() {
+  emit isScanningChanged();
   emit subtitleChanged();
   emit placeholderChanged();
 }
@@ -204,7 +171,7 @@ void DuplicateFinderView::setScanning(bool isScanning, bool hasScanned) {
 void DuplicateFinderView::setGroups(ChosenGroups groups) {
   const Placeholder before = placeholder();
   _rows.removeAll();
-  _work.discard(_choice.replace(std::move(groups)));
+  _scan.discard(_choice.replace(std::move(groups)));
   _rows.insertAll();
   if (placeholder() != before) emit placeholderChanged();
   emit totalsChanged();
@@ -226,7 +193,7 @@ void DuplicateFinderView::addFolders(const std::vector<Path>& folders) {
   }
   emit scanDirsChanged();
   emit placeholderChanged();
-  if (!_isScanning && !isDeleting()) askAndScan();
+  if (!isScanning() && !isDeleting()) askAndScan();
 }
 
 void DuplicateFinderView::removeFolder(int index) {
@@ -278,26 +245,26 @@ void DuplicateFinderView::keepInstead(int row) {
 }
 
 void DuplicateFinderView::deleteSelected() {
-  if (canDelete() && !isDeleting() && !_isScanning) moveSelectedToTrash();
+  if (canDelete() && !isDeleting() && !isScanning()) moveSelectedToTrash();
 }
 
 void DuplicateFinderView::stopDeleting() {
-  if (_deleteTask) _deleteTask->request_stop();
+  _deleteTask.request_stop();
   _removal.cancel();
 }
 
 QCoro::Task<> DuplicateFinderView::moveSelectedToTrash() {
+  _deleteTask = std::stop_source();
   auto pick = [&desktop = _desktop, selection = _choice.selection(),
-               stop = _deleteTask.emplace().get_token()](LeftAlone& leftAlone) {
+               stop = _deleteTask.get_token()](LeftAlone& leftAlone) {
     const std::vector<SelectedCopy> copies = selection.list();
     return PickedFilesRemoval::Pick{
-        pickedFiles(copies),
+        pickedFiles(copies, fileOf),
         keeperCheck(desktop.files, desktop.trash, keptCopies(copies), stop, &leftAlone)};
   };
   std::set<Path> trashed = co_await _removal.trash(_choice.totals().selectedCount, std::move(pick));
-  _deleteTask.reset();
   forget(trashed);
-  _work.discard(std::move(trashed));
+  _scan.discard(std::move(trashed));
   writeTotal();
   _desktop.notifications.post(diskChangedNotification);
 }
@@ -308,7 +275,7 @@ void DuplicateFinderView::forget(const std::set<Path>& trashed) {
   const Placeholder before = placeholder();
   const DuplicateChoice::GroupSet dissolved = _choice.dissolvedBy(gone);
   _rows.removeFiles(gone, dissolved);
-  _work.discard(_choice.remove(gone, dissolved));
+  _scan.discard(_choice.remove(gone, dissolved));
   _rows.allChanged();
   if (placeholder() != before) emit placeholderChanged();
   emit subtitleChanged();
@@ -316,9 +283,7 @@ void DuplicateFinderView::forget(const std::set<Path>& trashed) {
 }
 
 void DuplicateFinderView::writeTotal() {
-  _coordinator.setTotal(
-      toolKey(Section::duplicates),
-      {.bytes = reclaimable(), .items = extraCopies(), .measuredAt = _desktop.clock.now()});
+  _scan.setTotal(reclaimable(), extraCopies());
 }
 
 }  // namespace klarvik

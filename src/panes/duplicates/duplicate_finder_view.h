@@ -19,12 +19,11 @@
 #include "panes/duplicates/duplicates_texts.h"
 #include "panes/duplicates/keeper_check.h"
 #include "panes/kit/tool_rules.h"
+#include "panes/tool_pane.h"
 #include "platform/platform.h"
-#include "state/engine_work.h"
-#include "state/permissions_manager.h"
 #include "state/picked_files_removal.h"
-#include "state/scan_coordinator.h"
-#include "state/tool_activity.h"
+#include "state/scan_session.h"
+#include "state/shared_state.h"
 #include "tools/duplicate_scanner.h"
 
 namespace klarvik {
@@ -33,7 +32,7 @@ namespace klarvik {
 /// one copy of each to the Trash. Right before a copy goes, the one that stays is read again: where
 /// it is gone or has changed, the copy stays as well. Main thread only; everything handed in must
 /// outlive it.
-class DuplicateFinderView : public QObject {
+class DuplicateFinderView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(DuplicateFinderModel)
   QML_UNCREATABLE("The pane makes it.")
@@ -59,17 +58,9 @@ class DuplicateFinderView : public QObject {
  public:
   using KeepRule = DuplicateSelection::KeepRule;
 
-  /// The observable objects that the pane uses.
-  struct Sources {
-    ScanCoordinator& coordinator;
-    ToolActivity& activity;
-    PermissionsManager& permissions;
-    RemovalNotice& notice;
-  };
-
   static constexpr double minSizeMB = 1.0;
 
-  DuplicateFinderView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
+  DuplicateFinderView(SharedState& shared, const Desktop& desktop, QObject* parent = nullptr);
   /// Starts no further removal and waits for those in hand; waits for scans as well, also for those
   /// that were cancelled, since they cannot be stopped.
   ~DuplicateFinderView() override;
@@ -80,8 +71,8 @@ class DuplicateFinderView : public QObject {
   [[nodiscard]] const std::unordered_map<Uuid, Uuid>& keepOverrides() const {
     return _choice.keepOverrides();
   }
-  [[nodiscard]] bool isScanning() const { return _isScanning; }
-  [[nodiscard]] bool hasScanned() const { return _hasScanned; }
+  [[nodiscard]] bool isScanning() const { return _scan.isRunning(); }
+  [[nodiscard]] bool hasScanned() const { return _scan.hasScanned(); }
   [[nodiscard]] double progress() const { return _report.fraction; }
   [[nodiscard]] std::int64_t foundCount() const { return _report.groupsFound; }
   [[nodiscard]] const std::string& currentPath() const { return _report.line; }
@@ -115,12 +106,10 @@ class DuplicateFinderView : public QObject {
   [[nodiscard]] bool canDelete() const { return _choice.totals().selectedCount > 0; }
   [[nodiscard]] QString footerHint() const { return duplicates::footerHint(); }
 
-  /// For the moment when the pane is first there: scans by itself, once its turn has come.
-  void appear();
-  /// For the end of the program: starts no further removal.
-  void stopRemovals() { stopDeleting(); }
-  /// The same, and waits for those in hand.
-  void finishRemovals();
+  /// Scans by itself, once its turn has come.
+  void appear() override;
+  void stopRemovals() override { stopDeleting(); }
+  void finishRemovals() override;
 
   /// The header's main button: gives a running scan up, else starts one. Nothing during a deletion.
   Q_INVOKABLE void performAction();
@@ -150,10 +139,9 @@ class DuplicateFinderView : public QObject {
   void askAndScan();
   void startScan();
   void cancelScan();
-  QCoro::Task<> scan(std::stop_token stop);
   void scanMovedOn(DuplicateProgress report);
   void scanFinished(ChosenGroups groups);
-  void setScanning(bool isScanning, bool hasScanned);
+  void scanningChanged();
   void setGroups(ChosenGroups groups);
   void addFolders(const std::vector<Path>& folders);
 
@@ -162,23 +150,17 @@ class DuplicateFinderView : public QObject {
   void writeTotal();
   [[nodiscard]] bool holds(int row) const { return row >= 0 && row < _rows.rowCount(); }
 
-  ScanCoordinator& _coordinator;
-  ToolActivity& _activity;
   PermissionsManager& _permissions;
   const Desktop& _desktop;
 
   std::vector<Path> _scanDirs;
   DuplicateChoice _choice;
   DuplicateRows _rows;
-  bool _isScanning = false;
-  bool _hasScanned = false;
   DuplicateProgress _report;  ///< the latest one
 
-  std::optional<std::stop_source> _scanTask;
-  std::optional<std::stop_source> _deleteTask;
-  std::stop_source _lifetime;
+  std::stop_source _deleteTask{std::nostopstate};
   PickedFilesRemoval _removal;
-  EngineWork _work;
+  ScanSession _scan;
 };
 
 }  // namespace klarvik

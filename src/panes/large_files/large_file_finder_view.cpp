@@ -11,7 +11,6 @@
 #include "platform/file_system.h"
 #include "platform/notification_center.h"
 #include "state/change_to.h"
-#include "state/report_mailbox.h"
 #include "state/section.h"
 
 namespace klarvik {
@@ -27,37 +26,25 @@ int indexIn(const Choices& choices, const Choice& choice) {
       std::distance(choices.begin(), std::find(choices.begin(), choices.end(), choice)));
 }
 
-std::vector<PickedFile> picked(const LargeFileList& files) {
-  std::vector<PickedFile> all;
-  all.reserve(files.size());
-  std::ranges::transform(files, std::back_inserter(all), [](const auto& file) {
-    return PickedFile{file->url, file->url.filename().native(), file->size, file->identity};
-  });
-  return all;
-}
-
 }  // namespace
 
-LargeFileFinderView::LargeFileFinderView(const Sources& sources, const Desktop& desktop,
+LargeFileFinderView::LargeFileFinderView(SharedState& shared, const Desktop& desktop,
                                          QObject* parent)
-    : QObject(parent),
-      _coordinator(sources.coordinator),
-      _activity(sources.activity),
-      _permissions(sources.permissions),
+    : ToolPane(parent),
+      _permissions(shared.permissionsManager()),
       _desktop(desktop),
       _rows(_selected, desktop),
-      _removal(desktop, sources.notice) {
+      _removal(desktop, shared.removalNotice()),
+      _scan(Section::largeFiles, shared.toolActivity(), shared.scanCoordinator(), desktop.clock) {
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
           &LargeFileFinderView::placeholderChanged);
   connect(&_removal, &PickedFilesRemoval::changed, this, &LargeFileFinderView::deletionChanged);
 }
 
 LargeFileFinderView::~LargeFileFinderView() {
-  _lifetime.request_stop();
-  if (_scanTask) _scanTask->request_stop();
-  ++_scansStarted;  // what the walk brings now is nobody's
-  _removal.finish();
-  _work.finish();
+  _scan.drop();
+  finishRemovals();
+  _arranging.finish();
 }
 
 LargeFileList LargeFileFinderView::selectedFiles() const {
@@ -72,9 +59,9 @@ QString LargeFileFinderView::title() const {
 }
 
 QString LargeFileFinderView::subtitle() const {
-  if (_isScanning) return large_files::scanningSubtitle(_currentPath);
-  return _hasScanned ? large_files::foundSubtitle(_files->size(), _thresholdMB)
-                     : large_files::unscannedSubtitle();
+  if (isScanning()) return large_files::scanningSubtitle(_currentPath);
+  return hasScanned() ? large_files::foundSubtitle(_files->size(), _thresholdMB)
+                      : large_files::unscannedSubtitle();
 }
 
 QString LargeFileFinderView::actionTitle() const {
@@ -83,9 +70,9 @@ QString LargeFileFinderView::actionTitle() const {
 
 Placeholder LargeFileFinderView::placeholder() const {
   if (!_files->empty()) return {};
-  if (_isScanning) return large_files::measuring(layoutFor(_desktop.files.home()).words);
-  return _hasScanned ? large_files::nothingFound(_thresholdMB)
-                     : large_files::notScanned(_permissions.hasFullDiskAccess());
+  if (isScanning()) return large_files::measuring(layoutFor(_desktop.files.home()).words);
+  return hasScanned() ? large_files::nothingFound(_thresholdMB)
+                      : large_files::notScanned(_permissions.hasFullDiskAccess());
 }
 
 QStringList LargeFileFinderView::thresholds() const {
@@ -125,20 +112,11 @@ QString LargeFileFinderView::footerHint() const {
 }
 
 void LargeFileFinderView::appear() {
-  runAutoScanWithAccess(_permissions, _coordinator, _desktop.clock,
-                        {.key = toolKey(Section::largeFiles),
-                         .isNeeded = [this] { return !_isScanning && !_hasScanned; },
-                         .start = [this] { startScan(); },
-                         .isRunning = [this] { return _isScanning; }},
-                        _lifetime.get_token());
-}
-
-void LargeFileFinderView::finishRemovals() {
-  _removal.finish();
+  _scan.startInTurnWithAccess(_permissions, [this] { startScan(); });
 }
 
 void LargeFileFinderView::performAction() {
-  if (_isScanning) return stopScan();
+  if (isScanning()) return stopScan();
   _permissions.ensureAccess([pane = QPointer(this)] {
     if (pane) pane->startScan();
   });
@@ -146,75 +124,66 @@ void LargeFileFinderView::performAction() {
 
 void LargeFileFinderView::startScan() {
   // The prompt may have ended after a scan was started another way.
-  if (_isScanning) return;
+  if (isScanning()) return;
   _currentPath.clear();
-  setScanning(true, _hasScanned);
+  _scan.start<LargeFileUpdate, LargeFileList>(
+      {.work = [&files = _desktop.files,
+                threshold = static_cast<std::int64_t>(_thresholdMB) * bytesPerMegabyte](
+                   std::stop_token stop,
+                   const auto& post) { return LargeFileWalker(files).walk(threshold, stop, post); },
+       .report = [this](LargeFileUpdate update) { scanMovedOn(std::move(update)); },
+       .finish = [this](LargeFileList found) { scanFinished(std::move(found), false); },
+       .finishCancelled = [this](LargeFileList found) { scanFinished(std::move(found), true); }});
+  scanningChanged();
   setFiles({});
   clearSelection();
   _trashed.clear();
   _progress = 0;
-  _activity.start(toolKey(Section::largeFiles));
-  scan(++_scansStarted, _scanTask.emplace().get_token());
 }
 
 /// The walk ends at its next look at the stop, and still brings what it found.
 void LargeFileFinderView::stopScan() {
-  _scanTask->request_stop();
-  _scanTask.reset();
-  setScanning(false, true);
-  _activity.clear(toolKey(Section::largeFiles));
-}
-
-QCoro::Task<> LargeFileFinderView::scan(std::uint64_t number, std::stop_token stop) {
-  const std::int64_t thresholdBytes = static_cast<std::int64_t>(_thresholdMB) * bytesPerMegabyte;
-  ReportMailbox<LargeFileUpdate> reports(_desktop.clock, [this, stop](LargeFileUpdate update) {
-    if (!stop.stop_requested()) scanMovedOn(std::move(update));
-  });
-  const LargeFileWalker walker(_desktop.files);
-  auto walk = [&walker, &reports, thresholdBytes, stop] {
-    return walker.walk(thresholdBytes, stop,
-                       [&](const LargeFileUpdate& update) { reports.post(update); });
-  };
-  LargeFileList files = co_await onEngineThread(_work, std::move(walk));
-  if (number == _scansStarted) scanFinished(std::move(files));
+  _scan.cancel();
+  scanningChanged();
 }
 
 void LargeFileFinderView::scanMovedOn(LargeFileUpdate update) {
   _progress = update.fraction;
   _currentPath = std::move(update.currentName);
   setFiles(std::move(update.files));
-  _activity.setProgress(toolKey(Section::largeFiles), _progress);
+  _scan.showProgress(_progress);
   emit subtitleChanged();
 }
 
-void LargeFileFinderView::scanFinished(LargeFileList files) {
-  _scanTask.reset();
+void LargeFileFinderView::scanFinished(LargeFileList files, bool wasStopped) {
   _progress = 1;
-  setFiles(std::move(files));
-  setScanning(false, true);
-  _activity.finish(toolKey(Section::largeFiles), large_files::finishedSummary(_files->size()));
+  const bool isOther = setFiles(std::move(files));
+  if (!wasStopped) {
+    scanningChanged();
+  } else if (isOther) {
+    emit subtitleChanged();
+  }
+  _scan.showSummary(large_files::finishedSummary(_files->size()));
   writeTotal();
 }
 
-void LargeFileFinderView::setScanning(bool isScanning, bool hasScanned) {
-  const bool isOther = changeTo(_isScanning, isScanning);
-  if (!changeTo(_hasScanned, hasScanned) && !isOther) return;
+void LargeFileFinderView::scanningChanged() {
   emit isScanningChanged();
   emit subtitleChanged();
   emit placeholderChanged();
 }
 
-void LargeFileFinderView::setFiles(LargeFileList files) {
+bool LargeFileFinderView::setFiles(LargeFileList files) {
   std::erase_if(files, [this](const auto& file) {
     return !_trashed.empty() && _trashed.contains(file->url.native());
   });
-  if (files == *_files) return;
+  if (files == *_files) return false;
   const Placeholder before = placeholder();
   _files = std::make_shared<const LargeFileList>(std::move(files));
   if (placeholder() != before) emit placeholderChanged();
-  if (!_isScanning) emit subtitleChanged();
   if (!_minute) keepDatesFresh();
   arrangeRows();
+  return true;
 }
 
 void LargeFileFinderView::setView(FileView view) {
@@ -233,9 +202,9 @@ QCoro::Task<> LargeFileFinderView::arrangeRows() {
                  &formatting = _desktop.formatting] {
       return arrange(*files, view, rows, inSight, formatting);
     };
-    RowArrangement arrangement = co_await onEngineThread(_work, std::move(work));
+    RowArrangement arrangement = co_await onEngineThread(_arranging, std::move(work));
     setKinds(arrangement.kinds);
-    _work.discard(_rows.apply(std::move(arrangement)));
+    _arranging.discard(_rows.apply(std::move(arrangement)));
     if (isOtherView) emit viewChanged();
   }
   _isArranging = false;
@@ -314,7 +283,8 @@ void LargeFileFinderView::stopTrashing() {
 
 QCoro::Task<> LargeFileFinderView::moveSelectedToTrash() {
   auto pick = [files = selectedFiles()](LeftAlone&) {
-    return PickedFilesRemoval::Pick{picked(files)};
+    return PickedFilesRemoval::Pick{
+        pickedFiles(files, [](const auto& file) -> const LargeFile& { return *file; })};
   };
   const std::set<Path> trashed = co_await _removal.trash(_selected.size(), std::move(pick));
   forget(trashed);
@@ -328,7 +298,7 @@ void LargeFileFinderView::forget(const std::set<Path>& trashed) {
     if (!_trashed.contains(file->url.native())) continue;
     if (_selected.erase(file->id) > 0) _selectedBytes -= file->size;
   }
-  setFiles(*_files);
+  if (setFiles(*_files) && !isScanning()) emit subtitleChanged();
   emit selectionChanged();
 }
 
@@ -336,10 +306,7 @@ void LargeFileFinderView::writeTotal() {
   const std::int64_t bytes =
       std::accumulate(_files->begin(), _files->end(), std::int64_t{0},
                       [](std::int64_t sum, const auto& file) { return sum + file->size; });
-  _coordinator.setTotal(toolKey(Section::largeFiles),
-                        {.bytes = bytes,
-                         .items = static_cast<std::int64_t>(_files->size()),
-                         .measuredAt = _desktop.clock.now()});
+  _scan.setTotal(bytes, static_cast<std::int64_t>(_files->size()));
 }
 
 }  // namespace klarvik

@@ -9,19 +9,18 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <stop_token>
 #include <string>
 #include <unordered_set>
 
 #include "panes/kit/tool_rules.h"
 #include "panes/large_files/large_file_rows.h"
 #include "panes/large_files/large_files_texts.h"
+#include "panes/tool_pane.h"
 #include "platform/platform.h"
 #include "state/engine_work.h"
-#include "state/permissions_manager.h"
 #include "state/picked_files_removal.h"
-#include "state/scan_coordinator.h"
-#include "state/tool_activity.h"
+#include "state/scan_session.h"
+#include "state/shared_state.h"
 #include "tools/large_file_walker.h"
 
 namespace klarvik {
@@ -31,7 +30,7 @@ namespace klarvik {
 ///
 /// `files` changes with every report of the walk; the rows follow as soon as they have been
 /// filtered, ordered and compared off the main thread.
-class LargeFileFinderView : public QObject {
+class LargeFileFinderView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(LargeFileFinderModel)
   QML_UNCREATABLE("The pane makes it.")
@@ -58,18 +57,10 @@ class LargeFileFinderView : public QObject {
  public:
   using Sort = LargeFileSort;
 
-  /// The observable objects that the pane uses.
-  struct Sources {
-    ScanCoordinator& coordinator;
-    ToolActivity& activity;
-    PermissionsManager& permissions;
-    RemovalNotice& notice;
-  };
-
   /// Megabytes; the only values on offer.
   static constexpr std::array<double, 5> thresholdSteps{50, 100, 250, 500, 1000};
 
-  LargeFileFinderView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
+  LargeFileFinderView(SharedState& shared, const Desktop& desktop, QObject* parent = nullptr);
   /// Ends the scan, starts no further removal, and waits for both.
   ~LargeFileFinderView() override;
 
@@ -77,8 +68,8 @@ class LargeFileFinderView : public QObject {
   [[nodiscard]] const std::unordered_set<Uuid>& selected() const { return _selected; }
   /// In the order of `files`.
   [[nodiscard]] LargeFileList selectedFiles() const;
-  [[nodiscard]] bool isScanning() const { return _isScanning; }
-  [[nodiscard]] bool hasScanned() const { return _hasScanned; }
+  [[nodiscard]] bool isScanning() const { return _scan.isRunning(); }
+  [[nodiscard]] bool hasScanned() const { return _scan.hasScanned(); }
   [[nodiscard]] double progress() const { return _progress; }
   [[nodiscard]] bool isDeleting() const { return _removal.isRunning(); }
   [[nodiscard]] RemovalProgress deleteProgress() const { return _removal.progress(); }
@@ -106,12 +97,10 @@ class LargeFileFinderView : public QObject {
   [[nodiscard]] bool canTrash() const { return !_selected.empty(); }
   [[nodiscard]] QString footerHint() const;
 
-  /// For the moment when the pane is first there: scans by itself, once its turn has come.
-  void appear();
-  /// For the end of the program: starts no further removal.
-  void stopRemovals() { _removal.cancel(); }
-  /// The same, and waits for those in hand.
-  void finishRemovals();
+  /// Scans by itself, once its turn has come.
+  void appear() override;
+  void stopRemovals() override { _removal.cancel(); }
+  void finishRemovals() override { _removal.finish(); }
 
   /// The header's main button: stops a running scan, else starts one.
   Q_INVOKABLE void performAction();
@@ -141,11 +130,11 @@ class LargeFileFinderView : public QObject {
 
   void startScan();
   void stopScan();
-  QCoro::Task<> scan(std::uint64_t number, std::stop_token stop);
   void scanMovedOn(LargeFileUpdate update);
-  void scanFinished(LargeFileList files);
-  void setScanning(bool isScanning, bool hasScanned);
-  void setFiles(LargeFileList files);
+  void scanFinished(LargeFileList files, bool wasStopped);
+  void scanningChanged();
+  /// Whether that changed anything.
+  bool setFiles(LargeFileList files);
   void setView(FileView view);
   QCoro::Task<> arrangeRows();
   void setKinds(const std::vector<std::string_view>& kinds);
@@ -156,16 +145,12 @@ class LargeFileFinderView : public QObject {
   void clearSelection();
   void writeTotal();
 
-  ScanCoordinator& _coordinator;
-  ToolActivity& _activity;
   PermissionsManager& _permissions;
   const Desktop& _desktop;
 
   SharedFiles _files = std::make_shared<const LargeFileList>();  ///< largest first
   std::unordered_set<Uuid> _selected;
   std::int64_t _selectedBytes = 0;
-  bool _isScanning = false;
-  bool _hasScanned = false;
   double _progress = 0;
   std::string _currentPath;
   double _thresholdMB = 100;
@@ -179,12 +164,10 @@ class LargeFileFinderView : public QObject {
   bool _areRowsStale = false;
   bool _isArranging = false;
 
-  std::uint64_t _scansStarted = 0;
-  std::optional<std::stop_source> _scanTask;
-  std::stop_source _lifetime;
   std::unique_ptr<Clock::Alarm> _minute;
   PickedFilesRemoval _removal;
-  EngineWork _work;
+  ScanSession _scan;
+  EngineWork _arranging;
 };
 
 }  // namespace klarvik

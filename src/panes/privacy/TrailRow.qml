@@ -13,7 +13,7 @@ ToolDetailRow {
     required property int kind
     required pathText
     required property url url
-    required property string cost
+    required property string note
     required property string count
     required property string size
     required property bool isSelected
@@ -21,7 +21,7 @@ ToolDetailRow {
 
     property bool isLocked: false
 
-    readonly property bool isTrail: kind === TrailListModel.Trail
+    readonly property bool isTrail: kind === TrailListModel.Item
 
     path: url
     nameSize: 13
@@ -54,7 +54,7 @@ ToolDetailRow {
 
     KitText {
         Layout.preferredWidth: PrivacyMetrics.costWidth
-        text: root.cost
+        text: root.note
         size: 12
         color: Theme.textSecondary
     }

@@ -10,7 +10,6 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/notification_center.h"
-#include "state/report_mailbox.h"
 #include "state/section.h"
 
 namespace klarvik {
@@ -24,26 +23,22 @@ std::int64_t totalSize(const std::vector<PrivacyItem>& items) {
 
 }  // namespace
 
-PrivacyCleanerView::PrivacyCleanerView(const Sources& sources, const Desktop& desktop,
-                                       QObject* parent)
-    : QObject(parent),
-      _coordinator(sources.coordinator),
-      _activity(sources.activity),
-      _notice(sources.notice),
+PrivacyCleanerView::PrivacyCleanerView(SharedState& shared, const Desktop& desktop, QObject* parent)
+    : ToolPane(parent),
+      _notice(shared.removalNotice()),
       _desktop(desktop),
-      _trailList(desktop.formatting, layoutFor(desktop.files.home()).words) {
+      _trailList(desktop.formatting, layoutFor(desktop.files.home()).words),
+      _scan(Section::privacy, shared.toolActivity(), shared.scanCoordinator(), desktop.clock) {
   connect(&_trailList, &TrailList::selectionChanged, this, &PrivacyCleanerView::selectionChanged);
 }
 
 PrivacyCleanerView::~PrivacyCleanerView() {
-  _stop.request_stop();
-  _scanTask.request_stop();
-  _clearings.finish();
-  _scans.finish();
+  _scan.drop();
+  finishRemovals();
 }
 
 QString PrivacyCleanerView::subtitle() const {
-  if (_isScanning) return _currentTask;
+  if (isScanning()) return _currentTask;
   if (_lastResult) return privacy::clearedSubtitle(*_lastResult, _desktop.formatting);
   return QStringLiteral(
       "Clearing a trail is not the same as freeing space. "
@@ -51,12 +46,12 @@ QString PrivacyCleanerView::subtitle() const {
 }
 
 Placeholder PrivacyCleanerView::placeholder() const {
-  if (_isScanning) {
+  if (isScanning()) {
     return Placeholder::busy(QStringLiteral("Reading trails"),
                              QStringLiteral("Nothing is cleared by a scan."));
   }
   if (hasItems()) return {};
-  if (!_hasScanned) {
+  if (!hasScanned()) {
     return Placeholder::idle(QStringLiteral("shield"), QStringLiteral("No scan yet"),
                              programText(layoutFor(_desktop.files.home()).words.trailsUnread));
   }
@@ -82,16 +77,12 @@ bool PrivacyCleanerView::canClear() const {
   return !selected().empty() && !_isCleaning;
 }
 
-QCoro::Task<> PrivacyCleanerView::appear() {
-  const AutoScan autoScan{.key = toolKey(Section::privacy),
-                          .isNeeded = [this] { return !_hasScanned && !_isScanning; },
-                          .start = [this] { startScan(); },
-                          .isRunning = [this] { return _isScanning; }};
-  co_await runAutoScan(_coordinator, _desktop.clock, autoScan, _stop.get_token());
+void PrivacyCleanerView::appear() {
+  _scan.startInTurn([this] { startScan(); });
 }
 
 void PrivacyCleanerView::performAction() {
-  if (_isScanning) {
+  if (isScanning()) {
     cancelScan();
   } else {
     startScan();
@@ -99,55 +90,39 @@ void PrivacyCleanerView::performAction() {
 }
 
 void PrivacyCleanerView::cancelScan() {
-  _scanTask.request_stop();
-  _isScanning = false;
-  _hasScanned = true;
-  _activity.clear(toolKey(Section::privacy));
+  _scan.cancel();
   emit stateChanged();
 }
 
 void PrivacyCleanerView::startScan() {
-  _isScanning = true;
+  _scan.start<Report, std::vector<PrivacyItem>>(
+      {.work =
+           [&desktop = _desktop](std::stop_token, const auto& post) {
+             PrivacyScanner scanner(desktop.files, desktop.pasteboard, desktop.recentDocuments);
+             return scanner.scan([&post](double fraction, std::string_view line) {
+               post({fraction, printableText(line)});
+             });
+           },
+       .report = [this](const Report& report) { showReport(report); },
+       .finish = [this](std::vector<PrivacyItem> found) { finishScan(std::move(found)); }});
   _trailList.clear();
   _lastResult.reset();
   _progress = 0;
   emit stateChanged();
-  _activity.start(toolKey(Section::privacy));
-  scan();
-}
-
-QCoro::Task<> PrivacyCleanerView::scan() {
-  _scanTask = std::stop_source();
-  const std::stop_token stop = _scanTask.get_token();
-  PrivacyScanner scanner(_desktop.files, _desktop.pasteboard, _desktop.recentDocuments);
-  ReportMailbox<Report> reports(_desktop.clock, [this, stop](const Report& report) {
-    if (!stop.stop_requested()) showReport(report);
-  });
-  const auto report = [&reports](double fraction, std::string_view line) {
-    reports.post({fraction, printableText(line)});
-  };
-  std::vector<PrivacyItem> found =
-      co_await onEngineThread(_scans, [&] { return scanner.scan(report); });
-  reports.empty();
-  if (!stop.stop_requested()) finishScan(std::move(found));
 }
 
 void PrivacyCleanerView::showReport(const Report& report) {
   _progress = report.fraction;
   _currentTask = report.line;
-  _activity.setProgress(toolKey(Section::privacy), report.fraction);
+  _scan.showProgress(report.fraction);
   emit stateChanged();
 }
 
 void PrivacyCleanerView::finishScan(std::vector<PrivacyItem> found) {
   _trailList.show(std::move(found));
-  _isScanning = false;
-  _hasScanned = true;
   emit stateChanged();
-  _activity.finish(toolKey(Section::privacy), std::to_string(items().size()) + " trails");
-  _coordinator.setTotal(
-      toolKey(Section::privacy),
-      {totalSize(items()), static_cast<std::int64_t>(items().size()), _desktop.clock.now()});
+  _scan.showSummary(std::to_string(items().size()) + " trails");
+  _scan.setTotal(totalSize(items()), static_cast<std::int64_t>(items().size()));
 }
 
 void PrivacyCleanerView::toggle(int row) {

@@ -5,17 +5,16 @@
 #include <QObject>
 #include <QString>
 #include <optional>
-#include <stop_token>
 #include <unordered_set>
 #include <vector>
 
 #include "panes/kit/placeholder.h"
 #include "panes/privacy/trail_list.h"
+#include "panes/tool_pane.h"
 #include "platform/platform.h"
 #include "state/engine_work.h"
-#include "state/removal_notice.h"
-#include "state/scan_coordinator.h"
-#include "state/tool_activity.h"
+#include "state/scan_session.h"
+#include "state/shared_state.h"
 #include "tools/privacy_scanner.h"
 
 namespace klarvik {
@@ -23,7 +22,7 @@ namespace klarvik {
 /// The pane that shows the trails of use, tells for each what clearing costs,
 /// and clears those selected. Main thread only; everything handed in must
 /// outlive it, and its destructor waits for a clearing under way.
-class PrivacyCleanerView : public QObject {
+class PrivacyCleanerView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(PrivacyCleanerModel)
   QML_UNCREATABLE("The program makes it.")
@@ -38,20 +37,13 @@ class PrivacyCleanerView : public QObject {
   Q_PROPERTY(klarvik::TrailList* trailList READ trailList CONSTANT)
 
  public:
-  /// The observable objects that the pane uses.
-  struct Sources {
-    ScanCoordinator& coordinator;
-    ToolActivity& activity;
-    RemovalNotice& notice;
-  };
-
-  PrivacyCleanerView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
+  PrivacyCleanerView(SharedState& shared, const Desktop& desktop, QObject* parent = nullptr);
   ~PrivacyCleanerView() override;
 
   [[nodiscard]] const std::vector<PrivacyItem>& items() const { return _trailList.items(); }
   [[nodiscard]] const std::unordered_set<Uuid>& selected() const { return _trailList.selected(); }
-  [[nodiscard]] bool isScanning() const { return _isScanning; }
-  [[nodiscard]] bool hasScanned() const { return _hasScanned; }
+  [[nodiscard]] bool isScanning() const { return _scan.isRunning(); }
+  [[nodiscard]] bool hasScanned() const { return _scan.hasScanned(); }
   /// A share of 1.
   [[nodiscard]] double progress() const { return _progress; }
   [[nodiscard]] const QString& currentTask() const { return _currentTask; }
@@ -68,10 +60,10 @@ class PrivacyCleanerView : public QObject {
   [[nodiscard]] bool canClear() const;
   [[nodiscard]] TrailList* trailList() { return &_trailList; }
 
-  /// Scans when the turn of this tool comes. To be called once.
-  QCoro::Task<> appear();
-  /// For the end of the program: waits for a clearing under way.
-  void finishRemovals() { _clearings.finish(); }
+  /// Scans when the turn of this tool comes.
+  void appear() override;
+  /// A clearing cannot be stopped.
+  void finishRemovals() override { _clearings.finish(); }
 
   /// The header's main button: stops a running scan, else starts one.
   Q_INVOKABLE void performAction();
@@ -91,27 +83,20 @@ class PrivacyCleanerView : public QObject {
 
   void startScan();
   void cancelScan();
-  QCoro::Task<> scan();
   void showReport(const Report& report);
   void finishScan(std::vector<PrivacyItem> found);
   QCoro::Task<> clearItems(std::vector<PrivacyItem> items);
 
-  ScanCoordinator& _coordinator;
-  ToolActivity& _activity;
   RemovalNotice& _notice;
   const Desktop& _desktop;
 
   TrailList _trailList;
-  bool _isScanning = false;
-  bool _hasScanned = false;
   double _progress = 0;
   QString _currentTask;
   bool _isCleaning = false;
   std::optional<PrivacyClearance> _lastResult;
 
-  std::stop_source _stop;
-  std::stop_source _scanTask;
-  EngineWork _scans;
+  ScanSession _scan;
   EngineWork _clearings;
 };
 

@@ -12,17 +12,16 @@ bool isMeasuring(const ToolActivity::State& state) {
          std::holds_alternative<ToolActivity::Progress>(state);
 }
 
-}  // namespace
-
-const std::array<ElsewhereStrip::Entry, 4>& ElsewhereStrip::entries() {
-  static constexpr std::array<Entry, 4> table{{
-      {"systemData", Section::systemData, "removable"},
-      {"duplicates", Section::duplicates, "in extra copies"},
-      {"largeFiles", Section::largeFiles, "in big files"},
-      {"privacy", Section::privacy, "of browsing trails"},
-  }};
-  return table;
+std::vector<const Tool*> toolsElsewhere() {
+  std::vector<const Tool*> shown;
+  for (const Tool& tool : tools()) {
+    if (!tool.elsewhere.note.empty()) shown.push_back(&tool);
+  }
+  std::ranges::sort(shown, {}, [](const Tool* tool) { return tool->elsewhere.place; });
+  return shown;
 }
+
+}  // namespace
 
 ElsewhereStrip::ElsewhereStrip(const ScanCoordinator& coordinator, const ToolActivity& activity,
                                Navigator& navigator, const Formatting& formatting, QObject* parent)
@@ -30,7 +29,8 @@ ElsewhereStrip::ElsewhereStrip(const ScanCoordinator& coordinator, const ToolAct
       _coordinator(coordinator),
       _activity(activity),
       _navigator(navigator),
-      _formatting(formatting) {
+      _formatting(formatting),
+      _tools(toolsElsewhere()) {
   connect(&coordinator, &ScanCoordinator::totalsChanged, this, &ElsewhereStrip::syncRows);
   connect(&activity, &ToolActivity::statesChanged, this, &ElsewhereStrip::syncPending);
   syncRows();
@@ -47,7 +47,7 @@ QString ElsewhereStrip::pendingText() const {
 
 void ElsewhereStrip::open(int row) {
   if (hasIndex(row, 0)) {
-    _navigator.setSection(_rows[static_cast<std::size_t>(row)].entry->section);
+    _navigator.setSection(_rows[static_cast<std::size_t>(row)].tool->section);
   }
 }
 
@@ -64,9 +64,9 @@ QVariant ElsewhereStrip::data(const QModelIndex& index, int role) const {
     case SizeRole:
       return byteText(row.bytes, _formatting);
     case NoteRole:
-      return QString::fromUtf8(row.entry->note);
+      return printableText(row.tool->elsewhere.note);
     case HelpRole:
-      return QStringLiteral("Open ") + printableText(title(row.entry->section));
+      return QStringLiteral("Open ") + printableText(row.tool->title);
     default:
       return {};
   }
@@ -79,7 +79,7 @@ QHash<int, QByteArray> ElsewhereStrip::roleNames() const {
 void ElsewhereStrip::syncRows() {
   const std::vector<Row> current = currentRows();
   for (std::size_t at = 0; at < _rows.size();) {
-    const bool stays = std::ranges::find(current, _rows[at].entry, &Row::entry) != current.end();
+    const bool stays = std::ranges::find(current, _rows[at].tool, &Row::tool) != current.end();
     if (stays) {
       ++at;
       continue;
@@ -91,7 +91,7 @@ void ElsewhereStrip::syncRows() {
   }
   for (std::size_t at = 0; at < current.size(); ++at) {
     const int row = static_cast<int>(at);
-    if (at == _rows.size() || _rows[at].entry != current[at].entry) {
+    if (at == _rows.size() || _rows[at].tool != current[at].tool) {
       beginInsertRows({}, row, row);
       _rows.insert(_rows.begin() + row, current[at]);
       endInsertRows();
@@ -104,8 +104,9 @@ void ElsewhereStrip::syncRows() {
 }
 
 void ElsewhereStrip::syncPending() {
-  const auto pending = std::ranges::count_if(
-      entries(), [this](const Entry& entry) { return isMeasuring(_activity.state(entry.id)); });
+  const auto pending = std::ranges::count_if(_tools, [this](const Tool* tool) {
+    return isMeasuring(_activity.state(toolKey(tool->section)));
+  });
   if (_pending != pending) {
     _pending = pending;
     emit changed();
@@ -114,10 +115,10 @@ void ElsewhereStrip::syncPending() {
 
 std::vector<ElsewhereStrip::Row> ElsewhereStrip::currentRows() const {
   std::vector<Row> rows;
-  for (const Entry& entry : entries()) {
-    const auto total = _coordinator.totals().find(entry.id);
+  for (const Tool* tool : _tools) {
+    const auto total = _coordinator.totals().find(toolKey(tool->section));
     if (total != _coordinator.totals().end() && total->second.bytes >= 1) {
-      rows.push_back({&entry, total->second.bytes});
+      rows.push_back({tool, total->second.bytes});
     }
   }
   return rows;

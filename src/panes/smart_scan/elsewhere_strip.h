@@ -3,11 +3,11 @@
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 #include <QString>
-#include <array>
 #include <vector>
 
 #include "state/navigator.h"
 #include "state/scan_coordinator.h"
+#include "state/section.h"
 #include "state/tool_activity.h"
 
 namespace klarvik {
@@ -23,14 +23,7 @@ class ElsewhereStrip : public QAbstractListModel {
   Q_PROPERTY(QString pendingText READ pendingText NOTIFY changed)
 
  public:
-  struct Entry {
-    const char* id;
-    Section section;
-    const char* note;
-  };
   enum Role { SizeRole = Qt::UserRole, NoteRole, HelpRole };
-
-  [[nodiscard]] static const std::array<Entry, 4>& entries();
 
   ElsewhereStrip(const ScanCoordinator& coordinator, const ToolActivity& activity,
                  Navigator& navigator, const Formatting& formatting, QObject* parent = nullptr);
@@ -49,7 +42,7 @@ class ElsewhereStrip : public QAbstractListModel {
 
  private:
   struct Row {
-    const Entry* entry;
+    const Tool* tool;
     std::int64_t bytes;
     bool operator==(const Row&) const = default;
   };
@@ -61,6 +54,7 @@ class ElsewhereStrip : public QAbstractListModel {
   const ToolActivity& _activity;
   Navigator& _navigator;
   const Formatting& _formatting;
+  const std::vector<const Tool*> _tools;  ///< that have a line, in its order
   std::vector<Row> _rows;
   std::ptrdiff_t _pending = 0;
 };

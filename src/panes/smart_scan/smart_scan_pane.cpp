@@ -8,16 +8,18 @@
 
 namespace klarvik {
 
-SmartScanPane::SmartScanPane(const Sources& sources, const Desktop& desktop, QObject* parent)
-    : QObject(parent),
-      _appState(sources.appState),
+SmartScanPane::SmartScanPane(AppState& appState, SharedState& shared, const Desktop& desktop,
+                             QObject* parent)
+    : ToolPane(parent),
+      _appState(appState),
       _desktop(desktop),
-      _preview(sources.appState.layout()),
-      _scanningTable(sources.appState, desktop.formatting),
-      _reviewTable(sources.appState, desktop.formatting),
-      _footer(sources.appState, desktop),
-      _banner(sources.appState, sources.diskMonitor, sources.trashMonitor, desktop.formatting),
-      _elsewhere(sources.coordinator, sources.activity, sources.navigator, desktop.formatting) {
+      _preview(appState.layout()),
+      _scanningTable(appState, desktop.formatting),
+      _reviewTable(appState, desktop.formatting),
+      _footer(appState, desktop),
+      _banner(appState, shared.diskMonitor(), shared.trashMonitor(), desktop.formatting),
+      _elsewhere(shared.scanCoordinator(), shared.toolActivity(), shared.navigator(),
+                 desktop.formatting) {
   connect(&_appState, &AppState::scanStateChanged, this, &SmartScanPane::stateChanged);
   connect(&_appState, &AppState::scanResultsChanged, this, &SmartScanPane::resultsChanged);
   connect(&_appState, &AppState::totalSpaceFreeableChanged, this, &SmartScanPane::resultsChanged);

@@ -11,14 +11,17 @@
 #include "panes/smart_scan/review_table.h"
 #include "panes/smart_scan/scan_preview.h"
 #include "panes/smart_scan/scanning_table.h"
+#include "panes/tool_pane.h"
 #include "platform/platform.h"
+#include "state/app_state.h"
+#include "state/shared_state.h"
 
 namespace klarvik {
 
 /// The first section of the main window: a view of `AppState`, which keeps no scan data of its own.
 /// What is shown when, every text that follows a rule, and what each control does. Main thread
 /// only; everything handed in must outlive it.
-class SmartScanPane : public QObject {
+class SmartScanPane : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(SmartScanModel)
   QML_UNCREATABLE("The pane makes it.")
@@ -42,17 +45,8 @@ class SmartScanPane : public QObject {
   enum class Body { Preview, Scanning, Review, NothingFound };
   Q_ENUM(Body)
 
-  /// The observable objects that the pane looks at.
-  struct Sources {
-    AppState& appState;
-    DiskMonitor& diskMonitor;
-    TrashMonitor& trashMonitor;
-    ScanCoordinator& coordinator;
-    ToolActivity& activity;
-    Navigator& navigator;
-  };
-
-  SmartScanPane(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
+  SmartScanPane(AppState& appState, SharedState& shared, const Desktop& desktop,
+                QObject* parent = nullptr);
 
   [[nodiscard]] QString title() const;
   [[nodiscard]] QString subtitle() const;

@@ -8,7 +8,6 @@
 #include "panes/kit/row_text.h"
 #include "panes/storage/storage_texts.h"
 #include "state/change_to.h"
-#include "state/report_mailbox.h"
 
 namespace klarvik {
 namespace {
@@ -24,14 +23,15 @@ StorageAnalyticsView::Measure measureWithFreshEngine(const Platform& platform) {
 
 }  // namespace
 
-StorageAnalyticsView::StorageAnalyticsView(const Sources& sources, const Desktop& desktop,
+StorageAnalyticsView::StorageAnalyticsView(SharedState& shared, const Desktop& desktop,
                                            QObject* parent, Measure measure)
-    : QObject(parent),
-      _history(sources.history),
-      _diskMonitor(sources.diskMonitor),
-      _permissions(sources.permissions),
+    : ToolPane(parent),
+      _history(shared.scanHistory()),
+      _diskMonitor(shared.diskMonitor()),
+      _permissions(shared.permissionsManager()),
       _desktop(desktop),
-      _measure(measure ? std::move(measure) : measureWithFreshEngine(desktop)) {
+      _measure(measure ? std::move(measure) : measureWithFreshEngine(desktop)),
+      _measurement(desktop.clock) {
   connect(&_history, &ScanHistory::scansChanged, this, &StorageAnalyticsView::readScans);
   connect(&_history, &ScanHistory::cleansChanged, this, &StorageAnalyticsView::readCleans);
   connect(&_diskMonitor, &DiskMonitor::statsChanged, this, &StorageAnalyticsView::updateSubtitle);
@@ -44,12 +44,10 @@ StorageAnalyticsView::StorageAnalyticsView(const Sources& sources, const Desktop
 
 StorageAnalyticsView::~StorageAnalyticsView() {
   blockSignals(true);
-  _measureTask.request_stop();
-  _work.finish();
 }
 
 QString StorageAnalyticsView::actionTitle() const {
-  return QString::fromStdString(storage::actionTitle(_isMeasuring, isMeasured()));
+  return QString::fromStdString(storage::actionTitle(isMeasuring(), isMeasured()));
 }
 
 QString StorageAnalyticsView::nothingMeasured() const {
@@ -76,7 +74,7 @@ QString StorageAnalyticsView::noTrend() const {
 }
 
 void StorageAnalyticsView::performAction() {
-  if (_isMeasuring) {
+  if (isMeasuring()) {
     stopMeasuring();
     return;
   }
@@ -98,32 +96,25 @@ void StorageAnalyticsView::chartsAppeared() {
 }
 
 void StorageAnalyticsView::startMeasuring() {
-  if (_isMeasuring) return;
+  if (isMeasuring()) return;
   _measureLabel.clear();
   if (changeTo(_measureProgress, 0)) emit measureProgressChanged();
-  _measureTask = std::stop_source();
-  setMeasuring(true);
-  measure(_measureTask.get_token());
+  _measurement.start<MeasureReport, DiskComposition>(
+      {.work =
+           [measure = _measure](std::stop_token stop, const auto& post) {
+             return measure(std::move(stop), [&post](const std::string& label, double fraction) {
+               post({label, fraction});
+             });
+           },
+       .report = [this](const MeasureReport& report) { apply(report); },
+       .finish = [this](DiskComposition found) { finishMeasuring(std::move(found)); }});
+  measuringChanged();
 }
 
 /// The walk ends at its next entry; nobody has to wait for that.
 void StorageAnalyticsView::stopMeasuring() {
-  _measureTask.request_stop();
-  setMeasuring(false);
-}
-
-QCoro::Task<> StorageAnalyticsView::measure(std::stop_token stopped) {
-  ReportMailbox<MeasureReport> reports(_desktop.clock,
-                                       [this, stopped](const MeasureReport& report) {
-                                         if (!stopped.stop_requested()) apply(report);
-                                       });
-  auto measureDisk = [&run = _measure, &reports, stopped] {
-    return run(stopped, [&](const std::string& label, double fraction) {
-      reports.post({label, fraction});
-    });
-  };
-  DiskComposition composition = co_await onEngineThread(_work, std::move(measureDisk));
-  if (!stopped.stop_requested()) finishMeasuring(std::move(composition));
+  _measurement.cancel();
+  measuringChanged();
 }
 
 void StorageAnalyticsView::apply(const MeasureReport& report) {
@@ -141,12 +132,11 @@ void StorageAnalyticsView::finishMeasuring(DiskComposition composition) {
   const bool isStillThere = std::ranges::any_of(
       _legend, [this](const StorageLegendRow& row) { return row.slice.id == _highlighted; });
   if (!isStillThere) setHighlighted({});
-  setMeasuring(false);
+  measuringChanged();
   keepAgeFresh();
 }
 
-void StorageAnalyticsView::setMeasuring(bool measuring) {
-  _isMeasuring = measuring;
+void StorageAnalyticsView::measuringChanged() {
   emit stateChanged();
   updateSubtitle();
 }
@@ -158,9 +148,9 @@ void StorageAnalyticsView::setHighlighted(const QString& bucket) {
 void StorageAnalyticsView::updateSubtitle() {
   const auto measuredAt = _composition ? std::optional(_composition->measuredAt) : std::nullopt;
   const std::string text =
-      _isMeasuring ? storage::measuringSubtitle(_measureLabel)
-                   : storage::restingSubtitle(_diskMonitor.stats(), measuredAt,
-                                              _desktop.clock.now(), _desktop.formatting);
+      isMeasuring() ? storage::measuringSubtitle(_measureLabel)
+                    : storage::restingSubtitle(_diskMonitor.stats(), measuredAt,
+                                               _desktop.clock.now(), _desktop.formatting);
   if (changeTo(_subtitle, QString::fromStdString(text))) emit subtitleChanged();
 }
 

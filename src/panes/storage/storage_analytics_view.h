@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QCoro/QCoroTask>
 #include <QObject>
 #include <QString>
 #include <functional>
@@ -11,11 +10,10 @@
 #include <string>
 
 #include "panes/storage/storage_rows.h"
+#include "panes/tool_pane.h"
 #include "platform/platform.h"
-#include "state/disk_monitor.h"
-#include "state/engine_work.h"
-#include "state/permissions_manager.h"
-#include "state/scan_history.h"
+#include "state/engine_run.h"
+#include "state/shared_state.h"
 #include "tools/disk_composition_engine.h"
 
 namespace klarvik {
@@ -23,7 +21,7 @@ namespace klarvik {
 /// The Storage section: what fills the disk, once the user has asked for a measurement, and what
 /// the history of scans and cleans tells without reading the disk. It never measures by itself.
 /// Main thread only; everything handed in must outlive it.
-class StorageAnalyticsView : public QObject {
+class StorageAnalyticsView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(StorageAnalyticsModel)
   QML_UNCREATABLE("The pane makes it.")
@@ -44,12 +42,6 @@ class StorageAnalyticsView : public QObject {
   Q_PROPERTY(QString noTrend READ noTrend NOTIFY cleanBarsChanged)
 
  public:
-  /// The observable objects that the pane looks at.
-  struct Sources {
-    ScanHistory& history;
-    DiskMonitor& diskMonitor;
-    PermissionsManager& permissions;
-  };
   /// Measures on the calling thread, as `DiskCompositionEngine::measureDisk` does.
   using Measure =
       std::function<DiskComposition(std::stop_token, const DiskCompositionEngine::ProgressSink&)>;
@@ -58,14 +50,14 @@ class StorageAnalyticsView : public QObject {
   static constexpr double smallestShare = 0.015;
 
   /// Without a `measure` of its own, each measurement is that of a fresh `DiskCompositionEngine`.
-  StorageAnalyticsView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr,
+  StorageAnalyticsView(SharedState& shared, const Desktop& desktop, QObject* parent = nullptr,
                        Measure measure = {});
   /// Asks a running measurement to stop, and waits for it.
   ~StorageAnalyticsView() override;
 
   [[nodiscard]] QString subtitle() const { return _subtitle; }
   [[nodiscard]] QString actionTitle() const;
-  [[nodiscard]] bool isMeasuring() const { return _isMeasuring; }
+  [[nodiscard]] bool isMeasuring() const { return _measurement.isRunning(); }
   [[nodiscard]] double measureProgress() const { return _measureProgress; }
   [[nodiscard]] const std::string& measureLabel() const { return _measureLabel; }
   [[nodiscard]] const std::optional<DiskComposition>& composition() const { return _composition; }
@@ -110,10 +102,9 @@ class StorageAnalyticsView : public QObject {
 
   void startMeasuring();
   void stopMeasuring();
-  QCoro::Task<> measure(std::stop_token stopped);
   void apply(const MeasureReport& report);
   void finishMeasuring(DiskComposition composition);
-  void setMeasuring(bool measuring);
+  void measuringChanged();
   void setHighlighted(const QString& bucket);
   void updateSubtitle();
   void keepAgeFresh();
@@ -128,10 +119,8 @@ class StorageAnalyticsView : public QObject {
 
   bool _animateCharts = false;
   std::optional<DiskComposition> _composition;
-  bool _isMeasuring = false;
   double _measureProgress = 0;
   std::string _measureLabel;
-  std::stop_source _measureTask{std::nostopstate};
   QString _highlighted;
 
   QString _subtitle;
@@ -139,7 +128,7 @@ class StorageAnalyticsView : public QObject {
   QList<GrowthRow> _growth;
   QList<CleanBar> _cleanBars;
   std::unique_ptr<Clock::Alarm> _ageAlarm;
-  EngineWork _work;
+  EngineRun _measurement;
 };
 
 }  // namespace klarvik

@@ -11,7 +11,6 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "state/change_to.h"
-#include "state/report_mailbox.h"
 #include "state/section.h"
 
 namespace klarvik {
@@ -37,17 +36,16 @@ std::vector<PickedFile> pickedFiles(const std::vector<SystemDataItem>& items) {
 
 }  // namespace
 
-SystemDataView::SystemDataView(const Sources& sources, const Desktop& desktop, QObject* parent,
+SystemDataView::SystemDataView(SharedState& shared, const Desktop& desktop, QObject* parent,
                                Analyse analyse)
-    : QObject(parent),
-      _coordinator(sources.coordinator),
-      _activity(sources.activity),
-      _permissions(sources.permissions),
-      _trash(sources.trash),
+    : ToolPane(parent),
+      _permissions(shared.permissionsManager()),
+      _trash(shared.trashMonitor()),
       _desktop(desktop),
       _analyse(analyse ? std::move(analyse) : analyseWithFreshEngine(desktop)),
       _table(_findings, desktop.formatting, desktop.files.home()),
-      _removal(desktop, sources.notice) {
+      _removal(desktop, shared.removalNotice()),
+      _scan(Section::systemData, shared.toolActivity(), shared.scanCoordinator(), desktop.clock) {
   connect(&_table, &SystemDataTable::selectionToggled, this, &SystemDataView::selectionToggled);
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
           &SystemDataView::hasFullDiskAccessChanged);
@@ -59,9 +57,8 @@ SystemDataView::SystemDataView(const Sources& sources, const Desktop& desktop, Q
 
 SystemDataView::~SystemDataView() {
   blockSignals(true);
-  _scanTask.request_stop();
-  _removal.finish();
-  _scanWork.finish();
+  _scan.drop();
+  finishRemovals();
 }
 
 QString SystemDataView::title() const {
@@ -79,12 +76,12 @@ QString SystemDataView::subtitle() const {
 
 QString SystemDataView::actionTitle() const {
   return QString::fromStdString(
-      system_data::actionTitle(_isScanning, _findings.result().has_value()));
+      system_data::actionTitle(isScanning(), _findings.result().has_value()));
 }
 
 SystemDataView::Body SystemDataView::body() const {
   if (_findings.result()) return Body::Result;
-  return _isScanning ? Body::Analysing : Body::Empty;
+  return isScanning() ? Body::Analysing : Body::Empty;
 }
 
 QList<DonutSlice> SystemDataView::slices() const {
@@ -156,7 +153,7 @@ bool SystemDataView::trashHoldsIt() const {
 }
 
 void SystemDataView::performAction() {
-  if (_isScanning) {
+  if (isScanning()) {
     stopAnalysis();
   } else {
     startAnalysis();
@@ -197,56 +194,41 @@ QString SystemDataView::safetyText(int safety) const {
   return QString::fromStdString(system_data::safetyText(static_cast<ItemSafety>(safety)));
 }
 
-void SystemDataView::finishRemovals() {
-  _removal.finish();
-}
-
 const DiskLayout& SystemDataView::layout() const {
   return layoutFor(_desktop.files.home());
 }
 
 void SystemDataView::startAnalysis() {
-  _isScanning = true;
   _scanLabel.clear();
   _scanProgress = 0;
   _movedWhileScanning.clear();
-  _activity.start(toolKey(Section::systemData));
+  _scan.start<ScanReport, SystemDataResult>(
+      {.work =
+           [analyse = _analyse](std::stop_token, const auto& post) {
+             return analyse([&post](const std::string& label, double fraction) {
+               post({label, fraction});
+             });
+           },
+       .report = [this](const ScanReport& report) { apply(report); },
+       .finish = [this](const SystemDataResult& result) { finishAnalysis(result); }});
   emit scanProgressChanged();
   emit stateChanged();
-  _scanTask = std::stop_source();
-  analyse(_scanTask.get_token());
 }
 
 /// The pass under way cannot be stopped: what it still finds is dropped.
 void SystemDataView::stopAnalysis() {
-  _scanTask.request_stop();
-  _isScanning = false;
-  _activity.clear(toolKey(Section::systemData));
+  _scan.cancel();
   emit stateChanged();
-}
-
-QCoro::Task<> SystemDataView::analyse(std::stop_token stopped) {
-  ReportMailbox<ScanReport> reports(_desktop.clock, [this, stopped](const ScanReport& report) {
-    if (!stopped.stop_requested()) apply(report);
-  });
-  auto run = [&analyse = _analyse, &reports] {
-    return analyse([&](const std::string& label, double fraction) {
-      reports.post({label, fraction});
-    });
-  };
-  const SystemDataResult result = co_await onEngineThread(_scanWork, std::move(run));
-  if (!stopped.stop_requested()) finishAnalysis(result);
 }
 
 void SystemDataView::apply(const ScanReport& report) {
   _scanLabel = report.label;
   _scanProgress = report.fraction;
-  _activity.setProgress(toolKey(Section::systemData), std::min(report.fraction, 1.0));
+  _scan.showProgress(report.fraction);
   emit scanProgressChanged();
 }
 
 void SystemDataView::finishAnalysis(const SystemDataResult& result) {
-  _isScanning = false;
   // A place may have been measured before it went to the Trash.
   _findings.setResult(without(result, _movedWhileScanning));
   _removedItems.clear();
@@ -255,8 +237,7 @@ void SystemDataView::finishAnalysis(const SystemDataResult& result) {
   emit stateChanged();
   emit bannerChanged();
   writeTotal();
-  _activity.finish(toolKey(Section::systemData),
-                   _desktop.formatting.byteText(_findings.removable().bytes));
+  _scan.showSummary(_desktop.formatting.byteText(_findings.removable().bytes));
 }
 
 QCoro::Task<> SystemDataView::remove(std::vector<SystemDataItem> items) {
@@ -271,7 +252,7 @@ void SystemDataView::finishRemoval(const std::vector<SystemDataItem>& items,
   std::vector<SystemDataItem> removed;
   std::ranges::copy_if(items, std::back_inserter(removed),
                        [&](const SystemDataItem& item) { return moved.contains(item.path); });
-  if (_isScanning) _movedWhileScanning.insert(moved.begin(), moved.end());
+  if (isScanning()) _movedWhileScanning.insert(moved.begin(), moved.end());
 
   Removal removal;
   for (const SystemDataItem& item : removed) {
@@ -306,8 +287,7 @@ void SystemDataView::selectionToggled() {
 
 void SystemDataView::writeTotal() {
   const SystemDataFindings::Sum& removable = _findings.removable();
-  _coordinator.setTotal(toolKey(Section::systemData),
-                        {removable.bytes, removable.count, _desktop.clock.now()});
+  _scan.setTotal(removable.bytes, removable.count);
 }
 
 void SystemDataView::setHighlighted(const QString& kind) {

@@ -9,7 +9,6 @@
 #include <functional>
 #include <optional>
 #include <set>
-#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -17,13 +16,11 @@
 #include "panes/kit/tool_rules.h"
 #include "panes/system_data/system_data_findings.h"
 #include "panes/system_data/system_data_table.h"
+#include "panes/tool_pane.h"
 #include "platform/platform.h"
-#include "state/engine_work.h"
-#include "state/permissions_manager.h"
 #include "state/picked_files_removal.h"
-#include "state/scan_coordinator.h"
-#include "state/tool_activity.h"
-#include "state/trash_monitor.h"
+#include "state/scan_session.h"
+#include "state/shared_state.h"
 #include "systemdata/system_data_engine.h"
 
 namespace klarvik {
@@ -31,7 +28,7 @@ namespace klarvik {
 /// The System Data section: an analysis when the user asks for one, its findings by kind, and the
 /// way of what is selected to the Trash. Removes nothing without a confirmation, and offers nothing
 /// that is protected. Main thread only; everything handed in must outlive it.
-class SystemDataView : public QObject {
+class SystemDataView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(SystemDataModel)
   QML_UNCREATABLE("The pane makes it.")
@@ -83,20 +80,12 @@ class SystemDataView : public QObject {
     bool operator==(const Removal&) const = default;
   };
 
-  /// The observable objects that the pane looks at.
-  struct Sources {
-    ScanCoordinator& coordinator;
-    ToolActivity& activity;
-    PermissionsManager& permissions;
-    TrashMonitor& trash;
-    RemovalNotice& notice;
-  };
   /// Analyses on the calling thread, as `SystemDataEngine::analyse` does; its result says how much
   /// is free.
   using Analyse = std::function<SystemDataResult(const SystemDataEngine::ProgressSink&)>;
 
   /// Without an `analyse` of its own, each analysis is that of a fresh `SystemDataEngine`.
-  SystemDataView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr,
+  SystemDataView(SharedState& shared, const Desktop& desktop, QObject* parent = nullptr,
                  Analyse analyse = {});
   /// Starts no further removal, and waits for what is under way, an analysis included.
   ~SystemDataView() override;
@@ -105,7 +94,7 @@ class SystemDataView : public QObject {
   [[nodiscard]] QString subtitle() const;
   [[nodiscard]] QString actionTitle() const;
   [[nodiscard]] Body body() const;
-  [[nodiscard]] bool isScanning() const { return _isScanning; }
+  [[nodiscard]] bool isScanning() const { return _scan.isRunning(); }
   [[nodiscard]] double scanProgress() const { return _scanProgress; }
   [[nodiscard]] QString scanLabel() const { return QString::fromStdString(_scanLabel); }
   [[nodiscard]] bool hasFullDiskAccess() const { return _permissions.hasFullDiskAccess(); }
@@ -151,10 +140,8 @@ class SystemDataView : public QObject {
   /// For the words of the legend that no finding stands behind yet; by the number of an
   /// `ItemSafety`.
   Q_INVOKABLE [[nodiscard]] QString safetyText(int safety) const;
-  /// For the end of the program: starts no further removal. Nothing may be started afterwards.
-  void stopRemovals() { _removal.cancel(); }
-  /// The same, and waits for those in hand.
-  void finishRemovals();
+  void stopRemovals() override { _removal.cancel(); }
+  void finishRemovals() override { _removal.finish(); }
 
  signals:
   void resultChanged();
@@ -176,7 +163,6 @@ class SystemDataView : public QObject {
   [[nodiscard]] const DiskLayout& layout() const;
   void startAnalysis();
   void stopAnalysis();
-  QCoro::Task<> analyse(std::stop_token stopped);
   void apply(const ScanReport& report);
   void finishAnalysis(const SystemDataResult& result);
   QCoro::Task<> remove(std::vector<SystemDataItem> items);
@@ -187,8 +173,6 @@ class SystemDataView : public QObject {
   void setHighlighted(const QString& kind);
   void setConfirmDelete(bool confirm);
 
-  ScanCoordinator& _coordinator;
-  ToolActivity& _activity;
   PermissionsManager& _permissions;
   TrashMonitor& _trash;
   const Desktop& _desktop;
@@ -196,7 +180,6 @@ class SystemDataView : public QObject {
 
   SystemDataFindings _findings;
   SystemDataTable _table;
-  bool _isScanning = false;
   double _scanProgress = 0;
   std::string _scanLabel;
   QString _highlighted;
@@ -204,9 +187,8 @@ class SystemDataView : public QObject {
   std::optional<Removal> _lastRemoval;
   std::vector<SystemDataItem> _removedItems;
   std::set<Path> _movedWhileScanning;
-  std::stop_source _scanTask{std::nostopstate};
-  EngineWork _scanWork;
   PickedFilesRemoval _removal;
+  ScanSession _scan;
 };
 
 }  // namespace klarvik

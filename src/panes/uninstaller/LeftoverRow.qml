@@ -13,14 +13,14 @@ ToolDetailRow {
     required property int kind
     required pathText
     required property url url
-    required property string whatItIs
+    required property string note
     required property string size
     required property bool isSelected
     required description
 
     property bool canToggle: true
 
-    readonly property bool isLeftover: kind === LeftoverListModel.Leftover
+    readonly property bool isLeftover: kind === LeftoverListModel.Item
 
     path: url
     nameSize: isLeftover ? 12 : 13
@@ -44,7 +44,7 @@ ToolDetailRow {
 
     KitText {
         Layout.preferredWidth: UninstallerMetrics.whatItIsWidth
-        text: root.isLeftover ? "" : root.whatItIs
+        text: root.isLeftover ? "" : root.note
         size: 12
         color: Theme.textSecondary
     }

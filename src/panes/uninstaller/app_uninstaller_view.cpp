@@ -3,6 +3,7 @@
 #include <chrono>
 #include <string>
 #include <utility>
+#include <variant>
 
 #include "core/junk_model.h"
 #include "panes/kit/row_text.h"
@@ -23,27 +24,25 @@ constexpr auto freshness = 300s;
 
 }  // namespace
 
-AppUninstallerView::AppUninstallerView(const Sources& sources, const Desktop& desktop,
-                                       QObject* parent)
-    : QObject(parent),
-      _coordinator(sources.coordinator),
-      _activity(sources.activity),
-      _navigator(sources.navigator),
-      _notice(sources.notice),
+AppUninstallerView::AppUninstallerView(SharedState& shared, const Desktop& desktop, QObject* parent)
+    : ToolPane(parent),
+      _coordinator(shared.scanCoordinator()),
+      _navigator(shared.navigator()),
+      _notice(shared.removalNotice()),
       _desktop(desktop),
       _appList(desktop.formatting),
-      _leftoverList(desktop.formatting) {
+      _leftoverList(desktop.formatting),
+      _reading(Section::uninstaller, shared.toolActivity(), _coordinator, desktop.clock),
+      _residualSearch(desktop.clock) {
   connect(&_navigator, &Navigator::sectionChanged, this, &AppUninstallerView::sectionChanged);
   connect(&_leftoverList, &LeftoverList::selectionChanged, this,
           &AppUninstallerView::selectionChanged);
 }
 
 AppUninstallerView::~AppUninstallerView() {
-  _stop.request_stop();
-  _loadTask.request_stop();
-  _findTask.request_stop();
-  _removals.finish();
-  _readings.finish();
+  _reading.drop();
+  _residualSearch.drop();
+  finishRemovals();
 }
 
 void AppUninstallerView::setSearchText(const QString& searchText) {
@@ -60,7 +59,7 @@ QString AppUninstallerView::title() const {
 
 QString AppUninstallerView::subtitle() const {
   if (!_selectedApp) {
-    return uninstaller::listSubtitle(_isWaitingForTurn, _isLoading, apps().size(),
+    return uninstaller::listSubtitle(_isWaitingForTurn, isLoading(), apps().size(),
                                      layoutFor(_desktop.files.home()).words);
   }
   return uninstaller::detailSubtitle(residuals().size(),
@@ -79,12 +78,12 @@ Placeholder AppUninstallerView::listPlaceholder() const {
         QStringLiteral("Another tool is measuring. Open this pane and Klarvik reads your "
                        "applications straight away."));
   }
-  if (_isLoading) {
+  if (isLoading()) {
     return Placeholder::busy(
         QStringLiteral("Reading applications"),
         QStringLiteral("Measuring every app in /Applications and ~/Applications."));
   }
-  if (!_hasLoaded || _appList.rowCount() > 0) return {};
+  if (!hasLoaded() || _appList.rowCount() > 0) return {};
   if (apps().empty()) {
     return Placeholder::idle(QStringLiteral("square.dashed"), QStringLiteral("No apps"),
                              programText(layoutFor(_desktop.files.home()).words.noApplications));
@@ -94,7 +93,7 @@ Placeholder AppUninstallerView::listPlaceholder() const {
 }
 
 Placeholder AppUninstallerView::detailPlaceholder() const {
-  if (_isFindingResiduals) {
+  if (isFindingResiduals()) {
     return Placeholder::busy(
         QStringLiteral("Looking for leftovers"),
         QStringLiteral("Checking Preferences, Caches, Application Support, Containers and Logs."));
@@ -105,7 +104,7 @@ Placeholder AppUninstallerView::detailPlaceholder() const {
 }
 
 bool AppUninstallerView::canUninstall() const {
-  return _selectedApp.has_value() && !_isFindingResiduals && !_isUninstalling;
+  return _selectedApp.has_value() && !isFindingResiduals() && !_isUninstalling;
 }
 
 QString AppUninstallerView::selectionSummary() const {
@@ -117,25 +116,25 @@ QString AppUninstallerView::selectionHint() const {
   return uninstaller::selectionHint(selectedResiduals().size(), residuals().size());
 }
 
-QCoro::Task<> AppUninstallerView::appear() {
+QCoro::Task<> AppUninstallerView::readInTurn() {
   if (!needsReading()) co_return;
-  const std::stop_token stop = _stop.get_token();
+  const std::stop_token stop = _reading.dropped();
   setIsWaitingForTurn(true);
-  const bool hasTurn = co_await _coordinator.beginAutoScan(toolKey(Section::uninstaller), stop);
+  const bool hasTurn = co_await _coordinator.beginAutoScan(_reading.key(), stop);
   // Whoever waits for a turn may outlive the pane.
   if (stop.stop_requested()) co_return;
   setIsWaitingForTurn(false);
   if (!hasTurn) co_return;
   if (needsReading()) readApps();
   co_await holdTurn(
-      _coordinator, _desktop.clock, [this] { return !_isLoading; }, stop);
+      _coordinator, _desktop.clock, [this] { return !isLoading(); }, stop);
 }
 
 /// Whoever looks at the pane is not kept waiting for a turn.
 void AppUninstallerView::sectionChanged() {
-  if (_navigator.section() != Section::uninstaller || _isLoading) return;
+  if (_navigator.section() != Section::uninstaller || isLoading()) return;
   const bool isStale = _loadedAt && _desktop.clock.now() - *_loadedAt > freshness;
-  if (_hasLoaded && !isStale) return;
+  if (hasLoaded() && !isStale) return;
   setIsWaitingForTurn(false);
   readApps();
 }
@@ -144,31 +143,25 @@ void AppUninstallerView::setIsWaitingForTurn(bool isWaiting) {
   if (std::exchange(_isWaitingForTurn, isWaiting) != isWaiting) emit stateChanged();
 }
 
-QCoro::Task<> AppUninstallerView::readApps() {
-  _isLoading = true;
+void AppUninstallerView::readApps() {
   _removedWhileReading.clear();
-  _loadTask = std::stop_source();
+  _reading.start<std::monostate, std::vector<AppInfo>>(
+      {.work = [&desktop = _desktop](std::stop_token,
+                                     const auto&) { return UninstallerEngine(desktop).listApps(); },
+       .finish = [this](std::vector<AppInfo> read) { finishReading(std::move(read)); }});
   emit stateChanged();
-  _activity.start(toolKey(Section::uninstaller));
+}
 
-  UninstallerEngine engine(_desktop);
-  const std::stop_token stop = _loadTask.get_token();
-  std::vector<AppInfo> read =
-      co_await onEngineThread(_readings, [&engine] { return engine.listApps(); });
-  if (stop.stop_requested()) co_return;
-
+void AppUninstallerView::finishReading(std::vector<AppInfo> read) {
   std::erase_if(read,
                 [this](const AppInfo& app) { return _removedWhileReading.contains(app.appURL); });
   _appList.setApps(std::move(read));
-  _isLoading = false;
-  _hasLoaded = true;
   _loadedAt = _desktop.clock.now();
   emit stateChanged();
   std::int64_t bytes = 0;
   for (const AppInfo& app : apps()) bytes = addBytes(bytes, app.appSize);
-  _activity.finish(toolKey(Section::uninstaller), std::to_string(apps().size()) + " apps");
-  _coordinator.setTotal(toolKey(Section::uninstaller),
-                        {bytes, static_cast<std::int64_t>(apps().size()), *_loadedAt});
+  _reading.showSummary(std::to_string(apps().size()) + " apps");
+  _reading.setTotal(bytes, static_cast<std::int64_t>(apps().size()));
 }
 
 void AppUninstallerView::open(int row) {
@@ -180,20 +173,16 @@ void AppUninstallerView::open(int row) {
   emit levelChanged();
 }
 
-QCoro::Task<> AppUninstallerView::findResiduals(AppInfo app) {
-  _findTask.request_stop();
-  _findTask = std::stop_source();
-  _isFindingResiduals = true;
-  emit stateChanged();
-
-  UninstallerEngine engine(_desktop);
-  const std::stop_token stop = _findTask.get_token();
-  std::vector<ResidualFile> found =
-      co_await onEngineThread(_readings, [&] { return engine.findResiduals(app); });
-  if (stop.stop_requested()) co_return;
-
-  _leftoverList.show(std::move(found));
-  _isFindingResiduals = false;
+void AppUninstallerView::findResiduals(AppInfo app) {
+  _residualSearch.start<std::monostate, std::vector<ResidualFile>>(
+      {.work = [&desktop = _desktop, app = std::move(app)](
+                   std::stop_token,
+                   const auto&) { return UninstallerEngine(desktop).findResiduals(app); },
+       .finish =
+           [this](std::vector<ResidualFile> found) {
+             _leftoverList.show(std::move(found));
+             emit stateChanged();
+           }});
   emit stateChanged();
 }
 
@@ -220,15 +209,14 @@ QCoro::Task<> AppUninstallerView::remove(AppInfo app, std::vector<ResidualFile> 
   _notice.tell(leftAlone);
 
   _appList.remove(app.appURL);
-  if (_isLoading) _removedWhileReading.insert(app.appURL);
+  if (isLoading()) _removedWhileReading.insert(app.appURL);
   _isUninstalling = false;
   closeDetail();
   _desktop.notifications.post(diskChangedNotification);
 }
 
 void AppUninstallerView::closeDetail() {
-  _findTask.request_stop();
-  _isFindingResiduals = false;
+  _residualSearch.cancel();
   _leftoverList.clear();
   _selectedApp.reset();
   emit levelChanged();

@@ -6,26 +6,24 @@
 #include <QString>
 #include <optional>
 #include <set>
-#include <stop_token>
 #include <unordered_set>
 #include <vector>
 
 #include "panes/kit/placeholder.h"
+#include "panes/tool_pane.h"
 #include "panes/uninstaller/app_list.h"
 #include "panes/uninstaller/leftover_list.h"
 #include "platform/platform.h"
-#include "state/engine_work.h"
-#include "state/navigator.h"
-#include "state/removal_notice.h"
-#include "state/scan_coordinator.h"
-#include "state/tool_activity.h"
+#include "state/engine_run.h"
+#include "state/scan_session.h"
+#include "state/shared_state.h"
 
 namespace klarvik {
 
 /// The pane that removes applications together with what they leave behind. It has two levels: the
 /// list of all applications, and one of them with its leftovers. Main thread only; everything
 /// handed in must outlive it, and its destructor waits for a removal under way.
-class AppUninstallerView : public QObject {
+class AppUninstallerView : public klarvik::ToolPane {
   Q_OBJECT
   QML_NAMED_ELEMENT(AppUninstallerModel)
   QML_UNCREATABLE("The program makes it.")
@@ -42,20 +40,12 @@ class AppUninstallerView : public QObject {
   Q_PROPERTY(klarvik::LeftoverList* leftoverList READ leftoverList CONSTANT)
 
  public:
-  /// The observable objects that the pane uses.
-  struct Sources {
-    ScanCoordinator& coordinator;
-    ToolActivity& activity;
-    Navigator& navigator;
-    RemovalNotice& notice;
-  };
-
-  AppUninstallerView(const Sources& sources, const Desktop& desktop, QObject* parent = nullptr);
+  AppUninstallerView(SharedState& shared, const Desktop& desktop, QObject* parent = nullptr);
   ~AppUninstallerView() override;
 
   [[nodiscard]] const std::vector<AppInfo>& apps() const { return _appList.apps(); }
-  [[nodiscard]] bool isLoading() const { return _isLoading; }
-  [[nodiscard]] bool hasLoaded() const { return _hasLoaded; }
+  [[nodiscard]] bool isLoading() const { return _reading.isRunning(); }
+  [[nodiscard]] bool hasLoaded() const { return _reading.hasScanned(); }
   [[nodiscard]] const QString& searchText() const { return _appList.searchText(); }
   void setSearchText(const QString& searchText);
   /// The application that the detail level is about.
@@ -63,7 +53,7 @@ class AppUninstallerView : public QObject {
   [[nodiscard]] const std::vector<ResidualFile>& residuals() const {
     return _leftoverList.residuals();
   }
-  [[nodiscard]] bool isFindingResiduals() const { return _isFindingResiduals; }
+  [[nodiscard]] bool isFindingResiduals() const { return _residualSearch.isRunning(); }
   [[nodiscard]] const std::unordered_set<Uuid>& selectedResiduals() const {
     return _leftoverList.selected();
   }
@@ -82,10 +72,10 @@ class AppUninstallerView : public QObject {
   [[nodiscard]] AppList* appList() { return &_appList; }
   [[nodiscard]] LeftoverList* leftoverList() { return &_leftoverList; }
 
-  /// Reads the applications when the turn of this tool comes. To be called once.
-  QCoro::Task<> appear();
-  /// For the end of the program: waits for a removal under way.
-  void finishRemovals() { _removals.finish(); }
+  /// Reads the applications when the turn of this tool comes.
+  void appear() override { readInTurn(); }
+  /// A removal cannot be stopped.
+  void finishRemovals() override { _removals.finish(); }
 
   /// Opens the application of a row of the list.
   Q_INVOKABLE void open(int row);
@@ -104,35 +94,31 @@ class AppUninstallerView : public QObject {
  private:
   [[nodiscard]] Placeholder listPlaceholder() const;
   [[nodiscard]] Placeholder detailPlaceholder() const;
-  [[nodiscard]] bool needsReading() const { return !_hasLoaded && !_isLoading; }
+  [[nodiscard]] bool needsReading() const { return !hasLoaded() && !isLoading(); }
+  QCoro::Task<> readInTurn();
   void sectionChanged();
   void setIsWaitingForTurn(bool isWaiting);
-  QCoro::Task<> readApps();
-  QCoro::Task<> findResiduals(AppInfo app);
+  void readApps();
+  void finishReading(std::vector<AppInfo> read);
+  void findResiduals(AppInfo app);
   QCoro::Task<> remove(AppInfo app, std::vector<ResidualFile> residuals);
   void closeDetail();
 
   ScanCoordinator& _coordinator;
-  ToolActivity& _activity;
   Navigator& _navigator;
   RemovalNotice& _notice;
   const Desktop& _desktop;
 
   AppList _appList;
   LeftoverList _leftoverList;
-  bool _isLoading = false;
-  bool _hasLoaded = false;
   std::optional<AppInfo> _selectedApp;
-  bool _isFindingResiduals = false;
   bool _isUninstalling = false;
   bool _isWaitingForTurn = false;
   std::optional<Date> _loadedAt;
 
-  std::stop_source _stop;
-  std::stop_source _loadTask;
   std::set<Path> _removedWhileReading;  ///< which the reading may have seen before
-  std::stop_source _findTask;
-  EngineWork _readings;
+  ScanSession _reading;
+  EngineRun _residualSearch;
   EngineWork _removals;
 };
 

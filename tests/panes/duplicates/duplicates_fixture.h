@@ -99,10 +99,8 @@ class DuplicatesFixture : public PaneFixture {
   int _hours = 0;
 
  protected:
-  std::unique_ptr<DuplicateFinderView> pane = std::make_unique<DuplicateFinderView>(
-      DuplicateFinderView::Sources{shared.scanCoordinator(), shared.toolActivity(),
-                                   shared.permissionsManager(), shared.removalNotice()},
-      desktop);
+  std::unique_ptr<DuplicateFinderView> pane =
+      std::make_unique<DuplicateFinderView>(shared, desktop);
 };
 
 }  // namespace klarvik

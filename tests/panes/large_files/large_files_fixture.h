@@ -82,10 +82,8 @@ class LargeFilesFixture : public PaneFixture {
   [[nodiscard]] auto total() { return totalOf("largeFiles"); }
 
  protected:
-  std::unique_ptr<LargeFileFinderView> pane = std::make_unique<LargeFileFinderView>(
-      LargeFileFinderView::Sources{shared.scanCoordinator(), shared.toolActivity(),
-                                   shared.permissionsManager(), shared.removalNotice()},
-      desktop);
+  std::unique_ptr<LargeFileFinderView> pane =
+      std::make_unique<LargeFileFinderView>(shared, desktop);
 };
 
 }  // namespace klarvik

@@ -15,11 +15,7 @@ namespace klarvik {
 /// before it removes the list of recent apps.
 class PrivacyFixture : public PaneFixture {
  protected:
-  PrivacyFixture() {
-    view.emplace(PrivacyCleanerView::Sources{shared.scanCoordinator(), shared.toolActivity(),
-                                             shared.removalNotice()},
-                 desktop);
-  }
+  PrivacyFixture() { view.emplace(shared, desktop); }
 
   [[nodiscard]] Path inLibrary(const std::string& place) const {
     return desk.files.home() / "Library" / place;

@@ -77,7 +77,7 @@ TEST_F(TrailListRows, SayWhatTheTrailIsAndWhatClearingItCosts) {
   const QModelIndex first = list.index(1);
   EXPECT_EQ(first.data(TrailList::NameRole), "Recent Apps");
   EXPECT_EQ(first.data(TrailList::PathRole), "/Users/ann/Library/Preferences/com.apple.dock.plist");
-  EXPECT_EQ(first.data(TrailList::CostRole), "Recent apps list empties");
+  EXPECT_EQ(first.data(TrailList::NoteRole), "Recent apps list empties");
   EXPECT_EQ(first.data(TrailList::CountRole), "—");
   EXPECT_EQ(first.data(TrailList::SizeRole), "8 KB");
   EXPECT_EQ(first.data(TrailList::DescriptionRole), "Recent Apps, 8 KB, Recent apps list empties");

@@ -180,7 +180,7 @@ class AMillionReviewedItems : public PaneFixture {
  protected:
   static constexpr std::size_t count = 1'000'000;
 
-  static std::vector<CleanCategory> found(std::size_t count) {
+  static CleanCategory found(std::size_t count) {
     CleanCategory caches;
     caches.type = CategoryType::appCaches;
     caches.items.resize(count);
@@ -190,7 +190,7 @@ class AMillionReviewedItems : public PaneFixture {
       item.path = Path("/Users/ann/Library/Caches") / item.name;
       item.size = static_cast<std::int64_t>(count - number);
     }
-    return {std::move(caches)};
+    return caches;
   }
   [[nodiscard]] QString nameAt(int row) {
     return table.index(row).data(ReviewTable::NameRole).toString();
@@ -202,7 +202,11 @@ class AMillionReviewedItems : public PaneFixture {
                     shared.scanHistory(),
                     shared.removalNotice(),
                     nullptr,
-                    [](auto&&...) { return found(count); }};
+                    [](auto&&, auto&&, const auto& onCategory) {
+                      const CleanCategory caches = found(count);
+                      onCategory(caches);
+                      return std::vector{caches.id};
+                    }};
   ReviewTable table{appState, desk.formatting};
 };
 

@@ -50,9 +50,7 @@ class SmartScanFixture : public PaneFixture {
  protected:
   AppState appState{desktop, shared.toolActivity(), shared.scanCoordinator(), shared.scanHistory(),
                     shared.removalNotice()};
-  SmartScanPane pane{{appState, shared.diskMonitor(), shared.trashMonitor(),
-                      shared.scanCoordinator(), shared.toolActivity(), shared.navigator()},
-                     desktop};
+  SmartScanPane pane{appState, shared, desktop};
 };
 
 }  // namespace klarvik

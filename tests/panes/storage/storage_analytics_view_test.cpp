@@ -57,9 +57,7 @@ class StorageAnalyticsModel : public PaneFixture {
   DiskComposition answer = compositionOf({{"documents", 60 * gigabyte}, {"music", 20 * gigabyte}});
   std::atomic<int> measurements = 0;
   StorageAnalyticsView pane{
-      {shared.scanHistory(), shared.diskMonitor(), shared.permissionsManager()},
-      desktop,
-      nullptr,
+      shared, desktop, nullptr,
       [this](std::stop_token stop, const DiskCompositionEngine::ProgressSink& progress) {
         return measureAsLaidDown(std::move(stop), progress);
       }};
@@ -262,8 +260,7 @@ TEST_F(StorageAnalyticsModel, FollowsTheHistoryOfCleans) {
 TEST_F(StorageAnalyticsModel, SurvivesAPermissionThatComesAfterThePaneHasGone) {
   denyFullDiskAccess();
   {
-    StorageAnalyticsView other(
-        {shared.scanHistory(), shared.diskMonitor(), shared.permissionsManager()}, desktop);
+    StorageAnalyticsView other(shared, desktop);
     other.performAction();
   }
   shared.permissionsManager().finishAccessRequest();
@@ -275,8 +272,7 @@ TEST_F(StorageAnalyticsModel, MeasuresTheDiskItselfAndSurvivesAFolderThatGoesMea
   desk.disk.makeFile("/Users/ann/Music/song", 2'000'000);
   desk.volume.setTotalBytes(20'000'000);
   desk.volume.setAvailableBytes(10'000'000);
-  StorageAnalyticsView real(
-      {shared.scanHistory(), shared.diskMonitor(), shared.permissionsManager()}, desktop);
+  StorageAnalyticsView real(shared, desktop);
   real.performAction();
   std::filesystem::remove_all(desk.disk.onDisk("/Users/ann/Music"));
   ASSERT_TRUE(turnUntil([&] { return real.isMeasured(); }));

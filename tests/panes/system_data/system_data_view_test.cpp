@@ -90,10 +90,7 @@ class SystemDataPane : public PaneFixture {
  protected:
   std::vector<SystemDataItem> laidDown;
   std::atomic<int> analyses = 0;
-  SystemDataView pane{{shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager(),
-                       shared.trashMonitor(), shared.removalNotice()},
-                      desktop,
-                      nullptr,
+  SystemDataView pane{shared, desktop, nullptr,
                       [this](const SystemDataEngine::ProgressSink& progress) {
                         return analyseAsLaidDown(progress);
                       }};
@@ -446,9 +443,7 @@ TEST_F(SystemDataPane, FinishesTheFilesInHandWhenTheProgramEnds) {
 
 TEST_F(SystemDataPane, AnalysesTheDiskItself) {
   desk.disk.makeFile("/Users/ann/Library/Caches/com.acme.writer/data", 6 * megabyte);
-  SystemDataView real({shared.scanCoordinator(), shared.toolActivity(), shared.permissionsManager(),
-                       shared.trashMonitor(), shared.removalNotice()},
-                      desktop);
+  SystemDataView real(shared, desktop);
   real.performAction();
   ASSERT_TRUE(turnUntil([&] { return !real.isScanning(); }));
   ASSERT_EQ(real.findings().result()->items().size(), 1U);

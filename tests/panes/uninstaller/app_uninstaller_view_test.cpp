@@ -263,7 +263,7 @@ TEST_F(UninstallerDetail, ShowsTheLeftoversByCategoryTheLargestFirst) {
                          "writer-small", "[App Support]", "Writer", "[Logs]", "Writer",
                          "[Containers]", "com.acme.writer"}));
   EXPECT_EQ(leftover(2, LeftoverList::SizeRole), "80 KB");
-  EXPECT_EQ(leftover(2, LeftoverList::WhatItIsRole), "Rebuilt on next launch");
+  EXPECT_EQ(leftover(2, LeftoverList::NoteRole), "Rebuilt on next launch");
   EXPECT_EQ(leftover(2, LeftoverList::DescriptionRole), "Caches, 80 KB, Rebuilt on next launch");
   EXPECT_EQ(leftover(4, LeftoverList::SizeRole), "10 KB");
   EXPECT_EQ(leftover(4, LeftoverList::PathRole), "/Users/ann/Library/Caches/writer-small");

@@ -12,11 +12,7 @@ namespace klarvik {
 /// be held up at any folder that it lists.
 class UninstallerFixture : public PaneFixture {
  protected:
-  UninstallerFixture() {
-    view.emplace(AppUninstallerView::Sources{shared.scanCoordinator(), shared.toolActivity(),
-                                             shared.navigator(), shared.removalNotice()},
-                 desktop);
-  }
+  UninstallerFixture() { view.emplace(shared, desktop); }
 
   void addApp(const std::string& name, const std::string& bundleID, std::int64_t bytes,
               const Path& folder = "/Applications") const {
