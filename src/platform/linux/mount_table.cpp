@@ -67,6 +67,8 @@ std::vector<MountPoint> mountTableFrom(std::string_view text) {
   return mounts;
 }
 
+// Asked for each folder on its way to the Trash. libmount reads the same, in twice the time and
+// with five to nine times as many allocations.
 std::optional<std::vector<MountPoint>> readMountTable() {
   const UniqueFd file(uninterrupted(
       [] { return ::open("/proc/self/mountinfo", O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
