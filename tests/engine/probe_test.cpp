@@ -115,6 +115,10 @@ TEST_F(Probe, AnswersAUsageTextToWhatItDoesNotUnderstand) {
       command({"measure"}),
       command({"measure", "/a", "/b"}),
       command({"clean", "--everything"}),
+      command({"clean", "-0"}),
+      command({"scan", "--lists"}),
+      command({"measure", "-x"}),
+      {KLARVIK_PROBE, "scan", "--home", "/Users/ann", "--root"},
       command({"residuals"}),
       command({"uninstall", "com.a", "com.b"}),
       command({"duplicates", "1"}),
@@ -331,6 +335,17 @@ TEST_F(Probe, ListsApplicationsFindsWhatTheyLeftAndRemovesBoth) {
   Program again(command({"uninstall", "com.acme.writer"}));
   EXPECT_THAT(again.readToEnd(), IsEmpty());
   EXPECT_EQ(again.wait(), 1);
+}
+
+TEST_F(Probe, TakesOptionsInAnyOrderAndWordsWithAHyphenAfterTwo) {
+  disk.makeFile("/Users/ann/notes", "x");
+  Program program({KLARVIK_PROBE, "measure", "--home=/Users/ann", "--root", disk.path(), "--",
+                   "/Users/ann/notes"});
+  EXPECT_THAT(program.readToEnd(), SizeIs(1));
+  EXPECT_EQ(program.wait(), 0);
+  Program missing(command({"measure", "--", "-x"}));
+  EXPECT_THAT(missing.readToEnd(), SizeIs(1));
+  EXPECT_EQ(missing.wait(), 0);
 }
 
 TEST_F(Probe, BuildsItsSampleDiskOnlyInAnEmptyFolder) {
