@@ -6,8 +6,7 @@
 
 #include <cstdio>
 
-#include "platform/linux/unique_fd.h"
-#include "platform/linux/write_whole.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
@@ -26,7 +25,7 @@ bool writeAtomically(const Path& file, std::string_view content, ::mode_t mode) 
   ::unlink(fresh.c_str());  // of a run that was killed
   UniqueFd fd{::open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)};
   if (!fd) return false;
-  const bool stored = ::fchmod(fd.get(), mode) == 0 && writeWhole(fd.get(), content) &&
+  const bool stored = ::fchmod(fd.get(), mode) == 0 && writeAll(fd.get(), content) &&
                       ::fsync(fd.get()) == 0 && ::close(fd.release()) == 0 &&
                       ::rename(fresh.c_str(), file.c_str()) == 0;
   if (stored) {

@@ -3,10 +3,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "base/posix_io.h"
 #include "platform/application_info.h"
-#include "platform/linux/read_to_end.h"
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/unique_fd.h"
 
 namespace klarvik {
 namespace {
@@ -18,7 +16,7 @@ constexpr std::size_t longestUserDirs = 64UL * 1024;
 UserFolders withChosenFolders(const Path& root, const UserFolders& folders) {
   const Path file =
       LinuxFileSystem(root, folders).diskPath(folders.configuration) / "user-dirs.dirs";
-  const UniqueFd opened(uninterrupted(
+  const UniqueFd opened(retryOnEintr(
       [&] { return ::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
   struct stat status {};
   const bool isFile = opened && ::fstat(opened.get(), &status) == 0 && S_ISREG(status.st_mode);

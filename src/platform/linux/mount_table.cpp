@@ -7,9 +7,7 @@
 #include <charconv>
 #include <string>
 
-#include "platform/linux/read_to_end.h"
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
@@ -70,7 +68,7 @@ std::vector<MountPoint> mountTableFrom(std::string_view text) {
 // Asked for each folder on its way to the Trash. libmount reads the same, in twice the time and
 // with five to nine times as many allocations.
 std::optional<std::vector<MountPoint>> readMountTable() {
-  const UniqueFd file(uninterrupted(
+  const UniqueFd file(retryOnEintr(
       [] { return ::open("/proc/self/mountinfo", O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
   const auto text = file ? readToEnd(file.get(), kLongestTable) : std::nullopt;
   if (!text) return std::nullopt;

@@ -10,9 +10,7 @@
 #include <string>
 #include <system_error>
 
-#include "platform/linux/read_to_end.h"
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
@@ -21,7 +19,7 @@ constexpr std::size_t longestFile = 4UL * 1024 * 1024;
 
 std::string contentOf(const Path& file) {
   const UniqueFd opened(
-      uninterrupted([&] { return ::open(file.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC); }));
+      retryOnEintr([&] { return ::open(file.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC); }));
   if (!opened) return {};
   return readToEnd(opened.get(), longestFile).value_or(std::string());
 }
