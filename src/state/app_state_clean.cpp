@@ -3,6 +3,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "base/bytes.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "state/app_state.h"

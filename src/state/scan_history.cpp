@@ -1,5 +1,6 @@
 #include "state/scan_history.h"
 
+#include "base/bytes.h"
 #include "platform/user_defaults.h"
 #include "state/scan_history_json.h"
 #include "state/shared_state.h"

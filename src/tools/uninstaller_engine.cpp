@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "core/removal_check.h"
 #include "places/disk_layout.h"
 #include "platform/application_bundle.h"
