@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "engine/tool_text.h"
+#include "base/text.h"
 #include "probe/command.h"
 #include "probe/report.h"
 #include "tools/duplicate_scanner.h"

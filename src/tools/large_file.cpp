@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "base/unicode_text.h"
 #include "platform/formatting.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 

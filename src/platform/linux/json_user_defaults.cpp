@@ -13,10 +13,10 @@
 #include <nlohmann/json.hpp>
 
 #include "base/posix_io.h"
+#include "base/unicode_text.h"
 #include "platform/base64.h"
 #include "platform/linux/atomic_write.h"
 #include "platform/linux/file_lock.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 namespace {

@@ -1,4 +1,4 @@
-#include "engine/tool_text.h"
+#include "base/text.h"
 
 #include <gmock/gmock.h>
 
@@ -23,8 +23,8 @@ TEST(ToolText, TrimmingLeavesBytesThatAreNotUtf8Alone) {
 }
 
 TEST(ToolText, TrimsOnlyBlanksWhereOnlyBlanksAreMeant) {
-  EXPECT_EQ(trimmedOfBlanks(" \ta b\r\t "), "a b\r");
-  EXPECT_EQ(trimmedOfBlanks(" \t"), "");
+  EXPECT_EQ(trimmed(" \ta b\r\t ", " \t"), "a b\r");
+  EXPECT_EQ(trimmed(" \t", " \t"), "");
 }
 
 TEST(ToolText, SplitsLinesAndKeepsEmptyOnes) {
