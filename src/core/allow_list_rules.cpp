@@ -1,3 +1,4 @@
+#include "base/paths.h"
 #include "base/unicode_text.h"
 #include "core/catalogue.h"
 #include "core/deletion_rules.h"

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/paths.h"
 #include "base/unicode_text.h"
 #include "places/path_pattern.h"
 

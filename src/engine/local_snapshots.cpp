@@ -1,8 +1,8 @@
 #include "engine/local_snapshots.h"
 
+#include "base/paths.h"
 #include "base/text.h"
 #include "base/unicode_text.h"
-#include "core/deletion_guard.h"
 #include "engine/shell.h"
 
 namespace klarvik {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/paths.h"
 #include "base/text.h"
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"

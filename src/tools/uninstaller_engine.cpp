@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/bytes.h"
+#include "base/paths.h"
 #include "core/removal_check.h"
 #include "places/disk_layout.h"
 #include "platform/application_bundle.h"

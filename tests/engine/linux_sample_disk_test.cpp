@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "base/paths.h"
 #include "core/catalogue.h"
 #include "core/deletion_guard.h"
 #include "engine/scanner_engine.h"

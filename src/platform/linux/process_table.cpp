@@ -10,6 +10,7 @@
 #include <string>
 #include <system_error>
 
+#include "base/paths.h"
 #include "base/posix_io.h"
 
 namespace klarvik {
@@ -83,12 +84,11 @@ bool ProcessTable::isSandboxRunning(std::string_view application) const {
 }
 
 bool ProcessTable::hasOpen(const Path& path) const {
-  const std::string folder = path.native() + "/";
   const auto isInside = [&](const Path& link) {
     std::error_code error;
     const Path linked = std::filesystem::read_symlink(link, error);
     const std::string& target = linked.native();
-    return target == path.native() || target.starts_with(folder);
+    return target == path.native() || isBelow(target, path.native());
   };
   return anyProcess(_folder, [&](const Path& process) {
     if (isInside(process / "cwd") || isInside(process / "exe")) return true;
