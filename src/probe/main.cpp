@@ -13,7 +13,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/linux_platform.h"
+#include "platform/system_platform.h"
 #include "probe/command.h"
 
 namespace klarvik::probe {
@@ -123,7 +123,7 @@ int run(std::span<char*> words) {
     printUsage();
     return usageError;
   }
-  LinuxPlatform machine(request->root, request->home);
+  SystemPlatform machine(request->root, request->home);
   const Platform platform = machine.platform();
   return request->command->run({.platform = platform,
                                 .stop = stopOnInterrupt(request->command->canBeStopped),

@@ -12,10 +12,10 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 
+#include "base/atomic_write.h"
 #include "base/posix_io.h"
 #include "base/unicode_text.h"
 #include "platform/base64.h"
-#include "platform/linux/atomic_write.h"
 #include "platform/linux/file_lock.h"
 
 namespace klarvik {

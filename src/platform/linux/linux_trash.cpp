@@ -6,10 +6,10 @@
 #include <ctime>
 #include <string_view>
 
+#include "base/folder_handle.h"
 #include "base/paths.h"
 #include "platform/linux/directory_reader.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/folder_handle.h"
 #include "platform/linux/item_move.h"
 #include "platform/linux/mount_table.h"
 #include "platform/linux/trash_record.h"

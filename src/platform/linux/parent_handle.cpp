@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/folder_handle.h"
 #include "base/posix_io.h"
-#include "platform/linux/folder_handle.h"
 
 namespace klarvik {
 namespace {

@@ -4,8 +4,8 @@
 
 #include <cerrno>
 
+#include "base/atomic_write.h"
 #include "base/posix_io.h"
-#include "platform/linux/atomic_write.h"
 #include "platform/linux/file_lock.h"
 
 namespace klarvik {

@@ -3,11 +3,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "base/folder_handle.h"
 #include "base/posix_io.h"
-#include "platform/linux/folder_handle.h"
+#include "base/unpublished_file.h"
 #include "platform/linux/item_move.h"
 #include "platform/linux/trash_name.h"
-#include "platform/linux/unpublished_file.h"
 
 namespace klarvik {
 namespace {

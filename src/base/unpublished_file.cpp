@@ -1,4 +1,4 @@
-#include "platform/linux/unpublished_file.h"
+#include "base/unpublished_file.h"
 
 #include <fcntl.h>
 #include <stdio.h>
