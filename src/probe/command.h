@@ -53,6 +53,7 @@ int trashFiles(const Invocation& call);
 int restore(const Invocation& call);
 int emptyTrash(const Invocation& call);
 int duplicates(const Invocation& call);
+int trashDuplicates(const Invocation& call);
 int apps(const Invocation& call);
 int residuals(const Invocation& call);
 int uninstall(const Invocation& call);

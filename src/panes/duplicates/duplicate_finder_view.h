@@ -17,7 +17,6 @@
 #include "panes/duplicates/duplicate_choice.h"
 #include "panes/duplicates/duplicate_rows.h"
 #include "panes/duplicates/duplicates_texts.h"
-#include "panes/duplicates/keeper_check.h"
 #include "panes/kit/tool_rules.h"
 #include "platform/platform.h"
 #include "state/engine_work.h"
@@ -26,6 +25,7 @@
 #include "state/scan_coordinator.h"
 #include "state/tool_activity.h"
 #include "tools/duplicate_scanner.h"
+#include "tools/keeper_check.h"
 
 namespace klarvik {
 
