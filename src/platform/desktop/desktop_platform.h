@@ -8,6 +8,7 @@
 #include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/qt_status_item.h"
 #include "platform/desktop/xdg_login_item.h"
+#include "platform/desktop/xdg_motion_preference.h"
 #include "platform/desktop/xdg_workspace.h"
 #include "platform/notification_center.h"
 #include "platform/platform.h"
@@ -38,6 +39,7 @@ class DesktopPlatform {
   NotificationCenter _notifications;
   ObservedUserDefaults _defaults;
   XdgWorkspace _workspace;
+  XdgMotionPreference _motion;
   QtPasteboard _pasteboard;
   QtOpenPanel _openPanel;
   QtStatusItem _statusItem;
