@@ -4,14 +4,14 @@
 #include <cstdio>
 
 #include "engine/scanner_engine.h"
-#include "platform/linux/linux_platform.h"
+#include "platform/system_platform.h"
 
 int main(int argc, char** argv) {
   if (argc != 3) {
     std::fprintf(stderr, "usage: %s HOME FOLDER\n", argv[0]);
     return 2;
   }
-  klarvik::LinuxPlatform machine("/", klarvik::Path(argv[1]));
+  klarvik::SystemPlatform machine("/", klarvik::Path(argv[1]));
   const klarvik::Platform platform = machine.platform();
   klarvik::ScannerEngine engine(platform);
   const klarvik::JunkItem item{.name = argv[2], .path = argv[2], .size = 1};

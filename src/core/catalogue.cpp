@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
+#include "base/paths.h"
+#include "base/unicode_text.h"
 #include "places/path_pattern.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 namespace {

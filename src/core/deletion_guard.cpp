@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "core/deletion_rules.h"
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
@@ -32,27 +33,6 @@ std::optional<std::string> DeletionGuard::refusalReason(const Path& givenPath,
   const std::string home = standardizedPath(folders.home).native();
   const DeletionQuestion question{path, scope, folders, layout, home};
   return layout.guard.onlyListedPlaces ? refusalByAllowList(question) : refusalByDenyList(question);
-}
-
-Path standardizedPath(const Path& path) {
-  const bool absolute = path.native().starts_with('/');
-  std::vector<std::string_view> kept;
-  for (const std::string_view piece : pathPieces(path.native())) {
-    if (piece == ".") continue;
-    if (piece != "..") {
-      kept.push_back(piece);
-    } else if (!kept.empty() && kept.back() != "..") {
-      kept.pop_back();
-    } else if (!absolute) {
-      kept.push_back(piece);
-    }
-  }
-  std::string text = absolute ? "/" : "";
-  for (const std::string_view piece : kept) {
-    if (piece.data() != kept.front().data()) text += '/';
-    text += piece;
-  }
-  return text;
 }
 
 }  // namespace klarvik

@@ -44,8 +44,4 @@ class DeletionGuard {
                                                                 const DiskLayout& layout);
 };
 
-/// `path` made absolute in form only: "." and ".." resolved, doubled and trailing slashes dropped.
-/// A relative path stays relative. No link is followed.
-[[nodiscard]] Path standardizedPath(const Path& path);
-
 }  // namespace klarvik

@@ -1,8 +1,9 @@
 #include "core/deletion_rules.h"
 
+#include "base/paths.h"
+#include "base/unicode_text.h"
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 

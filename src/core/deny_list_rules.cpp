@@ -1,7 +1,8 @@
+#include "base/paths.h"
+#include "base/unicode_text.h"
 #include "core/deletion_rules.h"
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 namespace {

@@ -1,9 +1,9 @@
 #include "core/junk_model.h"
 
-#include <cstdlib>
 #include <string>
 #include <tuple>
 
+#include "base/bytes.h"
 #include "platform/formatting.h"
 
 namespace klarvik {
@@ -20,12 +20,6 @@ std::int64_t CleanCategory::totalSize() const {
 
 std::string CleanCategory::formattedSize(const Formatting& formatting) const {
   return formatting.byteText(totalSize());
-}
-
-std::int64_t addBytes(std::int64_t left, std::int64_t right) {
-  std::int64_t sum = 0;
-  if (__builtin_add_overflow(left, right, &sum)) std::abort();
-  return sum;
 }
 
 }  // namespace klarvik

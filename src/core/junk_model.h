@@ -57,7 +57,4 @@ struct CleanCategory {
   [[nodiscard]] std::string formattedSize(const Formatting& formatting) const;
 };
 
-/// A sum of sizes. One that no longer fits 64 bits is a fault of the program, and ends it.
-[[nodiscard]] std::int64_t addBytes(std::int64_t left, std::int64_t right);
-
 }  // namespace klarvik

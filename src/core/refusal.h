@@ -20,10 +20,6 @@ template <class... Parts>
   return sentence;
 }
 
-[[nodiscard]] inline bool isBelow(std::string_view path, std::string_view folder) {
-  return path.size() > folder.size() && path.starts_with(folder) && path[folder.size()] == '/';
-}
-
 [[nodiscard]] inline const std::string_view* firstPrefixOf(
     std::string_view path, std::span<const std::string_view> prefixes) {
   const auto found =

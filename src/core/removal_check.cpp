@@ -1,5 +1,6 @@
 #include "core/removal_check.h"
 
+#include "base/paths.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 

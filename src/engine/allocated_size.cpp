@@ -1,6 +1,6 @@
 #include "engine/allocated_size.h"
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 

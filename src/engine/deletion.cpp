@@ -1,5 +1,7 @@
 // Every removal of a found item or a picked file, and the way back.
 
+#include "base/bytes.h"
+#include "base/paths.h"
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"
 #include "engine/local_snapshots.h"

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <string>
 
-#include "engine/tool_text.h"
+#include "base/text.h"
 
 namespace klarvik {
 

@@ -1,9 +1,9 @@
 #include "engine/local_snapshots.h"
 
-#include "core/deletion_guard.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "base/unicode_text.h"
 #include "engine/shell.h"
-#include "engine/tool_text.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 
@@ -21,7 +21,7 @@ bool namesASnapshot(std::string_view line) {
 std::vector<std::string> snapshotTexts(std::string_view output) {
   std::vector<std::string> texts;
   for (const auto line : splitLines(output)) {
-    const auto text = trimmedOfBlanks(line);
+    const auto text = trimmed(line, " \t");
     // A text that climbs out of the folder would name somebody else's file.
     if (!namesASnapshot(line) || text.empty() || !isSnapshotPath(snapshotPath(text))) continue;
     texts.emplace_back(text);

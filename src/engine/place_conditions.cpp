@@ -7,7 +7,7 @@
 #include <map>
 #include <string>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "engine/allocated_size.h"
 #include "platform/desktop_entry.h"
 #include "platform/file_system.h"

@@ -4,6 +4,7 @@
 #include <chrono>
 #include <utility>
 
+#include "base/paths.h"
 #include "core/removal_check.h"
 #include "engine/project_walk.h"
 #include "engine/scanner_engine.h"

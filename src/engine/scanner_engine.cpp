@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/bytes.h"
 #include "engine/category_scanners.h"
 #include "engine/place_scanner.h"
 #include "places/disk_layout.h"

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "engine/tool_text.h"
+#include "base/text.h"
+#include "base/unicode_text.h"
 #include "platform/command_runner.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "base/text.h"
 #include "engine/category_scanners.h"
 #include "engine/firmware_files.h"
 #include "engine/local_snapshots.h"
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
-#include "engine/tool_text.h"
 #include "places/mac/scan_places.h"
 #include "platform/formatting.h"
 #include "platform/trash.h"

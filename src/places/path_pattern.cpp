@@ -2,27 +2,9 @@
 
 #include <algorithm>
 
+#include "base/paths.h"
+
 namespace klarvik {
-namespace {
-
-/// Takes the first component off `text`; an empty one when there is none.
-std::string_view takePiece(std::string_view& text) {
-  text.remove_prefix(std::min(text.find_first_not_of('/'), text.size()));
-  const std::string_view piece = text.substr(0, text.find('/'));
-  text.remove_prefix(piece.size());
-  return piece;
-}
-
-}  // namespace
-
-std::vector<std::string_view> pathPieces(std::string_view text) {
-  std::vector<std::string_view> found;
-  for (auto piece = takePiece(text); !piece.empty(); piece = takePiece(text)) {
-    found.push_back(piece);
-  }
-  return found;
-}
-
 bool nameMatches(std::string_view pattern, std::string_view name) {
   const std::size_t star = pattern.find('*');
   if (star == std::string_view::npos) return pattern == name;

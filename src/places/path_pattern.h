@@ -11,9 +11,6 @@ namespace klarvik {
 /// A pattern names paths component by component, "cache/*/logs". One "*" in a component stands for
 /// any characters of one name, and never for a leading dot. Pure text: no file is touched.
 
-/// The components between the slashes of `text`; empty ones are left out.
-[[nodiscard]] std::vector<std::string_view> pathPieces(std::string_view text);
-
 /// Whether `name` is one that the component `pattern` stands for.
 [[nodiscard]] bool nameMatches(std::string_view pattern, std::string_view name);
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/unicode_text.h"
 #include "platform/date.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 

@@ -9,6 +9,7 @@ class Clock;
 class CommandRunner;
 class FileSystem;
 class Formatting;
+class MotionPreference;
 class NotificationCenter;
 class OpenPanel;
 class Pasteboard;
@@ -40,6 +41,7 @@ struct Desktop : Platform {
   Clock& clock;
   NotificationCenter& notifications;
   Workspace& workspace;
+  MotionPreference& motion;
   Pasteboard& pasteboard;
   OpenPanel& openPanel;
   StatusItem& statusItem;

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "base/unicode_text.h"
 #include "platform/binary_property_list.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 namespace {

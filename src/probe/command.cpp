@@ -1,6 +1,5 @@
 #include "probe/command.h"
 
-#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -15,12 +14,8 @@ constexpr bool ends = false;
 
 }  // namespace
 
-bool Invocation::has(std::string_view option) const {
-  return std::find(options.begin(), options.end(), option) != options.end();
-}
-
 std::vector<std::string> readEntries(std::istream& input, const Invocation& call) {
-  const char separator = call.has("-0") ? '\0' : '\n';
+  const char separator = call.has(zeroBytes) ? '\0' : '\n';
   std::vector<std::string> entries;
   for (std::string entry; std::getline(input, entry, separator);) entries.push_back(entry);
   return entries;
@@ -30,24 +25,37 @@ std::span<const Command> commands() {
   static const auto all = std::to_array<Command>({
       {"guard",
        "[-0] general|pickedFile|residual [IDENTIFIER...]  < paths",
-       {"-0"},
+       {zeroBytes},
        1,
        anyNumber,
        ends,
        guard},
       {"measure", "PATH", {}, 1, 1, ends, measure},
       {"scan", "", {}, 0, 0, stops, scan},
-      {"clean", "[--no-trash] [--only-safe]", {"--no-trash", "--only-safe"}, 0, 0, stops, clean},
-      {"trash-files", "[-0]  < paths", {"-0"}, 0, 0, stops, trashFiles},
-      {"restore", "[-0]  < trashed path and original path, in turn", {"-0"}, 0, 0, stops, restore},
+      {"clean", "[--no-trash] [--only-safe]", {noTrash, onlySafe}, 0, 0, stops, clean},
+      {"trash-files", "[-0]  < paths", {zeroBytes}, 0, 0, stops, trashFiles},
+      {"restore",
+       "[-0]  < trashed path and original path, in turn",
+       {zeroBytes},
+       0,
+       0,
+       stops,
+       restore},
       {"empty-trash", "", {}, 0, 0, stops, emptyTrash},
       {"duplicates", "MINSIZE DIR...", {}, 2, anyNumber, ends, duplicates},
+      {"trash-duplicates",
+       "newest|oldest|shallowest MINSIZE DIR...",
+       {},
+       3,
+       anyNumber,
+       stops,
+       trashDuplicates},
       {"apps", "", {}, 0, 0, ends, apps},
       {"residuals", "BUNDLE-ID", {}, 1, 1, ends, residuals},
       {"uninstall", "BUNDLE-ID", {}, 1, 1, stops, uninstall},
       {"large",
        "[--lists] BYTES  (--lists: each report with its whole list)",
-       {"--lists"},
+       {lists},
        1,
        1,
        stops,

@@ -13,14 +13,20 @@ namespace klarvik::probe {
 /// The exit status of a call that cannot be understood.
 inline constexpr int usageError = 2;
 
+// What may be asked of some commands, by its letter.
+inline constexpr char zeroBytes = '0';  ///< each path on standard input ends with a zero byte
+inline constexpr char lists = 'l';
+inline constexpr char noTrash = 't';
+inline constexpr char onlySafe = 's';
+
 /// What a command is run with.
 struct Invocation {
   const Platform& platform;
   std::stop_token stop;                  ///< requested by SIGINT where the command can be stopped
   std::vector<std::string> arguments{};  ///< what follows the command's name, options left out
-  std::vector<std::string> options{};    ///< what begins with a hyphen
+  std::string options{};                 ///< letters
 
-  [[nodiscard]] bool has(std::string_view option) const;
+  [[nodiscard]] bool has(char option) const { return options.find(option) != std::string::npos; }
 };
 
 /// Paths on standard input: one a line, or with -0 one before each zero byte.
@@ -29,7 +35,7 @@ struct Invocation {
 struct Command {
   std::string_view name;
   std::string_view usage;  ///< what may follow the name
-  std::vector<std::string_view> options;
+  std::string options;     ///< the letters of those it takes
   std::size_t fewestArguments;
   std::size_t mostArguments;
   bool canBeStopped;              ///< else it only reads, and SIGINT may end it anywhere
@@ -47,6 +53,7 @@ int trashFiles(const Invocation& call);
 int restore(const Invocation& call);
 int emptyTrash(const Invocation& call);
 int duplicates(const Invocation& call);
+int trashDuplicates(const Invocation& call);
 int apps(const Invocation& call);
 int residuals(const Invocation& call);
 int uninstall(const Invocation& call);

@@ -1,9 +1,12 @@
 #include <iostream>
+#include <span>
 
-#include "engine/tool_text.h"
+#include "base/text.h"
 #include "probe/command.h"
 #include "probe/report.h"
 #include "tools/duplicate_scanner.h"
+#include "tools/duplicate_selection.h"
+#include "tools/keeper_check.h"
 
 namespace klarvik::probe {
 
@@ -29,20 +32,60 @@ Report reportOf(const DuplicateGroup& group) {
           {"files", std::move(files)}};
 }
 
+/// Of `words`, a least size in bytes and folders. Nothing when the former is none, which it says.
+std::optional<std::vector<DuplicateGroup>> scan(const Invocation& call,
+                                                std::span<const std::string> words) {
+  const auto minimumSize = decimalInteger(words[0]);
+  if (!minimumSize) {
+    std::cerr << "klarvik-probe: duplicates: the least size is a number of bytes\n";
+    return std::nullopt;
+  }
+  const std::vector<Path> directories(words.begin() + 1, words.end());
+  return DuplicateScanner(call.platform.files)
+      .scan(directories, *minimumSize,
+            [](const DuplicateProgress& progress) { print(reportOf(progress)); });
+}
+
+std::optional<DuplicateSelection::KeepRule> ruleNamed(std::string_view name) {
+  using enum DuplicateSelection::KeepRule;
+  if (name == "newest") return newest;
+  if (name == "oldest") return oldest;
+  if (name == "shallowest") return shallowest;
+  return std::nullopt;
+}
+
 }  // namespace
 
 int duplicates(const Invocation& call) {
-  const auto minimumSize = decimalInteger(call.arguments[0]);
-  if (!minimumSize) {
-    std::cerr << "klarvik-probe: duplicates: the least size is a number of bytes\n";
+  const auto groups = scan(call, call.arguments);
+  if (!groups) return usageError;
+  for (const DuplicateGroup& group : *groups) print(reportOf(group));
+  return 0;
+}
+
+int trashDuplicates(const Invocation& call) {
+  const auto rule = ruleNamed(call.arguments[0]);
+  if (!rule) {
+    std::cerr << "klarvik-probe: trash-duplicates: no such rule\n";
     return usageError;
   }
-  const std::vector<Path> directories(call.arguments.begin() + 1, call.arguments.end());
-  const auto groups = DuplicateScanner(call.platform.files)
-                          .scan(directories, *minimumSize, [](const DuplicateProgress& progress) {
-                            print(reportOf(progress));
-                          });
-  for (const DuplicateGroup& group : groups) print(reportOf(group));
+  const auto groups = scan(call, std::span(call.arguments).subspan(1));
+  if (!groups) return usageError;
+  std::vector<PickedFile> files;
+  KeptCopies kept;
+  for (const DuplicateGroup& group : *groups) {
+    const auto stays = std::make_shared<const KeptCopy>(
+        KeptCopy{DuplicateSelection::keeper(group, *rule)->url, group.hash});
+    for (const DuplicateFile& file : DuplicateSelection::removable(group, *rule)) {
+      kept.try_emplace(file.url.native(), stays);
+      files.push_back({file.url, file.url.filename().native(), file.size, file.identity});
+    }
+  }
+  const auto& platform = call.platform;
+  const auto moved = ScannerEngine(platform).trashFiles(
+      files, call.stop, [](const DeletionProgress& progress) { print(progressReport(progress)); },
+      keeperCheck(platform.files, platform.trash, std::move(kept), call.stop));
+  for (const Path& path : moved) print({{"event", "moved"}, {"path", pathReport(path)}});
   return 0;
 }
 

@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "engine/tool_text.h"
+#include "base/text.h"
 #include "probe/command.h"
 #include "probe/report.h"
 #include "tools/large_file_walker.h"
@@ -32,7 +32,7 @@ int large(const Invocation& call) {
     std::cerr << "klarvik-probe: large: no number of bytes\n";
     return usageError;
   }
-  const auto printUpdate = [withLists = call.has("--lists")](const LargeFileUpdate& update) {
+  const auto printUpdate = [withLists = call.has(lists)](const LargeFileUpdate& update) {
     Report report{{"event", "update"},
                   {"fraction", update.fraction},
                   {"currentName", textReport(update.currentName)},

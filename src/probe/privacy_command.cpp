@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "platform/file_system.h"
 #include "platform/pasteboard.h"
 #include "probe/command.h"

@@ -29,8 +29,8 @@ int clean(const Invocation& call) {
   ScannerEngine engine(call.platform);
   const auto found =
       engine.scanAll(call.stop, [](const ScanUpdate& update) { print(updateReport(update)); }, {});
-  const auto outcomes = engine.deleteItems(selection(found, call.has("--only-safe")),
-                                           !call.has("--no-trash"), call.stop, printProgress);
+  const auto outcomes = engine.deleteItems(selection(found, call.has(onlySafe)), !call.has(noTrash),
+                                           call.stop, printProgress);
   for (const DeletionOutcome& outcome : outcomes) print(outcomeReport(outcome));
   return 0;
 }

@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "platform/unicode_text.h"
+#include "base/unicode_text.h"
 
 namespace klarvik::probe {
 

@@ -48,7 +48,8 @@ void fit(QWindow& window, const WindowFrame& frame) {
 
 Windows::Windows(const Desktop& desktop) {
   registerModules();
-  installKit(_engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock});
+  installKit(_engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock,
+                       desktop.motion});
 }
 
 QQuickWindow* Windows::make(const QString& id, const QUrl& view, const QVariantMap& properties,

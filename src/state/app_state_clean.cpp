@@ -2,6 +2,7 @@
 #include <iterator>
 #include <utility>
 
+#include "base/bytes.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "state/app_state.h"

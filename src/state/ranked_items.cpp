@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/bytes.h"
+
 namespace klarvik {
 
 ItemSum& ItemSum::operator+=(const ItemSum& other) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/bytes.h"
 #include "platform/user_defaults.h"
 #include "state/scan_history_json.h"
 #include "state/shared_state.h"

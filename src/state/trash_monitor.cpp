@@ -3,6 +3,7 @@
 #include <chrono>
 #include <utility>
 
+#include "base/bytes.h"
 #include "engine/allocated_size.h"
 #include "platform/notification_center.h"
 #include "platform/trash.h"

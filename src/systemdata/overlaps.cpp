@@ -5,7 +5,7 @@
 #include <set>
 #include <string_view>
 
-#include "platform/unicode_text.h"
+#include "base/unicode_text.h"
 
 namespace klarvik {
 

@@ -1,8 +1,8 @@
 #include "systemdata/snapshot_listing.h"
 
+#include "base/text.h"
 #include "engine/local_snapshots.h"
 #include "engine/shell.h"
-#include "engine/tool_text.h"
 
 namespace klarvik {
 
@@ -25,7 +25,7 @@ std::vector<std::string> listedSnapshots(std::string_view output) {
   std::vector<std::string> texts;
   for (const std::string_view line : splitLines(output)) {
     if (line.find('.') == std::string_view::npos) continue;
-    std::string text = withoutVendorPrefix(trimmedOfBlanks(line));
+    std::string text = withoutVendorPrefix(trimmed(line, " \t"));
     // A text that climbs out of the folder would name somebody else's file.
     if (text.empty() || !isSnapshotPath(snapshotPath(text))) continue;
     texts.push_back(std::move(text));

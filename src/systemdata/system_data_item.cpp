@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "platform/formatting.h"
 
 namespace klarvik {

@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <array>
 
+#include "base/paths.h"
+#include "base/text.h"
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"
 #include "engine/firmware_files.h"
 #include "engine/local_snapshots.h"
 #include "engine/place_scanner.h"
 #include "engine/shell.h"
-#include "engine/tool_text.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"
 #include "systemdata/friendly_name.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "places/storage_palette.h"
 
 namespace klarvik {

@@ -4,8 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/bytes.h"
 #include "core/disk_stats.h"
-#include "core/junk_model.h"
 #include "core/shown_folders.h"
 #include "engine/allocated_size.h"
 #include "places/disk_layout.h"

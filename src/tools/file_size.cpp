@@ -1,6 +1,6 @@
 #include "tools/file_size.h"
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "engine/allocated_size.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "base/unicode_text.h"
 #include "places/disk_layout.h"
 #include "platform/formatting.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "core/removal_check.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
+#include "base/paths.h"
 #include "core/removal_check.h"
 #include "places/disk_layout.h"
 #include "platform/application_bundle.h"

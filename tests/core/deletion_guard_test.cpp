@@ -265,23 +265,5 @@ TEST(DeletionGuard, StillAllowsTheCleanablePlacesWithoutAHome) {
   EXPECT_EQ(ask("/tmp/x", general, ""), allowed);
 }
 
-TEST(StandardizedPath, ResolvesDotsAndDropsNeedlessSlashes) {
-  EXPECT_EQ(standardizedPath("/a/./b//c/../d/"), "/a/b/d");
-  EXPECT_EQ(standardizedPath("/../a"), "/a");
-  EXPECT_EQ(standardizedPath("/"), "/");
-  EXPECT_EQ(standardizedPath("//"), "/");
-  EXPECT_EQ(standardizedPath("/private/tmp/x"), "/private/tmp/x");
-}
-
-TEST(StandardizedPath, LeavesARelativePathRelative) {
-  EXPECT_EQ(standardizedPath("a/../../b/"), "../b");
-  EXPECT_EQ(standardizedPath(""), "");
-  EXPECT_EQ(standardizedPath("."), "");
-}
-
-TEST(StandardizedPath, KeepsNamesThatAreNotUtf8) {
-  EXPECT_EQ(standardizedPath("/a\xff/\n/..."), "/a\xff/\n/...");
-}
-
 }  // namespace
 }  // namespace klarvik

@@ -113,13 +113,7 @@ TEST(CleanCategory, WithoutItemsHoldsZeroBytes) {
   EXPECT_EQ(CleanCategory{}.formattedSize(Formatting("en_US")), "Zero KB");
 }
 
-TEST(AddBytes, IsExactUpToTheLargestSum) {
-  EXPECT_EQ(addBytes((std::int64_t{1} << 53) + 1, 2), (std::int64_t{1} << 53) + 3);
-  EXPECT_EQ(addBytes(largest - 1, 1), largest);
-}
-
-TEST(AddBytesDeathTest, EndsTheProgramWhenTheSumNoLongerFits) {
-  EXPECT_DEATH(static_cast<void>(addBytes(largest, 1)), "");
+TEST(CleanCategoryDeathTest, EndsTheProgramWhenItsSizeNoLongerFits) {
   CleanCategory category;
   category.items = {itemOf(largest), itemOf(1)};
   EXPECT_DEATH(static_cast<void>(category.totalSize()), "");

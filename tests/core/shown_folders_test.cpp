@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/linux_platform.h"
+#include "platform/system_platform.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -14,7 +14,7 @@ constexpr std::string_view german =
 TEST(ShownFolders, AreThoseOfTheDesktopOnALinuxDisk) {
   const TemporaryFolder disk;
   disk.makeFile("/home/ann/.config/user-dirs.dirs", german);
-  LinuxPlatform machine(disk.path(), "/home/ann");
+  SystemPlatform machine(disk.path(), "/home/ann");
   const UserFolders shown = shownFolders(machine.platform().files);
   EXPECT_EQ(shown.documents, "/home/ann/Dokumente");
   EXPECT_EQ(shown.videos, "/home/ann/Filme");
@@ -26,14 +26,14 @@ TEST(ShownFolders, AreNamedThroughALinkToWhereSettingsAreKept) {
   disk.makeFile("/home/ann/dotfiles/user-dirs.dirs", german);
   disk.makeFolder("/home/ann/.config");
   disk.makeLink("/home/ann/.config/user-dirs.dirs", "../dotfiles/user-dirs.dirs");
-  LinuxPlatform machine(disk.path(), "/home/ann");
+  SystemPlatform machine(disk.path(), "/home/ann");
   EXPECT_EQ(shownFolders(machine.platform().files).documents, "/home/ann/Dokumente");
 }
 
 TEST(ShownFolders, AreAlwaysTheSameOnAMacsDisk) {
   const TemporaryFolder disk;
   disk.makeFile("/Users/ann/.config/user-dirs.dirs", german);
-  LinuxPlatform machine(disk.path(), "/Users/ann");
+  SystemPlatform machine(disk.path(), "/Users/ann");
   const UserFolders shown = shownFolders(machine.platform().files);
   EXPECT_EQ(shown.documents, "/Users/ann/Documents");
   EXPECT_EQ(shown.videos, "/Users/ann/Movies");

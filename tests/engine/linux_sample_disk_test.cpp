@@ -9,10 +9,11 @@
 #include <string>
 #include <vector>
 
+#include "base/paths.h"
 #include "core/catalogue.h"
 #include "core/deletion_guard.h"
 #include "engine/scanner_engine.h"
-#include "platform/linux/linux_platform.h"
+#include "platform/system_platform.h"
 #include "support/disk_snapshot.h"
 #include "support/temporary_folder.h"
 
@@ -184,7 +185,7 @@ std::vector<JunkItem> foundOn(ScannerEngine& engine) {
 TEST(AScanOfALinuxSampleDisk, OffersAllOfItAndNothingElse) {
   const TemporaryFolder folder;
   const LinuxSampleDisk disk = buildLinuxSampleDisk(folder.path(), options());
-  LinuxPlatform machine(disk.root, disk.home);
+  SystemPlatform machine(disk.root, disk.home);
   const Platform platform = machine.platform();
   ScannerEngine engine(platform);
   std::map<Path, std::int64_t> found;
@@ -202,7 +203,7 @@ TEST(AScanOfALinuxSampleDisk, OffersAllOfItAndNothingElse) {
 TEST(ACleanOfALinuxSampleDisk, FreesWhatItPromisedAndLeavesTheRest) {
   const TemporaryFolder folder;
   const LinuxSampleDisk disk = buildLinuxSampleDisk(folder.path(), options());
-  LinuxPlatform machine(disk.root, disk.home);
+  SystemPlatform machine(disk.root, disk.home);
   const Platform platform = machine.platform();
   ScannerEngine engine(platform);
   const std::vector<JunkItem> items = foundOn(engine);

@@ -12,7 +12,7 @@
 #include <string>
 
 #include "engine/scanner_engine.h"
-#include "platform/linux/linux_platform.h"
+#include "platform/system_platform.h"
 #include "support/fake_running_programs.h"
 #include "support/private_mounts.h"
 #include "support/temporary_folder.h"
@@ -76,7 +76,7 @@ class LinuxDiskTest : public testing::Test {
 
   const Path home = "/home/ann";
   TemporaryFolder disk;
-  LinuxPlatform machine{disk.path(), home};
+  SystemPlatform machine{disk.path(), home};
   const Platform system = machine.platform();
   FakeRunningPrograms programs;
 };

@@ -115,10 +115,17 @@ TEST_F(Probe, AnswersAUsageTextToWhatItDoesNotUnderstand) {
       command({"measure"}),
       command({"measure", "/a", "/b"}),
       command({"clean", "--everything"}),
+      command({"clean", "-0"}),
+      command({"scan", "--lists"}),
+      command({"measure", "-x"}),
+      {KLARVIK_PROBE, "scan", "--home", "/Users/ann", "--root"},
       command({"residuals"}),
       command({"uninstall", "com.a", "com.b"}),
       command({"duplicates", "1"}),
       command({"duplicates", "1 MB", "/"}),
+      command({"trash-duplicates", "newest", "1"}),
+      command({"trash-duplicates", "biggest", "1", "/"}),
+      command({"trash-duplicates", "newest", "1 MB", "/"}),
       command({"guard"}),
       command({"guard", "anything"}),
       command({"guard", "general", "identifier"}),
@@ -331,6 +338,34 @@ TEST_F(Probe, ListsApplicationsFindsWhatTheyLeftAndRemovesBoth) {
   Program again(command({"uninstall", "com.acme.writer"}));
   EXPECT_THAT(again.readToEnd(), IsEmpty());
   EXPECT_EQ(again.wait(), 1);
+}
+
+TEST_F(Probe, TakesOptionsInAnyOrderAndWordsWithAHyphenAfterTwo) {
+  disk.makeFile("/Users/ann/notes", "x");
+  Program program({KLARVIK_PROBE, "measure", "--home=/Users/ann", "--root", disk.path(), "--",
+                   "/Users/ann/notes"});
+  EXPECT_THAT(program.readToEnd(), SizeIs(1));
+  EXPECT_EQ(program.wait(), 0);
+  Program missing(command({"measure", "--", "-x"}));
+  EXPECT_THAT(missing.readToEnd(), SizeIs(1));
+  EXPECT_EQ(missing.wait(), 0);
+}
+
+TEST_F(Probe, TrashesAllCopiesButTheOneThatTheRuleKeeps) {
+  for (const char* copy : {"Documents/a/one", "Documents/two", "Documents/a/b/three"}) {
+    disk.makeFile(Path("/Users/ann") / copy, "the same");
+  }
+  disk.makeFile("/Users/ann/Documents/other", "other");
+  const auto reports = run({"trash-duplicates", "shallowest", "1", "/Users/ann/Documents"});
+  std::vector<std::string> moved;
+  for (const json& report : reports) {
+    if (report["event"] == "moved") moved.push_back(report["path"]);
+  }
+  EXPECT_THAT(moved, ElementsAre("/Users/ann/Documents/a/b/three", "/Users/ann/Documents/a/one"));
+  EXPECT_TRUE(disk.holds("/Users/ann/Documents/two"));
+  EXPECT_TRUE(disk.holds("/Users/ann/Documents/other"));
+  EXPECT_TRUE(disk.holds(trashed / "one"));
+  EXPECT_TRUE(disk.holds(trashed / "three"));
 }
 
 TEST_F(Probe, BuildsItsSampleDiskOnlyInAnEmptyFolder) {

@@ -5,8 +5,9 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "core/deletion_guard.h"
+#include "base/paths.h"
 #include "engine/simulator_devices.h"
+#include "platform/path.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const klarvik::Path devices = "/devices";

@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 
+#include "base/paths.h"
 #include "core/catalogue.h"
 #include "places/path_pattern.h"
 

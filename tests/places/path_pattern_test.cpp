@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/paths.h"
+
 namespace klarvik {
 namespace {
 
@@ -38,11 +40,6 @@ TEST(MatchPattern, TellsWhatTheStarsStandFor) {
   EXPECT_EQ(match.relation, Relation::below);
   EXPECT_EQ(match.length, 4U);
   EXPECT_EQ(match.stars, (std::vector<std::string_view>{"firefox", "1234"}));
-}
-
-TEST(PathPieces, LeavesOutWhatIsEmpty) {
-  EXPECT_EQ(pathPieces("//a///b c/"), (std::vector<std::string_view>{"a", "b c"}));
-  EXPECT_TRUE(pathPieces("/").empty());
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 
 #include <string>
 
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {

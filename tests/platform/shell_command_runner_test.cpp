@@ -17,7 +17,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 #include "support/child_process.h"
 #include "support/temporary_folder.h"
 

@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 #include "trash_fixture.h"
 
 namespace klarvik {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/login_item.h"
+#include "platform/motion_preference.h"
 #include "platform/open_panel.h"
 #include "platform/pasteboard.h"
 #include "platform/recent_documents.h"
@@ -112,6 +113,22 @@ class FakeUpdater final : public Updater {
   int checks = 0;
   int installs = 0;
   int dismissals = 0;
+};
+
+/// Motion as usual, until a test asks for less.
+class FakeMotionPreference final : public MotionPreference {
+ public:
+  [[nodiscard]] bool isReduced() const override { return _reduced; }
+  void onChange(std::function<void()> listener) override { _listener = std::move(listener); }
+
+  void setReduced(bool reduced) {
+    _reduced = reduced;
+    if (_listener) _listener();
+  }
+
+ private:
+  bool _reduced = false;
+  std::function<void()> _listener;
 };
 
 /// Opens nothing; remembers what it was asked for.

@@ -13,6 +13,7 @@ const Path protectedFile = "/Users/ann/Library/Safari/CloudTabs.db";
 struct FakeDesktop::Surroundings {
   FakeRecentDocuments recentDocuments;
   FakeWorkspace workspace;
+  FakeMotionPreference motion;
   FakePasteboard pasteboard;
   FakeOpenPanel openPanel;
   FakeStatusItem statusItem;
@@ -25,6 +26,7 @@ FakeDesktop::FakeDesktop(FileSystem& disk, Trash& trashOfTheDisk)
       trash(trashOfTheDisk),
       recentDocuments(_surroundings->recentDocuments),
       workspace(_surroundings->workspace),
+      motion(_surroundings->motion),
       pasteboard(_surroundings->pasteboard),
       openPanel(_surroundings->openPanel),
       statusItem(_surroundings->statusItem),
@@ -41,6 +43,7 @@ Desktop FakeDesktop::with(Clock& other) {
           other,
           notifications,
           workspace,
+          motion,
           pasteboard,
           openPanel,
           statusItem,

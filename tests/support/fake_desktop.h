@@ -23,6 +23,7 @@
 
 namespace klarvik {
 
+class FakeMotionPreference;
 class FakeOpenPanel;
 class FakePasteboard;
 class FakeRecentDocuments;
@@ -66,6 +67,7 @@ struct FakeDesktop {
   FakeRunningPrograms programs;
   NotificationCenter notifications;
   FakeWorkspace& workspace;
+  FakeMotionPreference& motion;
   FakePasteboard& pasteboard;
   FakeOpenPanel& openPanel;
   FakeStatusItem& statusItem;

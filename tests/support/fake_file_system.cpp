@@ -3,17 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/paths.h"
 #include "platform/packages.h"
 #include "support/folder_by_path.h"
 
 namespace klarvik {
 
 namespace {
-
-bool isBelow(const Path& folder, const Path& path) {
-  const std::string above = folder == "/" ? "/" : folder.native() + "/";
-  return path.native().starts_with(above) && path != folder;
-}
 
 bool isHidden(const Path& name) {
   return name.native().starts_with('.');
@@ -156,7 +152,7 @@ bool FakeFileSystem::createDirectories(const Path& folder) {
 std::vector<Path> FakeFileSystem::subtree(const Path& item) const {
   std::vector<Path> paths;
   for (auto entry = _entries.lower_bound(item); entry != _entries.end(); ++entry) {
-    if (entry->first != item && !isBelow(item, entry->first)) break;
+    if (entry->first != item && !isBelow(entry->first.native(), item.native())) break;
     paths.push_back(entry->first);
   }
   return paths;
@@ -215,7 +211,8 @@ std::optional<Date> FakeTrash::modificationDate() {
 }
 
 bool FakeTrash::contains(const Path& item) const {
-  return item.native().find("/.Trash/") != std::string::npos || isBelow(_mainTrash, item);
+  return item.native().find("/.Trash/") != std::string::npos ||
+         isBelow(item.native(), _mainTrash.native());
 }
 
 std::optional<Path> FakeTrash::moveToTrash(const Path& item, const ItemCheck& mayMove) {

@@ -8,7 +8,7 @@
 #include <array>
 
 #include "places/disk_layout.h"
-#include "platform/linux/linux_platform.h"
+#include "platform/system_platform.h"
 #include "support/child_process.h"
 #include "support/fake_desktop.h"
 #include "support/private_mounts.h"
@@ -378,7 +378,7 @@ TEST(AnalysisOfALinuxDisk, WaitsForNoServerThatDoesNotAnswer) {
                                            "/home/ann/.var/app", "/home/ann/.hidden", "/tmp/far"};
   for (const char* folder : far) disk.makeFolder(folder);
   disk.makeFile("/home/ann/.local/share/writer/data", 40'000'000);
-  LinuxPlatform machine(disk.path(), "/home/ann");
+  SystemPlatform machine(disk.path(), "/home/ann");
   const Platform platform = machine.platform();
   const bool passes = passesWithPrivateMounts([&] {
     for (const char* folder : far) {

@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "platform/linux/linux_platform.h"
+#include "platform/system_platform.h"
 #include "support/fake_desktop.h"
 #include "support/private_mounts.h"
 #include "support/temporary_folder.h"
@@ -257,7 +257,7 @@ TEST(CompositionOfALinuxDisk, CountsAFolderOnceThatTheDesktopNamesTwiceOrWithinA
   disk.makeFile("/home/ann/Files/Texts/letter", 40'000'000);
   disk.makeFile("/home/ann/Files/package", 10'000'000);
   disk.makeFile("/home/ann/Shots/film", 20'000'000);
-  LinuxPlatform machine(disk.path(), "/home/ann");
+  SystemPlatform machine(disk.path(), "/home/ann");
   const Platform platform = machine.platform();
   std::int64_t inFolders = 0;
   for (const Bucket& bucket :
@@ -278,7 +278,7 @@ TEST(CompositionOfALinuxDisk, WaitsForNoServerThatDoesNotAnswer) {
                                            "/home/ann/Maildir"};
   for (const char* folder : far) disk.makeFolder(folder);
   disk.makeFile("/home/ann/Documents/letter", 40'000'000);
-  LinuxPlatform machine(disk.path(), "/home/ann");
+  SystemPlatform machine(disk.path(), "/home/ann");
   const Platform platform = machine.platform();
   const bool passes = passesWithPrivateMounts([&] {
     for (const char* folder : far) {

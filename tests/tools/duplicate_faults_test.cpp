@@ -6,8 +6,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "base/posix_io.h"
 #include "platform/linux/linux_file_system.h"
-#include "platform/linux/unique_fd.h"
 #include "support/child_process.h"
 #include "support/fault_injecting_file_system.h"
 #include "support/system_call_faults.h"

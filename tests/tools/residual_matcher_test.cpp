@@ -4,8 +4,8 @@
 
 #include <random>
 
+#include "base/unicode_text.h"
 #include "places/disk_layout.h"
-#include "platform/unicode_text.h"
 #include "tools/uninstaller_engine.h"
 
 namespace klarvik {

@@ -30,7 +30,8 @@ class MenuBarWindow : public EmptyHomeWindowFixture, protected ScriptedAppState 
  protected:
   void SetUp() override {
     EmptyHomeWindowFixture::SetUp();
-    installKit(engine, {around.formatting, around.files.home(), around.workspace, around.clock});
+    installKit(engine, {around.formatting, around.files.home(), around.workspace, around.clock,
+                        around.motion});
     controller.emplace(around.desktop, trash,
                        [this] { return std::make_unique<QuickPopover>(engine, around.clock); });
     controller->setup(*state);

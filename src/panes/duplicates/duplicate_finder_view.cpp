@@ -5,7 +5,7 @@
 #include <iterator>
 #include <utility>
 
-#include "core/deletion_guard.h"
+#include "base/paths.h"
 #include "core/shown_folders.h"
 #include "platform/notification_center.h"
 #include "platform/open_panel.h"

@@ -17,7 +17,6 @@
 #include "panes/duplicates/duplicate_choice.h"
 #include "panes/duplicates/duplicate_rows.h"
 #include "panes/duplicates/duplicates_texts.h"
-#include "panes/duplicates/keeper_check.h"
 #include "panes/kit/tool_rules.h"
 #include "panes/tool_pane.h"
 #include "platform/platform.h"
@@ -25,6 +24,7 @@
 #include "state/scan_session.h"
 #include "state/shared_state.h"
 #include "tools/duplicate_scanner.h"
+#include "tools/keeper_check.h"
 
 namespace klarvik {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 
 namespace klarvik {
 namespace {

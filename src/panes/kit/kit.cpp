@@ -14,6 +14,7 @@
 #include "panes/kit/row_text.h"
 #include "places/disk_layout.h"
 #include "platform/formatting.h"
+#include "platform/motion_preference.h"
 #include "platform/workspace.h"
 
 void qml_register_types_Klarvik_Kit();
@@ -39,7 +40,11 @@ void installKit(QQmlEngine& engine, KitServices services) {
 }
 
 Kit::Kit(KitServices services, QObject* parent) : QObject(parent), _services(std::move(services)) {
-  connect(&_motion, &MotionPreference::changed, this, &Kit::reduceMotionChanged);
+  _services.motion.onChange([this] { emit reduceMotionChanged(); });
+}
+
+Kit::~Kit() {
+  _services.motion.onChange({});
 }
 
 Kit& Kit::of(const QQmlEngine& engine) {
@@ -50,6 +55,10 @@ Kit* Kit::create(QQmlEngine* engine, QJSEngine* /*scripts*/) {
   Kit* kit = &of(*engine);
   QJSEngine::setObjectOwnership(kit, QJSEngine::CppOwnership);
   return kit;
+}
+
+bool Kit::reduceMotion() const {
+  return _services.motion.isReduced();
 }
 
 const DiskLayout& Kit::layout() const {

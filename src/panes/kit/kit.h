@@ -7,7 +7,6 @@
 #include <QUrl>
 
 #include "panes/kit/donut.h"
-#include "panes/kit/motion_preference.h"
 #include "panes/kit/tool_rules.h"
 
 class QJSEngine;
@@ -17,6 +16,7 @@ namespace klarvik {
 
 class Clock;
 class Formatting;
+class MotionPreference;
 class Workspace;
 struct DiskLayout;
 
@@ -26,6 +26,7 @@ struct KitServices {
   Path home;
   Workspace& workspace;
   Clock& clock;
+  MotionPreference& motion;
 };
 
 /// Makes the module `Klarvik.Kit` usable in `engine`. To be called once for each engine, on the
@@ -42,6 +43,7 @@ class Kit : public QObject {
 
  public:
   Kit(KitServices services, QObject* parent);
+  ~Kit() override;
 
   /// Requires that the kit has been installed in `engine`.
   static Kit& of(const QQmlEngine& engine);
@@ -50,7 +52,7 @@ class Kit : public QObject {
   [[nodiscard]] Clock& clock() { return _services.clock; }
   /// Of the disk that the home lies on.
   [[nodiscard]] const DiskLayout& layout() const;
-  [[nodiscard]] bool reduceMotion() const { return _motion.isReduced(); }
+  [[nodiscard]] bool reduceMotion() const;
 
   /// A size in text; held to what 64 bits take.
   Q_INVOKABLE [[nodiscard]] QString byteText(double bytes) const;
@@ -88,7 +90,6 @@ class Kit : public QObject {
 
  private:
   KitServices _services;
-  MotionPreference _motion;
 };
 
 }  // namespace klarvik

@@ -3,7 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
-#include "core/junk_model.h"
+#include "places/category_type.h"
 
 /// The choices that the elements take, by the names that QML knows them by.
 

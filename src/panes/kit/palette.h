@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QString>
 
-#include "core/junk_model.h"
+#include "places/category_type.h"
 #include "places/rgb_color.h"
 
 namespace klarvik {

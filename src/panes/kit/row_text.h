@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/junk_model.h"
+#include "places/category_type.h"
 
 namespace klarvik {
+
+class Formatting;
 
 /// A text of the program.
 [[nodiscard]] QString programText(std::string_view utf8);

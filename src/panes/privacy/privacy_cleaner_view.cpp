@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "panes/kit/row_text.h"
 #include "panes/privacy/privacy_texts.h"
 #include "places/disk_layout.h"

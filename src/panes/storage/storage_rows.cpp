@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/bytes.h"
 #include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"
 #include "panes/storage/storage_texts.h"

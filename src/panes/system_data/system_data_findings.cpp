@@ -4,7 +4,7 @@
 #include <map>
 #include <utility>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 
 namespace klarvik {
 namespace {

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "base/bytes.h"
 #include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"
 #include "panes/system_data/system_data_texts.h"

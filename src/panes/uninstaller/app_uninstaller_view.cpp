@@ -5,7 +5,7 @@
 #include <utility>
 #include <variant>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "panes/kit/row_text.h"
 #include "panes/uninstaller/uninstaller_texts.h"
 #include "places/disk_layout.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/junk_model.h"
+#include "base/bytes.h"
 #include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "panes/uninstaller/uninstaller_texts.h"

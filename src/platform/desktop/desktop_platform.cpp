@@ -39,6 +39,7 @@ Desktop DesktopPlatform::desktop() {
           _clock,
           _notifications,
           _workspace,
+          _motion,
           _pasteboard,
           _openPanel,
           _statusItem,

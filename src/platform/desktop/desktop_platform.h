@@ -8,10 +8,11 @@
 #include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/qt_status_item.h"
 #include "platform/desktop/xdg_login_item.h"
+#include "platform/desktop/xdg_motion_preference.h"
 #include "platform/desktop/xdg_workspace.h"
-#include "platform/linux/linux_platform.h"
 #include "platform/notification_center.h"
 #include "platform/platform.h"
+#include "platform/system_platform.h"
 #include "platform/update/appcast_updater.h"
 
 namespace klarvik {
@@ -33,11 +34,12 @@ class DesktopPlatform {
   void startSuccessor() const { _workspace.startSuccessor(); }
 
  private:
-  LinuxPlatform _system;
+  SystemPlatform _system;
   QtClock _clock;
   NotificationCenter _notifications;
   ObservedUserDefaults _defaults;
   XdgWorkspace _workspace;
+  XdgMotionPreference _motion;
   QtPasteboard _pasteboard;
   QtOpenPanel _openPanel;
   QtStatusItem _statusItem;

@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 #include "platform/user_folders.h"
 
 namespace klarvik {

@@ -7,9 +7,9 @@
 #include <fstream>
 #include <utility>
 
+#include "base/atomic_write.h"
+#include "base/unicode_text.h"
 #include "platform/desktop_entry.h"
-#include "platform/linux/atomic_write.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 namespace {

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string_view>
 
-#include "platform/linux/uninterrupted.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 
@@ -34,7 +34,7 @@ class DirectoryReader {
   static constexpr std::size_t kBufferBytes = std::size_t{64} * 1024;
 
   ssize_t fill(int folder) {
-    return uninterrupted([&] { return ::getdents64(folder, _buffer.get(), kBufferBytes); });
+    return retryOnEintr([&] { return ::getdents64(folder, _buffer.get(), kBufferBytes); });
   }
 
   template <typename Each>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/posix_io.h"
 #include "platform/file_system.h"
-#include "platform/linux/unique_fd.h"
 
 namespace klarvik {
 

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <optional>
 
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 #include "platform/path.h"
 
 namespace klarvik {

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <chrono>
 
+#include "base/posix_io.h"
 #include "platform/entry_identity.h"
-#include "platform/linux/uninterrupted.h"
 
 namespace klarvik {
 namespace {
@@ -40,7 +40,7 @@ std::optional<struct statx> statusOf(int folder, const char* name, Waiting waiti
                     (waiting == Waiting::forNobody ? AT_STATX_DONT_SYNC : 0);
   const unsigned mask = STATX_BASIC_STATS | STATX_BTIME | STATX_MNT_ID;
   const auto ask = [&] { return ::statx(folder, name, flags, mask, &status); };
-  if (uninterrupted(ask) != 0) return std::nullopt;
+  if (retryOnEintr(ask) != 0) return std::nullopt;
   return status;
 }
 
@@ -49,7 +49,7 @@ std::optional<MountOf> mountOf(int folder, const char* name) {
   const int flags =
       AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC | (*name ? 0 : AT_EMPTY_PATH);
   const auto ask = [&] { return ::statx(folder, name, flags, STATX_MNT_ID, &status); };
-  if (uninterrupted(ask) != 0 || (status.stx_mask & STATX_MNT_ID) == 0) return std::nullopt;
+  if (retryOnEintr(ask) != 0 || (status.stx_mask & STATX_MNT_ID) == 0) return std::nullopt;
   return MountOf{.number = status.stx_mnt_id,
                  .isItsRoot = (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0};
 }

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "platform/linux/uninterrupted.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
@@ -15,7 +15,7 @@ constexpr std::size_t kMostHandles = 32;
 
 UniqueFd openFolder(int folder, const char* name) {
   constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-  return UniqueFd(uninterrupted([&] { return ::openat(folder, name, flags); }));
+  return UniqueFd(retryOnEintr([&] { return ::openat(folder, name, flags); }));
 }
 
 }  // namespace

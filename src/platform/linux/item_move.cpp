@@ -4,14 +4,14 @@
 
 #include <cerrno>
 
+#include "base/posix_io.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/uninterrupted.h"
 
 namespace klarvik {
 namespace {
 
 bool rename(const Name& from, const Name& to) {
-  return uninterrupted([&] {
+  return retryOnEintr([&] {
            return ::renameat2(from.folder, from.text.c_str(), to.folder, to.text.c_str(),
                               RENAME_NOREPLACE);
          }) == 0;

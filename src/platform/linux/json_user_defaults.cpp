@@ -12,12 +12,11 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 
+#include "base/atomic_write.h"
+#include "base/posix_io.h"
+#include "base/unicode_text.h"
 #include "platform/base64.h"
-#include "platform/linux/atomic_write.h"
 #include "platform/linux/file_lock.h"
-#include "platform/linux/read_to_end.h"
-#include "platform/linux/unique_fd.h"
-#include "platform/unicode_text.h"
 
 namespace klarvik {
 namespace {

@@ -10,12 +10,12 @@
 #include <system_error>
 #include <utility>
 
+#include "base/folder_handle.h"
+#include "base/posix_io.h"
 #include "platform/linux/directory_reader.h"
 #include "platform/linux/directory_walk.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/folder_handle.h"
 #include "platform/linux/tree_removal.h"
-#include "platform/linux/uninterrupted.h"
 
 namespace klarvik {
 namespace {
@@ -49,7 +49,7 @@ class LinuxFileReader final : public FileReader {
     while (filled < buffer.size()) {
       const std::span<std::byte> rest = buffer.subspan(filled);
       const ssize_t got =
-          uninterrupted([&] { return ::read(_file.get(), rest.data(), rest.size()); });
+          retryOnEintr([&] { return ::read(_file.get(), rest.data(), rest.size()); });
       if (got < 0 && filled == 0) return std::nullopt;
       if (got <= 0) break;
       filled += static_cast<std::size_t>(got);
@@ -74,7 +74,7 @@ std::unique_ptr<FileReader> openRegularFile(int folder, const char* name) {
   };
   if (!isRegular(statusOf(folder, name))) return nullptr;
   constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-  UniqueFd file(uninterrupted([&] { return ::openat(folder, name, flags); }));
+  UniqueFd file(retryOnEintr([&] { return ::openat(folder, name, flags); }));
   if (!file || !isRegular(statusOf(file.get(), ""))) return nullptr;
   return std::make_unique<LinuxFileReader>(std::move(file));
 }
@@ -166,7 +166,7 @@ bool LinuxFileSystem::exists(const Path& path) const {
   if (!location) return false;
   struct stat status {};
   const auto ask = [&] { return ::fstatat(location->at(), location->name.c_str(), &status, 0); };
-  return uninterrupted(ask) == 0;
+  return retryOnEintr(ask) == 0;
 }
 
 std::optional<FileAttributes> LinuxFileSystem::attributes(const Path& path) const {
@@ -215,14 +215,14 @@ bool LinuxFileSystem::createDirectories(const Path& folder) {
   const auto parent = openParentCreating(_root, plain, [](const Path&) { return true; });
   if (!parent) return false;
   const auto make = [&] { return ::mkdirat(parent->folder.get(), parent->name.c_str(), 0777); };
-  return uninterrupted(make) == 0 || static_cast<bool>(open(plain, O_PATH | O_DIRECTORY));
+  return retryOnEintr(make) == 0 || static_cast<bool>(open(plain, O_PATH | O_DIRECTORY));
 }
 
 bool LinuxFileSystem::move(const Path& from, const Path& to) {
   const auto source = openParent(_root, from);
   const auto target = openParent(_root, to);
   if (!source || !target) return false;
-  return uninterrupted([&] {
+  return retryOnEintr([&] {
            return ::renameat2(source->folder.get(), source->name.c_str(), target->folder.get(),
                               target->name.c_str(), RENAME_NOREPLACE);
          }) == 0;
@@ -241,7 +241,7 @@ UniqueFd LinuxFileSystem::open(const Path& path, int flags) const {
 }
 
 UniqueFd LinuxFileSystem::openAt(const Location& location, int flags) {
-  return UniqueFd(uninterrupted(
+  return UniqueFd(retryOnEintr(
       [&] { return ::openat(location.at(), location.name.c_str(), flags | O_CLOEXEC); }));
 }
 

@@ -6,9 +6,10 @@
 #include <ctime>
 #include <string_view>
 
+#include "base/folder_handle.h"
+#include "base/paths.h"
 #include "platform/linux/directory_reader.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/folder_handle.h"
 #include "platform/linux/item_move.h"
 #include "platform/linux/mount_table.h"
 #include "platform/linux/trash_record.h"
@@ -22,12 +23,6 @@ Path withoutLinks(const Path& root) {
   std::error_code error;
   Path real = std::filesystem::canonical(root, error);
   return error ? root : real;
-}
-
-bool isBelow(const Path& folder, const Path& item) {
-  const std::string_view above = folder == "/" ? "" : std::string_view(folder.native());
-  const std::string_view text = item.native();
-  return text.size() > above.size() + 1 && text.starts_with(above) && text[above.size()] == '/';
 }
 
 /// The part of `item` that comes after `folder`, which it lies below.
@@ -112,7 +107,7 @@ std::optional<Date> LinuxTrash::modificationDate() {
 bool LinuxTrash::contains(const Path& item) const {
   if (item.native().find("/.Trash/") != std::string::npos) return true;
   const Path place = item.lexically_normal();
-  if (isBelow(_homeTrash / "files", place)) return true;
+  if (isBelow(place.native(), (_homeTrash / "files").native())) return true;
   if (!passesThroughVolumeTrash(place)) return false;
   for (Path step = place; step.has_relative_path(); step = step.parent_path()) {
     const auto top = topOfVolumeTrash(step);
@@ -188,7 +183,7 @@ Path LinuxTrash::onMachine(const Path& logical) const {
 
 std::optional<Path> LinuxTrash::logical(const Path& onMachine) const {
   if (onMachine == _root) return Path("/");
-  if (!isBelow(_root, onMachine)) return std::nullopt;
+  if (!isBelow(onMachine.native(), _root.native())) return std::nullopt;
   return Path("/") / pathFrom(_root, onMachine);
 }
 
@@ -226,7 +221,7 @@ std::optional<LinuxTrash::Destination> LinuxTrash::destinationOnVolume(const Pat
   if (own == mounts->end()) return std::nullopt;
   // What lies above the root of the disk is none of our business.
   const Path top = logical(own->place).value_or("/");
-  if (!isBelow(top, item)) return std::nullopt;
+  if (!isBelow(item.native(), top.native())) return std::nullopt;
 
   const auto opened = openParent(_root, top / "x");
   const auto topMount = opened ? mountOfEntry(opened->folder.get(), "") : std::nullopt;
@@ -240,12 +235,12 @@ bool LinuxTrash::holdsMountPoint(const Path& folder) const {
   const auto mounts = readMountTable();
   const Path place = onMachine(folder);
   return !mounts || std::any_of(mounts->begin(), mounts->end(), [&](const MountPoint& point) {
-    return isBelow(place, point.place);
+    return isBelow(point.place.native(), place.native());
   });
 }
 
 bool LinuxTrash::isPartOfATrash(const Path& item) const {
-  return contains(item) || item == _homeTrash || isBelow(_homeTrash, item) ||
+  return contains(item) || item == _homeTrash || isBelow(item.native(), _homeTrash.native()) ||
          passesThroughVolumeTrash(item);
 }
 
@@ -283,7 +278,7 @@ bool LinuxTrash::leadsBack(const Path& real, const Path& original,
 
 Path LinuxTrash::placeWithoutLinks(const Path& original) const {
   const auto inHome = openParent(_root, _home / "x");
-  if (!inHome || !isBelow(_home, original)) return original;
+  if (!inHome || !isBelow(original.native(), _home.native())) return original;
   return inHome->realPath.parent_path() / pathFrom(_home, original);
 }
 

@@ -3,13 +3,10 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <algorithm>
-#include <charconv>
 #include <string>
 
-#include "platform/linux/read_to_end.h"
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
+#include "base/text.h"
 
 namespace klarvik {
 namespace {
@@ -29,14 +26,6 @@ std::string_view fieldOf(std::string_view line, std::size_t index) {
   return line.substr(0, line.find(' '));
 }
 
-template <typename Number>
-std::optional<Number> numberIn(std::string_view digits, int base) {
-  Number number = 0;
-  const char* const end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
-  return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
-}
-
 // Blanks, line ends and backslashes stand as a backslash and three octal digits.
 constexpr std::size_t kEscapedLength = 4;
 
@@ -45,7 +34,7 @@ std::string unescaped(std::string_view text) {
   while (!text.empty()) {
     const bool mayBeEscaped = text.front() == '\\' && text.size() >= kEscapedLength;
     const auto escaped = mayBeEscaped
-                             ? numberIn<unsigned char>(text.substr(1, kEscapedLength - 1), 8)
+                             ? wholeNumber<unsigned char>(text.substr(1, kEscapedLength - 1), 8)
                              : std::nullopt;
     bytes += escaped ? static_cast<char>(*escaped) : text.front();
     text.remove_prefix(escaped ? kEscapedLength : 1);
@@ -58,17 +47,18 @@ std::string unescaped(std::string_view text) {
 std::vector<MountPoint> mountTableFrom(std::string_view text) {
   std::vector<MountPoint> mounts;
   while (!text.empty()) {
-    const std::string_view line = text.substr(0, text.find('\n'));
-    text.remove_prefix(std::min(text.size(), line.size() + 1));
-    const auto id = numberIn<std::uint64_t>(fieldOf(line, kIdField), 10);
+    const std::string_view line = takeLine(text);
+    const auto id = wholeNumber<std::uint64_t>(fieldOf(line, kIdField));
     const std::string_view place = fieldOf(line, kPlaceField);
     if (id && place.starts_with('/')) mounts.push_back({*id, unescaped(place)});
   }
   return mounts;
 }
 
+// Asked for each folder on its way to the Trash. libmount reads the same, in twice the time and
+// with five to nine times as many allocations.
 std::optional<std::vector<MountPoint>> readMountTable() {
-  const UniqueFd file(uninterrupted(
+  const UniqueFd file(retryOnEintr(
       [] { return ::open("/proc/self/mountinfo", O_RDONLY | O_NOFOLLOW | O_CLOEXEC); }));
   const auto text = file ? readToEnd(file.get(), kLongestTable) : std::nullopt;
   if (!text) return std::nullopt;

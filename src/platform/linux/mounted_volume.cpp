@@ -7,15 +7,14 @@
 
 #include <array>
 
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
 
 std::optional<struct ::statvfs> statusOf(const Path& folder) {
   struct ::statvfs status {};
-  if (uninterrupted([&] { return ::statvfs(folder.c_str(), &status); }) != 0) return std::nullopt;
+  if (retryOnEintr([&] { return ::statvfs(folder.c_str(), &status); }) != 0) return std::nullopt;
   return status;
 }
 

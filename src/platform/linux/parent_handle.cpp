@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/folder_handle.h"
-#include "platform/linux/uninterrupted.h"
+#include "base/folder_handle.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
@@ -46,7 +46,7 @@ bool namesAnItem(const Path& item) {
 
 std::optional<std::string> linkTarget(int folder, const std::string& name) {
   std::array<char, PATH_MAX> target;
-  const ssize_t length = uninterrupted(
+  const ssize_t length = retryOnEintr(
       [&] { return ::readlinkat(folder, name.c_str(), target.data(), target.size()); });
   if (length <= 0) return std::nullopt;
   return std::string(target.data(), static_cast<std::size_t>(length));
@@ -74,7 +74,7 @@ class Descent {
     while (!_pending.empty()) {
       const std::string& name = _pending.back();
       const auto make = [&] { return ::mkdirat(_folder.get(), name.c_str(), 0777); };
-      if (uninterrupted(make) != 0 && errno != EEXIST) return false;
+      if (retryOnEintr(make) != 0 && errno != EEXIST) return false;
       UniqueFd next = openFolderHandle(_folder.get(), name.c_str());
       if (!next) return false;
       arriveAt(std::move(next));

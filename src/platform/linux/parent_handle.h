@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 #include "platform/path.h"
 
 namespace klarvik {

@@ -11,9 +11,8 @@
 #include <string>
 #include <system_error>
 
-#include "platform/linux/read_to_end.h"
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/unique_fd.h"
+#include "base/paths.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
@@ -22,7 +21,7 @@ constexpr std::size_t longestFile = 4UL * 1024 * 1024;
 
 std::string contentOf(const Path& file) {
   const UniqueFd opened(
-      uninterrupted([&] { return ::open(file.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC); }));
+      retryOnEintr([&] { return ::open(file.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC); }));
   if (!opened) return {};
   return readToEnd(opened.get(), longestFile).value_or(std::string());
 }
@@ -102,12 +101,11 @@ bool ProcessTable::isLockHeld(const Path& link) const {
 }
 
 bool ProcessTable::hasOpen(const Path& path) const {
-  const std::string folder = path.native() + "/";
   const auto isInside = [&](const Path& link) {
     std::error_code error;
     const Path linked = std::filesystem::read_symlink(link, error);
     const std::string& target = linked.native();
-    return target == path.native() || target.starts_with(folder);
+    return target == path.native() || isBelow(target, path.native());
   };
   return anyProcess(_folder, [&](const Path& process) {
     if (isInside(process / "cwd") || isInside(process / "exe")) return true;

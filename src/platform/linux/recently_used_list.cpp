@@ -4,9 +4,9 @@
 
 #include <cerrno>
 
-#include "platform/linux/atomic_write.h"
+#include "base/atomic_write.h"
+#include "base/posix_io.h"
 #include "platform/linux/file_lock.h"
-#include "platform/linux/uninterrupted.h"
 
 namespace klarvik {
 namespace {
@@ -26,7 +26,7 @@ constexpr ::mode_t permissionBits = 07777;
 
 bool RecentlyUsedList::clear() {
   struct ::stat status {};
-  if (uninterrupted([&] { return ::lstat(_file.c_str(), &status); }) != 0) return errno == ENOENT;
+  if (retryOnEintr([&] { return ::lstat(_file.c_str(), &status); }) != 0) return errno == ENOENT;
   if (!S_ISREG(status.st_mode)) return false;
   // Opens the list for writing, which a user who protects it against that has denied.
   const auto lock = FileLock::take(_file, lockPatience);

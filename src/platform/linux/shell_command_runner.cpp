@@ -9,9 +9,7 @@
 #include <array>
 #include <limits>
 
-#include "platform/linux/read_to_end.h"
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
@@ -99,7 +97,7 @@ std::optional<std::string> ShellCommandRunner::run(const std::string& commandLin
   if (!child) return std::nullopt;
   output->writing.reset();
   errors->writing.reset();
-  uninterrupted([&] { return ::waitpid(*child, nullptr, 0); });
+  retryOnEintr([&] { return ::waitpid(*child, nullptr, 0); });
   return readToEnd(output->reading.get(), std::numeric_limits<std::size_t>::max());
 }
 

@@ -3,12 +3,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "platform/linux/folder_handle.h"
+#include "base/folder_handle.h"
+#include "base/posix_io.h"
+#include "base/unpublished_file.h"
 #include "platform/linux/item_move.h"
-#include "platform/linux/read_to_end.h"
 #include "platform/linux/trash_name.h"
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/unpublished_file.h"
 
 namespace klarvik {
 namespace {
@@ -21,7 +20,7 @@ std::string recordName(const std::string& name) {
 }
 
 void removeRecord(int info, const std::string& name) {
-  uninterrupted([&] { return ::unlinkat(info, recordName(name).c_str(), 0); });
+  retryOnEintr([&] { return ::unlinkat(info, recordName(name).c_str(), 0); });
 }
 
 UnpublishedFile::Naming makeRecord(int info, const std::string& name, std::string_view text) {
@@ -79,7 +78,7 @@ std::optional<std::string> TrashFolder::take(const ParentHandle& item, const str
 std::optional<std::string> TrashFolder::readRecord(const std::string& name) const {
   constexpr int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
   const UniqueFd file(
-      uninterrupted([&] { return ::openat(_info.get(), recordName(name).c_str(), flags); }));
+      retryOnEintr([&] { return ::openat(_info.get(), recordName(name).c_str(), flags); }));
   return file ? readToEnd(file.get(), kLongestRecord) : std::nullopt;
 }
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/posix_io.h"
 #include "platform/linux/parent_handle.h"
-#include "platform/linux/unique_fd.h"
 
 namespace klarvik {
 

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
+
+#include "base/text.h"
 
 namespace klarvik {
 namespace {
@@ -34,13 +35,9 @@ std::string percentEncoded(std::string_view bytes) {
 }
 
 std::optional<char> byteOf(std::string_view twoDigits) {
-  unsigned value = 0;
-  const char* const end = twoDigits.data() + twoDigits.size();
-  const auto [stop, error] = std::from_chars(twoDigits.data(), end, value, 16);
-  if (twoDigits.size() != 2 || error != std::errc() || stop != end || value == 0) {
-    return std::nullopt;
-  }
-  return static_cast<char>(value);
+  const auto value = wholeNumber<unsigned char>(twoDigits, 16);
+  if (twoDigits.size() != 2 || !value || *value == 0) return std::nullopt;
+  return static_cast<char>(*value);
 }
 
 std::optional<std::string> percentDecoded(std::string_view text) {
@@ -57,12 +54,6 @@ std::optional<std::string> percentDecoded(std::string_view text) {
     text.remove_prefix(3);
   }
   return bytes;
-}
-
-std::string_view takeLine(std::string_view& text) {
-  const std::string_view line = text.substr(0, text.find('\n'));
-  text.remove_prefix(std::min(text.size(), line.size() + 1));
-  return line;
 }
 
 bool climbs(const Path& place) {

@@ -11,12 +11,12 @@
 #include <string>
 #include <vector>
 
+#include "base/posix_io.h"
 #include "platform/linux/directory_reader.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/folder_trail.h"
 #include "platform/linux/item_move.h"
 #include "platform/linux/name_stack.h"
-#include "platform/linux/uninterrupted.h"
 
 namespace klarvik {
 namespace {
@@ -40,7 +40,7 @@ bool isMountRoot(const struct statx& status) {
 }
 
 int unlinkName(int folder, const char* name, int flags) {
-  return uninterrupted([&] { return ::unlinkat(folder, name, flags); });
+  return retryOnEintr([&] { return ::unlinkat(folder, name, flags); });
 }
 
 /// Empties one folder, deepest things first.
@@ -132,7 +132,7 @@ class TreeRemoval {
 void emptyFolder(const ParentHandle& item, const struct statx& seen, const Mount& mount) {
   constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
   UniqueFd folder(
-      uninterrupted([&] { return ::openat(item.folder.get(), item.name.c_str(), flags); }));
+      retryOnEintr([&] { return ::openat(item.folder.get(), item.name.c_str(), flags); }));
   const auto opened = folder ? statusOf(folder.get(), "") : std::nullopt;
   if (!opened || !isTheSame(*opened, seen) || !TreeRemoval::mayEnter(*opened, mount)) return;
   TreeRemoval(std::move(folder), mount).run();

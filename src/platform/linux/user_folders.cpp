@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "base/text.h"
+
 namespace klarvik {
 namespace {
 
@@ -45,12 +47,7 @@ constexpr std::array<VisibleFolder, 6> visibleFolders{{
     {"XDG_VIDEOS_DIR", &UserFolders::videos},
 }};
 
-std::string_view withoutBlanks(std::string_view text) {
-  constexpr std::string_view blanks = " \t\r";
-  const std::size_t first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
+constexpr std::string_view blanks = " \t\r";
 
 /// What stands between the quotation marks of a shell's assignment; nothing when it is no such
 /// text.
@@ -110,14 +107,13 @@ std::optional<UserFolders> UserFolders::ofThisUser() {
 UserFolders UserFolders::withVisibleFolders(std::string_view userDirs) const {
   UserFolders folders = *this;
   while (!userDirs.empty()) {
-    const std::string_view line = userDirs.substr(0, userDirs.find('\n'));
-    userDirs.remove_prefix(std::min(line.size() + 1, userDirs.size()));
+    const std::string_view line = takeLine(userDirs);
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos) continue;
-    const std::string_view key = withoutBlanks(line.substr(0, equals));
+    const std::string_view key = trimmed(line.substr(0, equals), blanks);
     const auto* known = std::ranges::find(visibleFolders, key, &VisibleFolder::key);
     if (known == visibleFolders.end()) continue;
-    if (auto folder = folderIn(withoutBlanks(line.substr(equals + 1)), home)) {
+    if (auto folder = folderIn(trimmed(line.substr(equals + 1), blanks), home)) {
       folders.*known->folder = std::move(*folder);
     }
   }

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/linux/folder_handle.h"
+#include "base/folder_handle.h"
 #include "platform/linux/mount_table.h"
 
 namespace klarvik {

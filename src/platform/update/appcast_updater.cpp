@@ -9,10 +9,10 @@
 #include <array>
 #include <utility>
 
+#include "base/folder_handle.h"
+#include "base/unicode_text.h"
 #include "platform/application_info.h"
 #include "platform/base64.h"
-#include "platform/linux/folder_handle.h"
-#include "platform/unicode_text.h"
 #include "platform/update/appcast.h"
 #include "platform/update/archive_signature.h"
 #include "platform/update/update_errors.h"

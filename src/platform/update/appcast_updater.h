@@ -10,9 +10,9 @@
 #include <optional>
 #include <string>
 
+#include "base/unpublished_file.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
-#include "platform/linux/unpublished_file.h"
 #include "platform/update/https_fetch.h"
 #include "platform/update/update_choice.h"
 #include "platform/updater.h"

@@ -5,7 +5,8 @@
 #include <optional>
 #include <utility>
 
-#include "platform/unicode_text.h"
+#include "base/text.h"
+#include "base/unicode_text.h"
 
 namespace klarvik {
 namespace {
@@ -13,6 +14,7 @@ namespace {
 constexpr std::size_t mostBytes = 16'000;
 constexpr std::size_t longestCharacter = 4;
 constexpr std::size_t longestEntity = 8;
+constexpr std::string_view whiteSpace = " \t\r\n";
 constexpr std::string_view bullet = "\u2022 ";
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 6> entities{
@@ -28,7 +30,7 @@ bool isOneOf(std::string_view name, const auto& names) {
 }
 
 bool isWhite(char character) {
-  return character == ' ' || character == '\t' || character == '\r' || character == '\n';
+  return whiteSpace.find(character) != whiteSpace.npos;
 }
 
 bool isControl(char character) {
@@ -46,6 +48,9 @@ std::optional<std::string> characterOfNumber(std::string_view digits) {
   return std::string(1, static_cast<char>(number));
 }
 
+/// Reads once from front to end, whatever is nested in what. QTextDocument, which also knows HTML,
+/// takes seconds of the main thread for 64 KB of open elements or of style rules, and asks for the
+/// style sheets and pictures that a text names.
 class NotesOfHtml {
  public:
   explicit NotesOfHtml(std::string_view html) : _rest(html) {}
@@ -139,10 +144,7 @@ std::string cut(std::string_view text) {
 std::string plainNotes(std::string_view text) {
   std::string notes = cut(text);
   std::erase_if(notes, [](char character) { return isControl(character) && character != '\n'; });
-  const auto first = std::ranges::find_if_not(notes, isWhite);
-  notes.erase(notes.begin(), first);
-  while (!notes.empty() && isWhite(notes.back())) notes.pop_back();
-  return notes;
+  return std::string(trimmed(notes, whiteSpace));
 }
 
 std::string plainNotesOfHtml(std::string_view html) {

@@ -2,8 +2,8 @@
 
 #include <QUrl>
 #include <algorithm>
-#include <charconv>
 
+#include "base/text.h"
 #include "platform/base64.h"
 #include "platform/update/update_errors.h"
 #include "platform/update/version.h"
@@ -58,10 +58,7 @@ std::vector<Candidate> newerItems(const std::vector<AppcastItem>& items,
 }
 
 std::int64_t lengthOf(const AppcastItem& item) {
-  const char* const end = item.length.data() + item.length.size();
-  std::int64_t length = 0;
-  const auto [stop, fault] = std::from_chars(item.length.data(), end, length);
-  return fault == std::errc() && stop == end ? length : 0;
+  return wholeNumber<std::int64_t>(item.length).value_or(0);
 }
 
 std::string secureAddress(const std::string& text) {

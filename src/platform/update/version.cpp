@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/text.h"
+
 namespace klarvik {
 namespace {
 
@@ -19,12 +21,6 @@ bool isLetter(char character) {
 
 bool isSeparator(char character) {
   return character == '.' || character == '-' || character == '~';
-}
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(whiteSpace);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(whiteSpace) - first + 1);
 }
 
 /// Cuts the longest run of what `belongs` off the front of `text`.
@@ -64,7 +60,7 @@ std::weak_ordering compareRuns(std::string_view left, std::string_view right) {
 }  // namespace
 
 std::optional<Version> Version::parse(std::string_view text) {
-  std::string_view rest = trimmed(text);
+  std::string_view rest = trimmed(text, whiteSpace);
   if (rest.size() > longestText) return std::nullopt;
   Version version;
   do {

@@ -10,7 +10,9 @@ namespace klarvik {
 
 /// A version: numbers between dots, of which missing ones count as 0 ("1.10" is after "1.9" and
 /// equals "1.10.0"), and perhaps a mark of what comes before the release ("2.0-beta.2", "2.0rc1").
-/// What follows a "+" says how it was built, and does not count.
+/// What follows a "+" says how it was built, and does not count. A number may be of any size, such
+/// as the date and time of a build: QVersionNumber takes none beyond 32 bits, and would call two of
+/// them equal.
 class Version {
  public:
   /// Nothing for text that is not a version, or longer than one ever is.

@@ -1,6 +1,5 @@
 #include "shell/updates/update_settings_view.h"
 
-#include "core/junk_model.h"
 #include "panes/kit/palette.h"
 #include "platform/application_info.h"
 #include "platform/workspace.h"

@@ -1,6 +1,5 @@
 #include "shell/updates/update_window.h"
 
-#include "core/junk_model.h"
 #include "platform/application_info.h"
 #include "platform/workspace.h"
 #include "state/change_to.h"

@@ -29,7 +29,7 @@ class KitWindow : public ::testing::Test {
     warnings().clear();
     previous = qInstallMessageHandler(collect);
     QAccessible::setActive(true);
-    installKit(*view.engine(), {formatting, "/Users/ann", workspace, clock});
+    installKit(*view.engine(), {formatting, "/Users/ann", workspace, clock, motionPreference});
     view.setColor(QColor(28, 28, 30));
     view.setResizeMode(QQuickView::SizeViewToRootObject);
   }
@@ -86,6 +86,7 @@ class KitWindow : public ::testing::Test {
 
   Formatting formatting{"en_US"};
   FakeWorkspace workspace;
+  FakeMotionPreference motionPreference;
   FakeClock clock;
   HandMovedMotion motion;
   QQuickView view;

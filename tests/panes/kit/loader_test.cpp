@@ -31,16 +31,27 @@ TEST(LoaderTimeline, DrawsNoMoreThanThirtyFramesASecond) {
 class Loaders : public KitWindow {};
 
 TEST_F(Loaders, StandStillUnderReducedMotion) {
-  qputenv("KLARVIK_REDUCE_MOTION", "1");
+  FakeMotionPreference still;
+  still.setReduced(true);
   QQmlEngine calm;
-  installKit(calm, {formatting, "/Users/ann", workspace, clock});
+  installKit(calm, {formatting, "/Users/ann", workspace, clock, still});
   EXPECT_TRUE(Kit::of(calm).reduceMotion());
   QQmlComponent component(&calm);
   component.setData("import Klarvik.Kit\nInlineLoader { size: 15 }", {});
   const std::unique_ptr<QObject> loader(component.create());
   ASSERT_TRUE(loader) << component.errorString().toStdString();
   EXPECT_FALSE(loader->findChild<LoaderTimeline*>()->isRunning());
-  qunsetenv("KLARVIK_REDUCE_MOTION");
+}
+
+TEST_F(Loaders, StandStillAsSoonAsLessMotionIsAskedFor) {
+  QQuickItem* loader = show("InlineLoader { size: 15 }");
+  ASSERT_NE(loader, nullptr);
+  auto* timeline = loader->findChild<LoaderTimeline*>();
+  EXPECT_TRUE(timeline->isRunning());
+  motionPreference.setReduced(true);
+  EXPECT_FALSE(timeline->isRunning());
+  motionPreference.setReduced(false);
+  EXPECT_TRUE(timeline->isRunning());
 }
 
 TEST_F(Loaders, RunWhileTheyAreSeenAndStopWhenHidden) {

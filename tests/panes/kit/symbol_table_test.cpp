@@ -4,9 +4,9 @@
 #include <QGlyphRun>
 #include <QTextLayout>
 
-#include "core/junk_model.h"
 #include "kit_window.h"
 #include "panes/kit/fonts.h"
+#include "places/category_type.h"
 
 namespace klarvik {
 namespace {

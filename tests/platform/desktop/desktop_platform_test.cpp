@@ -4,6 +4,11 @@
 
 #include <cstdlib>
 
+#include "platform/application_info.h"
+#include "platform/command_runner.h"
+#include "platform/recent_documents.h"
+#include "platform/trash.h"
+#include "platform/volume.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "platform/unicode_text.h"
+#include "base/unicode_text.h"
 #include "platform/update/appcast.h"
 #include "platform/update/update_choice.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/unicode_text.h"
+#include "base/unicode_text.h"
 
 namespace klarvik {
 namespace {
@@ -47,6 +47,28 @@ TEST(ReleaseNotes, BearTagsThatNeverEnd) {
   EXPECT_EQ(plainNotesOfHtml("a<!-- b"), "a");
   EXPECT_EQ(plainNotesOfHtml("a<script>b"), "a");
   EXPECT_EQ(plainNotesOfHtml("a&"), "a&");
+}
+
+TEST(ReleaseNotes, ThatReferToOtherFilesAreTheirOwnWordsAndNothingElse) {
+  EXPECT_EQ(plainNotesOfHtml("a<img src=\"file:///etc/hostname\" alt=\"b\">"
+                             "<link rel=\"stylesheet\" href=\"file:///etc/hostname\">"
+                             "<style>@import url(file:///etc/hostname);</style>"
+                             "<body background=\"file:///etc/hostname\">c"
+                             "<iframe src=\"file:///etc/hostname\"></iframe>"
+                             "<object data=\"file:///etc/hostname\"></object>"),
+            "ac");
+}
+
+// What takes more than one look at each byte takes minutes for these.
+TEST(ReleaseNotes, BearLongMarkup) {
+  for (const std::string piece :
+       {"<", "<b>", "<div>", "<ul>", "<table><tr><td>", "<a name=x>", "</p>", "<!-- -->", "<!--",
+        "<style>b{}</style>", "<style>", "<td colspan=2147483647>", " ", "\n"}) {
+    std::string html;
+    while (html.size() < 400'000) html += piece;
+    EXPECT_EQ(plainNotesOfHtml(html), "") << piece;
+    EXPECT_EQ(plainNotesOfHtml("<p>a</p>" + html), "a") << piece;
+  }
 }
 
 }  // namespace

@@ -15,7 +15,8 @@ Version version(const char* text) {
 TEST(UpdateVersion, IsComparedFieldByField) {
   constexpr auto inOrder = std::to_array<const char*>(
       {"0", "0.0.9", "0.9", "0.10", "1", "1.0.1", "1.2", "1.9", "1.9.9", "1.10", "1.100", "2", "10",
-       "2026.11", "99999999999999999999999998", "99999999999999999999999999"});
+       "2026.11", "2147483648", "202611221433", "202611221434", "99999999999999999999999998",
+       "99999999999999999999999999"});
   for (std::size_t left = 0; left < inOrder.size(); ++left) {
     for (std::size_t right = 0; right < inOrder.size(); ++right) {
       EXPECT_EQ(version(inOrder[left]) <=> version(inOrder[right]),

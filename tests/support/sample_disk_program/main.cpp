@@ -1,4 +1,3 @@
-#include <charconv>
 #include <chrono>
 #include <exception>
 #include <iostream>
@@ -6,6 +5,7 @@
 #include <span>
 #include <string_view>
 
+#include "base/text.h"
 #include "places/linux/linux_layout.h"
 #include "support/linux_sample_disk.h"
 #include "support/sample_disk.h"
@@ -19,22 +19,14 @@ struct Arguments {
   klarvik::SampleDiskOptions options;
 };
 
-std::optional<std::int64_t> positiveNumber(std::string_view text) {
-  std::int64_t value = 0;
-  const char* const end = text.data() + text.size();
-  const auto [rest, error] = std::from_chars(text.data(), end, value);
-  if (error != std::errc{} || rest != end || value < 1) return std::nullopt;
-  return value;
-}
-
 std::optional<Arguments> parsed(std::span<char* const> words) {
   Arguments arguments;
   for (std::size_t at = 0; at < words.size(); ++at) {
     const std::string_view word = words[at];
     const bool hasValue = at + 1 < words.size();
     if (word == "--scale" && hasValue) {
-      const auto scale = positiveNumber(words[++at]);
-      if (!scale) return std::nullopt;
+      const auto scale = klarvik::wholeNumber<std::int64_t>(words[++at]);
+      if (!scale || *scale < 1) return std::nullopt;
       arguments.options.scale = *scale;
     } else if (word == "--home" && hasValue) {
       arguments.options.home = words[++at];

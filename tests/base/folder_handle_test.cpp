@@ -1,4 +1,4 @@
-#include "platform/linux/folder_handle.h"
+#include "base/folder_handle.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/write_whole.h"
+#include "base/posix_io.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -8,14 +8,13 @@
 #include <cerrno>
 #include <string>
 
-#include "platform/linux/unique_fd.h"
 #include "support/system_call_faults.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
 namespace {
 
-class WriteWhole : public testing::Test {
+class WriteAll : public testing::Test {
  protected:
   [[nodiscard]] UniqueFd open() const {
     return UniqueFd(::open((folder.path() / "file").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
@@ -24,39 +23,39 @@ class WriteWhole : public testing::Test {
   TemporaryFolder folder;
 };
 
-TEST_F(WriteWhole, WritesAfterWhatHasBeenWritten) {
+TEST_F(WriteAll, WritesAfterWhatHasBeenWritten) {
   const UniqueFd file = open();
-  EXPECT_TRUE(writeWhole(file.get(), "first "));
-  EXPECT_TRUE(writeWhole(file.get(), {}));
-  EXPECT_TRUE(writeWhole(file.get(), "second"));
+  EXPECT_TRUE(writeAll(file.get(), "first "));
+  EXPECT_TRUE(writeAll(file.get(), {}));
+  EXPECT_TRUE(writeAll(file.get(), "second"));
   EXPECT_EQ(folder.contentOf("file"), "first second");
 }
 
-TEST_F(WriteWhole, GoesOnAfterASignal) {
+TEST_F(WriteAll, GoesOnAfterASignal) {
   bool reached = true;
   for (int at = 1; reached; ++at) {
     const UniqueFd file = open();
     const FaultyRun run = runWithFault(
         {.kind = SystemCallFault::Kind::failsOnce, .at = at, .error = EINTR, .disturbance = {}},
-        [&] { return writeWhole(file.get(), "text"); });
+        [&] { return writeAll(file.get(), "text"); });
     EXPECT_TRUE(run.answer) << at;
     EXPECT_EQ(folder.contentOf("file"), "text") << at;
     reached = run.reached;
   }
 }
 
-TEST_F(WriteWhole, FailsWhereAWriteIsCutShort) {
+TEST_F(WriteAll, FailsWhereAWriteIsCutShort) {
   const UniqueFd file = open();
   const FaultyRun run = runWithFault({}, [&] {
     ::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{20, 20};
-    return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && !writeWhole(file.get(), std::string(50, 'x'));
+    return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 && !writeAll(file.get(), std::string(50, 'x'));
   });
   EXPECT_TRUE(run.answer);
 }
 
-TEST_F(WriteWhole, FailsOnAFileThatIsNotOpen) {
-  EXPECT_FALSE(writeWhole(-1, "text"));
+TEST_F(WriteAll, FailsOnAFileThatIsNotOpen) {
+  EXPECT_FALSE(writeAll(-1, "text"));
 }
 
 }  // namespace

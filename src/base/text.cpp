@@ -1,10 +1,9 @@
-#include "engine/tool_text.h"
+#include "base/text.h"
 
 #include <unicode/uchar.h>
 #include <unicode/utf8.h>
 
-#include <charconv>
-#include <system_error>
+#include <algorithm>
 
 namespace klarvik {
 
@@ -73,10 +72,16 @@ std::string_view trimmed(std::string_view text) {
   return text;
 }
 
-std::string_view trimmedOfBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t");
+std::string_view trimmed(std::string_view text, std::string_view of) {
+  const auto first = text.find_first_not_of(of);
   if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+  return text.substr(first, text.find_last_not_of(of) - first + 1);
+}
+
+std::string_view takeLine(std::string_view& text) {
+  const std::string_view line = text.substr(0, text.find('\n'));
+  text.remove_prefix(std::min(text.size(), line.size() + 1));
+  return line;
 }
 
 std::vector<std::string_view> splitLines(std::string_view text) {
@@ -109,12 +114,7 @@ std::string_view firstCharacters(std::string_view text, std::size_t count) {
 }
 
 std::optional<std::int64_t> decimalInteger(std::string_view text) {
-  const auto digits = withoutPlus(text);
-  const char* const end = digits.data() + digits.size();
-  std::int64_t value = 0;
-  const auto [rest, error] = std::from_chars(digits.data(), end, value);
-  if (error != std::errc{} || rest != end) return std::nullopt;
-  return value;
+  return wholeNumber<std::int64_t>(withoutPlus(text));
 }
 
 std::optional<double> decimalNumber(std::string_view text) {

@@ -1,4 +1,4 @@
-#include "panes/kit/motion_preference.h"
+#include "platform/desktop/xdg_motion_preference.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -43,7 +43,7 @@ QVariant unwrapped(QVariant value) {
 
 }  // namespace
 
-MotionPreference::MotionPreference(QObject* parent) : QObject(parent) {
+XdgMotionPreference::XdgMotionPreference() {
   if (qEnvironmentVariableIsSet(environmentName)) {
     _reduced = qEnvironmentVariableIntValue(environmentName) != 0;
     return;
@@ -52,7 +52,7 @@ MotionPreference::MotionPreference(QObject* parent) : QObject(parent) {
   if (hasSessionBus()) askPortal();
 }
 
-void MotionPreference::askPortal() {
+void XdgMotionPreference::askPortal() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
   bus.connect(portalService, portalPath, portalInterface, "SettingChanged", this,
@@ -69,16 +69,16 @@ void MotionPreference::askPortal() {
   });
 }
 
-void MotionPreference::takeSetting(const QString& group, const QString& key,
-                                   const QDBusVariant& value) {
+void XdgMotionPreference::takeSetting(const QString& group, const QString& key,
+                                      const QDBusVariant& value) {
   if (group != settingGroup || key != settingKey) return;
   setReduced(!unwrapped(value.variant()).toBool());
 }
 
-void MotionPreference::setReduced(bool reduced) {
+void XdgMotionPreference::setReduced(bool reduced) {
   if (reduced == _reduced) return;
   _reduced = reduced;
-  emit changed();
+  if (_listener) _listener();
 }
 
 }  // namespace klarvik

@@ -1,4 +1,4 @@
-#include "platform/linux/unpublished_file.h"
+#include "base/unpublished_file.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <string>
 
-#include "platform/linux/folder_handle.h"
+#include "base/folder_handle.h"
 #include "support/system_call_faults.h"
 #include "support/temporary_folder.h"
 

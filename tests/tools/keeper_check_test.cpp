@@ -1,4 +1,4 @@
-#include "panes/duplicates/keeper_check.h"
+#include "tools/keeper_check.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/linux/unpublished_file.h"
+#include "base/unpublished_file.h"
 
 #include <fcntl.h>
 #include <stdio.h>
@@ -12,8 +12,7 @@
 #include <random>
 #include <utility>
 
-#include "platform/linux/uninterrupted.h"
-#include "platform/linux/write_whole.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 namespace {
@@ -26,7 +25,7 @@ std::string nameFor(const std::string& name, int number, const std::string& exte
 }
 
 UniqueFd openAt(int folder, const char* name, int flags) {
-  return UniqueFd(uninterrupted(
+  return UniqueFd(retryOnEintr(
       [&] { return ::openat(folder, name, flags | O_RDWR | O_CLOEXEC, forTheUserAlone); }));
 }
 
@@ -62,7 +61,7 @@ std::optional<UnpublishedFile> UnpublishedFile::in(UniqueFd folder) {
 }
 
 bool UnpublishedFile::append(std::string_view bytes) {
-  if (!writeWhole(_fd.get(), bytes)) return false;
+  if (!writeAll(_fd.get(), bytes)) return false;
   _size += static_cast<std::int64_t>(bytes.size());
   return true;
 }
@@ -78,7 +77,7 @@ bool UnpublishedFile::inspect(const std::function<bool(std::span<const std::byte
 }
 
 bool UnpublishedFile::flush() const {
-  return uninterrupted([&] { return ::fdatasync(_fd.get()); }) == 0;
+  return retryOnEintr([&] { return ::fdatasync(_fd.get()); }) == 0;
 }
 
 void UnpublishedFile::discard() {
@@ -107,7 +106,7 @@ bool UnpublishedFile::link(const std::string& name) const {
 
 UnpublishedFile::Naming UnpublishedFile::giveName(const std::string& name) {
   const bool isNamed =
-      uninterrupted([&] { return (_temporary.empty() ? link(name) : rename(name)) ? 0 : -1; }) == 0;
+      retryOnEintr([&] { return (_temporary.empty() ? link(name) : rename(name)) ? 0 : -1; }) == 0;
   if (!isNamed) return errno == EEXIST ? Naming::nameTaken : Naming::failed;
   _temporary.clear();
   return Naming::done;

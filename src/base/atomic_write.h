@@ -2,9 +2,8 @@
 
 #include <sys/types.h>
 
+#include <filesystem>
 #include <string_view>
-
-#include "platform/path.h"
 
 namespace klarvik {
 
@@ -14,7 +13,7 @@ namespace klarvik {
 ///
 /// False when that failed; what stood there before then still stands. Two writers of one file must
 /// keep each other out.
-[[nodiscard]] bool writeAtomically(const Path& file, std::string_view content,
+[[nodiscard]] bool writeAtomically(const std::filesystem::path& file, std::string_view content,
                                    ::mode_t mode = 0600);
 
 }  // namespace klarvik

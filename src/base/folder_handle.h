@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/unique_fd.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 

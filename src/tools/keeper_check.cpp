@@ -1,4 +1,4 @@
-#include "panes/duplicates/keeper_check.h"
+#include "tools/keeper_check.h"
 
 #include <optional>
 #include <string_view>

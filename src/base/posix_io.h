@@ -2,6 +2,11 @@
 
 #include <unistd.h>
 
+#include <cerrno>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace klarvik {
@@ -31,5 +36,22 @@ class UniqueFd {
  private:
   int _fd = -1;
 };
+
+/// Makes a system call again for as long as signals interrupt it.
+template <typename Call>
+auto retryOnEintr(const Call& call) {
+  for (;;) {
+    const auto result = call();
+    if (result != -1 || errno != EINTR) return result;
+  }
+}
+
+/// All that can still be read from the opened file. Nothing when reading fails or when it would be
+/// more than `most` bytes.
+[[nodiscard]] std::optional<std::string> readToEnd(int file, std::size_t most);
+
+/// Writes all of `bytes` to the opened file. False when that failed; the file may have taken some
+/// of them then.
+[[nodiscard]] bool writeAll(int file, std::string_view bytes);
 
 }  // namespace klarvik

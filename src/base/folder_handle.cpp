@@ -1,18 +1,18 @@
-#include "platform/linux/folder_handle.h"
+#include "base/folder_handle.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
 
 #include <cerrno>
 
-#include "platform/linux/uninterrupted.h"
+#include "base/posix_io.h"
 
 namespace klarvik {
 
 UniqueFd openFolderHandle(int parent, const char* name, LinkInPlace link) {
   const int flags =
       O_PATH | O_DIRECTORY | O_CLOEXEC | (link == LinkInPlace::refused ? O_NOFOLLOW : 0);
-  return UniqueFd(uninterrupted([&] { return ::openat(parent, name, flags); }));
+  return UniqueFd(retryOnEintr([&] { return ::openat(parent, name, flags); }));
 }
 
 UniqueFd openFolderHandleCreating(int parent, const char* name, LinkInPlace link) {
@@ -20,7 +20,7 @@ UniqueFd openFolderHandleCreating(int parent, const char* name, LinkInPlace link
   if (folder || errno != ENOENT) return folder;
   constexpr mode_t forTheUserAlone = 0700;
   const auto make = [&] { return ::mkdirat(parent, name, forTheUserAlone); };
-  if (uninterrupted(make) != 0 && errno != EEXIST) return {};
+  if (retryOnEintr(make) != 0 && errno != EEXIST) return {};
   return openFolderHandle(parent, name, link);
 }
 

@@ -3,22 +3,24 @@
 #include <QDBusVariant>
 #include <QObject>
 #include <QString>
+#include <functional>
+#include <utility>
+
+#include "platform/motion_preference.h"
 
 namespace klarvik {
 
-/// Whether the desktop asks for less motion: told by its settings portal, and by the settings file
+/// Told by its settings portal, and by the settings file
 /// of its toolkit until the portal has answered. The environment's KLARVIK_REDUCE_MOTION (1 or 0)
 /// goes before both.
-class MotionPreference : public QObject {
+class XdgMotionPreference final : public QObject, public MotionPreference {
   Q_OBJECT
 
  public:
-  explicit MotionPreference(QObject* parent = nullptr);
+  XdgMotionPreference();
 
-  [[nodiscard]] bool isReduced() const { return _reduced; }
-
- signals:
-  void changed();
+  [[nodiscard]] bool isReduced() const override { return _reduced; }
+  void onChange(std::function<void()> listener) override { _listener = std::move(listener); }
 
  private slots:
   void takeSetting(const QString& group, const QString& key, const QDBusVariant& value);
@@ -28,6 +30,7 @@ class MotionPreference : public QObject {
   void setReduced(bool reduced);
 
   bool _reduced = false;
+  std::function<void()> _listener;
 };
 
 }  // namespace klarvik

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <charconv>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace klarvik {
+
+// Reading what others write: tools, files, the user. Pure functions; the answers point into the
+// text they were given. "White space" is that of every script, and a character is one code point; a
+// byte that is not UTF-8 counts as a character of its own.
+
+/// Without white space and newlines at both ends.
+[[nodiscard]] std::string_view trimmed(std::string_view text);
+/// Without the bytes `of` at both ends.
+[[nodiscard]] std::string_view trimmed(std::string_view text, std::string_view of);
+/// Cuts the first line and the newline behind it off `text`, and answers the line.
+[[nodiscard]] std::string_view takeLine(std::string_view& text);
+/// The pieces between newlines, empty ones included.
+[[nodiscard]] std::vector<std::string_view> splitLines(std::string_view text);
+/// The pieces between white space, none of them empty.
+[[nodiscard]] std::vector<std::string_view> splitWords(std::string_view text);
+/// The whole text where it is no longer than `count` characters.
+[[nodiscard]] std::string_view firstCharacters(std::string_view text, std::size_t count);
+/// Nothing unless the whole text is digits of this base, for a signed number perhaps behind a
+/// minus, and fits. The locale has no say in what a digit is.
+template <std::integral Number>
+[[nodiscard]] std::optional<Number> wholeNumber(std::string_view text, int base = 10) {
+  Number number = 0;
+  const char* const end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, number, base);
+  return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
+}
+/// Nothing unless the whole text is a decimal integer, signed or not, that fits 64 bits.
+[[nodiscard]] std::optional<std::int64_t> decimalInteger(std::string_view text);
+/// Nothing unless the whole text is a decimal number. One beyond the range of a double reads as 0.
+[[nodiscard]] std::optional<double> decimalNumber(std::string_view text);
+
+}  // namespace klarvik
