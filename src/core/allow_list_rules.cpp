@@ -42,6 +42,10 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
   }
 
   if (!catalogue.placesOf(path, /*inHome=*/true).empty()) return allowed;
+  if (question.scope.kind == DeletionScope::Kind::trail) {
+    if (catalogue.isTrail(path)) return allowed;
+    return refuse("~/", relative, " is no trail that Klarvik clears.");
+  }
   // What waits in the Trash was put there to go, wherever the user keeps the Trash.
   const Path trash =
       question.folders.data.lexically_relative(question.folders.home) / "Trash/files";

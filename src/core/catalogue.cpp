@@ -154,6 +154,16 @@ bool Catalogue::isNamedLikeArtifact(std::span<const std::string_view> path) cons
   });
 }
 
+bool Catalogue::isTrail(std::span<const std::string_view> path) const {
+  return std::ranges::any_of(_layout.trails.trails, [&](const Trail& trail) {
+    const std::string_view base = folder(trail.base).value_or("");
+    return trail.clearing != TrailClearing::told &&
+           std::ranges::any_of(trail.inside, [&](std::string_view inside) {
+             return matchPattern(path, {base, trail.folder, inside}).relation == Relation::at;
+           });
+  });
+}
+
 bool Catalogue::reachesSecret(std::span<const std::string_view> path) const {
   // A file system may take capitals and small letters for the same name.
   std::vector<std::string> lower;

@@ -35,6 +35,9 @@ class Catalogue {
   /// Whether a project's build may have left a folder of this path in the home.
   [[nodiscard]] bool isNamedLikeArtifact(std::span<const std::string_view> path) const;
 
+  /// Whether a table names the thing itself as a trail of what the user did.
+  [[nodiscard]] bool isTrail(std::span<const std::string_view> path) const;
+
   /// Keys and passwords: at or below such a place, or above one.
   [[nodiscard]] bool reachesSecret(std::span<const std::string_view> path) const;
   /// The pattern of what people keep for themselves that `path` is or lies in.

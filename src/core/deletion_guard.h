@@ -17,12 +17,14 @@ struct DeletionScope {
     general,     ///< an item that a scanner found
     pickedFile,  ///< a file that the user chose by hand
     residual,    ///< a file left behind by an application that is being uninstalled
+    trail,       ///< a trail of what the user did
   };
   Kind kind = Kind::general;
   std::vector<std::string> identifiers;  ///< of that application; `residual` only
 
   static DeletionScope general() { return {Kind::general, {}}; }
   static DeletionScope pickedFile() { return {Kind::pickedFile, {}}; }
+  static DeletionScope trail() { return {Kind::trail, {}}; }
   static DeletionScope residual(std::vector<std::string> identifiers) {
     return {Kind::residual, std::move(identifiers)};
   }

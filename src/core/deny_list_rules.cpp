@@ -36,6 +36,7 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
       if (deepEnough) return allowed;
       return refuse("~/", relative, " is a whole folder, not a file you picked.");
     case DeletionScope::Kind::general:
+    case DeletionScope::Kind::trail:
       break;
   }
   for (const auto& [base, entry] : question.layout.guard.ownPlaces) {

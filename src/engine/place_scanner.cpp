@@ -6,6 +6,7 @@
 
 #include "base/paths.h"
 #include "core/removal_check.h"
+#include "engine/program_use.h"
 #include "engine/project_walk.h"
 #include "engine/scanner_engine.h"
 #include "places/path_pattern.h"
@@ -59,7 +60,7 @@ CleanCategory PlaceScanner::find(CategoryType type) {
   CleanCategory category{.type = type, .items = {}};
   for (const Place& place : _layout.places) {
     if (place.category != type) continue;
-    for (const Match& match : matches(place)) {
+    for (const PlaceMatch& match : matches(place)) {
       if (_stop.stop_requested()) return category;
       look(place, match, category);
     }
@@ -118,14 +119,15 @@ Path PlaceScanner::folder(Base base) const {
   return below ? _platform.files.home() / *below : Path("/");
 }
 
-std::vector<PlaceScanner::Match> PlaceScanner::matches(const Place& place) const {
-  std::vector<Match> found = expanded({{.path = folder(place.base)}}, place.pattern);
-  std::erase_if(found, [&](const Match& match) { return isExcepted(place, match); });
+std::vector<PlaceMatch> PlaceScanner::matches(const Place& place) const {
+  const FileSystem& files = _platform.files;
+  auto found = matchesBelow(files, {{.path = folder(place.base)}}, place.pattern);
+  std::erase_if(found, [&](const PlaceMatch& match) { return isExcepted(place, match); });
   if (!place.details.only.empty()) {
-    std::vector<Match> inside;
-    for (const Match& outer : found) {
+    std::vector<PlaceMatch> inside;
+    for (const PlaceMatch& outer : found) {
       for (const std::string_view pattern : place.details.only) {
-        for (Match& inner : expanded({outer}, pattern)) {
+        for (PlaceMatch& inner : matchesBelow(files, {outer}, pattern)) {
           inner.inside = inner.path.lexically_relative(outer.path);
           inside.push_back(std::move(inner));
         }
@@ -133,42 +135,14 @@ std::vector<PlaceScanner::Match> PlaceScanner::matches(const Place& place) const
     }
     found = std::move(inside);
   }
-  if (place.unit == Unit::children || place.unit == Unit::unknown) found = expanded(found, "*");
-  std::erase_if(found, [&](const Match& match) { return isExcepted(place, match); });
+  if (place.unit == Unit::children || place.unit == Unit::unknown) {
+    found = matchesBelow(files, std::move(found), "*", PlaceKinds::folders);
+  }
+  std::erase_if(found, [&](const PlaceMatch& match) { return isExcepted(place, match); });
   return found;
 }
 
-std::vector<PlaceScanner::Match> PlaceScanner::expanded(std::vector<Match> starts,
-                                                        std::string_view pattern) const {
-  for (const std::string_view piece : pathPieces(pattern)) {
-    std::vector<Match> next;
-    for (Match& start : starts) {
-      if (piece.find('*') == std::string_view::npos) {
-        start.path /= piece;
-        // Not even a name is looked up on a volume that may not answer.
-        if (!_platform.files.isMountPoint(start.path)) next.push_back(std::move(start));
-        continue;
-      }
-      for (const Path& child : _platform.files.list(start.path).value_or(std::vector<Path>{})) {
-        const std::string name = child.filename().native();
-        if (!nameMatches(piece, name) || isElsewhere(child)) continue;
-        next.push_back({.path = child, .stars = start.stars});
-        next.back().stars.push_back(name);
-      }
-    }
-    starts = std::move(next);
-  }
-  return starts;
-}
-
-/// Looked at first, because what is mounted at a place may not answer.
-bool PlaceScanner::isElsewhere(const Path& path) const {
-  if (_platform.files.isMountPoint(path)) return true;
-  const auto attributes = _platform.files.attributes(path);
-  return attributes && attributes->kind == FileKind::symbolicLink;
-}
-
-bool PlaceScanner::isExcepted(const Place& place, const Match& match) const {
+bool PlaceScanner::isExcepted(const Place& place, const PlaceMatch& match) const {
   const auto isNone = [&](const std::string& name) {
     return nameMatchesAny(place.details.except, name);
   };
@@ -177,15 +151,15 @@ bool PlaceScanner::isExcepted(const Place& place, const Match& match) const {
          _catalogue.hasRowOfItsOwn(place.base, match.stars.back());
 }
 
-std::string PlaceScanner::nameOf(const Place& place, const Match& match) {
+std::string PlaceScanner::nameOf(const Place& place, const PlaceMatch& match) {
   if (place.name.empty()) return match.path.filename().native();
   const std::string name = filledIn(place.name, match.stars);
   return match.inside.empty() ? name : name + " — " + match.inside.native();
 }
 
-void PlaceScanner::look(const Place& place, const Match& match, CleanCategory& category) {
+void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCategory& category) {
   const FileSystem& files = _platform.files;
-  if (overlapsAnItem(match.path) || isElsewhere(match.path)) return;
+  if (overlapsAnItem(match.path) || isElsewhere(_platform.files, match.path)) return;
   const auto attributes = files.attributes(match.path);
   const bool foldersOnly = place.unit == Unit::unknown || place.unit == Unit::children;
   if (!isFolderOrFile(attributes)) return;
@@ -247,33 +221,12 @@ std::string PlaceScanner::obstacle(const Path& path, const Measure& measure) con
   return {};
 }
 
-std::string PlaceScanner::runningUser(const Place& place, const Match& match) const {
+std::string PlaceScanner::runningUser(const Place& place, const PlaceMatch& match) const {
   const std::string_view program = place.details.closedFirst;
   if (program.empty()) return {};
-  if (program == "*") {
-    const std::string& application = match.stars.front();
-    return _platform.programs.isSandboxRunning(application) ? application : "";
-  }
-  const auto known = std::ranges::find(_layout.programs, program, &ProgramName::program);
-  const std::string_view name = known != _layout.programs.end() ? known->name : program;
-  // One program may go by several names.
-  const auto isItRunning = [&](const ProgramName& each) {
-    return each.name == name && _platform.programs.isRunning(each.program);
-  };
-  const auto isItsLockHeld = [&](const ProgramLock& lock) {
-    return lock.program == program && holdsLock(lock);
-  };
-  const bool isRunning = _platform.programs.isRunning(program) ||
-                         std::ranges::any_of(_layout.programs, isItRunning) ||
-                         std::ranges::any_of(_layout.programLocks, isItsLockHeld);
-  return isRunning ? std::string(name) : "";
-}
-
-bool PlaceScanner::holdsLock(const ProgramLock& lock) const {
-  return std::ranges::any_of(
-      expanded({{.path = folder(lock.base)}}, lock.pattern), [&](const Match& link) {
-        return _platform.programs.isLockHeld(_platform.files.diskPath(link.path));
-      });
+  if (program != "*") return nameIfRunning(_platform, _catalogue, program);
+  const std::string& application = match.stars.front();
+  return _platform.programs.isSandboxRunning(application) ? application : "";
 }
 
 bool PlaceScanner::overlapsAnItem(const Path& path) const {

@@ -11,6 +11,7 @@
 #include "core/catalogue.h"
 #include "core/junk_model.h"
 #include "engine/place_conditions.h"
+#include "engine/place_matches.h"
 #include "platform/platform.h"
 
 namespace klarvik {
@@ -34,25 +35,14 @@ class PlaceScanner {
   [[nodiscard]] CleanCategory findTrashed();
 
  private:
-  /// A thing that a pattern stands for.
-  struct Match {
-    Path path;
-    std::vector<std::string> stars{};  ///< the names that its "*" stand for
-    Path inside{};  ///< the part of the path below the pattern, where only parts of it are meant
-  };
-
   [[nodiscard]] Path folder(Base base) const;
-  [[nodiscard]] std::vector<Match> matches(const Place& place) const;
-  [[nodiscard]] std::vector<Match> expanded(std::vector<Match> starts,
-                                            std::string_view pattern) const;
-  [[nodiscard]] bool isElsewhere(const Path& path) const;
-  [[nodiscard]] static std::string nameOf(const Place& place, const Match& match);
-  [[nodiscard]] bool isExcepted(const Place& place, const Match& match) const;
-  void look(const Place& place, const Match& match, CleanCategory& category);
+  [[nodiscard]] std::vector<PlaceMatch> matches(const Place& place) const;
+  [[nodiscard]] static std::string nameOf(const Place& place, const PlaceMatch& match);
+  [[nodiscard]] bool isExcepted(const Place& place, const PlaceMatch& match) const;
+  void look(const Place& place, const PlaceMatch& match, CleanCategory& category);
   void offer(JunkItem item, const Measure& measure, CleanCategory& category);
   [[nodiscard]] std::string obstacle(const Path& path, const Measure& measure) const;
-  [[nodiscard]] std::string runningUser(const Place& place, const Match& match) const;
-  [[nodiscard]] bool holdsLock(const ProgramLock& lock) const;
+  [[nodiscard]] std::string runningUser(const Place& place, const PlaceMatch& match) const;
   [[nodiscard]] bool overlapsAnItem(const Path& path) const;
 
   const Platform& _platform;

@@ -28,6 +28,8 @@ QVariant SectionedList::data(const QModelIndex& index, int role) const {
       return row.size;
     case IsSelectedRole:
       return row.item && _selected.contains(*row.item);
+    case CanSelectRole:
+      return row.item && row.canSelect;
     case DescriptionRole:
       return row.description;
     default:
@@ -36,22 +38,18 @@ QVariant SectionedList::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> SectionedList::roleNames() const {
-  return {{KindRole, "kind"},
-          {NameRole, "name"},
-          {PathRole, "pathText"},
-          {UrlRole, "url"},
-          {NoteRole, "note"},
-          {CountRole, "count"},
-          {SizeRole, "size"},
-          {IsSelectedRole, "isSelected"},
-          {DescriptionRole, "description"}};
+  return {{KindRole, "kind"},           {NameRole, "name"},
+          {PathRole, "pathText"},       {UrlRole, "url"},
+          {NoteRole, "note"},           {CountRole, "count"},
+          {SizeRole, "size"},           {IsSelectedRole, "isSelected"},
+          {CanSelectRole, "canSelect"}, {DescriptionRole, "description"}};
 }
 
 void SectionedList::toggle(int row) {
   if (!hasIndex(row, 0)) return;
-  const std::optional<Uuid>& item = _rows[static_cast<std::size_t>(row)].item;
-  if (!item) return;
-  if (_selected.erase(*item) == 0) _selected.insert(*item);
+  const Row& pressed = _rows[static_cast<std::size_t>(row)];
+  if (!pressed.item || !pressed.canSelect) return;
+  if (_selected.erase(*pressed.item) == 0) _selected.insert(*pressed.item);
   emit dataChanged(index(row), index(row), {IsSelectedRole});
   emit selectionChanged();
 }

@@ -32,6 +32,7 @@ class SectionedList : public QAbstractListModel {
     CountRole,
     SizeRole,
     IsSelectedRole,
+    CanSelectRole,
     DescriptionRole,
   };
 
@@ -42,7 +43,8 @@ class SectionedList : public QAbstractListModel {
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
   [[nodiscard]] const std::unordered_set<Uuid>& selected() const { return _selected; }
-  /// Selects the item of the row, or no longer. Nothing on a heading.
+  /// Selects the item of the row, or no longer. Nothing on a heading, and on what cannot be
+  /// selected.
   void toggle(int row);
 
  signals:
@@ -60,6 +62,7 @@ class SectionedList : public QAbstractListModel {
     QString count = {};
     QString size = {};
     QString description;
+    bool canSelect = true;
   };
 
   /// Into a list that is empty.

@@ -3,7 +3,40 @@
 #include <span>
 #include <string_view>
 
+#include "places/place.h"
+#include "places/privacy_category.h"
+
 namespace klarvik {
+
+/// What of a trail is counted for the user.
+enum class TrailCount {
+  none,
+  files,
+  lines,
+  bookmarks,  ///< of a list of recent files
+};
+
+/// How a trail is cleared.
+enum class TrailClearing {
+  removed,         ///< for good
+  emptied,         ///< the files stay, without content
+  asList,          ///< the desktop's list of recent documents stays, without entries
+  orphansRemoved,  ///< records in a Trash without the thing that they are of
+  told,            ///< by the user, in the program itself
+};
+
+/// Where one program keeps one kind of trail. Its texts live as long as the program.
+struct Trail {
+  PrivacyCategory category;
+  std::string_view program;  ///< as the user calls it; empty where the kind says it all
+  Base base;
+  std::string_view folder;                   ///< below the base
+  std::span<const std::string_view> inside;  ///< patterns below the folder
+  TrailClearing clearing = TrailClearing::removed;
+  TrailCount count = TrailCount::none;
+  std::string_view closedFirst{};  ///< the program that writes it again, or that it belongs to
+  std::string_view told{};         ///< how the user clears it; `told` only
+};
 
 /// Where a system's programs keep trails of what their user did, below the home. Empty where the
 /// trails of a kind are not looked for.
@@ -16,6 +49,8 @@ struct TrailPlaces {
   std::string_view recentLists;                     ///< a folder
   std::string_view recentApplications;              ///< a file
   std::string_view downloadOrigins;                 ///< a file
+  /// Trails that consist of many things each; the lists above are empty where there are any.
+  std::span<const Trail> trails{};
 };
 
 }  // namespace klarvik

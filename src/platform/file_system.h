@@ -126,6 +126,9 @@ class FileSystem {
   virtual bool createDirectories(const Path& folder) = 0;
   /// Never replaces what stands at `to`, and never copies between volumes.
   virtual bool move(const Path& from, const Path& to) = 0;
+  /// Takes all content out of a regular file that has no other name; the file itself stays. Never
+  /// through a link. False when it stays as it is.
+  virtual bool empty(const Path& file, const ItemCheck& mayEmpty) = 0;
   /// Removes for good an item and all it holds: through directory handles, never through a symbolic
   /// link, never across a mount point. True only when nothing of the item is left.
   virtual bool remove(const Path& item, const ItemCheck& mayRemove) = 0;

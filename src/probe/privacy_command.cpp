@@ -25,11 +25,23 @@ Report itemReport(const PrivacyItem& item) {
           {"selected", item.isSelected}};
 }
 
+/// Where a trail is made of parts, they and what stands in the way of clearing it.
+Report withParts(Report report, const PrivacyItem& item) {
+  if (item.parts.empty()) return report;
+  Report parts = Report::array();
+  for (const TrailPart& part : item.parts) parts.push_back(pathReport(part.path));
+  report["parts"] = std::move(parts);
+  report["closeFirst"] = item.closeFirst;
+  report["told"] = item.told;
+  return report;
+}
+
 void clear(const std::vector<PrivacyItem>& items, PrivacyScanner& scanner,
            const std::stop_token& stop) {
   PrivacyClearance sums;
   for (const PrivacyItem& item : items) {
     if (stop.stop_requested()) break;
+    if (!item.parts.empty() && !item.isSelected) continue;
     const PrivacyClearance done = scanner.clear({item});
     sums.cleaned += done.cleaned;
     sums.freed = addBytes(sums.freed, done.freed);
@@ -46,12 +58,12 @@ int privacy(const Invocation& call) {
     return usageError;
   }
   NoPasteboard pasteboard;
-  PrivacyScanner scanner(call.platform.files, pasteboard, call.platform.recentDocuments);
+  PrivacyScanner scanner(call.platform, pasteboard);
   const auto found = scanner.scan([](double fraction, std::string_view line) {
     print({{"event", "update"}, {"fraction", fraction}, {"line", line}});
   });
   Report items = Report::array();
-  for (const PrivacyItem& item : found) items.push_back(itemReport(item));
+  for (const PrivacyItem& item : found) items.push_back(withParts(itemReport(item), item));
   print({{"event", "result"}, {"items", std::move(items)}});
   if (clears) clear(found, scanner, call.stop);
   return 0;

@@ -1,36 +1,28 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/uuid.h"
+#include "places/trail_places.h"
 #include "platform/entry_identity.h"
 #include "platform/path.h"
 
 namespace klarvik {
 
-/// The kinds of trails that a machine keeps of what its user did.
-enum class PrivacyCategory {
-  browserHistory,
-  browserCookies,
-  browserCache,
-  recentFiles,
-  recentApps,
-  downloadsList,
-  clipboard,
-  quarantine,
-  trashHistory,  ///< no scan finds any
-  locationHistory,
+/// One of the things that a trail consists of.
+struct TrailPart {
+  Path path;
+  std::int64_t size = 0;  ///< bytes that its clearing gives back
+  /// As it was found. Another thing that comes to its name later is not cleared instead.
+  std::optional<EntryIdentity> identity = std::nullopt;
+  TrailClearing clearing = TrailClearing::removed;
+
+  bool operator==(const TrailPart&) const = default;
 };
-
-inline constexpr std::size_t privacyCategoryCount = 10;
-[[nodiscard]] const std::array<PrivacyCategory, privacyCategoryCount>& allPrivacyCategories();
-
-/// "Browser History": the name of the kind, which is also its label.
-[[nodiscard]] std::string_view rawValue(PrivacyCategory category);
 
 /// One trail that a scan found.
 struct PrivacyItem {
@@ -43,6 +35,15 @@ struct PrivacyItem {
   bool isSelected = true;
   /// Of the path, as it was found. Another thing that comes to it later is not removed instead.
   std::optional<EntryIdentity> identity = std::nullopt;
+
+  std::vector<TrailPart> parts{};  ///< where the trail is several things; cleared when all are gone
+  std::string program{};  ///< whose trail it is, as the user calls it; empty where nobody's
+  std::string_view closedFirst{};  ///< the program without which it is cleared, by its own name
+  std::string closeFirst{};        ///< the same as the user calls it, while it runs
+  std::string_view told{};         ///< how the user clears it; empty for what Klarvik clears
+
+  /// Whether it can be cleared as things are.
+  [[nodiscard]] bool canBeCleared() const { return closeFirst.empty() && told.empty(); }
 
   bool operator==(const PrivacyItem&) const = default;
 };

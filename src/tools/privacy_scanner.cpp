@@ -5,12 +5,18 @@
 #include <span>
 
 #include "base/bytes.h"
+#include "base/paths.h"
+#include "base/unicode_text.h"
+#include "core/catalogue.h"
 #include "core/removal_check.h"
+#include "engine/allocated_size.h"
+#include "engine/program_use.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/pasteboard.h"
 #include "platform/recent_documents.h"
 #include "tools/file_size.h"
+#include "tools/trail_finder.h"
 
 namespace klarvik {
 
@@ -137,11 +143,24 @@ constexpr std::array<TrailSearch, 9> searches{{
 
 std::vector<PrivacyItem> PrivacyScanner::scan(const ProgressSink& progress) {
   const std::scoped_lock lock(_working);
+  if (!trails(_files).trails.empty()) return scanTable(progress);
   std::vector<PrivacyItem> items;
   for (const TrailSearch& search : searches) {
     if (progress) progress(search.fraction, search.line);
     if (auto item = search.find(_files, _pasteboard)) items.push_back(std::move(*item));
   }
+  if (progress) progress(1.0, "Done");
+  return items;
+}
+
+std::vector<PrivacyItem> PrivacyScanner::scanTable(const ProgressSink& progress) {
+  std::vector<PrivacyItem> items = TrailFinder(_platform).find([&](PrivacyCategory category) {
+    if (!progress) return;
+    const auto step = static_cast<double>(category) + 1;
+    const std::string line = "Scanning " + lowercased(rawValue(category)) + "...";
+    progress(step / (privacyCategoryCount + 1), line);
+  });
+  if (auto copied = clipboard(_files, _pasteboard)) items.push_back(std::move(*copied));
   if (progress) progress(1.0, "Done");
   return items;
 }
@@ -153,13 +172,15 @@ PrivacyClearance PrivacyScanner::clear(const std::vector<PrivacyItem>& items) {
     const PrivacyClearance done = clearItem(item);
     sums.cleaned += done.cleaned;
     sums.freed = addBytes(sums.freed, done.freed);
+    sums.stayed.insert(sums.stayed.end(), done.stayed.begin(), done.stayed.end());
   }
   return sums;
 }
 
 PrivacyClearance PrivacyScanner::clearItem(const PrivacyItem& item) {
+  if (!item.parts.empty()) return clearParts(item);
   if (item.category == PrivacyCategory::recentFiles) {
-    _recentDocuments.clear();
+    _platform.recentDocuments.clear();
     return {.cleaned = 1};
   }
   if (item.category == PrivacyCategory::clipboard) {
@@ -170,6 +191,56 @@ PrivacyClearance PrivacyScanner::clearItem(const PrivacyItem& item) {
                                                    item.identity, _leftAlone);
   if (stays) return {};
   return {.cleaned = 1, .freed = item.size};
+}
+
+PrivacyClearance PrivacyScanner::clearParts(const PrivacyItem& item) {
+  PrivacyClearance done;
+  std::size_t gone = 0;
+  if (item.told.empty() && !isInUse(item)) {
+    for (const TrailPart& part : item.parts) {
+      const std::int64_t before = wholeAllocatedSize(_files, part.path);
+      if (!clearPart(part)) continue;
+      ++gone;
+      done.freed = addBytes(done.freed, before - wholeAllocatedSize(_files, part.path));
+    }
+  }
+  if (gone == item.parts.size()) {
+    done.cleaned = 1;
+  } else {
+    done.stayed.push_back(item.id);
+  }
+  return done;
+}
+
+bool PrivacyScanner::clearPart(const TrailPart& part) {
+  const auto scope = DeletionScope::trail();
+  switch (part.clearing) {
+    case TrailClearing::removed:
+    case TrailClearing::orphansRemoved:
+      return removeIfAllowed(_files, part.path, scope, part.identity, _leftAlone);
+    case TrailClearing::emptied:
+      return mayRemove(_files, part.path, scope) &&
+             _files.empty(part.path, itemCheck(_files, part.path, scope, part.identity));
+    case TrailClearing::asList:
+      return _platform.recentDocuments.clear();
+    case TrailClearing::told:
+      break;
+  }
+  return false;
+}
+
+/// Looked at again: a program may have been started since the scan.
+bool PrivacyScanner::isInUse(const PrivacyItem& item) const {
+  const Catalogue catalogue(layoutFor(_files.home()), _files.folders());
+  const auto runs = [&](std::string_view program) {
+    return !program.empty() && !nameIfRunning(_platform, catalogue, program).empty();
+  };
+  return runs(item.closedFirst) || std::ranges::any_of(item.parts, [&](const TrailPart& part) {
+           const std::string below = part.path.lexically_relative(_files.home()).native();
+           const auto places = catalogue.placesOf(pathPieces(below), /*inHome=*/true);
+           return std::ranges::any_of(
+               places, [&](const Place* place) { return runs(place->details.closedFirst); });
+         });
 }
 
 }  // namespace klarvik

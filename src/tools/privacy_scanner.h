@@ -7,25 +7,25 @@
 #include <vector>
 
 #include "core/left_alone.h"
-#include "platform/path.h"
+#include "platform/platform.h"
 #include "tools/privacy_item.h"
 
 namespace klarvik {
 
-class FileSystem;
 class Pasteboard;
-class RecentDocuments;
 
 /// What a clearing did, as it is told to the user.
 struct PrivacyClearance {
   std::int64_t cleaned = 0;  ///< trails
   std::int64_t freed = 0;    ///< bytes
+  std::vector<Uuid>
+      stayed{};  ///< trails of which something is still there, as far as that is known
 
   bool operator==(const PrivacyClearance&) const = default;
 };
 
 /// Looks for the trails that a machine keeps of what its user did, and clears those selected. It
-/// looks into no file: a trail is measured by sizes alone.
+/// looks into a file only to count its entries.
 ///
 /// Operations are synchronous and are meant to be called off the main thread; of one scanner they
 /// run one after the other. Nothing throws: what is missing or cannot be read adds nothing.
@@ -36,11 +36,10 @@ class PrivacyScanner {
   using ProgressSink = std::function<void(double fraction, std::string_view line)>;
 
   /// `leftAlone`, where there is one, counts what is left although it was selected.
-  PrivacyScanner(FileSystem& files, Pasteboard& pasteboard, RecentDocuments& recentDocuments,
-                 LeftAlone* leftAlone = nullptr)
-      : _files(files),
+  PrivacyScanner(const Platform& platform, Pasteboard& pasteboard, LeftAlone* leftAlone = nullptr)
+      : _platform(platform),
+        _files(platform.files),
         _pasteboard(pasteboard),
-        _recentDocuments(recentDocuments),
         _leftAlone(leftAlone) {}
 
   /// One item for each kind of trail there is. Short, and so not to be stopped.
@@ -48,15 +47,20 @@ class PrivacyScanner {
 
   /// Clears what it can. The recent documents and the clipboard are emptied; a thing with a path is
   /// removed for good, when `DeletionGuard` lets it. Every other item is told as cleared, its bytes
-  /// as freed, and stays as it is: there is no one thing to remove.
+  /// as freed, and stays as it is: there is no one thing to remove. A trail of several parts is
+  /// cleared part by part, unless its program runs; what is freed of it is what has gone.
   PrivacyClearance clear(const std::vector<PrivacyItem>& items);
 
  private:
+  [[nodiscard]] std::vector<PrivacyItem> scanTable(const ProgressSink& progress);
   [[nodiscard]] PrivacyClearance clearItem(const PrivacyItem& item);
+  [[nodiscard]] PrivacyClearance clearParts(const PrivacyItem& item);
+  [[nodiscard]] bool clearPart(const TrailPart& part);
+  [[nodiscard]] bool isInUse(const PrivacyItem& item) const;
 
+  const Platform& _platform;
   FileSystem& _files;
   Pasteboard& _pasteboard;
-  RecentDocuments& _recentDocuments;
   LeftAlone* const _leftAlone;
   std::mutex _working;
 };

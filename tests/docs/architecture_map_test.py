@@ -1,4 +1,4 @@
-"""docs/architecture.md has a line for every file of the folders it maps, and for no others."""
+"""docs/architecture.md has a row for every folder of the source, and names nothing that is not there."""
 
 import pathlib
 import re
@@ -9,44 +9,44 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 MAPPED = ("src", "tests/support")
 
 
-def named_files(text):
-    """The files a map names: below a heading with a folder in backquotes, each list item opens with
-    a name, or with several that differ in what stands in braces."""
-    folder, files = None, []
-    for line in text.splitlines():
-        if heading := re.match(r"#+ .*`([^`]+?)/?`", line):
-            folder = heading[1]
-        elif line.startswith("#"):
-            folder = None
-        elif folder and (item := re.match(r"- `([^`]+)`", line)):
-            stem, braces, rest = re.match(r"([^{]*)(?:\{([^}]*)\}(.*))?$", item[1]).groups()
-            endings = braces.split(",") if braces else [""]
-            files += [f"{folder}/{stem}{ending}{rest or ''}" for ending in endings]
-    return files
-
-
-def files_on_disk():
+def folders_on_disk():
+    """The folders that hold files of their own."""
     return {
-        path.relative_to(ROOT).as_posix()
+        path.parent.relative_to(ROOT).as_posix()
         for folder in MAPPED
         for path in (ROOT / folder).rglob("*")
         if path.is_file() and path.name != "CMakeLists.txt"
     }
 
 
-class TheMapOfTheHouse(unittest.TestCase):
+def rows(text):
+    """The folder of each row of the table, and the files that its last column names."""
+    for line in text.splitlines():
+        if row := re.match(r"\| `([^`]+)` \|.*\|([^|]*)\|$", line):
+            yield row[1], re.findall(r"`([^`]+)`", row[2])
+
+
+class TheMapOfTheProject(unittest.TestCase):
     def setUp(self):
-        self.named = named_files((ROOT / "docs/architecture.md").read_text(encoding="utf-8"))
-        self.present = files_on_disk()
+        self.text = (ROOT / "docs/architecture.md").read_text(encoding="utf-8")
+        self.rows = list(rows(self.text))
 
-    def test_has_a_line_for_every_file(self):
-        self.assertEqual(sorted(self.present - set(self.named)), [])
+    def test_has_one_row_for_every_folder(self):
+        self.assertEqual(sorted(folder for folder, _ in self.rows), sorted(folders_on_disk()))
 
-    def test_names_no_file_that_does_not_exist(self):
-        self.assertEqual(sorted(set(self.named) - self.present), [])
+    def test_names_files_that_lie_in_their_folders(self):
+        missing = [
+            f"{folder}/{name}"
+            for folder, files in self.rows
+            for name in files
+            if not (ROOT / folder / name).is_file()
+        ]
+        self.assertEqual(missing, [])
 
-    def test_names_no_file_twice(self):
-        self.assertEqual(len(self.named), len(set(self.named)))
+    def test_names_no_place_of_the_project_that_does_not_exist(self):
+        named = set(re.findall(r"`((?:src|tests|docs|benchmarks|packaging)/[\w./]*)`", self.text))
+        self.assertTrue(named)
+        self.assertEqual(sorted(place for place in named if not (ROOT / place).exists()), [])
 
 
 if __name__ == "__main__":

@@ -179,6 +179,15 @@ bool FakeFileSystem::moveChecked(const Path& from, const Path& to, const ItemChe
   return isAllowed(from, mayMove) && move(from, to);
 }
 
+bool FakeFileSystem::empty(const Path& file, const ItemCheck& mayEmpty) {
+  if (!isAllowed(file, mayEmpty)) return false;
+  const std::scoped_lock lock(_mutex);
+  const auto entry = _entries.find(file);
+  if (entry == _entries.end() || entry->second.kind != FileKind::regular) return false;
+  entry->second.allocatedBytes = entry->second.logicalBytes = 0;
+  return true;
+}
+
 bool FakeFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   if (!isAllowed(item, mayRemove)) return false;
   const std::scoped_lock lock(_mutex);

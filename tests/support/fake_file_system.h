@@ -51,6 +51,7 @@ class FakeFileSystem final : public FileSystem {
   [[nodiscard]] std::unique_ptr<OpenedFolder> openFolder(const Path& folder) const override;
   bool createDirectories(const Path& folder) override;
   bool move(const Path& from, const Path& to) override;
+  bool empty(const Path& file, const ItemCheck& mayEmpty) override;
   bool remove(const Path& item, const ItemCheck& mayRemove) override;
 
   /// A move that asks for leave first, as a removal does.

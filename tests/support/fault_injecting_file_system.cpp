@@ -200,6 +200,10 @@ bool FaultInjectingFileSystem::move(const Path& from, const Path& to) {
   return goesAhead(Operation::move, from) && _files.move(from, to);
 }
 
+bool FaultInjectingFileSystem::empty(const Path& file, const ItemCheck& mayEmpty) {
+  return goesAhead(Operation::remove, file) && _files.empty(file, mayEmpty);
+}
+
 bool FaultInjectingFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   const bool done = goesAhead(Operation::remove, item) && _files.remove(item, mayRemove);
   const std::scoped_lock lock(_mutex);

@@ -66,6 +66,7 @@ class FaultInjectingFileSystem final : public FileSystem, public FaultInjection<
   [[nodiscard]] std::unique_ptr<OpenedFolder> openFolder(const Path& folder) const override;
   bool createDirectories(const Path& folder) override;
   bool move(const Path& from, const Path& to) override;
+  bool empty(const Path& file, const ItemCheck& mayEmpty) override;
   bool remove(const Path& item, const ItemCheck& mayRemove) override;
 
  private:

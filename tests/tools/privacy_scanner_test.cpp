@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include "platform/system_platform.h"
 #include "support/child_process.h"
 #include "support/disk_snapshot.h"
 #include "support/fake_desktop.h"
@@ -24,7 +25,7 @@ class PrivacyScannerTest : public testing::Test {
   FakeDesktopOnDisk world;
   TemporaryFolder& disk = world.disk;
   FaultInjectingFileSystem& files = world.files;
-  PrivacyScanner scanner{files, world.pasteboard, world.recentDocuments};
+  PrivacyScanner scanner{world.desktop, world.pasteboard};
 
   const Path library = "/Users/ann/Library";
   const Path chrome = library / "Application Support/Google/Chrome/Default";
@@ -58,9 +59,10 @@ TEST(PrivacyCategory, HasALabelForEachKindInTheOrderTheyAreListed) {
   std::vector<std::string_view> labels;
   for (const PrivacyCategory category : allPrivacyCategories())
     labels.push_back(rawValue(category));
-  EXPECT_THAT(labels, ElementsAre("Browser History", "Browser Cookies", "Browser Cache",
-                                  "Recent Files", "Recent Apps", "Downloads List", "Clipboard",
-                                  "Quarantine DB", "Trash History", "Location Cache"));
+  EXPECT_THAT(labels,
+              ElementsAre("Browser History", "Browser Cookies", "Browser Cache", "Recent Files",
+                          "Recent Apps", "Downloads List", "Clipboard", "Quarantine DB",
+                          "Trash History", "Location Cache", "Shell History", "Thumbnails"));
 }
 
 TEST_F(PrivacyScannerTest, TellsEachPassBeforeItRunsAndTheEnd) {
@@ -91,9 +93,10 @@ TEST_F(PrivacyScannerTest, APassIsToldBeforeItLooks) {
 TEST_F(PrivacyScannerTest, FindsEveryKindOfTrailOnTheSampleDiskButTheTrashHistory) {
   const TemporaryFolder folder;
   const SampleDisk sample = buildSampleDisk(folder.path());
-  LinuxFileSystem sampleFiles(sample.root, sample.home);
+  SystemPlatform machine(sample.root, sample.home);
+  const Platform platform = machine.platform();
   world.pasteboard.isFilled = true;
-  const auto items = PrivacyScanner(sampleFiles, world.pasteboard, world.recentDocuments).scan({});
+  const auto items = PrivacyScanner(platform, world.pasteboard).scan({});
   std::vector<std::pair<PrivacyCategory, std::string>> named;
   for (const PrivacyItem& each : items) {
     named.emplace_back(each.category, each.name);

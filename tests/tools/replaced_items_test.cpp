@@ -116,8 +116,7 @@ bool removeLeftover(Stage& stage) {
 }
 
 bool clearTrail(Stage& stage) {
-  PrivacyScanner scanner(stage.world.files, stage.world.pasteboard, stage.world.recentDocuments,
-                         &stage.leftAlone);
+  PrivacyScanner scanner(stage.world.desktop, stage.world.pasteboard, &stage.leftAlone);
   const PrivacyItem trail{.category = PrivacyCategory::quarantine,
                           .name = "trail",
                           .path = stage.shown,

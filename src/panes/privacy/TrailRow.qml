@@ -17,6 +17,7 @@ ToolDetailRow {
     required property string count
     required property string size
     required property bool isSelected
+    required property bool canSelect
     required description
 
     property bool isLocked: false
@@ -31,7 +32,7 @@ ToolDetailRow {
     showsParts: isTrail
     implicitHeight: isTrail ? PrivacyMetrics.rowHeight : PrivacyMetrics.headingHeight
     Accessible.role: isTrail ? Accessible.CheckBox : Accessible.Heading
-    Accessible.checkable: isTrail
+    Accessible.checkable: canSelect
     Accessible.checked: isSelected
 
     whole: SectionHeading {
@@ -47,7 +48,7 @@ ToolDetailRow {
         size: 16
         selection: root.isSelected ? SelectionState.All : SelectionState.None
         label: root.name
-        canToggle: !root.isLocked
+        canToggle: root.canSelect && !root.isLocked
         activeFocusOnTab: false
         onToggled: root.pressBox()
     }
@@ -56,7 +57,7 @@ ToolDetailRow {
         Layout.preferredWidth: PrivacyMetrics.costWidth
         text: root.note
         size: 12
-        color: Theme.textSecondary
+        color: root.canSelect ? Theme.textSecondary : Theme.review
     }
 
     Figure {

@@ -98,7 +98,7 @@ void PrivacyCleanerView::startScan() {
   _scan.start<Report, std::vector<PrivacyItem>>(
       {.work =
            [&desktop = _desktop](std::stop_token, const auto& post) {
-             PrivacyScanner scanner(desktop.files, desktop.pasteboard, desktop.recentDocuments);
+             PrivacyScanner scanner(desktop, desktop.pasteboard);
              return scanner.scan([&post](double fraction, std::string_view line) {
                post({fraction, printableText(line)});
              });
@@ -139,13 +139,16 @@ QCoro::Task<> PrivacyCleanerView::clearItems(std::vector<PrivacyItem> items) {
   emit selectionChanged();
 
   LeftAlone leftAlone;
-  PrivacyScanner scanner(_desktop.files, _desktop.pasteboard, _desktop.recentDocuments, &leftAlone);
+  PrivacyScanner scanner(_desktop, _desktop.pasteboard, &leftAlone);
   const PrivacyClearance done =
       co_await onEngineThread(_clearings, [&] { return scanner.clear(items); });
   _notice.tell(leftAlone);
 
   _isCleaning = false;
   _lastResult = done;
+  std::erase_if(items, [&](const PrivacyItem& item) {
+    return std::ranges::find(done.stayed, item.id) != done.stayed.end();
+  });
   _trailList.remove(items);
   emit stateChanged();
   _desktop.notifications.post(diskChangedNotification);

@@ -38,6 +38,10 @@ QString cost(PrivacyCategory category) {
       return QStringLiteral("Where trashed files came from");
     case PrivacyCategory::locationHistory:
       return QStringLiteral("Cached location lookups");
+    case PrivacyCategory::shellHistory:
+      return QStringLiteral("Commands you typed are forgotten");
+    case PrivacyCategory::thumbnails:
+      return QStringLiteral("Previews of pictures, deleted ones too");
   }
   return {};
 }
@@ -46,10 +50,20 @@ QString entryCount(const PrivacyItem& item) {
   return item.count > 0 ? QString::number(item.count) : QStringLiteral("—");
 }
 
+QString obstacle(const PrivacyItem& item) {
+  if (!item.closeFirst.empty()) {
+    return QStringLiteral("Close %1 first.").arg(printableText(item.closeFirst));
+  }
+  return programText(item.told);
+}
+
 QString clearedSubtitle(const PrivacyClearance& result, const Formatting& formatting) {
   return QStringLiteral("Cleared ") + QString::number(result.cleaned) +
          QStringLiteral(" trails · ") + byteText(result.freed, formatting) +
-         QStringLiteral(" freed");
+         QStringLiteral(" freed") +
+         (result.stayed.empty() ? QString()
+                                : QStringLiteral(" · ") + QString::number(result.stayed.size()) +
+                                      QStringLiteral(" stayed: in use, or changed since the scan"));
 }
 
 QString selectionSummary(std::size_t selectedCount, std::int64_t selectedBytes,

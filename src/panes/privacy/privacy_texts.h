@@ -19,6 +19,8 @@ namespace klarvik::privacy {
 /// How many entries a trail has; a dash where they are not counted.
 [[nodiscard]] QString entryCount(const PrivacyItem& item);
 
+/// Why the trail cannot be cleared now; empty when it can.
+[[nodiscard]] QString obstacle(const PrivacyItem& item);
 [[nodiscard]] QString clearedSubtitle(const PrivacyClearance& result, const Formatting& formatting);
 [[nodiscard]] QString selectionSummary(std::size_t selectedCount, std::int64_t selectedBytes,
                                        const Formatting& formatting);

@@ -21,10 +21,12 @@ std::size_t sectionOf(PrivacyCategory category) {
     case PrivacyCategory::recentApps:
     case PrivacyCategory::downloadsList:
     case PrivacyCategory::trashHistory:
+    case PrivacyCategory::thumbnails:
       return 1;
     case PrivacyCategory::clipboard:
     case PrivacyCategory::quarantine:
     case PrivacyCategory::locationHistory:
+    case PrivacyCategory::shellHistory:
       return 2;
   }
   return 2;
@@ -37,7 +39,8 @@ std::array<std::string_view, 3> sectionTitles(const Words& words) {
 }  // namespace
 
 bool hurts(PrivacyCategory category) {
-  return category == PrivacyCategory::browserCookies || category == PrivacyCategory::clipboard;
+  return category == PrivacyCategory::browserCookies || category == PrivacyCategory::clipboard ||
+         category == PrivacyCategory::shellHistory;
 }
 
 TrailList::TrailList(const Formatting& formatting, const Words& words, QObject* parent)
@@ -47,7 +50,7 @@ void TrailList::show(std::vector<PrivacyItem> items) {
   clear();
   std::unordered_set<Uuid> selected;
   for (const PrivacyItem& item : items) {
-    if (!hurts(item.category)) selected.insert(item.id);
+    if (!hurts(item.category) && item.canBeCleared()) selected.insert(item.id);
   }
   _items = std::move(items);
   fill(rows(), std::move(selected));
@@ -83,18 +86,20 @@ std::vector<TrailList::Row> TrailList::rows() const {
 }
 
 TrailList::Row TrailList::row(const PrivacyItem& item) const {
-  const QString name = programText(privacy::label(item.category, _words));
+  QString name = programText(privacy::label(item.category, _words));
+  if (!item.program.empty()) name += QStringLiteral(" — ") + printableText(item.program);
   const QString size = byteText(item.size, _formatting);
-  const QString cost = privacy::cost(item.category);
+  const QString note = item.canBeCleared() ? privacy::cost(item.category) : privacy::obstacle(item);
   const Path path = item.path.value_or(Path());
   return {.item = item.id,
           .name = name,
           .path = printableText(path.native()),
           .url = urlOfPath(path),
-          .note = cost,
+          .note = note,
           .count = privacy::entryCount(item),
           .size = size,
-          .description = rowDescription(name, size, cost)};
+          .description = rowDescription(name, size, note),
+          .canSelect = item.canBeCleared()};
 }
 
 }  // namespace klarvik

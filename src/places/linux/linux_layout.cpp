@@ -102,8 +102,7 @@ constexpr std::array<FileKindName, 8> fileKinds{{
     {"Design", designs},
 }};
 
-// Neither trails nor applications of a Linux disk are known yet.
-constexpr TrailPlaces trailPlaces{};
+// The applications of a Linux disk are not known yet.
 constexpr ApplicationPlaces applicationPlaces{};
 
 }  // namespace

@@ -50,7 +50,7 @@ const Words words{
     .noApplications = "Klarvik does not list the apps of a Linux disk yet.",
     .applicationsListed = "%1 apps · deleting one leaves its support files behind",
     .applicationColumn = "APP",
-    .noTrails = "Klarvik does not look for the trails of a Linux desktop yet.",
+    .noTrails = "No trail that Klarvik clears was found.",
     .trailsUnread = "Rescan to see what this computer has recorded.",
     .browserTrails = "BROWSERS",
     .recentTrails = "RECENT FILES",

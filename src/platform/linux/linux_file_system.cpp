@@ -228,6 +228,18 @@ bool LinuxFileSystem::move(const Path& from, const Path& to) {
          }) == 0;
 }
 
+bool LinuxFileSystem::empty(const Path& file, const ItemCheck& mayEmpty) {
+  const auto place = openParent(_root, file);
+  if (!place) return false;
+  constexpr int flags = O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+  const UniqueFd opened(
+      retryOnEintr([&] { return ::openat(place->folder.get(), place->name.c_str(), flags); }));
+  const auto seen = opened ? statusOf(opened.get(), "") : std::nullopt;
+  return seen && kindOf(*seen) == FileKind::regular && seen->stx_nlink == 1 && mayEmpty &&
+         mayEmpty(place->realPath, attributesOf(*seen)) &&
+         retryOnEintr([&] { return ::ftruncate(opened.get(), 0); }) == 0;
+}
+
 bool LinuxFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   const auto place = openParent(_root, item);
   const auto seen = place ? statusOf(place->folder.get(), place->name.c_str()) : std::nullopt;

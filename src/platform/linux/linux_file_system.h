@@ -35,6 +35,7 @@ class LinuxFileSystem : public FileSystem {
 
   bool createDirectories(const Path& folder) override;
   bool move(const Path& from, const Path& to) override;
+  bool empty(const Path& file, const ItemCheck& mayEmpty) override;
   bool remove(const Path& item, const ItemCheck& mayRemove) override;
 
  private:

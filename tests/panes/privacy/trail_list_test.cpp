@@ -37,10 +37,11 @@ TEST_F(TrailListRows, StandInTheirSectionsWhateverTheOrderTheyWereFoundIn) {
     items.insert(items.begin(), trail(category));
   }
   list.show(items);
-  EXPECT_EQ(names(), (QStringList{"SAFARI, CHROME, FIREFOX", "Browser Cache", "Browser Cookies",
-                                  "Browser History", "MACOS RECENTS", "Trash History",
-                                  "Downloads List", "Recent Apps", "Recent Files", "SYSTEM TRAILS",
-                                  "Location Cache", "Quarantine DB", "Clipboard"}));
+  EXPECT_EQ(names(),
+            (QStringList{"SAFARI, CHROME, FIREFOX", "Browser Cache", "Browser Cookies",
+                         "Browser History", "MACOS RECENTS", "Thumbnails", "Trash History",
+                         "Downloads List", "Recent Apps", "Recent Files", "SYSTEM TRAILS",
+                         "Shell History", "Location Cache", "Quarantine DB", "Clipboard"}));
 }
 
 TEST_F(TrailListRows, AreCalledAsOnALinuxDiskThere) {

@@ -57,7 +57,7 @@ TEST_F(ReviewTableRows, OfACategoryWithNothingButHintsCannotBeSelected) {
                           .reason = "They are read-only.",
                           .command = "go clean -modcache"});
     onCategory(told);
-    return std::vector{told};
+    return std::vector{told.id};
   };
   AppState state(desktop, shared.toolActivity(), shared.scanCoordinator(), shared.scanHistory(),
                  shared.removalNotice(), nullptr, scan);

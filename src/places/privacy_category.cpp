@@ -1,12 +1,12 @@
-#include "tools/privacy_item.h"
+#include "places/privacy_category.h"
 
 namespace klarvik {
 
 const std::array<PrivacyCategory, privacyCategoryCount>& allPrivacyCategories() {
   using enum PrivacyCategory;
   static constexpr std::array<PrivacyCategory, privacyCategoryCount> all{
-      browserHistory, browserCookies, browserCache, recentFiles,  recentApps,
-      downloadsList,  clipboard,      quarantine,   trashHistory, locationHistory};
+      browserHistory, browserCookies, browserCache, recentFiles,     recentApps,   downloadsList,
+      clipboard,      quarantine,     trashHistory, locationHistory, shellHistory, thumbnails};
   return all;
 }
 
@@ -32,6 +32,10 @@ std::string_view rawValue(PrivacyCategory category) {
       return "Trash History";
     case PrivacyCategory::locationHistory:
       return "Location Cache";
+    case PrivacyCategory::shellHistory:
+      return "Shell History";
+    case PrivacyCategory::thumbnails:
+      return "Thumbnails";
   }
   return {};
 }

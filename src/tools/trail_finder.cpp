@@ -1,0 +1,188 @@
+#include "tools/trail_finder.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "base/bytes.h"
+#include "core/catalogue.h"
+#include "core/removal_check.h"
+#include "engine/allocated_size.h"
+#include "engine/place_matches.h"
+#include "engine/place_scanner.h"
+#include "engine/program_use.h"
+#include "platform/file_system.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::size_t pieceBytes = 64UL * 1024;
+constexpr std::int64_t mostCountedBytes = 256LL * 1024 * 1024;
+
+/// How often `text` stands in the file. What is longer than anybody's history is not read to its
+/// end.
+std::int64_t occurrences(const FileSystem& files, const Path& path, std::string_view text) {
+  const auto file = files.openForReading(path);
+  if (!file) return 0;
+  std::string piece;
+  std::int64_t count = 0;
+  for (std::int64_t read = 0; read < mostCountedBytes;) {
+    // What the piece before ended with may be the beginning of one.
+    const std::size_t kept = std::min(piece.size(), text.size() - 1);
+    piece.erase(0, piece.size() - kept);
+    piece.resize(kept + pieceBytes);
+    const auto got = file->read(std::as_writable_bytes(std::span(piece)).subspan(kept));
+    if (!got || *got == 0) break;
+    piece.resize(kept + *got);
+    read += static_cast<std::int64_t>(*got);
+    for (auto at = piece.find(text); at != std::string::npos; at = piece.find(text, at + 1)) {
+      ++count;
+    }
+  }
+  return count;
+}
+
+std::int64_t countOf(const FileSystem& files, const Path& path, TrailCount count) {
+  switch (count) {
+    case TrailCount::none:
+      return 0;
+    case TrailCount::files:
+      return 1;
+    case TrailCount::lines:
+      return occurrences(files, path, "\n");
+    case TrailCount::bookmarks:
+      return occurrences(files, path, "<bookmark ");
+  }
+  return 0;
+}
+
+bool isOrphan(const FileSystem& files, const Path& record) {
+  const Path trashed = record.parent_path().parent_path() / "files" / record.stem();
+  return !files.attributes(trashed);
+}
+
+PrivacyItem& itemOf(std::vector<PrivacyItem>& items, const Trail& trail) {
+  const auto same = std::ranges::find_if(items, [&](const PrivacyItem& item) {
+    return item.category == trail.category && item.program == trail.program &&
+           item.told == trail.told;
+  });
+  if (same != items.end()) return *same;
+  std::string name(rawValue(trail.category));
+  if (!trail.program.empty()) name.append(" — ").append(trail.program);
+  return items.emplace_back(PrivacyItem{.category = trail.category,
+                                        .name = std::move(name),
+                                        .program = std::string(trail.program),
+                                        .closedFirst = trail.closedFirst,
+                                        .told = trail.told});
+}
+
+/// One search, and what it has come to.
+class Search {
+ public:
+  explicit Search(const Platform& platform)
+      : _platform(platform),
+        _files(platform.files),
+        _layout(layoutFor(platform.files.home())),
+        _catalogue(_layout, platform.files.folders()) {}
+
+  void look(PrivacyCategory category) {
+    if (category == PrivacyCategory::browserCache) addBrowserCaches();
+    for (const Trail& trail : _layout.trails.trails) {
+      if (trail.category == category) add(trail);
+    }
+  }
+
+  std::vector<PrivacyItem> found() {
+    for (PrivacyItem& item : _items) {
+      if (!item.closedFirst.empty()) {
+        item.closeFirst = nameIfRunning(_platform, _catalogue, item.closedFirst);
+      }
+      item.isSelected = item.canBeCleared();
+      if (item.parts.size() == 1) item.path = item.parts.front().path;
+    }
+    return std::move(_items);
+  }
+
+ private:
+  void add(const Trail& trail) {
+    const Path start = _files.home() / _catalogue.folder(trail.base).value_or("") / trail.folder;
+    for (const std::string_view inside : trail.inside) {
+      for (const PlaceMatch& match : matchesBelow(_files, {{.path = start}}, inside)) {
+        add(trail, match.path);
+      }
+    }
+  }
+
+  void add(const Trail& trail, const Path& path) {
+    if (isElsewhere(_files, path)) return;
+    const auto attributes = _files.attributes(path);
+    if (!attributes) return;
+    const bool isFile = attributes->kind == FileKind::regular;
+    if (!isFile && attributes->kind != FileKind::directory) return;
+    if (trail.clearing == TrailClearing::orphansRemoved && !isOrphan(_files, path)) return;
+    const bool staysAsFile =
+        trail.clearing == TrailClearing::emptied || trail.clearing == TrailClearing::asList;
+    const bool isEmpty = isFile && attributes->logicalBytes == 0;
+    if (staysAsFile && (!isFile || isEmpty)) return;
+    const std::int64_t count = isFile ? countOf(_files, path, trail.count) : 0;
+    if (trail.clearing == TrailClearing::asList && count == 0) return;
+    if (trail.clearing != TrailClearing::told && !isAllowed(path)) return;
+    PrivacyItem& item = itemOf(_items, trail);
+    append(item, {.path = path,
+                  .size = wholeAllocatedSize(_files, path),
+                  .identity = entryIdentity(*attributes),
+                  .clearing = trail.clearing});
+    item.count += count;
+  }
+
+  static void append(PrivacyItem& item, TrailPart part) {
+    item.size = addBytes(item.size, part.size);
+    item.parts.push_back(std::move(part));
+  }
+
+  [[nodiscard]] bool isAllowed(const Path& path) const {
+    const auto real = _files.realPath(path);
+    const auto scope = DeletionScope::trail();
+    return mayRemove(_files, path, scope) && real &&
+           (*real == path || mayRemoveReal(_files, *real, scope));
+  }
+
+  /// Those of a browser that runs are an item of their own, to be cleared when it is closed.
+  void addBrowserCaches() {
+    PlaceScanner scanner(_platform, {}, [](const JunkItem&) {});
+    for (JunkItem& cache : scanner.find(CategoryType::browserCaches).items) {
+      const auto same = std::ranges::find_if(_items, [&](const PrivacyItem& item) {
+        return item.category == PrivacyCategory::browserCache &&
+               item.closeFirst == cache.closeFirst;
+      });
+      PrivacyItem& item =
+          same != _items.end()
+              ? *same
+              : _items.emplace_back(PrivacyItem{.category = PrivacyCategory::browserCache,
+                                                .name = "Browser Cache",
+                                                .program = cache.closeFirst,
+                                                .closeFirst = cache.closeFirst});
+      append(item, {.path = cache.path, .size = cache.size, .identity = cache.identity});
+    }
+  }
+
+  const Platform& _platform;
+  const FileSystem& _files;
+  const DiskLayout& _layout;
+  const Catalogue _catalogue;
+  std::vector<PrivacyItem> _items;
+};
+
+}  // namespace
+
+std::vector<PrivacyItem> TrailFinder::find(
+    const std::function<void(PrivacyCategory)>& before) const {
+  Search search(_platform);
+  for (const PrivacyCategory category : allPrivacyCategories()) {
+    if (before) before(category);
+    search.look(category);
+  }
+  return search.found();
+}
+
+}  // namespace klarvik

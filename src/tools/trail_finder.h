@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "platform/platform.h"
+#include "tools/privacy_item.h"
+
+namespace klarvik {
+
+/// Finds the trails that the table of a layout names, and the caches of browsers. Trails of one
+/// kind and one program are one item. What is a link, or lies on another volume, is passed over.
+/// Nothing throws; any thread.
+class TrailFinder {
+ public:
+  explicit TrailFinder(const Platform& platform) : _platform(platform) {}
+
+  /// In the order of the kinds. `before` is called before a kind is looked for.
+  [[nodiscard]] std::vector<PrivacyItem> find(
+      const std::function<void(PrivacyCategory)>& before) const;
+
+ private:
+  const Platform& _platform;
+};
+
+}  // namespace klarvik

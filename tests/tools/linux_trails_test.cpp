@@ -1,0 +1,240 @@
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "core/deletion_guard.h"
+#include "platform/system_platform.h"
+#include "support/desktop_fakes.h"
+#include "support/fake_running_programs.h"
+#include "support/temporary_folder.h"
+#include "tools/privacy_scanner.h"
+
+namespace klarvik {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+using enum PrivacyCategory;
+
+const Path chrome = "/home/ann/.config/google-chrome";
+const Path firefox = "/home/ann/.mozilla/firefox/ab12.default";
+
+class LinuxTrails : public testing::Test {
+ protected:
+  std::vector<PrivacyItem> scan() { return scanner.scan({}); }
+
+  std::vector<std::string> names() {
+    std::vector<std::string> all;
+    for (const PrivacyItem& item : scan()) all.push_back(item.name);
+    return all;
+  }
+
+  PrivacyClearance clear(PrivacyCategory category) {
+    std::vector<PrivacyItem> chosen = scan();
+    std::erase_if(chosen, [&](const PrivacyItem& item) { return item.category != category; });
+    return scanner.clear(chosen);
+  }
+
+  [[nodiscard]] bool isThere(const Path& path) const {
+    return std::filesystem::exists(disk.onDisk(path));
+  }
+
+  void makeProfiles() {
+    for (const char* profile : {"Default", "Profile 2"}) {
+      disk.makeFile(chrome / profile / "History", 40'000);
+      disk.makeFile(chrome / profile / "Network/Cookies", 20'000);
+      for (const char* own : {"Bookmarks", "Login Data", "Web Data", "Preferences"}) {
+        disk.makeFile(chrome / profile / own, 1'000);
+      }
+    }
+    disk.makeFile(firefox / "places.sqlite", 50'000);
+    disk.makeFile(firefox / "cookies.sqlite", 30'000);
+    for (const char* own : {"logins.json", "key4.db", "sessionstore.jsonlz4"}) {
+      disk.makeFile(firefox / own, 1'000);
+    }
+  }
+
+  TemporaryFolder disk;
+  SystemPlatform machine{disk.path(), "/home/ann"};
+  FakeRunningPrograms programs;
+  const Platform system = machine.platform();
+  const Platform platform{system.files,    system.trash,           system.commands,
+                          system.defaults, system.volume,          system.formatting,
+                          system.info,     system.recentDocuments, programs};
+  FakePasteboard pasteboard;
+  PrivacyScanner scanner{platform, pasteboard};
+};
+
+TEST_F(LinuxTrails, AreNoneInAnEmptyHome) {
+  disk.makeFolder("/home/ann");
+  EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(LinuxTrails, AreOneItemForEachKindAndProgram) {
+  makeProfiles();
+  disk.makeFile("/home/ann/.bash_history", "ls\nmake\n");
+  disk.makeFile("/home/ann/.cache/thumbnails/large/a.png", 3'000);
+  EXPECT_THAT(names(), ElementsAre("Browser History — Google Chrome", "Browser History — Firefox",
+                                   "Browser Cookies — Google Chrome", "Browser Cookies — Firefox",
+                                   "Shell History", "Thumbnails"));
+}
+
+TEST_F(LinuxTrails, OfABrowserAreClearedInEveryProfileAndNothingElseOfIt) {
+  makeProfiles();
+  const PrivacyClearance done = clear(browserCookies);
+  EXPECT_EQ(done.cleaned, 2);
+  EXPECT_GE(done.freed, 70'000);
+  EXPECT_THAT(done.stayed, IsEmpty());
+  for (const char* profile : {"Default", "Profile 2"}) {
+    EXPECT_FALSE(isThere(chrome / profile / "Network/Cookies"));
+    for (const char* own : {"History", "Bookmarks", "Login Data", "Web Data", "Preferences"}) {
+      EXPECT_TRUE(isThere(chrome / profile / own)) << own;
+    }
+  }
+  EXPECT_FALSE(isThere(firefox / "cookies.sqlite"));
+  for (const char* own : {"places.sqlite", "logins.json", "key4.db", "sessionstore.jsonlz4"}) {
+    EXPECT_TRUE(isThere(firefox / own)) << own;
+  }
+}
+
+TEST_F(LinuxTrails, OfFirefoxsHistoryAreToldAndNeverRemovedForTheBookmarksInTheSameFile) {
+  makeProfiles();
+  const PrivacyClearance done = clear(browserHistory);
+  EXPECT_EQ(done.cleaned, 1);
+  EXPECT_EQ(done.stayed.size(), 1U);
+  EXPECT_FALSE(isThere(chrome / "Default/History"));
+  EXPECT_TRUE(isThere(firefox / "places.sqlite"));
+}
+
+TEST_F(LinuxTrails, OfAProgramThatRunsStayUntilItIsClosed) {
+  makeProfiles();
+  const auto before = scan();
+  programs.running = {"chrome"};
+  for (const PrivacyItem& item : scan()) {
+    if (item.program != "Google Chrome") continue;
+    EXPECT_EQ(item.closeFirst, "Google Chrome");
+    EXPECT_FALSE(item.isSelected);
+  }
+  // Started after the scan.
+  const PrivacyClearance done = scanner.clear(before);
+  EXPECT_TRUE(isThere(chrome / "Default/History"));
+  EXPECT_TRUE(isThere(chrome / "Default/Network/Cookies"));
+  EXPECT_EQ(done.cleaned, 1);
+  EXPECT_EQ(done.stayed.size(), 3U);
+}
+
+TEST_F(LinuxTrails, CachesOfABrowserThatRunsAreAnItemOfTheirOwn) {
+  disk.makeFile("/home/ann/.cache/mozilla/firefox/ab.default/x", 3'000'000);
+  disk.makeFile("/home/ann/.cache/google-chrome/Default/Cache/x", 3'000'000);
+  EXPECT_THAT(names(), ElementsAre("Browser Cache"));
+  programs.running = {"firefox"};
+  EXPECT_THAT(names(), ElementsAre("Browser Cache", "Browser Cache"));
+  const PrivacyClearance done = clear(browserCache);
+  EXPECT_EQ(done.cleaned, 1);
+  EXPECT_GE(done.freed, 3'000'000);
+  EXPECT_TRUE(isThere("/home/ann/.cache/mozilla/firefox/ab.default/x"));
+  EXPECT_FALSE(isThere("/home/ann/.cache/google-chrome/Default/Cache/x"));
+}
+
+TEST_F(LinuxTrails, OfAShellAreEmptiedInPlaceWithTheirRightsAndCountedByLines) {
+  const Path history = "/home/ann/.bash_history";
+  disk.makeFile(history, std::string(70'000, 'x') + "\nls\nmake");
+  ASSERT_EQ(::chmod(disk.onDisk(history).c_str(), 0600), 0);
+  const auto found = scan();
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_EQ(found.front().count, 2);
+  EXPECT_EQ(scanner.clear(found).cleaned, 1);
+  struct stat status {};
+  ASSERT_EQ(::stat(disk.onDisk(history).c_str(), &status), 0);
+  EXPECT_EQ(status.st_size, 0);
+  EXPECT_EQ(status.st_mode & 07777, 0600U);
+  EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(LinuxTrails, ThatAreLinksOrHaveAnotherNameStay) {
+  disk.makeFile("/home/ann/dotfiles/history", "ls\n");
+  disk.makeLink("/home/ann/.bash_history", "dotfiles/history");
+  disk.makeFile("/home/ann/.zsh_history", "ls\n");
+  std::filesystem::create_hard_link(disk.onDisk("/home/ann/.zsh_history"),
+                                    disk.onDisk("/home/ann/dotfiles/zsh"));
+  const auto found = scan();
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_EQ(found.front().path, "/home/ann/.zsh_history");
+  const PrivacyClearance done = scanner.clear(found);
+  EXPECT_EQ(done.cleaned, 0);
+  EXPECT_EQ(done.stayed, std::vector{found.front().id});
+  EXPECT_EQ(std::filesystem::file_size(disk.onDisk("/home/ann/dotfiles/zsh")), 3U);
+}
+
+TEST_F(LinuxTrails, ThatWereReplacedSinceTheScanStay) {
+  disk.makeFile("/home/ann/.bash_history", "ls\n");
+  const auto found = scan();
+  std::filesystem::remove(disk.onDisk("/home/ann/.bash_history"));
+  disk.makeFile("/home/ann/other", "mine\n");
+  std::filesystem::rename(disk.onDisk("/home/ann/other"), disk.onDisk("/home/ann/.bash_history"));
+  EXPECT_EQ(scanner.clear(found).stayed.size(), 1U);
+  EXPECT_EQ(std::filesystem::file_size(disk.onDisk("/home/ann/.bash_history")), 5U);
+}
+
+TEST_F(LinuxTrails, OfTheTrashAreRecordsWithoutAThing) {
+  disk.makeFile("/home/ann/.local/share/Trash/files/there", 10);
+  disk.makeFile("/home/ann/.local/share/Trash/info/there.trashinfo", 10);
+  disk.makeFile("/home/ann/.local/share/Trash/info/gone.trashinfo", 10);
+  const auto found = scan();
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_EQ(found.front().category, trashHistory);
+  EXPECT_EQ(found.front().count, 1);
+  EXPECT_EQ(scanner.clear(found).cleaned, 1);
+  EXPECT_TRUE(isThere("/home/ann/.local/share/Trash/info/there.trashinfo"));
+  EXPECT_FALSE(isThere("/home/ann/.local/share/Trash/info/gone.trashinfo"));
+}
+
+TEST_F(LinuxTrails, OfRecentFilesAreCountedAndTheListStays) {
+  const Path list = "/home/ann/.local/share/recently-used.xbel";
+  disk.makeFile(list, "<xbel><bookmark href=\"a\"/><bookmark href=\"b\"/></xbel>");
+  const auto found = scan();
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_EQ(found.front().count, 2);
+  EXPECT_EQ(scanner.clear(found).cleaned, 1);
+  EXPECT_TRUE(isThere(list));
+  EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(LinuxTrails, AreNamedBeforeTheyAreLookedFor) {
+  disk.makeFolder("/home/ann");
+  std::vector<std::string> lines;
+  double last = 0;
+  static_cast<void>(scanner.scan([&](double fraction, std::string_view line) {
+    EXPECT_GT(fraction, last);
+    last = fraction;
+    lines.emplace_back(line);
+  }));
+  EXPECT_EQ(lines.front(), "Scanning browser history...");
+  EXPECT_EQ(lines.back(), "Done");
+  EXPECT_EQ(last, 1.0);
+}
+
+TEST_F(LinuxTrails, TheRulesLetGoWhatTheTableNamesAndNoSecret) {
+  const auto refusal = [&](const Path& path) {
+    return DeletionGuard::refusalReason(path, DeletionScope::trail(), "/home/ann");
+  };
+  EXPECT_FALSE(refusal(chrome / "Default/History"));
+  EXPECT_FALSE(refusal("/home/ann/.bash_history"));
+  for (const Path& path :
+       {chrome / "Default/Login Data", chrome / "Default", chrome / "Default/History/x",
+        firefox / "places.sqlite", firefox / "logins.json", Path("/home/ann/.ssh/known_hosts"),
+        Path("/home/ann/Documents/History"), Path("/home/ann/.config"),
+        Path("/home/ann/.local/share/keyrings/login.keyring"), Path("/etc/passwd")}) {
+    EXPECT_TRUE(refusal(path)) << path;
+  }
+  EXPECT_TRUE(DeletionGuard::refusalReason(chrome / "Default/History", DeletionScope::general(),
+                                           "/home/ann"));
+}
+
+}  // namespace
+}  // namespace klarvik
