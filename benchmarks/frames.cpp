@@ -131,7 +131,7 @@ void useTheWindow(KlarvikApp& app, Navigator& navigator) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  putFreedMemoryTogetherAtOnce();
+  disableFastBins();
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
   QGuiApplication application(argumentCount, arguments);

@@ -158,7 +158,7 @@ bool measureWindow(const Desktop& desktop) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  putFreedMemoryTogetherAtOnce();
+  disableFastBins();
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_QUICK_BACKEND", "software");
   const QGuiApplication application(argumentCount, arguments);

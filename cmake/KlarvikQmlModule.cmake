@@ -1,11 +1,11 @@
 # klarvik_qml_module(NAME URI uri [FOLDERS folder...] [DEPENDENCIES uri...] [RESOURCES file...])
 #
-# Makes the floor NAME a QML module of every *.qml in FOLDERS, the current folder where none is named,
+# Makes the layer NAME a QML module of every *.qml in FOLDERS, the current folder where none is named,
 # linked into the program: whoever installs it calls its qml_register_types_<URI>(). In the module all
 # files lie in one folder, so that each finds the others. All modules are described in one folder, so
 # that they and qmllint find one another. The QML is compiled to bytecode here: where it runs, that
 # would slow down the first start and leave a cache in the user's home. Only what is built for a
-# sanitizer, and has less time for it, does so. What Qt generates is not held to the house's warnings.
+# sanitizer, and has less time for it, does so. What Qt generates is not compiled with the project's warnings.
 function(klarvik_qml_module name)
   cmake_parse_arguments(MODULE "" "URI" "FOLDERS;DEPENDENCIES;RESOURCES" ${ARGN})
   if(NOT MODULE_FOLDERS)

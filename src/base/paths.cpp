@@ -12,7 +12,7 @@ std::string_view takePiece(std::string_view& text) {
   return piece;
 }
 
-std::vector<std::string_view> pathPieces(std::string_view text) {
+std::vector<std::string_view> splitPath(std::string_view text) {
   std::vector<std::string_view> found;
   for (auto piece = takePiece(text); !piece.empty(); piece = takePiece(text)) {
     found.push_back(piece);
@@ -28,7 +28,7 @@ bool isBelow(std::string_view path, std::string_view folder) {
 std::filesystem::path standardizedPath(const std::filesystem::path& path) {
   const bool absolute = path.native().starts_with('/');
   std::vector<std::string_view> kept;
-  for (const std::string_view piece : pathPieces(path.native())) {
+  for (const std::string_view piece : splitPath(path.native())) {
     if (piece == ".") continue;
     if (piece != "..") {
       kept.push_back(piece);

@@ -11,7 +11,7 @@ namespace klarvik {
 /// Takes the first component off `text`; an empty one when there is none.
 [[nodiscard]] std::string_view takePiece(std::string_view& text);
 /// The components between the slashes of `text`; empty ones are left out.
-[[nodiscard]] std::vector<std::string_view> pathPieces(std::string_view text);
+[[nodiscard]] std::vector<std::string_view> splitPath(std::string_view text);
 /// Whether `path` lies below `folder`, at any depth. Neither ends in a slash, except "/" itself.
 [[nodiscard]] bool isBelow(std::string_view path, std::string_view folder);
 /// `path` made absolute in form only: "." and ".." resolved, doubled and trailing slashes dropped.

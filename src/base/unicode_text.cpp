@@ -24,7 +24,7 @@ UChar32 takeCodePoint(std::string_view text, std::size_t& position) {
 
 // Takes `text` apart, front to back, into stretches that are UTF-8 and sequences that are not.
 template <class OnText, class OnRubbish>
-void takeApart(std::string_view text, OnText onText, OnRubbish onRubbish) {
+void forEachUtf8Run(std::string_view text, OnText onText, OnRubbish onRubbish) {
   std::size_t stretchStart = 0;
   std::size_t next = 0;
   while (next < text.size()) {
@@ -74,7 +74,7 @@ std::string lowercased(std::string_view text) {
     const auto size = static_cast<std::int32_t>(stretch.size());
     icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(stretch.data(), size), sink, nullptr, status);
   };
-  takeApart(text, lower, [&](std::string_view rubbish) { result += rubbish; });
+  forEachUtf8Run(text, lower, [&](std::string_view rubbish) { result += rubbish; });
   return result;
 }
 
@@ -91,7 +91,7 @@ std::string capitalized(std::string_view text) {
 
 std::size_t characterCount(std::string_view text) {
   std::size_t count = 0;
-  takeApart(
+  forEachUtf8Run(
       text, [&](std::string_view stretch) { count += charactersOfText(stretch); },
       [&](std::string_view rubbish) { count += rubbish.size(); });
   return count;
@@ -99,7 +99,7 @@ std::size_t characterCount(std::string_view text) {
 
 bool isUtf8(std::string_view bytes) {
   bool sound = true;
-  takeApart(
+  forEachUtf8Run(
       bytes, [](std::string_view) {}, [&](std::string_view) { sound = false; });
   return sound;
 }

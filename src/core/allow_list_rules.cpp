@@ -34,7 +34,7 @@ Refusal residualRefusal(const Pieces& path, std::string_view relative, const Cat
 }
 
 Refusal refusalInHome(std::string_view relative, const DeletionQuestion& question) {
-  const Pieces path = pathPieces(relative);
+  const Pieces path = splitPath(relative);
   const Catalogue catalogue(question.layout, question.folders);
   if (catalogue.reachesSecret(path)) return refuse("~/", relative, " holds keys and passwords.");
   if (question.scope.kind == DeletionScope::Kind::residual) {
@@ -70,7 +70,7 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
       std::ranges::any_of(question.layout.guard.otherHomes,
                           [&](std::string_view homes) { return isBelow(path, homes); });
   if (isAnothers) return refuse("Refusing to touch another user account.");
-  const auto pieces = pathPieces(path);
+  const auto pieces = splitPath(path);
   const bool isKeys = std::ranges::any_of(pieces, [&](std::string_view piece) {
     return nameMatchesAny(question.layout.guard.secretNames, lowercased(piece));
   });

@@ -66,7 +66,7 @@ bool Catalogue::mayHoldBase(const std::string& folder) const {
   if (!folder.starts_with('.') || folder.find("..") != std::string::npos || folder == ".") {
     return false;
   }
-  const auto pieces = pathPieces(folder);
+  const auto pieces = splitPath(folder);
   const auto touches = [&](const PlacePattern& place) {
     return match(pieces, place).relation != Relation::apart;
   };
@@ -139,7 +139,7 @@ bool Catalogue::isOfPlace(const Place& place, std::span<const std::string_view> 
 bool Catalogue::hasRowOfItsOwn(Base base, std::string_view name) const {
   return std::ranges::any_of(_layout.places, [&](const Place& place) {
     if (place.base != base || place.unit == Unit::unknown) return false;
-    if (!place.pattern.empty()) return nameMatches(pathPieces(place.pattern).front(), name);
+    if (!place.pattern.empty()) return nameMatches(splitPath(place.pattern).front(), name);
     return nameMatchesAny(place.details.only, name);
   });
 }

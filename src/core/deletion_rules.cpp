@@ -16,7 +16,7 @@ bool isSomeonesHome(const DeletionQuestion& question) {
   const GuardRules& rules = question.layout.guard;
   const std::string_view home = question.home;
   if (!home.starts_with('/')) return false;
-  const auto pieces = pathPieces(home);
+  const auto pieces = splitPath(home);
   const auto liesIn = [&](std::string_view pattern) {
     const Relation relation = matchPattern(pieces, {pattern}).relation;
     return relation == Relation::at || relation == Relation::below;

@@ -17,7 +17,7 @@ Refusal residualRefusal(std::string_view path, const DeletionQuestion& question)
   if (root == roots.end()) return refuse(path, " is not a place apps leave residual files.");
 
   const std::string_view rest = path.substr(root->pattern.size() + 1);
-  const std::vector<std::string_view> restPieces = pathPieces(rest);
+  const std::vector<std::string_view> restPieces = splitPath(rest);
   const std::string_view folder = restPieces.empty() ? rest : restPieces.front();
   const std::string lowerFolder = lowercased(folder);
   const bool belongs = std::ranges::any_of(identifiers, [&](const std::string& id) {
@@ -28,7 +28,7 @@ Refusal residualRefusal(std::string_view path, const DeletionQuestion& question)
 }
 
 Refusal refusalInHome(std::string_view relative, const DeletionQuestion& question) {
-  const bool deepEnough = pathPieces(relative).size() >= 2;
+  const bool deepEnough = splitPath(relative).size() >= 2;
   switch (question.scope.kind) {
     case DeletionScope::Kind::residual:
       return residualRefusal(relative, question);

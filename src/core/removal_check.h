@@ -13,7 +13,7 @@ namespace klarvik {
 /// `named` is the path as it stands after `standardizedPath`, and is what the removal is then
 /// given. May be called from any thread.
 
-/// Whether the guard lets go what is called so, for the user of this disk.
+/// Whether the guard allows a removal by this name, for the user of this disk.
 [[nodiscard]] bool mayRemove(const FileSystem& files, const Path& named,
                              const DeletionScope& scope);
 

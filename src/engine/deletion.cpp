@@ -5,10 +5,10 @@
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"
 #include "engine/local_snapshots.h"
+#include "engine/parallel_for.h"
 #include "engine/place_scanner.h"
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
-#include "engine/sliding_group.h"
 #include "platform/file_system.h"
 #include "platform/trash.h"
 
@@ -17,9 +17,10 @@ namespace klarvik {
 namespace {
 
 /// Counts what has finished, and tells it until a stop request has been noticed.
-class Tally {
+class ProgressCounter {
  public:
-  Tally(std::size_t total, std::stop_token stop, const ScannerEngine::DeletionSink& progress)
+  ProgressCounter(std::size_t total, std::stop_token stop,
+                  const ScannerEngine::DeletionSink& progress)
       : _stop(std::move(stop)), _progress(progress) {
     _told.total = static_cast<std::int64_t>(total);
   }
@@ -77,8 +78,8 @@ std::vector<DeletionOutcome> ScannerEngine::deleteItems(const std::vector<JunkIt
                                                         const DeletionSink& progress) {
   std::vector<DeletionOutcome> byNumber(items.size());
   std::vector<DeletionOutcome> outcomes;
-  Tally tally(items.size(), stop, progress);
-  performInSlidingGroup(
+  ProgressCounter tally(items.size(), stop, progress);
+  parallelFor(
       items.size(), deletionWidth, stop,
       [&](std::size_t number) { byNumber[number] = deleteItem(items[number], useTrash); },
       [&](std::size_t number) {
@@ -106,8 +107,8 @@ std::set<Path> ScannerEngine::trashFiles(const std::vector<PickedFile>& files, s
                                          const PickedFileCheck& check) {
   std::vector<PickedFileOutcome> byNumber(files.size());
   std::set<Path> moved;
-  Tally tally(files.size(), stop, progress);
-  performInSlidingGroup(
+  ProgressCounter tally(files.size(), stop, progress);
+  parallelFor(
       files.size(), deletionWidth, stop,
       [&](std::size_t number) { byNumber[number] = trashFile(files[number], check); },
       [&](std::size_t number) {

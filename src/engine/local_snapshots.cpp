@@ -38,7 +38,7 @@ bool isSnapshotPath(const Path& path) {
 }
 
 std::optional<std::string> snapshotSizeCommand(const std::string& text) {
-  if (!mayStandOnCommandLine(text)) return std::nullopt;
+  if (!isShellSafe(text)) return std::nullopt;
   return "diskutil apfs listSnapshots / 2>/dev/null | grep -A3 " + text +
          " | grep Size | awk '{print $2}'";
 }
@@ -46,7 +46,7 @@ std::optional<std::string> snapshotSizeCommand(const std::string& text) {
 std::optional<std::string> snapshotRemovalCommand(const Path& path) {
   const std::string name = path.filename();
   const auto text = std::string_view(path.native()).substr(snapshotFolder.size());
-  if (!mayStandOnCommandLine(text) || !mayStandOnCommandLine(name)) return std::nullopt;
+  if (!isShellSafe(text) || !isShellSafe(name)) return std::nullopt;
   return "tmutil deletelocalsnapshots " + name + " 2>/dev/null";
 }
 

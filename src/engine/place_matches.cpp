@@ -41,7 +41,7 @@ std::vector<Path> listed(const FileSystem& files, const Path& folder, std::strin
 
 std::vector<PlaceMatch> matchesBelow(const FileSystem& files, std::vector<PlaceMatch> starts,
                                      std::string_view pattern, PlaceKinds kinds) {
-  const auto pieces = pathPieces(pattern);
+  const auto pieces = splitPath(pattern);
   for (const std::string_view& piece : pieces) {
     const PlaceKinds wanted = &piece == &pieces.back() ? kinds : PlaceKinds::folders;
     std::vector<PlaceMatch> next;

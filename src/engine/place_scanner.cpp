@@ -248,7 +248,7 @@ bool isStillOffered(const Platform& platform, const Path& path) {
   const Path below = path.lexically_relative(files.home());
   const bool inHome = !below.empty() && *below.begin() != "..";
   const std::string text = inHome ? below.native() : path.native();
-  const auto pieces = pathPieces(text);
+  const auto pieces = splitPath(text);
   const auto places = catalogue.placesOf(pieces, inHome);
   if (places.empty()) return artifactAt(files, layout, path) != nullptr;
   return std::ranges::any_of(places, [&](const Place* place) {

@@ -26,7 +26,7 @@ std::string runShell(CommandRunner& commands, const std::string& commandLine) {
   return std::string(trimmed(*output));
 }
 
-bool mayStandOnCommandLine(std::string_view text) {
+bool isShellSafe(std::string_view text) {
   return !text.empty() && text.front() != '-' && std::all_of(text.begin(), text.end(), isInert);
 }
 

@@ -15,6 +15,6 @@ class CommandRunner;
 /// Whether a text that came from elsewhere may become a part of a command line: it holds nothing
 /// that a shell acts on, and cannot be taken for an option. Whoever gets a no must not run
 /// anything.
-[[nodiscard]] bool mayStandOnCommandLine(std::string_view text);
+[[nodiscard]] bool isShellSafe(std::string_view text);
 
 }  // namespace klarvik

@@ -2,7 +2,7 @@
 
 #include "places/rgb_color.h"
 
-/// The colours in which the tools that explain the disk tell kinds of things apart.
+/// The colours of the kinds of things in the charts of Storage and System Data.
 namespace klarvik::storage_palette {
 
 inline constexpr RgbColor teal{0.098, 0.62, 0.439};

@@ -6,6 +6,6 @@ namespace klarvik {
 /// piece by piece. Otherwise the allocator keeps small pieces apart, and at some moment puts all of
 /// them together under a lock that every other thread may need; after very much was freed, that
 /// holds up the main thread for several frames. A program that only computes is quicker without.
-void putFreedMemoryTogetherAtOnce();
+void disableFastBins();
 
 }  // namespace klarvik

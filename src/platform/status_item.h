@@ -61,7 +61,7 @@ class StatusItem {
 
   virtual ~StatusItem() = default;
 
-  /// Who is told from now on, from the main loop; without handlers nobody is.
+  /// Replaces the handlers, which are called from the main loop. None may be set.
   virtual void setHandlers(Handlers handlers) = 0;
   /// Whether this desktop has a tray at this moment. False until that is known.
   [[nodiscard]] virtual bool hasTray() const = 0;

@@ -2,7 +2,7 @@
 
 #include "platform/application_info.h"
 #include "platform/user_defaults.h"
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 
@@ -68,7 +68,7 @@ void FullDiskAccessView::dismiss() {
 }
 
 void FullDiskAccessView::setShowsSetup(bool shows) {
-  if (changeTo(_showsPermissionSetup, shows)) emit isPresentedChanged();
+  if (setIfChanged(_showsPermissionSetup, shows)) emit isPresentedChanged();
 }
 
 }  // namespace klarvik

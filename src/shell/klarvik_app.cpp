@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "shell/menu_bar/quick_popover.h"
-#include "shell/menu_bar/window_fronting.h"
+#include "shell/menu_bar/window_activation.h"
 
 namespace klarvik {
 

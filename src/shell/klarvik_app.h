@@ -10,8 +10,8 @@
 #include "shell/app_commands.h"
 #include "shell/app_shell.h"
 #include "shell/main_window.h"
-#include "shell/menu_bar/background_life.h"
 #include "shell/menu_bar/menu_bar_controller.h"
+#include "shell/menu_bar/quit_policy.h"
 #include "shell/onboarding/onboarding_view.h"
 #include "shell/settings/general_settings_section.h"
 #include "shell/settings/settings_view.h"
@@ -81,7 +81,7 @@ class KlarvikApp : public QObject {
   UpdateWindow _updateWindow;
   Windows _windows;
   MenuBarController _menuBar;
-  BackgroundLife _backgroundLife{_menuBar};
+  QuitPolicy _backgroundLife{_menuBar};
 };
 
 }  // namespace klarvik

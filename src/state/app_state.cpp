@@ -6,9 +6,9 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/formatting.h"
-#include "state/change_to.h"
-#include "state/linked_stop.h"
+#include "state/combined_stop_token.h"
 #include "state/section.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 
@@ -51,15 +51,15 @@ void AppState::startScan() {
   _session.start(scanJob());
   setScanState(Scanning{0, "Starting scan"});
   setResults({}, {});
-  if (changeTo(_expandedCategories, {})) emit expandedCategoriesChanged();
-  if (changeTo(_scanActivity, {})) emit scanActivityChanged();
+  if (setIfChanged(_expandedCategories, {})) emit expandedCategoriesChanged();
+  if (setIfChanged(_scanActivity, {})) emit scanActivityChanged();
   setLastClean(std::nullopt);
 }
 
 AppState::ScanJob AppState::scanJob() {
   auto work = [run = _scan](std::stop_token stop, const auto& post) {
     return run(std::move(stop), post, [&](const CleanCategory& category) {
-      post(FoundCategory{category, std::make_shared<const RankedItems>(category.items)});
+      post(FoundCategory{category, std::make_shared<const SortedItems>(category.items)});
     });
   };
   return {.work = std::move(work),
@@ -83,9 +83,9 @@ void AppState::apply(ScanReport report) {
 void AppState::applyUpdate(const ScanUpdate& update) {
   setScanState(Scanning{update.fraction, update.categoryName});
   _session.showProgress(update.fraction);
-  if (changeTo(_scanActivity,
-               {update.categoryName, update.currentPath, update.partialItems, update.partialBytes,
-                update.completedCategories, update.totalCategories})) {
+  if (setIfChanged(_scanActivity,
+                   {update.categoryName, update.currentPath, update.partialItems,
+                    update.partialBytes, update.completedCategories, update.totalCategories})) {
     emit scanActivityChanged();
   }
 }
@@ -139,7 +139,7 @@ void AppState::cancelScan() {
 
 QCoro::Task<> AppState::autoScanIfNeeded(std::stop_token stop) {
   if (!hasNothingToShow()) co_return;
-  const LinkedStop either(std::move(stop), _lifetime.get_token());
+  const CombinedStopToken either(std::move(stop), _lifetime.get_token());
   if (!co_await _coordinator.beginAutoScan(_session.key(), either.token())) co_return;
   if (!hasNothingToShow()) {
     _coordinator.finishTurn();
@@ -157,7 +157,7 @@ bool AppState::hasNothingToShow() const {
 }
 
 void AppState::selectSafeItems() {
-  if (changeTo(_selectedItems, _selectedItems.safeItems())) emit selectedItemsChanged();
+  if (setIfChanged(_selectedItems, _selectedItems.safeItems())) emit selectedItemsChanged();
 }
 
 void AppState::toggleCategoryExpansion(CategoryType type) {
@@ -183,7 +183,7 @@ void AppState::setSelection(const std::vector<JunkItem>& items, bool selected) {
 }
 
 void AppState::setScanState(ScanState state) {
-  if (changeTo(_scanState, std::move(state))) emit scanStateChanged();
+  if (setIfChanged(_scanState, std::move(state))) emit scanStateChanged();
 }
 
 void AppState::setResults(std::vector<CleanCategory> results, ItemSelection selection) {
@@ -191,7 +191,7 @@ void AppState::setResults(std::vector<CleanCategory> results, ItemSelection sele
   const bool selectionChanges = _selectedItems != selection;
   auto former =
       std::exchange(_scanResults, std::make_shared<std::vector<CleanCategory>>(std::move(results)));
-  if (!former->empty()) _session.discard(std::move(former));
+  if (!former->empty()) _session.deleteInBackground(std::move(former));
   _selectedItems = std::move(selection);
   if (resultsChange) emit scanResultsChanged();
   recomputeTotal();
@@ -199,7 +199,8 @@ void AppState::setResults(std::vector<CleanCategory> results, ItemSelection sele
 }
 
 void AppState::recomputeTotal() {
-  if (changeTo(_totalSpaceFreeable, _selectedItems.total().size)) emit totalSpaceFreeableChanged();
+  if (setIfChanged(_totalSpaceFreeable, _selectedItems.total().size))
+    emit totalSpaceFreeableChanged();
 }
 
 void AppState::writeTotal() {

@@ -18,7 +18,7 @@
 #include "core/junk_model.h"
 #include "engine/scanner_engine.h"
 #include "platform/platform.h"
-#include "state/engine_work.h"
+#include "state/background_tasks.h"
 #include "state/item_selection.h"
 #include "state/removal_notice.h"
 #include "state/scan_coordinator.h"
@@ -193,7 +193,7 @@ class AppState : public QObject {
     CleanSummary summary;
     std::unordered_set<Uuid> removed;
     Results results;  ///< that it was of
-    std::vector<ItemSelection::Remainder> left;
+    std::vector<ItemSelection::RemainingCategory> left;
   };
 
   QCoro::Task<> runClean(Results results, ItemSelection selection, std::stop_token cancelled);
@@ -202,7 +202,7 @@ class AppState : public QObject {
   [[nodiscard]] static Cleaned sumUp(const CleanPlan& plan,
                                      const std::vector<DeletionOutcome>& outcomes, Results results);
   void finishClean(Cleaned cleaned);
-  void keepOnly(std::vector<ItemSelection::Remainder> left,
+  void keepOnly(std::vector<ItemSelection::RemainingCategory> left,
                 const std::unordered_set<Uuid>& removed);
 
   void setScanState(ScanState state);
@@ -230,7 +230,7 @@ class AppState : public QObject {
   std::stop_source _cleanTask{std::nostopstate};
   std::stop_source _lifetime;
   ScanSession _session;
-  EngineWork _removalWork;
+  BackgroundTasks _removalWork;
 };
 
 }  // namespace klarvik

@@ -6,25 +6,25 @@
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "state/app_state.h"
-#include "state/change_to.h"
-#include "state/linked_stop.h"
-#include "state/report_mailbox.h"
+#include "state/coalescing_queue.h"
+#include "state/combined_stop_token.h"
 #include "state/section.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 
 namespace {
 
 /// Every category that keeps an item, under a new identity.
-std::vector<ItemSelection::Remainder> leftWithout(const std::unordered_set<Uuid>& removed,
-                                                  const std::vector<CleanCategory>& results) {
-  std::vector<ItemSelection::Remainder> left;
+std::vector<ItemSelection::RemainingCategory> leftWithout(
+    const std::unordered_set<Uuid>& removed, const std::vector<CleanCategory>& results) {
+  std::vector<ItemSelection::RemainingCategory> left;
   for (const CleanCategory& category : results) {
     CleanCategory kept{.type = category.type, .items = {}, .hints = category.hints};
     std::ranges::copy_if(category.items, std::back_inserter(kept.items),
                          [&](const JunkItem& item) { return !removed.contains(item.id); });
     if (!kept.hasItems() && kept.hints.empty()) continue;
-    auto items = std::make_shared<const RankedItems>(kept.items);
+    auto items = std::make_shared<const SortedItems>(kept.items);
     left.push_back({category.id, std::move(kept), std::move(items)});
   }
   return left;
@@ -39,7 +39,7 @@ struct AppState::CleanPlan {
 };
 
 void AppState::setPendingCleanConfirmation(bool pending) {
-  if (changeTo(_pendingCleanConfirmation, pending)) emit pendingCleanConfirmationChanged();
+  if (setIfChanged(_pendingCleanConfirmation, pending)) emit pendingCleanConfirmationChanged();
 }
 
 void AppState::dismissLastClean() {
@@ -63,10 +63,10 @@ void AppState::performClean() {
 
 QCoro::Task<> AppState::runClean(Results results, ItemSelection selection,
                                  std::stop_token cancelled) {
-  const LinkedStop stop(std::move(cancelled), _lifetime.get_token());
+  const CombinedStopToken stop(std::move(cancelled), _lifetime.get_token());
   LeftAlone leftAlone;
   ScannerEngine engine(_desktop, &leftAlone);
-  ReportMailbox<DeletionProgress> reports(
+  CoalescingQueue<DeletionProgress> reports(
       _desktop.clock, [this](DeletionProgress progress) { setCleanProgress(std::move(progress)); });
   const bool useTrash = _desktop.defaults.boolean("useTrash", true);
   auto clean = [&engine, &reports, &selection, useTrash, results = std::move(results),
@@ -77,11 +77,11 @@ QCoro::Task<> AppState::runClean(Results results, ItemSelection selection,
                            [&](const DeletionProgress& progress) { reports.post(progress); });
     return sumUp(plan, outcomes, results);
   };
-  Cleaned cleaned = co_await onEngineThread(_removalWork, std::move(clean));
+  Cleaned cleaned = co_await runInBackground(_removalWork, std::move(clean));
   reports.empty();
   _notice.tell(leftAlone);
   finishClean(std::move(cleaned));
-  _removalWork.discard(std::move(selection));
+  _removalWork.deleteInBackground(std::move(selection));
 }
 
 AppState::CleanPlan AppState::planClean(const std::vector<CleanCategory>& results,
@@ -128,9 +128,9 @@ void AppState::finishClean(Cleaned cleaned) {
   } else if (!cleaned.removed.empty()) {
     keepOnly(std::exchange(cleaned.left, {}), cleaned.removed);
   }
-  _removalWork.discard(std::move(cleaned));
+  _removalWork.deleteInBackground(std::move(cleaned));
   _desktop.notifications.post(diskChangedNotification);
-  if (changeTo(_lastCleanDate, _desktop.clock.now())) emit lastCleanDateChanged();
+  if (setIfChanged(_lastCleanDate, _desktop.clock.now())) emit lastCleanDateChanged();
   setCleanProgress(std::nullopt);
   setScanState(CleanDone{freed});
 }
@@ -153,11 +153,11 @@ void AppState::removeItems(const std::unordered_set<Uuid>& ids) {
   if (!ids.empty()) keepOnly(leftWithout(ids, *_scanResults), ids);
 }
 
-void AppState::keepOnly(std::vector<ItemSelection::Remainder> left,
+void AppState::keepOnly(std::vector<ItemSelection::RemainingCategory> left,
                         const std::unordered_set<Uuid>& removed) {
   ItemSelection selection = _selectedItems.without(removed, left);
   std::vector<CleanCategory> remaining;
-  for (ItemSelection::Remainder& remainder : left) {
+  for (ItemSelection::RemainingCategory& remainder : left) {
     remaining.push_back(std::move(remainder.category));
   }
   setResults(std::move(remaining), std::move(selection));
@@ -182,7 +182,7 @@ QCoro::Task<std::int64_t> AppState::restoreLastClean() {
       }
       return count;
     };
-    restored = co_await onEngineThread(_removalWork, std::move(restore));
+    restored = co_await runInBackground(_removalWork, std::move(restore));
     _notice.tell(leftAlone);
   }
   setLastClean(std::nullopt);
@@ -194,12 +194,12 @@ QCoro::Task<std::int64_t> AppState::restoreLastClean() {
 void AppState::setLastClean(std::optional<CleanSummary> summary) {
   if (_lastClean == summary) return;
   auto former = std::exchange(_lastClean, std::move(summary));
-  if (former) _removalWork.discard(std::move(former));
+  if (former) _removalWork.deleteInBackground(std::move(former));
   emit lastCleanChanged();
 }
 
 void AppState::setCleanProgress(std::optional<DeletionProgress> progress) {
-  if (changeTo(_cleanProgress, std::move(progress))) emit cleanProgressChanged();
+  if (setIfChanged(_cleanProgress, std::move(progress))) emit cleanProgressChanged();
 }
 
 }  // namespace klarvik

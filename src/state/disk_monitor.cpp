@@ -5,8 +5,8 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/notification_center.h"
-#include "state/change_to.h"
 #include "state/section.h"
+#include "state/set_if_changed.h"
 #include "state/shared_state.h"
 #include "state/sleep_for.h"
 
@@ -33,7 +33,7 @@ DiskMonitor::~DiskMonitor() {
 }
 
 void DiskMonitor::refreshNow() {
-  if (changeTo(_stats, readStats())) emit statsChanged();
+  if (setIfChanged(_stats, readStats())) emit statsChanged();
 }
 
 DiskStats DiskMonitor::readStats() const {

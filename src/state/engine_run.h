@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "platform/clock.h"
-#include "state/engine_work.h"
-#include "state/report_mailbox.h"
+#include "state/background_tasks.h"
+#include "state/coalescing_queue.h"
 
 namespace klarvik {
 
@@ -26,13 +26,13 @@ class EngineRun {
 
     /// Called off the main thread, with the stop token of the run; may post from any thread.
     std::function<Result(std::stop_token, const Post&)> work;
-    /// Called on the main thread for what was posted, at the pace of `ReportMailbox`.
+    /// Called on the main thread for what was posted, at the pace of `CoalescingQueue`.
     std::function<void(Report)> report = {};
     /// Called on the main thread, after the last report; the run is no longer running then.
     std::function<void(Result)> finish;
     /// The exception to the rule, for a job that keeps what was found until it was cancelled.
     std::function<void(Result)> finishCancelled = {};
-    typename ReportMailbox<Report>::Replaces replaces = [](const Report&, const Report&) {
+    typename CoalescingQueue<Report>::Replaces replaces = [](const Report&, const Report&) {
       return true;
     };
   };
@@ -69,16 +69,16 @@ class EngineRun {
     _isRunning = false;
     ++_number;
   }
-  /// As `EngineWork::discard`.
+  /// As `BackgroundTasks::deleteInBackground`.
   template <typename Garbage>
-  void discard(Garbage garbage) {
-    _work.discard(std::move(garbage));
+  void deleteInBackground(Garbage garbage) {
+    _work.deleteInBackground(std::move(garbage));
   }
 
  private:
   template <typename Report, typename Result>
   QCoro::Task<> run(Job<Report, Result> job, std::uint64_t number, std::stop_token stop) {
-    ReportMailbox<Report> reports(
+    CoalescingQueue<Report> reports(
         _clock,
         [&job, stop](Report report) {
           if (!stop.stop_requested()) job.report(std::move(report));
@@ -87,7 +87,7 @@ class EngineRun {
     auto work = [&job, &reports, stop] {
       return job.work(stop, [&reports](Report report) { reports.post(std::move(report)); });
     };
-    Result result = co_await onEngineThread(_work, std::move(work));
+    Result result = co_await runInBackground(_work, std::move(work));
     reports.empty();
     if (!stop.stop_requested()) {
       _isRunning = false;
@@ -96,7 +96,7 @@ class EngineRun {
     } else if (number == _number && job.finishCancelled) {
       job.finishCancelled(std::move(result));
     } else {
-      _work.discard(std::move(result));
+      _work.deleteInBackground(std::move(result));
     }
   }
 
@@ -105,7 +105,7 @@ class EngineRun {
   std::uint64_t _number = 0;  ///< of the latest run
   bool _isRunning = false;
   bool _hasRun = false;
-  EngineWork _work;
+  BackgroundTasks _work;
 };
 
 }  // namespace klarvik

@@ -51,7 +51,7 @@ void ItemSelection::add(const CleanCategory& category, Items items) {
   const std::size_t size = items->size();
   _groups.push_back({category.id, category.type, std::move(items), std::vector<bool>(size), {}});
   Group& added = _groups.back();
-  std::erase_if(_strangers, [&](const Uuid& id) {
+  std::erase_if(_unknownIds, [&](const Uuid& id) {
     const auto rank = added.items->rankOf(id);
     return rank && added.set(*rank, true);
   });
@@ -61,18 +61,18 @@ bool ItemSelection::contains(const Uuid& id) const {
   for (const Group& group : _groups) {
     if (const auto rank = group.items->rankOf(id)) return group.isSelected[*rank];
   }
-  return _strangers.contains(id);
+  return _unknownIds.contains(id);
 }
 
 std::size_t ItemSelection::size() const {
-  return static_cast<std::size_t>(selected().count) + _strangers.size();
+  return static_cast<std::size_t>(selected().count) + _unknownIds.size();
 }
 
 bool ItemSelection::set(const Uuid& id, bool selected) {
   for (Group& group : _groups) {
     if (const auto rank = group.items->rankOf(id)) return group.set(*rank, selected);
   }
-  return selected ? _strangers.insert(id).second : _strangers.erase(id) == 1;
+  return selected ? _unknownIds.insert(id).second : _unknownIds.erase(id) == 1;
 }
 
 bool ItemSelection::setAll(const Uuid& category, bool selected) {
@@ -87,7 +87,7 @@ bool ItemSelection::selectUnused(const Uuid& category) {
 
 ItemSelection ItemSelection::safeItems() const {
   ItemSelection safe = *this;
-  safe._strangers.clear();
+  safe._unknownIds.clear();
   for (Group& group : safe._groups) {
     if (isSafe(group.type)) {
       group.selectUnused();
@@ -99,11 +99,11 @@ ItemSelection ItemSelection::safeItems() const {
 }
 
 ItemSelection ItemSelection::without(const std::unordered_set<Uuid>& gone,
-                                     const std::vector<Remainder>& kept) const {
+                                     const std::vector<RemainingCategory>& kept) const {
   ItemSelection rest;
-  rest._strangers = _strangers;
-  std::erase_if(rest._strangers, [&](const Uuid& id) { return gone.contains(id); });
-  for (const Remainder& remainder : kept) {
+  rest._unknownIds = _unknownIds;
+  std::erase_if(rest._unknownIds, [&](const Uuid& id) { return gone.contains(id); });
+  for (const RemainingCategory& remainder : kept) {
     rest.add(remainder.category, remainder.items);
     const Group* whole = find(remainder.before);
     if (whole == nullptr) continue;
@@ -152,7 +152,7 @@ bool ItemSelection::isAllSafe() const {
 bool ItemSelection::operator==(const ItemSelection& other) const {
   return size() == other.size() &&
          std::ranges::all_of(_groups, [&](const Group& group) { return group.isWithin(other); }) &&
-         std::ranges::all_of(_strangers, [&](const Uuid& id) { return other.contains(id); });
+         std::ranges::all_of(_unknownIds, [&](const Uuid& id) { return other.contains(id); });
 }
 
 const ItemSelection::Group* ItemSelection::find(const Uuid& category) const {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/junk_model.h"
-#include "state/ranked_items.h"
+#include "state/sorted_items.h"
 
 namespace klarvik {
 
@@ -16,10 +16,10 @@ namespace klarvik {
 /// items, however many it has; a copy costs a bit for each of them.
 class ItemSelection {
  public:
-  using Items = std::shared_ptr<const RankedItems>;
+  using Items = std::shared_ptr<const SortedItems>;
 
   /// What is left of a category after some of its items have gone.
-  struct Remainder {
+  struct RemainingCategory {
     Uuid before;  ///< the category that it was
     CleanCategory category;
     Items items;
@@ -44,7 +44,7 @@ class ItemSelection {
   [[nodiscard]] ItemSelection safeItems() const;
   /// The same selection without `gone`, over results of which no more than `kept` is left.
   [[nodiscard]] ItemSelection without(const std::unordered_set<Uuid>& gone,
-                                      const std::vector<Remainder>& kept) const;
+                                      const std::vector<RemainingCategory>& kept) const;
 
   /// What is selected of the results, and of one category of theirs.
   [[nodiscard]] ItemSum selected() const;
@@ -77,7 +77,7 @@ class ItemSelection {
   [[nodiscard]] const Group* find(const Uuid& category) const;
 
   std::vector<Group> _groups;
-  std::set<Uuid> _strangers;  ///< selected, but not in the results
+  std::set<Uuid> _unknownIds;  ///< selected, but not in the results
 };
 
 }  // namespace klarvik

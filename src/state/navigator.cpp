@@ -1,6 +1,6 @@
 #include "state/navigator.h"
 
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 #include "state/shared_state.h"
 
 namespace klarvik {
@@ -10,7 +10,7 @@ Navigator& Navigator::shared() {
 }
 
 void Navigator::setSection(Section section) {
-  if (changeTo(_section, section)) emit sectionChanged();
+  if (setIfChanged(_section, section)) emit sectionChanged();
 }
 
 }  // namespace klarvik

@@ -9,7 +9,7 @@
 #include "platform/file_system.h"
 #include "platform/path.h"
 #include "platform/workspace.h"
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 #include "state/shared_state.h"
 #include "state/sleep_for.h"
 
@@ -59,7 +59,7 @@ bool PermissionsManager::probeAccess() const {
 }
 
 void PermissionsManager::refreshAccess() {
-  if (changeTo(_hasFullDiskAccess, probeAccess())) emit hasFullDiskAccessChanged();
+  if (setIfChanged(_hasFullDiskAccess, probeAccess())) emit hasFullDiskAccessChanged();
 }
 
 void PermissionsManager::ensureAccess(std::function<void()> work) {
@@ -81,7 +81,7 @@ void PermissionsManager::finishAccessRequest() {
 }
 
 void PermissionsManager::setRequestingAccess(bool requesting) {
-  if (changeTo(_isRequestingAccess, requesting)) emit isRequestingAccessChanged();
+  if (setIfChanged(_isRequestingAccess, requesting)) emit isRequestingAccessChanged();
 }
 
 void PermissionsManager::openFullDiskAccessSettings() {

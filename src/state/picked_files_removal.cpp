@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "state/report_mailbox.h"
+#include "state/coalescing_queue.h"
 
 namespace klarvik {
 
@@ -23,7 +23,7 @@ QCoro::Task<std::set<Path>> PickedFilesRemoval::trash(std::size_t count,
 
   LeftAlone leftAlone;
   ScannerEngine engine(_desktop, &leftAlone);
-  ReportMailbox<DeletionProgress> reports(_desktop.clock, [this](DeletionProgress progress) {
+  CoalescingQueue<DeletionProgress> reports(_desktop.clock, [this](DeletionProgress progress) {
     _progress = std::move(progress);
     emit changed();
   });
@@ -33,7 +33,7 @@ QCoro::Task<std::set<Path>> PickedFilesRemoval::trash(std::size_t count,
         picked.files, stop, [&](const DeletionProgress& progress) { reports.post(progress); },
         picked.check);
   };
-  std::set<Path> moved = co_await onEngineThread(_work, std::move(move));
+  std::set<Path> moved = co_await runInBackground(_work, std::move(move));
   reports.empty();
   _notice.tell(leftAlone);
 

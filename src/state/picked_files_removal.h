@@ -11,7 +11,7 @@
 
 #include "engine/scanner_engine.h"
 #include "platform/platform.h"
-#include "state/engine_work.h"
+#include "state/background_tasks.h"
 #include "state/removal_notice.h"
 
 namespace klarvik {
@@ -67,7 +67,7 @@ class PickedFilesRemoval : public QObject {
   bool _isRunning = false;
   std::optional<DeletionProgress> _progress;
   std::stop_source _stop;
-  EngineWork _work;
+  BackgroundTasks _work;
 };
 
 }  // namespace klarvik

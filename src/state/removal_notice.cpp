@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 namespace {
@@ -49,11 +49,11 @@ std::string textOf(const LeftAlone& leftAlone) {
 
 void RemovalNotice::tell(const LeftAlone& leftAlone) {
   const std::string text = textOf(leftAlone);
-  if (!text.empty() && changeTo(_text, text)) emit changed();
+  if (!text.empty() && setIfChanged(_text, text)) emit changed();
 }
 
 void RemovalNotice::dismiss() {
-  if (changeTo(_text, {})) emit changed();
+  if (setIfChanged(_text, {})) emit changed();
 }
 
 }  // namespace klarvik

@@ -47,7 +47,7 @@ class ScanCoordinator : public QObject {
   /// Waits for the turn of the tool. True: the caller holds the turn, and gives it up with
   /// `finishTurn`. False: automatic scans are off, the tool had its own already, or the caller was
   /// asked to stop while it waited. A caller that was asked to stop keeps its place in the queue
-  /// until its turn comes, and that turn is then nobody's to give up.
+  /// until its turn comes, and must not call `finishTurn` for that one.
   QCoro::Task<bool> beginAutoScan(std::string key, std::stop_token stop = {});
   QCoro::Task<> waitForTurn(std::string key);
   /// Passes the turn to the most urgent tool that waits, the older of two equals first. Does

@@ -50,10 +50,10 @@ class ScanSession {
   /// Requested by `drop`.
   [[nodiscard]] std::stop_token dropped() const { return _dropped.get_token(); }
 
-  /// As `EngineWork::discard`.
+  /// As `BackgroundTasks::deleteInBackground`.
   template <typename Garbage>
-  void discard(Garbage garbage) {
-    _run.discard(std::move(garbage));
+  void deleteInBackground(Garbage garbage) {
+    _run.deleteInBackground(std::move(garbage));
   }
 
  private:

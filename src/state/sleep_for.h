@@ -10,8 +10,8 @@
 
 namespace klarvik {
 
-/// What `sleepFor` answers; it is only good for being awaited at once. Compilers move it on its way
-/// into the coroutine, so what wakes it stands apart.
+/// What `sleepFor` answers; it is only good for being awaited at once. Compilers may move it
+/// into the coroutine's frame, so the state of the timer is allocated separately.
 class Sleep {
  public:
   Sleep(Clock& clock, std::chrono::nanoseconds duration, std::stop_token stop);

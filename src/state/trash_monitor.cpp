@@ -7,9 +7,9 @@
 #include "engine/allocated_size.h"
 #include "platform/notification_center.h"
 #include "platform/trash.h"
-#include "state/change_to.h"
-#include "state/report_mailbox.h"
+#include "state/coalescing_queue.h"
 #include "state/section.h"
+#include "state/set_if_changed.h"
 #include "state/shared_state.h"
 
 namespace klarvik {
@@ -71,8 +71,8 @@ QCoro::Task<> TrashMonitor::measure(std::vector<Path> entries, std::optional<Dat
   auto sum = [&files = _desktop.files, &entries, stop = _lifetime.get_token()] {
     return sizeOf(files, entries, stop);
   };
-  const std::int64_t bytes =
-      co_await onEngineThread(_measuringWork, std::move(sum), EngineWork::Priority::background);
+  const std::int64_t bytes = co_await runInBackground(_measuringWork, std::move(sum),
+                                                      BackgroundTasks::Priority::background);
   _lastStamp = stamp;
   setBytes(bytes);
   setMeasuring(false);
@@ -84,13 +84,13 @@ QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {
   setEmptyProgress(std::nullopt);
   LeftAlone leftAlone;
   ScannerEngine engine(_desktop, &leftAlone);
-  ReportMailbox<DeletionProgress> reports(
+  CoalescingQueue<DeletionProgress> reports(
       _desktop.clock, [this](DeletionProgress progress) { setEmptyProgress(std::move(progress)); });
   auto empty = [&engine, &reports, stop = _lifetime.get_token()] {
     return engine.emptyTrash(stop,
                              [&](const DeletionProgress& progress) { reports.post(progress); });
   };
-  const std::int64_t freed = co_await onEngineThread(_emptyingWork, std::move(empty));
+  const std::int64_t freed = co_await runInBackground(_emptyingWork, std::move(empty));
   _notice.tell(leftAlone);
   setEmptyProgress(std::nullopt);
   setEmptying(false);
@@ -109,24 +109,24 @@ void TrashMonitor::finishEmptying() {
 }
 
 void TrashMonitor::setContents(bool readable, std::int64_t itemCount) {
-  const bool readableChanged = changeTo(_figures.isReadable, readable);
-  if (changeTo(_figures.itemCount, itemCount) || readableChanged) emit changed();
+  const bool readableChanged = setIfChanged(_figures.isReadable, readable);
+  if (setIfChanged(_figures.itemCount, itemCount) || readableChanged) emit changed();
 }
 
 void TrashMonitor::setBytes(std::int64_t bytes) {
-  if (changeTo(_figures.bytes, bytes)) emit changed();
+  if (setIfChanged(_figures.bytes, bytes)) emit changed();
 }
 
 void TrashMonitor::setMeasuring(bool measuring) {
-  if (changeTo(_figures.isMeasuring, measuring)) emit changed();
+  if (setIfChanged(_figures.isMeasuring, measuring)) emit changed();
 }
 
 void TrashMonitor::setEmptying(bool emptying) {
-  if (changeTo(_figures.isEmptying, emptying)) emit changed();
+  if (setIfChanged(_figures.isEmptying, emptying)) emit changed();
 }
 
 void TrashMonitor::setEmptyProgress(std::optional<DeletionProgress> progress) {
-  if (changeTo(_figures.emptyProgress, std::move(progress))) emit changed();
+  if (setIfChanged(_figures.emptyProgress, std::move(progress))) emit changed();
 }
 
 }  // namespace klarvik

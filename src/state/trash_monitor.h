@@ -10,7 +10,7 @@
 #include "engine/scanner_engine.h"
 #include "platform/notification_center.h"
 #include "platform/platform.h"
-#include "state/engine_work.h"
+#include "state/background_tasks.h"
 #include "state/removal_notice.h"
 #include "state/repeating_timer.h"
 
@@ -75,8 +75,8 @@ class TrashMonitor : public QObject {
   NotificationCenter::Subscription _onActive;
   RepeatingTimer _timer;
   std::stop_source _lifetime;
-  EngineWork _measuringWork;
-  EngineWork _emptyingWork;
+  BackgroundTasks _measuringWork;
+  BackgroundTasks _emptyingWork;
 };
 
 }  // namespace klarvik

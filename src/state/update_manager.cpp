@@ -5,7 +5,7 @@
 #include "platform/application_info.h"
 #include "platform/formatting.h"
 #include "platform/notification_center.h"
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 #include "state/shared_state.h"
 #include "state/update_error_text.h"
 
@@ -100,11 +100,11 @@ void UpdateManager::takeError(const UpdaterError& error) {
 }
 
 void UpdateManager::setStatus(const Status& status) {
-  if (changeTo(_status, status)) emit statusChanged();
+  if (setIfChanged(_status, status)) emit statusChanged();
 }
 
 void UpdateManager::setCheckedNow() {
-  if (changeTo(_lastCheckDate, _desktop.clock.now())) emit lastCheckDateChanged();
+  if (setIfChanged(_lastCheckDate, _desktop.clock.now())) emit lastCheckDateChanged();
 }
 
 }  // namespace klarvik

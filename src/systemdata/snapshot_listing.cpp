@@ -34,7 +34,7 @@ std::vector<std::string> listedSnapshots(std::string_view output) {
 }
 
 std::optional<std::string> listedSnapshotSizeCommand(const std::string& text) {
-  if (!mayStandOnCommandLine(text)) return std::nullopt;
+  if (!isShellSafe(text)) return std::nullopt;
   return "diskutil apfs listSnapshots / 2>/dev/null | grep -A5 '" + text +
          "' | grep -i size | head -1 | awk -F'[()]' '{print $2}' | awk '{print $1}'";
 }

@@ -211,7 +211,7 @@ std::optional<ItemSafety> SystemDataSearch::verdict(const Path& path) const {
   const bool inHome = !below.empty() && *below.begin() != "..";
   const std::string text = inHome ? below.native() : path.native();
   const bool isSafe = std::ranges::any_of(
-      _catalogue.placesOf(pathPieces(text), inHome),
+      _catalogue.placesOf(splitPath(text), inHome),
       [](const Place* place) { return safety(place->category) == SafetyLevel::safe; });
   return isSafe ? ItemSafety::safe : ItemSafety::review;
 }

@@ -22,7 +22,7 @@ using KeptCopies = std::unordered_map<std::string, std::shared_ptr<const KeptCop
 
 /// Asked right before a copy goes, on any of the removal's threads: it may only if the one that
 /// stays was just now read whole, holds the same content, and is another file. One that waits in
-/// the Trash does not stay. Nothing that stays for the sake of any copy may go. After a stop
+/// the Trash does not stay. A copy that is kept for any group may not go. After a stop
 /// request nothing may. `leftAlone`, where there is one, counts copies that are the very file that
 /// stays. The answer must not outlive what it refers to.
 [[nodiscard]] ScannerEngine::PickedFileCheck keeperCheck(const FileSystem& files,

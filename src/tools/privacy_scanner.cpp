@@ -237,7 +237,7 @@ bool PrivacyScanner::isInUse(const PrivacyItem& item) const {
   };
   return runs(item.closedFirst) || std::ranges::any_of(item.parts, [&](const TrailPart& part) {
            const std::string below = part.path.lexically_relative(_files.home()).native();
-           const auto places = catalogue.placesOf(pathPieces(below), /*inHome=*/true);
+           const auto places = catalogue.placesOf(splitPath(below), /*inHome=*/true);
            return std::ranges::any_of(
                places, [&](const Place* place) { return runs(place->details.closedFirst); });
          });

@@ -6,8 +6,8 @@ namespace klarvik {
 namespace {
 
 TEST(PathPieces, LeavesOutWhatIsEmpty) {
-  EXPECT_EQ(pathPieces("//a///b c/"), (std::vector<std::string_view>{"a", "b c"}));
-  EXPECT_TRUE(pathPieces("/").empty());
+  EXPECT_EQ(splitPath("//a///b c/"), (std::vector<std::string_view>{"a", "b c"}));
+  EXPECT_TRUE(splitPath("/").empty());
 }
 
 TEST(IsBelow, TakesWholeNamesOnly) {

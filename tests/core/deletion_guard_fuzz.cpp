@@ -22,6 +22,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const DeletionScope scope = kind % 3 == 0   ? DeletionScope::general()
                               : kind % 3 == 1 ? DeletionScope::pickedFile()
                                               : DeletionScope::residual(identifiers);
-  if (klarvik::brokenPromise(path, scope, home)) std::abort();
+  if (klarvik::violatedInvariant(path, scope, home)) std::abort();
   return 0;
 }

@@ -191,7 +191,7 @@ TEST(DeletionGuardSpellings, AMillionGeneratedPathsNothingAllowedLiesElsewhereTh
     const Path path = anyPath(dice);
     const Path& home = dice.oneOf(homes);
     const DeletionScope& scope = dice.oneOf(scopes);
-    ASSERT_EQ(brokenPromise(path, scope, home), std::nullopt)
+    ASSERT_EQ(violatedInvariant(path, scope, home), std::nullopt)
         << testing::PrintToString(path.native()) << " with home " << home;
     allowed += !DeletionGuard::refusalReason(path, scope, home);
   }

@@ -91,8 +91,8 @@ bool liesBelowOneOf(const Path& path, const Places& places) {
 
 }  // namespace
 
-std::optional<std::string> brokenPromise(const Path& given, const DeletionScope& scope,
-                                         const Path& givenHome) {
+std::optional<std::string> violatedInvariant(const Path& given, const DeletionScope& scope,
+                                             const Path& givenHome) {
   if (DeletionGuard::refusalReason(given, scope, givenHome)) return std::nullopt;
   const bool isResidual = scope.kind == DeletionScope::Kind::residual;
   if (given.native().find('\0') != std::string::npos) return "a path that the disk reads in part";

@@ -10,7 +10,8 @@ namespace klarvik {
 /// Asks the guard about `path`. When it allows the path, answers what speaks against that by an
 /// account of its own of what may ever be removed, which shares nothing with the guard; nothing
 /// when all is well.
-[[nodiscard]] std::optional<std::string> brokenPromise(const Path& path, const DeletionScope& scope,
-                                                       const Path& home);
+[[nodiscard]] std::optional<std::string> violatedInvariant(const Path& path,
+                                                           const DeletionScope& scope,
+                                                           const Path& home);
 
 }  // namespace klarvik

@@ -54,7 +54,7 @@ class LinuxSampleDiskTest : public testing::Test {
   /// Whether the row of a table stands for the thing at `path`, and not only for what is around it.
   static bool isPlaceOf(const Place& row, const Path& path) {
     const std::string text = row.base == Base::root ? path.native() : inHome(path);
-    const auto pieces = pathPieces(text);
+    const auto pieces = splitPath(text);
     const Catalogue known = catalogue();
     const auto base = known.folder(row.base).value_or("");
     const auto isAt = [&](std::string_view inside) {
@@ -66,7 +66,7 @@ class LinuxSampleDiskTest : public testing::Test {
   static bool isKept(const PlacePattern& pattern) {
     return std::ranges::any_of(_disk.keep, [&](const Path& path) {
       const std::string text = inHome(path);
-      const auto relation = catalogue().match(pathPieces(text), pattern).relation;
+      const auto relation = catalogue().match(splitPath(text), pattern).relation;
       return relation == Relation::at || relation == Relation::below;
     });
   }

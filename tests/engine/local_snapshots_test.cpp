@@ -85,12 +85,12 @@ TEST(LocalSnapshots, ASnapshotNameWithAnythingAShellActsOnIsNeverPutOnACommandLi
                                  "a\x7f"
                                  "b",
                                  "a^b"}) {
-    EXPECT_FALSE(mayStandOnCommandLine(text)) << text;
+    EXPECT_FALSE(isShellSafe(text)) << text;
     EXPECT_EQ(snapshotSizeCommand(text), std::nullopt) << text;
     EXPECT_EQ(snapshotRemovalCommand(snapshotPath(text)), std::nullopt) << text;
   }
-  EXPECT_FALSE(mayStandOnCommandLine(std::string_view("a\0b", 3)));
-  EXPECT_TRUE(mayStandOnCommandLine("aZ09._:+,@/-größe"));
+  EXPECT_FALSE(isShellSafe(std::string_view("a\0b", 3)));
+  EXPECT_TRUE(isShellSafe("aZ09._:+,@/-größe"));
 }
 
 TEST(LocalSnapshots, ARemovalNeverNamesAnotherSnapshotThanTheListing) {

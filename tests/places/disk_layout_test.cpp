@@ -30,7 +30,7 @@ std::string example(const Place& place, std::string_view inside, std::string_vie
   std::string text;
   for (const std::string_view part :
        {catalogue.folder(place.base).value_or(""), place.pattern, inside}) {
-    for (const std::string_view piece : pathPieces(part)) {
+    for (const std::string_view piece : splitPath(part)) {
       text += '/';
       for (const char character : piece) {
         if (character == '*') {
@@ -83,7 +83,7 @@ TEST(TheLinuxTable, HasPlainPatternsWithAStarOnlyWhereThingsAreMatched) {
       EXPECT_EQ(place.pattern.find('*'), std::string_view::npos) << place.id;
       EXPECT_TRUE(place.details.only.empty()) << place.id;
     }
-    for (const std::string_view piece : pathPieces(place.pattern)) {
+    for (const std::string_view piece : splitPath(place.pattern)) {
       EXPECT_LE(std::ranges::count(piece, '*'), 1) << place.id;
     }
   }
@@ -101,14 +101,14 @@ TEST(TheLinuxTable, ListsEveryPlaceInACategoryThatTheScanHas) {
 TEST(TheLinuxTable, ReachesNoSecretWhateverAStarStandsFor) {
   std::vector<std::string> stars{"x", "Default", "1.2"};
   for (const PlacePattern& secret : linuxLayout.guard.secrets) {
-    for (const std::string_view piece : pathPieces(secret.pattern)) stars.emplace_back(piece);
+    for (const std::string_view piece : splitPath(secret.pattern)) stars.emplace_back(piece);
   }
   for (const Place& place : linuxLayout.places) {
     if (place.base == Base::root) continue;
     for (const std::string_view inside : insides(place)) {
       for (const std::string& star : stars) {
         const std::string path = example(place, inside, star);
-        const auto pieces = pathPieces(path);
+        const auto pieces = splitPath(path);
         if (catalogue.placesOf(pieces, /*inHome=*/true).empty()) continue;
         EXPECT_FALSE(catalogue.reachesSecret(pieces)) << place.id << ' ' << path;
       }
@@ -121,7 +121,7 @@ TEST(TheLinuxTable, NamesWhatItIsAskedFor) {
     if (place.details.removal == Removal::byTool) continue;
     for (const std::string_view inside : insides(place)) {
       const std::string path = example(place, inside, "some-thing1.2");
-      const auto named = catalogue.placesOf(pathPieces(path), place.base != Base::root);
+      const auto named = catalogue.placesOf(splitPath(path), place.base != Base::root);
       EXPECT_NE(std::ranges::find(named, place.id, &Place::id), named.end()) << path;
     }
   }
@@ -132,8 +132,8 @@ TEST(Catalogue, TakesTheStandardFoldersWhereTheUserHasPutThem) {
   folders.cache = "/home/ann/.my caches";
   const Catalogue own(linuxLayout, folders);
   EXPECT_EQ(own.folder(Base::cache), ".my caches");
-  EXPECT_FALSE(own.placesOf(pathPieces(".my caches/pip"), true).empty());
-  EXPECT_TRUE(own.placesOf(pathPieces(".cache/pip"), true).empty());
+  EXPECT_FALSE(own.placesOf(splitPath(".my caches/pip"), true).empty());
+  EXPECT_TRUE(own.placesOf(splitPath(".cache/pip"), true).empty());
 }
 
 TEST(Catalogue, KeepsToTheUsualFolderWhereTheChosenOneHoldsOtherThings) {
@@ -151,8 +151,8 @@ TEST(Catalogue, KeepsSecretsWhereTheyUsuallyAreAsWellAsWhereTheUserHasPutThem) {
   UserFolders folders = UserFolders::in(ann);
   folders.data = "/home/ann/.mydata";
   const Catalogue own(linuxLayout, folders);
-  EXPECT_TRUE(own.reachesSecret(pathPieces(".mydata/keyrings/login.keyring")));
-  EXPECT_TRUE(own.reachesSecret(pathPieces(".local/share/keyrings/login.keyring")));
+  EXPECT_TRUE(own.reachesSecret(splitPath(".mydata/keyrings/login.keyring")));
+  EXPECT_TRUE(own.reachesSecret(splitPath(".local/share/keyrings/login.keyring")));
 }
 
 }  // namespace

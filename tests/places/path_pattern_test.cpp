@@ -8,7 +8,7 @@ namespace klarvik {
 namespace {
 
 Relation relation(std::string_view path, std::initializer_list<std::string_view> parts) {
-  return matchPattern(pathPieces(path), parts).relation;
+  return matchPattern(splitPath(path), parts).relation;
 }
 
 TEST(NameMatches, TakesAStarForAnyPartOfANameButALeadingDot) {
@@ -35,7 +35,7 @@ TEST(MatchPattern, TellsHowAPathLiesToWhatThePartsName) {
 }
 
 TEST(MatchPattern, TellsWhatTheStarsStandFor) {
-  const auto path = pathPieces("snap/firefox/1234/.cache/x");
+  const auto path = splitPath("snap/firefox/1234/.cache/x");
   const PatternMatch match = matchPattern(path, {"", "snap/*/*/.cache"});
   EXPECT_EQ(match.relation, Relation::below);
   EXPECT_EQ(match.length, 4U);

@@ -18,7 +18,7 @@ class ParentHandleTest : public testing::Test {
     const auto parent = openParent(disk.path(), item);
     return parent ? std::optional(parent->realPath) : std::nullopt;
   }
-  static PlaceCheck allow() {
+  static RealPathPredicate allow() {
     return [](const Path&) { return true; };
   }
 

@@ -61,7 +61,7 @@ class EngineRunTest : public ::testing::Test {
   [[nodiscard]] bool letGo(int runs) {
     for (Gate& gate : gates) gate.open();
     if (!turnUntil([&] { return ended == runs; })) return false;
-    run->discard(0);
+    run->deleteInBackground(0);
     for (int turn = 0; turn < 10; ++turn) turnMainLoop();
     return true;
   }

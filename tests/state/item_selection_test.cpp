@@ -14,7 +14,7 @@ CleanCategory categoryOf(CategoryType type, const std::vector<std::int64_t>& siz
 }
 
 ItemSelection::Items ranked(const CleanCategory& category) {
-  return std::make_shared<const RankedItems>(category.items);
+  return std::make_shared<const SortedItems>(category.items);
 }
 
 class ItemSelectionTest : public ::testing::Test {
@@ -98,7 +98,7 @@ TEST_F(ItemSelectionTest, SurvivesForWhatIsLeftOfTheResults) {
   selection.set(toReview, true);
   selection.set(stranger, true);
   CleanCategory rest{.type = caches.type, .items = {caches.items[1], caches.items[2]}};
-  const std::vector<ItemSelection::Remainder> kept{{caches.id, rest, ranked(rest)}};
+  const std::vector<ItemSelection::RemainingCategory> kept{{caches.id, rest, ranked(rest)}};
   const ItemSelection left = selection.without({first, toReview}, kept);
   EXPECT_EQ(left.total(), (ItemSum{50, 2}));
   EXPECT_EQ(left.selected(rest.id), (ItemSum{30, 1}));

@@ -9,14 +9,14 @@ LoginItem::Status FakeLoginItem::status() const {
 }
 
 bool FakeLoginItem::registerProgram() {
-  return changeTo(Status::enabled);
+  return setIfChanged(Status::enabled);
 }
 
 bool FakeLoginItem::unregisterProgram() {
-  return changeTo(Status::notRegistered);
+  return setIfChanged(Status::notRegistered);
 }
 
-bool FakeLoginItem::changeTo(Status wanted) {
+bool FakeLoginItem::setIfChanged(Status wanted) {
   ++changes;
   if (canChange) current = wanted;
   return canChange;

@@ -31,7 +31,7 @@ class FakeLoginItem final : public LoginItem {
   int changes = 0;  ///< tried, whatever came of it
 
  private:
-  bool changeTo(Status wanted);
+  bool setIfChanged(Status wanted);
 };
 
 /// A folder panel that shows nothing: a test answers for the user.

@@ -70,7 +70,7 @@ ToolDetailRow {
             size: 10
             color: Theme.textTertiary
         },
-        FateTag {
+        KeepDeleteBadge {
             Layout.preferredWidth: width
             visible: !root.isGroup
             fate: root.fate

@@ -171,7 +171,7 @@ void DuplicateFinderView::scanningChanged() {
 void DuplicateFinderView::setGroups(ChosenGroups groups) {
   const Placeholder before = placeholder();
   _rows.removeAll();
-  _scan.discard(_choice.replace(std::move(groups)));
+  _scan.deleteInBackground(_choice.replace(std::move(groups)));
   _rows.insertAll();
   if (placeholder() != before) emit placeholderChanged();
   emit totalsChanged();
@@ -264,7 +264,7 @@ QCoro::Task<> DuplicateFinderView::moveSelectedToTrash() {
   };
   std::set<Path> trashed = co_await _removal.trash(_choice.totals().selectedCount, std::move(pick));
   forget(trashed);
-  _scan.discard(std::move(trashed));
+  _scan.deleteInBackground(std::move(trashed));
   writeTotal();
   _desktop.notifications.post(diskChangedNotification);
 }
@@ -275,7 +275,7 @@ void DuplicateFinderView::forget(const std::set<Path>& trashed) {
   const Placeholder before = placeholder();
   const DuplicateChoice::GroupSet dissolved = _choice.dissolvedBy(gone);
   _rows.removeFiles(gone, dissolved);
-  _scan.discard(_choice.remove(gone, dissolved));
+  _scan.deleteInBackground(_choice.remove(gone, dissolved));
   _rows.allChanged();
   if (placeholder() != before) emit placeholderChanged();
   emit subtitleChanged();

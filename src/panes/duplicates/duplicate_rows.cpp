@@ -8,7 +8,7 @@
 #include "panes/duplicates/duplicates_texts.h"
 #include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
-#include "panes/kit/row_runs.h"
+#include "panes/kit/row_ranges.h"
 #include "panes/kit/row_text.h"
 #include "platform/file_system.h"
 
@@ -125,8 +125,8 @@ void DuplicateRows::removeFiles(const DuplicateChoice::Paths& gone,
   };
   for (const ChosenGroup* group : dissolved) _expanded.erase(group->group.id);
 
-  const std::vector<RowRun> runs =
-      runsOf(_rows.size(), [&](std::size_t row) { return isGone(_rows[row]); });
+  const std::vector<RowRange> runs =
+      rangesOf(_rows.size(), [&](std::size_t row) { return isGone(_rows[row]); });
   if (runs.size() > mostRuns) {
     const std::size_t sight = std::min(_firstInSight, _rows.size());
     const auto anchor = std::find_if_not(_rows.begin() + offset(sight), _rows.end(), isGone);
@@ -228,7 +228,7 @@ QVariant DuplicateRows::dataOfCopy(const ChosenGroup& group, std::size_t file, i
     case CanToggleRole:
       return !isKeeper;
     case FateRole:
-      return static_cast<int>(isKeeper ? Fate::Keep : Fate::Delete);
+      return static_cast<int>(isKeeper ? KeepOrDelete::Keep : KeepOrDelete::Delete);
     case MenuEntryRole:
       return duplicates::menuEntry(isKeeper);
     case DescriptionRole:

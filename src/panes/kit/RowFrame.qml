@@ -4,9 +4,9 @@ import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
 
-// What every row of a RowList is made of: the ground, which the pointer lights up, the parts on one
-// line, the rule below them, the ring round the row that keys act on. Whoever builds on it says
-// what kind of thing assistive tools are told of.
+// The frame of every row of a RowList: background with a hover tint, the parts on one line, the
+// separator below, the focus ring of the current row. Whoever derives from it sets the accessible
+// role.
 Item {
     id: root
 

@@ -17,7 +17,7 @@ Flickable {
     contentHeight: column.height
     T.ScrollBar.vertical: KitScrollBar {}
 
-    // What has the keyboard is in sight.
+    // Scrolls so that the item with keyboard focus is visible.
     readonly property Item focused: root.Window.activeFocusItem
     onFocusedChanged: root.bringIntoSight(root.focused)
 

@@ -113,7 +113,7 @@ QString Kit::safetyText(int level) const {
 }
 
 QString Kit::fateText(int fate) const {
-  return fate == Fate::Keep ? QStringLiteral("KEEP") : QStringLiteral("DELETE");
+  return fate == KeepOrDelete::Keep ? QStringLiteral("KEEP") : QStringLiteral("DELETE");
 }
 
 QString Kit::selectionSymbol(int selection) const {

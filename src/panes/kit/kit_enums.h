@@ -23,12 +23,12 @@ static_assert(Safe == static_cast<int>(SafetyLevel::safe));
 static_assert(Caution == static_cast<int>(SafetyLevel::caution));
 }  // namespace klarvik::Safety
 
-namespace klarvik::Fate {
+namespace klarvik::KeepOrDelete {
 Q_NAMESPACE
 QML_ELEMENT
 enum Value { Keep, Delete };
 Q_ENUM_NS(Value)
-}  // namespace klarvik::Fate
+}  // namespace klarvik::KeepOrDelete
 
 namespace klarvik::LoadingStyle {
 Q_NAMESPACE

@@ -10,8 +10,8 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/notification_center.h"
-#include "state/change_to.h"
 #include "state/section.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 namespace {
@@ -202,9 +202,9 @@ QCoro::Task<> LargeFileFinderView::arrangeRows() {
                  &formatting = _desktop.formatting] {
       return arrange(*files, view, rows, inSight, formatting);
     };
-    RowArrangement arrangement = co_await onEngineThread(_arranging, std::move(work));
+    RowArrangement arrangement = co_await runInBackground(_arranging, std::move(work));
     setKinds(arrangement.kinds);
-    _arranging.discard(_rows.apply(std::move(arrangement)));
+    _arranging.deleteInBackground(_rows.apply(std::move(arrangement)));
     if (isOtherView) emit viewChanged();
   }
   _isArranging = false;
@@ -213,7 +213,7 @@ QCoro::Task<> LargeFileFinderView::arrangeRows() {
 void LargeFileFinderView::setKinds(const std::vector<std::string_view>& kinds) {
   QStringList names;
   for (const std::string_view kind : kinds) names << QString::fromStdString(std::string(kind));
-  if (changeTo(_kinds, names)) emit kindsChanged();
+  if (setIfChanged(_kinds, names)) emit kindsChanged();
 }
 
 void LargeFileFinderView::keepDatesFresh() {
@@ -225,7 +225,7 @@ void LargeFileFinderView::keepDatesFresh() {
 }
 
 void LargeFileFinderView::chooseThreshold(int index) {
-  if (changeTo(_thresholdMB, thresholdSteps.at(static_cast<std::size_t>(index)))) {
+  if (setIfChanged(_thresholdMB, thresholdSteps.at(static_cast<std::size_t>(index)))) {
     emit thresholdChanged();
     emit subtitleChanged();
     emit placeholderChanged();

@@ -17,7 +17,7 @@
 #include "panes/large_files/large_files_texts.h"
 #include "panes/tool_pane.h"
 #include "platform/platform.h"
-#include "state/engine_work.h"
+#include "state/background_tasks.h"
 #include "state/picked_files_removal.h"
 #include "state/scan_session.h"
 #include "state/shared_state.h"
@@ -167,7 +167,7 @@ class LargeFileFinderView : public klarvik::ToolPane {
   std::unique_ptr<Clock::Alarm> _minute;
   PickedFilesRemoval _removal;
   ScanSession _scan;
-  EngineWork _arranging;
+  BackgroundTasks _arranging;
 };
 
 }  // namespace klarvik

@@ -66,7 +66,7 @@ QString PrivacyCleanerView::selectionSummary() const {
 
 QString PrivacyCleanerView::selectionHint() const {
   const std::vector<PrivacyItem> chosen = _trailList.selectedItems();
-  return privacy::selectionHint(std::ranges::any_of(chosen, hurts, &PrivacyItem::category));
+  return privacy::selectionHint(std::ranges::any_of(chosen, needsReview, &PrivacyItem::category));
 }
 
 QString PrivacyCleanerView::clearTitle() const {
@@ -141,7 +141,7 @@ QCoro::Task<> PrivacyCleanerView::clearItems(std::vector<PrivacyItem> items) {
   LeftAlone leftAlone;
   PrivacyScanner scanner(_desktop, _desktop.pasteboard, &leftAlone);
   const PrivacyClearance done =
-      co_await onEngineThread(_clearings, [&] { return scanner.clear(items); });
+      co_await runInBackground(_clearings, [&] { return scanner.clear(items); });
   _notice.tell(leftAlone);
 
   _isCleaning = false;

@@ -12,7 +12,7 @@
 #include "panes/privacy/trail_list.h"
 #include "panes/tool_pane.h"
 #include "platform/platform.h"
-#include "state/engine_work.h"
+#include "state/background_tasks.h"
 #include "state/scan_session.h"
 #include "state/shared_state.h"
 #include "tools/privacy_scanner.h"
@@ -97,7 +97,7 @@ class PrivacyCleanerView : public klarvik::ToolPane {
   std::optional<PrivacyClearance> _lastResult;
 
   ScanSession _scan;
-  EngineWork _clearings;
+  BackgroundTasks _clearings;
 };
 
 }  // namespace klarvik

@@ -38,7 +38,7 @@ std::array<std::string_view, 3> sectionTitles(const Words& words) {
 
 }  // namespace
 
-bool hurts(PrivacyCategory category) {
+bool needsReview(PrivacyCategory category) {
   return category == PrivacyCategory::browserCookies || category == PrivacyCategory::clipboard ||
          category == PrivacyCategory::shellHistory;
 }
@@ -50,7 +50,7 @@ void TrailList::show(std::vector<PrivacyItem> items) {
   clear();
   std::unordered_set<Uuid> selected;
   for (const PrivacyItem& item : items) {
-    if (!hurts(item.category) && item.canBeCleared()) selected.insert(item.id);
+    if (!needsReview(item.category) && item.canBeCleared()) selected.insert(item.id);
   }
   _items = std::move(items);
   fill(rows(), std::move(selected));

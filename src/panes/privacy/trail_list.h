@@ -24,7 +24,7 @@ class TrailList : public klarvik::SectionedList {
   [[nodiscard]] const std::vector<PrivacyItem>& items() const { return _items; }
   [[nodiscard]] std::vector<PrivacyItem> selectedItems() const { return selectedOf(_items); }
 
-  /// Selects all but those whose clearing hurts.
+  /// Selects all but those whose clearing needsReview.
   void show(std::vector<PrivacyItem> items);
   void clear();
   /// Rows of other trails stay where they are.
@@ -41,6 +41,6 @@ class TrailList : public klarvik::SectionedList {
 
 /// Whether clearing a trail of this kind takes something that the user would
 /// miss.
-[[nodiscard]] bool hurts(PrivacyCategory category);
+[[nodiscard]] bool needsReview(PrivacyCategory category);
 
 }  // namespace klarvik

@@ -36,7 +36,7 @@ RowArrival {
             Layout.preferredWidth: SmartScanMetrics.safetyWidth
             Layout.fillHeight: true
 
-            SafetyTag {
+            SafetyBadge {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: !root.isInProgress
                 level: root.isInProgress ? Safety.Safe : root.safety

@@ -60,7 +60,7 @@ ToolGroupRow {
         Layout.fillHeight: true
         visible: root.isCategory
 
-        SafetyTag {
+        SafetyBadge {
             visible: root.canSelect
             anchors.verticalCenter: parent.verticalCenter
             level: root.safety

@@ -53,7 +53,7 @@ Item {
                             text: row.name
                         }
 
-                        SafetyTag {
+                        SafetyBadge {
                             level: row.safety
                         }
                     }

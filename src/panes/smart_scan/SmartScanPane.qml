@@ -65,7 +65,7 @@ ToolPane {
             }
         }
 
-        ElsewhereStrip {
+        OtherToolsBar {
             Layout.fillWidth: true
             visible: root.model.elsewhere.isShown
                      && (root.isReviewing || root.body === SmartScanModel.NothingFound)

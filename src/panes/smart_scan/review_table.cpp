@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "panes/kit/file_url.h"
-#include "panes/kit/row_runs.h"
+#include "panes/kit/row_ranges.h"
 #include "panes/kit/row_text.h"
 #include "panes/smart_scan/smart_scan_texts.h"
 #include "places/disk_layout.h"
@@ -229,16 +229,16 @@ void ReviewTable::syncItems(std::size_t at) {
 void ReviewTable::replaceItems(std::size_t at, ItemSelection::Items items, std::size_t count) {
   ShownCategory& shown = _shown[at];
   std::size_t kept = 0;
-  std::vector<RowRun> runs = runsOf(shown.ranks.size(), [&](std::size_t old) {
+  std::vector<RowRange> runs = rangesOf(shown.ranks.size(), [&](std::size_t old) {
     const bool stays = kept < count && (*shown.items)[shown.ranks[old]].id == (*items)[kept].id;
     if (stays) ++kept;
     return !stays;
   });
   if (runs.size() > mostRuns) {
-    runs = {RowRun{0, shown.ranks.size()}};
+    runs = {RowRange{0, shown.ranks.size()}};
     kept = 0;
   }
-  for (const RowRun& run : std::views::reverse(runs)) {
+  for (const RowRange& run : std::views::reverse(runs)) {
     removeItems(at, run.first, run.count);
   }
   shown.items = std::move(items);
@@ -349,7 +349,7 @@ const JunkItem* ReviewTable::item(const Place& at) const {
   if (category == nullptr || at.kind != RowKind::Item) {
     return nullptr;
   }
-  const RankedItems::Item& ranked = (*shown.items)[shown.ranks[at.item]];
+  const SortedItems::Item& ranked = (*shown.items)[shown.ranks[at.item]];
   const bool isThere =
       ranked.place < category->items.size() && category->items[ranked.place].id == ranked.id;
   return isThere ? &category->items[ranked.place] : nullptr;

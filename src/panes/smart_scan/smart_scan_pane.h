@@ -7,7 +7,7 @@
 
 #include "panes/smart_scan/clean_footer.h"
 #include "panes/smart_scan/cleaned_banner.h"
-#include "panes/smart_scan/elsewhere_strip.h"
+#include "panes/smart_scan/other_tools_bar.h"
 #include "panes/smart_scan/review_table.h"
 #include "panes/smart_scan/scan_preview.h"
 #include "panes/smart_scan/scanning_table.h"
@@ -39,7 +39,7 @@ class SmartScanPane : public klarvik::ToolPane {
   Q_PROPERTY(klarvik::ReviewTable* reviewTable READ reviewTable CONSTANT)
   Q_PROPERTY(klarvik::CleanFooter* footer READ footer CONSTANT)
   Q_PROPERTY(klarvik::CleanedBanner* banner READ banner CONSTANT)
-  Q_PROPERTY(klarvik::ElsewhereStrip* elsewhere READ elsewhere CONSTANT)
+  Q_PROPERTY(klarvik::OtherToolsBar* elsewhere READ elsewhere CONSTANT)
 
  public:
   enum class Body { Preview, Scanning, Review, NothingFound };
@@ -64,7 +64,7 @@ class SmartScanPane : public klarvik::ToolPane {
   [[nodiscard]] ReviewTable* reviewTable() { return &_reviewTable; }
   [[nodiscard]] CleanFooter* footer() { return &_footer; }
   [[nodiscard]] CleanedBanner* banner() { return &_banner; }
-  [[nodiscard]] ElsewhereStrip* elsewhere() { return &_elsewhere; }
+  [[nodiscard]] OtherToolsBar* elsewhere() { return &_elsewhere; }
 
   /// The header's main button: stops a running scan, else starts one.
   Q_INVOKABLE void performAction();
@@ -94,7 +94,7 @@ class SmartScanPane : public klarvik::ToolPane {
   ReviewTable _reviewTable;
   CleanFooter _footer;
   CleanedBanner _banner;
-  ElsewhereStrip _elsewhere;
+  OtherToolsBar _elsewhere;
 };
 
 }  // namespace klarvik

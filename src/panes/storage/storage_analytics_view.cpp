@@ -7,7 +7,7 @@
 
 #include "panes/kit/row_text.h"
 #include "panes/storage/storage_texts.h"
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 namespace {
@@ -92,13 +92,13 @@ void StorageAnalyticsView::hover(const QString& bucket, bool inside) {
 }
 
 void StorageAnalyticsView::chartsAppeared() {
-  if (changeTo(_animateCharts, true)) emit animateChartsChanged();
+  if (setIfChanged(_animateCharts, true)) emit animateChartsChanged();
 }
 
 void StorageAnalyticsView::startMeasuring() {
   if (isMeasuring()) return;
   _measureLabel.clear();
-  if (changeTo(_measureProgress, 0)) emit measureProgressChanged();
+  if (setIfChanged(_measureProgress, 0)) emit measureProgressChanged();
   _measurement.start<MeasureReport, DiskComposition>(
       {.work =
            [measure = _measure](std::stop_token stop, const auto& post) {
@@ -119,7 +119,7 @@ void StorageAnalyticsView::stopMeasuring() {
 
 void StorageAnalyticsView::apply(const MeasureReport& report) {
   _measureLabel = report.label;
-  if (changeTo(_measureProgress, report.fraction)) emit measureProgressChanged();
+  if (setIfChanged(_measureProgress, report.fraction)) emit measureProgressChanged();
   updateSubtitle();
 }
 
@@ -142,7 +142,7 @@ void StorageAnalyticsView::measuringChanged() {
 }
 
 void StorageAnalyticsView::setHighlighted(const QString& bucket) {
-  if (changeTo(_highlighted, bucket)) emit highlightedChanged();
+  if (setIfChanged(_highlighted, bucket)) emit highlightedChanged();
 }
 
 void StorageAnalyticsView::updateSubtitle() {
@@ -151,7 +151,7 @@ void StorageAnalyticsView::updateSubtitle() {
       isMeasuring() ? storage::measuringSubtitle(_measureLabel)
                     : storage::restingSubtitle(_diskMonitor.stats(), measuredAt,
                                                _desktop.clock.now(), _desktop.formatting);
-  if (changeTo(_subtitle, QString::fromStdString(text))) emit subtitleChanged();
+  if (setIfChanged(_subtitle, QString::fromStdString(text))) emit subtitleChanged();
 }
 
 void StorageAnalyticsView::keepAgeFresh() {

@@ -163,7 +163,7 @@ RowFrame {
         url: root.url
     }
 
-    SafetyWord {
+    SafetyText {
         Layout.preferredWidth: SystemDataMetrics.statusWidth
         safety: root.safety
         text: root.safetyText

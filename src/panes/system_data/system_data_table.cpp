@@ -11,7 +11,7 @@
 #include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
 #include "panes/kit/palette.h"
-#include "panes/kit/row_runs.h"
+#include "panes/kit/row_ranges.h"
 #include "panes/kit/row_text.h"
 #include "panes/system_data/system_data_texts.h"
 
@@ -169,11 +169,11 @@ std::vector<SystemDataTable::Row> SystemDataTable::rowsToShow() const {
 
 void SystemDataTable::removeRowsMissingFrom(const std::vector<Row>& wanted) {
   const std::unordered_set<Row, RowHash, SameRow> kept(wanted.begin(), wanted.end());
-  std::vector<RowRun> runs =
-      runsOf(_rows.size(), [&](std::size_t row) { return !kept.contains(_rows[row]); });
+  std::vector<RowRange> runs =
+      rangesOf(_rows.size(), [&](std::size_t row) { return !kept.contains(_rows[row]); });
   if (runs.size() > mostRuns) {
     const std::size_t first = runs.front().first;
-    runs = {RowRun{first, runs.back().first + runs.back().count - first}};
+    runs = {RowRange{first, runs.back().first + runs.back().count - first}};
   }
   for (const auto& [first, count] : std::views::reverse(runs)) {
     const auto begin = _rows.begin() + static_cast<std::ptrdiff_t>(first);

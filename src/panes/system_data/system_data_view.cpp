@@ -11,8 +11,8 @@
 #include "panes/system_data/system_data_texts.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
-#include "state/change_to.h"
 #include "state/section.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 namespace {
@@ -292,11 +292,11 @@ void SystemDataView::writeTotal() {
 }
 
 void SystemDataView::setHighlighted(const QString& kind) {
-  if (changeTo(_highlighted, kind)) emit highlightedChanged();
+  if (setIfChanged(_highlighted, kind)) emit highlightedChanged();
 }
 
 void SystemDataView::setConfirmDelete(bool confirm) {
-  if (changeTo(_confirmDelete, confirm)) emit confirmDeleteChanged();
+  if (setIfChanged(_confirmDelete, confirm)) emit confirmDeleteChanged();
 }
 
 }  // namespace klarvik

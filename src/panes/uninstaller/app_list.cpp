@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "panes/kit/file_url.h"
-#include "panes/kit/row_runs.h"
+#include "panes/kit/row_ranges.h"
 #include "panes/kit/row_text.h"
 
 namespace klarvik {
@@ -141,8 +141,8 @@ AppList::Places AppList::placesIn(const std::vector<AppInfo>& apps) const {
 }
 
 void AppList::removeRowsExcept(const std::vector<bool>& stays) {
-  std::vector<RowRun> runs = runsOf(stays.size(), [&](std::size_t row) { return !stays[row]; });
-  if (runs.size() > mostRuns) runs = {RowRun{0, stays.size()}};
+  std::vector<RowRange> runs = rangesOf(stays.size(), [&](std::size_t row) { return !stays[row]; });
+  if (runs.size() > mostRuns) runs = {RowRange{0, stays.size()}};
   for (const auto& [first, count] : std::views::reverse(runs)) {
     const auto begin = _shown.begin() + static_cast<std::ptrdiff_t>(first);
     beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count - 1));

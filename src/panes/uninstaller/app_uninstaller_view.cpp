@@ -205,7 +205,7 @@ QCoro::Task<> AppUninstallerView::remove(AppInfo app, std::vector<ResidualFile> 
 
   LeftAlone leftAlone;
   UninstallerEngine engine(_desktop, &leftAlone);
-  co_await onEngineThread(_removals, [&] { return engine.uninstall(app, residuals); });
+  co_await runInBackground(_removals, [&] { return engine.uninstall(app, residuals); });
   _notice.tell(leftAlone);
 
   _appList.remove(app.appURL);

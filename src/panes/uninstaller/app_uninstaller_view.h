@@ -119,7 +119,7 @@ class AppUninstallerView : public klarvik::ToolPane {
   std::set<Path> _removedWhileReading;  ///< which the reading may have seen before
   ScanSession _reading;
   EngineRun _residualSearch;
-  EngineWork _removals;
+  BackgroundTasks _removals;
 };
 
 }  // namespace klarvik

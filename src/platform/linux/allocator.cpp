@@ -4,7 +4,7 @@
 
 namespace klarvik {
 
-void putFreedMemoryTogetherAtOnce() {
+void disableFastBins() {
 #ifdef __GLIBC__
   ::mallopt(M_MXFAST, 0);
 #endif

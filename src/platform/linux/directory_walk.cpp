@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "platform/linux/directory_reader.h"
+#include "platform/linux/directory_stack.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/folder_trail.h"
 #include "platform/linux/name_stack.h"
 #include "platform/packages.h"
 
@@ -15,7 +15,7 @@ namespace {
 /// The one entry object of a walk, set to each entry in turn. Asks the system at most once.
 class VisitedEntry final : public WalkEntry {
  public:
-  VisitedEntry(const FolderTrail& trail, const Path& startPath, Waiting waiting)
+  VisitedEntry(const DirectoryStack& trail, const Path& startPath, Waiting waiting)
       : _trail(trail), _startPath(startPath), _waiting(waiting) {}
 
   void set(const ListedEntry& listed) {
@@ -73,7 +73,7 @@ class VisitedEntry final : public WalkEntry {
     return _status.has_value();
   }
 
-  const FolderTrail& _trail;
+  const DirectoryStack& _trail;
   const Path& _startPath;
   const Waiting _waiting;
   std::string_view _name;
@@ -145,7 +145,7 @@ class Walk {
     return mount && mount->number == _mount->number;
   }
 
-  FolderTrail _trail;
+  DirectoryStack _trail;
   const WalkOptions _options;
   const WalkVisitor& _visit;
   VisitedEntry _entry;

@@ -134,7 +134,7 @@ std::optional<Path> LinuxTrash::moveToTrash(const Path& item, const ItemCheck& m
 }
 
 bool LinuxTrash::putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) {
-  const ThingsInHand::Hold hold(_inHand, trashed.lexically_normal());
+  const PathLocks::Hold hold(_inHand, trashed.lexically_normal());
   if (!hold) return false;
   const auto from = openTrashed(trashed);
   const auto seen = from ? statusOf(from->folder.get(), from->name.c_str()) : std::nullopt;
@@ -153,7 +153,7 @@ bool LinuxTrash::putBack(const Path& trashed, const Path& original, const ItemCh
 }
 
 bool LinuxTrash::remove(const Path& trashed, const ItemCheck& mayRemove) {
-  const ThingsInHand::Hold hold(_inHand, trashed.lexically_normal());
+  const PathLocks::Hold hold(_inHand, trashed.lexically_normal());
   if (!hold) return false;
   const auto parent = openTrashed(trashed);
   const auto seen = parent ? statusOf(parent->folder.get(), parent->name.c_str()) : std::nullopt;
@@ -219,7 +219,7 @@ std::optional<LinuxTrash::Destination> LinuxTrash::destinationOnVolume(const Pat
   const auto own = std::find_if(mounts->begin(), mounts->end(),
                                 [&](const MountPoint& point) { return point.id == mount; });
   if (own == mounts->end()) return std::nullopt;
-  // What lies above the root of the disk is none of our business.
+  // A mount point above the root of this disk has no logical path; the disk's top counts then.
   const Path top = logical(own->place).value_or("/");
   if (!isBelow(item.native(), top.native())) return std::nullopt;
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/linux/parent_handle.h"
-#include "platform/linux/things_in_hand.h"
+#include "platform/linux/path_locks.h"
 #include "platform/linux/trash_folder.h"
 #include "platform/trash.h"
 
@@ -78,8 +78,7 @@ class LinuxTrash : public Trash {
   Path _root;  // every link followed
   Path _home;
   Path _homeTrash;
-  ThingsInHand
-      _inHand;  // what is brought back cannot be removed meanwhile, nor the other way round
+  PathLocks _inHand;  // what is brought back cannot be removed meanwhile, nor the other way round
 };
 
 }  // namespace klarvik

@@ -55,9 +55,9 @@ std::optional<std::string> linkTarget(int folder, const std::string& name) {
 /// Goes down from the root of the machine and keeps account of where it really is. The account is
 /// the chain of folders that were opened, each one beneath the last, so that it never depends on
 /// what a ".." on the disk may have come to mean.
-class Descent {
+class PathResolver {
  public:
-  Descent() : _folder(openFolderHandle(AT_FDCWD, "/")) {}
+  PathResolver() : _folder(openFolderHandle(AT_FDCWD, "/")) {}
 
   /// Goes down along `path`. Where it fails, what has not been entered stays pending.
   bool enter(std::string_view path) {
@@ -174,9 +174,9 @@ std::optional<Path> logicalPlace(const Components& place, const Components& root
 }
 
 std::optional<ParentHandle> openParentOf(const Path& root, const Path& item,
-                                         const PlaceCheck* mayCreate) {
+                                         const RealPathPredicate* mayCreate) {
   if (!namesAnItem(item)) return std::nullopt;
-  Descent descent;
+  PathResolver descent;
   if (!descent.enter(root.native())) return std::nullopt;
   const Components rootPlace = descent.place();
 
@@ -197,7 +197,7 @@ std::optional<ParentHandle> openParent(const Path& root, const Path& item) {
 }
 
 std::optional<ParentHandle> openParentCreating(const Path& root, const Path& item,
-                                               const PlaceCheck& mayCreate) {
+                                               const RealPathPredicate& mayCreate) {
   return openParentOf(root, item, &mayCreate);
 }
 

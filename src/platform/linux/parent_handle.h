@@ -32,12 +32,12 @@ struct ParentHandle {
 
 /// Sees the place that an item will really have, before any folder above it is made. Answering
 /// false leaves everything as it is.
-using PlaceCheck = std::function<bool(const Path& realPath)>;
+using RealPathPredicate = std::function<bool(const Path& realPath)>;
 
 /// The same, but makes the parents that are missing. Before the first is made, `mayCreate` is asked
 /// with the real place of the item; false leaves everything as it is. A link to nothing is not
 /// filled in: it counts as failure.
 [[nodiscard]] std::optional<ParentHandle> openParentCreating(const Path& root, const Path& item,
-                                                             const PlaceCheck& mayCreate);
+                                                             const RealPathPredicate& mayCreate);
 
 }  // namespace klarvik

@@ -4,8 +4,8 @@
 #include <unistd.h>
 
 #include "base/folder_handle.h"
+#include "base/pending_file.h"
 #include "base/posix_io.h"
-#include "base/unpublished_file.h"
 #include "platform/linux/item_move.h"
 #include "platform/linux/trash_name.h"
 
@@ -23,9 +23,9 @@ void removeRecord(int info, const std::string& name) {
   retryOnEintr([&] { return ::unlinkat(info, recordName(name).c_str(), 0); });
 }
 
-UnpublishedFile::Naming makeRecord(int info, const std::string& name, std::string_view text) {
-  auto file = UnpublishedFile::in(openFolderHandle(info, "."));
-  if (!file || !file->append(text) || !file->flush()) return UnpublishedFile::Naming::failed;
+PendingFile::Naming makeRecord(int info, const std::string& name, std::string_view text) {
+  auto file = PendingFile::in(openFolderHandle(info, "."));
+  if (!file || !file->append(text) || !file->flush()) return PendingFile::Naming::failed;
   return file->giveName(recordName(name));
 }
 
@@ -53,7 +53,7 @@ std::optional<TrashFolder> TrashFolder::openAround(const UniqueFd& files) {
 
 std::optional<std::string> TrashFolder::take(const ParentHandle& item, const struct statx& seen,
                                              std::string_view record) const {
-  using Naming = UnpublishedFile::Naming;
+  using Naming = PendingFile::Naming;
   const auto tryAs = [&](const std::string& name) {
     if (holds(files(), name)) return Move::nameTaken;
     const Naming recorded = makeRecord(_info.get(), name, record);

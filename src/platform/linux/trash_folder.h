@@ -15,7 +15,7 @@ namespace klarvik {
 /// its record. Neither may be a link. May be used from several threads at once, and other programs
 /// may use the same Trash meanwhile.
 ///
-/// Whoever holds the record of a name holds that name in `files/`. A record is whole and on the
+/// The record of a name reserves that name in `files/`. A record is whole and on the
 /// disk before it has its name, has its name before its thing comes, and is dropped only after its
 /// thing went. A program that is killed, or a machine that loses power, leaves at worst a whole
 /// record without a thing.

@@ -13,8 +13,8 @@
 
 #include "base/posix_io.h"
 #include "platform/linux/directory_reader.h"
+#include "platform/linux/directory_stack.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/folder_trail.h"
 #include "platform/linux/item_move.h"
 #include "platform/linux/name_stack.h"
 
@@ -121,7 +121,7 @@ class TreeRemoval {
     _firstPending.pop_back();
   }
 
-  FolderTrail _trail;
+  DirectoryStack _trail;
   const Mount _mount;
   DirectoryReader _reader;
   NameStack _pending;                      // folders still to be emptied, of all levels

@@ -240,10 +240,10 @@ void AppcastUpdater::download() {
   _isFollowed = true;
   _phase = Phase::downloading;
   _around.files.createDirectories(_options.downloads);
-  auto file = UnpublishedFile::in(openFolderHandle(
+  auto file = PendingFile::in(openFolderHandle(
       AT_FDCWD, _around.files.diskPath(_options.downloads).c_str(), LinkInPlace::followed));
   if (!file) return fail(notSaved());
-  _archive = std::make_shared<UnpublishedFile>(std::move(*file));
+  _archive = std::make_shared<PendingFile>(std::move(*file));
   FetchLimits limits = _options.archive;
   limits.mostBytes = _offer.length;
   _fetch = std::make_unique<HttpsFetch>(
@@ -267,7 +267,7 @@ void AppcastUpdater::judgeArchive(const std::optional<UpdaterError>& error) {
   if (error) {
     UpdaterError told =
         during("The update could not be downloaded.", updater_code::downloadFailed, *error);
-    // The feed was fine: its archive has led elsewhere.
+    // The feed could be read; it is the download that was redirected to a refused address.
     if (told.code == updater_code::feedNotUsable) told.code = updater_code::downloadFailed;
     return fail(told);
   }
@@ -299,8 +299,7 @@ void AppcastUpdater::verify() {
 
 void AppcastUpdater::deliver(const std::optional<UpdaterError>& objection) {
   if (objection) return fail(*objection);
-  const auto published =
-      _archive->publish("Klarvik-" + _offer.version, extensionOf(_offer.address));
+  const auto published = _archive->commit("Klarvik-" + _offer.version, extensionOf(_offer.address));
   if (!published) return fail(notSaved());
   const std::string version = _offer.version;
   abandon();

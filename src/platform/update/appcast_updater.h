@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-#include "base/unpublished_file.h"
+#include "base/pending_file.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "platform/update/https_fetch.h"
@@ -98,7 +98,7 @@ class AppcastUpdater final : public QObject, public Updater {
   std::unique_ptr<HttpsFetch> _fetch;
   std::string _feed;
   UpdateOffer _offer;
-  std::shared_ptr<UnpublishedFile> _archive;
+  std::shared_ptr<PendingFile> _archive;
   /// Says what there is against the archive.
   using Verification = QFutureWatcher<std::optional<UpdaterError>>;
   /// It may go while it is telling what came out.

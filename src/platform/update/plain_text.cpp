@@ -51,9 +51,9 @@ std::optional<std::string> characterOfNumber(std::string_view digits) {
 /// Reads once from front to end, whatever is nested in what. QTextDocument, which also knows HTML,
 /// takes seconds of the main thread for 64 KB of open elements or of style rules, and asks for the
 /// style sheets and pictures that a text names.
-class NotesOfHtml {
+class HtmlToText {
  public:
-  explicit NotesOfHtml(std::string_view html) : _rest(html) {}
+  explicit HtmlToText(std::string_view html) : _rest(html) {}
 
   std::string read() {
     while (!_rest.empty() && _text.size() < mostBytes + longestCharacter) {
@@ -148,7 +148,7 @@ std::string plainNotes(std::string_view text) {
 }
 
 std::string plainNotesOfHtml(std::string_view html) {
-  return plainNotes(NotesOfHtml(html).read());
+  return plainNotes(HtmlToText(html).read());
 }
 
 }  // namespace klarvik

@@ -4,7 +4,7 @@
 
 #include "platform/user_defaults.h"
 #include "shell/menu_bar/menu_bar_rules.h"
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 namespace {
@@ -53,7 +53,7 @@ bool MenuBarController::storedWish() const {
 /// What is stored as it should be is left alone: a document that somebody edits at this moment, and
 /// that reads as the default for now, is theirs.
 void MenuBarController::setEnabled(bool enabled) {
-  if (!changeTo(_isEnabled, enabled)) return;
+  if (!setIfChanged(_isEnabled, enabled)) return;
   if (storedWish() != enabled) _desktop.defaults.set(showMenuBarKey, enabled);
   apply();
   emit isEnabledChanged();
@@ -98,7 +98,7 @@ StatusItem::Look MenuBarController::look() const {
 
 void MenuBarController::updateReachable() {
   const bool reachable = _statusItem != nullptr && _statusItem->hasTray();
-  if (!changeTo(_isReachable, reachable)) return;
+  if (!setIfChanged(_isReachable, reachable)) return;
   emit isReachableChanged();
   if (!reachable) closePopover();
 }

@@ -7,7 +7,7 @@
 #include "platform/platform.h"
 #include "shell/menu_bar/menu_bar_popover.h"
 #include "shell/menu_bar/menu_bar_view.h"
-#include "shell/menu_bar/window_fronting.h"
+#include "shell/menu_bar/window_activation.h"
 #include "state/app_state.h"
 #include "state/trash_monitor.h"
 

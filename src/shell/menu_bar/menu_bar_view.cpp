@@ -6,8 +6,8 @@
 #include "panes/kit/palette.h"
 #include "places/disk_layout.h"
 #include "shell/menu_bar/menu_bar_rules.h"
-#include "shell/menu_bar/window_fronting.h"
-#include "state/change_to.h"
+#include "shell/menu_bar/window_activation.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 namespace {
@@ -65,7 +65,7 @@ QList<MenuBarAction> MenuBarView::currentActions() const {
 }
 
 void MenuBarView::syncActions() {
-  if (changeTo(_actions, currentActions())) emit actionsChanged();
+  if (setIfChanged(_actions, currentActions())) emit actionsChanged();
 }
 
 void MenuBarView::perform(int action) {
@@ -74,16 +74,16 @@ void MenuBarView::perform(int action) {
   switch (action) {
     case ScanNow:
       _appState.startScan();
-      frontWindow("main");
+      activateWindow("main");
       return;
     case EmptyTrash:
       _trash.emptyTrash();
       return;
     case OpenKlarvik:
-      frontWindow("main");
+      activateWindow("main");
       return;
     case Preferences:
-      frontWindow("settings");
+      activateWindow("settings");
       return;
     case Quit:
       QCoreApplication::quit();

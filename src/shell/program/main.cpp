@@ -7,7 +7,7 @@
 #include "platform/desktop/desktop_platform.h"
 #include "platform/desktop/single_instance.h"
 #include "shell/klarvik_app.h"
-#include "shell/menu_bar/window_fronting.h"
+#include "shell/menu_bar/window_activation.h"
 #include "state/shared_state.h"
 
 namespace {
@@ -36,7 +36,7 @@ int endAfter(klarvik::SingleInstance::Claim claim) {
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  klarvik::putFreedMemoryTogetherAtOnce();
+  klarvik::disableFastBins();
   // The drivers keep what they have compiled; a cache of Qt's beside it would outlive the program.
   QApplication::setAttribute(Qt::AA_DisableShaderDiskCache);
   const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
@@ -56,7 +56,7 @@ int main(int argumentCount, char** arguments) {
       klarvik::SingleInstance::Start::ofThisProcess(*klarvik::UserFolders::ofThisUser()));
   const auto claim = instance.claim();
   if (claim != klarvik::SingleInstance::Claim::granted) return endAfter(claim);
-  instance.whenStartedAgain([] { klarvik::frontWindow("main"); });
+  instance.whenStartedAgain([] { klarvik::activateWindow("main"); });
 
   const klarvik::Desktop desktop = platform->desktop();
   klarvik::SharedState shared(desktop);

@@ -1,6 +1,6 @@
 #include "shell/settings/launch_at_login.h"
 
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 
@@ -12,7 +12,7 @@ void LaunchAtLogin::toggle() {
   const bool isEnabled = _loginItem.status() == LoginItem::Status::enabled;
   if (wanted && !isEnabled) _loginItem.registerProgram();
   if (!wanted && isEnabled) _loginItem.unregisterProgram();
-  if (changeTo(_status, _loginItem.status())) emit changed();
+  if (setIfChanged(_status, _loginItem.status())) emit changed();
 }
 
 }  // namespace klarvik

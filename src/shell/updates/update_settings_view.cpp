@@ -3,7 +3,7 @@
 #include "panes/kit/palette.h"
 #include "platform/application_info.h"
 #include "platform/workspace.h"
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 
@@ -114,7 +114,7 @@ void UpdateSettingsView::checkForUpdates() {
 
 void UpdateSettingsView::toggleAutoCheck() {
   _desktop.updater.setAutomaticallyChecksForUpdates(!_autoCheck);
-  if (changeTo(_autoCheck, _desktop.updater.automaticallyChecksForUpdates())) {
+  if (setIfChanged(_autoCheck, _desktop.updater.automaticallyChecksForUpdates())) {
     emit autoCheckChanged();
   }
 }

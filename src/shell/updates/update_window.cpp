@@ -2,7 +2,7 @@
 
 #include "platform/application_info.h"
 #include "platform/workspace.h"
-#include "state/change_to.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 
@@ -18,11 +18,11 @@ UpdateWindow::~UpdateWindow() {
 /// What is hidden keeps its words until the window is gone.
 void UpdateWindow::show(const UpdateStage& stage) {
   const bool isShown = !std::holds_alternative<update_stage::Hidden>(stage);
-  if (isShown && changeTo(_content, updateWindowContent(stage, appVersion(_desktop.info),
-                                                        _desktop.formatting))) {
+  if (isShown && setIfChanged(_content, updateWindowContent(stage, appVersion(_desktop.info),
+                                                            _desktop.formatting))) {
     emit changed();
   }
-  if (changeTo(_isShown, isShown)) emit isShownChanged();
+  if (setIfChanged(_isShown, isShown)) emit isShownChanged();
   if (std::holds_alternative<update_stage::Checking>(stage)) emit isAskedFor();
 }
 

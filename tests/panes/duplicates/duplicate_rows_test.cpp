@@ -80,13 +80,13 @@ TEST_F(DuplicateRowsTest, AGroupRowAndACopyRowSayWhatTheyAre) {
   EXPECT_EQ(at(0, DuplicateRows::ReclaimableRole), "2 KB");
   EXPECT_EQ(at(0, DuplicateRows::SelectionRole), static_cast<int>(SelectionState::All));
   EXPECT_EQ(at(0, DuplicateRows::DescriptionRole), "0, 3 copies, 2 KB reclaimable");
-  EXPECT_EQ(at(1, DuplicateRows::FateRole), static_cast<int>(Fate::Keep));
+  EXPECT_EQ(at(1, DuplicateRows::FateRole), static_cast<int>(KeepOrDelete::Keep));
   EXPECT_EQ(at(1, DuplicateRows::CanToggleRole), false);
   EXPECT_EQ(at(1, DuplicateRows::MenuEntryRole), "This copy stays");
   EXPECT_EQ(at(2, DuplicateRows::NameRole), "1");
   EXPECT_EQ(at(2, DuplicateRows::FolderRole), "/0/");
   EXPECT_EQ(at(2, DuplicateRows::PathRole), "/0/1");
-  EXPECT_EQ(at(2, DuplicateRows::FateRole), static_cast<int>(Fate::Delete));
+  EXPECT_EQ(at(2, DuplicateRows::FateRole), static_cast<int>(KeepOrDelete::Delete));
   EXPECT_EQ(at(2, DuplicateRows::CanToggleRole), true);
   EXPECT_EQ(at(2, DuplicateRows::SelectionRole), static_cast<int>(SelectionState::All));
   EXPECT_EQ(at(2, DuplicateRows::MenuEntryRole), "Keep this copy instead");

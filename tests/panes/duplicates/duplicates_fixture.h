@@ -69,8 +69,9 @@ class DuplicatesFixture : public PaneFixture {
     return -1;
   }
   [[nodiscard]] QString fateOf(const Path& copy) {
-    return at(rowOf(copy), DuplicateRows::FateRole) == static_cast<int>(Fate::Keep) ? "keep"
-                                                                                    : "delete";
+    return at(rowOf(copy), DuplicateRows::FateRole) == static_cast<int>(KeepOrDelete::Keep)
+               ? "keep"
+               : "delete";
   }
   [[nodiscard]] std::set<Path> listed() const {
     std::set<Path> places;

@@ -74,7 +74,7 @@ Rectangle {
                             color: Theme.systemColor(entry.modelData.color)
                         }
 
-                        SafetyTag { level: entry.modelData.level; Layout.preferredWidth: 70 }
+                        SafetyBadge { level: entry.modelData.level; Layout.preferredWidth: 70 }
                         MonospacedDigits { text: entry.modelData.items; Layout.preferredWidth: 60; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
                         ByteText { bytes: entry.modelData.bytes; Layout.preferredWidth: 90; alignment: Qt.AlignRight }
                     }
@@ -90,7 +90,7 @@ Rectangle {
                             dimmed: index === 1
                             leading: SelectionBox { selection: SelectionState.All; size: 14; label: "item" }
 
-                            FateTag { Layout.preferredWidth: width; fate: parent && index === 0 ? Fate.Keep : Fate.Delete }
+                            KeepDeleteBadge { Layout.preferredWidth: width; fate: parent && index === 0 ? KeepOrDelete.Keep : KeepOrDelete.Delete }
                             ByteText { bytes: 411111111; Layout.preferredWidth: 90; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
                         }
                     }

@@ -88,7 +88,7 @@ TEST_F(TrailListRows, SayWhatTheTrailIsAndWhatClearingItCosts) {
 TEST_F(TrailListRows, AreSelectedUnlessClearingThemHurts) {
   list.show({trail(browserHistory), trail(browserCookies), trail(clipboard), trail(quarantine)});
   EXPECT_EQ(list.selected().size(), 2U);
-  for (const PrivacyItem& item : list.selectedItems()) EXPECT_FALSE(hurts(item.category));
+  for (const PrivacyItem& item : list.selectedItems()) EXPECT_FALSE(needsReview(item.category));
 }
 
 TEST_F(TrailListRows, AreToggledOneByOneAndHeadingsNever) {

@@ -306,17 +306,17 @@ TEST_F(SmartScanPaneModel, SaysHowLongTheLastCleanIsAgoAndKeepsThatFresh) {
   gate.open();
 }
 
-class ElsewhereStripEntries : public SmartScanFixture {
+class OtherToolsBarEntries : public SmartScanFixture {
  protected:
   void setTotal(const std::string& key, std::int64_t bytes) {
     shared.scanCoordinator().setTotal(key, {bytes, 1, Date{}});
   }
-  QString entry(int row, ElsewhereStrip::Role role) {
+  QString entry(int row, OtherToolsBar::Role role) {
     return pane.elsewhere()->index(row).data(role).toString();
   }
 };
 
-TEST_F(ElsewhereStripEntries, AreNoneUntilAnotherToolHasATotal) {
+TEST_F(OtherToolsBarEntries, AreNoneUntilAnotherToolHasATotal) {
   EXPECT_FALSE(pane.elsewhere()->isShown());
   setTotal("smartScan", 5'000);
   setTotal("storage", 5'000);
@@ -326,29 +326,29 @@ TEST_F(ElsewhereStripEntries, AreNoneUntilAnotherToolHasATotal) {
   EXPECT_EQ(pane.elsewhere()->rowCount(), 0);
 }
 
-TEST_F(ElsewhereStripEntries, StandInTheirOrderWhateverTheOrderTheyCameIn) {
+TEST_F(OtherToolsBarEntries, StandInTheirOrderWhateverTheOrderTheyCameIn) {
   for (const char* key : {"privacy", "largeFiles", "systemData", "duplicates"}) {
     setTotal(key, 12'000);
   }
   ASSERT_EQ(pane.elsewhere()->rowCount(), 4);
-  EXPECT_EQ(entry(0, ElsewhereStrip::NoteRole), "removable");
-  EXPECT_EQ(entry(1, ElsewhereStrip::NoteRole), "in extra copies");
-  EXPECT_EQ(entry(2, ElsewhereStrip::NoteRole), "in big files");
-  EXPECT_EQ(entry(3, ElsewhereStrip::NoteRole), "of browsing trails");
-  EXPECT_EQ(entry(0, ElsewhereStrip::SizeRole), "12 KB");
-  EXPECT_EQ(entry(0, ElsewhereStrip::HelpRole), "Open System Data");
+  EXPECT_EQ(entry(0, OtherToolsBar::NoteRole), "removable");
+  EXPECT_EQ(entry(1, OtherToolsBar::NoteRole), "in extra copies");
+  EXPECT_EQ(entry(2, OtherToolsBar::NoteRole), "in big files");
+  EXPECT_EQ(entry(3, OtherToolsBar::NoteRole), "of browsing trails");
+  EXPECT_EQ(entry(0, OtherToolsBar::SizeRole), "12 KB");
+  EXPECT_EQ(entry(0, OtherToolsBar::HelpRole), "Open System Data");
   setTotal("largeFiles", 0);
   EXPECT_EQ(pane.elsewhere()->rowCount(), 3);
-  EXPECT_EQ(entry(2, ElsewhereStrip::HelpRole), "Open Privacy");
+  EXPECT_EQ(entry(2, OtherToolsBar::HelpRole), "Open Privacy");
 }
 
-TEST_F(ElsewhereStripEntries, LeadToTheirSection) {
+TEST_F(OtherToolsBarEntries, LeadToTheirSection) {
   setTotal("duplicates", 12'000);
   pane.elsewhere()->open(0);
   EXPECT_EQ(shared.navigator().section(), Section::duplicates);
 }
 
-TEST_F(ElsewhereStripEntries, CountTheToolsThatAreStillMeasuring) {
+TEST_F(OtherToolsBarEntries, CountTheToolsThatAreStillMeasuring) {
   shared.toolActivity().start("privacy");
   shared.toolActivity().start("uninstaller");
   EXPECT_EQ(pane.elsewhere()->pendingText(), "1 still measuring");

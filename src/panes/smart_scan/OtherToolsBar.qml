@@ -1,0 +1,64 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Klarvik.Kit
+import Klarvik.Panes
+
+/// What the other tools have found, each a way to its section.
+Item {
+    id: root
+
+    required property OtherToolsBarModel model
+
+    implicitHeight: content.implicitHeight + 28
+
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        height: 1
+        color: Theme.hairline
+    }
+
+    ColumnLayout {
+        id: content
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.leftMargin: Theme.sidePadding
+        anchors.rightMargin: Theme.sidePadding
+        spacing: 8
+
+        RowLayout {
+            spacing: 8
+
+            SectionHeading {
+                text: qsTr("FOUND BY THE OTHER TOOLS")
+            }
+
+            KitText {
+                visible: text !== ""
+                text: root.model.pendingText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+                color: Theme.textTertiary
+                size: 11
+            }
+        }
+
+        Flow {
+            Layout.fillWidth: true
+            spacing: 8
+
+            Repeater {
+                model: root.model
+
+                OtherToolsEntry {
+                    onAction: root.model.open(index)
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,101 @@
+#include "platform/linux/directory_stack.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "base/posix_io.h"
+
+namespace klarvik {
+namespace {
+
+constexpr std::size_t kMostHandles = 32;
+
+UniqueFd openFolder(int folder, const char* name) {
+  constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+  return UniqueFd(retryOnEintr([&] { return ::openat(folder, name, flags); }));
+}
+
+}  // namespace
+
+void DirectoryStack::Level::closeHandle() {
+  struct stat status {};
+  if (::fstat(handle.get(), &status) == 0) {
+    device = status.st_dev;
+    inode = status.st_ino;
+  }
+  handle.reset();
+}
+
+bool DirectoryStack::Level::isThe(const UniqueFd& folder) const {
+  struct stat status {};
+  return folder && ::fstat(folder.get(), &status) == 0 && status.st_dev == device &&
+         status.st_ino == inode;
+}
+
+DirectoryStack::DirectoryStack(UniqueFd start) {
+  _levels.push_back({.handle = std::move(start)});
+}
+
+UniqueFd DirectoryStack::open(const char* name) {
+  for (;;) {
+    UniqueFd folder = openFolder(current(), name);
+    const bool outOfHandles = !folder && (errno == EMFILE || errno == ENFILE);
+    if (!outOfHandles || !closeHighest()) return folder;
+  }
+}
+
+void DirectoryStack::enter(UniqueFd folder, std::string_view name) {
+  if (!_path.empty()) _path.push_back('/');
+  _path.append(name);
+  _levels.push_back({.handle = std::move(folder), .pathLength = _path.size()});
+  if (_levels.size() - _firstOpen > kMostHandles) closeHighest();
+}
+
+void DirectoryStack::leave() {
+  const UniqueFd left = std::move(_levels.back().handle);
+  truncate(depth() - 1);
+  if (_levels.back().handle) return;
+  UniqueFd above = openFolder(left.get(), "..");
+  if (!_levels.back().isThe(above)) return reopenFromRoot();
+  _levels.back().handle = std::move(above);
+  _firstOpen = depth();
+}
+
+std::string_view DirectoryStack::nameAt(std::size_t level) const {
+  if (level == 0) return {};
+  const std::size_t above = _levels[level - 1].pathLength;
+  const std::size_t start = above == 0 ? 0 : above + 1;
+  return std::string_view(_path).substr(start, _levels[level].pathLength - start);
+}
+
+/// Closes the handle that will be missed last. False when only those are left that must stay.
+bool DirectoryStack::closeHighest() {
+  if (_firstOpen >= depth()) return false;
+  _levels[_firstOpen++].closeHandle();
+  return true;
+}
+
+void DirectoryStack::reopenFromRoot() {
+  UniqueFd reached;
+  std::size_t level = 0;
+  while (level < depth()) {
+    const int from = level == 0 ? _levels.front().handle.get() : reached.get();
+    UniqueFd next = openFolder(from, std::string(nameAt(level + 1)).c_str());
+    if (!_levels[level + 1].isThe(next)) break;
+    reached = std::move(next);
+    ++level;
+  }
+  truncate(level);
+  if (level > 0) _levels.back().handle = std::move(reached);
+  _firstOpen = std::max(level, std::size_t{1});
+}
+
+void DirectoryStack::truncate(std::size_t depth) {
+  _levels.resize(depth + 1);
+  _path.resize(_levels.back().pathLength);
+}
+
+}  // namespace klarvik
