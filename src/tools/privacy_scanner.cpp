@@ -215,8 +215,10 @@ PrivacyClearance PrivacyScanner::clearParts(const PrivacyItem& item) {
 bool PrivacyScanner::clearPart(const TrailPart& part) {
   const auto scope = DeletionScope::trail();
   switch (part.clearing) {
-    case TrailClearing::removed:
     case TrailClearing::orphansRemoved:
+      if (!isOrphanedRecord(_files, part.path)) return false;
+      [[fallthrough]];
+    case TrailClearing::removed:
       return removeIfAllowed(_files, part.path, scope, part.identity, _leftAlone);
     case TrailClearing::emptied:
       return mayRemove(_files, part.path, scope) &&

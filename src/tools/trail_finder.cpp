@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <string>
 
 #include "base/bytes.h"
@@ -54,11 +55,6 @@ std::int64_t countOf(const FileSystem& files, const Path& path, TrailCount count
       return occurrences(files, path, "<bookmark ");
   }
   return 0;
-}
-
-bool isOrphan(const FileSystem& files, const Path& record) {
-  const Path trashed = record.parent_path().parent_path() / "files" / record.stem();
-  return !files.attributes(trashed);
 }
 
 PrivacyItem& itemOf(std::vector<PrivacyItem>& items, const Trail& trail) {
@@ -119,7 +115,7 @@ class Search {
     if (!attributes) return;
     const bool isFile = attributes->kind == FileKind::regular;
     if (!isFile && attributes->kind != FileKind::directory) return;
-    if (trail.clearing == TrailClearing::orphansRemoved && !isOrphan(_files, path)) return;
+    if (trail.clearing == TrailClearing::orphansRemoved && !isOrphanedRecord(_files, path)) return;
     const bool staysAsFile =
         trail.clearing == TrailClearing::emptied || trail.clearing == TrailClearing::asList;
     const bool isEmpty = isFile && attributes->logicalBytes == 0;
@@ -174,6 +170,16 @@ class Search {
 };
 
 }  // namespace
+
+bool isOrphanedRecord(const FileSystem& files, const Path& record) {
+  // A program that moves a thing to the Trash writes its record first.
+  constexpr std::chrono::hours longerThanAnyMove{24};
+  const auto attributes = files.attributes(record);
+  const bool isOld = attributes && attributes->modified &&
+                     *attributes->modified < std::chrono::system_clock::now() - longerThanAnyMove;
+  const Path trashed = record.parent_path().parent_path() / "files" / record.stem();
+  return isOld && !files.attributes(trashed);
+}
 
 std::vector<PrivacyItem> TrailFinder::find(
     const std::function<void(PrivacyCategory)>& before) const {

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/path.h"
 #include "platform/platform.h"
 #include "tools/privacy_item.h"
 
@@ -23,5 +24,8 @@ class TrailFinder {
  private:
   const Platform& _platform;
 };
+
+/// Whether a record in a Trash is of a thing that is not there, and not just on its way.
+[[nodiscard]] bool isOrphanedRecord(const FileSystem& files, const Path& record);
 
 }  // namespace klarvik

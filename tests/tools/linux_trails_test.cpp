@@ -183,14 +183,23 @@ TEST_F(LinuxTrails, ThatWereReplacedSinceTheScanStay) {
 
 TEST_F(LinuxTrails, OfTheTrashAreRecordsWithoutAThing) {
   disk.makeFile("/home/ann/.local/share/Trash/files/there", 10);
-  disk.makeFile("/home/ann/.local/share/Trash/info/there.trashinfo", 10);
-  disk.makeFile("/home/ann/.local/share/Trash/info/gone.trashinfo", 10);
+  disk.makeFile("/home/ann/.local/share/Trash/info/on its way.trashinfo", 10);
+  for (const char* old : {"there", "gone", "back"}) {
+    const Path record = "/home/ann/.local/share/Trash/info/" + std::string(old) + ".trashinfo";
+    std::filesystem::last_write_time(
+        disk.makeFile(record, 10),
+        std::filesystem::file_time_type::clock::now() - std::chrono::hours(25));
+  }
   const auto found = scan();
   ASSERT_EQ(found.size(), 1U);
   EXPECT_EQ(found.front().category, trashHistory);
-  EXPECT_EQ(found.front().count, 1);
-  EXPECT_EQ(scanner.clear(found).cleaned, 1);
-  EXPECT_TRUE(isThere("/home/ann/.local/share/Trash/info/there.trashinfo"));
+  EXPECT_EQ(found.front().count, 2);
+  disk.makeFile("/home/ann/.local/share/Trash/files/back", 10);
+  EXPECT_EQ(scanner.clear(found).stayed.size(), 1U);
+  for (const char* stays : {"there", "on its way", "back"}) {
+    const Path record = "/home/ann/.local/share/Trash/info/" + std::string(stays) + ".trashinfo";
+    EXPECT_TRUE(isThere(record)) << record;
+  }
   EXPECT_FALSE(isThere("/home/ann/.local/share/Trash/info/gone.trashinfo"));
 }
 

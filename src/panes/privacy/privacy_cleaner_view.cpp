@@ -66,7 +66,14 @@ QString PrivacyCleanerView::selectionSummary() const {
 
 QString PrivacyCleanerView::selectionHint() const {
   const std::vector<PrivacyItem> chosen = _trailList.selectedItems();
-  return privacy::selectionHint(std::ranges::any_of(chosen, needsReview, &PrivacyItem::category));
+  const auto isCommands = [](const PrivacyItem& item) {
+    return item.category == PrivacyCategory::shellHistory;
+  };
+  const auto signsOut = [&](const PrivacyItem& item) {
+    return needsReview(item.category) && !isCommands(item);
+  };
+  return privacy::selectionHint(std::ranges::any_of(chosen, signsOut),
+                                std::ranges::any_of(chosen, isCommands));
 }
 
 QString PrivacyCleanerView::clearTitle() const {

@@ -72,13 +72,14 @@ QString selectionSummary(std::size_t selectedCount, std::int64_t selectedBytes,
          byteText(selectedBytes, formatting);
 }
 
-QString selectionHint(bool holdsWhatHurts) {
-  return holdsWhatHurts ? QStringLiteral(
-                              "Your selection signs you out of "
-                              "sites. This cannot be undone.")
-                        : QStringLiteral(
-                              "Clearing a trail is permanent, but "
-                              "nothing you rely on is removed.");
+QString selectionHint(bool signsOut, bool forgetsCommands) {
+  if (signsOut) {
+    return QStringLiteral("Your selection signs you out of sites. This cannot be undone.");
+  }
+  if (forgetsCommands) {
+    return QStringLiteral("Your selection forgets the commands you typed. This cannot be undone.");
+  }
+  return QStringLiteral("Clearing a trail is permanent, but nothing you rely on is removed.");
 }
 
 QString clearTitle(std::size_t selectedCount) {

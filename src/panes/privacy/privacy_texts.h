@@ -24,7 +24,7 @@ namespace klarvik::privacy {
 [[nodiscard]] QString clearedSubtitle(const PrivacyClearance& result, const Formatting& formatting);
 [[nodiscard]] QString selectionSummary(std::size_t selectedCount, std::int64_t selectedBytes,
                                        const Formatting& formatting);
-[[nodiscard]] QString selectionHint(bool holdsWhatHurts);
+[[nodiscard]] QString selectionHint(bool signsOut, bool forgetsCommands);
 [[nodiscard]] QString clearTitle(std::size_t selectedCount);
 
 }  // namespace klarvik::privacy

@@ -24,7 +24,7 @@ class TrailList : public klarvik::SectionedList {
   [[nodiscard]] const std::vector<PrivacyItem>& items() const { return _items; }
   [[nodiscard]] std::vector<PrivacyItem> selectedItems() const { return selectedOf(_items); }
 
-  /// Selects all but those whose clearing needsReview.
+  /// Selects all but those that need a review, and those that cannot be cleared.
   void show(std::vector<PrivacyItem> items);
   void clear();
   /// Rows of other trails stay where they are.

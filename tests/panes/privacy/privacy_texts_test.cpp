@@ -45,8 +45,11 @@ TEST(PrivacyTexts, InflectTheTrailsInTheFooter) {
 }
 
 TEST(PrivacyTexts, WarnOfASelectionThatHurts) {
-  EXPECT_EQ(selectionHint(true), "Your selection signs you out of sites. This cannot be undone.");
-  EXPECT_EQ(selectionHint(false),
+  EXPECT_EQ(selectionHint(true, true),
+            "Your selection signs you out of sites. This cannot be undone.");
+  EXPECT_EQ(selectionHint(false, true),
+            "Your selection forgets the commands you typed. This cannot be undone.");
+  EXPECT_EQ(selectionHint(false, false),
             "Clearing a trail is permanent, but nothing you rely on is removed.");
 }
 

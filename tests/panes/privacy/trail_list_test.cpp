@@ -55,6 +55,23 @@ TEST_F(TrailListRows, AreCalledAsOnALinuxDiskThere) {
                                 "SYSTEM TRAILS", "Origin of downloads"}));
 }
 
+TEST_F(TrailListRows, OfWhatCannotBeClearedNowSayWhyAndCannotBeSelected) {
+  PrivacyItem inUse = trail(browserHistory, 5);
+  inUse.program = inUse.closeFirst = "Firefox";
+  PrivacyItem told = trail(browserHistory, 4);
+  told.told = "In the browser: Ctrl+Shift+Del";
+  list.show({inUse, told});
+  EXPECT_TRUE(list.selected().empty());
+  EXPECT_EQ(list.index(1).data(TrailList::NameRole), "Browser History — Firefox");
+  EXPECT_EQ(list.index(1).data(TrailList::NoteRole), "Close Firefox first.");
+  EXPECT_EQ(list.index(2).data(TrailList::NoteRole), "In the browser: Ctrl+Shift+Del");
+  for (const int row : {1, 2}) {
+    EXPECT_FALSE(list.index(row).data(TrailList::CanSelectRole).toBool());
+    list.toggle(row);
+  }
+  EXPECT_TRUE(list.selected().empty());
+}
+
 TEST_F(TrailListRows, StandBySizeInTheirSection) {
   list.show({trail(browserHistory, 5), trail(browserCache, 50), trail(browserCookies, 20)});
   EXPECT_EQ(names(), (QStringList{"SAFARI, CHROME, FIREFOX", "Browser Cache", "Browser Cookies",
