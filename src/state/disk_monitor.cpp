@@ -7,16 +7,11 @@
 #include "platform/notification_center.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
-#include "state/shared_state.h"
 #include "state/sleep_for.h"
 
 namespace klarvik {
 
 using namespace std::chrono_literals;
-
-DiskMonitor& DiskMonitor::shared() {
-  return SharedState::instance().diskMonitor();
-}
 
 DiskMonitor::DiskMonitor(const Desktop& desktop, QObject* parent)
     : QObject(parent),

@@ -18,8 +18,6 @@ namespace klarvik {
 class DiskMonitor : public QObject {
   Q_OBJECT
  public:
-  [[nodiscard]] static DiskMonitor& shared();
-
   explicit DiskMonitor(const Desktop& desktop, QObject* parent = nullptr);
   ~DiskMonitor() override;
 

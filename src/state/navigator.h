@@ -10,8 +10,6 @@ namespace klarvik {
 class Navigator : public QObject {
   Q_OBJECT
  public:
-  [[nodiscard]] static Navigator& shared();
-
   using QObject::QObject;
   [[nodiscard]] Section section() const { return _section; }
   void setSection(Section section);

@@ -10,7 +10,6 @@
 #include "platform/path.h"
 #include "platform/workspace.h"
 #include "state/set_if_changed.h"
-#include "state/shared_state.h"
 #include "state/sleep_for.h"
 
 namespace klarvik {
@@ -31,10 +30,6 @@ std::vector<Path> protectedFiles(const Path& home) {
 }
 
 }  // namespace
-
-PermissionsManager& PermissionsManager::shared() {
-  return SharedState::instance().permissionsManager();
-}
 
 PermissionsManager::PermissionsManager(const Desktop& desktop, QObject* parent)
     : QObject(parent),

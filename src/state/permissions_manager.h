@@ -17,8 +17,6 @@ namespace klarvik {
 class PermissionsManager : public QObject {
   Q_OBJECT
  public:
-  [[nodiscard]] static PermissionsManager& shared();
-
   explicit PermissionsManager(const Desktop& desktop, QObject* parent = nullptr);
   ~PermissionsManager() override;
 

@@ -7,7 +7,6 @@
 
 #include "platform/user_defaults.h"
 #include "state/section.h"
-#include "state/shared_state.h"
 #include "state/sleep_for.h"
 
 namespace klarvik {
@@ -35,10 +34,6 @@ struct ScanCoordinator::Turn {
   }
   void await_resume() const noexcept {}
 };
-
-ScanCoordinator& ScanCoordinator::shared() {
-  return SharedState::instance().scanCoordinator();
-}
 
 ScanCoordinator::ScanCoordinator(const UserDefaults& defaults, QObject* parent)
     : QObject(parent), _defaults(defaults) {}

@@ -31,8 +31,6 @@ class ScanCoordinator : public QObject {
     bool operator==(const Total&) const = default;
   };
 
-  [[nodiscard]] static ScanCoordinator& shared();
-
   explicit ScanCoordinator(const UserDefaults& defaults, QObject* parent = nullptr);
   /// Ends the wait of whoever is still in the queue: `beginAutoScan` answers false.
   ~ScanCoordinator() override;

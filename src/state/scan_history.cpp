@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "base/bytes.h"
+#include "platform/clock.h"
 #include "platform/user_defaults.h"
 #include "state/scan_history_json.h"
-#include "state/shared_state.h"
 
 namespace klarvik {
 
@@ -24,10 +24,6 @@ void putInFront(std::vector<ScanHistoryEntry>& entries, ScanHistoryEntry entry) 
 }
 
 }  // namespace
-
-ScanHistory& ScanHistory::shared() {
-  return SharedState::instance().scanHistory();
-}
 
 ScanHistory::ScanHistory(UserDefaults& defaults, const Clock& clock, QObject* parent)
     : QObject(parent),

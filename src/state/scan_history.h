@@ -22,8 +22,6 @@ class ScanHistory : public QObject {
   static constexpr const char* cleansKey = "clean_history";
   static constexpr std::size_t limit = 30;
 
-  [[nodiscard]] static ScanHistory& shared();
-
   ScanHistory(UserDefaults& defaults, const Clock& clock, QObject* parent = nullptr);
 
   [[nodiscard]] const std::vector<ScanHistoryEntry>& scans() const { return _scans; }

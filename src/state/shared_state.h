@@ -15,20 +15,16 @@
 
 namespace klarvik {
 
-/// The objects of which the process has one each, behind every `X::shared()`.
+/// The objects of which the process has one each.
 ///
 /// Made once in `main`, on the main thread, after the `Desktop` and before the `AppState` and every
 /// window; it must outlive those, and the `Desktop` must outlive it. Destroying it waits for the
-/// Trash entry that is being measured or removed. Asking for a shared object while there is no
-/// `SharedState`, or making a second one, ends the program with a message that says so.
+/// Trash entry that is being measured or removed.
 class SharedState {
  public:
   explicit SharedState(const Desktop& desktop);
-  ~SharedState();
   SharedState(const SharedState&) = delete;
   SharedState& operator=(const SharedState&) = delete;
-
-  [[nodiscard]] static SharedState& instance();
 
   [[nodiscard]] Navigator& navigator() { return _navigator; }
   [[nodiscard]] ToolActivity& toolActivity() { return _toolActivity; }

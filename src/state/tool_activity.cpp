@@ -4,8 +4,6 @@
 #include <chrono>
 #include <cmath>
 
-#include "state/shared_state.h"
-
 namespace klarvik {
 
 namespace {
@@ -13,10 +11,6 @@ namespace {
 constexpr std::chrono::seconds summaryStands{6};
 
 }  // namespace
-
-ToolActivity& ToolActivity::shared() {
-  return SharedState::instance().toolActivity();
-}
 
 ToolActivity::ToolActivity(Clock& clock, QObject* parent) : QObject(parent), _clock(clock) {}
 

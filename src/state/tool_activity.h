@@ -29,8 +29,6 @@ class ToolActivity : public QObject {
   };
   using State = std::variant<Idle, Running, Progress, Finished>;
 
-  [[nodiscard]] static ToolActivity& shared();
-
   explicit ToolActivity(Clock& clock, QObject* parent = nullptr);
 
   /// An absent key counts as idle.

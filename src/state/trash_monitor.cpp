@@ -10,7 +10,6 @@
 #include "state/coalescing_queue.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
-#include "state/shared_state.h"
 
 namespace klarvik {
 
@@ -29,10 +28,6 @@ std::int64_t sizeOf(const FileSystem& files, const std::vector<Path>& entries,
 }
 
 }  // namespace
-
-TrashMonitor& TrashMonitor::shared() {
-  return SharedState::instance().trashMonitor();
-}
 
 TrashMonitor::TrashMonitor(const Desktop& desktop, RemovalNotice& notice, QObject* parent)
     : QObject(parent),

@@ -30,8 +30,6 @@ class TrashMonitor : public QObject {
     bool isMeasuring = false;
   };
 
-  [[nodiscard]] static TrashMonitor& shared();
-
   TrashMonitor(const Desktop& desktop, RemovalNotice& notice, QObject* parent = nullptr);
   /// Waits for the entry that is being measured, and for those that are being removed.
   ~TrashMonitor() override;

@@ -3,17 +3,13 @@
 #include <utility>
 
 #include "platform/application_info.h"
+#include "platform/clock.h"
 #include "platform/formatting.h"
 #include "platform/notification_center.h"
 #include "state/set_if_changed.h"
-#include "state/shared_state.h"
 #include "state/update_error_text.h"
 
 namespace klarvik {
-
-UpdateManager& UpdateManager::shared() {
-  return SharedState::instance().updateManager();
-}
 
 UpdateManager::UpdateManager(const Desktop& desktop, QObject* parent)
     : QObject(parent),

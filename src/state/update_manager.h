@@ -36,8 +36,6 @@ class UpdateManager : public QObject, private UpdaterDelegate {
   };
   using Status = std::variant<UpdateAvailable, Failed, Unknown, Checking, UpToDate>;
 
-  [[nodiscard]] static UpdateManager& shared();
-
   explicit UpdateManager(const Desktop& desktop, QObject* parent = nullptr);
   ~UpdateManager() override;
 

@@ -36,7 +36,7 @@ class Started {
   std::set<std::size_t> _numbers;
 };
 
-TEST(SlidingGroup, OfNothingEndsAtOnce) {
+TEST(ParallelFor, OfNothingEndsAtOnce) {
   Started started;
   parallelFor(
       0, width, {}, [&](std::size_t number) { started.add(number); },
@@ -44,7 +44,7 @@ TEST(SlidingGroup, OfNothingEndsAtOnce) {
   EXPECT_THAT(started.numbers(), IsEmpty());
 }
 
-TEST(SlidingGroup, PerformsEachOnceAndTellsEachOnTheCallingThread) {
+TEST(ParallelFor, PerformsEachOnceAndTellsEachOnTheCallingThread) {
   std::vector<std::atomic<int>> performed(1'000);
   std::set<std::size_t> told;
   const auto caller = std::this_thread::get_id();
@@ -58,7 +58,7 @@ TEST(SlidingGroup, PerformsEachOnceAndTellsEachOnTheCallingThread) {
   for (const auto& times : performed) EXPECT_EQ(times, 1);
 }
 
-TEST(SlidingGroup, HasAsManyUnderWayAsItIsWideAndNoMore) {
+TEST(ParallelFor, HasAsManyUnderWayAsItIsWideAndNoMore) {
   std::atomic<std::size_t> underWay = 0;
   std::atomic<std::size_t> most = 0;
   // Only if six are under way at the same time does anyone get past it.
@@ -76,7 +76,7 @@ TEST(SlidingGroup, HasAsManyUnderWayAsItIsWideAndNoMore) {
   EXPECT_EQ(most, width);
 }
 
-TEST(SlidingGroup, StartsInOrderOnlyAsOthersAreTold) {
+TEST(ParallelFor, StartsInOrderOnlyAsOthersAreTold) {
   Started started;
   std::vector<std::size_t> told;
   parallelFor(
@@ -90,7 +90,7 @@ TEST(SlidingGroup, StartsInOrderOnlyAsOthersAreTold) {
   EXPECT_THAT(told, ElementsAre(0, 1, 2, 3));
 }
 
-TEST(SlidingGroup, AStopAfterTheFirstOfSevenNeverStartsTheSeventh) {
+TEST(ParallelFor, AStopAfterTheFirstOfSevenNeverStartsTheSeventh) {
   std::stop_source source;
   Started started;
   std::latch othersMayFinish(1);
@@ -113,7 +113,7 @@ TEST(SlidingGroup, AStopAfterTheFirstOfSevenNeverStartsTheSeventh) {
   EXPECT_EQ(told, started.numbers());
 }
 
-TEST(SlidingGroup, AStopBeforehandStartsNothing) {
+TEST(ParallelFor, AStopBeforehandStartsNothing) {
   std::stop_source source;
   source.request_stop();
   Started started;

