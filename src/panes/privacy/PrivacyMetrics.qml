@@ -4,7 +4,7 @@ import QtQuick
 
 /// Measures that the headings and the rows of the pane share, in points.
 QtObject {
-    readonly property int costWidth: 200
+    readonly property int costWidth: 228
     readonly property int itemsWidth: 64
     readonly property int sizeWidth: 96
     readonly property int rowHeight: 46
