@@ -42,6 +42,16 @@ void takePrivateMounts() {
   if (::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) giveUp("hide the mounts");
 }
 
+bool mountDead(const Path& folder) {
+  // Left open: the end of the process lets go of whoever waits.
+  const int server = ::open("/dev/fuse", O_RDWR | O_CLOEXEC);
+  if (server < 0) return false;
+  const std::string options =
+      "fd=" + std::to_string(server) + ",rootmode=40000,user_id=0,group_id=0";
+  return ::mount("klarvik-test", folder.c_str(), "fuse", MS_NOSUID | MS_NODEV, options.c_str()) ==
+         0;
+}
+
 }  // namespace
 
 bool passesWithPrivateMounts(const std::function<void()>& body) {
@@ -60,18 +70,24 @@ bool passesWithPrivateMounts(const std::function<void()>& body) {
   return status == 0;
 }
 
-void mountTmpfs(const Path& folder, const char* options) {
-  if (::mount("klarvik-test", folder.c_str(), "tmpfs", 0, options) != 0) giveUp("mount a tmpfs");
+bool canMountDeadServers() {
+  return passesWithPrivateMounts([] {
+    if (!mountDead("/tmp")) std::_Exit(1);
+  });
 }
 
-bool mountDead(const Path& folder) {
-  // Left open: the end of the process lets go of whoever waits.
-  const int server = ::open("/dev/fuse", O_RDWR | O_CLOEXEC);
-  if (server < 0) return false;
-  const std::string options =
-      "fd=" + std::to_string(server) + ",rootmode=40000,user_id=0,group_id=0";
-  return ::mount("klarvik-test", folder.c_str(), "fuse", MS_NOSUID | MS_NODEV, options.c_str()) ==
-         0;
+bool passesWithDeadServers(const std::vector<Path>& folders, const std::function<void()>& body) {
+  return passesWithPrivateMounts([&] {
+    for (const Path& folder : folders) {
+      if (!mountDead(folder)) giveUp("mount a file system without a server");
+    }
+    ::alarm(60);
+    body();
+  });
+}
+
+void mountTmpfs(const Path& folder, const char* options) {
+  if (::mount("klarvik-test", folder.c_str(), "tmpfs", 0, options) != 0) giveUp("mount a tmpfs");
 }
 
 void mountBind(const Path& folder, const Path& at) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "platform/file_system.h"
 
@@ -11,12 +12,16 @@ namespace klarvik {
 /// it. Answers whether `body` ended without a failed expectation. `body` must not call `exit`.
 [[nodiscard]] bool passesWithPrivateMounts(const std::function<void()>& body);
 
+/// Whether this machine lets a process mount a file system of its own (FUSE).
+[[nodiscard]] bool canMountDeadServers();
+/// The same as `passesWithPrivateMounts`, with a file system on each of `folders` whose server
+/// never answers. A `body` that waits for one is ended after a minute, and has not passed.
+[[nodiscard]] bool passesWithDeadServers(const std::vector<Path>& folders,
+                                         const std::function<void()>& body);
+
 /// For use within: an empty file system in memory on `folder`. `options` are those of tmpfs, such
 /// as "size=64k".
 void mountTmpfs(const Path& folder, const char* options = "");
-/// A file system on `folder` whose server never answers: whoever looks into it waits until the
-/// process ends. False where the machine cannot mount one.
-[[nodiscard]] bool mountDead(const Path& folder);
 /// `folder` seen at `at` as well.
 void mountBind(const Path& folder, const Path& at);
 

@@ -61,9 +61,9 @@ void CleanFooter::readSelection() {
 }
 
 std::string CleanFooter::fate(const ItemSum& selected) const {
-  if (!_appState.layout().tellsWhatGoesForGood) return "Items move to the Trash.";
-  return smart_scan::fateOf(selected, _desktop.defaults.boolean("useTrash", true),
-                            _desktop.formatting);
+  const bool tells = _appState.layout().tellsWhatGoesForGood;
+  return smart_scan::fateOf(tells ? selected : ItemSum{},
+                            _desktop.defaults.boolean("useTrash", true), _desktop.formatting);
 }
 
 /// What a scan has found so far is not to be cleaned yet.

@@ -16,8 +16,6 @@
 namespace klarvik {
 namespace {
 
-constexpr QLatin1StringView hintsOnlyNote("Klarvik removes none of this itself.");
-
 /// What a row says that has nothing to say: a view binds every role of every row.
 QVariant nothing(int role) {
   switch (role) {
@@ -387,7 +385,7 @@ QVariant ReviewTable::rowDataOfCategory(const ShownCategory& shown, int role) co
     case SizeRole:
       return category->hasItems() ? size : QString();
     case NoteRole:
-      return category->hasItems() ? QString() : QString(hintsOnlyNote);
+      return category->hasItems() ? QString() : QString::fromStdString(smart_scan::hintsOnlyNote());
     case CanSelectRole:
       return category->hasItems();
     case IsExpandedRole:

@@ -82,6 +82,10 @@ std::string itemNote(const JunkItem& item) {
   return note + item.reason;
 }
 
+std::string hintsOnlyNote() {
+  return "Klarvik removes none of this itself.";
+}
+
 std::string hintNote(const Hint& hint) {
   return hint.command.empty() ? hint.reason : hint.reason + " Run: " + hint.command;
 }

@@ -36,6 +36,8 @@ namespace klarvik::smart_scan {
                                  const Formatting& formatting);
 /// What an item's row says below its name; may be empty.
 [[nodiscard]] std::string itemNote(const JunkItem& item);
+/// Of a category with nothing but hints.
+[[nodiscard]] std::string hintsOnlyNote();
 [[nodiscard]] std::string hintNote(const Hint& hint);
 [[nodiscard]] std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting);
 [[nodiscard]] std::string removingLine(const DeletionProgress& progress,

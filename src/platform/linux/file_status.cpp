@@ -82,6 +82,8 @@ std::int64_t allocatedBytesOf(const struct statx& status) {
 }
 
 FileAttributes attributesOf(const struct statx& status) {
+  // A folder that cannot be listed or entered cannot be emptied either.
+  const unsigned neededToChange = kindOf(status) == FileKind::directory ? S_IRWXU : S_IWUSR;
   return {.kind = kindOf(status),
           .allocatedBytes = allocatedBytesOf(status),
           .logicalBytes = static_cast<std::int64_t>(status.stx_size),
@@ -92,7 +94,7 @@ FileAttributes attributesOf(const struct statx& status) {
                                    .inode = status.stx_ino},
           .names = status.stx_nlink,
           .isOwn = status.stx_uid == thisUser(),
-          .isReadOnly = (status.stx_mode & S_IWUSR) == 0,
+          .isReadOnly = (status.stx_mode & neededToChange) != neededToChange,
           .isMountPoint = (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0};
 }
 
