@@ -14,7 +14,7 @@
 
 #include "own_time.h"
 #include "panes/duplicates/duplicate_choice.h"
-#include "panes/duplicates/duplicate_rows.h"
+#include "panes/duplicates/duplicate_rows_model.h"
 #include "platform/desktop/qt_clock.h"
 #include "support/fake_desktop.h"
 
@@ -44,7 +44,7 @@ void measure(std::size_t groups, std::size_t copies) {
   QtClock clock;
   const Desktop desktop = around.with(clock);
   DuplicateChoice choice;
-  DuplicateRows rows(choice, desktop);
+  DuplicateRowsModel rows(choice, desktop);
   const std::size_t before = mallinfo2().uordblks;
   ChosenGroups found = madeUp(groups, copies);
   const auto time = [](const char* what, const std::function<void()>& action) {

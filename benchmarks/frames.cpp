@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "own_time.h"
-#include "panes/smart_scan/review_table.h"
+#include "panes/smart_scan/review_table_model.h"
 #include "platform/allocator.h"
 #include "platform/desktop/qt_clock.h"
 #include "shell/klarvik_app.h"
@@ -79,7 +79,7 @@ void furnish(FakeFileSystem& disk, int itemCount) {
 
 /// The view of what a scan found.
 QQuickItem* reviewList(QQuickItem& item) {
-  if (qobject_cast<ReviewTable*>(item.property("model").value<QObject*>()) != nullptr) {
+  if (qobject_cast<ReviewTableModel*>(item.property("model").value<QObject*>()) != nullptr) {
     if (item.property("contentY").isValid()) return &item;
   }
   for (QQuickItem* child : item.childItems()) {
@@ -95,8 +95,8 @@ void useTheWindow(KlarvikApp& app, Navigator& navigator) {
     std::fputs("frames: the window has no table of results\n", stderr);
     std::exit(1);
   }
-  auto& table = *qobject_cast<ReviewTable*>(list->property("model").value<QObject*>());
-  const int moreRow = 1 + static_cast<int>(ReviewTable::firstItems);
+  auto& table = *qobject_cast<ReviewTableModel*>(list->property("model").value<QObject*>());
+  const int moreRow = 1 + static_cast<int>(ReviewTableModel::firstItems);
   const auto isDone = [&] { return std::holds_alternative<AppState::Done>(state.scanState()); };
   const auto isCleanDone = [&] {
     return std::holds_alternative<AppState::CleanDone>(state.scanState());

@@ -17,7 +17,7 @@
 #include <utility>
 
 #include "own_time.h"
-#include "panes/large_files/large_file_finder_view.h"
+#include "panes/large_files/large_file_finder_model.h"
 #include "platform/allocator.h"
 #include "platform/desktop/qt_clock.h"
 #include "shell/klarvik_app.h"
@@ -81,21 +81,21 @@ Gaps turnsUntil(const std::function<bool()>& isOver) {
   return gaps;
 }
 
-Gaps turnsUntilRows(LargeFileFinderView& pane, std::size_t rows) {
+Gaps turnsUntilRows(LargeFileFinderModel& pane, std::size_t rows) {
   return turnsUntil(
       [&] { return !pane.isScanning() && pane.rows()->rowCount() == static_cast<int>(rows); });
 }
 
 void measureModel(const Desktop& desktop) {
   SharedState shared(desktop);
-  LargeFileFinderView pane(shared, desktop);
+  LargeFileFinderModel pane(shared, desktop);
   const std::size_t before = mallinfo2().uordblks;
   pane.performAction();
   turnsUntilRows(pane, fileCount).print("model, while found");
   const std::size_t rows = mallinfo2().uordblks - before;
 
   bool isOrdered = false;
-  QObject::connect(&pane, &LargeFileFinderView::viewChanged, &pane, [&] { isOrdered = true; });
+  QObject::connect(&pane, &LargeFileFinderModel::viewChanged, &pane, [&] { isOrdered = true; });
   pane.chooseSort(2);
   turnsUntil([&] { return isOrdered; }).print("model, by name");
   isOrdered = false;
@@ -122,9 +122,9 @@ bool measureWindow(const Desktop& desktop) {
   if (!app.openWindow(mainWindowId)) return false;
   shared.navigator().setSection(Section::largeFiles);
   QQuickWindow& window = *app.window(mainWindowId);
-  LargeFileFinderView* const shown = drawnFrom<LargeFileFinderView>(*window.contentItem()).second;
+  LargeFileFinderModel* const shown = drawnFrom<LargeFileFinderModel>(*window.contentItem()).second;
   if (shown == nullptr) return false;
-  LargeFileFinderView& pane = *shown;
+  LargeFileFinderModel& pane = *shown;
 
   Gaps frames;
   bool isMeasuring = false;
@@ -138,7 +138,7 @@ bool measureWindow(const Desktop& desktop) {
   isMeasuring = false;
   std::exchange(frames, {}).print("frames, while found");
 
-  QQuickItem* const list = drawnFrom<LargeFileRows>(*window.contentItem()).first;
+  QQuickItem* const list = drawnFrom<LargeFileRowsModel>(*window.contentItem()).first;
   if (list == nullptr) return false;
   const double height = list->property("contentHeight").toReal() - list->height();
   int step = 0;

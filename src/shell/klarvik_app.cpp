@@ -32,9 +32,10 @@ KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& l
         return std::make_unique<QuickPopover>(_windows.engine(), _desktop.clock);
       }) {
   removeLeftoverKeys();
-  connect(&_onboarding, &OnboardingView::finished, this, &KlarvikApp::finishOnboarding);
-  connect(&_updateWindow, &UpdateWindow::isShownChanged, this, &KlarvikApp::showUpdates);
-  connect(&_updateWindow, &UpdateWindow::isAskedFor, this, [this] { openWindow(updateWindowId); });
+  connect(&_onboarding, &OnboardingModel::finished, this, &KlarvikApp::finishOnboarding);
+  connect(&_updateWindow, &UpdateWindowModel::isShownChanged, this, &KlarvikApp::showUpdates);
+  connect(&_updateWindow, &UpdateWindowModel::isAskedFor, this,
+          [this] { openWindow(updateWindowId); });
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
           [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive) {
@@ -92,7 +93,7 @@ QQuickWindow* KlarvikApp::makeMainWindow() {
 
 /// Made anew each time it is opened, so that it begins on its first tab and with what holds then.
 QQuickWindow* KlarvikApp::makeSettingsWindow() {
-  _settings = std::make_unique<SettingsView>(settingsTabs());
+  _settings = std::make_unique<SettingsModel>(settingsTabs());
   QQuickWindow* const window =
       _windows.make(settingsWindowId, QUrl("qrc:/Klarvik/Shell/SettingsWindow.qml"),
                     {{"model", QVariant::fromValue(_settings.get())}}, settingsFrame);
@@ -125,8 +126,8 @@ void KlarvikApp::showUpdates() {
 
 std::vector<SettingsTab> KlarvikApp::settingsTabs() {
   _generalSettings =
-      std::make_unique<GeneralSettingsSection>(_shared.permissionsManager(), _loginItem, _desktop);
-  _updateSettings = std::make_unique<UpdateSettingsView>(_shared.updateManager(), _desktop);
+      std::make_unique<GeneralSettingsModel>(_shared.permissionsManager(), _loginItem, _desktop);
+  _updateSettings = std::make_unique<UpdateSettingsModel>(_shared.updateManager(), _desktop);
   return {
       {"General", QUrl("qrc:/Klarvik/Shell/GeneralSettingsSection.qml"), _generalSettings.get()},
       {"Updates", QUrl("qrc:/Klarvik/Shell/UpdateSettingsView.qml"), _updateSettings.get()}};
@@ -155,8 +156,9 @@ void KlarvikApp::finishOnboarding(bool scans) {
 
 void KlarvikApp::makeShell() {
   _panes = makePanes(appState(), _shared, _desktop);
-  _shell = std::make_unique<AppShell>(_panes, appState(), _shared, _commands, _desktop);
-  connect(_shell.get(), &AppShell::settingsAsked, this, [this] { openWindow(settingsWindowId); });
+  _shell = std::make_unique<AppShellModel>(_panes, appState(), _shared, _commands, _desktop);
+  connect(_shell.get(), &AppShellModel::settingsAsked, this,
+          [this] { openWindow(settingsWindowId); });
   _mainWindow.setShell(*_shell);
 }
 

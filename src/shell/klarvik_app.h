@@ -7,17 +7,17 @@
 
 #include "platform/login_item.h"
 #include "platform/platform.h"
-#include "shell/app_commands.h"
-#include "shell/app_shell.h"
-#include "shell/main_window.h"
+#include "shell/app_commands_model.h"
+#include "shell/app_shell_model.h"
+#include "shell/main_window_model.h"
 #include "shell/menu_bar/menu_bar_controller.h"
 #include "shell/menu_bar/quit_policy.h"
-#include "shell/onboarding/onboarding_view.h"
-#include "shell/settings/general_settings_section.h"
-#include "shell/settings/settings_view.h"
+#include "shell/onboarding/onboarding_model.h"
+#include "shell/settings/general_settings_model.h"
+#include "shell/settings/settings_model.h"
 #include "shell/tool_panes.h"
-#include "shell/updates/update_settings_view.h"
-#include "shell/updates/update_window.h"
+#include "shell/updates/update_settings_model.h"
+#include "shell/updates/update_window_model.h"
 #include "shell/windows.h"
 #include "state/app_state.h"
 #include "state/shared_state.h"
@@ -71,14 +71,14 @@ class KlarvikApp : public QObject {
   std::unique_ptr<AppState> _appState;
   bool _onboardingComplete;
   std::vector<LandedPane> _panes;  ///< none before the first run is through
-  AppCommands _commands;
-  OnboardingView _onboarding;
-  std::unique_ptr<AppShell> _shell;
-  MainWindow _mainWindow;
-  std::unique_ptr<GeneralSettingsSection> _generalSettings;
-  std::unique_ptr<UpdateSettingsView> _updateSettings;
-  std::unique_ptr<SettingsView> _settings;
-  UpdateWindow _updateWindow;
+  AppCommandsModel _commands;
+  OnboardingModel _onboarding;
+  std::unique_ptr<AppShellModel> _shell;
+  MainWindowModel _mainWindow;
+  std::unique_ptr<GeneralSettingsModel> _generalSettings;
+  std::unique_ptr<UpdateSettingsModel> _updateSettings;
+  std::unique_ptr<SettingsModel> _settings;
+  UpdateWindowModel _updateWindow;
   Windows _windows;
   MenuBarController _menuBar;
   QuitPolicy _backgroundLife{_menuBar};

@@ -19,7 +19,7 @@ class Formatting;
 /// pane is not listed, nor is a heading without a section. Main thread only.
 class SidebarModel : public QAbstractListModel {
   Q_OBJECT
-  QML_NAMED_ELEMENT(SidebarModel)
+  QML_ELEMENT
   QML_UNCREATABLE("The shell makes it.")
  public:
   enum Role {

@@ -39,25 +39,27 @@ std::string trashSubtitle(const TrashMonitor::Figures& trash, const Words& words
                            : formatting.byteText(trash.bytes) + " · " + count;
 }
 
-TrashBlock::Control trashControl(const TrashMonitor::Figures& trash, const DiskLayout& layout) {
+TrashBlockModel::Control trashControl(const TrashMonitor::Figures& trash,
+                                      const DiskLayout& layout) {
   if (trash.isEmptying) {
-    return TrashBlock::Control::Progress;
+    return TrashBlockModel::Control::Progress;
   }
   if (!trash.isReadable) {
-    return layout.asksForFullDiskAccess() ? TrashBlock::Control::Grant : TrashBlock::Control::None;
+    return layout.asksForFullDiskAccess() ? TrashBlockModel::Control::Grant
+                                          : TrashBlockModel::Control::None;
   }
-  return trash.itemCount == 0 ? TrashBlock::Control::None : TrashBlock::Control::Empty;
+  return trash.itemCount == 0 ? TrashBlockModel::Control::None : TrashBlockModel::Control::Empty;
 }
 
 std::string trashControlHelp(const TrashMonitor::Figures& trash, const DiskLayout& layout,
                              const Formatting& formatting) {
   switch (trashControl(trash, layout)) {
-    case TrashBlock::Control::Grant:
+    case TrashBlockModel::Control::Grant:
       return "macOS keeps the Trash behind Full Disk Access";
-    case TrashBlock::Control::Empty:
+    case TrashBlockModel::Control::Empty:
       return "Delete everything in the Trash and reclaim " + formatting.byteText(trash.bytes);
-    case TrashBlock::Control::None:
-    case TrashBlock::Control::Progress:
+    case TrashBlockModel::Control::None:
+    case TrashBlockModel::Control::Progress:
       return "";
   }
   return "";

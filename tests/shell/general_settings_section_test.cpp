@@ -1,4 +1,4 @@
-#include "shell/settings/general_settings_section.h"
+#include "shell/settings/general_settings_model.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 
 class GeneralSettings : public ::testing::Test {
  protected:
-  [[nodiscard]] static std::map<std::string, StoredSwitch*> boxes(GeneralSettingsSection& page) {
+  [[nodiscard]] static std::map<std::string, StoredSwitch*> boxes(GeneralSettingsModel& page) {
     return {{"showMenuBar", page.showMenuBar()},
             {"useTrash", page.useTrash()},
             {"confirmDelete", page.confirmDelete()},
@@ -28,7 +28,7 @@ class GeneralSettings : public ::testing::Test {
   FakeDesktopOnDisk desk;
   FakeLoginItem loginItem;
   PermissionsManager permissions{desk.desktop};
-  GeneralSettingsSection page{permissions, loginItem, desk.desktop};
+  GeneralSettingsModel page{permissions, loginItem, desk.desktop};
 };
 
 TEST_F(GeneralSettings, AFreshInstallHasEveryBoxOn) {
@@ -37,7 +37,7 @@ TEST_F(GeneralSettings, AFreshInstallHasEveryBoxOn) {
 
 TEST_F(GeneralSettings, AValueThatIsNoBooleanCountsAsOn) {
   for (const auto& [key, box] : boxes(page)) desk.defaults.set(key, std::string("no"));
-  GeneralSettingsSection next(permissions, loginItem, desk.desktop);
+  GeneralSettingsModel next(permissions, loginItem, desk.desktop);
   for (const auto& [key, box] : boxes(next)) EXPECT_TRUE(box->isOn()) << key;
 }
 
@@ -120,7 +120,7 @@ TEST_F(GeneralSettings, ShowOnboardingAgainRemovesBothKeysAndNothingElse) {
 
 TEST_F(GeneralSettings, FollowThePermission) {
   EXPECT_TRUE(page.isGranted());
-  const QSignalSpy changes(&page, &GeneralSettingsSection::isGrantedChanged);
+  const QSignalSpy changes(&page, &GeneralSettingsModel::isGrantedChanged);
   desk.denyFullDiskAccess();
   permissions.refreshAccess();
   EXPECT_FALSE(page.isGranted());
@@ -157,7 +157,7 @@ TEST(GeneralSettingsOnALinuxDisk, NameTheDistributionAlone) {
   const FakeDesktopOnDisk desk(std::nullopt, linuxHome);
   FakeLoginItem loginItem;
   PermissionsManager permissions(desk.desktop);
-  const GeneralSettingsSection page(permissions, loginItem, desk.desktop);
+  const GeneralSettingsModel page(permissions, loginItem, desk.desktop);
   EXPECT_EQ(page.systemLine(), QSysInfo::prettyProductName());
 }
 

@@ -1,4 +1,4 @@
-#include "shell/onboarding/onboarding_view.h"
+#include "shell/onboarding/onboarding_model.h"
 
 #include <gtest/gtest.h>
 
@@ -29,8 +29,8 @@ class Onboarding : public ::testing::Test {
 
   DeniedDesktop desk;
   PermissionsManager permissions{desk.desktop};
-  OnboardingView view{permissions, desk.desktop};
-  QSignalSpy finished{&view, &OnboardingView::finished};
+  OnboardingModel view{permissions, desk.desktop};
+  QSignalSpy finished{&view, &OnboardingModel::finished};
 };
 
 TEST_F(Onboarding, AUserWhoNeverGrantsCannotLeaveThePageOfThePermission) {
@@ -62,8 +62,8 @@ TEST_F(Onboarding, AUserWhoHasAlreadyGrantedSeesContinueOnThePageOfThePermission
 TEST_F(Onboarding, TheGrantShowsWithoutAnyAction) {
   view.proceed();
   view.proceed();
-  const QSignalSpy grants(&view, &OnboardingView::isGrantedChanged);
-  const QSignalSpy titles(&view, &OnboardingView::buttonTitleChanged);
+  const QSignalSpy grants(&view, &OnboardingModel::isGrantedChanged);
+  const QSignalSpy titles(&view, &OnboardingModel::buttonTitleChanged);
   desk.grantFullDiskAccess();
   desk.clock.advance(2s);
   EXPECT_EQ(grants.count(), 1);
@@ -131,14 +131,14 @@ TEST_F(Onboarding, UncheckingTheMenuBarTakesEffectBeforeItsEnd) {
 TEST_F(Onboarding, BeginsAnewAfterAQuitInTheMiddle) {
   view.proceed();
   EXPECT_EQ(view.step(), 1);
-  const OnboardingView next(permissions, desk.desktop);
+  const OnboardingModel next(permissions, desk.desktop);
   EXPECT_EQ(next.step(), 0);
 }
 
 TEST(OnboardingOnALinuxDisk, HasNoPageOfAPermission) {
   const FakeDesktopOnDisk desk(std::nullopt, linuxHome);
   PermissionsManager permissions(desk.desktop);
-  OnboardingView view(permissions, desk.desktop);
+  OnboardingModel view(permissions, desk.desktop);
   EXPECT_EQ(view.stepCount(), 2);
   EXPECT_EQ(view.buttonTitle(), "Continue");
   view.proceed();

@@ -1,4 +1,4 @@
-#include "shell/settings/settings_view.h"
+#include "shell/settings/settings_model.h"
 
 #include <gtest/gtest.h>
 
@@ -7,12 +7,12 @@
 namespace klarvik {
 namespace {
 
-TEST(SettingsView, BeginsOnItsFirstTabAndShowsThePageOfTheChosenOne) {
+TEST(SettingsModel, BeginsOnItsFirstTabAndShowsThePageOfTheChosenOne) {
   QObject general;
   QObject updates;
-  SettingsView view(
+  SettingsModel view(
       {{"General", QUrl("qrc:/general"), &general}, {"Updates", QUrl("qrc:/updates"), &updates}});
-  const QSignalSpy changes(&view, &SettingsView::tabChanged);
+  const QSignalSpy changes(&view, &SettingsModel::tabChanged);
   EXPECT_EQ(view.tabs(), QStringList({"General", "Updates"}));
   EXPECT_EQ(view.tab(), 0);
   EXPECT_EQ(view.pageModel(), &general);
@@ -23,9 +23,9 @@ TEST(SettingsView, BeginsOnItsFirstTabAndShowsThePageOfTheChosenOne) {
   EXPECT_EQ(changes.count(), 1);
 }
 
-TEST(SettingsView, ATabThatIsNotThereOrIsShownAlreadyChangesNothing) {
-  SettingsView view({{"General", QUrl("qrc:/general"), nullptr}});
-  const QSignalSpy changes(&view, &SettingsView::tabChanged);
+TEST(SettingsModel, ATabThatIsNotThereOrIsShownAlreadyChangesNothing) {
+  SettingsModel view({{"General", QUrl("qrc:/general"), nullptr}});
+  const QSignalSpy changes(&view, &SettingsModel::tabChanged);
   view.setTab(0);
   view.setTab(1);
   view.setTab(-1);

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QSignalSpy>
 
-#include "shell/app_shell.h"
+#include "shell/app_shell_model.h"
 #include "state/shared_state.h"
 #include "support/fake_desktop.h"
 
@@ -21,18 +21,19 @@ class SidebarRows : public ::testing::Test {
     }
     return panes;
   }
-  [[nodiscard]] std::unique_ptr<AppShell> shellWith(const std::vector<Section>& sections) {
-    return std::make_unique<AppShell>(landed(sections), appState, shared, commands, desk.desktop);
+  [[nodiscard]] std::unique_ptr<AppShellModel> shellWith(const std::vector<Section>& sections) {
+    return std::make_unique<AppShellModel>(landed(sections), appState, shared, commands,
+                                           desk.desktop);
   }
-  [[nodiscard]] std::unique_ptr<AppShell> shellWithAll() {
+  [[nodiscard]] std::unique_ptr<AppShellModel> shellWithAll() {
     std::vector<Section> sections;
     for (const Tool& tool : tools()) sections.push_back(tool.section);
     return shellWith(sections);
   }
-  static QVariant row(AppShell& shell, int at, SidebarModel::Role role) {
+  static QVariant row(AppShellModel& shell, int at, SidebarModel::Role role) {
     return shell.sidebar()->index(at).data(role);
   }
-  static QStringList labels(AppShell& shell) {
+  static QStringList labels(AppShellModel& shell) {
     QStringList labels;
     for (int at = 0; at < shell.sidebar()->rowCount(); ++at) {
       labels << row(shell, at, SidebarModel::LabelRole).toString();
@@ -41,7 +42,7 @@ class SidebarRows : public ::testing::Test {
   }
 
   FakeDesktopOnDisk desk;
-  AppCommands commands{std::vector<AppCommand>{}};
+  AppCommandsModel commands{std::vector<AppCommand>{}};
   SharedState shared{desk.desktop};
   AppState appState{desk.desktop, shared.toolActivity(), shared.scanCoordinator(),
                     shared.scanHistory(), shared.removalNotice()};
@@ -115,11 +116,11 @@ TEST_F(SidebarRows, TellTheViewOnlyOfWhatHasReallyChanged) {
 
 TEST_F(SidebarRows, KeepEveryPaneAliveAndShowTheSelectedOne) {
   const auto shell = shellWithAll();
-  PaneStack& panes = *shell->panes();
+  PaneStackModel& panes = *shell->panes();
   ASSERT_EQ(panes.rowCount(), static_cast<int>(tools().size()));
-  QSignalSpy removed(&panes, &PaneStack::rowsRemoved);
+  QSignalSpy removed(&panes, &PaneStackModel::rowsRemoved);
   const auto isSelected = [&](int at) {
-    return panes.index(at).data(PaneStack::IsSelectedRole).toBool();
+    return panes.index(at).data(PaneStackModel::IsSelectedRole).toBool();
   };
   EXPECT_TRUE(isSelected(0));
   shared.navigator().setSection(Section::largeFiles);

@@ -43,7 +43,7 @@ TEST(TrashBlockTexts, SayThatAccessIsMissing) {
   TrashMonitor::Figures trash;
   trash.isReadable = false;
   EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "Needs Full Disk Access");
-  EXPECT_EQ(trashControl(trash, macDisk()), TrashBlock::Control::Grant);
+  EXPECT_EQ(trashControl(trash, macDisk()), TrashBlockModel::Control::Grant);
   EXPECT_EQ(trashControlHelp(trash, macDisk(), english()),
             "macOS keeps the Trash behind Full Disk Access");
 }
@@ -52,7 +52,7 @@ TEST(TrashBlockTexts, GrantNothingWhereThereIsNoPermissionToGrant) {
   TrashMonitor::Figures trash;
   trash.isReadable = false;
   EXPECT_EQ(trashSubtitle(trash, linuxDisk().words, english()), "Cannot be read");
-  EXPECT_EQ(trashControl(trash, linuxDisk()), TrashBlock::Control::None);
+  EXPECT_EQ(trashControl(trash, linuxDisk()), TrashBlockModel::Control::None);
   EXPECT_EQ(trashControlHelp(trash, linuxDisk(), english()), "");
 }
 
@@ -67,12 +67,12 @@ TEST(TrashBlockTexts, CountAnEmptyingUpToItsTotalAndNotBeyond) {
   EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "Emptying 1 of 5");
   trash.emptyProgress = DeletionProgress{.completed = 5, .total = 5, .currentName = "", .freed = 0};
   EXPECT_EQ(trashSubtitle(trash, macDisk().words, english()), "Emptying 5 of 5");
-  EXPECT_EQ(trashControl(trash, macDisk()), TrashBlock::Control::Progress);
+  EXPECT_EQ(trashControl(trash, macDisk()), TrashBlockModel::Control::Progress);
 }
 
 TEST(TrashBlockTexts, OfferToEmptyOnlyWhatHoldsSomething) {
-  EXPECT_EQ(trashControl(trashOf(0, 0), macDisk()), TrashBlock::Control::None);
-  EXPECT_EQ(trashControl(trashOf(3, 12'000), macDisk()), TrashBlock::Control::Empty);
+  EXPECT_EQ(trashControl(trashOf(0, 0), macDisk()), TrashBlockModel::Control::None);
+  EXPECT_EQ(trashControl(trashOf(3, 12'000), macDisk()), TrashBlockModel::Control::Empty);
   EXPECT_EQ(trashControlHelp(trashOf(3, 12'000), macDisk(), english()),
             "Delete everything in the Trash and reclaim 12 KB");
 }

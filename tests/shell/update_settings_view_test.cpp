@@ -1,4 +1,4 @@
-#include "shell/updates/update_settings_view.h"
+#include "shell/updates/update_settings_model.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ class UpdateSettings : public ::testing::Test {
   FakeDesktopOnDisk around;
   const Desktop& desktop = around.desktop;
   UpdateManager manager{desktop};
-  UpdateSettingsView view{manager, desktop};
+  UpdateSettingsModel view{manager, desktop};
 };
 
 TEST_F(UpdateSettings, SayWhichVersionRuns) {
@@ -48,7 +48,7 @@ TEST_F(UpdateSettings, SayThatACheckRuns) {
 }
 
 TEST_F(UpdateSettings, SayThatNothingIsNewer) {
-  const QSignalSpy changes(&view, &UpdateSettingsView::changed);
+  const QSignalSpy changes(&view, &UpdateSettingsModel::changed);
   around.updater.delegate->didNotFindUpdate();
   deliver();
   expectRow("checkmark.circle.fill", "Up to date", "Check Now");
@@ -73,7 +73,7 @@ TEST_F(UpdateSettings, ASecondCheckNowWhileTheUpdaterIsBusyReadsCouldNotCheck) {
 TEST_F(UpdateSettings, KeepUpWithTheTimeThatPasses) {
   around.updater.delegate->didNotFindUpdate();
   deliver();
-  const QSignalSpy changes(&view, &UpdateSettingsView::changed);
+  const QSignalSpy changes(&view, &UpdateSettingsModel::changed);
   around.clock.advance(60s);
   EXPECT_EQ(changes.count(), 1);
   EXPECT_EQ(view.detail(), "Checked 1 min. ago");
@@ -90,7 +90,7 @@ TEST_F(UpdateSettings, WriteTheSwitchThroughAtOnce) {
 
 TEST_F(UpdateSettings, BeginWithTheSwitchAsItIsStored) {
   around.updater.isAutomatic = false;
-  EXPECT_FALSE(UpdateSettingsView(manager, desktop).autoCheck());
+  EXPECT_FALSE(UpdateSettingsModel(manager, desktop).autoCheck());
 }
 
 TEST_F(UpdateSettings, SnapTheSwitchBackWhereNothingCanBeStored) {

@@ -1,4 +1,4 @@
-#include "shell/updates/update_window.h"
+#include "shell/updates/update_window_model.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ class UpdateWindowTest : public ::testing::Test {
 
   FakeDesktopOnDisk around;
   const Desktop& desktop = around.desktop;
-  UpdateWindow window{desktop};
+  UpdateWindowModel window{desktop};
 };
 
 TEST_F(UpdateWindowTest, IsHiddenUntilTheUpdaterHasSomethingToShow) {
@@ -29,7 +29,7 @@ TEST_F(UpdateWindowTest, IsHiddenUntilTheUpdaterHasSomethingToShow) {
 }
 
 TEST_F(UpdateWindowTest, ComesToTheFrontOnlyForACheckThatTheUserAskedFor) {
-  const QSignalSpy asked(&window, &UpdateWindow::isAskedFor);
+  const QSignalSpy asked(&window, &UpdateWindowModel::isAskedFor);
   show(update_stage::Offered{"2.0", "", "", 1});
   EXPECT_EQ(asked.count(), 0);
   show(update_stage::Checking{});

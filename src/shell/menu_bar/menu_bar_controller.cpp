@@ -37,13 +37,13 @@ MenuBarController::~MenuBarController() {
 
 void MenuBarController::setup(AppState& appState) {
   _appState = &appState;
-  _view = std::make_unique<MenuBarView>(appState, _trash, _desktop.formatting);
+  _view = std::make_unique<MenuBarModel>(appState, _trash, _desktop.formatting);
   apply();
   _defaultsObservation =
       _desktop.notifications.observe(defaultsChangedNotification, [this] { followDefaults(); });
   connect(_appState, &AppState::scanStateChanged, this, &MenuBarController::updateItem);
-  connect(_view.get(), &MenuBarView::actionsChanged, this, &MenuBarController::updateItem);
-  connect(_view.get(), &MenuBarView::leaving, this, &MenuBarController::closePopover);
+  connect(_view.get(), &MenuBarModel::actionsChanged, this, &MenuBarController::updateItem);
+  connect(_view.get(), &MenuBarModel::leaving, this, &MenuBarController::closePopover);
 }
 
 bool MenuBarController::storedWish() const {

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "platform/platform.h"
+#include "shell/menu_bar/menu_bar_model.h"
 #include "shell/menu_bar/menu_bar_popover.h"
-#include "shell/menu_bar/menu_bar_view.h"
 #include "shell/menu_bar/window_activation.h"
 #include "state/app_state.h"
 #include "state/trash_monitor.h"
@@ -61,7 +61,7 @@ class MenuBarController : public QObject {
   StatusItem* _statusItem = nullptr;  ///< while it is shown
   std::unique_ptr<MenuBarPopover> _popover;
   AppState* _appState = nullptr;
-  std::unique_ptr<MenuBarView> _view;
+  std::unique_ptr<MenuBarModel> _view;
   NotificationCenter::Subscription _defaultsObservation;
   bool _isEnabled;
   bool _isReachable = false;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/status_item.h"
-#include "shell/menu_bar/menu_bar_view.h"
+#include "shell/menu_bar/menu_bar_model.h"
 
 namespace klarvik {
 
@@ -16,7 +16,7 @@ class MenuBarPopover {
   /// the one on the status item that is being told of now.
   [[nodiscard]] virtual bool hasJustClosed() const = 0;
   /// Shows `content`, drawn afresh, near the icon; it must outlive the popover.
-  virtual void show(MenuBarView& content, const StatusItem::Place& icon) = 0;
+  virtual void show(MenuBarModel& content, const StatusItem::Place& icon) = 0;
   virtual void close() = 0;
 };
 

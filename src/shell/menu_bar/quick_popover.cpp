@@ -48,7 +48,7 @@ bool QuickPopover::hasJustClosed() const {
   return 0ms <= since && since < onePress;
 }
 
-void QuickPopover::show(MenuBarView& content, const StatusItem::Place& icon) {
+void QuickPopover::show(MenuBarModel& content, const StatusItem::Place& icon) {
   _icon = QRect(icon.x, icon.y, icon.width, icon.height);
   _lostFocus.reset();
   QObject* made =

@@ -22,7 +22,7 @@ class QuickPopover final : public QObject, public MenuBarPopover {
 
   [[nodiscard]] bool isShown() const override;
   [[nodiscard]] bool hasJustClosed() const override;
-  void show(MenuBarView& content, const StatusItem::Place& icon) override;
+  void show(MenuBarModel& content, const StatusItem::Place& icon) override;
   void close() override;
 
   bool eventFilter(QObject* watched, QEvent* event) override;

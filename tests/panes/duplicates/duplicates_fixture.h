@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "../pane_fixture.h"
-#include "panes/duplicates/duplicate_finder_view.h"
+#include "panes/duplicates/duplicate_finder_model.h"
 #include "support/disk_snapshot.h"
 
 namespace klarvik {
@@ -54,8 +54,8 @@ class DuplicatesFixture : public PaneFixture {
   [[nodiscard]] QStringList shown() {
     QStringList names;
     for (int row = 0; row < pane->rows()->rowCount(); ++row) {
-      const bool isGroup = at(row, DuplicateRows::IsGroupRole).toBool();
-      names << (isGroup ? "" : "  ") + at(row, DuplicateRows::NameRole).toString();
+      const bool isGroup = at(row, DuplicateRowsModel::IsGroupRole).toBool();
+      names << (isGroup ? "" : "  ") + at(row, DuplicateRowsModel::NameRole).toString();
     }
     return names;
   }
@@ -63,13 +63,13 @@ class DuplicatesFixture : public PaneFixture {
   /// The row of this copy, which must be on the screen.
   [[nodiscard]] int rowOf(const Path& copy) {
     for (int row = 0; row < pane->rows()->rowCount(); ++row) {
-      const DuplicateRows::Row& shownRow = pane->rows()->at(row);
+      const DuplicateRowsModel::Row& shownRow = pane->rows()->at(row);
       if (!shownRow.isGroup() && shownRow.group->group.files[shownRow.file].url == copy) return row;
     }
     return -1;
   }
   [[nodiscard]] QString fateOf(const Path& copy) {
-    return at(rowOf(copy), DuplicateRows::FateRole) == static_cast<int>(KeepOrDelete::Keep)
+    return at(rowOf(copy), DuplicateRowsModel::FateRole) == static_cast<int>(KeepOrDelete::Keep)
                ? "keep"
                : "delete";
   }
@@ -100,8 +100,8 @@ class DuplicatesFixture : public PaneFixture {
   int _hours = 0;
 
  protected:
-  std::unique_ptr<DuplicateFinderView> pane =
-      std::make_unique<DuplicateFinderView>(shared, desktop);
+  std::unique_ptr<DuplicateFinderModel> pane =
+      std::make_unique<DuplicateFinderModel>(shared, desktop);
 };
 
 }  // namespace klarvik

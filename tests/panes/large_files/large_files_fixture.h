@@ -10,7 +10,7 @@
 #include <string>
 
 #include "../pane_fixture.h"
-#include "panes/large_files/large_file_finder_view.h"
+#include "panes/large_files/large_file_finder_model.h"
 
 namespace klarvik {
 
@@ -49,7 +49,7 @@ class LargeFilesFixture : public PaneFixture {
   [[nodiscard]] QStringList shownNames() {
     QStringList names;
     for (int row = 0; row < pane->rows()->rowCount(); ++row) {
-      names << pane->rows()->index(row).data(LargeFileRows::NameRole).toString();
+      names << pane->rows()->index(row).data(LargeFileRowsModel::NameRole).toString();
     }
     return names;
   }
@@ -82,8 +82,8 @@ class LargeFilesFixture : public PaneFixture {
   [[nodiscard]] auto total() { return totalOf("largeFiles"); }
 
  protected:
-  std::unique_ptr<LargeFileFinderView> pane =
-      std::make_unique<LargeFileFinderView>(shared, desktop);
+  std::unique_ptr<LargeFileFinderModel> pane =
+      std::make_unique<LargeFileFinderModel>(shared, desktop);
 };
 
 }  // namespace klarvik

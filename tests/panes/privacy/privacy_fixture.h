@@ -5,7 +5,7 @@
 #include <string>
 
 #include "../pane_fixture.h"
-#include "panes/privacy/privacy_cleaner_view.h"
+#include "panes/privacy/privacy_cleaner_model.h"
 #include "support/desktop_fakes.h"
 
 namespace klarvik {
@@ -66,25 +66,27 @@ class PrivacyFixture : public PaneFixture {
     return turnUntil([this] { return !view->isCleaning(); });
   }
 
-  QVariant row(int at, TrailList::Role role) { return view->trailList()->index(at).data(role); }
+  QVariant row(int at, TrailListModel::Role role) {
+    return view->trailList()->index(at).data(role);
+  }
   /// Headings stand between brackets.
   QStringList names() {
     QStringList shown;
     for (int at = 0; at < view->trailList()->rowCount(); ++at) {
-      const QString name = row(at, TrailList::NameRole).toString();
-      const bool isHeading =
-          row(at, TrailList::KindRole).toInt() == static_cast<int>(TrailList::RowKind::Heading);
+      const QString name = row(at, TrailListModel::NameRole).toString();
+      const bool isHeading = row(at, TrailListModel::KindRole).toInt() ==
+                             static_cast<int>(TrailListModel::RowKind::Heading);
       shown << (isHeading ? "[" + name + "]" : name);
     }
     return shown;
   }
   void toggle(const QString& name) { view->toggle(static_cast<int>(names().indexOf(name))); }
   [[nodiscard]] bool isSelected(const QString& name) {
-    return row(static_cast<int>(names().indexOf(name)), TrailList::IsSelectedRole).toBool();
+    return row(static_cast<int>(names().indexOf(name)), TrailListModel::IsSelectedRole).toBool();
   }
 
  protected:
-  std::optional<PrivacyCleanerView> view;
+  std::optional<PrivacyCleanerModel> view;
 };
 
 }  // namespace klarvik

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "../pane_fixture.h"
-#include "panes/smart_scan/smart_scan_pane.h"
+#include "panes/smart_scan/smart_scan_model.h"
 
 namespace klarvik {
 
@@ -36,13 +36,13 @@ class SmartScanFixture : public PaneFixture {
     }
   }
 
-  QVariant reviewed(int row, ReviewTable::Role role) {
+  QVariant reviewed(int row, ReviewTableModel::Role role) {
     return pane.reviewTable()->index(row).data(role);
   }
   QStringList reviewedNames() {
     QStringList names;
     for (int row = 0; row < pane.reviewTable()->rowCount(); ++row) {
-      names << reviewed(row, ReviewTable::NameRole).toString();
+      names << reviewed(row, ReviewTableModel::NameRole).toString();
     }
     return names;
   }
@@ -50,7 +50,7 @@ class SmartScanFixture : public PaneFixture {
  protected:
   AppState appState{desktop, shared.toolActivity(), shared.scanCoordinator(), shared.scanHistory(),
                     shared.removalNotice()};
-  SmartScanPane pane{appState, shared, desktop};
+  SmartScanModel pane{appState, shared, desktop};
 };
 
 }  // namespace klarvik

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "../pane_fixture.h"
-#include "panes/uninstaller/app_uninstaller_view.h"
+#include "panes/uninstaller/app_uninstaller_model.h"
 
 namespace klarvik {
 
@@ -64,20 +64,20 @@ class UninstallerFixture : public PaneFixture {
   QStringList names() {
     QStringList shown;
     for (int row = 0; row < view->appList()->rowCount(); ++row) {
-      shown << view->appList()->index(row).data(AppList::NameRole).toString();
+      shown << view->appList()->index(row).data(AppListModel::NameRole).toString();
     }
     return shown;
   }
-  QVariant leftover(int row, LeftoverList::Role role) {
+  QVariant leftover(int row, LeftoverListModel::Role role) {
     return view->leftoverList()->index(row).data(role);
   }
   /// Headings stand between brackets.
   QStringList leftoverNames() {
     QStringList shown;
     for (int row = 0; row < view->leftoverList()->rowCount(); ++row) {
-      const QString name = leftover(row, LeftoverList::NameRole).toString();
-      const bool isHeading = leftover(row, LeftoverList::KindRole).toInt() ==
-                             static_cast<int>(LeftoverList::RowKind::Heading);
+      const QString name = leftover(row, LeftoverListModel::NameRole).toString();
+      const bool isHeading = leftover(row, LeftoverListModel::KindRole).toInt() ==
+                             static_cast<int>(LeftoverListModel::RowKind::Heading);
       shown << (isHeading ? "[" + name + "]" : name);
     }
     return shown;
@@ -87,7 +87,7 @@ class UninstallerFixture : public PaneFixture {
   }
 
  protected:
-  std::optional<AppUninstallerView> view;
+  std::optional<AppUninstallerModel> view;
 };
 
 }  // namespace klarvik

@@ -24,7 +24,7 @@ class FakePopover final : public MenuBarPopover {
 
   [[nodiscard]] bool isShown() const override { return isOpen; }
   [[nodiscard]] bool hasJustClosed() const override { return closedByItself; }
-  void show(MenuBarView& content, const StatusItem::Place& icon) override {
+  void show(MenuBarModel& content, const StatusItem::Place& icon) override {
     isOpen = true;
     shown = &content;
     place = icon;
@@ -35,7 +35,7 @@ class FakePopover final : public MenuBarPopover {
   bool& isOpen;
   bool closedByItself = false;
   int shows = 0;
-  MenuBarView* shown = nullptr;
+  MenuBarModel* shown = nullptr;
   StatusItem::Place place;
 };
 

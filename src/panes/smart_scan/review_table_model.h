@@ -1,0 +1,109 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
+#include <cstddef>
+#include <vector>
+
+#include "state/app_state.h"
+
+namespace klarvik {
+
+/// What a finished scan found, as one flat list for a virtualised view: a row for each category,
+/// and below an expanded one its largest items, where there are more a row that shows the rest, and
+/// the hints. Rows come and go one by one, so that scroll position, focus and expansion survive.
+/// Main thread only.
+class ReviewTableModel : public QAbstractListModel {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("The pane makes it.")
+ public:
+  enum class RowKind { Category, Item, ShowMore, Hint };
+  Q_ENUM(RowKind)
+  enum class Selection { None, Partial, All };
+  Q_ENUM(Selection)
+  enum Role {
+    KindRole = Qt::UserRole,
+    NameRole,
+    PathRole,
+    UrlRole,
+    SymbolRole,
+    ColorRole,
+    SafetyRole,
+    SelectionRole,
+    ItemsRole,
+    SizeRole,
+    IsExpandedRole,
+    DescriptionRole,
+    NoteRole,
+    IsInUseRole,
+    CanSelectRole,
+  };
+
+  /// Items of an expanded category that show before the user asks for the rest.
+  static constexpr std::size_t firstItems = 8;
+
+  ReviewTableModel(AppState& appState, const Formatting& formatting, QObject* parent = nullptr);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+  /// What pressing the row does: a category opens or closes, an item is selected or not, the last
+  /// row shows the rest.
+  Q_INVOKABLE void activate(int row);
+  /// What pressing the selection box of the row does. Nothing on a row that has none.
+  Q_INVOKABLE void toggleSelection(int row);
+
+ private:
+  struct ShownCategory {
+    CategoryType type = CategoryType::xcodeCache;
+    bool isExpanded = false;
+    bool showsAll = false;
+    ItemSelection::Items items;
+    std::vector<std::size_t> ranks;  ///< of the items that have a row
+    std::size_t hiddenCount = 0;     ///< items behind the row that shows the rest
+    std::size_t hintCount = 0;       ///< hints that have a row
+
+    [[nodiscard]] std::size_t hintsBegin() const { return 1 + ranks.size() + (hiddenCount > 0); }
+    [[nodiscard]] std::size_t rowCount() const { return hintsBegin() + hintCount; }
+  };
+  struct Place {
+    std::size_t category = 0;  ///< in `_shown`
+    RowKind kind = RowKind::Category;
+    std::size_t item = 0;  ///< in the ranks shown of that category, or in its hints
+  };
+
+  void syncResults();
+  void syncExpansion();
+  void syncSelection();
+
+  void insertCategory(std::size_t at, const CleanCategory& category);
+  void removeCategory(std::size_t at);
+  void updateCategory(std::size_t at);
+  void setExpanded(std::size_t at, bool expanded);
+  void showAll(std::size_t at);
+
+  void syncItems(std::size_t at);
+  void replaceItems(std::size_t at, ItemSelection::Items items, std::size_t count);
+  void removeItems(std::size_t at, std::size_t first, std::size_t count);
+  void setHiddenCount(std::size_t at, std::size_t hiddenCount);
+  void setHintCount(std::size_t at, std::size_t count);
+  void rowChanged(std::size_t row, const QList<int>& roles = {});
+
+  [[nodiscard]] const std::vector<CleanCategory>& results() const;
+  [[nodiscard]] const CleanCategory* find(CategoryType type) const;
+  [[nodiscard]] std::size_t firstRow(std::size_t at) const;
+  [[nodiscard]] Place place(int row) const;
+  [[nodiscard]] const JunkItem* item(const Place& place) const;
+  [[nodiscard]] Selection selection(const CleanCategory& category) const;
+  [[nodiscard]] QVariant rowDataOfCategory(const ShownCategory& shown, int role) const;
+  [[nodiscard]] QVariant rowDataOfHint(const Place& place, int role) const;
+  [[nodiscard]] QVariant rowDataOfItem(const JunkItem& item, CategoryType type, int role) const;
+
+  AppState& _appState;
+  const Formatting& _formatting;
+  std::vector<ShownCategory> _shown;
+};
+
+}  // namespace klarvik

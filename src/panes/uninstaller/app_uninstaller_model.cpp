@@ -1,0 +1,227 @@
+#include "panes/uninstaller/app_uninstaller_model.h"
+
+#include <chrono>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "base/bytes.h"
+#include "panes/kit/row_text.h"
+#include "panes/uninstaller/uninstaller_texts.h"
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
+#include "platform/notification_center.h"
+#include "state/section.h"
+#include "tools/uninstaller_engine.h"
+
+namespace klarvik {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// After this long the list is read anew when the user comes back to it.
+constexpr auto freshness = 300s;
+
+}  // namespace
+
+AppUninstallerModel::AppUninstallerModel(SharedState& shared, const Desktop& desktop,
+                                         QObject* parent)
+    : ToolPane(parent),
+      _coordinator(shared.scanCoordinator()),
+      _navigator(shared.navigator()),
+      _notice(shared.removalNotice()),
+      _desktop(desktop),
+      _appList(desktop.formatting),
+      _leftoverList(desktop.formatting),
+      _reading(Section::uninstaller, shared.toolActivity(), _coordinator, desktop.clock),
+      _residualSearch(desktop.clock) {
+  connect(&_navigator, &Navigator::sectionChanged, this, &AppUninstallerModel::sectionChanged);
+  connect(&_leftoverList, &LeftoverListModel::selectionChanged, this,
+          &AppUninstallerModel::selectionChanged);
+}
+
+AppUninstallerModel::~AppUninstallerModel() {
+  _reading.drop();
+  _residualSearch.drop();
+  finishRemovals();
+}
+
+void AppUninstallerModel::setSearchText(const QString& searchText) {
+  if (_appList.searchText() == searchText) return;
+  _appList.setSearchText(searchText);
+  emit searchTextChanged();
+  emit stateChanged();
+}
+
+QString AppUninstallerModel::title() const {
+  return _selectedApp ? uninstaller::uninstallTitle(_selectedApp->name)
+                      : QStringLiteral("Uninstaller");
+}
+
+QString AppUninstallerModel::subtitle() const {
+  if (!_selectedApp) {
+    return uninstaller::listSubtitle(_isWaitingForTurn, isLoading(), apps().size(),
+                                     layoutFor(_desktop.files.home()).words);
+  }
+  return uninstaller::detailSubtitle(residuals().size(),
+                                     addBytes(_selectedApp->appSize, _leftoverList.totalSize()),
+                                     _desktop.formatting);
+}
+
+Placeholder AppUninstallerModel::placeholder() const {
+  return _selectedApp ? detailPlaceholder() : listPlaceholder();
+}
+
+Placeholder AppUninstallerModel::listPlaceholder() const {
+  if (_isWaitingForTurn) {
+    return Placeholder::busy(
+        QStringLiteral("Waiting for the disk"),
+        QStringLiteral("Another tool is measuring. Open this pane and Klarvik reads your "
+                       "applications straight away."));
+  }
+  if (isLoading()) {
+    return Placeholder::busy(
+        QStringLiteral("Reading applications"),
+        QStringLiteral("Measuring every app in /Applications and ~/Applications."));
+  }
+  if (!hasLoaded() || _appList.rowCount() > 0) return {};
+  if (apps().empty()) {
+    return Placeholder::idle(QStringLiteral("square.dashed"), QStringLiteral("No apps"),
+                             programText(layoutFor(_desktop.files.home()).words.noApplications));
+  }
+  return Placeholder::idle(QStringLiteral("magnifyingglass"), QStringLiteral("No apps match"),
+                           uninstaller::noMatch(searchText()));
+}
+
+Placeholder AppUninstallerModel::detailPlaceholder() const {
+  if (isFindingResiduals()) {
+    return Placeholder::busy(
+        QStringLiteral("Looking for leftovers"),
+        QStringLiteral("Checking Preferences, Caches, Application Support, Containers and Logs."));
+  }
+  if (!residuals().empty()) return {};
+  return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("No leftovers"),
+                           uninstaller::noLeftovers(_selectedApp->name));
+}
+
+bool AppUninstallerModel::canUninstall() const {
+  return _selectedApp.has_value() && !isFindingResiduals() && !_isUninstalling;
+}
+
+QString AppUninstallerModel::selectionSummary() const {
+  return uninstaller::selectionSummary(_leftoverList.selectedSize(), selectedResiduals().size(),
+                                       residuals().size(), _desktop.formatting);
+}
+
+QString AppUninstallerModel::selectionHint() const {
+  return uninstaller::selectionHint(selectedResiduals().size(), residuals().size());
+}
+
+QCoro::Task<> AppUninstallerModel::readInTurn() {
+  if (!needsReading()) co_return;
+  const std::stop_token stop = _reading.dropped();
+  setIsWaitingForTurn(true);
+  const bool hasTurn = co_await _coordinator.beginAutoScan(_reading.key(), stop);
+  // Whoever waits for a turn may outlive the pane.
+  if (stop.stop_requested()) co_return;
+  setIsWaitingForTurn(false);
+  if (!hasTurn) co_return;
+  if (needsReading()) readApps();
+  co_await holdTurn(
+      _coordinator, _desktop.clock, [this] { return !isLoading(); }, stop);
+}
+
+/// Whoever looks at the pane is not kept waiting for a turn.
+void AppUninstallerModel::sectionChanged() {
+  if (_navigator.section() != Section::uninstaller || isLoading()) return;
+  const bool isStale = _loadedAt && _desktop.clock.now() - *_loadedAt > freshness;
+  if (hasLoaded() && !isStale) return;
+  setIsWaitingForTurn(false);
+  readApps();
+}
+
+void AppUninstallerModel::setIsWaitingForTurn(bool isWaiting) {
+  if (std::exchange(_isWaitingForTurn, isWaiting) != isWaiting) emit stateChanged();
+}
+
+void AppUninstallerModel::readApps() {
+  _removedWhileReading.clear();
+  _reading.start<std::monostate, std::vector<AppInfo>>(
+      {.work = [&desktop = _desktop](std::stop_token,
+                                     const auto&) { return UninstallerEngine(desktop).listApps(); },
+       .finish = [this](std::vector<AppInfo> read) { finishReading(std::move(read)); }});
+  emit stateChanged();
+}
+
+void AppUninstallerModel::finishReading(std::vector<AppInfo> read) {
+  std::erase_if(read,
+                [this](const AppInfo& app) { return _removedWhileReading.contains(app.appURL); });
+  _appList.setApps(std::move(read));
+  _loadedAt = _desktop.clock.now();
+  emit stateChanged();
+  std::int64_t bytes = 0;
+  for (const AppInfo& app : apps()) bytes = addBytes(bytes, app.appSize);
+  _reading.showSummary(std::to_string(apps().size()) + " apps");
+  _reading.setTotal(bytes, static_cast<std::int64_t>(apps().size()));
+}
+
+void AppUninstallerModel::open(int row) {
+  const AppInfo* app = _appList.appAt(row);
+  if (app == nullptr || _isUninstalling) return;
+  _leftoverList.clear();
+  _selectedApp = *app;
+  findResiduals(*app);
+  emit levelChanged();
+}
+
+void AppUninstallerModel::findResiduals(AppInfo app) {
+  _residualSearch.start<std::monostate, std::vector<ResidualFile>>(
+      {.work = [&desktop = _desktop, app = std::move(app)](
+                   std::stop_token,
+                   const auto&) { return UninstallerEngine(desktop).findResiduals(app); },
+       .finish =
+           [this](std::vector<ResidualFile> found) {
+             _leftoverList.show(std::move(found));
+             emit stateChanged();
+           }});
+  emit stateChanged();
+}
+
+void AppUninstallerModel::showAllApps() {
+  if (!_selectedApp || _isUninstalling) return;
+  closeDetail();
+}
+
+void AppUninstallerModel::toggleLeftover(int row) {
+  if (!_isUninstalling) _leftoverList.toggle(row);
+}
+
+void AppUninstallerModel::uninstall() {
+  if (canUninstall()) remove(*_selectedApp, _leftoverList.selectedResiduals());
+}
+
+QCoro::Task<> AppUninstallerModel::remove(AppInfo app, std::vector<ResidualFile> residuals) {
+  _isUninstalling = true;
+  emit stateChanged();
+
+  LeftAlone leftAlone;
+  UninstallerEngine engine(_desktop, &leftAlone);
+  co_await runInBackground(_removals, [&] { return engine.uninstall(app, residuals); });
+  _notice.tell(leftAlone);
+
+  _appList.remove(app.appURL);
+  if (isLoading()) _removedWhileReading.insert(app.appURL);
+  _isUninstalling = false;
+  closeDetail();
+  _desktop.notifications.post(diskChangedNotification);
+}
+
+void AppUninstallerModel::closeDetail() {
+  _residualSearch.cancel();
+  _leftoverList.clear();
+  _selectedApp.reset();
+  emit levelChanged();
+  emit stateChanged();
+}
+
+}  // namespace klarvik

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <QString>
+#include <vector>
+
+#include "platform/platform.h"
+#include "shell/app_commands_model.h"
+#include "shell/disk_block_model.h"
+#include "shell/full_disk_access_model.h"
+#include "shell/pane_stack_model.h"
+#include "shell/sidebar_model.h"
+#include "shell/tool_panes.h"
+#include "shell/trash_block_model.h"
+#include "state/app_state.h"
+#include "state/shared_state.h"
+
+namespace klarvik {
+
+/// The content of the main window: the sidebar and the panes beside it. Main thread only;
+/// everything handed in must outlive it.
+class AppShellModel : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("The shell makes it.")
+  Q_PROPERTY(klarvik::SidebarModel* sidebar READ sidebar CONSTANT)
+  Q_PROPERTY(klarvik::DiskBlockModel* disk READ disk CONSTANT)
+  Q_PROPERTY(klarvik::TrashBlockModel* trash READ trash CONSTANT)
+  Q_PROPERTY(klarvik::PaneStackModel* panes READ panes CONSTANT)
+  Q_PROPERTY(klarvik::FullDiskAccessModel* access READ access CONSTANT)
+  Q_PROPERTY(klarvik::AppCommandsModel* commands READ commands CONSTANT)
+  Q_PROPERTY(QString removalNotice READ removalNotice NOTIFY removalNoticeChanged)
+
+ public:
+  AppShellModel(const std::vector<LandedPane>& panes, AppState& appState, SharedState& shared,
+                AppCommandsModel& commands, const Desktop& desktop, QObject* parent = nullptr);
+
+  [[nodiscard]] SidebarModel* sidebar() { return &_sidebar; }
+  [[nodiscard]] DiskBlockModel* disk() { return &_disk; }
+  [[nodiscard]] TrashBlockModel* trash() { return &_trash; }
+  [[nodiscard]] PaneStackModel* panes() { return &_panes; }
+  [[nodiscard]] FullDiskAccessModel* access() { return &_access; }
+  [[nodiscard]] AppCommandsModel* commands() const { return &_commands; }
+  /// Empty while there is none.
+  [[nodiscard]] QString removalNotice() const;
+  Q_INVOKABLE void dismissRemovalNotice() { _removalNotice.dismiss(); }
+  Q_INVOKABLE void openSettings() { emit settingsAsked(); }
+
+ signals:
+  void settingsAsked();
+  void removalNoticeChanged();
+
+ private:
+  SidebarModel _sidebar;
+  DiskBlockModel _disk;
+  TrashBlockModel _trash;
+  PaneStackModel _panes;
+  FullDiskAccessModel _access;
+  AppCommandsModel& _commands;
+  RemovalNotice& _removalNotice;
+};
+
+}  // namespace klarvik

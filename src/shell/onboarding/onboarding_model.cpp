@@ -1,0 +1,68 @@
+#include "shell/onboarding/onboarding_model.h"
+
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
+
+namespace klarvik {
+
+namespace {
+
+constexpr int permissionStep = 1;
+
+}  // namespace
+
+OnboardingModel::OnboardingModel(PermissionsManager& permissions, const Desktop& desktop,
+                                 QObject* parent)
+    : QObject(parent),
+      _permissions(permissions),
+      _defaults(desktop.defaults),
+      _stepCount(layoutFor(desktop.files.home()).asksForFullDiskAccess() ? 3 : 2),
+      _showMenuBar(desktop.defaults, desktop.notifications, "showMenuBar") {
+  connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
+          &OnboardingModel::isGrantedChanged);
+  connect(this, &OnboardingModel::isGrantedChanged, this, &OnboardingModel::buttonTitleChanged);
+  connect(this, &OnboardingModel::stepChanged, this, &OnboardingModel::buttonTitleChanged);
+}
+
+QString OnboardingModel::buttonTitle() const {
+  if (isLastStep()) return QStringLiteral("Run first scan");
+  const bool asks = _step == permissionStep && !isGranted();
+  return asks ? QStringLiteral("Open System Settings") : QStringLiteral("Continue");
+}
+
+void OnboardingModel::proceed() {
+  if (isLastStep()) {
+    finish(true);
+  } else if (_step == permissionStep && !isGranted()) {
+    openSettings();
+  } else {
+    goOn();
+  }
+}
+
+void OnboardingModel::later() {
+  if (isLastStep()) finish(false);
+}
+
+void OnboardingModel::openSettings() {
+  _permissions.openFullDiskAccessSettings();
+}
+
+void OnboardingModel::reopen() {
+  _permissions.relaunch();
+}
+
+void OnboardingModel::goOn() {
+  ++_step;
+  emit stepChanged();
+}
+
+void OnboardingModel::finish(bool scans) {
+  if (_isFinished) return;
+  _isFinished = true;
+  _defaults.set("onboarding_complete", true);
+  _defaults.set("fda_prompt_shown", true);
+  emit finished(scans);
+}
+
+}  // namespace klarvik

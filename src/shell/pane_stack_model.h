@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QAbstractListModel>
+#include <vector>
+
+#include "shell/tool_panes.h"
+#include "state/navigator.h"
+
+namespace klarvik {
+
+/// The landed panes in section order, all alive at once; selecting a section only changes which one
+/// can be seen and reached. Main thread only.
+class PaneStackModel : public QAbstractListModel {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("The shell makes it.")
+ public:
+  enum Role { ViewRole = Qt::UserRole, ModelRole, IsSelectedRole };
+
+  PaneStackModel(std::vector<LandedPane> panes, const Navigator& navigator,
+                 QObject* parent = nullptr);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+ private:
+  std::vector<LandedPane> _panes;
+  const Navigator& _navigator;
+};
+
+}  // namespace klarvik

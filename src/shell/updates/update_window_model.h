@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <QString>
+
+#include "platform/platform.h"
+#include "shell/updates/update_window_content.h"
+
+namespace klarvik {
+
+/// The updater's own small window: what it has found, what it is doing, and the user's answers.
+/// Main thread only; `desktop` must outlive it.
+class UpdateWindowModel : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("The program makes it.")
+  Q_PROPERTY(bool isShown READ isShown NOTIFY isShownChanged)
+  Q_PROPERTY(QString title READ title NOTIFY changed)
+  Q_PROPERTY(QString detail READ detail NOTIFY changed)
+  Q_PROPERTY(QString notes READ notes NOTIFY changed)
+  Q_PROPERTY(bool hasNotesLink READ hasNotesLink NOTIFY changed)
+  Q_PROPERTY(bool hasBar READ hasBar NOTIFY changed)
+  Q_PROPERTY(bool barHasEnd READ barHasEnd NOTIFY changed)
+  Q_PROPERTY(double progress READ progress NOTIFY changed)
+  Q_PROPERTY(QString primary READ primary NOTIFY changed)
+  Q_PROPERTY(QString secondary READ secondary NOTIFY changed)
+
+ public:
+  explicit UpdateWindowModel(const Desktop& desktop, QObject* parent = nullptr);
+  ~UpdateWindowModel() override;
+
+  [[nodiscard]] bool isShown() const { return _isShown; }
+  [[nodiscard]] QString title() const;
+  [[nodiscard]] QString detail() const;
+  [[nodiscard]] QString notes() const;
+  [[nodiscard]] bool hasNotesLink() const { return !_content.notesLink.empty(); }
+  [[nodiscard]] bool hasBar() const { return _content.progress != UpdateWindowContent::noBar; }
+  [[nodiscard]] bool barHasEnd() const { return _content.progress >= 0; }
+  [[nodiscard]] double progress() const { return _content.progress; }
+  [[nodiscard]] QString primary() const;
+  [[nodiscard]] QString secondary() const;
+
+  Q_INVOKABLE void goOn();
+  /// Also when the window is closed.
+  Q_INVOKABLE void dismiss();
+  Q_INVOKABLE void openNotes();
+
+ signals:
+  void isShownChanged();
+  void changed();
+  /// The user has asked for what is shown, so that it belongs before all other windows.
+  void isAskedFor();
+
+ private:
+  void show(const UpdateStage& stage);
+
+  const Desktop& _desktop;
+  UpdateWindowContent _content;
+  bool _isShown = false;
+};
+
+}  // namespace klarvik
