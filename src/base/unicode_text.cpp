@@ -74,7 +74,7 @@ std::string lowercased(std::string_view text) {
     const auto size = static_cast<std::int32_t>(stretch.size());
     icu::CaseMap::utf8ToLower("", 0, icu::StringPiece(stretch.data(), size), sink, nullptr, status);
   };
-  forEachUtf8Run(text, lower, [&](std::string_view rubbish) { result += rubbish; });
+  forEachUtf8Run(text, lower, [&](std::string_view garbage) { result += garbage; });
   return result;
 }
 
@@ -93,7 +93,7 @@ std::size_t characterCount(std::string_view text) {
   std::size_t count = 0;
   forEachUtf8Run(
       text, [&](std::string_view stretch) { count += charactersOfText(stretch); },
-      [&](std::string_view rubbish) { count += rubbish.size(); });
+      [&](std::string_view garbage) { count += garbage.size(); });
   return count;
 }
 

@@ -1,11 +1,11 @@
 // Every removal of a found item or a picked file, and the way back.
 
 #include "base/bytes.h"
+#include "base/parallel_for.h"
 #include "base/paths.h"
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"
 #include "engine/local_snapshots.h"
-#include "engine/parallel_for.h"
 #include "engine/place_scanner.h"
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
@@ -80,8 +80,10 @@ std::vector<DeletionOutcome> ScannerEngine::deleteItems(const std::vector<JunkIt
   std::vector<DeletionOutcome> outcomes;
   ProgressCounter tally(items.size(), stop, progress);
   parallelFor(
-      items.size(), deletionWidth, stop,
-      [&](std::size_t number) { byNumber[number] = deleteItem(items[number], useTrash); },
+      {.count = items.size(), .width = deletionWidth, .stop = stop},
+      [&](std::size_t number, std::size_t) {
+        byNumber[number] = deleteItem(items[number], useTrash);
+      },
       [&](std::size_t number) {
         outcomes.push_back(std::move(byNumber[number]));
         outcomes.back().item = number;
@@ -109,8 +111,8 @@ std::set<Path> ScannerEngine::trashFiles(const std::vector<PickedFile>& files, s
   std::set<Path> moved;
   ProgressCounter tally(files.size(), stop, progress);
   parallelFor(
-      files.size(), deletionWidth, stop,
-      [&](std::size_t number) { byNumber[number] = trashFile(files[number], check); },
+      {.count = files.size(), .width = deletionWidth, .stop = stop},
+      [&](std::size_t number, std::size_t) { byNumber[number] = trashFile(files[number], check); },
       [&](std::size_t number) {
         const PickedFileOutcome& outcome = byNumber[number];
         if (outcome.moved) moved.insert(outcome.url);

@@ -87,11 +87,6 @@ std::string_view rawValue(CategoryType type) {
   return category(type).name;
 }
 
-std::optional<CategoryType> categoryType(std::string_view rawValue) {
-  const auto* found = std::ranges::find(categories, rawValue, &Category::name);
-  return found != categories.end() ? std::optional(found->type) : std::nullopt;
-}
-
 std::string_view icon(CategoryType type) {
   return category(type).icon;
 }

@@ -37,7 +37,6 @@ enum class SystemColor { blue, purple, indigo, orange, yellow, green, red, cyan,
 
 /// The key under which the history stores a category. What the user reads is the layout's `label`.
 [[nodiscard]] std::string_view rawValue(CategoryType type);
-[[nodiscard]] std::optional<CategoryType> categoryType(std::string_view rawValue);
 [[nodiscard]] std::string_view icon(CategoryType type);
 [[nodiscard]] SystemColor color(CategoryType type);
 [[nodiscard]] SafetyLevel safety(CategoryType type);

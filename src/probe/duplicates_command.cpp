@@ -4,9 +4,9 @@
 #include "base/text.h"
 #include "probe/command.h"
 #include "probe/report.h"
+#include "tools/duplicate_removal_guard.h"
 #include "tools/duplicate_scanner.h"
 #include "tools/duplicate_selection.h"
-#include "tools/keeper_check.h"
 
 namespace klarvik::probe {
 
@@ -84,7 +84,7 @@ int trashDuplicates(const Invocation& call) {
   const auto& platform = call.platform;
   const auto moved = ScannerEngine(platform).trashFiles(
       files, call.stop, [](const DeletionProgress& progress) { print(progressReport(progress)); },
-      keeperCheck(platform.files, platform.trash, std::move(kept), call.stop));
+      duplicateRemovalGuard(platform.files, platform.trash, std::move(kept), call.stop));
   for (const Path& path : moved) print({{"event", "moved"}, {"path", pathReport(path)}});
   return 0;
 }

@@ -17,14 +17,14 @@ ColumnLayout {
         Layout.fillWidth: true
         spacing: 8
 
-        KitText {
+        Label {
             Layout.fillWidth: true
             text: root.model.volumeName
             size: 12
             elide: Text.ElideMiddle
         }
 
-        KitText {
+        Label {
             text: root.model.percentFull
             size: 11
             color: Theme.textSecondary

@@ -24,7 +24,7 @@ Sheet {
     spacing: 14
     onCancelled: model.dismiss()
 
-    component Sentence: KitText {
+    component Sentence: Label {
         width: parent?.width ?? 0
         size: 12
         color: Theme.textSecondary
@@ -40,7 +40,7 @@ Sheet {
         color: root.model.isGranted ? Theme.safe : Theme.accent
     }
 
-    KitText {
+    Label {
         width: parent.width
         text: root.model.title
         size: 17
@@ -78,7 +78,7 @@ Sheet {
                     radius: 10
                     color: Theme.white(0.12)
 
-                    KitText {
+                    Label {
                         anchors.centerIn: parent
                         text: step.index + 1
                         size: 11

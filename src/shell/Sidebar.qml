@@ -29,7 +29,7 @@ Rectangle {
                 size: 22
             }
 
-            KitText {
+            Label {
                 text: "Klarvik"
                 size: 14
                 weight: Font.DemiBold

@@ -34,7 +34,7 @@ Pressable {
         color: root.isSelected ? Theme.accent : Theme.white(root.hovered ? 0.06 : 0)
     }
 
-    KitText {
+    Label {
         anchors.left: parent.left
         anchors.leftMargin: 8
         anchors.bottom: parent.bottom
@@ -81,7 +81,7 @@ Pressable {
             }
         }
 
-        KitText {
+        Label {
             Layout.fillWidth: true
             text: root.label
             color: root.tint

@@ -36,12 +36,12 @@ Pressable {
             Layout.fillWidth: true
             spacing: 2
 
-            KitText {
+            Label {
                 Layout.fillWidth: true
                 text: qsTr("Trash")
             }
 
-            KitText {
+            Label {
                 Layout.fillWidth: true
                 text: root.model.subtitle
                 size: 11

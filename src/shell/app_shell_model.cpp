@@ -2,7 +2,7 @@
 
 namespace klarvik {
 
-AppShellModel::AppShellModel(const std::vector<LandedPane>& panes, AppState& appState,
+AppShellModel::AppShellModel(const std::vector<PaneEntry>& panes, AppState& appState,
                              SharedState& shared, AppCommandsModel& commands,
                              const Desktop& desktop, QObject* parent)
     : QObject(parent),

@@ -33,7 +33,7 @@ class AppShellModel : public QObject {
   Q_PROPERTY(QString removalNotice READ removalNotice NOTIFY removalNoticeChanged)
 
  public:
-  AppShellModel(const std::vector<LandedPane>& panes, AppState& appState, SharedState& shared,
+  AppShellModel(const std::vector<PaneEntry>& panes, AppState& appState, SharedState& shared,
                 AppCommandsModel& commands, const Desktop& desktop, QObject* parent = nullptr);
 
   [[nodiscard]] SidebarModel* sidebar() { return &_sidebar; }

@@ -164,18 +164,18 @@ void KlarvikApp::makeShell() {
 
 /// In the order of their turns, since whoever asks first while nobody has it is given the turn.
 void KlarvikApp::letPanesAppear() {
-  std::vector<LandedPane> inTurn = _panes;
-  std::ranges::sort(inTurn, {}, [](const LandedPane& pane) { return tool(pane.section).turn; });
-  for (const LandedPane& pane : inTurn) pane.model->appear();
+  std::vector<PaneEntry> inTurn = _panes;
+  std::ranges::sort(inTurn, {}, [](const PaneEntry& pane) { return tool(pane.section).turn; });
+  for (const PaneEntry& pane : inTurn) pane.model->appear();
 }
 
 /// All are stopped before one is waited for: else the others would go on removing meanwhile.
 void KlarvikApp::finishRemovals() {
   appState().stopRemovals();
   _shared.trashMonitor().stopEmptying();
-  for (const LandedPane& pane : _panes) pane.model->stopRemovals();
+  for (const PaneEntry& pane : _panes) pane.model->stopRemovals();
   appState().finishRemovals();
-  for (const LandedPane& pane : _panes) pane.model->finishRemovals();
+  for (const PaneEntry& pane : _panes) pane.model->finishRemovals();
   _shared.trashMonitor().finishEmptying();
 }
 

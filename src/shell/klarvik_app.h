@@ -70,7 +70,7 @@ class KlarvikApp : public QObject {
   std::stop_source _stop;
   std::unique_ptr<AppState> _appState;
   bool _onboardingComplete;
-  std::vector<LandedPane> _panes;  ///< none before the first run is through
+  std::vector<PaneEntry> _panes;  ///< none before the first run is through
   AppCommandsModel _commands;
   OnboardingModel _onboarding;
   std::unique_ptr<AppShellModel> _shell;

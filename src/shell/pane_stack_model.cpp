@@ -5,10 +5,10 @@
 
 namespace klarvik {
 
-PaneStackModel::PaneStackModel(std::vector<LandedPane> panes, const Navigator& navigator,
+PaneStackModel::PaneStackModel(std::vector<PaneEntry> panes, const Navigator& navigator,
                                QObject* parent)
     : QAbstractListModel(parent), _panes(std::move(panes)), _navigator(navigator) {
-  std::ranges::sort(_panes, {}, &LandedPane::section);
+  std::ranges::sort(_panes, {}, &PaneEntry::section);
   connect(&navigator, &Navigator::sectionChanged, this, [this] {
     if (!_panes.empty()) {
       emit dataChanged(index(0), index(rowCount() - 1), {IsSelectedRole});
@@ -24,7 +24,7 @@ QVariant PaneStackModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
     return {};
   }
-  const LandedPane& pane = _panes[static_cast<std::size_t>(index.row())];
+  const PaneEntry& pane = _panes[static_cast<std::size_t>(index.row())];
   switch (role) {
     case ViewRole:
       return pane.view;

@@ -18,7 +18,7 @@ class PaneStackModel : public QAbstractListModel {
  public:
   enum Role { ViewRole = Qt::UserRole, ModelRole, IsSelectedRole };
 
-  PaneStackModel(std::vector<LandedPane> panes, const Navigator& navigator,
+  PaneStackModel(std::vector<PaneEntry> panes, const Navigator& navigator,
                  QObject* parent = nullptr);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -26,7 +26,7 @@ class PaneStackModel : public QAbstractListModel {
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
  private:
-  std::vector<LandedPane> _panes;
+  std::vector<PaneEntry> _panes;
   const Navigator& _navigator;
 };
 

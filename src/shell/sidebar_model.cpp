@@ -15,7 +15,7 @@ QString text(std::string_view utf8) {
 
 }  // namespace
 
-SidebarModel::SidebarModel(const std::vector<LandedPane>& panes, const AppState& appState,
+SidebarModel::SidebarModel(const std::vector<PaneEntry>& panes, const AppState& appState,
                            const ScanCoordinator& coordinator, const ToolActivity& activity,
                            Navigator& navigator, const Formatting& formatting, QObject* parent)
     : QAbstractListModel(parent),
@@ -26,7 +26,7 @@ SidebarModel::SidebarModel(const std::vector<LandedPane>& panes, const AppState&
       _formatting(formatting) {
   std::string_view group;
   for (const Tool& tool : tools()) {
-    if (std::ranges::find(panes, tool.section, &LandedPane::section) == panes.end()) {
+    if (std::ranges::find(panes, tool.section, &PaneEntry::section) == panes.end()) {
       continue;
     }
     if (tool.group != group) {

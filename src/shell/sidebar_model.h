@@ -34,7 +34,7 @@ class SidebarModel : public QAbstractListModel {
     DescriptionRole,
   };
 
-  SidebarModel(const std::vector<LandedPane>& panes, const AppState& appState,
+  SidebarModel(const std::vector<PaneEntry>& panes, const AppState& appState,
                const ScanCoordinator& coordinator, const ToolActivity& activity,
                Navigator& navigator, const Formatting& formatting, QObject* parent = nullptr);
 

@@ -17,7 +17,7 @@ QUrl view(const QString& file) {
 
 }  // namespace
 
-std::vector<LandedPane> makePanes(AppState& appState, SharedState& shared, const Desktop& desktop) {
+std::vector<PaneEntry> makePanes(AppState& appState, SharedState& shared, const Desktop& desktop) {
   return {
       {Section::smartScan, view("SmartScanPane.qml"),
        std::make_shared<SmartScanModel>(appState, shared, desktop)},

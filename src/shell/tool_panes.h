@@ -13,7 +13,7 @@
 namespace klarvik {
 
 /// A section whose pane exists: the QML file that draws it, and the model it is handed as `model`.
-struct LandedPane {
+struct PaneEntry {
   Section section = Section::smartScan;
   QUrl view;
   std::shared_ptr<ToolPane> model;
@@ -21,7 +21,7 @@ struct LandedPane {
 
 /// The pane of every tool, in the order of the sidebar. Main thread only; everything handed in must
 /// outlive them.
-[[nodiscard]] std::vector<LandedPane> makePanes(AppState& appState, SharedState& shared,
-                                                const Desktop& desktop);
+[[nodiscard]] std::vector<PaneEntry> makePanes(AppState& appState, SharedState& shared,
+                                               const Desktop& desktop);
 
 }  // namespace klarvik

@@ -18,7 +18,7 @@
 #include "core/junk_model.h"
 #include "engine/scanner_engine.h"
 #include "platform/platform.h"
-#include "state/background_tasks.h"
+#include "platform/main_loop/background_tasks.h"
 #include "state/item_selection.h"
 #include "state/removal_notice.h"
 #include "state/scan_coordinator.h"

@@ -6,7 +6,7 @@
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "state/app_state.h"
-#include "state/coalescing_queue.h"
+#include "platform/main_loop/coalescing_queue.h"
 #include "state/combined_stop_token.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "platform/clock.h"
-#include "state/background_tasks.h"
-#include "state/coalescing_queue.h"
+#include "platform/main_loop/background_tasks.h"
+#include "platform/main_loop/coalescing_queue.h"
 
 namespace klarvik {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "state/coalescing_queue.h"
+#include "platform/main_loop/coalescing_queue.h"
 
 namespace klarvik {
 

@@ -11,7 +11,7 @@
 
 #include "engine/scanner_engine.h"
 #include "platform/platform.h"
-#include "state/background_tasks.h"
+#include "platform/main_loop/background_tasks.h"
 #include "state/removal_notice.h"
 
 namespace klarvik {

@@ -7,7 +7,7 @@
 #include "engine/allocated_size.h"
 #include "platform/notification_center.h"
 #include "platform/trash.h"
-#include "state/coalescing_queue.h"
+#include "platform/main_loop/coalescing_queue.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
 

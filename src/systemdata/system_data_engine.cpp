@@ -42,10 +42,4 @@ std::int64_t SystemDataEngine::freeBytes() const {
   return _platform.volume.availableBytes().value_or(0);
 }
 
-std::vector<SystemDataItem> SystemDataEngine::listChildren(const Path& url,
-                                                           SystemDataSubCategory kind,
-                                                           std::int64_t minimumSize) const {
-  return SystemDataSearch(_platform).children(url, kind, minimumSize);
-}
-
 }  // namespace klarvik

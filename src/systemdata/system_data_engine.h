@@ -35,10 +35,6 @@ class SystemDataEngine {
   [[nodiscard]] std::int64_t measure(const Path& url) const;
   /// Of the volume, for the user; 0 where it does not tell.
   [[nodiscard]] std::int64_t freeBytes() const;
-  /// One item for each child of at least `minimumSize` bytes, links left out, largest first.
-  [[nodiscard]] std::vector<SystemDataItem> listChildren(const Path& url,
-                                                         SystemDataSubCategory kind,
-                                                         std::int64_t minimumSize) const;
 
  private:
   const Platform& _platform;

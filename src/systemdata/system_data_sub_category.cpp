@@ -107,11 +107,6 @@ std::string_view rawValue(SystemDataSubCategory kind) {
   return row(kind).name;
 }
 
-std::optional<SystemDataSubCategory> systemDataSubCategory(std::string_view rawValue) {
-  const auto* found = std::ranges::find(kinds, rawValue, &Kind::name);
-  return found != kinds.end() ? std::optional(found->kind) : std::nullopt;
-}
-
 std::string_view icon(SystemDataSubCategory kind) {
   return row(kind).icon;
 }

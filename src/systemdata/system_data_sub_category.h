@@ -17,8 +17,6 @@ allSystemDataSubCategories();
 
 /// The key under which a pane remembers a kind. What the user reads is its `label`.
 [[nodiscard]] std::string_view rawValue(SystemDataSubCategory kind);
-/// Nothing for a name that no kind has.
-[[nodiscard]] std::optional<SystemDataSubCategory> systemDataSubCategory(std::string_view rawValue);
 /// The name of a symbol.
 [[nodiscard]] std::string_view icon(SystemDataSubCategory kind);
 [[nodiscard]] RgbColor color(SystemDataSubCategory kind);

@@ -27,7 +27,6 @@ struct ResidualFile {
   Path url{};
   std::int64_t size = 0;  ///< bytes of content, hidden things left out; at least 1
   ResidualCategory category = ResidualCategory::other;
-  bool isSelected = true;
   /// As it was found. Another thing that comes to its name later is not removed in its place.
   std::optional<EntryIdentity> identity = std::nullopt;
 
@@ -41,7 +40,6 @@ struct AppInfo {
   std::string bundleID;
   Path appURL{};             ///< the .app folder
   std::int64_t appSize = 0;  ///< bytes of content, hidden things left out
-  std::vector<ResidualFile> residuals{};
   /// As it was found. Another thing that comes to its name later is not removed in its place.
   std::optional<EntryIdentity> identity = std::nullopt;
 

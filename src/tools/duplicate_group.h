@@ -20,7 +20,6 @@ struct DuplicateFile {
   Path url = {};
   std::int64_t size = 0;                            ///< bytes; 0 when the file could not be asked
   std::optional<Date> modifiedDate = std::nullopt;  ///< nothing when the file could not be asked
-  bool isSelected = false;
   /// As it was found. Another thing that comes to its name later is not removed in its place.
   std::optional<EntryIdentity> identity = std::nullopt;
 

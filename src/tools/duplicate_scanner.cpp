@@ -10,11 +10,12 @@
 #include <unordered_map>
 #include <utility>
 
+#include "base/parallel_for.h"
 #include "engine/allocated_size.h"
 #include "platform/file_system.h"
 #include "platform/packages.h"
+#include "tools/content_digest.h"
 #include "tools/found_files.h"
-#include "tools/parallel_hashing.h"
 
 namespace klarvik {
 
@@ -145,23 +146,42 @@ FileNumbers sameSized(const FileSystem& files, const FoundFiles& found) {
 
 using Report = std::function<void(double fraction, std::int64_t groupsFound, std::string line)>;
 
+/// What one thread hashes found files with.
+class FileHashing {
+ public:
+  FileHashing(const FileSystem& files, const FoundFiles& found) : _access(files, found) {}
+
+  [[nodiscard]] std::optional<Digest> digest(std::size_t number) {
+    return _hasher.digest(_access.openForReading(number));
+  }
+
+ private:
+  FoundFileAccess _access;
+  ContentHasher _hasher;
+};
+
 Contents hashed(const FileSystem& files, const FoundFiles& found, const FileNumbers& numbers,
                 std::size_t width, const Report& report) {
   Contents contents;
-  const auto makeOpen = [&] {
-    return [&numbers, access = std::make_shared<FoundFileAccess>(files, found)](std::size_t at) {
-      return access->openForReading(numbers[at]);
-    };
+  const auto reportBefore = [&](std::size_t at) {
+    if (at % filesAReport != 0 || at == numbers.size()) return;
+    const double part = static_cast<double>(at) / static_cast<double>(numbers.size());
+    report(0.15 + part * 0.8, contents.shared(), found.name(numbers[at]));
   };
-  ParallelHashing hashing(numbers.size(), makeOpen, width);
-  const auto count = static_cast<double>(numbers.size());
-  for (std::size_t at = 0; at < numbers.size(); ++at) {
-    if (at % filesAReport == 0) {
-      report(0.15 + static_cast<double>(at) / count * 0.8, contents.shared(),
-             found.name(numbers[at]));
-    }
-    if (const auto digest = hashing.next()) contents.add(*digest, numbers[at]);
-  }
+  std::vector<std::unique_ptr<FileHashing>> threads(width);
+  std::vector<std::optional<Digest>> digests(numbers.size());
+  reportBefore(0);
+  parallelFor(
+      {.count = numbers.size(), .width = width, .order = ParallelOrder::byNumber},
+      [&](std::size_t at, std::size_t number) {
+        auto& thread = threads[number];
+        if (!thread) thread = std::make_unique<FileHashing>(files, found);
+        digests[at] = thread->digest(numbers[at]);
+      },
+      [&](std::size_t at) {
+        if (digests[at]) contents.add(*digests[at], numbers[at]);
+        reportBefore(at + 1);
+      });
   return contents;
 }
 
@@ -223,12 +243,6 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
   report(1.0, static_cast<std::int64_t>(groups.size()), "Done");
   std::ranges::stable_sort(groups, std::ranges::greater(), &DuplicateGroup::reclaimableBytes);
   return groups;
-}
-
-std::optional<std::string> DuplicateScanner::hashFile(const Path& url) {
-  const std::scoped_lock lock(_scanning);
-  const auto digest = ContentHasher().digest(_files.openForReading(url));
-  return digest ? std::optional(hexadecimal(*digest)) : std::nullopt;
 }
 
 }  // namespace klarvik

@@ -50,10 +50,6 @@ class DuplicateScanner {
                                                  std::int64_t minimumSize,
                                                  const ProgressSink& progress);
 
-  /// 64 hexadecimal digits; nothing only when the file cannot be opened for reading. Reading that
-  /// fails half-way gives the digest of what was read.
-  [[nodiscard]] std::optional<std::string> hashFile(const Path& url);
-
  private:
   const FileSystem& _files;
   const std::size_t _hashedAtOnce;

@@ -46,7 +46,7 @@ std::string_view LargeFile::kind() const {
       if (std::ranges::find(kind.extensions, wanted) != kind.extensions.end()) return kind.name;
     }
   }
-  return isDirectory ? "Folder" : "Other";
+  return "Other";
 }
 
 std::string LargeFile::lastOpenedText(const Formatting& formatting, Date now) const {

@@ -23,7 +23,6 @@ struct LargeFile {
   std::int64_t size = 0;  ///< bytes; the length of the content
   std::optional<Date> modifiedDate = std::nullopt;
   std::optional<Date> lastOpened = std::nullopt;  ///< when the file system last saw it read
-  bool isDirectory = false;                       ///< never of what a walk lists
   /// As it was found. Another thing that comes to its name later is not removed in its place.
   std::optional<EntryIdentity> identity = std::nullopt;
 

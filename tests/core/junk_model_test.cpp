@@ -63,19 +63,6 @@ TEST(CategoryType, ListsTheElevenPlacesWithTheirTextsInOrder) {
   }
 }
 
-TEST(CategoryType, IsFoundAgainByItsName) {
-  for (const CategoryType type : allCategoryTypes()) {
-    EXPECT_EQ(categoryType(rawValue(type)), type);
-  }
-  EXPECT_EQ(categoryType("Leftovers"), CategoryType::systemData);
-}
-
-TEST(CategoryType, IsNotFoundByAnyOtherText) {
-  for (const std::string_view text : {"", "System Data", "systemData", "trash", "Trash ", "Logs"}) {
-    EXPECT_EQ(categoryType(text), std::nullopt) << text;
-  }
-}
-
 TEST(JunkItem, DiffersFromItsTwinOfAnotherScan) {
   EXPECT_NE(itemOf(1), itemOf(1));
 }

@@ -23,8 +23,8 @@ TEST(Shell, AToolThatIsMissingOrPrintsNothingGivesTheEmptyText) {
 
 TEST(Shell, AToolThatPrintsRubbishGivesTheEmptyText) {
   FakeCommandRunner commands;
-  commands.answer("rubbish", "size \xff\xfe\n");
-  EXPECT_EQ(runShell(commands, "rubbish"), "");
+  commands.answer("garbage", "size \xff\xfe\n");
+  EXPECT_EQ(runShell(commands, "garbage"), "");
 }
 
 TEST(Shell, RunsPipelinesAndTakesNoNoticeOfTheExitStatus) {

@@ -136,11 +136,11 @@ TEST_F(ApplicationBundleTest, ATextMayHoldALineBreakASlashOrAnything) {
 TEST_F(ApplicationBundleTest, WhatIsNoPropertyListIsNoBundle) {
   EXPECT_FALSE(ApplicationBundle::at(files, "/Applications/Missing.app"));
   EXPECT_FALSE(bundle());
-  for (const std::string_view rubbish :
+  for (const std::string_view garbage :
        {"", " ", "x", "bplist00", "bplist01", "<plist>", "<plist></plist>", "<plist/>",
         "<plist><array/></plist>", "<plist><string>text</string></plist>", "{ a = b; }",
         "{\"CFBundleIdentifier\": \"com.acme\"}", "<html></html>", "<!DOCTYPE"}) {
-    EXPECT_FALSE(bundleOf(rubbish)) << rubbish;
+    EXPECT_FALSE(bundleOf(garbage)) << garbage;
   }
   EXPECT_FALSE(bundleOf(std::string(1'000, '\0')));
 }

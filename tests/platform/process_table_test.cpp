@@ -55,7 +55,7 @@ TEST(ProcessTable, ALockIsHeldWhileItsProcessRunsOrWhileNobodyCanTell) {
   EXPECT_TRUE(isHeld(std::string(machine.data()) + "-10"));
   EXPECT_FALSE(isHeld(std::string(machine.data()) + "-11"));
   EXPECT_TRUE(isHeld("another machine of the same home-11"));
-  for (const char* rubbish : {"x", "12", "host-", "-"}) EXPECT_FALSE(isHeld(rubbish)) << rubbish;
+  for (const char* garbage : {"x", "12", "host-", "-"}) EXPECT_FALSE(isHeld(garbage)) << garbage;
   folder.makeFile("/no link", 1);
   EXPECT_FALSE(programs.isLockHeld(folder.onDisk("/no link")));
   EXPECT_FALSE(programs.isLockHeld(folder.onDisk("/missing")));

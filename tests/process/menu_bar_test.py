@@ -164,7 +164,7 @@ class OnATrayThatEmbedsIcons(MenuBarTest):
         klarvik.wait_until(self.icon_place, "The icon in the tray")
         self.home.prefer({"showMenuBar": False})
         klarvik.wait_until(lambda: not self.icon_place(), "The end of the icon")
-        self.home.prefer({"showMenuBar": "rubbish"})
+        self.home.prefer({"showMenuBar": "garbage"})
         klarvik.wait_until(self.icon_place, "The icon again")
         self.close_main_window(klarvik)
         self.home.prefer({"showMenuBar": False})

@@ -14,8 +14,8 @@ namespace {
 
 class SidebarRows : public ::testing::Test {
  protected:
-  [[nodiscard]] std::vector<LandedPane> landed(const std::vector<Section>& sections) {
-    std::vector<LandedPane> panes;
+  [[nodiscard]] std::vector<PaneEntry> landed(const std::vector<Section>& sections) {
+    std::vector<PaneEntry> panes;
     for (const Section section : sections) {
       panes.push_back({section, QUrl("qrc:/none.qml"), std::make_shared<ToolPane>()});
     }

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "scripted_app_state.h"
+#include "fake_app_state.h"
 #include "support/application/main_loop.h"
 
 namespace klarvik {
@@ -17,7 +17,7 @@ inline CleanCategory categoryOf(CategoryType type, std::vector<JunkItem> items) 
   return {.type = type, .items = std::move(items)};
 }
 
-class AppStateFixture : public ::testing::Test, protected ScriptedAppState {
+class AppStateFixture : public ::testing::Test, protected FakeAppState {
  protected:
   ~AppStateFixture() override {
     state.reset();

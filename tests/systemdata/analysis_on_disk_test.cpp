@@ -36,6 +36,9 @@ struct DiskAnalysis {
   FaultInjectingFileSystem& files = around.files;
   SystemDataEngine engine{around.desktop};
 
+  [[nodiscard]] std::vector<SystemDataItem> children(const Path& folder, std::int64_t minimumSize) {
+    return SystemDataSearch(around.desktop).children(folder, Kind::caches, minimumSize);
+  }
   std::vector<SystemDataItem> items() {
     return engine.analyse([](const std::string&, double) {}).items();
   }
@@ -225,9 +228,9 @@ TEST_F(AnalysisOnDisk, ChildrenComeLargestFirstWithoutLinksAndSmallOnes) {
   makeFileOf(caches / "tiny/a", 9);
   makeFileOf(caches / "plain file", 20);
   folder.makeLink(caches / "link", "large");
-  EXPECT_THAT(analysis.engine.listChildren(caches, Kind::caches, 0), SizeIs(4));
+  EXPECT_THAT(analysis.children(caches, 0), SizeIs(4));
   std::vector<std::pair<std::string, std::int64_t>> found;
-  for (const auto& item : analysis.engine.listChildren(caches, Kind::caches, 10)) {
+  for (const auto& item : analysis.children(caches, 10)) {
     found.emplace_back(item.name, item.size);
   }
   using Row = std::pair<std::string, std::int64_t>;
@@ -238,7 +241,7 @@ TEST_F(AnalysisOnDisk, AFolderThatCannotBeListedHasNoChildren) {
   makeFileOf(caches / "a/a", 10'000'000);
   analysis.files.fail(Operation::list, caches);
   EXPECT_THAT(analysis.items(), IsEmpty());
-  EXPECT_THAT(analysis.engine.listChildren("/missing", Kind::caches, 0), IsEmpty());
+  EXPECT_THAT(analysis.children("/missing", 0), IsEmpty());
 }
 
 TEST_F(AnalysisOnDisk, AnErrorInAskingForALinkCountsAsNoLink) {
@@ -350,7 +353,7 @@ TEST_F(AnalysisOnDisk, ManyChildrenInOneFolderAreEachLookedAt) {
     if (number == 0) std::filesystem::create_directories(child.parent_path());
     ASSERT_EQ(::mknod(child.c_str(), S_IFREG | 0644, 0), 0);
   }
-  EXPECT_THAT(analysis.engine.listChildren(caches, Kind::caches, 0), SizeIs(count));
+  EXPECT_THAT(analysis.children(caches, 0), SizeIs(count));
   EXPECT_THAT(analysis.items(), IsEmpty());
 }
 

@@ -125,17 +125,5 @@ TEST(SystemDataSubCategory, NamesNoOtherSystemOnALinuxDisk) {
   }
 }
 
-TEST(SystemDataSubCategory, IsFoundAgainByItsName) {
-  for (const SystemDataSubCategory kind : allSystemDataSubCategories()) {
-    EXPECT_EQ(systemDataSubCategory(rawValue(kind)), kind);
-  }
-}
-
-TEST(SystemDataSubCategory, AnUnknownNameGivesNothing) {
-  for (const char* const name : {"", "logs", "Logs ", "Other", "applicationSupport"}) {
-    EXPECT_EQ(systemDataSubCategory(name), std::nullopt) << name;
-  }
-}
-
 }  // namespace
 }  // namespace klarvik

@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "content_hash.h"
 #include "platform/linux/linux_file_system.h"
 #include "support/fault_injecting_file_system.h"
 #include "support/temporary_folder.h"
@@ -19,7 +20,7 @@ class DuplicateCheckTest : public testing::Test {
   void SetUp() override {
     disk.makeFile("/keeper", content);
     disk.makeFile("/copy", content);
-    hash = *DuplicateScanner(files).hashFile("/keeper");
+    hash = *contentHash(files, "/keeper");
   }
 
   [[nodiscard]] bool mayRemove(const Path& keeper = "/keeper", const Path& copy = "/copy") const {
@@ -48,7 +49,7 @@ TEST_F(DuplicateCheckTest, ACopyMayGoWhileTheKeptOneHoldsTheSame) {
 TEST_F(DuplicateCheckTest, AnEmptyCopyMayGoToo) {
   disk.makeFile("/keeper");
   disk.makeFile("/copy");
-  hash = *DuplicateScanner(files).hashFile("/keeper");
+  hash = *contentHash(files, "/keeper");
   EXPECT_TRUE(mayRemove());
 }
 
@@ -115,7 +116,7 @@ TEST_F(DuplicateCheckTest, AReadThatFailsHalfWayRefusesAlsoWhenBothFailAtTheSame
   files.failReadingAfter(300'000, "/keeper");
   EXPECT_FALSE(mayRemove());
   files.failReadingAfter(300'000, "/copy");
-  hash = *DuplicateScanner(files).hashFile("/copy");
+  hash = *contentHash(files, "/copy");
   EXPECT_FALSE(mayRemove());
 }
 
@@ -170,7 +171,7 @@ TEST_F(DuplicateCheckTest, EveryCopyOfAGroupCanNeverGo) {
     std::filesystem::create_hard_link(other.onDisk("/real/0"), other.onDisk("/real/1"));
     other.makeFile("/real/2", "content");
     other.makeLink("/link", other.onDisk("/real"));
-    const std::string digest = *DuplicateScanner(place).hashFile("/real/0");
+    const std::string digest = *contentHash(place, "/real/0");
     for (int attempt = 0; attempt < 60; ++attempt) {
       const auto name = [&] {
         return (random() % 2 == 0 ? Path("/real") : Path("/link")) / std::to_string(random() % 3);

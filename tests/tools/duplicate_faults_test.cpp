@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include "base/posix_io.h"
+#include "content_hash.h"
 #include "platform/linux/linux_file_system.h"
 #include "support/child_process.h"
 #include "support/fault_injecting_file_system.h"
@@ -147,7 +148,7 @@ TEST_F(DuplicateFaults, TwoFilesWhoseReadsFailHalfWayAreComparedByWhatWasRead) {
 TEST_F(DuplicateFaults, AReadThatFailsAtOnceGivesTheDigestOfNothing) {
   makeCopies({"/a"});
   files.failReadingAfter(0, "/a");
-  EXPECT_EQ(DuplicateScanner(files).hashFile("/a"),
+  EXPECT_EQ(contentHash(files, "/a"),
             "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
 }
 
@@ -162,7 +163,7 @@ TEST_F(DuplicateFaults, APipeASocketAndADeviceAreNeverOpened) {
   EXPECT_THAT(scan({"/"}, 0), testing::SizeIs(1));
   EXPECT_FALSE(opened);
   const LinuxFileSystem machine("/", "/Users/ann");
-  EXPECT_EQ(DuplicateScanner(machine).hashFile("/dev/zero"), std::nullopt);
+  EXPECT_EQ(contentHash(machine, "/dev/zero"), std::nullopt);
 }
 
 TEST_F(DuplicateFaults, AFileSwappedForAPipeBeforeItIsHashedHoldsNothingUp) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "content_hash.h"
 #include "platform/linux/linux_file_system.h"
 #include "support/fault_injecting_file_system.h"
 #include "support/temporary_folder.h"
@@ -150,7 +151,6 @@ TEST_F(DuplicateScannerTest, RenamedCopiesInDifferentFoldersFormOneGroup) {
   EXPECT_EQ(groups[0].reclaimableBytes(), 7);
   for (const DuplicateFile& file : groups[0].files) {
     EXPECT_EQ(file.size, 7);
-    EXPECT_FALSE(file.isSelected);
     EXPECT_EQ(file.modifiedDate, files.attributes(file.url)->modified);
   }
   EXPECT_NE(groups[0].files[0].id, groups[0].files[1].id);
@@ -246,12 +246,13 @@ TEST_F(DuplicateScannerTest, AFileThatFillsSeveralChunksIsHashedWhole) {
   EXPECT_THAT(found({"/"}), ElementsAre(ElementsAre("/a", "/b")));
 }
 
-TEST_F(DuplicateScannerTest, HashFileGivesTheDigestOfTheWholeContent) {
-  disk.makeFile("/a", "abc");
-  DuplicateScanner scanner(files);
-  EXPECT_EQ(scanner.hashFile("/a"),
+TEST_F(DuplicateScannerTest, AGroupNamesTheDigestOfTheWholeContent) {
+  for (const char* const name : {"/a", "/b"}) disk.makeFile(name, "abc");
+  const auto groups = scan({"/"}, 0);
+  ASSERT_EQ(groups.size(), 1U);
+  EXPECT_EQ(groups.front().hash,
             "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
-  EXPECT_EQ(scanner.hashFile("/missing"), std::nullopt);
+  EXPECT_EQ(contentHash(files, "/missing"), std::nullopt);
 }
 
 TEST_F(DuplicateScannerTest, AFolderGivenTwiceOrInsideAnotherIsSearchedOnce) {

@@ -129,7 +129,7 @@ TEST(DuplicateFile, IsItsWholeValue) {
   const DuplicateFile file{.url = "/a", .size = 10, .modifiedDate = day(1)};
   DuplicateFile other = file;
   EXPECT_EQ(std::unordered_set<DuplicateFile>({file, other}).size(), 1U);
-  other.isSelected = true;
+  other.size = 11;
   EXPECT_NE(file, other);
   EXPECT_NE(file, (DuplicateFile{.url = "/a", .size = 10, .modifiedDate = day(1)}));
 }

@@ -76,14 +76,6 @@ TEST(LargeFileKind, OfAFileWithoutAnExtensionIsOther) {
   EXPECT_EQ(named("a.\xff\xfe").kind(), "Other");
 }
 
-TEST(LargeFileKind, OfADirectoryIsFolderUnlessItsExtensionSaysMore) {
-  LargeFile folder = named("things");
-  folder.isDirectory = true;
-  EXPECT_EQ(folder.kind(), "Folder");
-  folder.url = "/Users/ann/Movies/things.dSYM";
-  EXPECT_EQ(folder.kind(), "Developer");
-}
-
 TEST(LargeFileLastOpened, IsTheTimeThatHasPassedInFullWords) {
   const Formatting formatting("en_US");
   LargeFile opened = named("a");

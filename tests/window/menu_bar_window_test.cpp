@@ -3,8 +3,8 @@
 #include <optional>
 #include <utility>
 
+#include "fake_app_state.h"
 #include "panes/kit/kit.h"
-#include "scripted_app_state.h"
 #include "shell/menu_bar/menu_bar_controller.h"
 #include "shell/menu_bar/quick_popover.h"
 #include "window_fixture.h"
@@ -26,7 +26,7 @@ QQuickWindow* openPopoverWindow() {
 }
 
 /// The real popover beside a status item that nobody sees.
-class MenuBarWindow : public EmptyHomeWindowFixture, protected ScriptedAppState {
+class MenuBarWindow : public EmptyHomeWindowFixture, protected FakeAppState {
  protected:
   void SetUp() override {
     EmptyHomeWindowFixture::SetUp();

@@ -114,7 +114,7 @@ TEST_F(SettingsWindow, BoxesFollowChangesFromOutsideWhateverIsWritten) {
   openSettings();
   changeByHand("useTrash", false);
   EXPECT_FALSE(isOn("Move to Trash"));
-  changeByHand("useTrash", std::string("rubbish"));
+  changeByHand("useTrash", std::string("garbage"));
   EXPECT_TRUE(isOn("Move to Trash"));
 }
 

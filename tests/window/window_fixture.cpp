@@ -127,11 +127,11 @@ bool WindowFixture::turnUntilItsTurn(const std::function<bool()>& reached) {
 
 void WindowFixture::settle() {
   constexpr int steps = 4;
-  HandMovedMotion::turnUntilStill();
+  FakeMotion::turnUntilStill();
   for (int step = 0; step < steps; ++step) {
     desk->clock.advance(clockTime / steps);
     motion->moveOn(animationTime / steps);
-    HandMovedMotion::turnUntilStill();
+    FakeMotion::turnUntilStill();
   }
 }
 

@@ -15,7 +15,7 @@
 
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
-#include "support/application/hand_moved_motion.h"
+#include "support/application/fake_motion.h"
 #include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
 
@@ -93,7 +93,7 @@ class WindowFixture : public ::testing::Test {
   std::optional<SampleDiskOptions> diskOptions = SampleDiskOptions{};
   Path home = macHome;
 
-  std::optional<HandMovedMotion> motion;
+  std::optional<FakeMotion> motion;
   std::unique_ptr<FakeDesktopOnDisk> desk;
   FakeLoginItem loginItem;
   std::unique_ptr<SharedState> shared;

@@ -77,19 +77,19 @@ ToolDetailRow {
         }
     ]
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: DuplicatesMetrics.copiesWidth
         visible: root.isGroup
         text: root.copies
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: DuplicatesMetrics.eachWidth
         visible: root.isGroup
         text: root.each
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: DuplicatesMetrics.reclaimableWidth
         visible: root.isGroup
         text: root.reclaimable

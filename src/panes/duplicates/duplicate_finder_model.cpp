@@ -260,7 +260,7 @@ QCoro::Task<> DuplicateFinderModel::moveSelectedToTrash() {
     const std::vector<SelectedCopy> copies = selection.list();
     return PickedFilesRemoval::Pick{
         pickedFiles(copies, fileOf),
-        keeperCheck(desktop.files, desktop.trash, keptCopies(copies), stop, &leftAlone)};
+        duplicateRemovalGuard(desktop.files, desktop.trash, keptCopies(copies), stop, &leftAlone)};
   };
   std::set<Path> trashed = co_await _removal.trash(_choice.totals().selectedCount, std::move(pick));
   forget(trashed);

@@ -23,8 +23,8 @@
 #include "state/picked_files_removal.h"
 #include "state/scan_session.h"
 #include "state/shared_state.h"
+#include "tools/duplicate_removal_guard.h"
 #include "tools/duplicate_scanner.h"
-#include "tools/keeper_check.h"
 
 namespace klarvik {
 

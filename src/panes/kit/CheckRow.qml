@@ -41,7 +41,7 @@ Pressable {
             }
         }
 
-        KitText {
+        Label {
             id: label
             anchors.left: box.right
             anchors.leftMargin: 8

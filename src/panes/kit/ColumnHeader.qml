@@ -24,7 +24,7 @@ Rectangle {
         Repeater {
             model: root.columns
 
-            KitText {
+            Label {
                 required property ColumnSpec modelData
 
                 text: modelData.title

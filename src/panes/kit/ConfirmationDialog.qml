@@ -23,7 +23,7 @@ Sheet {
     description: root.message
     onCancelled: root.cancel()
 
-    KitText {
+    Label {
         objectName: "dialogTitle"
         width: parent.width
         text: Kit.withSizesUnbroken(root.title)
@@ -35,7 +35,7 @@ Sheet {
         Accessible.name: root.title
     }
 
-    KitText {
+    Label {
         objectName: "dialogMessage"
         width: parent.width
         text: Kit.withSizesUnbroken(root.message)

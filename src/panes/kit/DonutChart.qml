@@ -69,14 +69,14 @@ Item {
         anchors.centerIn: parent
         spacing: 1
 
-        KitText {
+        Label {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.centerTitle
             size: 21
             weight: Font.DemiBold
         }
 
-        KitText {
+        Label {
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.centerSubtitle
             size: 10.5

@@ -50,13 +50,13 @@ Pressable {
             spacing: 1
             Layout.fillWidth: true
 
-            KitText {
+            Label {
                 text: root.slice.label
                 size: 12
                 Layout.fillWidth: true
             }
 
-            KitText {
+            Label {
                 text: root.subtitle
                 size: 10.5
                 color: Theme.textTertiary

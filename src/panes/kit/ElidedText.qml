@@ -4,7 +4,7 @@ import QtQuick
 import Klarvik.Kit
 
 // One line that gives up its middle when it does not fit.
-KitText {
+Label {
     id: root
 
     // What the tooltip says; the text itself, and only when it is cut, as long as this is empty.

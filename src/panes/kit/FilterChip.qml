@@ -48,7 +48,7 @@ Pressable {
         }
     }
 
-    contentItem: KitText {
+    contentItem: Label {
         id: label
         text: root.title
         size: 12

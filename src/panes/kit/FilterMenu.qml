@@ -22,7 +22,7 @@ Pressable {
     }
 
     contentItem: Item {
-        KitText {
+        Label {
             id: label
             x: 10
             anchors.verticalCenter: parent.verticalCenter

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Klarvik.Kit
 
-KitText {
+Label {
     id: root
 
     required property int fate

@@ -21,7 +21,7 @@ T.ToolTip {
     implicitHeight: label.implicitHeight + root.topPadding + root.bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent
 
-    contentItem: KitText {
+    contentItem: Label {
         id: label
         text: root.text
         size: 11.5

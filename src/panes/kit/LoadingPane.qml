@@ -38,7 +38,7 @@ Item {
             }
         }
 
-        KitText {
+        Label {
             width: parent.width
             text: root.title
             Accessible.role: Accessible.StaticText
@@ -50,7 +50,7 @@ Item {
             maximumLineCount: 3
         }
 
-        KitText {
+        Label {
             width: parent.width
             text: root.detail
             Accessible.role: Accessible.StaticText

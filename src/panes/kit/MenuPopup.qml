@@ -78,7 +78,7 @@ T.Popup {
                     visible: root.marksCurrent && entry.index === root.currentIndex
                 }
 
-                KitText {
+                Label {
                     id: label
                     x: root.marksCurrent ? 28 : 10
                     anchors.verticalCenter: parent.verticalCenter
@@ -86,7 +86,7 @@ T.Popup {
                     size: 12
                 }
 
-                KitText {
+                Label {
                     id: hint
                     anchors.right: parent.right
                     anchors.rightMargin: 10

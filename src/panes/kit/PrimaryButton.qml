@@ -28,7 +28,7 @@ Pressable {
         }
     }
 
-    contentItem: KitText {
+    contentItem: Label {
         id: label
         text: root.title
         weight: Font.DemiBold

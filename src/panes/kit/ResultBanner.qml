@@ -59,13 +59,13 @@ Item {
             Layout.fillWidth: true
             spacing: 3
 
-            KitText {
+            Label {
                 Layout.fillWidth: true
                 text: root.headline
                 weight: Font.Medium
             }
 
-            KitText {
+            Label {
                 Layout.fillWidth: true
                 text: Kit.withSizesUnbroken(root.detail)
                 color: Theme.textSecondary

@@ -54,7 +54,7 @@ FocusScope {
         onTextEdited: root.edited(input.text)
     }
 
-    KitText {
+    Label {
         anchors.left: input.left
         anchors.right: input.right
         anchors.verticalCenter: parent.verticalCenter

@@ -38,7 +38,7 @@ Pressable {
                 size: 12
             }
 
-            KitText {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.title
             }

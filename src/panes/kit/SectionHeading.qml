@@ -2,7 +2,7 @@ import QtQuick
 import Klarvik.Kit
 
 /// The small capitals above a group.
-KitText {
+Label {
     color: Theme.textTertiary
     size: 11
     weight: Font.DemiBold

@@ -14,7 +14,7 @@ Pressable {
     implicitWidth: label.implicitWidth
     implicitHeight: label.implicitHeight + 4
 
-    contentItem: KitText {
+    contentItem: Label {
         id: label
         text: root.title
         size: root.size

@@ -60,7 +60,7 @@ Rectangle {
                 Layout.preferredWidth: 320
             }
 
-            KitText {
+            Label {
                 objectName: "lastLine"
                 text: root.shown.lastLine
                 Accessible.role: Accessible.StaticText

@@ -42,7 +42,7 @@ Rectangle {
                 spacing: 3
                 Layout.fillWidth: true
 
-                KitText {
+                Label {
                     objectName: "paneTitle"
                     text: root.title
                     font: Theme.paneTitle
@@ -51,7 +51,7 @@ Rectangle {
                     Accessible.name: text
                 }
 
-                KitText {
+                Label {
                     objectName: "paneSubtitle"
                     text: Kit.withSizesUnbroken(root.subtitle)
                     size: 12

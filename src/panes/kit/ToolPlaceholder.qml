@@ -62,7 +62,7 @@ Item {
             }
         }
 
-        KitText {
+        Label {
             width: parent.width
             text: root.title
             Accessible.role: Accessible.StaticText
@@ -74,7 +74,7 @@ Item {
             maximumLineCount: 3
         }
 
-        KitText {
+        Label {
             width: parent.width
             text: root.detail
             Accessible.role: Accessible.StaticText

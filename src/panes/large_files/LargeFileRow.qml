@@ -35,21 +35,21 @@ ToolDetailRow {
         onToggled: root.pressBox()
     }
 
-    KitText {
+    Label {
         Layout.preferredWidth: LargeFilesMetrics.kindWidth
         text: root.kind
         size: 12
         color: Theme.textSecondary
     }
 
-    KitText {
+    Label {
         Layout.preferredWidth: LargeFilesMetrics.lastOpenedWidth
         text: root.lastOpened
         size: 12
         color: Theme.textSecondary
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: LargeFilesMetrics.sizeWidth
         text: root.size
         isStrong: true

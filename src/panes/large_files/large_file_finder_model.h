@@ -17,7 +17,7 @@
 #include "panes/large_files/large_files_texts.h"
 #include "panes/tool_pane.h"
 #include "platform/platform.h"
-#include "state/background_tasks.h"
+#include "platform/main_loop/background_tasks.h"
 #include "state/picked_files_removal.h"
 #include "state/scan_session.h"
 #include "state/shared_state.h"

@@ -53,19 +53,19 @@ ToolDetailRow {
         onToggled: root.pressBox()
     }
 
-    KitText {
+    Label {
         Layout.preferredWidth: PrivacyMetrics.costWidth
         text: root.note
         size: 12
         color: root.canSelect ? Theme.textSecondary : Theme.review
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: PrivacyMetrics.itemsWidth
         text: root.count
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: PrivacyMetrics.sizeWidth
         text: root.size
         isStrong: true

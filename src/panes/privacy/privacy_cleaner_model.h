@@ -12,7 +12,7 @@
 #include "panes/privacy/trail_list_model.h"
 #include "panes/tool_pane.h"
 #include "platform/platform.h"
-#include "state/background_tasks.h"
+#include "platform/main_loop/background_tasks.h"
 #include "state/scan_session.h"
 #include "state/shared_state.h"
 #include "tools/privacy_scanner.h"

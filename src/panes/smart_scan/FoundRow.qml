@@ -25,7 +25,7 @@ RowArrival {
         anchors.rightMargin: Theme.sidePadding
         spacing: SmartScanMetrics.columnSpacing
 
-        KitText {
+        Label {
             Layout.fillWidth: true
             text: root.name
             weight: Font.Medium
@@ -53,12 +53,12 @@ RowArrival {
             }
         }
 
-        Figure {
+        NumberCell {
             Layout.preferredWidth: SmartScanMetrics.itemsWidth
             text: root.items
         }
 
-        Figure {
+        NumberCell {
             Layout.preferredWidth: SmartScanMetrics.sizeWidth
             text: root.size
             isStrong: !root.isInProgress

@@ -38,7 +38,7 @@ Item {
                 text: qsTr("FOUND BY THE OTHER TOOLS")
             }
 
-            KitText {
+            Label {
                 visible: text !== ""
                 text: root.model.pendingText
                 Accessible.role: Accessible.StaticText

@@ -32,7 +32,7 @@ Pressable {
                 size: 13
             }
 
-            KitText {
+            Label {
                 text: root.note
                 color: Theme.textSecondary
             }

@@ -67,7 +67,7 @@ ToolGroupRow {
         }
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: SmartScanMetrics.itemsWidth
         visible: root.isCategory
         text: root.items
@@ -79,7 +79,7 @@ ToolGroupRow {
         url: root.url
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: SmartScanMetrics.sizeWidth
         visible: !root.isShowMore
         text: root.size

@@ -48,7 +48,7 @@ Item {
                         Accessible.role: Accessible.ListItem
                         Accessible.name: row.name
 
-                        KitText {
+                        Label {
                             Layout.fillWidth: true
                             text: row.name
                         }
@@ -61,7 +61,7 @@ Item {
             }
         }
 
-        KitText {
+        Label {
             Layout.fillWidth: true
             Layout.maximumWidth: 640
             text: qsTr("Nothing is deleted by a scan. Items move to the Trash, never straight to permanent deletion, and system folders are refused outright.")

@@ -13,7 +13,7 @@ ColumnLayout {
 
     spacing: 0
 
-    KitText {
+    Label {
         Layout.fillWidth: true
         Layout.leftMargin: Theme.sidePadding
         Layout.rightMargin: Theme.sidePadding

@@ -68,7 +68,7 @@ ToolPane {
                     Accessible.role: Accessible.ListItem
                     Accessible.name: grown.description
 
-                    KitText {
+                    Label {
                         anchors.left: parent.left
                         anchors.right: figure.left
                         anchors.rightMargin: Theme.partSpacing

@@ -2,7 +2,7 @@ import QtQuick
 import Klarvik.Kit
 
 /// The line that stands where there is nothing to draw.
-KitText {
+Label {
     width: Math.min(640, parent ? parent.width : implicitWidth)
     size: 12
     color: Theme.textTertiary

@@ -59,7 +59,6 @@ class StorageAnalyticsModel : public klarvik::ToolPane {
   [[nodiscard]] QString actionTitle() const;
   [[nodiscard]] bool isMeasuring() const { return _measurement.isRunning(); }
   [[nodiscard]] double measureProgress() const { return _measureProgress; }
-  [[nodiscard]] const std::string& measureLabel() const { return _measureLabel; }
   [[nodiscard]] const std::optional<DiskComposition>& composition() const { return _composition; }
   [[nodiscard]] bool isMeasured() const { return _composition.has_value(); }
   [[nodiscard]] QString nothingMeasured() const;

@@ -22,7 +22,7 @@ Item {
         value: root.progress
     }
 
-    KitText {
+    Label {
         anchors.left: line.right
         anchors.right: parent.right
         anchors.leftMargin: Theme.partSpacing

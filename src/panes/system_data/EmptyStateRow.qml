@@ -18,12 +18,12 @@ RowLayout {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.description
 
-    KitText {
+    Label {
         Layout.fillWidth: true
         text: root.name
     }
 
-    KitText {
+    Label {
         text: root.word
         size: 11
         color: root.wordColor

@@ -3,7 +3,7 @@ import Klarvik.Kit
 import Klarvik.Panes
 
 /// A verdict in words, in the colour that goes with it.
-KitText {
+Label {
     required property int safety
 
     size: 11

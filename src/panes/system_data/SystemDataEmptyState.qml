@@ -53,7 +53,7 @@ Item {
             }
         }
 
-        KitText {
+        Label {
             Layout.fillWidth: true
             Layout.maximumWidth: 640
             text: qsTr("Walking these folders takes about 40 seconds, which is why it is not part of a normal scan. It reads sizes only — nothing is selected, moved or deleted until you say so.")

@@ -58,7 +58,7 @@ RowFrame {
         visible: root.isHeader
         spacing: 8
 
-        KitText {
+        Label {
             Layout.fillWidth: true
             Layout.maximumWidth: 760
             Layout.topMargin: 10
@@ -148,7 +148,7 @@ RowFrame {
             weight: root.isKind ? Font.Medium : Font.Normal
         }
 
-        KitText {
+        Label {
             Layout.fillWidth: true
             text: root.detail
             size: 10.5
@@ -169,12 +169,12 @@ RowFrame {
         text: root.safetyText
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: SystemDataMetrics.shareWidth
         text: root.share
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: SystemDataMetrics.sizeWidth
         text: root.size
         isStrong: root.isKind

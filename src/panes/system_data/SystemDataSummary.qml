@@ -46,7 +46,7 @@ Item {
             Layout.alignment: Qt.AlignVCenter
             spacing: 6
 
-            KitText {
+            Label {
                 Layout.fillWidth: true
                 text: root.model.removableSummary
                 size: 17
@@ -55,7 +55,7 @@ Item {
                 Accessible.name: text
             }
 
-            KitText {
+            Label {
                 Layout.fillWidth: true
                 text: root.model.protectedSummary
                 size: 13
@@ -64,7 +64,7 @@ Item {
                 Accessible.name: text
             }
 
-            KitText {
+            Label {
                 Layout.fillWidth: true
                 Layout.topMargin: 6
                 text: root.model.highlighted

@@ -50,7 +50,7 @@ RowFrame {
         url: root.url
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: UninstallerMetrics.sizeWidth
         text: root.size
         isStrong: true

@@ -42,14 +42,14 @@ ToolDetailRow {
         onToggled: root.pressBox()
     }
 
-    KitText {
+    Label {
         Layout.preferredWidth: UninstallerMetrics.whatItIsWidth
         text: root.isLeftover ? "" : root.note
         size: 12
         color: Theme.textSecondary
     }
 
-    Figure {
+    NumberCell {
         Layout.preferredWidth: UninstallerMetrics.sizeWidth
         text: root.size
         isStrong: !root.isLeftover

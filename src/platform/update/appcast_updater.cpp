@@ -4,7 +4,6 @@
 
 #include <QSslConfiguration>
 #include <QUrl>
-#include <QtConcurrentRun>
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -68,9 +67,9 @@ UpdaterError during(const char* description, std::int64_t code, const UpdaterErr
 AppcastUpdater::AppcastUpdater(const Surroundings& surroundings, UpdaterOptions options)
     : _around(surroundings), _options(std::move(options)) {}
 
-void AppcastUpdater::DeleteLater::operator()(Verification* watcher) const {
-  watcher->disconnect();
-  watcher->deleteLater();
+AppcastUpdater::~AppcastUpdater() {
+  abandon();
+  _background.finish();
 }
 
 void AppcastUpdater::start(UpdaterDelegate& delegate) {
@@ -280,21 +279,21 @@ void AppcastUpdater::judgeArchive(const std::optional<UpdaterError>& error) {
 
 /// Off the main thread: reading a long archive, and writing it to the disk, takes longer than a
 /// frame.
-void AppcastUpdater::verify() {
+QCoro::Task<> AppcastUpdater::verify() {
   _fetch.reset();
   _phase = Phase::verifying;
-  const auto objection = [archive = _archive, signature = _offer.signature,
-                          key = runningProgram().publicKey.value_or("")] {
+  auto judge = [archive = _archive, signature = _offer.signature,
+                key = runningProgram().publicKey.value_or("")] {
     const bool isGenuine = archive->inspect(
         [&](std::span<const std::byte> content) { return isSignedBy(key, content, signature); });
     if (!isGenuine) return std::optional(notGenuine());
     return archive->flush() ? std::nullopt : std::optional(notSaved());
   };
-  _verification.reset(new Verification);
-  connect(_verification.get(), &Verification::finished, this,
-          [this] { deliver(_verification->result()); });
-  _verification->setFuture(QtConcurrent::run(objection));
+  // The update may be cancelled from here on, and another one begun.
+  const auto archive = _archive;
   show(update_stage::Verifying{_offer.version});
+  const auto objection = co_await runInBackground(_background, std::move(judge));
+  if (archive == _archive) deliver(objection);
 }
 
 void AppcastUpdater::deliver(const std::optional<UpdaterError>& objection) {
@@ -339,7 +338,6 @@ void AppcastUpdater::abandon() {
   _offer = {};
   if (_archive) _archive->discard();
   _archive.reset();
-  _verification.reset();
   _delivered.clear();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QFutureWatcher>
+#include <QCoro/QCoroTask>
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QSslConfiguration>
@@ -13,6 +13,7 @@
 #include "base/pending_file.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
+#include "platform/main_loop/background_tasks.h"
 #include "platform/update/https_fetch.h"
 #include "platform/update/update_choice.h"
 #include "platform/updater.h"
@@ -49,6 +50,8 @@ class AppcastUpdater final : public QObject, public Updater {
   };
 
   AppcastUpdater(const Surroundings& surroundings, UpdaterOptions options);
+  /// Waits for the check of an archive that is under way.
+  ~AppcastUpdater() override;
 
   void start(UpdaterDelegate& delegate) override;
   void stop() override;
@@ -75,7 +78,7 @@ class AppcastUpdater final : public QObject, public Updater {
   void download();
   [[nodiscard]] std::optional<UpdaterError> store(std::string_view bytes);
   void judgeArchive(const std::optional<UpdaterError>& error);
-  void verify();
+  QCoro::Task<> verify();
   void deliver(const std::optional<UpdaterError>& objection);
 
   [[nodiscard]] bool isStillWhatWasDelivered() const;
@@ -99,15 +102,9 @@ class AppcastUpdater final : public QObject, public Updater {
   std::string _feed;
   UpdateOffer _offer;
   std::shared_ptr<PendingFile> _archive;
-  /// Says what there is against the archive.
-  using Verification = QFutureWatcher<std::optional<UpdaterError>>;
-  /// It may go while it is telling what came out.
-  struct DeleteLater {
-    void operator()(Verification* watcher) const;
-  };
-  std::unique_ptr<Verification, DeleteLater> _verification;
   Path _delivered;  ///< logical; empty: nothing
   std::optional<FileAttributes> _deliveredAs;
+  BackgroundTasks _background;
 };
 
 }  // namespace klarvik

@@ -49,7 +49,7 @@ Rectangle {
                     }
                 }
 
-                KitText {
+                Label {
                     Layout.fillWidth: true
                     text: line.modelData.name
                     size: 11
@@ -63,7 +63,7 @@ Rectangle {
             }
         }
 
-        KitText {
+        Label {
             Layout.fillWidth: true
             Layout.leftMargin: 26
             visible: text !== ""
@@ -82,7 +82,7 @@ Rectangle {
         RowLayout {
             Layout.fillWidth: true
 
-            KitText {
+            Label {
                 Layout.fillWidth: true
                 text: qsTr("Total found")
                 size: 12

@@ -32,7 +32,7 @@ Pressable {
             color: Theme.textMuted
         }
 
-        KitText {
+        Label {
             anchors.left: symbol.right
             anchors.leftMargin: 8
             anchors.right: parent.right

@@ -38,7 +38,7 @@ FocusScope {
                 size: 18
             }
 
-            KitText {
+            Label {
                 text: "Klarvik"
                 size: 14
                 weight: Font.DemiBold

@@ -25,7 +25,7 @@ Column {
         height: 22
     }
 
-    KitText {
+    Label {
         width: root.width
         text: root.title
         size: 22

@@ -4,7 +4,7 @@ import QtQuick
 import Klarvik.Kit
 
 /// Text of the first run that takes as many lines as it needs.
-KitText {
+Label {
     wrapMode: Text.Wrap
     maximumLineCount: 8
     elide: Text.ElideNone

@@ -20,7 +20,7 @@ Item {
         radius: 10
         color: Theme.white(0.25)
 
-        KitText {
+        Label {
             anchors.centerIn: parent
             text: number.value
             size: 11
@@ -53,7 +53,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             spacing: 10
 
-            KitText {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: step.text
             }
@@ -127,7 +127,7 @@ Item {
             visible: !root.model.isGranted
             spacing: 8
 
-            KitText {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Already switched it on?")
                 size: 12

@@ -28,7 +28,7 @@ Item {
         }
     }
 
-    KitText {
+    Label {
         anchors.left: parent.left
         anchors.leftMargin: 42
         anchors.right: parent.right

@@ -22,7 +22,7 @@ Item {
         Accessible.role: Accessible.StaticText
         Accessible.name: row.label + ": " + row.value
 
-        KitText {
+        Label {
             anchors.left: parent.left
             anchors.leftMargin: 14
             anchors.verticalCenter: parent.verticalCenter
@@ -30,7 +30,7 @@ Item {
             color: Theme.textSecondary
         }
 
-        KitText {
+        Label {
             anchors.right: parent.right
             anchors.rightMargin: 14
             anchors.verticalCenter: parent.verticalCenter

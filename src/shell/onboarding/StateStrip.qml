@@ -30,7 +30,7 @@ Rectangle {
         color: root.tint
     }
 
-    KitText {
+    Label {
         anchors.left: icon.right
         anchors.leftMargin: 10
         anchors.right: parent.right

@@ -66,7 +66,7 @@ ToolScrollView {
             height: 20
             spacing: 14
 
-            KitText {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.model.isGranted ? qsTr("Granted") : qsTr("Not granted")
                 color: root.model.isGranted ? Theme.safe : Theme.review
@@ -114,7 +114,7 @@ ToolScrollView {
         width: parent.width
         label: qsTr("About")
 
-        KitText {
+        Label {
             height: 20
             text: root.model.versionLine
             Accessible.role: Accessible.StaticText

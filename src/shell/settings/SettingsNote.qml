@@ -4,7 +4,7 @@ import QtQuick
 import Klarvik.Kit
 
 /// Small print below a setting.
-KitText {
+Label {
     width: Math.min(320, implicitWidth)
     size: 11
     color: Theme.textTertiary

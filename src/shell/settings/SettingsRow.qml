@@ -14,7 +14,7 @@ Item {
     Accessible.role: Accessible.Grouping
     Accessible.name: root.label
 
-    KitText {
+    Label {
         id: name
 
         width: 120

@@ -19,7 +19,7 @@ Pressable {
         color: root.isSelected ? Theme.white(0.12) : root.hovered ? Theme.white(0.06) : Theme.clear
     }
 
-    contentItem: KitText {
+    contentItem: Label {
         id: label
 
         text: root.title

@@ -47,7 +47,7 @@ Pressable {
                 }
             }
 
-            KitText {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: root.title
                 opacity: root.isBusy ? 0.5 : 1.0

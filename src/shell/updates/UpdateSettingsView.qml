@@ -39,7 +39,7 @@ Item {
                 color: Theme.accent
             }
 
-            KitText {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Updates")
                 size: 17
@@ -57,12 +57,12 @@ Item {
             PanelRow {
                 height: 44
 
-                KitText {
+                Label {
                     anchors.verticalCenter: parent.verticalCenter
                     text: qsTr("Version")
                 }
 
-                KitText {
+                Label {
                     anchors.right: parent.right
                     anchors.verticalCenter: parent.verticalCenter
                     text: root.model.version
@@ -93,7 +93,7 @@ Item {
                     anchors.verticalCenter: parent.verticalCenter
                     spacing: 3
 
-                    KitText {
+                    Label {
                         width: parent.width
                         text: root.model.title
                     }
@@ -132,12 +132,12 @@ Item {
                     anchors.verticalCenter: parent.verticalCenter
                     spacing: 3
 
-                    KitText {
+                    Label {
                         width: parent.width
                         text: qsTr("Check automatically")
                     }
 
-                    KitText {
+                    Label {
                         width: parent.width
                         text: qsTr("Klarvik checks for new versions in the background")
                         size: 11

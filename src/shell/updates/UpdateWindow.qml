@@ -46,7 +46,7 @@ Window {
             width: parent.width
             spacing: 4
 
-            KitText {
+            Label {
                 width: parent.width
                 text: root.model.title
                 size: 15
@@ -57,7 +57,7 @@ Window {
                 Accessible.name: text
             }
 
-            KitText {
+            Label {
                 width: parent.width
                 text: root.model.detail
                 size: 12
@@ -85,7 +85,7 @@ Window {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: root.model.notes
 
-                KitText {
+                Label {
                     x: 12
                     width: parent.width - 24
                     text: root.model.notes

@@ -270,8 +270,8 @@ TEST_F(Lists, AnswerAssistiveTools) {
 }
 
 TEST_F(Elements, ANameIsNeverReadAsMarkup) {
-  const qreal marked = showOne("KitText { objectName: 'it'; text: '<b>a</b>' }")->implicitWidth();
-  const qreal plain = showOne("KitText { objectName: 'it'; text: 'aaaa' }")->implicitWidth();
+  const qreal marked = showOne("Label { objectName: 'it'; text: '<b>a</b>' }")->implicitWidth();
+  const qreal plain = showOne("Label { objectName: 'it'; text: 'aaaa' }")->implicitWidth();
   EXPECT_GT(marked, plain);
 }
 

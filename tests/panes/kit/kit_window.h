@@ -16,7 +16,7 @@
 
 #include "panes/kit/kit.h"
 #include "platform/formatting.h"
-#include "support/application/hand_moved_motion.h"
+#include "support/application/fake_motion.h"
 #include "support/desktop_fakes.h"
 #include "support/fake_clock.h"
 
@@ -59,7 +59,7 @@ class KitWindow : public ::testing::Test {
     return view.rootObject();
   }
 
-  static void settle() { HandMovedMotion::turnUntilStill(); }
+  static void settle() { FakeMotion::turnUntilStill(); }
 
   QQuickItem* part(const char* name) { return view.rootObject()->findChild<QQuickItem*>(name); }
   static QString text(const QQuickItem* item) { return item->property("text").toString(); }
@@ -88,7 +88,7 @@ class KitWindow : public ::testing::Test {
   FakeWorkspace workspace;
   FakeMotionPreference motionPreference;
   FakeClock clock;
-  HandMovedMotion motion;
+  FakeMotion motion;
   QQuickView view;
 
  private:

@@ -44,7 +44,7 @@ TEST_F(StoredSwitchTest, FollowsOthersAndTellsOnlyOfRealChanges) {
   EXPECT_EQ(changes.count(), 0);
   changeFromOutside(false);
   EXPECT_FALSE(box.isOn());
-  changeFromOutside(std::string("rubbish"));
+  changeFromOutside(std::string("garbage"));
   EXPECT_TRUE(box.isOn());
   EXPECT_EQ(changes.count(), 2);
 }

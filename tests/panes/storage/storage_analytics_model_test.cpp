@@ -16,7 +16,7 @@ constexpr std::int64_t gigabyte = 1'000'000'000;
 
 /// The pane in a program of its own with a main loop, over measurements that a test lays down and
 /// can hold half-way.
-class StorageAnalyticsModel : public PaneFixture {
+class StorageAnalyticsModelTest : public PaneFixture {
  protected:
   static DiskComposition compositionOf(std::vector<std::pair<std::string, std::int64_t>> sizes,
                                        std::int64_t usedBytes = 100 * gigabyte) {
@@ -63,7 +63,7 @@ class StorageAnalyticsModel : public PaneFixture {
       }};
 };
 
-TEST_F(StorageAnalyticsModel, StartsUnmeasuredAndNeverMeasuresByItself) {
+TEST_F(StorageAnalyticsModelTest, StartsUnmeasuredAndNeverMeasuresByItself) {
   desk.defaults.set("backgroundScanOnLaunch", true);
   desk.clock.advance(30min);
   QCoreApplication::processEvents();
@@ -76,7 +76,7 @@ TEST_F(StorageAnalyticsModel, StartsUnmeasuredAndNeverMeasuresByItself) {
   EXPECT_EQ(pane.usedText(), "");
 }
 
-TEST_F(StorageAnalyticsModel, ShowsARunningMeasurementAndThenItsResult) {
+TEST_F(StorageAnalyticsModelTest, ShowsARunningMeasurementAndThenItsResult) {
   ASSERT_TRUE(measureAndHold());
   EXPECT_TRUE(pane.isMeasuring());
   EXPECT_EQ(pane.subtitle(), "Measuring Documents…");
@@ -89,7 +89,7 @@ TEST_F(StorageAnalyticsModel, ShowsARunningMeasurementAndThenItsResult) {
   EXPECT_TRUE(pane.subtitle().startsWith("200 GB free of 500 GB · measured "));
 }
 
-TEST_F(StorageAnalyticsModel, DrawsOneSliceForEachBucketAndItsShareOfTheirSum) {
+TEST_F(StorageAnalyticsModelTest, DrawsOneSliceForEachBucketAndItsShareOfTheirSum) {
   ASSERT_TRUE(measureToTheEnd());
   ASSERT_EQ(legendIds(), (QStringList{"documents", "music"}));
   EXPECT_EQ(pane.legend()[0].share, 0.75);
@@ -101,13 +101,13 @@ TEST_F(StorageAnalyticsModel, DrawsOneSliceForEachBucketAndItsShareOfTheirSum) {
   EXPECT_EQ(pane.slices()[1].value, 20 * gigabyte);
 }
 
-TEST_F(StorageAnalyticsModel, MergesWhatIsBelowOneAndAHalfPercentOfTheUsedBytes) {
+TEST_F(StorageAnalyticsModelTest, MergesWhatIsBelowOneAndAHalfPercentOfTheUsedBytes) {
   answer = compositionOf({{"mail", 1'499'999'999}, {"caches", 1'500'000'000}});
   ASSERT_TRUE(measureToTheEnd());
   EXPECT_EQ(legendIds(), (QStringList{"caches", "smaller"}));
 }
 
-TEST_F(StorageAnalyticsModel, DrawsNothingForADiskOnWhichNothingWasFound) {
+TEST_F(StorageAnalyticsModelTest, DrawsNothingForADiskOnWhichNothingWasFound) {
   answer = compositionOf({}, 0);
   ASSERT_TRUE(measureToTheEnd());
   EXPECT_TRUE(pane.isMeasured());
@@ -115,7 +115,7 @@ TEST_F(StorageAnalyticsModel, DrawsNothingForADiskOnWhichNothingWasFound) {
   EXPECT_EQ(pane.usedText(), "Zero KB");
 }
 
-TEST_F(StorageAnalyticsModel, KeepsTheEarlierResultWhenStoppedInMidMeasurement) {
+TEST_F(StorageAnalyticsModelTest, KeepsTheEarlierResultWhenStoppedInMidMeasurement) {
   ASSERT_TRUE(measureToTheEnd());
   const QString measured = pane.subtitle();
   answer = compositionOf({{"movies", 5 * gigabyte}});
@@ -130,7 +130,7 @@ TEST_F(StorageAnalyticsModel, KeepsTheEarlierResultWhenStoppedInMidMeasurement) 
   EXPECT_FALSE(pane.isMeasuring());
 }
 
-TEST_F(StorageAnalyticsModel, IsUnmeasuredAgainWhenTheFirstMeasurementIsStopped) {
+TEST_F(StorageAnalyticsModelTest, IsUnmeasuredAgainWhenTheFirstMeasurementIsStopped) {
   ASSERT_TRUE(measureAndHold());
   pane.performAction();
   ASSERT_TRUE(letGo());
@@ -139,7 +139,7 @@ TEST_F(StorageAnalyticsModel, IsUnmeasuredAgainWhenTheFirstMeasurementIsStopped)
   EXPECT_EQ(pane.subtitle(), "200 GB free of 500 GB");
 }
 
-TEST_F(StorageAnalyticsModel, DropsWhatAStoppedMeasurementStillSaysWhileTheNextOneRuns) {
+TEST_F(StorageAnalyticsModelTest, DropsWhatAStoppedMeasurementStillSaysWhileTheNextOneRuns) {
   ASSERT_TRUE(measureAndHold());
   pane.performAction();
   pane.performAction();
@@ -151,7 +151,7 @@ TEST_F(StorageAnalyticsModel, DropsWhatAStoppedMeasurementStillSaysWhileTheNextO
   EXPECT_EQ(results.count(), 1);
 }
 
-TEST_F(StorageAnalyticsModel, AsksForThePermissionBeforeItMeasures) {
+TEST_F(StorageAnalyticsModelTest, AsksForThePermissionBeforeItMeasures) {
   denyFullDiskAccess();
   EXPECT_TRUE(pane.nothingMeasured().contains("waits for you to ask"));
 
@@ -169,7 +169,7 @@ TEST_F(StorageAnalyticsModel, AsksForThePermissionBeforeItMeasures) {
   EXPECT_TRUE(pane.isMeasuring());
 }
 
-TEST_F(StorageAnalyticsModel, SaysWhenThePermissionHasCome) {
+TEST_F(StorageAnalyticsModelTest, SaysWhenThePermissionHasCome) {
   denyFullDiskAccess();
   QSignalSpy changed(&pane, &StorageAnalyticsModel::nothingMeasuredChanged);
   grantFullDiskAccess();
@@ -179,14 +179,14 @@ TEST_F(StorageAnalyticsModel, SaysWhenThePermissionHasCome) {
             "only.");
 }
 
-TEST_F(StorageAnalyticsModel, TellsFreeAndTotalOfThisMomentAndNotOfTheMeasurement) {
+TEST_F(StorageAnalyticsModelTest, TellsFreeAndTotalOfThisMomentAndNotOfTheMeasurement) {
   ASSERT_TRUE(measureToTheEnd());
   desk.volume.setAvailableBytes(150 * gigabyte);
   shared.diskMonitor().refreshNow();
   EXPECT_TRUE(pane.subtitle().startsWith("150 GB free of 500 GB · measured "));
 }
 
-TEST_F(StorageAnalyticsModel, KeepsTheAgeOfTheMeasurementFresh) {
+TEST_F(StorageAnalyticsModelTest, KeepsTheAgeOfTheMeasurementFresh) {
   ASSERT_TRUE(measureToTheEnd());
   desk.clock.advance(5min);
   EXPECT_EQ(pane.subtitle(), "200 GB free of 500 GB · measured 5 min. ago");
@@ -196,7 +196,7 @@ TEST_F(StorageAnalyticsModel, KeepsTheAgeOfTheMeasurementFresh) {
   EXPECT_EQ(changed.count(), 1);
 }
 
-TEST_F(StorageAnalyticsModel, HighlightsTheBucketUnderThePointer) {
+TEST_F(StorageAnalyticsModelTest, HighlightsTheBucketUnderThePointer) {
   ASSERT_TRUE(measureToTheEnd());
   QSignalSpy changed(&pane, &StorageAnalyticsModel::highlightedChanged);
   pane.hover("documents", true);
@@ -210,7 +210,7 @@ TEST_F(StorageAnalyticsModel, HighlightsTheBucketUnderThePointer) {
   EXPECT_EQ(pane.highlighted(), "");
 }
 
-TEST_F(StorageAnalyticsModel, KeepsTheHighlightThroughANewMeasurementAsLongAsTheBucketIsThere) {
+TEST_F(StorageAnalyticsModelTest, KeepsTheHighlightThroughANewMeasurementAsLongAsTheBucketIsThere) {
   ASSERT_TRUE(measureToTheEnd());
   pane.hover("music", true);
   ASSERT_TRUE(measureToTheEnd());
@@ -220,7 +220,7 @@ TEST_F(StorageAnalyticsModel, KeepsTheHighlightThroughANewMeasurementAsLongAsThe
   EXPECT_EQ(pane.highlighted(), "");
 }
 
-TEST_F(StorageAnalyticsModel, AnimatesItsChartsOnceTheyHaveComeIntoSight) {
+TEST_F(StorageAnalyticsModelTest, AnimatesItsChartsOnceTheyHaveComeIntoSight) {
   QSignalSpy changed(&pane, &StorageAnalyticsModel::animateChartsChanged);
   EXPECT_FALSE(pane.animateCharts());
   pane.chartsAppeared();
@@ -229,7 +229,7 @@ TEST_F(StorageAnalyticsModel, AnimatesItsChartsOnceTheyHaveComeIntoSight) {
   EXPECT_EQ(changed.count(), 1);
 }
 
-TEST_F(StorageAnalyticsModel, FollowsTheHistoryOfScans) {
+TEST_F(StorageAnalyticsModelTest, FollowsTheHistoryOfScans) {
   const auto record = [this](std::int64_t size) {
     JunkItem item;
     item.size = size;
@@ -246,7 +246,7 @@ TEST_F(StorageAnalyticsModel, FollowsTheHistoryOfScans) {
   EXPECT_EQ(pane.growth()[0].figure, "+2 MB");
 }
 
-TEST_F(StorageAnalyticsModel, FollowsTheHistoryOfCleans) {
+TEST_F(StorageAnalyticsModelTest, FollowsTheHistoryOfCleans) {
   shared.scanHistory().recordClean(10'000, {});
   EXPECT_EQ(pane.noTrend(), "Two cleans are needed before a trend means anything.");
   EXPECT_TRUE(pane.cleanBars().isEmpty());
@@ -257,7 +257,7 @@ TEST_F(StorageAnalyticsModel, FollowsTheHistoryOfCleans) {
   EXPECT_EQ(pane.cleanBars()[1].height, 1);
 }
 
-TEST_F(StorageAnalyticsModel, SurvivesAPermissionThatComesAfterThePaneHasGone) {
+TEST_F(StorageAnalyticsModelTest, SurvivesAPermissionThatComesAfterThePaneHasGone) {
   denyFullDiskAccess();
   {
     StorageAnalyticsModel other(shared, desktop);
@@ -267,7 +267,7 @@ TEST_F(StorageAnalyticsModel, SurvivesAPermissionThatComesAfterThePaneHasGone) {
   EXPECT_FALSE(shared.permissionsManager().isRequestingAccess());
 }
 
-TEST_F(StorageAnalyticsModel, MeasuresTheDiskItselfAndSurvivesAFolderThatGoesMeanwhile) {
+TEST_F(StorageAnalyticsModelTest, MeasuresTheDiskItselfAndSurvivesAFolderThatGoesMeanwhile) {
   desk.disk.makeFile("/Users/ann/Documents/letter", 3'000'000);
   desk.disk.makeFile("/Users/ann/Music/song", 2'000'000);
   desk.volume.setTotalBytes(20'000'000);

@@ -85,7 +85,7 @@ TEST_F(ObservedUserDefaultsTest, FollowsADocumentThatIsEditedByHandWhateverIsWri
   EXPECT_TRUE(sees({true}));
   writeByHand(R"({"showMenuBar": false})");
   EXPECT_TRUE(sees({true, false}));
-  writeByHand("{ rubbish");
+  writeByHand("{ garbage");
   EXPECT_TRUE(sees({true, false, true}));
   writeByHand(R"({"showMenuBar": false})");
   EXPECT_TRUE(sees({true, false, true, false}));

@@ -66,7 +66,7 @@ TEST_F(QuietBackgroundCheck, ShowsNothingUnlessThereIsSomethingNew) {
 }
 
 TEST_F(QuietBackgroundCheck, ShowsNothingWhenItFails) {
-  server.answer("/feed", {.body = "rubbish"});
+  server.answer("/feed", {.body = "garbage"});
   pass(0h);
   EXPECT_THAT(delegate.calls, ElementsAre("aborted 1002", "finished 1002"));
   EXPECT_THAT(stages, IsEmpty());
@@ -138,7 +138,7 @@ TEST_F(QuietBackgroundCheck, FollowsTheSwitchAsItStandsInThePreferencesEachTime)
   defaults.set("automaticallyChecksForUpdates", false);
   pass(0h);
   EXPECT_EQ(checks(), 0U);
-  defaults.set("automaticallyChecksForUpdates", std::string("rubbish"));
+  defaults.set("automaticallyChecksForUpdates", std::string("garbage"));
   EXPECT_TRUE(updater->automaticallyChecksForUpdates());
   pass(1h);
   EXPECT_EQ(checks(), 1U);
@@ -171,12 +171,12 @@ TEST_F(QuietBackgroundCheck, DoesNotRunAfterTheUpdaterHasStopped) {
 TEST_F(QuietBackgroundCheck, TakesRubbishForTheTimeOfTheLastCheckAsNever) {
   const std::int64_t now =
       std::chrono::duration_cast<std::chrono::seconds>(clock.now().time_since_epoch()).count();
-  for (const DefaultsValue& rubbish :
+  for (const DefaultsValue& garbage :
        {DefaultsValue(std::string("yesterday")), DefaultsValue(true), DefaultsValue(1e300),
         DefaultsValue(std::int64_t{-5}), DefaultsValue(now + 100'000),
         DefaultsValue(std::numeric_limits<std::int64_t>::max()),
         DefaultsValue(std::numeric_limits<std::int64_t>::min())}) {
-    defaults.set("lastUpdateCheckDate", rubbish);
+    defaults.set("lastUpdateCheckDate", garbage);
     EXPECT_FALSE(updater->lastUpdateCheckDate());
   }
   pass(0h);

@@ -241,7 +241,7 @@ TEST_F(UpdateFeed, WithAnUnsignedVersionOffersNothingAndSaysSo) {
 }
 
 TEST_F(UpdateFeed, WithoutAKeyInTheProgramOffersNothingAndSaysSo) {
-  for (const char* const noKey : {"", "rubbish", "c2hvcnQ="}) {
+  for (const char* const noKey : {"", "garbage", "c2hvcnQ="}) {
     info["SUPublicEDKey"] = std::string(noKey);
     delegate.calls.clear();
     expectRefusal();
@@ -262,7 +262,7 @@ TEST_F(UpdateFeed, CanBeCancelledWhileItIsRead) {
 }
 
 TEST_F(UpdateFeed, IsReadAgainByTheNextCheckAfterAFailure) {
-  server.answer("/feed", {.body = "rubbish"});
+  server.answer("/feed", {.body = "garbage"});
   expectRefusal(-1011);
   delegate.calls.clear();
   serve({.version = "2.0"});

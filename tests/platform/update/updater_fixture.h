@@ -24,7 +24,7 @@
 namespace klarvik {
 
 /// Writes down what it is told.
-class RecordingDelegate final : public UpdaterDelegate {
+class FakeUpdaterDelegate final : public UpdaterDelegate {
  public:
   void didFindValidUpdate(const std::string& version) override {
     calls.push_back("found " + version);
@@ -143,7 +143,7 @@ class UpdaterFixture : public ::testing::Test {
                        {"SUFeedURL", server.address("/feed")},
                        {"SUPublicEDKey", key.publicKey()}};
   bool trusts = true;
-  RecordingDelegate delegate;
+  FakeUpdaterDelegate delegate;
   std::vector<UpdateStage> stages;  ///< of several of one kind in a row, the last
   std::unique_ptr<AppcastUpdater> updater;
 };

@@ -8,7 +8,7 @@
 #include <optional>
 #include <utility>
 
-#include "scripted_app_state.h"
+#include "fake_app_state.h"
 #include "shell/menu_bar/menu_bar_controller.h"
 #include "support/application/main_loop.h"
 #include "support/desktop_fakes.h"
@@ -40,7 +40,7 @@ class FakePopover final : public MenuBarPopover {
 };
 
 /// A controller on a desktop that a test moves by hand, and what it tells others to do.
-class MenuBarFixture : public ::testing::Test, protected ScriptedAppState {
+class MenuBarFixture : public ::testing::Test, protected FakeAppState {
  protected:
   ~MenuBarFixture() override {
     MenuBarController::openWindowHandler = nullptr;

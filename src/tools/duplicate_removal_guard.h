@@ -25,9 +25,10 @@ using KeptCopies = std::unordered_map<std::string, std::shared_ptr<const KeptCop
 /// the Trash does not stay. A copy that is kept for any group may not go. After a stop
 /// request nothing may. `leftAlone`, where there is one, counts copies that are the very file that
 /// stays. The answer must not outlive what it refers to.
-[[nodiscard]] ScannerEngine::PickedFileCheck keeperCheck(const FileSystem& files,
-                                                         const Trash& trash, KeptCopies keptCopies,
-                                                         std::stop_token stop,
-                                                         LeftAlone* leftAlone = nullptr);
+[[nodiscard]] ScannerEngine::PickedFileCheck duplicateRemovalGuard(const FileSystem& files,
+                                                                   const Trash& trash,
+                                                                   KeptCopies keptCopies,
+                                                                   std::stop_token stop,
+                                                                   LeftAlone* leftAlone = nullptr);
 
 }  // namespace klarvik

@@ -10,9 +10,9 @@ namespace klarvik {
 
 /// Animations that stand still until a test moves them, and windows that draw at once. To be there
 /// before the first window.
-class HandMovedMotion final : private QAnimationDriver {
+class FakeMotion final : private QAnimationDriver {
  public:
-  HandMovedMotion() {
+  FakeMotion() {
     // Else a timer holds every frame back by 5 milliseconds.
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     // Where nothing but pauses run, Qt waits for their end by a timer of its own. Something that
@@ -22,13 +22,13 @@ class HandMovedMotion final : private QAnimationDriver {
     _always.start();
     QCoreApplication::processEvents();
   }
-  ~HandMovedMotion() override {
+  ~FakeMotion() override {
     _always.stop();
     QCoreApplication::processEvents();
     uninstall();
   }
-  HandMovedMotion(const HandMovedMotion&) = delete;
-  HandMovedMotion& operator=(const HandMovedMotion&) = delete;
+  FakeMotion(const FakeMotion&) = delete;
+  FakeMotion& operator=(const FakeMotion&) = delete;
 
   void moveOn(std::chrono::milliseconds duration) {
     _elapsed += duration.count();

@@ -1,4 +1,4 @@
-#include "tools/keeper_check.h"
+#include "tools/duplicate_removal_guard.h"
 
 #include <optional>
 #include <string_view>
@@ -18,15 +18,15 @@ bool areOneFile(const FileSystem& files, const Path& left, const Path& right) {
 }
 
 /// All copies that are on their way out in one removal, and those that stay for them.
-class Promise {
+class DuplicateRemovalGuard {
  public:
-  Promise(KeptCopies keptCopies, LeftAlone* leftAlone)
+  DuplicateRemovalGuard(KeptCopies keptCopies, LeftAlone* leftAlone)
       : _keptCopies(std::move(keptCopies)), _leftAlone(leftAlone) {
     for (const auto& [copy, kept] : _keptCopies) _staying.insert(kept->url.native());
   }
 
-  [[nodiscard]] bool lets(const FileSystem& files, const Trash& trash, const PickedFile& copy,
-                          const std::stop_token& stop) const {
+  [[nodiscard]] bool mayRemove(const FileSystem& files, const Trash& trash, const PickedFile& copy,
+                               const std::stop_token& stop) const {
     const auto found = _keptCopies.find(copy.url.native());
     if (found == _keptCopies.end() || _staying.contains(copy.url.native())) return false;
     const KeptCopy& kept = *found->second;
@@ -46,12 +46,13 @@ class Promise {
 
 }  // namespace
 
-ScannerEngine::PickedFileCheck keeperCheck(const FileSystem& files, const Trash& trash,
-                                           KeptCopies keptCopies, std::stop_token stop,
-                                           LeftAlone* leftAlone) {
-  const auto promise = std::make_shared<const Promise>(std::move(keptCopies), leftAlone);
-  return [&files, &trash, promise, stop = std::move(stop)](const PickedFile& copy) {
-    return promise->lets(files, trash, copy, stop);
+ScannerEngine::PickedFileCheck duplicateRemovalGuard(const FileSystem& files, const Trash& trash,
+                                                     KeptCopies keptCopies, std::stop_token stop,
+                                                     LeftAlone* leftAlone) {
+  const auto guard =
+      std::make_shared<const DuplicateRemovalGuard>(std::move(keptCopies), leftAlone);
+  return [&files, &trash, guard, stop = std::move(stop)](const PickedFile& copy) {
+    return guard->mayRemove(files, trash, copy, stop);
   };
 }
 

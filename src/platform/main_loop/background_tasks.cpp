@@ -1,4 +1,4 @@
-#include "state/background_tasks.h"
+#include "platform/main_loop/background_tasks.h"
 
 #include <latch>
 #include <system_error>

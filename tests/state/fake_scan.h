@@ -16,9 +16,9 @@ namespace klarvik {
 /// like the real one. Runs are counted from 0; what is told to a run waits until the run begins.
 ///
 /// Items have the identity of what stands at their paths when they are told, as a scan finds them.
-class ScriptedScan {
+class FakeScan {
  public:
-  explicit ScriptedScan(const FileSystem& files) : _files(files) {}
+  explicit FakeScan(const FileSystem& files) : _files(files) {}
 
   using Step =
       std::function<void(const ScannerEngine::UpdateSink&, const ScannerEngine::CategorySink&)>;

@@ -1,4 +1,4 @@
-#include "state/coalescing_queue.h"
+#include "platform/main_loop/coalescing_queue.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tools/parallel_hashing.h"
+#include "tools/duplicate_scanner.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,7 +10,6 @@
 #include "support/fault_injecting_file_system.h"
 #include "support/gate.h"
 #include "support/temporary_folder.h"
-#include "tools/duplicate_scanner.h"
 
 namespace klarvik {
 namespace {
@@ -18,7 +17,7 @@ namespace {
 using testing::ElementsAre;
 using Operation = FaultInjectingFileSystem::Operation;
 
-class ParallelHashingTest : public testing::Test {
+class DuplicateHashing : public testing::Test {
  protected:
   /// What a scan shows of itself but for the identifiers, which are new each time.
   struct Shown {
@@ -52,20 +51,12 @@ class ParallelHashingTest : public testing::Test {
     }
   }
 
-  /// Opens the files called by their numbers.
-  [[nodiscard]] ParallelHashing::MakeOpen openNumbered() const {
-    return [this] {
-      return
-          [this](std::size_t number) { return real.openForReading("/" + std::to_string(number)); };
-    };
-  }
-
   TemporaryFolder disk;
   LinuxFileSystem real{disk.path(), "/Users/ann"};
   FaultInjectingFileSystem files{real};
 };
 
-TEST_F(ParallelHashingTest, GivesTheSameReportsAndGroupsOnOneCoreAndOnMany) {
+TEST_F(DuplicateHashing, GivesTheSameReportsAndGroupsOnOneCoreAndOnMany) {
   for (const unsigned seed : {1U, 2U, 3U}) {
     const TemporaryFolder tree;
     makeVariedTree(tree, seed);
@@ -77,23 +68,7 @@ TEST_F(ParallelHashingTest, GivesTheSameReportsAndGroupsOnOneCoreAndOnMany) {
   }
 }
 
-TEST_F(ParallelHashingTest, HandsTheDigestsOutInTheOrderOfTheList) {
-  constexpr std::size_t count = 200;
-  std::vector<std::optional<Digest>> expected;
-  ContentHasher hasher;
-  for (std::size_t number = 0; number < count; ++number) {
-    const Path place = "/" + std::to_string(number);
-    if (number % 17 != 0) disk.makeFile(place, std::string(number * 997 % 50'000, 'x'));
-    expected.push_back(hasher.digest(real.openForReading(place)));
-    EXPECT_EQ(expected.back().has_value(), number % 17 != 0);
-  }
-  for (const std::size_t width : {1, 2, 5}) {
-    ParallelHashing hashing(count, openNumbered(), width);
-    for (const auto& digest : expected) EXPECT_EQ(hashing.next(), digest);
-  }
-}
-
-TEST_F(ParallelHashingTest, WhileOneFileTakesLongTheOthersAreHashedAndNoReportComesEarly) {
+TEST_F(DuplicateHashing, WhileOneFileTakesLongTheOthersAreHashedAndNoReportComesEarly) {
   constexpr int count = 35;
   for (int number = 0; number < count; ++number) {
     disk.makeFile("/" + std::to_string(number), "content " + std::to_string(10 + number));
@@ -125,7 +100,7 @@ TEST_F(ParallelHashingTest, WhileOneFileTakesLongTheOthersAreHashedAndNoReportCo
   EXPECT_LE(reportedMeanwhile, 3U);
 }
 
-TEST_F(ParallelHashingTest, TheLargestFilesAreHashedFirst) {
+TEST_F(DuplicateHashing, TheLargestFilesAreHashedFirst) {
   std::vector<std::string> opened;
   for (const int size : {2, 9, 5}) {
     for (const char* name : {"a", "b"}) {
@@ -139,15 +114,7 @@ TEST_F(ParallelHashingTest, TheLargestFilesAreHashedFirst) {
   EXPECT_THAT(opened, ElementsAre("9", "9", "5", "5", "2", "2"));
 }
 
-TEST_F(ParallelHashingTest, MayBeGivenUpBeforeItsEnd) {
-  for (int number = 0; number < 50; ++number) {
-    disk.makeFile("/" + std::to_string(number), std::string(10'000, 'x'));
-  }
-  ParallelHashing hashing(50, openNumbered(), 4);
-  EXPECT_TRUE(hashing.next());
-}
-
-TEST_F(ParallelHashingTest, OneScannerScansForOneCallerAfterTheOther) {
+TEST_F(DuplicateHashing, OneScannerScansForOneCallerAfterTheOther) {
   makeVariedTree(disk, 4);
   DuplicateScanner scanner(real, 2);
   std::atomic<int> scanning = 0;

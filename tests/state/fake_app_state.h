@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "scripted_scan.h"
+#include "fake_scan.h"
 #include "state/app_state.h"
 #include "state/scan_history.h"
 #include "support/fake_desktop.h"
@@ -11,13 +11,13 @@ namespace klarvik {
 
 /// An `AppState` over a real disk whose scans do what the test tells them to, with all that it
 /// stands on.
-struct ScriptedAppState {
+struct FakeAppState {
   FakeDesktopOnDisk around;
   ToolActivity activity{around.clock};
   ScanCoordinator coordinator{around.defaults};
   ScanHistory history{around.defaults, around.clock};
   RemovalNotice notice;
-  ScriptedScan scans{around.files};
+  FakeScan scans{around.files};
   std::optional<AppState> state{std::in_place, around.desktop, activity, coordinator,
                                 history,       notice,         nullptr,  scans.scan()};
 };

@@ -1,9 +1,10 @@
-#include "tools/keeper_check.h"
+#include "tools/duplicate_removal_guard.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 
+#include "content_hash.h"
 #include "support/fake_desktop.h"
 #include "support/system_call_faults.h"
 #include "tools/duplicate_scanner.h"
@@ -16,15 +17,15 @@ class KeeperCheckTest : public testing::Test {
   KeeperCheckTest() {
     world.disk.makeFile(keeper, "the same");
     world.disk.makeFile(copy, "the same");
-    hash = *DuplicateScanner(files).hashFile(keeper);
+    hash = *contentHash(files, keeper);
   }
 
   void keeps(const Path& stays, const Path& goes) {
     kept[goes.native()] = std::make_shared<const KeptCopy>(KeptCopy{stays, hash});
   }
   [[nodiscard]] bool mayGo(const Path& goes) {
-    return keeperCheck(files, world.trash, kept, stop.get_token(),
-                       &leftAlone)({goes, "name", 8, entryIdentity(files, goes)});
+    return duplicateRemovalGuard(files, world.trash, kept, stop.get_token(),
+                                 &leftAlone)({goes, "name", 8, entryIdentity(files, goes)});
   }
   [[nodiscard]] Path onDisk(const Path& place) const { return world.disk.onDisk(place); }
 
@@ -127,7 +128,7 @@ TEST_F(KeeperCheckTest, ACopyThatIsAnotherFileSinceTheScanStaysThoughItIsEqual) 
   const PickedFile picked{copy, "name", 8, entryIdentity(files, copy)};
   std::filesystem::rename(onDisk(copy), onDisk("/Users/ann/first"));
   world.disk.makeFile(copy, "the same");
-  EXPECT_FALSE(keeperCheck(files, world.trash, kept, stop.get_token())(picked));
+  EXPECT_FALSE(duplicateRemovalGuard(files, world.trash, kept, stop.get_token())(picked));
 }
 
 TEST_F(KeeperCheckTest, ALinkInThePlaceOfTheKeptCopyKeepsNothing) {
@@ -166,7 +167,7 @@ TEST_F(KeeperCheckTest, OnlyTheCopyThatWasShownGoesWhateverStepAnEqualOneTakesIt
         std::filesystem::create_symlink(desk.disk.onDisk(other.parent_path()), folder, failed);
       };
       const FaultyRun run = runWithFault({SystemCallFault::Kind::disturbed, at, 0, swap}, [&] {
-        const auto check = keeperCheck(desk.files, desk.trash, kept, {});
+        const auto check = duplicateRemovalGuard(desk.files, desk.trash, kept, {});
         return ScannerEngine(desk.desktop).trashFile(picked, check).moved;
       });
       EXPECT_TRUE(desk.disk.holds(unseen));
