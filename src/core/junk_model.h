@@ -15,6 +15,7 @@
 namespace klarvik {
 
 class Formatting;
+struct Tool;
 
 /// One thing that can be removed.
 struct JunkItem {
@@ -30,6 +31,9 @@ struct JunkItem {
   bool goesForGood = false;  ///< never to the Trash
   std::string closeFirst{};  ///< the running program that uses it; empty when none does
   bool wasJustUsed = false;  ///< comes after the others of its category
+  /// The tool that removes it; Klarvik itself never does then. A row of the layout's table.
+  const Tool* tool = nullptr;
+  std::vector<std::string> toolNames{};  ///< what of the tool's own names it is, if it is one
 
   /// Of all that is shown.
   bool operator==(const JunkItem& other) const;

@@ -9,6 +9,7 @@
 #include "engine/place_scanner.h"
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
+#include "engine/tool_removal.h"
 #include "platform/file_system.h"
 #include "platform/trash.h"
 
@@ -47,7 +48,9 @@ bool removeSnapshot(CommandRunner& commands, const Path& named) {
 
 }  // namespace
 
-DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
+DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash,
+                                          const std::stop_token& stop) {
+  if (item.tool != nullptr) return deleteByTool(item, stop);
   // What is removed is the very path that the guard judged, spelled without detours.
   const Path named = standardizedPath(item.path);
   const auto scope = DeletionScope::general();
@@ -73,6 +76,16 @@ DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
   return outcome;
 }
 
+DeletionOutcome ScannerEngine::deleteByTool(const JunkItem& item, const std::stop_token& stop) {
+  const std::scoped_lock turn(_toolTurn);
+  DeletionOutcome outcome{.originalURL = item.path};
+  // It has not had its turn yet.
+  if (stop.stop_requested()) return outcome;
+  outcome.reclaimed = removeByTool(_platform, item, stop).reclaimed;
+  if (outcome.reclaimed < 1 && _leftAlone != nullptr) ++_leftAlone->toolsInVain;
+  return outcome;
+}
+
 std::vector<DeletionOutcome> ScannerEngine::deleteItems(const std::vector<JunkItem>& items,
                                                         bool useTrash, std::stop_token stop,
                                                         const DeletionSink& progress) {
@@ -82,7 +95,7 @@ std::vector<DeletionOutcome> ScannerEngine::deleteItems(const std::vector<JunkIt
   parallelFor(
       {.count = items.size(), .width = deletionWidth, .stop = stop},
       [&](std::size_t number, std::size_t) {
-        byNumber[number] = deleteItem(items[number], useTrash);
+        byNumber[number] = deleteItem(items[number], useTrash, stop);
       },
       [&](std::size_t number) {
         outcomes.push_back(std::move(byNumber[number]));

@@ -9,6 +9,7 @@
 #include "engine/program_use.h"
 #include "engine/project_walk.h"
 #include "engine/scanner_engine.h"
+#include "engine/tool_removal.h"
 #include "places/path_pattern.h"
 #include "platform/file_system.h"
 #include "platform/running_programs.h"
@@ -63,6 +64,14 @@ CleanCategory PlaceScanner::find(CategoryType type) {
     for (const PlaceMatch& match : matches(place)) {
       if (_stop.stop_requested()) return category;
       look(place, match, category);
+    }
+  }
+  for (const Tool& tool : _layout.tools) {
+    if (_stop.stop_requested()) return category;
+    if (tool.category != type) continue;
+    for (JunkItem& item : itemsOf(_platform, tool, _stop)) {
+      category.items.push_back(std::move(item));
+      _report(category.items.back());
     }
   }
   sortItemsBySize(category.items);
@@ -171,23 +180,33 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
     return;
   }
   std::string name = nameOf(place, match);
-  if (place.details.removal == Removal::byTool) {
+  const Tool* tool = _layout.tool(place.details.tool);
+  if (tool != nullptr && !mayRun(*tool, match.path, measure)) {
     category.hints.push_back({.name = std::move(name),
                               .path = match.path,
                               .size = measure.bytes,
                               .reason = std::string(place.reason),
-                              .command = std::string(place.details.command)});
+                              .command = commandLine(*tool)});
     return;
   }
-  offer({.name = std::move(name),
-         .path = match.path,
-         .size = measure.bytes,
-         .modifiedDate = attributes->modified,
-         .identity = entryIdentity(*attributes),
-         .reason = std::string(place.reason),
-         .goesForGood = place.details.removal == Removal::outright,
-         .closeFirst = runningUser(place, match)},
-        measure, category);
+  JunkItem item{.name = std::move(name),
+                .path = match.path,
+                .size = measure.bytes,
+                .modifiedDate = attributes->modified,
+                .identity = entryIdentity(*attributes),
+                .reason = std::string(place.reason),
+                .goesForGood = tool != nullptr || place.details.removal == Removal::outright,
+                .closeFirst = runningUser(place, match),
+                .tool = tool};
+  if (tool != nullptr) {
+    list(std::move(item), category);
+  } else {
+    offer(std::move(item), measure, category);
+  }
+}
+
+bool PlaceScanner::mayRun(const Tool& tool, const Path& path, const Measure& measure) const {
+  return measure.isOwn && !measure.holdsMountPoint && cleansFolder(_platform, tool, path, _stop);
 }
 
 void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& category) {
@@ -199,6 +218,10 @@ void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& c
                               .command = {}});
     return;
   }
+  list(std::move(item), category);
+}
+
+void PlaceScanner::list(JunkItem item, CleanCategory& category) {
   _taken.insert(item.path.native() + "/");
   category.items.push_back(std::move(item));
   _report(category.items.back());

@@ -17,7 +17,8 @@
 namespace klarvik {
 
 /// Finds what the tables of a layout name. Only what the guard would let go, where it is named and
-/// where it really lies, becomes an item; what is there and cannot be removed becomes a hint.
+/// where it really lies, becomes an item, or what a tool says that it removes itself; what is there
+/// and cannot be removed becomes a hint.
 ///
 /// Lives for one scan, on its thread. No thing is part of two items, whatever the rows.
 class PlaceScanner {
@@ -40,7 +41,11 @@ class PlaceScanner {
   [[nodiscard]] static std::string nameOf(const Place& place, const PlaceMatch& match);
   [[nodiscard]] bool isExcepted(const Place& place, const PlaceMatch& match) const;
   void look(const Place& place, const PlaceMatch& match, CleanCategory& category);
+  /// As an item, or as a hint where Klarvik could not remove it.
   void offer(JunkItem item, const Measure& measure, CleanCategory& category);
+  void list(JunkItem item, CleanCategory& category);
+  /// Whether `tool` can be asked to remove what lies at `path`.
+  [[nodiscard]] bool mayRun(const Tool& tool, const Path& path, const Measure& measure) const;
   [[nodiscard]] std::string obstacle(const Path& path, const Measure& measure) const;
   [[nodiscard]] std::string runningUser(const Place& place, const PlaceMatch& match) const;
   [[nodiscard]] bool overlapsAnItem(const Path& path) const;

@@ -89,7 +89,8 @@ class ScannerEngine {
   std::vector<CleanCategory> scanAll(std::stop_token stop, const UpdateSink& onUpdate,
                                      const CategorySink& onCategory);
 
-  DeletionOutcome deleteItem(const JunkItem& item, bool useTrash);
+  /// What a tool removes is handed to it, and never touched here; a stop ends the tool.
+  DeletionOutcome deleteItem(const JunkItem& item, bool useTrash, const std::stop_token& stop = {});
   /// In order of finishing. After a stop request no further item is started; items under way are
   /// finished and are part of the answer, but no longer reported to `progress`.
   std::vector<DeletionOutcome> deleteItems(const std::vector<JunkItem>& items, bool useTrash,
@@ -106,6 +107,7 @@ class ScannerEngine {
   std::int64_t emptyTrash(std::stop_token stop = {}, const DeletionSink& progress = {});
 
  private:
+  DeletionOutcome deleteByTool(const JunkItem& item, const std::stop_token& stop);
   void begin(std::string name, double fraction);
   void countItem(const JunkItem& item);
   void publishUpdate() const;
@@ -113,6 +115,7 @@ class ScannerEngine {
   const Platform& _platform;
   LeftAlone* const _leftAlone;
   std::mutex _scanning;
+  std::mutex _toolTurn;    ///< two runs of a tool would be in each other's way
   ScanUpdate _current;     ///< of the row being scanned; keeps its last values after the run
   UpdateSink _updateSink;  ///< only during a run
 };

@@ -12,6 +12,11 @@ std::string_view DiskLayout::label(CategoryType type) const {
   return row != scanRows.end() ? row->name : rawValue(type);
 }
 
+const Tool* DiskLayout::tool(std::string_view id) const {
+  const auto found = std::ranges::find(tools, id, &Tool::id);
+  return found != tools.end() ? &*found : nullptr;
+}
+
 const DiskLayout& layoutFor(const Path& home) {
   constexpr std::string_view macHomes = "/Users/";
   const bool isMac = home.native().starts_with(macHomes) && home.native().size() > macHomes.size();

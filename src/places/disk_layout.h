@@ -11,6 +11,7 @@
 #include "places/place.h"
 #include "places/storage_share.h"
 #include "places/system_data_sub_category.h"
+#include "places/tool.h"
 #include "places/trail_places.h"
 #include "places/words.h"
 #include "platform/path.h"
@@ -49,6 +50,7 @@ struct FileKindName {
 struct DiskLayout {
   std::span<const ScanRow> scanRows;  ///< in the order in which they run
   std::span<const Place> places;      ///< empty where the scan rows have methods of their own
+  std::span<const Tool> tools;        ///< that remove something of their own
   std::span<const ProjectArtifact> artifacts;
   std::int64_t artifactsAbove;  ///< bytes; what takes no more is not listed
   std::span<const std::string_view> notSearchedForProjects;  ///< names of folders in the home
@@ -80,6 +82,8 @@ struct DiskLayout {
 
   /// What the user reads; `rawValue` where the layout has no other word.
   [[nodiscard]] std::string_view label(CategoryType type) const;
+  /// Nothing where there is none of this `id`.
+  [[nodiscard]] const Tool* tool(std::string_view id) const;
   /// Whether the user is asked for Full Disk Access, and reads of it.
   [[nodiscard]] bool asksForFullDiskAccess() const { return !protectedFiles.empty(); }
 };

@@ -23,7 +23,7 @@ enum class Unit {
 enum class Removal {
   asSet,     ///< to the Trash, or for good where the user has set so
   outright,  ///< for good
-  byTool,    ///< not by Klarvik: its own tool, or root, has to. It is told, and is no item.
+  byTool,    ///< not by Klarvik: its own tool, or root, has to
 };
 
 /// What has to be looked at on the disk before a thing of a place is an item.
@@ -53,7 +53,7 @@ struct PlaceDetails {
   /// The program that should be closed first; "*" for the application whose folder it is.
   std::string_view closedFirst{};
   Condition condition = Condition::none;
-  std::string_view command{};  ///< what the user may run; `byTool` only
+  std::string_view tool{};  ///< by its `id` in the layout's table; `byTool` only
 };
 
 /// One row of a table of places. Its texts live as long as the program.

@@ -35,6 +35,11 @@ std::string textOf(const LeftAlone& leftAlone) {
       Sentence{leftAlone.notReturned,
                "1 item was not put back: something else has taken its place in the Trash.",
                " items were not put back: something else has taken their places in the Trash."},
+      Sentence{leftAlone.toolsInVain,
+               "1 item is still there: the tool that removes it failed, was refused, or found "
+               "nothing to remove.",
+               " items are still there: the tools that remove them failed, were refused, or found "
+               "nothing to remove."},
   };
   std::string text;
   for (const Sentence& sentence : sentences) {

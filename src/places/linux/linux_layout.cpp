@@ -111,6 +111,7 @@ const DiskLayout& layout() {
   static const DiskLayout all{
       .scanRows = scanRows,
       .places = scanPlaces(),
+      .tools = tools(),
       .artifacts = projectArtifacts(),
       .artifactsAbove = 10'000'000,
       .notSearchedForProjects = notSearchedForProjects,

@@ -53,6 +53,7 @@ const DiskLayout& layout() {
   static const DiskLayout all{
       .scanRows = scanRows,
       .places = {},
+      .tools = {},
       .artifacts = {},
       .artifactsAbove = 0,
       .notSearchedForProjects = {},
