@@ -144,7 +144,7 @@ bool isProgramOfEntryGone(const Question& asked) {
 
 }  // namespace
 
-Measure measureWhole(const FileSystem& files, const Path& path) {
+Measure measureWhole(const FileSystem& files, const Path& path, const std::stop_token& stop) {
   Measure measure;
   // A file that has a name elsewhere goes on taking its space.
   std::map<FileIdentity, std::uint64_t> namesFound;
@@ -165,6 +165,7 @@ Measure measureWhole(const FileSystem& files, const Path& path) {
   };
   if (const auto start = files.attributes(path)) add(*start);
   files.walk(path, wholeWalk(files), [&](WalkEntry& entry) {
+    if (stop.stop_requested()) return WalkStep::stop;
     if (const auto attributes = entry.attributes()) add(*attributes);
     return WalkStep::proceed;
   });

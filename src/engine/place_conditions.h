@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <stop_token>
 #include <string_view>
 #include <vector>
 
@@ -22,8 +23,9 @@ struct Measure {
 };
 
 /// Of all of `path`, links not followed, on its own volume only. Any thread; takes as long as the
-/// tree is large.
-[[nodiscard]] Measure measureWhole(const FileSystem& files, const Path& path);
+/// tree is large. Ends early at a stop, with what it has.
+[[nodiscard]] Measure measureWhole(const FileSystem& files, const Path& path,
+                                   const std::stop_token& stop = {});
 
 /// Whether the condition of `place` holds for the thing at `path`, whose pattern's "*" stand for
 /// `stars`. When it cannot be told, it does not.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace klarvik {
 
 /// What the user copied last. May be called from any thread.
@@ -10,6 +12,8 @@ class Pasteboard {
   /// program that copied it offers a text beside it, there is a text.
   [[nodiscard]] virtual bool holdsTextOrImage() = 0;
   virtual void clear() = 0;
+  /// Puts a UTF-8 text there, for the user to paste.
+  virtual void copy(std::string_view text) = 0;
 };
 
 }  // namespace klarvik

@@ -16,6 +16,7 @@ class NoPasteboard final : public Pasteboard {
  public:
   [[nodiscard]] bool holdsTextOrImage() override { return false; }
   void clear() override {}
+  void copy(std::string_view) override {}
 };
 
 Report itemReport(const PrivacyItem& item) {

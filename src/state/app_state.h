@@ -17,8 +17,8 @@
 
 #include "core/junk_model.h"
 #include "engine/scanner_engine.h"
-#include "platform/platform.h"
 #include "platform/main_loop/background_tasks.h"
+#include "platform/platform.h"
 #include "state/item_selection.h"
 #include "state/removal_notice.h"
 #include "state/scan_coordinator.h"
@@ -149,6 +149,9 @@ class AppState : public QObject {
   void finishRemovals();
   /// Takes items out of the results; it removes nothing from the disk.
   void removeItems(const std::unordered_set<Uuid>& ids);
+  /// Measures what the hints tell of anew, for a user who may have run something: those that
+  /// nothing is left of go. Not while a scan or a clean runs.
+  QCoro::Task<> measureHintsAgain();
   /// Moves what the last clean put into the Trash back to where it was, and scans again if anything
   /// came back. Answers how many items did.
   QCoro::Task<std::int64_t> restoreLastClean();

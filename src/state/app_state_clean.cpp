@@ -1,12 +1,14 @@
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <utility>
 
 #include "base/bytes.h"
+#include "engine/place_conditions.h"
+#include "platform/main_loop/coalescing_queue.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "state/app_state.h"
-#include "platform/main_loop/coalescing_queue.h"
 #include "state/combined_stop_token.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
@@ -162,6 +164,38 @@ void AppState::keepOnly(std::vector<ItemSelection::RemainingCategory> left,
   }
   setResults(std::move(remaining), std::move(selection));
   writeTotal();
+}
+
+QCoro::Task<> AppState::measureHintsAgain() {
+  const auto isAtRest = [this] {
+    return std::holds_alternative<Done>(_scanState) ||
+           std::holds_alternative<CleanDone>(_scanState);
+  };
+  if (!isAtRest() || _lifetime.stop_requested()) co_return;
+  std::map<Path, std::int64_t> sizes;
+  for (const CleanCategory& category : *_scanResults) {
+    for (const Hint& hint : category.hints) sizes[hint.path] = hint.size;
+  }
+  if (sizes.empty()) co_return;
+  auto measure = [&files = _desktop.files, stop = _lifetime.get_token(),
+                  sizes = std::move(sizes)]() mutable {
+    for (auto& [path, size] : sizes) size = measureWhole(files, path, stop).bytes;
+    return std::move(sizes);
+  };
+  const auto measured = co_await runInBackground(_removalWork, std::move(measure));
+  if (!isAtRest() || _lifetime.stop_requested()) co_return;
+  bool changed = false;
+  for (CleanCategory& category : ownResults()) {
+    for (Hint& hint : category.hints) {
+      const auto found = measured.find(hint.path);
+      if (found != measured.end() && setIfChanged(hint.size, found->second)) changed = true;
+    }
+    changed |= std::erase_if(category.hints, [](const Hint& hint) { return hint.size < 1; }) > 0;
+  }
+  changed |= std::erase_if(ownResults(), [](const CleanCategory& category) {
+               return !category.hasItems() && category.hints.empty();
+             }) > 0;
+  if (changed) emit scanResultsChanged();
 }
 
 QCoro::Task<std::int64_t> AppState::restoreLastClean() {

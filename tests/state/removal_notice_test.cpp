@@ -36,6 +36,16 @@ TEST(RemovalNotice, SaysWhatWasLeftAndWhy) {
       "3 items were not put back: something else has taken their places in the Trash.");
 }
 
+TEST(RemovalNotice, SaysThatAToolHasNotRemovedWhatItShould) {
+  RemovalNotice notice;
+  LeftAlone one;
+  one.toolsInVain = 1;
+  notice.tell(one);
+  EXPECT_EQ(notice.text(),
+            "1 item is still there: the tool that removes it failed, was refused, or found nothing "
+            "to remove.");
+}
+
 TEST(RemovalNotice, StaysUntilItIsDismissed) {
   RemovalNotice notice;
   LeftAlone one;

@@ -35,6 +35,11 @@ bool FakePasteboard::holdsTextOrImage() {
   return isFilled;
 }
 
+void FakePasteboard::copy(std::string_view text) {
+  copied = text;
+  isFilled = true;
+}
+
 void FakePasteboard::clear() {
   isFilled = false;
   ++clearings;

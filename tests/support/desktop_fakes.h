@@ -54,7 +54,9 @@ class FakePasteboard final : public Pasteboard {
  public:
   [[nodiscard]] bool holdsTextOrImage() override;
   void clear() override;
+  void copy(std::string_view text) override;
 
+  std::string copied;  ///< the last text; of one thread
   std::atomic<bool> isFilled = false;
   std::atomic<int> clearings = 0;
 };

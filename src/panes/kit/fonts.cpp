@@ -25,6 +25,15 @@ QFont interfaceFont(qreal size, QFont::Weight weight) {
   return font;
 }
 
+QFont codeFont(qreal size) {
+  QFont font;
+  font.setFamilies({"DejaVu Sans Mono", "Noto Sans Mono", "Liberation Mono", "monospace"});
+  font.setStyleHint(QFont::Monospace);
+  font.setHintingPreference(QFont::PreferVerticalHinting);
+  font.setPixelSize(qRound(size));
+  return font;
+}
+
 QFont symbolFont(qreal size) {
   QFont font{QString(symbolFamily)};
   font.setStyleStrategy(QFont::NoFontMerging);

@@ -12,6 +12,9 @@ bool loadSymbolFont();
 /// 6.4 draws whole ones only, so a half goes up.
 [[nodiscard]] QFont interfaceFont(qreal size, QFont::Weight weight);
 
+/// A face whose characters are all as wide as each other. `size` as above.
+[[nodiscard]] QFont codeFont(qreal size);
+
 /// The face whose ligatures are the symbols.
 [[nodiscard]] QFont symbolFont(qreal size);
 

@@ -52,6 +52,10 @@ QFont Palette::font(qreal size, int weight, qreal tracking) const {
   return face;
 }
 
+QFont Palette::codeFont(qreal size) const {
+  return klarvik::codeFont(size);
+}
+
 QFont Palette::symbolFont(qreal size) const {
   return klarvik::symbolFont(size);
 }

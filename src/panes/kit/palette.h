@@ -80,6 +80,8 @@ class Palette : public QObject {
   /// `QFont::Weight`; `tracking` is added between letters.
   Q_INVOKABLE [[nodiscard]] QFont font(qreal size, int weight = QFont::Normal,
                                        qreal tracking = 0) const;
+  /// A face whose characters are all as wide as each other, for what is typed into a terminal.
+  Q_INVOKABLE [[nodiscard]] QFont codeFont(qreal size) const;
   Q_INVOKABLE [[nodiscard]] QFont symbolFont(qreal size) const;
   /// The ligature that draws a symbol; empty for a name that nothing stands for.
   Q_INVOKABLE [[nodiscard]] QString glyph(const QString& symbol) const;

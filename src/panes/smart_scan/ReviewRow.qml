@@ -5,7 +5,8 @@ import QtQuick.Layouts
 import Klarvik.Kit
 import Klarvik.Panes
 
-/// One row of the review: a category, one of its items, or the row that shows the rest.
+/// One row of the review: a category, one of its items, the row that shows the rest, a hint, or the
+/// command that belongs to the hint above it.
 ToolGroupRow {
     id: root
 
@@ -21,6 +22,7 @@ ToolGroupRow {
     required note
     required property bool isInUse
     required property bool canSelect
+    required property bool isCopied
     required property string size
     required description
 
@@ -28,6 +30,7 @@ ToolGroupRow {
     readonly property bool isItem: kind === ReviewTableModel.Item
     readonly property bool isShowMore: kind === ReviewTableModel.ShowMore
     readonly property bool isHint: kind === ReviewTableModel.Hint
+    readonly property bool isCommand: kind === ReviewTableModel.Command
 
     title: name
     titleSize: isCategory ? 13 : 12
@@ -42,11 +45,30 @@ ToolGroupRow {
     // A hint has no box, and its name begins where those of the items do.
     indent: isCategory ? 0 : isHint ? 54 : 26
     implicitHeight: SmartScanMetrics.rowHeight
-    Accessible.role: isShowMore ? Accessible.Button : isCategory ? Accessible.TreeItem
+    showsParts: !isCommand
+    Accessible.role: isShowMore || isCommand ? Accessible.Button : isCategory ? Accessible.TreeItem
                      : isHint ? Accessible.StaticText : Accessible.CheckBox
     Accessible.checkable: canSelect
     Accessible.checked: selection === ReviewTableModel.All
     Accessible.checkStateMixed: selection === ReviewTableModel.Partial
+
+    whole: Loader {
+        anchors.fill: parent
+        // Below the name of the hint.
+        anchors.leftMargin: Theme.sidePadding + root.indent + 54 + 20 + Theme.partSpacing
+        anchors.rightMargin: Theme.sidePadding
+        active: root.isCommand
+        visible: active
+        sourceComponent: CommandLine {
+            command: root.name
+            isCopied: root.isCopied
+            isReached: root.ListView.isCurrentItem
+            onCopy: {
+                root.takePress();
+                root.activated();
+            }
+        }
+    }
 
     leading: Symbol {
         Layout.preferredWidth: 20

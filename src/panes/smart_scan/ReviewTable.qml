@@ -11,7 +11,13 @@ ColumnLayout {
 
     required property ReviewTableModel model
 
+    readonly property bool isInActiveWindow: Window.active
+
     spacing: 0
+    onIsInActiveWindowChanged: {
+        if (isInActiveWindow)
+            root.model.windowActivated();
+    }
 
     TableHeader {
         Layout.fillWidth: true
@@ -31,5 +37,17 @@ ColumnLayout {
 
             delegate: ReviewRow {}
         }
+    }
+
+    Label {
+        Layout.fillWidth: true
+        Layout.leftMargin: Theme.sidePadding
+        Layout.rightMargin: Theme.sidePadding
+        Layout.topMargin: 8
+        Layout.bottomMargin: 8
+        visible: text.length > 0
+        text: root.model.commandsNote
+        size: 11
+        color: Theme.textTertiary
     }
 }

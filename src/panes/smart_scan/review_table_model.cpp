@@ -12,6 +12,7 @@
 #include "panes/kit/row_text.h"
 #include "panes/smart_scan/smart_scan_texts.h"
 #include "places/disk_layout.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
 namespace {
@@ -26,6 +27,7 @@ QVariant nothing(int role) {
     case ReviewTableModel::IsExpandedRole:
     case ReviewTableModel::IsInUseRole:
     case ReviewTableModel::CanSelectRole:
+    case ReviewTableModel::IsCopiedRole:
       return false;
     case ReviewTableModel::UrlRole:
       return QUrl();
@@ -41,8 +43,11 @@ bool isAmong(std::span<const CleanCategory> results, CategoryType type) {
 }  // namespace
 
 ReviewTableModel::ReviewTableModel(AppState& appState, const Formatting& formatting,
-                                   QObject* parent)
-    : QAbstractListModel(parent), _appState(appState), _formatting(formatting) {
+                                   Pasteboard& pasteboard, QObject* parent)
+    : QAbstractListModel(parent),
+      _appState(appState),
+      _formatting(formatting),
+      _pasteboard(pasteboard) {
   connect(&appState, &AppState::scanStateChanged, this, &ReviewTableModel::syncResults);
   connect(&appState, &AppState::scanResultsChanged, this, &ReviewTableModel::syncResults);
   connect(&appState, &AppState::expandedCategoriesChanged, this, &ReviewTableModel::syncExpansion);
@@ -77,6 +82,8 @@ QVariant ReviewTableModel::data(const QModelIndex& index, int role) const {
                  : nothing(role);
     case RowKind::Hint:
       return rowDataOfHint(at, role);
+    case RowKind::Command:
+      return rowDataOfCommand(at, role);
   }
   return {};
 }
@@ -96,7 +103,8 @@ QHash<int, QByteArray> ReviewTableModel::roleNames() const {
           {DescriptionRole, "description"},
           {NoteRole, "note"},
           {IsInUseRole, "isInUse"},
-          {CanSelectRole, "canSelect"}};
+          {CanSelectRole, "canSelect"},
+          {IsCopiedRole, "isCopied"}};
 }
 
 void ReviewTableModel::activate(int row) {
@@ -116,6 +124,9 @@ void ReviewTableModel::activate(int row) {
       return;
     case RowKind::Hint:
       return;
+    case RowKind::Command:
+      copyCommand(row);
+      return;
   }
 }
 
@@ -132,6 +143,42 @@ void ReviewTableModel::toggleSelection(int row) {
   } else if (const JunkItem* found = item(at)) {
     _appState.toggleItem(found->id);
   }
+}
+
+void ReviewTableModel::copyCommand(int row) {
+  if (!hasIndex(row, 0)) {
+    return;
+  }
+  const Place at = place(row);
+  const Hint* told = at.kind == RowKind::Command ? hint(at) : nullptr;
+  if (told == nullptr) {
+    return;
+  }
+  _pasteboard.copy(told->command);
+  setCopied(told->command);
+}
+
+void ReviewTableModel::windowActivated() {
+  if (_copied.empty()) {
+    return;
+  }
+  setCopied({});
+  _appState.measureHintsAgain();
+}
+
+void ReviewTableModel::setCopied(std::string command) {
+  _copied = std::move(command);
+  emit dataChanged(index(0), index(rowCount() - 1), {IsCopiedRole});
+}
+
+QString ReviewTableModel::commandsNote() const {
+  return showsCommands() ? QString::fromStdString(smart_scan::commandsNote()) : QString();
+}
+
+bool ReviewTableModel::showsCommands() const {
+  return std::ranges::any_of(_shown, [](const ShownCategory& shown) {
+    return shown.hintRowCount > shown.hintRows.size();
+  });
 }
 
 void ReviewTableModel::syncResults() {
@@ -212,14 +259,14 @@ void ReviewTableModel::syncItems(std::size_t at) {
   if (category == nullptr || !shown.isExpanded) {
     replaceItems(at, nullptr, 0);
     setHiddenCount(at, 0);
-    setHintCount(at, 0);
+    setHints(at, {});
     return;
   }
   const std::size_t count = category->items.size();
   const std::size_t shownCount = shown.showsAll ? count : std::min(count, firstItems);
   replaceItems(at, _appState.selectedItems().items(category->id), shownCount);
   setHiddenCount(at, count - shownCount);
-  setHintCount(at, category->hints.size());
+  setHints(at, category->hints);
 }
 
 /// The first `count` of `items` take the place of those shown. Items keep their order from one
@@ -283,20 +330,34 @@ void ReviewTableModel::setHiddenCount(std::size_t at, std::size_t hiddenCount) {
   }
 }
 
-void ReviewTableModel::setHintCount(std::size_t at, std::size_t count) {
+void ReviewTableModel::setHints(std::size_t at, std::span<const Hint> hints) {
+  std::vector<std::size_t> rows;
+  std::size_t count = 0;
+  for (const Hint& each : hints) {
+    rows.push_back(count);
+    count += each.command.empty() ? 1 : 2;
+  }
   ShownCategory& shown = _shown[at];
-  const std::size_t before = shown.hintCount;
-  if (before == count) return;
+  const std::size_t before = shown.hintRowCount;
   const std::size_t first = firstRow(at) + shown.hintsBegin();
   const auto row = [&](std::size_t hint) { return static_cast<int>(first + hint); };
   if (before < count) {
     beginInsertRows({}, row(before), row(count - 1));
-    shown.hintCount = count;
-    endInsertRows();
-  } else {
+  } else if (before > count) {
     beginRemoveRows({}, row(count), row(before - 1));
-    shown.hintCount = count;
+  }
+  shown.hintRows = std::move(rows);
+  shown.hintRowCount = count;
+  if (before < count) {
+    endInsertRows();
+  } else if (before > count) {
     endRemoveRows();
+  }
+  if (const std::size_t kept = std::min(before, count); kept > 0) {
+    emit dataChanged(index(row(0)), index(row(kept - 1)));
+  }
+  if (setIfChanged(_showedCommands, showsCommands())) {
+    emit commandsNoteChanged();
   }
 }
 
@@ -335,7 +396,11 @@ ReviewTableModel::Place ReviewTableModel::place(int row) const {
     return {at, RowKind::Category, 0};
   }
   if (rest >= _shown[at].hintsBegin()) {
-    return {at, RowKind::Hint, rest - _shown[at].hintsBegin()};
+    const std::vector<std::size_t>& starts = _shown[at].hintRows;
+    const std::size_t hintRow = rest - _shown[at].hintsBegin();
+    const auto after = std::ranges::upper_bound(starts, hintRow);
+    const auto hint = static_cast<std::size_t>(after - starts.begin()) - 1;
+    return {at, starts[hint] == hintRow ? RowKind::Hint : RowKind::Command, hint};
   }
   const std::size_t item = rest - 1;
   return {at, item < _shown[at].ranks.size() ? RowKind::Item : RowKind::ShowMore, item};
@@ -352,6 +417,13 @@ const JunkItem* ReviewTableModel::item(const Place& at) const {
   const bool isThere =
       ranked.place < category->items.size() && category->items[ranked.place].id == ranked.id;
   return isThere ? &category->items[ranked.place] : nullptr;
+}
+
+/// Nothing while the rows are being brought in line with new results that lack the hint.
+const Hint* ReviewTableModel::hint(const Place& at) const {
+  const CleanCategory* category = find(_shown[at.category].type);
+  const bool isThere = category != nullptr && at.item < category->hints.size();
+  return isThere ? &category->hints[at.item] : nullptr;
 }
 
 ReviewTableModel::Selection ReviewTableModel::selection(const CleanCategory& category) const {
@@ -399,28 +471,45 @@ QVariant ReviewTableModel::rowDataOfCategory(const ShownCategory& shown, int rol
 }
 
 QVariant ReviewTableModel::rowDataOfHint(const Place& place, int role) const {
-  const CleanCategory* category = find(_shown[place.category].type);
-  if (category == nullptr || place.item >= category->hints.size()) {
+  const Hint* told = hint(place);
+  if (told == nullptr) {
     return nothing(role);
   }
-  const Hint& hint = category->hints[place.item];
-  const QString name = printableText(hint.name);
-  const QString note = printableText(smart_scan::hintNote(hint));
+  const QString name = printableText(told->name);
+  const QString note = printableText(told->reason);
   switch (role) {
     case NameRole:
       return name;
     case PathRole:
-      return printableText(hint.path.native());
+      return printableText(told->path.native());
     case UrlRole:
-      return urlOfPath(hint.path);
+      return urlOfPath(told->path);
     case SymbolRole:
       return QStringLiteral("info.circle");
     case SizeRole:
-      return byteText(hint.size, _formatting);
+      return byteText(told->size, _formatting);
     case NoteRole:
       return note;
     case DescriptionRole:
-      return rowDescription(name, byteText(hint.size, _formatting), note);
+      return rowDescription(name, byteText(told->size, _formatting), note);
+    default:
+      return nothing(role);
+  }
+}
+
+QVariant ReviewTableModel::rowDataOfCommand(const Place& place, int role) const {
+  const Hint* told = hint(place);
+  if (told == nullptr) {
+    return nothing(role);
+  }
+  const QString command = printableText(told->command);
+  switch (role) {
+    case NameRole:
+      return command;
+    case IsCopiedRole:
+      return told->command == _copied;
+    case DescriptionRole:
+      return QStringLiteral("Copy the command: ") + command;
     default:
       return nothing(role);
   }

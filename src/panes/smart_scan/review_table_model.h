@@ -3,22 +3,26 @@
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
 #include <cstddef>
+#include <span>
+#include <string>
 #include <vector>
 
+#include "platform/pasteboard.h"
 #include "state/app_state.h"
 
 namespace klarvik {
 
 /// What a finished scan found, as one flat list for a virtualised view: a row for each category,
 /// and below an expanded one its largest items, where there are more a row that shows the rest, and
-/// the hints. Rows come and go one by one, so that scroll position, focus and expansion survive.
-/// Main thread only.
+/// the hints, each followed by the command that it names. Rows come and go one by one, so that
+/// scroll position, focus and expansion survive. Main thread only.
 class ReviewTableModel : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("The pane makes it.")
+  Q_PROPERTY(QString commandsNote READ commandsNote NOTIFY commandsNoteChanged)
  public:
-  enum class RowKind { Category, Item, ShowMore, Hint };
+  enum class RowKind { Category, Item, ShowMore, Hint, Command };
   Q_ENUM(RowKind)
   enum class Selection { None, Partial, All };
   Q_ENUM(Selection)
@@ -38,22 +42,34 @@ class ReviewTableModel : public QAbstractListModel {
     NoteRole,
     IsInUseRole,
     CanSelectRole,
+    IsCopiedRole,
   };
 
   /// Items of an expanded category that show before the user asks for the rest.
   static constexpr std::size_t firstItems = 8;
 
-  ReviewTableModel(AppState& appState, const Formatting& formatting, QObject* parent = nullptr);
+  ReviewTableModel(AppState& appState, const Formatting& formatting, Pasteboard& pasteboard,
+                   QObject* parent = nullptr);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
   /// What pressing the row does: a category opens or closes, an item is selected or not, the last
-  /// row shows the rest.
+  /// row shows the rest, a command is copied.
   Q_INVOKABLE void activate(int row);
   /// What pressing the selection box of the row does. Nothing on a row that has none.
   Q_INVOKABLE void toggleSelection(int row);
+  /// Puts the command of the row where the user can paste it. Nothing on another row.
+  Q_INVOKABLE void copyCommand(int row);
+  /// The user has come back to the window: after a copy they may have run what they copied.
+  Q_INVOKABLE void windowActivated();
+
+  /// What the user is told about the commands; empty while none is shown.
+  [[nodiscard]] QString commandsNote() const;
+
+ signals:
+  void commandsNoteChanged();
 
  private:
   struct ShownCategory {
@@ -63,10 +79,12 @@ class ReviewTableModel : public QAbstractListModel {
     ItemSelection::Items items;
     std::vector<std::size_t> ranks;  ///< of the items that have a row
     std::size_t hiddenCount = 0;     ///< items behind the row that shows the rest
-    std::size_t hintCount = 0;       ///< hints that have a row
+    /// Where among the rows of the hints each one stands; its command, if it has one, follows.
+    std::vector<std::size_t> hintRows;
+    std::size_t hintRowCount = 0;
 
     [[nodiscard]] std::size_t hintsBegin() const { return 1 + ranks.size() + (hiddenCount > 0); }
-    [[nodiscard]] std::size_t rowCount() const { return hintsBegin() + hintCount; }
+    [[nodiscard]] std::size_t rowCount() const { return hintsBegin() + hintRowCount; }
   };
   struct Place {
     std::size_t category = 0;  ///< in `_shown`
@@ -88,7 +106,7 @@ class ReviewTableModel : public QAbstractListModel {
   void replaceItems(std::size_t at, ItemSelection::Items items, std::size_t count);
   void removeItems(std::size_t at, std::size_t first, std::size_t count);
   void setHiddenCount(std::size_t at, std::size_t hiddenCount);
-  void setHintCount(std::size_t at, std::size_t count);
+  void setHints(std::size_t at, std::span<const Hint> hints);
   void rowChanged(std::size_t row, const QList<int>& roles = {});
 
   [[nodiscard]] const std::vector<CleanCategory>& results() const;
@@ -96,14 +114,21 @@ class ReviewTableModel : public QAbstractListModel {
   [[nodiscard]] std::size_t firstRow(std::size_t at) const;
   [[nodiscard]] Place place(int row) const;
   [[nodiscard]] const JunkItem* item(const Place& place) const;
+  [[nodiscard]] const Hint* hint(const Place& place) const;
   [[nodiscard]] Selection selection(const CleanCategory& category) const;
   [[nodiscard]] QVariant rowDataOfCategory(const ShownCategory& shown, int role) const;
   [[nodiscard]] QVariant rowDataOfHint(const Place& place, int role) const;
+  [[nodiscard]] QVariant rowDataOfCommand(const Place& place, int role) const;
+  [[nodiscard]] bool showsCommands() const;
+  void setCopied(std::string command);
   [[nodiscard]] QVariant rowDataOfItem(const JunkItem& item, CategoryType type, int role) const;
 
   AppState& _appState;
   const Formatting& _formatting;
+  Pasteboard& _pasteboard;
   std::vector<ShownCategory> _shown;
+  std::string _copied;  ///< the command that the user has copied and may be about to run
+  bool _showedCommands = false;
 };
 
 }  // namespace klarvik

@@ -15,7 +15,7 @@ SmartScanModel::SmartScanModel(AppState& appState, SharedState& shared, const De
       _desktop(desktop),
       _preview(appState.layout()),
       _scanningTable(appState, desktop.formatting),
-      _reviewTable(appState, desktop.formatting),
+      _reviewTable(appState, desktop.formatting, desktop.pasteboard),
       _footer(appState, desktop),
       _banner(appState, shared.diskMonitor(), shared.trashMonitor(), desktop.formatting),
       _elsewhere(shared.scanCoordinator(), shared.toolActivity(), shared.navigator(),

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "panes/kit/file_url.h"
+#include "places/tool.h"
 
 namespace klarvik::smart_scan {
 
@@ -79,6 +80,7 @@ std::string fateOf(const ItemSum& selected, bool useTrash, const Formatting& for
 std::string itemNote(const JunkItem& item) {
   std::string note = item.wasJustUsed ? "Used within the last day. " : "";
   if (!item.closeFirst.empty()) note += "Close " + item.closeFirst + " first. ";
+  if (item.tool != nullptr) note += std::string(item.tool->name) + " removes it for good. ";
   return note + item.reason;
 }
 
@@ -86,8 +88,8 @@ std::string hintsOnlyNote() {
   return "Klarvik removes none of this itself.";
 }
 
-std::string hintNote(const Hint& hint) {
-  return hint.command.empty() ? hint.reason : hint.reason + " Run: " + hint.command;
+std::string commandsNote() {
+  return "Klarvik never asks for your password. Run these in a terminal if you agree with them.";
 }
 
 std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting) {

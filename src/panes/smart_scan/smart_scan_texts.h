@@ -38,7 +38,8 @@ namespace klarvik::smart_scan {
 [[nodiscard]] std::string itemNote(const JunkItem& item);
 /// Of a category with nothing but hints.
 [[nodiscard]] std::string hintsOnlyNote();
-[[nodiscard]] std::string hintNote(const Hint& hint);
+/// Below the commands that the user may run.
+[[nodiscard]] std::string commandsNote();
 [[nodiscard]] std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting);
 [[nodiscard]] std::string removingLine(const DeletionProgress& progress,
                                        const Formatting& formatting);

@@ -56,6 +56,14 @@ void QtPasteboard::clear() {
   });
 }
 
+void QtPasteboard::copy(std::string_view text) {
+  const auto size = static_cast<qsizetype>(text.size());
+  onMainThread([copied = QString::fromUtf8(text.data(), size)] {
+    QGuiApplication::clipboard()->setText(copied);
+    return true;
+  });
+}
+
 bool QtPasteboard::onMainThread(const std::function<bool()>& act) {
   if (QThread::currentThread() == _onMainThread.thread()) return act();
   struct Call {

@@ -25,6 +25,7 @@ class QtPasteboard final : public Pasteboard {
 
   [[nodiscard]] bool holdsTextOrImage() override;
   void clear() override;
+  void copy(std::string_view text) override;
 
  private:
   struct Turn;

@@ -2,10 +2,12 @@
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
+#include <filesystem>
 
 #include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "smart_scan_fixture.h"
+#include "support/desktop_fakes.h"
 
 namespace klarvik {
 namespace {
@@ -61,7 +63,7 @@ TEST_F(ReviewTableRows, OfACategoryWithNothingButHintsCannotBeSelected) {
   };
   AppState state(desktop, shared.toolActivity(), shared.scanCoordinator(), shared.scanHistory(),
                  shared.removalNotice(), nullptr, scan);
-  ReviewTableModel rows(state, desk.formatting);
+  ReviewTableModel rows(state, desk.formatting, desk.pasteboard);
   QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::Fatal);
   state.startScan();
   ASSERT_TRUE(turnUntil([&] { return std::holds_alternative<AppState::Done>(state.scanState()); }));
@@ -73,9 +75,115 @@ TEST_F(ReviewTableRows, OfACategoryWithNothingButHintsCannotBeSelected) {
   rows.toggleSelection(0);
   EXPECT_TRUE(state.selectedItems().empty());
   rows.activate(0);
-  ASSERT_EQ(rows.rowCount(), 2);
-  EXPECT_EQ(rows.index(1).data(ReviewTableModel::NoteRole),
-            "They are read-only. Run: go clean -modcache");
+  ASSERT_EQ(rows.rowCount(), 3);
+  EXPECT_EQ(rows.index(1).data(ReviewTableModel::NoteRole), "They are read-only.");
+  rows.toggleSelection(1);
+  rows.toggleSelection(2);
+  EXPECT_TRUE(state.selectedItems().empty());
+  EXPECT_EQ(state.totalSpaceFreeable(), 0);
+}
+
+/// A scan that found hints, and things on the disk that they tell of.
+class ReviewTableHints : public ReviewTableRows {
+ protected:
+  static Hint hint(const std::string& name, std::int64_t size, const std::string& command) {
+    return {.name = name,
+            .path = "/Users/ann/told/" + name,
+            .size = size,
+            .reason = "Because.",
+            .command = command};
+  }
+
+  void SetUp() override {
+    ReviewTableRows::SetUp();
+    desk.disk.makeFile("/Users/ann/told/first/file", 2 * megabyte);
+    desk.disk.makeFile("/Users/ann/told/second/file", megabyte);
+    state.startScan();
+    ASSERT_TRUE(
+        turnUntil([&] { return std::holds_alternative<AppState::Done>(state.scanState()); }));
+  }
+
+  [[nodiscard]] QString text(int row, int role) const {
+    return rows.index(row).data(role).toString();
+  }
+  [[nodiscard]] int kind(int row) const {
+    return rows.index(row).data(ReviewTableModel::KindRole).toInt();
+  }
+
+  const AppState::Scan scan = [](const auto&, const auto&, const auto& onCategory) {
+    CleanCategory told{.type = CategoryType::systemLogs, .items = {}};
+    told.hints = {hint("first", 5 * megabyte, "sudo first --clean"),
+                  hint("silent", 4 * megabyte, ""), hint("second", megabyte, "second 'a b'")};
+    onCategory(told);
+    return std::vector{told.id};
+  };
+  AppState state{desktop,
+                 shared.toolActivity(),
+                 shared.scanCoordinator(),
+                 shared.scanHistory(),
+                 shared.removalNotice(),
+                 nullptr,
+                 scan};
+  ReviewTableModel rows{state, desk.formatting, desk.pasteboard};
+  QAbstractItemModelTester tester{&rows, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(ReviewTableHints, AreFollowedByTheirCommands) {
+  EXPECT_EQ(rows.commandsNote(), "");
+  rows.activate(0);
+  ASSERT_EQ(rows.rowCount(), 1 + 3 + 2);
+  const int hintKind = static_cast<int>(ReviewTableModel::RowKind::Hint);
+  const int commandKind = static_cast<int>(ReviewTableModel::RowKind::Command);
+  EXPECT_EQ(kind(1), hintKind);
+  EXPECT_EQ(kind(2), commandKind);
+  EXPECT_EQ(kind(3), hintKind);
+  EXPECT_EQ(kind(4), hintKind);
+  EXPECT_EQ(kind(5), commandKind);
+  EXPECT_EQ(text(2, ReviewTableModel::NameRole), "sudo first --clean");
+  EXPECT_EQ(text(2, ReviewTableModel::DescriptionRole), "Copy the command: sudo first --clean");
+  EXPECT_EQ(text(4, ReviewTableModel::NameRole), "second");
+  EXPECT_EQ(text(5, ReviewTableModel::NameRole), "second 'a b'");
+  EXPECT_EQ(
+      rows.commandsNote(),
+      "Klarvik never asks for your password. Run these in a terminal if you agree with them.");
+  rows.activate(0);
+  EXPECT_EQ(rows.rowCount(), 1);
+  EXPECT_EQ(rows.commandsNote(), "");
+}
+
+TEST_F(ReviewTableHints, AreCopiedAsTheyAre) {
+  rows.activate(0);
+  rows.copyCommand(1);
+  rows.copyCommand(99);
+  EXPECT_EQ(desk.pasteboard.copied, "");
+  rows.copyCommand(5);
+  EXPECT_EQ(desk.pasteboard.copied, "second 'a b'");
+  EXPECT_TRUE(rows.index(5).data(ReviewTableModel::IsCopiedRole).toBool());
+  rows.activate(2);
+  EXPECT_EQ(desk.pasteboard.copied, "sudo first --clean");
+  EXPECT_TRUE(rows.index(2).data(ReviewTableModel::IsCopiedRole).toBool());
+  EXPECT_FALSE(rows.index(5).data(ReviewTableModel::IsCopiedRole).toBool());
+}
+
+TEST_F(ReviewTableHints, AreMeasuredAgainWhenTheUserComesBackFromTheTerminal) {
+  rows.activate(0);
+  QSignalSpy changed(&state, &AppState::scanResultsChanged);
+  rows.copyCommand(2);
+  rows.windowActivated();
+  // Nothing is left of what is silent; the first has shrunk.
+  ASSERT_TRUE(turnUntil([&] { return changed.count() > 0; }));
+  ASSERT_EQ(rows.rowCount(), 1 + 2 + 2);
+  EXPECT_EQ(text(1, ReviewTableModel::SizeRole),
+            byteText(state.scanResults().front().hints.front().size, desk.formatting));
+  EXPECT_LT(state.scanResults().front().hints.front().size, 3 * megabyte);
+  EXPECT_EQ(text(4, ReviewTableModel::NameRole), "second 'a b'");
+  EXPECT_FALSE(rows.index(2).data(ReviewTableModel::IsCopiedRole).toBool());
+
+  rows.copyCommand(2);
+  std::filesystem::remove_all(desk.disk.onDisk("/Users/ann/told"));
+  rows.windowActivated();
+  ASSERT_TRUE(turnUntil([&] { return rows.rowCount() == 0; }));
+  EXPECT_TRUE(state.scanResults().empty());
 }
 
 TEST_F(ReviewTableRows, ShowEightItemsWithoutAButtonForMore) {

@@ -131,11 +131,10 @@ TEST(ItemNote, GivesTheReasonAndSaysWhatToCloseFirst) {
       "Close Firefox first. It comes back.");
 }
 
-TEST(HintNote, EndsWithWhatTheUserMayRun) {
-  EXPECT_EQ(hintNote({.name = "go", .path = "/x", .reason = "Read-only.", .command = ""}),
-            "Read-only.");
-  EXPECT_EQ(hintNote({.name = "go", .path = "/x", .reason = "Read-only.", .command = "go clean"}),
-            "Read-only. Run: go clean");
+TEST(ItemNote, SaysWhichToolRemovesItForGood) {
+  const Tool go{.id = "go", .name = "Go"};
+  EXPECT_EQ(itemNote({.name = "m", .path = "/x", .reason = "It comes back.", .tool = &go}),
+            "Go removes it for good. It comes back.");
 }
 
 TEST(CleanTitle, NamesTheSizeOfTheSelection) {
