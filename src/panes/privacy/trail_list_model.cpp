@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "panes/privacy/privacy_texts.h"
 

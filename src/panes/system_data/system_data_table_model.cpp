@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "panes/kit/donut.h"
-#include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
 #include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"

@@ -5,7 +5,6 @@
 #include <unordered_map>
 #include <utility>
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 
 namespace klarvik {

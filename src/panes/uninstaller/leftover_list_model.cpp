@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/bytes.h"
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "panes/uninstaller/uninstaller_texts.h"
 
