@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/pasteboard.h"
+#include "platform/desktop_services.h"
 #include "state/app_state.h"
 
 namespace klarvik {

@@ -4,7 +4,6 @@
 #include <QSignalSpy>
 #include <filesystem>
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "smart_scan_fixture.h"
 #include "support/desktop_fakes.h"
