@@ -63,6 +63,9 @@ class VirtualDesktop:
                 "XDG_RUNTIME_DIR": runtime,
                 "QT_QUICK_BACKEND": "software",
                 "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+                # Whether this machine has these tools must not change what Klarvik offers here.
+                "GOMODCACHE": str(self._home / "no such folder"),
+                "UV_CACHE_DIR": str(self._home / "no such folder"),
             }
             self.environment["DISPLAY"] = self._start_display(ending)
             self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus(ending)

@@ -15,7 +15,7 @@
 namespace klarvik {
 
 class Formatting;
-struct Tool;
+struct CleaningTool;
 
 /// One thing that can be removed.
 struct JunkItem {
@@ -32,7 +32,7 @@ struct JunkItem {
   std::string closeFirst{};  ///< the running program that uses it; empty when none does
   bool wasJustUsed = false;  ///< comes after the others of its category
   /// The tool that removes it; Klarvik itself never does then. A row of the layout's table.
-  const Tool* tool = nullptr;
+  const CleaningTool* tool = nullptr;
   std::vector<std::string> toolNames{};  ///< what of the tool's own names it is, if it is one
 
   /// Of all that is shown.

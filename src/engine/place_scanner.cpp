@@ -66,7 +66,7 @@ CleanCategory PlaceScanner::find(CategoryType type) {
       look(place, match, category);
     }
   }
-  for (const Tool& tool : _layout.tools) {
+  for (const CleaningTool& tool : _layout.tools) {
     if (_stop.stop_requested()) return category;
     if (tool.category != type) continue;
     for (JunkItem& item : itemsOf(_platform, tool, _stop)) {
@@ -180,7 +180,7 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
     return;
   }
   std::string name = nameOf(place, match);
-  const Tool* tool = _layout.tool(place.details.tool);
+  const CleaningTool* tool = _layout.tool(place.details.tool);
   if (tool != nullptr && !mayRun(*tool, match.path, measure)) {
     category.hints.push_back({.name = std::move(name),
                               .path = match.path,
@@ -205,7 +205,8 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
   }
 }
 
-bool PlaceScanner::mayRun(const Tool& tool, const Path& path, const Measure& measure) const {
+bool PlaceScanner::mayRun(const CleaningTool& tool, const Path& path,
+                          const Measure& measure) const {
   return measure.isOwn && !measure.holdsMountPoint && cleansFolder(_platform, tool, path, _stop);
 }
 

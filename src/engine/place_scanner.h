@@ -45,7 +45,8 @@ class PlaceScanner {
   void offer(JunkItem item, const Measure& measure, CleanCategory& category);
   void list(JunkItem item, CleanCategory& category);
   /// Whether `tool` can be asked to remove what lies at `path`.
-  [[nodiscard]] bool mayRun(const Tool& tool, const Path& path, const Measure& measure) const;
+  [[nodiscard]] bool mayRun(const CleaningTool& tool, const Path& path,
+                            const Measure& measure) const;
   [[nodiscard]] std::string obstacle(const Path& path, const Measure& measure) const;
   [[nodiscard]] std::string runningUser(const Place& place, const PlaceMatch& match) const;
   [[nodiscard]] bool overlapsAnItem(const Path& path) const;

@@ -30,7 +30,7 @@ constexpr std::string_view buildCacheOfDocker = "Build Cache";
 /// Asks one tool, and reads what it answers.
 class Asked {
  public:
-  Asked(const Platform& platform, const Tool& tool, const std::stop_token& stop)
+  Asked(const Platform& platform, const CleaningTool& tool, const std::stop_token& stop)
       : _platform(platform), _tool(tool), _stop(stop) {}
 
   /// What it prints; nothing unless it ends well.
@@ -129,7 +129,7 @@ class Asked {
   }
 
   [[nodiscard]] std::optional<tool_answers::DockerUse> askedUse(std::string_view type) const {
-    const Tool* sizes = layoutFor(_platform.files.home()).tool("docker-builds");
+    const CleaningTool* sizes = layoutFor(_platform.files.home()).tool("docker-builds");
     const auto text = sizes != nullptr ? answerTo(sizes->asks) : std::nullopt;
     return text ? tool_answers::dockerUse(*text, type) : std::nullopt;
   }
@@ -187,7 +187,7 @@ class Asked {
   }
 
   const Platform& _platform;
-  const Tool& _tool;
+  const CleaningTool& _tool;
   const std::stop_token& _stop;
 };
 
@@ -199,7 +199,7 @@ bool isSameFolder(const FileSystem& files, const Path& told, const Path& path) {
 
 /// Whether what the item stands for is still what the tool would remove.
 bool isStillOffered(const Platform& platform, const JunkItem& item, const std::stop_token& stop) {
-  const Tool& tool = *item.tool;
+  const CleaningTool& tool = *item.tool;
   if (tool.item.empty()) {
     const bool isSame = item.identity && entryIdentity(platform.files, item.path) == item.identity;
     return isSame && cleansFolder(platform, tool, item.path, stop);
@@ -211,7 +211,7 @@ bool isStillOffered(const Platform& platform, const JunkItem& item, const std::s
 
 }  // namespace
 
-bool cleansFolder(const Platform& platform, const Tool& tool, const Path& path,
+bool cleansFolder(const Platform& platform, const CleaningTool& tool, const Path& path,
                   const std::stop_token& stop) {
   if (!tool.isRun() || !tool.item.empty()) return false;
   bool isNamed = false;
@@ -226,7 +226,7 @@ bool cleansFolder(const Platform& platform, const Tool& tool, const Path& path,
   return isNamed;
 }
 
-std::vector<JunkItem> itemsOf(const Platform& platform, const Tool& tool,
+std::vector<JunkItem> itemsOf(const Platform& platform, const CleaningTool& tool,
                               const std::stop_token& stop) {
   if (!tool.isRun() || tool.item.empty()) return {};
   return Asked(platform, tool, stop).items();
@@ -235,7 +235,7 @@ std::vector<JunkItem> itemsOf(const Platform& platform, const Tool& tool,
 ToolRemoval removeByTool(const Platform& platform, const JunkItem& item,
                          const std::stop_token& stop) {
   const DiskLayout& layout = layoutFor(platform.files.home());
-  const Tool* tool = item.tool;
+  const CleaningTool* tool = item.tool;
   if (tool == nullptr || layout.tool(tool->id) != tool || !tool->isRun()) return {};
   if (!isStillOffered(platform, item, stop)) return {};
   const Asked asked(platform, *tool, stop);

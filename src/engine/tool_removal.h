@@ -13,12 +13,12 @@ namespace klarvik {
 // What tools remove by themselves. Each call runs programs and waits for them; any thread.
 
 /// Whether `tool` is there and says that what it cleans is the folder at `path` and nothing else.
-[[nodiscard]] bool cleansFolder(const Platform& platform, const Tool& tool, const Path& path,
-                                const std::stop_token& stop);
+[[nodiscard]] bool cleansFolder(const Platform& platform, const CleaningTool& tool,
+                                const Path& path, const std::stop_token& stop);
 
 /// What `tool` says it would remove of what is in no table of places. Nothing when it is not there,
 /// does not answer, or cannot be understood.
-[[nodiscard]] std::vector<JunkItem> itemsOf(const Platform& platform, const Tool& tool,
+[[nodiscard]] std::vector<JunkItem> itemsOf(const Platform& platform, const CleaningTool& tool,
                                             const std::stop_token& stop);
 
 struct ToolRemoval {

@@ -12,8 +12,8 @@ std::string_view DiskLayout::label(CategoryType type) const {
   return row != scanRows.end() ? row->name : rawValue(type);
 }
 
-const Tool* DiskLayout::tool(std::string_view id) const {
-  const auto found = std::ranges::find(tools, id, &Tool::id);
+const CleaningTool* DiskLayout::tool(std::string_view id) const {
+  const auto found = std::ranges::find(tools, id, &CleaningTool::id);
   return found != tools.end() ? &*found : nullptr;
 }
 

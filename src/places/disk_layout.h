@@ -48,9 +48,9 @@ struct FileKindName {
 /// Everything that one system's disks have in common: what lies where, what may go, and how things
 /// are called. The same object for the whole run of the program; any thread.
 struct DiskLayout {
-  std::span<const ScanRow> scanRows;  ///< in the order in which they run
-  std::span<const Place> places;      ///< empty where the scan rows have methods of their own
-  std::span<const Tool> tools;        ///< that remove something of their own
+  std::span<const ScanRow> scanRows;    ///< in the order in which they run
+  std::span<const Place> places;        ///< empty where the scan rows have methods of their own
+  std::span<const CleaningTool> tools;  ///< that remove something of their own
   std::span<const ProjectArtifact> artifacts;
   std::int64_t artifactsAbove;  ///< bytes; what takes no more is not listed
   std::span<const std::string_view> notSearchedForProjects;  ///< names of folders in the home
@@ -83,7 +83,7 @@ struct DiskLayout {
   /// What the user reads; `rawValue` where the layout has no other word.
   [[nodiscard]] std::string_view label(CategoryType type) const;
   /// Nothing where there is none of this `id`.
-  [[nodiscard]] const Tool* tool(std::string_view id) const;
+  [[nodiscard]] const CleaningTool* tool(std::string_view id) const;
   /// Whether the user is asked for Full Disk Access, and reads of it.
   [[nodiscard]] bool asksForFullDiskAccess() const { return !protectedFiles.empty(); }
 };

@@ -2,7 +2,7 @@
 
 namespace klarvik {
 
-std::vector<std::string> removalCommand(const Tool& tool, std::span<const std::string> names) {
+std::vector<std::string> removalCommand(const CleaningTool& tool, std::span<const std::string> names) {
   std::vector<std::string> command;
   std::size_t next = 0;
   for (const std::string_view argument : tool.removes) {
@@ -18,7 +18,7 @@ std::vector<std::string> removalCommand(const Tool& tool, std::span<const std::s
   return command;
 }
 
-std::string commandLine(const Tool& tool) {
+std::string commandLine(const CleaningTool& tool) {
   if (!tool.isRun()) return std::string(tool.told);
   std::string line;
   for (const std::string_view argument : tool.removes) {

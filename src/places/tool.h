@@ -32,7 +32,7 @@ using ToolCommand = std::span<const std::string_view>;
 
 /// A program that removes what it has put on the disk itself. What Klarvik runs of it are these
 /// texts and names that the tool has printed, and nothing else; what it does not run is told.
-struct Tool {
+struct CleaningTool {
   std::string_view id;
   std::string_view name;  ///< how the user calls it
   ToolRights rights = ToolRights::user;
@@ -53,10 +53,10 @@ struct Tool {
 
 /// The arguments with which the tool removes something. `names` take the places of "NAME" and
 /// "REVISION", in this order.
-[[nodiscard]] std::vector<std::string> removalCommand(const Tool& tool,
+[[nodiscard]] std::vector<std::string> removalCommand(const CleaningTool& tool,
                                                       std::span<const std::string> names);
 
 /// What the user may run in a terminal instead.
-[[nodiscard]] std::string commandLine(const Tool& tool);
+[[nodiscard]] std::string commandLine(const CleaningTool& tool);
 
 }  // namespace klarvik

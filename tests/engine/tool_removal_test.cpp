@@ -208,7 +208,7 @@ TEST_F(ToolsTest, AreTheOnlyWayForTheirPlaces) {
 TEST_F(ToolsTest, AreThoseOfTheTableAndNoOthers) {
   JunkItem item = modules();
   static constexpr std::array<std::string_view, 2> command{"rm", "x"};
-  const Tool other{.id = "go", .name = "Go", .asks = item.tool->asks, .removes = command};
+  const CleaningTool other{.id = "go", .name = "Go", .asks = item.tool->asks, .removes = command};
   item.tool = &other;
   EXPECT_EQ(removed(item), 0);
   item.tool = layoutFor(home).tool("journal");

@@ -15,13 +15,13 @@ using testing::ElementsAre;
 
 const DiskLayout& linuxLayout = layoutFor("/home/ann");
 
-const Tool& tool(std::string_view id) {
+const CleaningTool& tool(std::string_view id) {
   return *linuxLayout.tool(id);
 }
 
 TEST(TheTools, AreNamedOnceAndSayWhatTheyDo) {
   std::set<std::string_view> ids;
-  for (const Tool& each : linuxLayout.tools) {
+  for (const CleaningTool& each : linuxLayout.tools) {
     EXPECT_TRUE(ids.insert(each.id).second) << each.id;
     EXPECT_EQ(linuxLayout.tool(each.id), &each);
     EXPECT_FALSE(each.name.empty()) << each.id;
@@ -37,7 +37,7 @@ TEST(TheTools, AreNamedOnceAndSayWhatTheyDo) {
 // Some of these remove what people keep (volumes, data, the whole store of a user), others more
 // than is shown.
 TEST(TheTools, AreNeverToldToRemoveMoreThanIsShown) {
-  for (const Tool& each : linuxLayout.tools) {
+  for (const CleaningTool& each : linuxLayout.tools) {
     std::vector<std::string> all = removalCommand(each, std::vector<std::string>{"one", "2"});
     for (const ToolCommand command : {each.asks, each.asksFirst}) {
       all.insert(all.end(), command.begin(), command.end());
@@ -54,7 +54,7 @@ TEST(TheTools, AreNeverToldToRemoveMoreThanIsShown) {
 }
 
 TEST(TheTools, ThatNeedRootAreToldAndNeverRun) {
-  for (const Tool& each : linuxLayout.tools) {
+  for (const CleaningTool& each : linuxLayout.tools) {
     EXPECT_EQ(each.rights == ToolRights::root, each.told.starts_with("sudo ")) << each.id;
     for (const ToolCommand command : {each.asks, each.asksFirst, each.removes}) {
       for (const std::string_view argument : command) {
@@ -71,7 +71,7 @@ TEST(TheTools, ThatNeedRootAreToldAndNeverRun) {
 
 TEST(TheTools, OfPlacesAreInTheTable) {
   for (const Place& place : linuxLayout.places) {
-    const Tool* its = linuxLayout.tool(place.details.tool);
+    const CleaningTool* its = linuxLayout.tool(place.details.tool);
     EXPECT_EQ(its != nullptr, place.details.removal == Removal::byTool) << place.id;
     EXPECT_TRUE(its == nullptr || its->item.empty()) << place.id;
   }

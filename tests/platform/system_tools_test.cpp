@@ -2,16 +2,20 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <thread>
 
+#include "base/posix_io.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -59,15 +63,12 @@ class SystemToolsTest : public testing::Test {
   TemporaryFolder disk;
 };
 
-/// Gone, or ended and not yet waited for by whoever inherited it.
+/// Ended, whoever it still has to be waited for by.
 bool isGone(::pid_t process) {
-  for (int turn = 0; turn < 500; ++turn) {
-    std::string number, name, state;
-    std::ifstream("/proc/" + std::to_string(process) + "/stat") >> number >> name >> state;
-    if (state.empty() || state == "Z") return true;
-    std::this_thread::sleep_for(10ms);
-  }
-  return false;
+  const UniqueFd handle(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
+  if (!handle) return errno == ESRCH;
+  ::pollfd ended{.fd = handle.get(), .events = POLLIN, .revents = 0};
+  return ::poll(&ended, 1, 5000) == 1;
 }
 
 TEST_F(SystemToolsTest, GivesBackBothOutputsAndTheStatus) {
@@ -233,14 +234,14 @@ TEST_F(SystemToolsTest, DoesNotWaitForWhatAToolLeavesRunning) {
 
 TEST_F(SystemToolsTest, EndsAtAStopFromAnotherThread) {
   std::stop_source stop;
+  const Path begun = disk.onDisk("home/ann/begun");
+  ASSERT_EQ(::mkfifo(begun.c_str(), 0600), 0);
   const std::jthread stopper([&] {
-    for (int turn = 0; turn < 2000; ++turn) {
-      if (std::filesystem::exists(disk.onDisk("home/ann/child"))) break;
-      std::this_thread::sleep_for(10ms);
-    }
+    // Opened as soon as the tool writes.
+    const std::ifstream waiting(begun);
     stop.request_stop();
   });
-  const ToolResult result = runScript("sleep 600 & echo $! > new; mv new child; wait",
+  const ToolResult result = runScript("sleep 600 & echo $! > child; echo > begun; wait",
                                       {.time = 60s, .stop = stop.get_token()});
   EXPECT_EQ(result.end, End::stopped);
   EXPECT_TRUE(isGone(numberIn("home/ann/child")));

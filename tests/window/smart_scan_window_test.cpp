@@ -291,5 +291,62 @@ TEST_F(SmartScanWindow, StaysIdleAtLaunchWhenAutomaticScansAreOff) {
   EXPECT_TRUE(is<AppState::Idle>());
 }
 
+/// A Linux home with something that only a tool may remove.
+class SmartScanWindowOfALinuxDisk : public EmptyHomeWindowFixture {
+ protected:
+  SmartScanWindowOfALinuxDisk() { home = linuxHome; }
+
+  void SetUp() override {
+    EmptyHomeWindowFixture::SetUp();
+    desk->disk.makeFile(home / "go/pkg/mod/module/file", 12'000'000);
+    desk->disk.makeFile(home / ".npm/_cacache/index", 18'000'000);
+  }
+};
+
+TEST_F(SmartScanWindowOfALinuxDisk, ShowsACommandThatCanBeCopied) {
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  const QString note = "Klarvik never asks for your password.";
+  EXPECT_FALSE(shows(note));
+  click("Package Caches");
+  EXPECT_TRUE(shows("go clean -modcache"));
+  EXPECT_TRUE(shows(note));
+  picture("hints");
+  click("Copy");
+  EXPECT_EQ(desk->pasteboard.copied, "go clean -modcache");
+  EXPECT_TRUE(shows("Copied"));
+  EXPECT_EQ(app->appState().selectedCount(), 1);
+
+  // The list takes the command's row like any other.
+  press(Qt::Key_Return);
+  EXPECT_EQ(desk->pasteboard.copied, "go clean -modcache");
+  picture("hint_copied");
+  window().resize(920, 640);
+  picture("hint_copied_920x640");
+}
+
+TEST_F(SmartScanWindowOfALinuxDisk, SaysWhichToolRemovesAnItemForGood) {
+  desk->tools.answer("go env GOMODCACHE", desk->disk.onDisk(home / "go/pkg/mod").native() + "\n");
+  desk->tools.act("go clean -modcache", [this] {
+    std::filesystem::remove_all(desk->disk.onDisk(home / "go/pkg/mod"));
+    return FakeToolRunner::printed("");
+  });
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  click("Package Caches");
+  EXPECT_TRUE(shows("Go removes it for good. "));
+  EXPECT_TRUE(
+      shows("Everything selected is marked Safe. 18 MB moves to the Trash, 12 MB is removed "
+            "for good."));
+  EXPECT_FALSE(shows("Klarvik never asks for your password."));
+  picture("tool_items");
+  app->appState().performClean();
+  ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
+  EXPECT_FALSE(homeHolds("go/pkg/mod"));
+  EXPECT_FALSE(homeHolds(".npm/_cacache"));
+  EXPECT_EQ(trashCount(), 1U);
+  EXPECT_GE(app->appState().lastClean()->freed, 30'000'000);
+}
+
 }  // namespace
 }  // namespace klarvik

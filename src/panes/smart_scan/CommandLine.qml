@@ -35,12 +35,18 @@ RowLayout {
         }
     }
 
-    TextButton {
+    Item {
         // As wide with either text.
         Layout.preferredWidth: 48
-        title: root.isCopied ? qsTr("Copied") : qsTr("Copy")
-        help: qsTr("Copy this command")
-        activeFocusOnTab: root.isReached
-        onAction: root.copy()
+        Layout.fillHeight: true
+
+        TextButton {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            title: root.isCopied ? qsTr("Copied") : qsTr("Copy")
+            help: qsTr("Copy this command")
+            activeFocusOnTab: root.isReached
+            onAction: root.copy()
+        }
     }
 }

@@ -43,7 +43,7 @@ ToolGroupRow {
     showsLeading: !isShowMore
     tint: hovered ? 0.03 : isCategory ? 0 : 0.02
     // A hint has no box, and its name begins where those of the items do.
-    indent: isCategory ? 0 : isHint ? 54 : 26
+    indent: isCategory ? 0 : isHint || isCommand ? 54 : 26
     implicitHeight: SmartScanMetrics.rowHeight
     showsParts: !isCommand
     Accessible.role: isShowMore || isCommand ? Accessible.Button : isCategory ? Accessible.TreeItem
@@ -52,21 +52,18 @@ ToolGroupRow {
     Accessible.checked: selection === ReviewTableModel.All
     Accessible.checkStateMixed: selection === ReviewTableModel.Partial
 
-    whole: Loader {
+    whole: CommandLine {
         anchors.fill: parent
         // Below the name of the hint.
-        anchors.leftMargin: Theme.sidePadding + root.indent + 54 + 20 + Theme.partSpacing
+        anchors.leftMargin: Theme.sidePadding + root.indent + 20 + Theme.partSpacing
         anchors.rightMargin: Theme.sidePadding
-        active: root.isCommand
-        visible: active
-        sourceComponent: CommandLine {
-            command: root.name
-            isCopied: root.isCopied
-            isReached: root.ListView.isCurrentItem
-            onCopy: {
-                root.takePress();
-                root.activated();
-            }
+        visible: root.isCommand
+        command: root.isCommand ? root.name : ""
+        isCopied: root.isCopied
+        isReached: root.ListView.isCurrentItem
+        onCopy: {
+            root.takePress();
+            root.activated();
         }
     }
 

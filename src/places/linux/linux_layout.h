@@ -10,7 +10,7 @@
 namespace klarvik::linux_disk {
 
 [[nodiscard]] std::span<const Place> scanPlaces();
-[[nodiscard]] std::span<const Tool> tools();
+[[nodiscard]] std::span<const CleaningTool> tools();
 [[nodiscard]] std::span<const ProjectArtifact> projectArtifacts();
 [[nodiscard]] std::span<const Pass> analysisPasses();
 [[nodiscard]] std::span<const StorageShare> storageShares();

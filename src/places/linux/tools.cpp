@@ -48,7 +48,7 @@ constexpr auto removeSnap = arguments("snap", "remove", "NAME", "--revision=REVI
 
 constexpr std::string_view imagesWithoutName = "Images that no name and no container refers to.";
 
-constexpr std::array<Tool, 22> all{{
+constexpr std::array<CleaningTool, 22> all{{
     {.id = "uv", .name = "uv", .asks = askUv, .removes = cleanUv},
     {.id = "pnpm", .name = "pnpm", .asks = askPnpm, .removes = prunePnpm},
     {.id = "conda",
@@ -139,7 +139,7 @@ constexpr std::array<Tool, 22> all{{
 
 }  // namespace
 
-std::span<const Tool> tools() {
+std::span<const CleaningTool> tools() {
   return all;
 }
 

@@ -315,7 +315,7 @@ class AMillionReviewedItems : public PaneFixture {
                       onCategory(caches);
                       return std::vector{caches.id};
                     }};
-  ReviewTableModel table{appState, desk.formatting};
+  ReviewTableModel table{appState, desk.formatting, desk.pasteboard};
 };
 
 TEST_F(AMillionReviewedItems, ComeGoAndAreSelectedInAFewSteps) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "places/tool.h"
+
 namespace klarvik::smart_scan {
 namespace {
 
@@ -132,7 +134,7 @@ TEST(ItemNote, GivesTheReasonAndSaysWhatToCloseFirst) {
 }
 
 TEST(ItemNote, SaysWhichToolRemovesItForGood) {
-  const Tool go{.id = "go", .name = "Go"};
+  const CleaningTool go{.id = "go", .name = "Go"};
   EXPECT_EQ(itemNote({.name = "m", .path = "/x", .reason = "It comes back.", .tool = &go}),
             "Go removes it for good. It comes back.");
 }
