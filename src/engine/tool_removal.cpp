@@ -176,10 +176,14 @@ class Asked {
     if (!text) return {};
     std::vector<JunkItem> found;
     for (const auto& [name, revision] : tool_answers::disabledSnaps(*text)) {
-      const Path file = shownAt() / (name + "_" + revision + ".snap");
+      std::string fileName = name;
+      fileName.append("_").append(revision).append(".snap");
+      const Path file = shownAt() / fileName;
       const auto attributes = _platform.files.attributes(file);
       if (!attributes || attributes->kind != FileKind::regular) continue;
-      found.push_back(item(name + ", revision " + revision, file, attributes->allocatedBytes));
+      std::string title = name;
+      title.append(", revision ").append(revision);
+      found.push_back(item(std::move(title), file, attributes->allocatedBytes));
       found.back().modifiedDate = attributes->modified;
       found.back().toolNames = {name, revision};
     }

@@ -2,7 +2,8 @@
 
 namespace klarvik {
 
-std::vector<std::string> removalCommand(const CleaningTool& tool, std::span<const std::string> names) {
+std::vector<std::string> removalCommand(const CleaningTool& tool,
+                                        std::span<const std::string> names) {
   std::vector<std::string> command;
   std::size_t next = 0;
   for (const std::string_view argument : tool.removes) {

@@ -29,7 +29,7 @@ struct ToolResult {
   int status = 0;
   std::string output{};  ///< standard output; bytes of any kind
   std::string errors{};  ///< standard error
-  bool isCut = false;  ///< it printed more than was kept
+  bool isCut = false;    ///< it printed more than was kept
 
   /// It ended well, and all that it printed is here.
   [[nodiscard]] bool isWhole() const { return end == End::exited && status == 0 && !isCut; }

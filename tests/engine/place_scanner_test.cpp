@@ -52,7 +52,7 @@ class LinuxDiskTest : public testing::Test {
 
   [[nodiscard]] Platform platform() {
     return {system.files,      system.trash, system.commands,        system.defaults, system.volume,
-            system.formatting, system.info,  system.recentDocuments, programs, tools};
+            system.formatting, system.info,  system.recentDocuments, programs,        tools};
   }
 
   [[nodiscard]] CleanCategory find(CategoryType type) {

@@ -63,9 +63,9 @@ class LinuxTrails : public testing::Test {
   SystemPlatform machine{disk.path(), "/home/ann"};
   FakeRunningPrograms programs;
   const Platform system = machine.platform();
-  const Platform platform{system.files,    system.trash,           system.commands,
-                          system.defaults, system.volume,          system.formatting,
-                          system.info,     system.recentDocuments, programs, system.tools};
+  const Platform platform{system.files,  system.trash,      system.commands, system.defaults,
+                          system.volume, system.formatting, system.info,     system.recentDocuments,
+                          programs,      system.tools};
   FakePasteboard pasteboard;
   PrivacyScanner scanner{platform, pasteboard};
 };
