@@ -72,6 +72,16 @@ TEST_F(Onboarding, TheGrantShowsWithoutAnyAction) {
   EXPECT_EQ(view.step(), 1);
 }
 
+TEST_F(Onboarding, TheGrantShowsOnItsPageAlsoWhenNoButtonWasPressed) {
+  view.proceed();
+  desk.clock.advance(10s);
+  EXPECT_FALSE(view.isGranted());
+  desk.grantFullDiskAccess();
+  desk.clock.advance(2s);
+  EXPECT_TRUE(view.isGranted());
+  EXPECT_TRUE(desk.workspace.openedUrls.empty());
+}
+
 TEST_F(Onboarding, OpensTheSettingsAndReopensTheProgramWhenAsked) {
   view.openSettings();
   EXPECT_EQ(desk.workspace.openedUrls.size(), 1U);

@@ -8,6 +8,7 @@ namespace klarvik {
 namespace {
 
 constexpr int permissionStep = 1;
+constexpr std::chrono::seconds betweenLooks{2};
 
 }  // namespace
 
@@ -17,11 +18,13 @@ OnboardingModel::OnboardingModel(PermissionsManager& permissions, const Desktop&
       _permissions(permissions),
       _defaults(desktop.defaults),
       _stepCount(layoutFor(desktop.files.home()).asksForFullDiskAccess() ? 3 : 2),
-      _showMenuBar(desktop.defaults, desktop.notifications, "showMenuBar") {
+      _showMenuBar(desktop.defaults, desktop.notifications, "showMenuBar"),
+      _clock(desktop.clock) {
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
           &OnboardingModel::isGrantedChanged);
   connect(this, &OnboardingModel::isGrantedChanged, this, &OnboardingModel::buttonTitleChanged);
   connect(this, &OnboardingModel::stepChanged, this, &OnboardingModel::buttonTitleChanged);
+  connect(this, &OnboardingModel::stepChanged, this, &OnboardingModel::followPermission);
 }
 
 QString OnboardingModel::buttonTitle() const {
@@ -55,6 +58,12 @@ void OnboardingModel::reopen() {
 void OnboardingModel::goOn() {
   ++_step;
   emit stepChanged();
+}
+
+void OnboardingModel::followPermission() {
+  _looks.reset();
+  const bool isAsking = _step == permissionStep && !isLastStep();
+  if (isAsking) _looks.emplace(_clock, betweenLooks, [this] { _permissions.refreshAccess(); });
 }
 
 void OnboardingModel::finish(bool scans) {

@@ -3,10 +3,12 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 #include <QString>
+#include <optional>
 
 #include "panes/kit/stored_switch.h"
 #include "platform/platform.h"
 #include "state/permissions_manager.h"
+#include "state/timers.h"
 
 namespace klarvik {
 
@@ -51,6 +53,8 @@ class OnboardingModel : public QObject {
 
  private:
   void goOn();
+  /// While the page of the permission is shown, as it says.
+  void followPermission();
   void finish(bool scans);
 
   PermissionsManager& _permissions;
@@ -59,6 +63,8 @@ class OnboardingModel : public QObject {
   int _step = 0;
   bool _isFinished = false;
   StoredSwitch _showMenuBar;
+  Clock& _clock;
+  std::optional<RepeatingTimer> _looks;
 };
 
 }  // namespace klarvik
