@@ -51,9 +51,14 @@ int systemData(const Invocation& call) {
   result.freeBytesAtMeasurement = engine.freeBytes();
   Report items = Report::array();
   for (const SystemDataItem& item : result.items()) items.push_back(itemReport(item));
-  print({{"event", "result"},
-         {"items", std::move(items)},
-         {"freeBytes", result.freeBytesAtMeasurement}});
+  Report report{{"event", "result"},
+                {"items", std::move(items)},
+                {"freeBytes", result.freeBytesAtMeasurement}};
+  if (result.ledger) {
+    report["usedBytes"] = result.ledger->usedBytes;
+    report["exceedsBy"] = result.ledger->exceedsBy;
+  }
+  print(report);
   return 0;
 }
 

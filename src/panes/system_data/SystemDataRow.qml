@@ -153,12 +153,12 @@ RowFrame {
             text: root.detail
             size: 10.5
             color: Theme.textTertiary
-            elide: Text.ElideMiddle
+            elide: root.model.isLedger ? Text.ElideRight : Text.ElideMiddle
         }
     }
 
     RevealButton {
-        visible: root.isItem
+        visible: root.isItem && root.url.toString() !== ""
         activeFocusOnTab: root.ListView.isCurrentItem
         url: root.url
     }
