@@ -172,6 +172,9 @@ DiskComposition DiskCompositionEngine::measureVolume(const std::stop_token& stop
   }
   progress("The rest of the disk", fractionOfWalk);
   addRemainder(disk, sum);
+  if (!disk.buckets.empty() && disk.buckets.back().id == "system") {
+    disk.buckets.back().places = {"/"};
+  }
   if (const auto kept = _platform.volume.keptForRootBytes().value_or(0); kept >= 1) {
     disk.buckets.push_back({.id = "kept",
                             .label = std::string(layout.words.keptForSystem),

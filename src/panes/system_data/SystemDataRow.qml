@@ -150,10 +150,21 @@ RowFrame {
 
         Label {
             Layout.fillWidth: true
+            visible: !root.model.isLedger
             text: root.detail
             size: 10.5
             color: Theme.textTertiary
-            elide: root.model.isLedger ? Text.ElideRight : Text.ElideMiddle
+            elide: Text.ElideMiddle
+        }
+
+        // A sentence, which a narrow window cuts.
+        ElidedText {
+            Layout.fillWidth: true
+            visible: root.model.isLedger
+            text: root.detail
+            size: 10.5
+            color: Theme.textTertiary
+            elide: Text.ElideRight
         }
     }
 

@@ -52,7 +52,7 @@ std::string itemDetail(const SystemDataItem& item, const Path& home) {
   if (isBelow(place, home.native())) place.replace(0, home.native().size(), "~");
   if (item.path.is_relative()) place.clear();
   if (item.sentence.empty()) return place;
-  return (place.empty() ? "" : place + " · ") + std::string(item.sentence);
+  return std::string(item.sentence) + (place.empty() ? "" : " · " + place);
 }
 
 std::string ledgerNote(const LedgerSum& sum, const Words& words, const Formatting& formatting) {

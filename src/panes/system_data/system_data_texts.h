@@ -30,7 +30,7 @@ namespace klarvik::system_data {
 /// accounts for the whole volume, what the kind is.
 [[nodiscard]] std::string kindDetail(std::size_t items, SystemDataSubCategory kind,
                                      const DiskLayout& layout);
-/// Where it lies, and its sentence.
+/// Its sentence, and where it lies.
 [[nodiscard]] std::string itemDetail(const SystemDataItem& item, const Path& home);
 /// How the rows add up.
 [[nodiscard]] std::string ledgerNote(const LedgerSum& sum, const Words& words,

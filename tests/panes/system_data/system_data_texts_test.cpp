@@ -72,12 +72,12 @@ TEST_F(SystemDataTexts, NameNoSystemOnALinuxDisk) {
             "Select everything in Swap & Hibernation");
 }
 
-TEST_F(SystemDataTexts, SayOfAnItemWhereItLiesAndWhatItIs) {
+TEST_F(SystemDataTexts, SayOfAnItemWhatItIsAndWhereItLies) {
   SystemDataItem item{
       .name = "Writer", .path = "/home/ann/.cache/writer", .sentence = "Made again."};
-  EXPECT_EQ(system_data::itemDetail(item, "/home/ann"), "~/.cache/writer · Made again.");
+  EXPECT_EQ(system_data::itemDetail(item, "/home/ann"), "Made again. · ~/.cache/writer");
   item.path = "/usr";
-  EXPECT_EQ(system_data::itemDetail(item, "/home/ann"), "/usr · Made again.");
+  EXPECT_EQ(system_data::itemDetail(item, "/home/ann"), "Made again. · /usr");
   item.path.clear();
   EXPECT_EQ(system_data::itemDetail(item, "/home/ann"), "Made again.");
 }
