@@ -1,5 +1,5 @@
 #include "base/paths.h"
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "core/catalogue.h"
 #include "core/deletion_rules.h"
 #include "places/path_pattern.h"
@@ -50,6 +50,7 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
   const Path trash =
       question.folders.data.lexically_relative(question.folders.home) / "Trash/files";
   if (isBelow(relative, trash.lexically_normal().native())) return allowed;
+  if (isInTrashOfAVolume(question)) return allowed;
   if (const auto own = catalogue.ownPlaceOf(path)) {
     return refuse("~/", *own, " holds your own files, not junk.");
   }
@@ -75,6 +76,7 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
     return nameMatchesAny(question.layout.guard.secretNames, lowercased(piece));
   });
   if (isKeys) return refuse(path, " holds keys and passwords.");
+  if (isInTrashOfAVolume(question)) return allowed;
   const Catalogue catalogue(question.layout, question.folders);
   const bool isListed = question.scope.kind != DeletionScope::Kind::residual &&
                         !catalogue.placesOf(pieces, /*inHome=*/false).empty();

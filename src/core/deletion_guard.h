@@ -18,6 +18,7 @@ struct DeletionScope {
     pickedFile,  ///< a file that the user chose by hand
     residual,    ///< a file left behind by an application that is being uninstalled
     trail,       ///< a trail of what the user did
+    trashed,     ///< an entry of the user's Trash, on whatever volume
   };
   Kind kind = Kind::general;
   std::vector<std::string> identifiers;  ///< of that application; `residual` only
@@ -25,6 +26,7 @@ struct DeletionScope {
   static DeletionScope general() { return {Kind::general, {}}; }
   static DeletionScope pickedFile() { return {Kind::pickedFile, {}}; }
   static DeletionScope trail() { return {Kind::trail, {}}; }
+  static DeletionScope trashed() { return {Kind::trashed, {}}; }
   static DeletionScope residual(std::vector<std::string> identifiers) {
     return {Kind::residual, std::move(identifiers)};
   }

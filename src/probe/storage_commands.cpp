@@ -6,6 +6,7 @@
 #include "probe/report.h"
 #include "systemdata/system_data_engine.h"
 #include "tools/disk_composition_engine.h"
+#include "tools/folder_sizes.h"
 
 namespace klarvik::probe {
 
@@ -70,6 +71,27 @@ int composition(const Invocation& call) {
          {"displayBuckets", bucketReports(disk.displayBuckets(smallestShare))},
          {"usedBytes", disk.usedBytes},
          {"freeBytes", disk.freeBytes}});
+  return 0;
+}
+
+int folders(const Invocation& call) {
+  const std::vector<Path> starts{call.arguments.front()};
+  const FolderSizes sizes = FolderSizes::measure(call.platform.files, starts, {}, call.stop);
+  FolderSizes::Id start = FolderSizes::top;
+  for (const FolderSizes::Row& row : sizes.rows(FolderSizes::top)) {
+    if (row.folder) start = *row.folder;
+  }
+  Report reports = Report::array();
+  for (const FolderSizes::Row& row : sizes.rows(start)) {
+    reports.push_back({{"path", pathReport(row.path)},
+                       {"bytes", row.bytes},
+                       {"isFolder", row.folder.has_value()},
+                       {"things", row.things}});
+  }
+  print({{"event", "result"},
+         {"bytes", sizes.bytes(FolderSizes::top)},
+         {"folders", sizes.folderCount()},
+         {"rows", std::move(reports)}});
   return 0;
 }
 

@@ -7,7 +7,6 @@
 #include "base/paths.h"
 #include "core/removal_check.h"
 #include "panes/kit/donut.h"
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "platform/file_system.h"
 #include "platform/formatting.h"

@@ -10,12 +10,11 @@
 #include <system_error>
 #include <utility>
 
-#include "base/folder_handle.h"
 #include "base/posix_io.h"
-#include "platform/linux/directory_reader.h"
+#include "platform/linux/directory_stack.h"
 #include "platform/linux/directory_walk.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/mount_table.h"
+#include "platform/linux/mounts.h"
 #include "platform/linux/tree_removal.h"
 #include "platform/linux/volume_tops.h"
 

@@ -16,7 +16,7 @@
 #include "base/posix_io.h"
 #include "base/text.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/mount_table.h"
+#include "platform/linux/mounts.h"
 
 namespace klarvik {
 namespace {

@@ -27,7 +27,7 @@ Path movedBelow(const Path& folder, const Path& below, const Path& above) {
 /// Whether the way to `mount` leads through a file system that may not answer.
 bool isBehindOther(const MountPoint& mount, const std::vector<MountPoint>& mounts) {
   return std::ranges::any_of(mounts, [&](const MountPoint& above) {
-    return above.volume != mount.volume && above.place != "/" &&
+    return above.volume != mount.volume && !above.isLocal && above.place != "/" &&
            isAtOrBelow(mount.place, above.place);
   });
 }

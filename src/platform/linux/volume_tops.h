@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/file_system.h"
-#include "platform/linux/mount_table.h"
+#include "platform/linux/mounts.h"
 
 namespace klarvik {
 
