@@ -8,6 +8,7 @@
 #include "places/application_places.h"
 #include "places/category_type.h"
 #include "places/guard_rules.h"
+#include "places/ledger_place.h"
 #include "places/place.h"
 #include "places/storage_share.h"
 #include "places/system_data_sub_category.h"
@@ -66,7 +67,9 @@ struct DiskLayout {
   std::span<const std::string_view> moreLargeFileFolders;
   std::span<const FileKindName> fileKinds;  ///< of large files
   bool allVisibleFoldersMayBeLarge;  ///< every other visible folder of the home is looked at too
-  std::span<const Pass> analysisPasses;         ///< of System Data, in the order in which they run
+  std::span<const Pass> analysisPasses;  ///< of System Data, in the order in which they run
+  /// In the place of the passes, where the analysis accounts for the whole volume.
+  std::span<const LedgerPlace> ledger;
   std::span<const StorageShare> storageShares;  ///< in the order in which they are measured
   const TrailPlaces& trails;
   const ApplicationPlaces& applications;

@@ -3,6 +3,7 @@
 #include <span>
 #include <string_view>
 
+#include "places/guard_rules.h"
 #include "places/rgb_color.h"
 #include "platform/user_folders.h"
 
@@ -17,6 +18,9 @@ struct StorageShare {
   std::span<const std::string_view> places{};
   /// One of the folders that the user sees, in the place of `places`.
   Path UserFolders::*shown = nullptr;
+  /// More places, by patterns. Of two shares, what lies deeper belongs to the place that is deeper.
+  std::span<const PlacePattern> patterns{};
+  bool holdsArtifacts = false;  ///< what builds left in the projects of the user
 };
 
 }  // namespace klarvik

@@ -33,9 +33,21 @@ enum class SystemDataSubCategory {
   preferences,
   icloudData,
   otherLibrary,
+  // Only where the analysis accounts for the whole volume.
+  containerStorage,
+  packages,
+  deletedOpen,
+  reserved,
+  otherUsers,
+  yourFiles,
+  elsewhere,
+  notReadable,
 };
 
+/// Those that the analysis of any system knows; they come first.
 inline constexpr std::size_t systemDataSubCategoryCount = 22;
+/// All of them.
+inline constexpr std::size_t ledgerKindCount = 30;
 
 /// How one system calls a kind.
 struct SystemDataWords {

@@ -10,6 +10,7 @@ namespace klarvik {
 struct Words {
   // The disk.
   std::string_view systemAndEverythingElse;  ///< the share of the disk that no folder explains
+  std::string_view keptForSystem;            ///< free blocks that no ordinary user may write
   std::string_view unnamedVolume;            ///< for a volume without a label
   std::string_view unnamedHomeVolume;        ///< the same, where only the home lies on it
   std::string_view systemLine;               ///< "%1": name and version, as the system tells them
@@ -45,6 +46,9 @@ struct Words {
   std::string_view systemDataAnalysed;    ///< "%1": a size
   std::string_view systemDataHelp;        ///< "%1": a size
   std::string_view itemsOfProtectedKind;  ///< "%1": "3 items"
+  // Of an analysis that accounts for the whole volume; else empty.
+  std::string_view ledgerAddsUp;   ///< "%1": what is used
+  std::string_view ledgerExceeds;  ///< "%1": by how much the rows take more than that
   std::string_view analysisFindsSafe;
   std::string_view analysisFindsSnapshots;
   std::string_view analysisFindsProtected;

@@ -22,6 +22,7 @@ struct FileIdentity {
 struct FileAttributes {
   FileKind kind = FileKind::other;
   std::int64_t allocatedBytes = 0;  ///< bytes taken on the disk; 0 for a directory
+  std::int64_t folderBytes = 0;     ///< what a directory's own list of names takes; else 0
   std::int64_t logicalBytes = 0;    ///< length of the content
   std::optional<Date> modified;
   std::optional<Date> accessed;

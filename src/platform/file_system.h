@@ -50,6 +50,12 @@ enum class WalkOutcome {
   refused,  ///< the start is missing, is not a directory, or may not be read: nothing was visited
 };
 
+/// Where the volume of the home can be walked so that each thing on it is met once.
+struct VolumeTops {
+  std::vector<Path> folders;  ///< where it is mounted; the one that the home lies in comes first
+  std::vector<Path> seenElsewhere;  ///< folders in there that hold what another of them holds
+};
+
 /// Sees an item, and the place where it really lies, once its parent has been opened and nothing
 /// has been changed yet. Answering false leaves everything as it is. Only the item that was seen is
 /// removed or moved then: what comes to its name afterwards stays.
@@ -109,6 +115,8 @@ class FileSystem {
   [[nodiscard]] virtual std::optional<FileAttributes> attributes(const Path& path) const = 0;
   /// Whether another volume begins at `path`. Waits for no server.
   [[nodiscard]] virtual bool isMountPoint(const Path& path) const = 0;
+  /// Waits for no server.
+  [[nodiscard]] virtual VolumeTops volumeTops() const { return {{"/"}, {}}; }
   /// Full paths of the direct children, hidden ones included, in the order the disk gives them.
   /// Nothing when the folder cannot be listed.
   [[nodiscard]] virtual std::optional<std::vector<Path>> list(const Path& folder) const = 0;

@@ -1,10 +1,21 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {
+
+/// A file without a name, which takes its space until the program that has it open closes it.
+struct DeletedOpenFile {
+  std::string program;
+  FileIdentity file;
+  std::int64_t bytes = 0;  ///< allocated on the disk
+};
 
 /// What this user's programs are doing right now. Each answer looks anew; any thread.
 class RunningPrograms {
@@ -22,6 +33,9 @@ class RunningPrograms {
   [[nodiscard]] virtual bool isLockHeld(const Path& link) const = 0;
   /// Whether a process of this user has something open at or below `path`, a path on the machine.
   [[nodiscard]] virtual bool hasOpen(const Path& path) const = 0;
+  /// What processes of this user have open that lay on the volume of `folder`, a path on the
+  /// machine, and has no name any more: each file once. Waits for no server.
+  [[nodiscard]] virtual std::vector<DeletedOpenFile> deletedOpenFiles(const Path& folder) const = 0;
 };
 
 }  // namespace klarvik

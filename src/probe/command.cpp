@@ -69,6 +69,7 @@ std::span<const Command> commands() {
        privacy},
       {"system-data", "", {}, 0, 0, ends, systemData},
       {"composition", "", {}, 0, 0, stops, composition},
+      {"folders", "PATH", {}, 1, 1, stops, folders},
   });
   return all;
 }

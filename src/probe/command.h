@@ -61,5 +61,6 @@ int large(const Invocation& call);
 int privacy(const Invocation& call);
 int systemData(const Invocation& call);
 int composition(const Invocation& call);
+int folders(const Invocation& call);
 
 }  // namespace klarvik::probe

@@ -6,6 +6,7 @@
 #include "probe/report.h"
 #include "systemdata/system_data_engine.h"
 #include "tools/disk_composition_engine.h"
+#include "tools/folder_sizes.h"
 
 namespace klarvik::probe {
 
@@ -51,9 +52,14 @@ int systemData(const Invocation& call) {
   result.freeBytesAtMeasurement = engine.freeBytes();
   Report items = Report::array();
   for (const SystemDataItem& item : result.items()) items.push_back(itemReport(item));
-  print({{"event", "result"},
-         {"items", std::move(items)},
-         {"freeBytes", result.freeBytesAtMeasurement}});
+  Report report{{"event", "result"},
+                {"items", std::move(items)},
+                {"freeBytes", result.freeBytesAtMeasurement}};
+  if (result.ledger) {
+    report["usedBytes"] = result.ledger->usedBytes;
+    report["exceedsBy"] = result.ledger->exceedsBy;
+  }
+  print(report);
   return 0;
 }
 
@@ -65,6 +71,27 @@ int composition(const Invocation& call) {
          {"displayBuckets", bucketReports(disk.displayBuckets(smallestShare))},
          {"usedBytes", disk.usedBytes},
          {"freeBytes", disk.freeBytes}});
+  return 0;
+}
+
+int folders(const Invocation& call) {
+  const std::vector<Path> starts{call.arguments.front()};
+  const FolderSizes sizes = FolderSizes::measure(call.platform.files, starts, {}, call.stop);
+  FolderSizes::Id start = FolderSizes::top;
+  for (const FolderSizes::Row& row : sizes.rows(FolderSizes::top)) {
+    if (row.folder) start = *row.folder;
+  }
+  Report reports = Report::array();
+  for (const FolderSizes::Row& row : sizes.rows(start)) {
+    reports.push_back({{"path", pathReport(row.path)},
+                       {"bytes", row.bytes},
+                       {"isFolder", row.folder.has_value()},
+                       {"things", row.things}});
+  }
+  print({{"event", "result"},
+         {"bytes", sizes.bytes(FolderSizes::top)},
+         {"folders", sizes.folderCount()},
+         {"rows", std::move(reports)}});
   return 0;
 }
 

@@ -7,6 +7,7 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/volume.h"
+#include "systemdata/ledger.h"
 #include "systemdata/overlaps.h"
 #include "systemdata/system_data_search.h"
 
@@ -21,6 +22,7 @@ std::string_view labelOf(const Pass& pass, std::span<const SystemDataWords> word
 
 SystemDataResult SystemDataEngine::analyse(const ProgressSink& progress) {
   const std::scoped_lock serial(_analysing);
+  if (!layoutFor(_platform.files.home()).ledger.empty()) return makeLedger(_platform, progress);
   const SystemDataSearch search(_platform);
   const DiskLayout& layout = layoutFor(_platform.files.home());
   std::vector<SystemDataItem> items;

@@ -27,7 +27,8 @@ class SystemDataEngine {
 
   /// Goes through all passes, each of which is reported before it begins. An analysis cannot be
   /// stopped half-way. The free bytes of the result are left at 0 for the caller to fill in. Items
-  /// come shortest path first, and none lies inside another.
+  /// come shortest path first, and none lies inside another; those of a layout with a ledger come
+  /// as `makeLedger` says.
   [[nodiscard]] SystemDataResult analyse(const ProgressSink& progress);
 
   /// Bytes allocated on the disk for a path and all it holds, hidden files and the contents of

@@ -15,6 +15,10 @@ bool SystemDataItem::isRemovable() const {
   return safety() != ItemSafety::protected_;
 }
 
+bool isCounted(SystemDataSubCategory kind) {
+  return kind != SystemDataSubCategory::reserved;
+}
+
 ItemSafety groupSafety(std::span<const SystemDataItem> items) {
   const auto holds = [&](ItemSafety safety) {
     return std::ranges::find(items, safety, &SystemDataItem::safety) != items.end();

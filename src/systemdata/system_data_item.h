@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/uuid.h"
@@ -21,7 +22,7 @@ class Formatting;
 struct SystemDataItem {
   Uuid id = Uuid::random();
   std::string name;  ///< what the row shows; bytes of the disk, made printable only at the screen
-  Path path;         ///< what was measured
+  Path path{};       ///< what was measured; empty for what lies in no one place
   std::int64_t size = 0;  ///< bytes
   SystemDataSubCategory subCategory = SystemDataSubCategory::otherLibrary;
   /// Where this item differs from its kind.
@@ -29,6 +30,8 @@ struct SystemDataItem {
   /// As it was found. Another thing that comes to its name later is not removed in its place.
   /// Nothing for what is no file.
   std::optional<EntryIdentity> identity = std::nullopt;
+  /// What it is and what one can do about it; empty where the kind says it all.
+  std::string_view sentence{};
 
   [[nodiscard]] ItemSafety safety() const;
   /// Whether a pane may select, count as removable, or remove it.
@@ -44,6 +47,18 @@ struct SystemDataItem {
 [[nodiscard]] std::string formattedSize(std::span<const SystemDataItem> items,
                                         const Formatting& formatting);
 
+/// How the rows of an analysis that accounts for the whole volume lie to what the volume says.
+struct LedgerSum {
+  std::int64_t usedBytes = 0;
+  /// By how much the rows are more than that: shared space, and changes while they were counted.
+  std::int64_t exceedsBy = 0;
+
+  bool operator==(const LedgerSum&) const = default;
+};
+
+/// Whether an item of this kind is a part of what is used.
+[[nodiscard]] bool isCounted(SystemDataSubCategory kind);
+
 /// The outcome of one analysis. Other items make another result; how much is free may be told later
 /// and again.
 class SystemDataResult {
@@ -54,6 +69,8 @@ class SystemDataResult {
   [[nodiscard]] const std::vector<SystemDataItem>& items() const { return _items; }
 
   std::int64_t freeBytesAtMeasurement = 0;  ///< of the volume
+  /// Nothing where the analysis looks at certain places only.
+  std::optional<LedgerSum> ledger = std::nullopt;
 
  private:
   std::vector<SystemDataItem> _items;

@@ -31,6 +31,9 @@ class SystemDataSearch {
   [[nodiscard]] Items firmware(SystemDataSubCategory kind) const;
   /// Everything in the home's Library that no other pass looks at.
   [[nodiscard]] Items libraryRemainder(SystemDataSubCategory kind) const;
+  /// The verdict of the tables on one place; nothing where a disk's rules name what stays instead
+  /// of what may go.
+  [[nodiscard]] std::optional<ItemSafety> verdict(const Path& path) const;
 
  private:
   [[nodiscard]] Items wholePlaces(std::span<const WholePlace> places,
@@ -40,9 +43,6 @@ class SystemDataSearch {
                                      SystemDataSubCategory kind, std::int64_t minimumSize,
                                      bool onlyHidden = false) const;
   [[nodiscard]] Items byMethod(AnalysisMethod method, SystemDataSubCategory kind) const;
-  /// The verdict of the tables on one place; nothing where a disk's rules name what stays instead
-  /// of what may go.
-  [[nodiscard]] std::optional<ItemSafety> verdict(const Path& path) const;
   [[nodiscard]] Path inHome(std::string_view path) const;
   [[nodiscard]] std::vector<Path> list(const Path& folder) const;
   [[nodiscard]] bool isLink(const Path& path) const;

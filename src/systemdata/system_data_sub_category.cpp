@@ -20,7 +20,7 @@ struct Kind {
 using enum ItemSafety;
 using Sub = SystemDataSubCategory;
 
-constexpr std::array<Kind, systemDataSubCategoryCount> kinds{{
+constexpr std::array<Kind, ledgerKindCount> kinds{{
     {Sub::applicationSupport, "Application Support", "app.badge.fill", storage_palette::teal,
      review,
      "The working data of installed apps: libraries, databases, saved sessions. Removing a folder "
@@ -78,6 +78,18 @@ constexpr std::array<Kind, systemDataSubCategoryCount> kinds{{
      "iCloud Drive and Mobile Documents data. Managed by iCloud — do not delete manually."},
     {Sub::otherLibrary, "Other Library Data", "folder.fill", storage_palette::lightGray, review,
      "Other data in your Library folder not covered by specific categories. Review individually."},
+    // The texts of these are the layout's.
+    {Sub::containerStorage, "Containers & Machines", "square.stack.3d.up.fill",
+     storage_palette::violet, protected_, ""},
+    {Sub::packages, "Flatpak & Snap", "shippingbox.fill", storage_palette::orange, protected_, ""},
+    {Sub::deletedOpen, "Deleted but Still Open", "trash", storage_palette::coral, protected_, ""},
+    {Sub::reserved, "Kept for the System", "lock.fill", storage_palette::lightGray, protected_, ""},
+    {Sub::otherUsers, "Other Users", "person.2.fill", storage_palette::darkGray, protected_, ""},
+    {Sub::yourFiles, "Your Files", "house.fill", storage_palette::blue, protected_, ""},
+    {Sub::elsewhere, "Elsewhere on the Disk", "externaldrive.fill", storage_palette::lightGray,
+     protected_, ""},
+    {Sub::notReadable, "Not Readable for You", "lock.fill", storage_palette::darkGray, protected_,
+     ""},
 }};
 
 constexpr bool everyRowStandsAtItsKind() {
@@ -97,7 +109,8 @@ constexpr const Kind& row(SystemDataSubCategory kind) {
 const std::array<SystemDataSubCategory, systemDataSubCategoryCount>& allSystemDataSubCategories() {
   static constexpr auto all = [] {
     std::array<SystemDataSubCategory, systemDataSubCategoryCount> order{};
-    std::ranges::transform(kinds, order.begin(), &Kind::kind);
+    std::ranges::transform(kinds.begin(), kinds.begin() + systemDataSubCategoryCount, order.begin(),
+                           &Kind::kind);
     return order;
   }();
   return all;

@@ -12,6 +12,7 @@ namespace klarvik {
 
 struct DiskLayout;
 
+/// Those that the analysis of any system knows.
 [[nodiscard]] const std::array<SystemDataSubCategory, systemDataSubCategoryCount>&
 allSystemDataSubCategories();
 

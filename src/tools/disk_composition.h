@@ -20,6 +20,9 @@ struct DiskComposition {
     std::int64_t bytes = 0;
     RgbColor color{};
     std::optional<Path> url = std::nullopt;  ///< the folder; nothing for what is no one folder
+    /// What can be looked into, largest first; none on a disk of whose places only some are
+    /// measured.
+    std::vector<Path> places{};
 
     bool operator==(const Bucket&) const = default;
   };

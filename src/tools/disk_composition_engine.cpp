@@ -1,16 +1,22 @@
 #include "tools/disk_composition_engine.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "base/bytes.h"
+#include "base/paths.h"
+#include "core/catalogue.h"
 #include "core/disk_stats.h"
 #include "core/shown_folders.h"
 #include "engine/allocated_size.h"
+#include "engine/project_walk.h"
+#include "engine/volume_census.h"
 #include "places/disk_layout.h"
 #include "places/storage_palette.h"
 #include "platform/file_system.h"
+#include "platform/volume.h"
 
 namespace klarvik {
 
@@ -36,6 +42,75 @@ std::vector<Path> placesOf(const StorageShare& share, const FileSystem& files,
   return places;
 }
 
+constexpr double fractionOfWalk = 0.98;
+
+/// What a census is asked for, and the share that each of its places belongs to.
+struct SharePlaces {
+  std::vector<CensusPlace> places;
+  std::vector<std::size_t> shares;
+
+  void add(std::size_t share, const Path& pattern) {
+    places.push_back({.pattern = pattern.native()});
+    shares.push_back(share);
+  }
+};
+
+Path underRealHome(const Path& path, const FileSystem& files) {
+  const Path home = files.home();
+  if (path == home) return files.realHome();
+  return isBelow(path.native(), home.native()) ? files.realHome() / path.lexically_relative(home)
+                                               : path;
+}
+
+Path asNamed(const Path& path, const FileSystem& files) {
+  const Path home = files.realHome();
+  if (path == home) return files.home();
+  return isBelow(path.native(), home.native()) ? files.home() / path.lexically_relative(home)
+                                               : path;
+}
+
+SharePlaces sharePlaces(const FileSystem& files, const DiskLayout& layout,
+                        const std::stop_token& stop) {
+  const Catalogue catalogue(layout, files.folders());
+  const UserFolders shown = shownFolders(files);
+  const Path home = files.realHome();
+  SharePlaces all;
+  for (std::size_t share = 0; share < layout.storageShares.size(); ++share) {
+    const StorageShare& asked = layout.storageShares[share];
+    // A desktop without such a folder names the home.
+    if (asked.shown != nullptr && shown.*asked.shown != files.home()) {
+      all.add(share, underRealHome(shown.*asked.shown, files));
+    }
+    for (const auto& [base, pattern] : asked.patterns) {
+      const auto folder = catalogue.folder(base);
+      all.add(share,
+              base == Base::root ? Path("/") / pattern : home / folder.value_or("") / pattern);
+    }
+    if (!asked.holdsArtifacts) continue;
+    for (const FoundArtifact& artifact : findProjectArtifacts(files, catalogue, layout, stop)) {
+      all.add(share, underRealHome(artifact.path, files));
+    }
+  }
+  return all;
+}
+
+DiskComposition::Bucket bucketOf(std::size_t share, const Census& census, const SharePlaces& all,
+                                 const FileSystem& files) {
+  const StorageShare& asked = layoutFor(files.home()).storageShares[share];
+  DiskComposition::Bucket bucket{
+      .id = std::string(asked.id), .label = std::string(asked.label), .color = asked.color};
+  std::vector<const CensusRow*> rows;
+  for (const CensusRow& row : census.rows) {
+    if (all.shares[row.place] != share || row.bytes < 1) continue;
+    bucket.bytes = addBytes(bucket.bytes, row.bytes);
+    rows.push_back(&row);
+  }
+  std::ranges::stable_sort(rows, std::ranges::greater{}, &CensusRow::bytes);
+  for (const CensusRow* row : rows) bucket.places.push_back(asNamed(row->path, files));
+  if (bucket.places.size() == 1) bucket.url = bucket.places.front();
+  return bucket;
+}
+
 }  // namespace
 
 DiskCompositionEngine::DiskCompositionEngine(const Platform& platform, PresentTime now)
@@ -45,6 +120,7 @@ DiskComposition DiskCompositionEngine::measureDisk(std::stop_token stop,
                                                    const ProgressSink& progress) {
   const std::scoped_lock serial(_measuring);
   const DiskLayout& layout = layoutFor(_platform.files.home());
+  if (!layout.ledger.empty()) return measureVolume(stop, progress);
   const double stepCount = static_cast<double>(layout.storageShares.size()) + 1;
   std::vector<Path> shown = shownOnce(_platform.files);
   DiskComposition disk;
@@ -67,20 +143,62 @@ DiskComposition DiskCompositionEngine::measureDisk(std::stop_token stop,
   }
 
   progress("The rest of the disk", (stepCount - 1) / stepCount);
+  addRemainder(disk, sum);
+  progress("Done", 1.0);
+  disk.measuredAt = _now();
+  return disk;
+}
+
+DiskComposition DiskCompositionEngine::measureVolume(const std::stop_token& stop,
+                                                     const ProgressSink& progress) {
+  const DiskLayout& layout = layoutFor(_platform.files.home());
+  progress(std::string(layout.storageShares.front().label), 0.0);
+  const SharePlaces all = sharePlaces(_platform.files, layout, stop);
+  const auto used = static_cast<double>(
+      std::max<std::int64_t>(readDiskStats(_platform.volume, layout).usedBytes, 1));
+  const Census census =
+      takeCensus(_platform.files, all.places, stop, [&](std::size_t place, std::int64_t bytes) {
+        const double fraction = std::min(static_cast<double>(bytes) / used, 1.0);
+        const std::string_view label = layout.storageShares[all.shares[place]].label;
+        progress(std::string(label), fraction * fractionOfWalk);
+      });
+  DiskComposition disk;
+  std::int64_t sum = 0;
+  for (std::size_t share = 0; share < layout.storageShares.size(); ++share) {
+    DiskComposition::Bucket bucket = bucketOf(share, census, all, _platform.files);
+    if (bucket.bytes < 1) continue;
+    sum = addBytes(sum, bucket.bytes);
+    disk.buckets.push_back(std::move(bucket));
+  }
+  progress("The rest of the disk", fractionOfWalk);
+  addRemainder(disk, sum);
+  if (!disk.buckets.empty() && disk.buckets.back().id == "system") {
+    disk.buckets.back().places = {"/"};
+  }
+  if (const auto kept = _platform.volume.keptForRootBytes().value_or(0); kept >= 1) {
+    disk.buckets.push_back({.id = "kept",
+                            .label = std::string(layout.words.keptForSystem),
+                            .bytes = kept,
+                            .color = storage_palette::white(0.5)});
+  }
+  progress("Done", 1.0);
+  disk.measuredAt = _now();
+  return disk;
+}
+
+void DiskCompositionEngine::addRemainder(DiskComposition& disk, std::int64_t measured) {
+  const DiskLayout& layout = layoutFor(_platform.files.home());
   const DiskStats stats = readDiskStats(_platform.volume, layout);
   disk.usedBytes = stats.usedBytes;
   disk.freeBytes = stats.freeBytes;
   // Clones, shared space and sparse files can make the places add up to more than what is used.
-  const auto rest = stats.usedBytes - sum;
+  const auto rest = stats.usedBytes - measured;
   if (rest >= 1) {
     disk.buckets.push_back({.id = "system",
                             .label = std::string(layout.words.systemAndEverythingElse),
                             .bytes = rest,
                             .color = storage_palette::white(0.34)});
   }
-  progress("Done", 1.0);
-  disk.measuredAt = _now();
-  return disk;
 }
 
 std::int64_t DiskCompositionEngine::measure(const Path& url, std::stop_token stop) const {

@@ -39,6 +39,11 @@ class DiskCompositionEngine {
   [[nodiscard]] std::int64_t measure(const Path& url, std::stop_token stop = {}) const;
 
  private:
+  /// By one walk over the whole volume: a thing counts once, in the share in which it lies deepest.
+  [[nodiscard]] DiskComposition measureVolume(const std::stop_token& stop,
+                                              const ProgressSink& progress);
+  void addRemainder(DiskComposition& disk, std::int64_t measured);
+
   const Platform& _platform;
   PresentTime _now;
   std::mutex _measuring;

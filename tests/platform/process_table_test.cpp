@@ -1,13 +1,17 @@
 #include "platform/linux/process_table.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <filesystem>
 #include <string>
 
+#include "base/posix_io.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -102,6 +106,35 @@ TEST(ProcessTable, KnowsWhatARealProcessIsAndHasOpen) {
   ::kill(child, SIGKILL);
   ::waitpid(child, nullptr, 0);
   EXPECT_FALSE(programs.isRunning("klarvik-test-shell"));
+}
+
+TEST(ProcessTable, FindsWhatIsDeletedAndStillOpenEachFileOnce) {
+  const TemporaryFolder folder;
+  const Path path = folder.makeFile("/gone", 40'000);
+  const Path kept = folder.makeFile("/kept", 40'000);
+  const UniqueFd open{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+  const UniqueFd again{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+  const UniqueFd linked{::open(kept.c_str(), O_RDONLY | O_CLOEXEC)};
+  std::filesystem::create_hard_link(kept, folder.onDisk("/other name"));
+  struct stat status {};
+  ASSERT_EQ(::fstat(open.get(), &status), 0);
+  std::filesystem::remove(path);
+  std::filesystem::remove(kept);
+  std::int64_t bytes = 0;
+  int found = 0;
+  for (const DeletedOpenFile& file : ProcessTable().deletedOpenFiles(folder.path())) {
+    if (file.file.inode != status.st_ino) continue;
+    bytes += file.bytes;
+    ++found;
+    EXPECT_EQ(file.program, "platform_tests");
+  }
+  EXPECT_EQ(found, 1);
+  EXPECT_GE(bytes, 40'000);
+  struct stat other {};
+  ASSERT_EQ(::fstat(linked.get(), &other), 0);
+  for (const DeletedOpenFile& file : ProcessTable().deletedOpenFiles(folder.path())) {
+    EXPECT_NE(file.file.inode, other.st_ino);
+  }
 }
 
 TEST(ProcessTable, KnowsNothingWhereThereIsNoTable) {

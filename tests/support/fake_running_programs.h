@@ -21,9 +21,13 @@ class FakeRunningPrograms final : public RunningPrograms {
     return running.contains(link.filename().native());
   }
   [[nodiscard]] bool hasOpen(const Path& path) const override { return open.contains(path); }
+  [[nodiscard]] std::vector<DeletedOpenFile> deletedOpenFiles(const Path&) const override {
+    return deleted;
+  }
 
   std::set<std::string> running;
   std::set<Path> open;
+  std::vector<DeletedOpenFile> deleted;
 };
 
 }  // namespace klarvik

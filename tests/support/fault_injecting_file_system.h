@@ -59,6 +59,7 @@ class FaultInjectingFileSystem final : public FileSystem, public FaultInjection<
   [[nodiscard]] bool exists(const Path& path) const override;
   [[nodiscard]] std::optional<FileAttributes> attributes(const Path& path) const override;
   [[nodiscard]] bool isMountPoint(const Path& path) const override;
+  [[nodiscard]] VolumeTops volumeTops() const override { return _files.volumeTops(); }
   [[nodiscard]] std::optional<std::vector<Path>> list(const Path& folder) const override;
   WalkOutcome walk(const Path& folder, WalkOptions options,
                    const WalkVisitor& visit) const override;

@@ -117,7 +117,7 @@ TEST(SystemDataSubCategory, HasALabelOfItsOwnOnALinuxDisk) {
 TEST(SystemDataSubCategory, NamesNoOtherSystemOnALinuxDisk) {
   for (const SystemDataWords& words : layoutFor("/home/ann").systemData) {
     for (const std::string_view text : {words.label, words.description, words.scanning}) {
-      for (const char* const name : {"macOS", "Mac", "Finder", "Xcode", "iPhone", "iPad", "Safari",
+      for (const char* const name : {"macOS", "Mac ", "Finder", "Xcode", "iPhone", "iPad", "Safari",
                                      "Time Machine", "iCloud", "Spotlight"}) {
         EXPECT_EQ(text.find(name), std::string_view::npos) << text;
       }

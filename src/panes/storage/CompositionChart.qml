@@ -27,6 +27,7 @@ RowLayout {
         centerSubtitle: qsTr("in use")
         highlighted: root.model.highlighted
         sweep: chart.drawn
+        onSelect: slice => root.model.openBucket(slice)
 
         Behavior on drawn {
             enabled: !Kit.reduceMotion
@@ -59,6 +60,8 @@ RowLayout {
                 share: row.modelData.share
                 subtitle: row.modelData.size
                 isHighlighted: root.model.highlighted === row.modelData.slice.id
+                canTap: row.modelData.canOpen
+                onTap: root.model.openBucket(row.modelData.slice.id)
                 onHover: inside => root.model.hover(row.modelData.slice.id, inside)
             }
         }

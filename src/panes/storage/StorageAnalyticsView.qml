@@ -24,7 +24,13 @@ ToolPane {
     onEnabledChanged: tellThatChartsAppeared()
     Component.onCompleted: tellThatChartsAppeared()
 
+    FolderBrowserView {
+        visible: root.model.browser.isOpen
+        browser: root.model.browser
+    }
+
     ToolScrollView {
+        visible: !root.model.browser.isOpen
         StorageCard {
             heading: qsTr("WHAT FILLS THE DISK")
 

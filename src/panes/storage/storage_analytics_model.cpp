@@ -3,8 +3,10 @@
 #include <QPointer>
 #include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <utility>
 
+#include "base/paths.h"
 #include "panes/kit/row_text.h"
 #include "panes/storage/storage_texts.h"
 #include "state/set_if_changed.h"
@@ -31,6 +33,7 @@ StorageAnalyticsModel::StorageAnalyticsModel(SharedState& shared, const Desktop&
       _permissions(shared.permissionsManager()),
       _desktop(desktop),
       _measure(measure ? std::move(measure) : measureWithFreshEngine(desktop)),
+      _browser(shared, desktop),
       _measurement(desktop.clock) {
   connect(&_history, &ScanHistory::scansChanged, this, &StorageAnalyticsModel::readScans);
   connect(&_history, &ScanHistory::cleansChanged, this, &StorageAnalyticsModel::readCleans);
@@ -93,6 +96,37 @@ void StorageAnalyticsModel::hover(const QString& bucket, bool inside) {
 
 void StorageAnalyticsModel::chartsAppeared() {
   if (setIfChanged(_animateCharts, true)) emit animateChartsChanged();
+}
+
+void StorageAnalyticsModel::openBucket(const QString& bucket) {
+  if (!_composition) return;
+  const auto& buckets = _composition->buckets;
+  const auto opened =
+      std::ranges::find(buckets, bucket.toStdString(), &DiskComposition::Bucket::id);
+  if (opened == buckets.end() || opened->places.empty()) return;
+  const auto liesInIt = [&](const Path& path) {
+    return std::ranges::any_of(
+        opened->places, [&](const Path& place) { return isBelow(path.native(), place.native()); });
+  };
+  FolderBrowser::Area area{.name = QString::fromStdString(opened->label),
+                           .places = opened->places,
+                           .isWholeVolume = opened->places == std::vector<Path>{"/"}};
+  for (const DiskComposition::Bucket& other : buckets) {
+    if (other.id == opened->id) continue;
+    std::ranges::copy_if(other.places, std::back_inserter(area.leftOut), liesInIt);
+  }
+  // A place in another one is met on the way, unless what lies between counts elsewhere.
+  const auto isMetAnyway = [&](const Path& place) {
+    return std::ranges::any_of(opened->places, [&](const Path& outer) {
+      return isBelow(place.native(), outer.native()) &&
+             std::ranges::none_of(area.leftOut, [&](const Path& between) {
+               return isBelow(between.native(), outer.native()) &&
+                      isBelow(place.native(), between.native());
+             });
+    });
+  };
+  std::erase_if(area.places, isMetAnyway);
+  _browser.open(std::move(area));
 }
 
 void StorageAnalyticsModel::startMeasuring() {

@@ -9,6 +9,7 @@
 #include <stop_token>
 #include <string>
 
+#include "panes/storage/folder_browser.h"
 #include "panes/storage/storage_rows.h"
 #include "panes/tool_pane.h"
 #include "platform/platform.h"
@@ -34,6 +35,7 @@ class StorageAnalyticsModel : public klarvik::ToolPane {
   Q_PROPERTY(QList<klarvik::DonutSlice> slices READ slices NOTIFY compositionChanged)
   Q_PROPERTY(QList<klarvik::StorageLegendRow> legend READ legend NOTIFY compositionChanged)
   Q_PROPERTY(QString usedText READ usedText NOTIFY compositionChanged)
+  Q_PROPERTY(klarvik::FolderBrowser* browser READ browser CONSTANT)
   Q_PROPERTY(QString highlighted READ highlighted NOTIFY highlightedChanged)
   Q_PROPERTY(bool animateCharts READ animateCharts NOTIFY animateChartsChanged)
   Q_PROPERTY(QList<klarvik::GrowthRow> growth READ growth NOTIFY growthChanged)
@@ -81,6 +83,12 @@ class StorageAnalyticsModel : public klarvik::ToolPane {
   /// The pointer has come to or left a bucket, in the chart or in the legend.
   Q_INVOKABLE void hover(const QString& bucket, bool inside);
   Q_INVOKABLE void chartsAppeared();
+  /// A press on a bucket, in the chart or in the legend: the folders in it. Nothing on one that
+  /// cannot be looked into.
+  Q_INVOKABLE void openBucket(const QString& bucket);
+  [[nodiscard]] FolderBrowser* browser() { return &_browser; }
+  void stopRemovals() override { _browser.stopRemovals(); }
+  void finishRemovals() override { _browser.finishRemovals(); }
 
  signals:
   void subtitleChanged();
@@ -127,6 +135,7 @@ class StorageAnalyticsModel : public klarvik::ToolPane {
   QList<GrowthRow> _growth;
   QList<CleanBar> _cleanBars;
   std::unique_ptr<Clock::Alarm> _ageAlarm;
+  FolderBrowser _browser;
   EngineRun _measurement;
 };
 

@@ -26,7 +26,8 @@ QList<StorageLegendRow> legendRows(const std::vector<DiskComposition::Bucket>& b
                            .value = bucket.bytes,
                            .color = Palette::color(bucket.color)},
                  .share = static_cast<double>(bucket.bytes) / static_cast<double>(sum),
-                 .size = byteText(bucket.bytes, formatting)});
+                 .size = byteText(bucket.bytes, formatting),
+                 .canOpen = !bucket.places.empty()});
   }
   return rows;
 }

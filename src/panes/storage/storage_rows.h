@@ -20,11 +20,13 @@ struct StorageLegendRow {
   Q_PROPERTY(klarvik::DonutSlice slice MEMBER slice)
   Q_PROPERTY(double share MEMBER share)
   Q_PROPERTY(QString size MEMBER size)
+  Q_PROPERTY(bool canOpen MEMBER canOpen)
 
  public:
   DonutSlice slice;
   double share = 0;  ///< of what the chart shows, 0 to 1
   QString size;
+  bool canOpen = false;  ///< whether the folders in it can be looked into
 
   bool operator==(const StorageLegendRow&) const = default;
 };

@@ -150,15 +150,26 @@ RowFrame {
 
         Label {
             Layout.fillWidth: true
+            visible: !root.model.isLedger
             text: root.detail
             size: 10.5
             color: Theme.textTertiary
             elide: Text.ElideMiddle
         }
+
+        // A sentence, which a narrow window cuts.
+        ElidedText {
+            Layout.fillWidth: true
+            visible: root.model.isLedger
+            text: root.detail
+            size: 10.5
+            color: Theme.textTertiary
+            elide: Text.ElideRight
+        }
     }
 
     RevealButton {
-        visible: root.isItem
+        visible: root.isItem && root.url.toString() !== ""
         activeFocusOnTab: root.ListView.isCurrentItem
         url: root.url
     }

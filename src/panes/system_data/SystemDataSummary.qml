@@ -66,6 +66,16 @@ Item {
 
             Label {
                 Layout.fillWidth: true
+                visible: root.model.ledgerNote !== ""
+                text: root.model.ledgerNote
+                size: 12
+                color: Theme.textTertiary
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
+            Label {
+                Layout.fillWidth: true
                 Layout.topMargin: 6
                 text: root.model.highlighted
                 size: 12

@@ -1,6 +1,7 @@
 #include "panes/system_data/system_data_findings.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -12,6 +13,11 @@ namespace {
 void add(SystemDataFindings::Sum& sum, const SystemDataItem& item) {
   sum.bytes = addBytes(sum.bytes, item.size);
   ++sum.count;
+}
+
+int partOf(SystemDataSubCategory kind) {
+  if (kind == SystemDataSubCategory::notReadable) return 2;
+  return kind == SystemDataSubCategory::reserved ? 1 : 0;
 }
 
 std::vector<SystemDataKind> byKind(const std::vector<SystemDataItem>& items) {
@@ -29,8 +35,26 @@ std::vector<SystemDataKind> byKind(const std::vector<SystemDataItem>& items) {
     kind.safety = groupSafety(kind.items);
     kinds.push_back(std::move(kind));
   }
-  std::ranges::stable_sort(kinds, std::ranges::greater{}, &SystemDataKind::bytes);
+  // What is known of the volume alone stands below what was found on it.
+  std::ranges::stable_sort(kinds, [](const SystemDataKind& left, const SystemDataKind& right) {
+    const int leftPart = partOf(left.kind);
+    const int rightPart = partOf(right.kind);
+    return leftPart != rightPart ? leftPart < rightPart : left.bytes > right.bytes;
+  });
   return kinds;
+}
+
+/// What is moved to the Trash still takes its space, and counts there.
+void addToTrash(std::vector<SystemDataItem>& items, std::int64_t bytes) {
+  constexpr auto kind = SystemDataSubCategory::yourFiles;
+  auto trash = std::ranges::find_if(items, [](const SystemDataItem& item) {
+    return item.subCategory == kind && item.path.filename() == "Trash";
+  });
+  if (trash == items.end()) {
+    items.push_back({.name = "Trash", .path = "Trash", .subCategory = kind});
+    trash = std::prev(items.end());
+  }
+  trash->size = addBytes(trash->size, bytes);
 }
 
 }  // namespace
@@ -57,7 +81,7 @@ void SystemDataFindings::setResult(SystemDataResult result) {
   _totalBytes = 0;
   _removable = {};
   for (const SystemDataItem& item : _result->items()) {
-    _totalBytes = addBytes(_totalBytes, item.size);
+    if (isCounted(item.subCategory)) _totalBytes = addBytes(_totalBytes, item.size);
     if (item.isRemovable()) add(_removable, item);
   }
   recount();
@@ -111,7 +135,16 @@ SystemDataResult without(const SystemDataResult& result, const std::set<Path>& m
   std::vector<SystemDataItem> left;
   std::ranges::copy_if(result.items(), std::back_inserter(left),
                        [&](const SystemDataItem& item) { return !moved.contains(item.path); });
-  return SystemDataResult(std::move(left), result.freeBytesAtMeasurement);
+  if (result.ledger) {
+    std::int64_t bytes = 0;
+    for (const SystemDataItem& item : result.items()) {
+      if (moved.contains(item.path)) bytes = addBytes(bytes, item.size);
+    }
+    if (bytes > 0) addToTrash(left, bytes);
+  }
+  SystemDataResult rest(std::move(left), result.freeBytesAtMeasurement);
+  rest.ledger = result.ledger;
+  return rest;
 }
 
 }  // namespace klarvik

@@ -32,7 +32,8 @@ class SystemDataFindings {
   };
 
   [[nodiscard]] const std::optional<SystemDataResult>& result() const { return _result; }
-  /// By size, largest first; kinds without items are not among them.
+  /// By size, largest first, and last what is known of the volume alone; kinds without items are
+  /// not among them.
   [[nodiscard]] const std::vector<SystemDataKind>& kinds() const { return _kinds; }
   [[nodiscard]] std::int64_t totalBytes() const { return _totalBytes; }
   [[nodiscard]] const Sum& removable() const { return _removable; }
@@ -68,7 +69,8 @@ class SystemDataFindings {
   Sum _selected;
 };
 
-/// The items of `result` whose path is not among `moved`.
+/// The items of `result` whose path is not among `moved`. Of an analysis of the whole volume, the
+/// Trash takes what they took.
 [[nodiscard]] SystemDataResult without(const SystemDataResult& result, const std::set<Path>& moved);
 
 }  // namespace klarvik

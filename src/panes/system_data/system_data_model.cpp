@@ -89,6 +89,7 @@ SystemDataModel::Body SystemDataModel::body() const {
 QList<DonutSlice> SystemDataModel::slices() const {
   QList<DonutSlice> slices;
   for (const SystemDataKind& kind : _findings.kinds()) {
+    if (!isCounted(kind.kind)) continue;
     const QString name = programText(label(kind.kind, layout()));
     slices.append({.id = name,
                    .label = name,
@@ -110,6 +111,17 @@ QString SystemDataModel::removableSummary() const {
 QString SystemDataModel::protectedSummary() const {
   return QString::fromStdString(
       system_data::protectedSummary(_findings.protectedBytes(), _desktop.formatting));
+}
+
+QString SystemDataModel::ledgerNote() const {
+  const auto& result = _findings.result();
+  if (!result || !result->ledger) return {};
+  return QString::fromStdString(
+      system_data::ledgerNote(*result->ledger, layout().words, _desktop.formatting));
+}
+
+bool SystemDataModel::isLedger() const {
+  return !layout().ledger.empty();
 }
 
 QString SystemDataModel::selectionSummary() const {

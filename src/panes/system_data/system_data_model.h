@@ -45,6 +45,8 @@ class SystemDataModel : public klarvik::ToolPane {
   Q_PROPERTY(QString totalText READ totalText NOTIFY resultChanged)
   Q_PROPERTY(QString removableSummary READ removableSummary NOTIFY resultChanged)
   Q_PROPERTY(QString protectedSummary READ protectedSummary NOTIFY resultChanged)
+  Q_PROPERTY(QString ledgerNote READ ledgerNote NOTIFY resultChanged)
+  Q_PROPERTY(bool isLedger READ isLedger CONSTANT)
   Q_PROPERTY(QString highlighted READ highlighted NOTIFY highlightedChanged)
   Q_PROPERTY(QString selectionSummary READ selectionSummary NOTIFY selectionChanged)
   Q_PROPERTY(QString removalTitle READ removalTitle NOTIFY selectionChanged)
@@ -105,6 +107,10 @@ class SystemDataModel : public klarvik::ToolPane {
   [[nodiscard]] QString totalText() const;
   [[nodiscard]] QString removableSummary() const;
   [[nodiscard]] QString protectedSummary() const;
+  /// How the rows add up; empty where the analysis looks at certain places only.
+  [[nodiscard]] QString ledgerNote() const;
+  /// Whether the analysis accounts for the whole volume.
+  [[nodiscard]] bool isLedger() const;
   /// The name of the kind under the pointer; empty without one.
   [[nodiscard]] QString highlighted() const { return _highlighted; }
 

@@ -182,8 +182,7 @@ QVariant SystemDataTableModel::dataOfKind(const SystemDataKind& kind, int role) 
     case NameRole:
       return name;
     case DetailRole:
-      return QString::fromStdString(
-          system_data::kindDetail(kind.items.size(), kind.kind, _layout.words));
+      return QString::fromStdString(system_data::kindDetail(kind.items.size(), kind.kind, _layout));
     case SymbolRole:
       return text(icon(kind.kind));
     case ColorRole:
@@ -199,7 +198,7 @@ QVariant SystemDataTableModel::dataOfKind(const SystemDataKind& kind, int role) 
     case SelectionHelpRole:
       return QString::fromStdString(system_data::selectionHelp(kind.kind, _layout));
     case ShareRole:
-      return shareText(_findings.share(kind.bytes));
+      return isCounted(kind.kind) ? shareText(_findings.share(kind.bytes)) : QString();
     case SizeRole:
       return size;
     case IsExpandedRole:
@@ -219,11 +218,12 @@ QVariant SystemDataTableModel::dataOfItem(const SystemDataItem& item, int role) 
     case NameRole:
       return name;
     case DetailRole:
-      return folderLine(item.path, _home);
+      return _layout.ledger.empty() ? folderLine(item.path, _home)
+                                    : printableText(system_data::itemDetail(item, _home));
     case PathRole:
       return printableText(item.path.native());
     case UrlRole:
-      return urlOfPath(item.path);
+      return item.path.is_absolute() ? urlOfPath(item.path) : QUrl();
     case SafetyRole:
       return static_cast<int>(item.safety());
     case SafetyTextRole:
@@ -234,7 +234,7 @@ QVariant SystemDataTableModel::dataOfItem(const SystemDataItem& item, int role) 
     case CanToggleRole:
       return item.isRemovable();
     case ShareRole:
-      return shareText(_findings.share(item.size));
+      return isCounted(item.subCategory) ? shareText(_findings.share(item.size)) : QString();
     case SizeRole:
       return size;
     case DescriptionRole:

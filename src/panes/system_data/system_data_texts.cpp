@@ -1,5 +1,7 @@
 #include "panes/system_data/system_data_texts.h"
 
+#include "base/paths.h"
+
 namespace klarvik::system_data {
 namespace {
 
@@ -32,10 +34,32 @@ std::string protectedSummary(std::int64_t protectedBytes, const Formatting& form
   return formatting.byteText(protectedBytes) + " shown, never offered";
 }
 
-std::string kindDetail(std::size_t items, SystemDataSubCategory kind, const Words& words) {
+std::string kindDetail(std::size_t items, SystemDataSubCategory kind, const DiskLayout& layout) {
   const std::string count = counted(static_cast<std::int64_t>(items));
-  return defaultSafety(kind) == ItemSafety::protected_ ? filledIn(words.itemsOfProtectedKind, count)
-                                                       : count;
+  if (!layout.ledger.empty()) {
+    std::string_view sentence = description(kind, layout);
+    sentence = sentence.substr(0, sentence.find(". "));
+    if (sentence.ends_with('.')) sentence.remove_suffix(1);
+    return count + " · " + std::string(sentence);
+  }
+  return defaultSafety(kind) == ItemSafety::protected_
+             ? filledIn(layout.words.itemsOfProtectedKind, count)
+             : count;
+}
+
+std::string itemDetail(const SystemDataItem& item, const Path& home) {
+  std::string place = item.path.native();
+  if (isBelow(place, home.native())) place.replace(0, home.native().size(), "~");
+  if (item.path.is_relative()) place.clear();
+  if (item.sentence.empty()) return place;
+  return std::string(item.sentence) + (place.empty() ? "" : " · " + place);
+}
+
+std::string ledgerNote(const LedgerSum& sum, const Words& words, const Formatting& formatting) {
+  // What changes while the disk is read is no surprise.
+  const bool isNear = sum.exceedsBy < sum.usedBytes / 200;
+  return isNear ? filledIn(words.ledgerAddsUp, formatting.byteText(sum.usedBytes))
+                : filledIn(words.ledgerExceeds, formatting.byteText(sum.exceedsBy));
 }
 
 std::string selectionHelp(SystemDataSubCategory kind, const DiskLayout& layout) {

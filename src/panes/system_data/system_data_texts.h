@@ -7,7 +7,7 @@
 
 #include "places/disk_layout.h"
 #include "platform/formatting.h"
-#include "systemdata/system_data_sub_category.h"
+#include "systemdata/system_data_item.h"
 
 /// Every sentence of the System Data pane that follows a rule, as plain functions of what it tells
 /// of. Sizes are in bytes.
@@ -26,9 +26,15 @@ namespace klarvik::system_data {
 [[nodiscard]] std::string protectedSummary(std::int64_t protectedBytes,
                                            const Formatting& formatting);
 
-/// Whether the system needs them is told of the kind, whatever its items say.
+/// Whether the system needs them is told of the kind, whatever its items say; where the analysis
+/// accounts for the whole volume, what the kind is.
 [[nodiscard]] std::string kindDetail(std::size_t items, SystemDataSubCategory kind,
-                                     const Words& words);
+                                     const DiskLayout& layout);
+/// Its sentence, and where it lies.
+[[nodiscard]] std::string itemDetail(const SystemDataItem& item, const Path& home);
+/// How the rows add up.
+[[nodiscard]] std::string ledgerNote(const LedgerSum& sum, const Words& words,
+                                     const Formatting& formatting);
 [[nodiscard]] std::string selectionHelp(SystemDataSubCategory kind, const DiskLayout& layout);
 [[nodiscard]] std::string safetyText(ItemSafety safety);
 

@@ -12,7 +12,7 @@ namespace klarvik::linux_disk {
 [[nodiscard]] std::span<const Place> scanPlaces();
 [[nodiscard]] std::span<const CleaningTool> tools();
 [[nodiscard]] std::span<const ProjectArtifact> projectArtifacts();
-[[nodiscard]] std::span<const Pass> analysisPasses();
+[[nodiscard]] std::span<const LedgerPlace> ledgerPlaces();
 [[nodiscard]] std::span<const StorageShare> storageShares();
 extern const TrailPlaces trailPlaces;
 extern const GuardRules guardRules;

@@ -5,7 +5,7 @@ namespace {
 
 using enum SystemDataSubCategory;
 
-constexpr std::array<SystemDataWords, systemDataSubCategoryCount> kinds{{
+constexpr std::array<SystemDataWords, ledgerKindCount> kinds{{
     {applicationSupport, "App Data",
      "What your apps keep: libraries, databases, saved sessions. Removing a folder here empties "
      "its app, so clear it from inside the app where you can.",
@@ -74,6 +74,39 @@ constexpr std::array<SystemDataWords, systemDataSubCategoryCount> kinds{{
      "Hidden folders of your home that belong to no other kind. Look into each before you remove "
      "it.",
      "Scanning other hidden folders..."},
+    {containerStorage, "Containers & Machines",
+     "Images and disks of Docker, Podman, VirtualBox and others. Remove those you no longer need "
+     "in the program that made them.",
+     "Scanning containers and machines..."},
+    {packages, "Flatpak & Snap",
+     "Apps that Flatpak and snap have installed, and downloads of package managers. Uninstall "
+     "what you no longer use.",
+     "Scanning Flatpak and snap..."},
+    {deletedOpen, "Deleted but Still Open",
+     "Files that are deleted and that a program still has open. Their space comes back when the "
+     "program is closed or started anew.",
+     "Looking for deleted files..."},
+    {reserved, "Kept for the System",
+     "Free space that the file system keeps back for the system. It is not used, and no ordinary "
+     "user can write to it, so it is not part of the sum. On a volume that holds only data, an "
+     "administrator can lower it with 'tune2fs -m 1'.",
+     "Reading the volume..."},
+    {otherUsers, "Other Users",
+     "Homes of other users of this computer, as far as you may read them. Only their owners can "
+     "tidy them.",
+     "Scanning other users..."},
+    {yourFiles, "Your Files",
+     "The visible folders of your home, and your Trash. Storage and Large Files show what in "
+     "them takes the space.",
+     "Scanning your files..."},
+    {elsewhere, "Elsewhere on the Disk",
+     "Folders outside of all homes that are no part of the system. Whoever made them knows "
+     "whether they are still needed.",
+     "Scanning the rest of the disk..."},
+    {notReadable, "Not Readable for You",
+     "Used, but in no folder that you may open: storage of Docker, other users' files, snapshots, "
+     "and what the file system needs for itself. An administrator can look into it with 'du'.",
+     "Reading the volume..."},
 }};
 
 constexpr bool everyRowStandsAtItsKind() {

@@ -4,6 +4,7 @@ namespace klarvik::linux_disk {
 
 const Words words{
     .systemAndEverythingElse = "The system and everything else",
+    .keptForSystem = "Kept for the system",
     .unnamedVolume = "System",
     .unnamedHomeVolume = "Home",
     .systemLine = "%1",
@@ -38,11 +39,16 @@ const Words words{
     .walkingForLargeFiles =
         "Walking the visible folders of your home. Photo and music libraries are skipped.",
     .systemDataUnanalysed =
-        "Not analysed yet. Your file manager will not say what is in these folders. Klarvik will.",
-    .systemDataAnalysed =
-        "What apps, packages and the system itself keep out of sight. %1 of it can go.",
+        "Not analysed yet. Your file manager will not say where the space of the disk went. "
+        "Klarvik "
+        "will.",
+    .systemDataAnalysed = "All that is used on this disk, by what it is. %1 of it can go.",
     .systemDataHelp = "%1 Klarvik can remove from the folders that apps keep out of sight",
-    .itemsOfProtectedKind = "%1 · left alone",
+    .itemsOfProtectedKind = "%1",
+    .ledgerAddsUp = "The rows add up to %1: all that the disk says is used.",
+    .ledgerExceeds =
+        "The rows add up to %1 more than the disk says is used: copies can share their space, and "
+        "files may have changed meanwhile.",
     .analysisFindsSafe = "Package downloads, crash reports and other caches",
     .analysisFindsSnapshots = "Snapshots, app data, toolchains",
     .analysisFindsProtected = "Swap, cloud folders, the installed system",

@@ -66,6 +66,7 @@ const DiskLayout& layout() {
       .fileKinds = fileKinds,
       .allVisibleFoldersMayBeLarge = false,
       .analysisPasses = analysisPasses(),
+      .ledger = {},
       .storageShares = storageShares(),
       .trails = trailPlaces,
       .applications = applicationPlaces,

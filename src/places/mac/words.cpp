@@ -4,6 +4,7 @@ namespace klarvik::mac {
 
 const Words words{
     .systemAndEverythingElse = "macOS and everything else",
+    .keptForSystem = "",
     .unnamedVolume = "Macintosh HD",
     .unnamedHomeVolume = "Macintosh HD",
     .systemLine = "macOS %1",
@@ -46,6 +47,8 @@ const Words words{
         "and explains just as poorly. %1 of it can go.",
     .systemDataHelp = "%1 Klarvik can remove from the folders macOS keeps out of Storage settings",
     .itemsOfProtectedKind = "%1 · macOS needs these",
+    .ledgerAddsUp = "",
+    .ledgerExceeds = "",
     .analysisFindsSafe = "Device backups, Mail downloads, Homebrew and other caches",
     .analysisFindsSnapshots = "Local Time Machine snapshots",
     .analysisFindsProtected = "Swap, iCloud local copies, system frameworks",

@@ -19,6 +19,10 @@ std::optional<Date> dateIf(const struct statx& status, unsigned mask,
   return status.stx_mask & mask ? std::optional(dateOf(time.tv_sec, time.tv_nsec)) : std::nullopt;
 }
 
+std::int64_t blockBytesOf(const struct statx& status) {
+  return static_cast<std::int64_t>(status.stx_blocks) * kBlockBytes;
+}
+
 uid_t thisUser() {
   static const uid_t user = ::geteuid();
   return user;
@@ -78,7 +82,7 @@ FileKind kindOf(const struct statx& status) {
 
 std::int64_t allocatedBytesOf(const struct statx& status) {
   if (kindOf(status) == FileKind::directory) return 0;
-  return static_cast<std::int64_t>(status.stx_blocks) * kBlockBytes;
+  return blockBytesOf(status);
 }
 
 FileAttributes attributesOf(const struct statx& status) {
@@ -86,6 +90,7 @@ FileAttributes attributesOf(const struct statx& status) {
   const unsigned neededToChange = kindOf(status) == FileKind::directory ? S_IRWXU : S_IWUSR;
   return {.kind = kindOf(status),
           .allocatedBytes = allocatedBytesOf(status),
+          .folderBytes = kindOf(status) == FileKind::directory ? blockBytesOf(status) : 0,
           .logicalBytes = static_cast<std::int64_t>(status.stx_size),
           .modified = dateIf(status, STATX_MTIME, status.stx_mtime),
           .accessed = dateIf(status, STATX_ATIME, status.stx_atime),

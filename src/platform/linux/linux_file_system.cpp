@@ -14,7 +14,9 @@
 #include "platform/linux/directory_stack.h"
 #include "platform/linux/directory_walk.h"
 #include "platform/linux/file_status.h"
+#include "platform/linux/mounts.h"
 #include "platform/linux/tree_removal.h"
+#include "platform/linux/volume_tops.h"
 
 namespace klarvik {
 namespace {
@@ -178,6 +180,19 @@ bool LinuxFileSystem::isMountPoint(const Path& path) const {
   const auto location = locate(path);
   const auto mount = location ? mountOf(location->at(), location->name.c_str()) : std::nullopt;
   return mount && mount->isItsRoot;
+}
+
+VolumeTops LinuxFileSystem::volumeTops() const {
+  const auto mounts = readMountTable();
+  const auto ofRoot = mountOf(AT_FDCWD, _root.c_str());
+  const auto home = locate(realHome());
+  const auto ofHome = home ? mountOf(home->at(), home->name.c_str()) : std::nullopt;
+  if (!mounts || !ofRoot || !ofHome) return {{"/"}, {}};
+  VolumeTops tops = volumeTopsFrom(*mounts, {_root, ofRoot->number}, ofHome->number);
+  const auto makeLogical = [&](Path& folder) { folder = logicalPath(folder).value_or(folder); };
+  std::ranges::for_each(tops.folders, makeLogical);
+  std::ranges::for_each(tops.seenElsewhere, makeLogical);
+  return tops;
 }
 
 std::optional<std::vector<Path>> LinuxFileSystem::list(const Path& folder) const {

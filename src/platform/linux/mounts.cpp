@@ -18,9 +18,21 @@ namespace {
 
 // The fields of a line, separated by single spaces, that are read here.
 constexpr std::size_t kIdField = 0;
+constexpr std::size_t kVolumeField = 2;
+constexpr std::size_t kTopField = 3;
 constexpr std::size_t kPlaceField = 4;
 
 constexpr std::size_t kLongestTable = 64 << 20;  // bytes; a machine with 100,000 mounts has less
+
+/// "8:1": two numbers.
+std::optional<std::uint64_t> volumeFrom(std::string_view text) {
+  const std::size_t colon = text.find(':');
+  if (colon == std::string_view::npos) return std::nullopt;
+  const auto major = wholeNumber<std::uint32_t>(text.substr(0, colon));
+  const auto minor = wholeNumber<std::uint32_t>(text.substr(colon + 1));
+  if (!major || !minor) return std::nullopt;
+  return std::uint64_t{*major} << 32U | *minor;
+}
 
 // Behind the fields, whose number varies, a lone dash precedes the kind of file system.
 constexpr std::string_view kEndOfFields = " - ";
@@ -69,7 +81,12 @@ std::vector<MountPoint> mountTableFrom(std::string_view text) {
     const std::string_view line = takeLine(text);
     const auto id = wholeNumber<std::uint64_t>(fieldOf(line, kIdField));
     const std::string_view place = fieldOf(line, kPlaceField);
-    if (id && place.starts_with('/')) mounts.push_back({*id, unescaped(place), isLocalKind(line)});
+    if (!id || !place.starts_with('/')) continue;
+    mounts.push_back({.id = *id,
+                      .place = unescaped(place),
+                      .volume = volumeFrom(fieldOf(line, kVolumeField)).value_or(0),
+                      .top = unescaped(fieldOf(line, kTopField)),
+                      .isLocal = isLocalKind(line)});
   }
   return mounts;
 }

@@ -15,6 +15,9 @@ namespace klarvik {
 struct MountPoint {
   std::uint64_t id = 0;  ///< what `statx` calls `stx_mnt_id`
   Path place;            ///< on the machine
+  /// The same for all mounts of one file system; 0 where the line does not tell.
+  std::uint64_t volume = 0;
+  Path top{};  ///< which folder of the file system is mounted, counted from its own top
   /// Whether its kind of file system keeps files on this machine, so that no server has to answer.
   bool isLocal = false;
 };

@@ -8,11 +8,15 @@
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <string>
 #include <system_error>
 
 #include "base/paths.h"
 #include "base/posix_io.h"
+#include "base/text.h"
+#include "platform/linux/file_status.h"
+#include "platform/linux/mounts.h"
 
 namespace klarvik {
 namespace {
@@ -57,12 +61,16 @@ bool isCalled(std::string_view word, std::string_view program) {
   return before == '/' || before == '.';
 }
 
+std::string nameOf(const Path& process) {
+  std::string name = contentOf(process / "comm");
+  if (name.ends_with('\n')) name.pop_back();
+  return name;
+}
+
 bool isProgram(const Path& process, std::string_view program) {
   // The kernel keeps so much of a name, and a process may give itself another one.
   constexpr std::size_t keptCharacters = 15;
-  std::string name = contentOf(process / "comm");
-  if (name.ends_with('\n')) name.pop_back();
-  if (name == program.substr(0, keptCharacters)) return true;
+  if (nameOf(process) == program.substr(0, keptCharacters)) return true;
   const std::string words = contentOf(process / "cmdline");
   const bool isJava = isCalled(words.c_str(), "java");
   for (std::size_t start = 0; start < words.size();) {
@@ -74,7 +82,71 @@ bool isProgram(const Path& process, std::string_view program) {
   return false;
 }
 
+/// The number of the file system that something open lies on. A program in a sandbox has mounts of
+/// its own; the numbers of the file systems are the same for all.
+std::optional<std::uint64_t> volumeOfOpened(const std::string& information,
+                                            const std::vector<MountPoint>& mounts) {
+  constexpr std::string_view field = "mnt_id:\t";
+  std::string_view rest = information;
+  while (!rest.empty()) {
+    const std::string_view line = takeLine(rest);
+    if (!line.starts_with(field)) continue;
+    const auto id = wholeNumber<std::uint64_t>(line.substr(field.size()));
+    const auto mount = std::ranges::find(mounts, id.value_or(0), &MountPoint::id);
+    return mount != mounts.end() ? std::optional(mount->volume) : std::nullopt;
+  }
+  return std::nullopt;
+}
+
+/// What is open under `link`, asked of the kernel alone; nothing unless it is a file without a
+/// name.
+std::optional<DeletedOpenFile> deletedFileAt(const Path& link) {
+  struct statx status {};
+  constexpr int flags = AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC;
+  if (::statx(AT_FDCWD, link.c_str(), flags, STATX_BASIC_STATS, &status) != 0) return std::nullopt;
+  if (kindOf(status) != FileKind::regular || status.stx_nlink != 0) return std::nullopt;
+  return DeletedOpenFile{
+      .program = {}, .file = *attributesOf(status).identity, .bytes = allocatedBytesOf(status)};
+}
+
+/// Those that `process` has open on `volume`.
+std::vector<DeletedOpenFile> deletedFilesOf(const Path& process, std::uint64_t volume) {
+  std::vector<DeletedOpenFile> files;
+  std::optional<std::vector<MountPoint>> mounts;
+  std::error_code error;
+  for (std::filesystem::directory_iterator entry(process / "fd", error), end;
+       !error && entry != end; entry.increment(error)) {
+    std::error_code unread;
+    const Path target = std::filesystem::read_symlink(entry->path(), unread);
+    if (unread || !target.native().ends_with(" (deleted)")) continue;
+    if (!mounts) mounts = mountTableFrom(contentOf(process / "mountinfo"));
+    const Path information = process / "fdinfo" / entry->path().filename();
+    if (volumeOfOpened(contentOf(information), *mounts) != volume) continue;
+    if (auto file = deletedFileAt(entry->path())) files.push_back(std::move(*file));
+  }
+  return files;
+}
+
 }  // namespace
+
+std::vector<DeletedOpenFile> ProcessTable::deletedOpenFiles(const Path& folder) const {
+  const auto mount = mountOf(AT_FDCWD, folder.c_str());
+  const auto mounts = readMountTable();
+  if (!mount || !mounts) return {};
+  const auto own = std::ranges::find(*mounts, mount->number, &MountPoint::id);
+  if (own == mounts->end()) return {};
+  std::vector<DeletedOpenFile> files;
+  std::set<FileIdentity> known;
+  anyProcess(_folder, [&](const Path& process) {
+    for (DeletedOpenFile& file : deletedFilesOf(process, own->volume)) {
+      if (!known.insert(file.file).second) continue;
+      file.program = nameOf(process);
+      files.push_back(std::move(file));
+    }
+    return false;
+  });
+  return files;
+}
 
 bool ProcessTable::isRunning(std::string_view program) const {
   return anyProcess(_folder, [&](const Path& process) { return isProgram(process, program); });

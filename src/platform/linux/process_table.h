@@ -14,6 +14,7 @@ class ProcessTable final : public RunningPrograms {
   [[nodiscard]] bool isSandboxRunning(std::string_view application) const override;
   [[nodiscard]] bool isLockHeld(const Path& link) const override;
   [[nodiscard]] bool hasOpen(const Path& path) const override;
+  [[nodiscard]] std::vector<DeletedOpenFile> deletedOpenFiles(const Path& folder) const override;
 
  private:
   const Path _folder;

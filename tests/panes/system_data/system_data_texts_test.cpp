@@ -40,15 +40,15 @@ TEST_F(SystemDataTexts, TellWhatCanGoFromWhatIsOnlyShown) {
 }
 
 TEST_F(SystemDataTexts, CountTheItemsOfAKind) {
-  EXPECT_EQ(system_data::kindDetail(1, SystemDataSubCategory::logs, macDisk.words), "1 item");
-  EXPECT_EQ(system_data::kindDetail(2, SystemDataSubCategory::logs, macDisk.words), "2 items");
+  EXPECT_EQ(system_data::kindDetail(1, SystemDataSubCategory::logs, macDisk), "1 item");
+  EXPECT_EQ(system_data::kindDetail(2, SystemDataSubCategory::logs, macDisk), "2 items");
 }
 
 TEST_F(SystemDataTexts, SayOfTheSixProtectedKindsThatTheSystemNeedsThem) {
   int needed = 0;
   for (const SystemDataSubCategory kind : allSystemDataSubCategories()) {
     const bool isNeeded =
-        system_data::kindDetail(3, kind, macDisk.words) == "3 items · macOS needs these";
+        system_data::kindDetail(3, kind, macDisk) == "3 items · macOS needs these";
     EXPECT_EQ(isNeeded, defaultSafety(kind) == ItemSafety::protected_);
     needed += isNeeded ? 1 : 0;
   }
@@ -62,14 +62,35 @@ TEST_F(SystemDataTexts, SayWhatABoxSelects) {
 
 TEST_F(SystemDataTexts, NameNoSystemOnALinuxDisk) {
   EXPECT_EQ(system_data::subtitle(std::nullopt, linuxDisk.words, formatting),
-            "Not analysed yet. Your file manager will not say what is in these folders. Klarvik "
-            "will.");
+            "Not analysed yet. Your file manager will not say where the space of the disk went. "
+            "Klarvik will.");
   EXPECT_EQ(system_data::subtitle(1'500'000, linuxDisk.words, formatting),
-            "What apps, packages and the system itself keep out of sight. 1.5 MB of it can go.");
-  EXPECT_EQ(system_data::kindDetail(1, SystemDataSubCategory::vmSwap, linuxDisk.words),
-            "1 item · left alone");
+            "All that is used on this disk, by what it is. 1.5 MB of it can go.");
+  EXPECT_EQ(system_data::kindDetail(1, SystemDataSubCategory::vmSwap, linuxDisk),
+            "1 item · Space for when memory runs short, and for hibernation");
   EXPECT_EQ(system_data::selectionHelp(SystemDataSubCategory::vmSwap, linuxDisk),
             "Select everything in Swap & Hibernation");
+}
+
+TEST_F(SystemDataTexts, SayOfAnItemWhatItIsAndWhereItLies) {
+  SystemDataItem item{
+      .name = "Writer", .path = "/home/ann/.cache/writer", .sentence = "Made again."};
+  EXPECT_EQ(system_data::itemDetail(item, "/home/ann"), "Made again. · ~/.cache/writer");
+  item.path = "/usr";
+  EXPECT_EQ(system_data::itemDetail(item, "/home/ann"), "Made again. · /usr");
+  item.path.clear();
+  EXPECT_EQ(system_data::itemDetail(item, "/home/ann"), "Made again.");
+}
+
+TEST_F(SystemDataTexts, SayWhetherTheRowsAddUp) {
+  const auto note = [&](LedgerSum sum) {
+    return system_data::ledgerNote(sum, linuxDisk.words, formatting);
+  };
+  EXPECT_EQ(note({.usedBytes = 40'000'000'000, .exceedsBy = 1'000'000}),
+            "The rows add up to 40 GB: all that the disk says is used.");
+  EXPECT_EQ(note({.usedBytes = 40'000'000'000, .exceedsBy = 2'000'000'000}),
+            "The rows add up to 2 GB more than the disk says is used: copies can share their "
+            "space, and files may have changed meanwhile.");
 }
 
 TEST_F(SystemDataTexts, PutTheVerdictsIntoWords) {
