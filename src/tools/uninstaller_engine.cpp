@@ -1,6 +1,7 @@
 #include "tools/uninstaller_engine.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "base/bytes.h"
 #include "base/paths.h"
@@ -27,8 +28,26 @@ std::vector<Path> visibleEntries(const FileSystem& files, const Path& folder) {
   return entries;
 }
 
+std::vector<Path> applicationsOf(const FileSystem& files) {
+  std::vector<Path> found;
+  for (const std::string_view folder : layoutFor(files.home()).applications.folders) {
+    std::ranges::copy_if(visibleEntries(files, files.home() / folder), std::back_inserter(found),
+                         isApplicationName);
+  }
+  return found;
+}
+
+std::vector<std::string> installedIdentifiers(const FileSystem& files) {
+  std::vector<std::string> identifiers;
+  for (const Path& path : applicationsOf(files)) {
+    if (const auto bundle = ApplicationBundle::at(files, path)) {
+      identifiers.push_back(bundle->identifier);
+    }
+  }
+  return identifiers;
+}
+
 std::optional<AppInfo> appAt(const FileSystem& files, const Path& path) {
-  if (!isApplicationName(path)) return std::nullopt;
   const auto identity = entryIdentity(files, path);
   const auto bundle = ApplicationBundle::at(files, path);
   if (!bundle) return std::nullopt;
@@ -60,10 +79,8 @@ std::vector<AppInfo> UninstallerEngine::listApps() {
   const std::lock_guard lock(_working);
   const FileSystem& files = _platform.files;
   std::vector<AppInfo> apps;
-  for (const std::string_view folder : layoutFor(files.home()).applications.folders) {
-    for (const Path& entry : visibleEntries(files, files.home() / folder)) {
-      if (auto app = appAt(files, entry)) apps.push_back(*std::move(app));
-    }
+  for (const Path& entry : applicationsOf(files)) {
+    if (auto app = appAt(files, entry)) apps.push_back(*std::move(app));
   }
   std::ranges::stable_sort(apps, {}, &AppInfo::name);
   return apps;
@@ -73,7 +90,7 @@ std::vector<ResidualFile> UninstallerEngine::findResiduals(const AppInfo& app) {
   const std::lock_guard lock(_working);
   const FileSystem& files = _platform.files;
   const ApplicationPlaces& places = layoutFor(files.home()).applications;
-  const ResidualMatcher matcher(app, places);
+  const ResidualMatcher matcher(app, places, installedIdentifiers(files));
   std::vector<ResidualFile> found;
   for (const ResidualFolder& root : places.residuals) {
     for (const Path& entry : visibleEntries(files, files.home() / root.folder)) {

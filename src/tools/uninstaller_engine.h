@@ -29,7 +29,8 @@ class UninstallerEngine {
   [[nodiscard]] std::vector<AppInfo> listApps();
 
   /// What bears the application's name or identifier at the top level of a Library folder, largest
-  /// first. Empty things are left out, and so is what belongs to the system.
+  /// first. Empty things are left out, and so is what belongs to the system, or rather to another
+  /// application that is installed.
   [[nodiscard]] std::vector<ResidualFile> findResiduals(const AppInfo& app);
 
   /// Removes `residuals` for good, one after the other, each only if `DeletionGuard` lets it go as
