@@ -5,11 +5,21 @@
 #include <string>
 #include <vector>
 
+#include "core/deletion_guard.h"
 #include "core/left_alone.h"
 #include "platform/platform.h"
 #include "tools/app_info.h"
 
 namespace klarvik {
+
+/// What an uninstalling did.
+struct UninstallOutcome {
+  std::int64_t freed = 0;  ///< bytes, of what is gone as it was measured when it was found
+  bool isGone = false;     ///< the application itself
+  bool isRunning = false;  ///< and therefore nothing was done
+
+  bool operator==(const UninstallOutcome&) const = default;
+};
 
 /// Lists the installed applications, finds what one of them has left in the Library folders, and
 /// removes it.
@@ -39,10 +49,22 @@ class UninstallerEngine {
   /// found.
   std::int64_t uninstall(const AppInfo& app, const std::vector<ResidualFile>& residuals);
 
+  /// The same, and more of what it did. Of an application that a desktop entry tells, residuals go
+  /// to the Trash too, and only after the application itself; where that stays because Klarvik does
+  /// not remove such, they go alone, and where it could not be removed, nothing does.
+  UninstallOutcome remove(const AppInfo& app, const std::vector<ResidualFile>& residuals);
+
   /// The words by which `DeletionGuard` knows what is a residual of `app`.
   [[nodiscard]] static std::vector<std::string> residualIdentifiers(const AppInfo& app);
 
  private:
+  [[nodiscard]] UninstallOutcome removeBundle(const AppInfo& app,
+                                              const std::vector<ResidualFile>& residuals);
+  [[nodiscard]] UninstallOutcome removeProgram(const AppInfo& app,
+                                               const std::vector<ResidualFile>& residuals);
+  [[nodiscard]] bool trashIfAllowed(const Path& path, const DeletionScope& scope,
+                                    const std::optional<EntryIdentity>& identity);
+
   const Platform& _platform;
   LeftAlone* const _leftAlone;
   std::mutex _working;
