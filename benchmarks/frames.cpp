@@ -14,8 +14,8 @@
 
 #include "own_time.h"
 #include "panes/smart_scan/review_table_model.h"
-#include "platform/allocator.h"
 #include "platform/desktop/qt_clock.h"
+#include "platform/own_process.h"
 #include "shell/klarvik_app.h"
 #include "state/shared_state.h"
 #include "support/desktop_fakes.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <unistd.h>
-
 #include <cerrno>
 #include <cstddef>
 #include <optional>
@@ -53,5 +52,17 @@ auto retryOnEintr(const Call& call) {
 /// Writes all of `bytes` to the opened file. False when that failed; the file may have taken some
 /// of them then.
 [[nodiscard]] bool writeAll(int file, std::string_view bytes);
+
+/// What becomes of a link that stands where the folder is expected.
+enum class LinkInPlace { refused, followed };
+
+/// The folder `name` in `parent`, opened with `O_PATH`: good for every `...at` call, but it cannot
+/// be listed or synced. None when there is no such folder; `errno` tells why.
+[[nodiscard]] UniqueFd openFolderHandle(int parent, const char* name,
+                                        LinkInPlace link = LinkInPlace::refused);
+
+/// The same, but makes the folder where it is missing, for the user alone.
+[[nodiscard]] UniqueFd openFolderHandleCreating(int parent, const char* name,
+                                                LinkInPlace link = LinkInPlace::refused);
 
 }  // namespace klarvik

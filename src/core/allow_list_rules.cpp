@@ -1,5 +1,5 @@
 #include "base/paths.h"
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "core/catalogue.h"
 #include "core/deletion_rules.h"
 #include "places/path_pattern.h"

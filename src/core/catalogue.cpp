@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/paths.h"
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "places/path_pattern.h"
 
 namespace klarvik {

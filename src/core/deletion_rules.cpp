@@ -1,7 +1,7 @@
 #include "core/deletion_rules.h"
 
 #include "base/paths.h"
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
 

@@ -1,13 +1,33 @@
 #pragma once
 
+#include <algorithm>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/deletion_guard.h"
-#include "core/refusal.h"
 
 namespace klarvik {
+
+/// Why something may not be removed, as a sentence; nothing when it may.
+using Refusal = std::optional<std::string>;
+inline constexpr std::nullopt_t allowed = std::nullopt;
+
+template <class... Parts>
+[[nodiscard]] Refusal refuse(const Parts&... parts) {
+  std::string sentence;
+  (sentence.append(parts), ...);
+  return sentence;
+}
+
+[[nodiscard]] inline const std::string_view* firstPrefixOf(
+    std::string_view path, std::span<const std::string_view> prefixes) {
+  const auto found =
+      std::ranges::find_if(prefixes, [&](auto prefix) { return path.starts_with(prefix); });
+  return found != prefixes.end() ? &*found : nullptr;
+}
 
 /// A removal that is to be judged. Paths are absolute and standardized.
 struct DeletionQuestion {

@@ -2,11 +2,9 @@
 
 #include "base/paths.h"
 #include "base/text.h"
-#include "base/unicode_text.h"
 #include "engine/shell.h"
 
 namespace klarvik {
-
 namespace {
 
 constexpr std::string_view snapshotFolder = "/.MobileBackups/";

@@ -3,11 +3,9 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "base/unicode_text.h"
 #include "platform/command_runner.h"
 
 namespace klarvik {
-
 namespace {
 
 bool isInert(char character) {

@@ -4,13 +4,9 @@
 
 namespace klarvik {
 
-int SectionedList::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(_rows.size());
-}
-
 QVariant SectionedList::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-  const Row& row = _rows[static_cast<std::size_t>(index.row())];
+  const ShownRow& row = _shown[rows()[static_cast<std::size_t>(index.row())].itemPlace];
   switch (role) {
     case KindRole:
       return static_cast<int>(row.item ? RowKind::Item : RowKind::Heading);
@@ -47,48 +43,49 @@ QHash<int, QByteArray> SectionedList::roleNames() const {
 
 void SectionedList::toggle(int row) {
   if (!hasIndex(row, 0)) return;
-  const Row& pressed = _rows[static_cast<std::size_t>(row)];
+  const ShownRow& pressed = _shown[rows()[static_cast<std::size_t>(row)].itemPlace];
   if (!pressed.item || !pressed.canSelect) return;
   if (_selected.erase(*pressed.item) == 0) _selected.insert(*pressed.item);
   emit dataChanged(index(row), index(row), {IsSelectedRole});
   emit selectionChanged();
 }
 
-void SectionedList::fill(std::vector<Row> rows, std::unordered_set<Uuid> selected) {
+void SectionedList::fill(std::vector<ShownRow> rows, std::unordered_set<Uuid> selected) {
   if (rows.empty()) return;
-  beginInsertRows({}, 0, static_cast<int>(rows.size()) - 1);
-  _rows = std::move(rows);
+  _shown = std::move(rows);
   _selected = std::move(selected);
-  endInsertRows();
+  std::vector<Row> wanted;
+  int section = 0;
+  for (std::size_t place = 0; place < _shown.size(); ++place) {
+    const std::optional<Uuid>& item = _shown[place].item;
+    if (!item) ++section;
+    wanted.push_back({.section = section, .item = item.value_or(Uuid()), .itemPlace = place});
+  }
+  showRows(std::move(wanted));
   emit selectionChanged();
 }
 
 void SectionedList::empty() {
-  if (_rows.empty()) return;
-  beginRemoveRows({}, 0, rowCount() - 1);
-  _rows.clear();
+  if (_shown.empty()) return;
+  showRows({});
+  _shown.clear();
   _selected.clear();
-  endRemoveRows();
   emit selectionChanged();
 }
 
 void SectionedList::remove(const std::unordered_set<Uuid>& items) {
-  bool sectionIsEmpty = true;
-  for (std::size_t row = _rows.size(); row > 0; --row) {
-    const std::optional<Uuid>& item = _rows[row - 1].item;
-    const bool isHeading = !item.has_value();
-    const bool goes = isHeading ? sectionIsEmpty : items.contains(*item);
-    sectionIsEmpty = isHeading || (goes && sectionIsEmpty);
-    if (goes) removeRow(row - 1);
+  std::vector<Row> kept;
+  for (const Row& row : rows()) {
+    if (_shown[row.itemPlace].item && items.contains(row.item)) continue;
+    const bool isHeading = !_shown[row.itemPlace].item;
+    const bool followsHeading = !kept.empty() && !_shown[kept.back().itemPlace].item;
+    if (isHeading && followsHeading) kept.pop_back();
+    kept.push_back(row);
   }
+  if (!kept.empty() && !_shown[kept.back().itemPlace].item) kept.pop_back();
+  showRows(std::move(kept));
   for (const Uuid& item : items) _selected.erase(item);
   emit selectionChanged();
-}
-
-void SectionedList::removeRow(std::size_t row) {
-  beginRemoveRows({}, static_cast<int>(row), static_cast<int>(row));
-  _rows.erase(_rows.begin() + static_cast<std::ptrdiff_t>(row));
-  endRemoveRows();
 }
 
 }  // namespace klarvik

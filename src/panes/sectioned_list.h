@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <QString>
 #include <QUrl>
 #include <algorithm>
@@ -11,13 +10,14 @@
 #include <vector>
 
 #include "core/uuid.h"
+#include "panes/keyed_list_model.h"
 
 namespace klarvik {
 
 /// Items below the headings of their sections, as one flat list, and which of them are selected.
 /// Made for lists whose texts are quickly written: all rows are, when they come. Main thread only.
 /// Models name it with its namespace, since qmllint finds a base by its whole name.
-class SectionedList : public QAbstractListModel {
+class SectionedList : public klarvik::KeyedListModel {
   Q_OBJECT
   QML_ANONYMOUS
  public:
@@ -36,9 +36,8 @@ class SectionedList : public QAbstractListModel {
     DescriptionRole,
   };
 
-  using QAbstractListModel::QAbstractListModel;
+  using KeyedListModel::KeyedListModel;
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
@@ -53,7 +52,7 @@ class SectionedList : public QAbstractListModel {
 
  protected:
   /// What is shown of an item; of a heading where there is none.
-  struct Row {
+  struct ShownRow {
     std::optional<Uuid> item = std::nullopt;
     QString name;
     QString path = {};
@@ -66,7 +65,7 @@ class SectionedList : public QAbstractListModel {
   };
 
   /// Into a list that is empty.
-  void fill(std::vector<Row> rows, std::unordered_set<Uuid> selected);
+  void fill(std::vector<ShownRow> rows, std::unordered_set<Uuid> selected);
   void empty();
   /// Takes the heading of a section along that is left without an item. All other rows stay.
   void remove(const std::unordered_set<Uuid>& items);
@@ -80,9 +79,7 @@ class SectionedList : public QAbstractListModel {
   }
 
  private:
-  void removeRow(std::size_t row);
-
-  std::vector<Row> _rows;
+  std::vector<ShownRow> _shown;
   std::unordered_set<Uuid> _selected;
 };
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "platform/date.h"
 
 namespace klarvik {

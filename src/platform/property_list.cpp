@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "platform/binary_property_list.h"
 
 namespace klarvik {

@@ -4,12 +4,11 @@
 #include "base/text.h"
 #include "probe/command.h"
 #include "probe/report.h"
+#include "tools/duplicate_group.h"
 #include "tools/duplicate_removal_guard.h"
 #include "tools/duplicate_scanner.h"
-#include "tools/duplicate_selection.h"
 
 namespace klarvik::probe {
-
 namespace {
 
 Report reportOf(const DuplicateProgress& progress) {

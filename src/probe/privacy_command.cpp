@@ -1,14 +1,13 @@
 #include <iostream>
 
 #include "base/bytes.h"
+#include "platform/desktop_services.h"
 #include "platform/file_system.h"
-#include "platform/pasteboard.h"
 #include "probe/command.h"
 #include "probe/report.h"
 #include "tools/privacy_scanner.h"
 
 namespace klarvik::probe {
-
 namespace {
 
 /// A terminal has no clipboard, and this program no window that could ask for the desktop's.

@@ -2,10 +2,9 @@
 
 #include <iostream>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 
 namespace klarvik::probe {
-
 namespace {
 
 std::string hexadecimal(std::string_view bytes) {

@@ -94,4 +94,26 @@ Rectangle {
             onAction: root.shell.openSettings()
         }
     }
+
+    /// The button that opens the application menu.
+    component ApplicationMenu: SymbolButton {
+        id: applicationMenu
+
+        required property AppCommandsModel commands
+
+        symbol: "chevron.down"
+        title: qsTr("Klarvik menu")
+        size: 11
+        Accessible.role: Accessible.ButtonMenu
+        onAction: menu.open()
+
+        MenuPopup {
+            id: menu
+            x: applicationMenu.width - menu.width
+            y: applicationMenu.height + 4
+            entries: applicationMenu.commands.titles
+            hints: applicationMenu.commands.shortcuts
+            onChosen: index => applicationMenu.commands.run(index)
+        }
+    }
 }

@@ -4,7 +4,7 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/volume.h"
-#include "shell/disk_texts.h"
+#include "shell/sidebar_texts.h"
 
 namespace klarvik {
 namespace {

@@ -5,7 +5,7 @@
 #include <stop_token>
 #include <vector>
 
-#include "platform/login_item.h"
+#include "platform/desktop_services.h"
 #include "platform/platform.h"
 #include "shell/app_commands_model.h"
 #include "shell/app_shell_model.h"

@@ -1,10 +1,10 @@
 #include "shell/trash_block_model.h"
 
 #include "places/disk_layout.h"
+#include "platform/desktop_services.h"
 #include "platform/file_system.h"
 #include "platform/trash.h"
-#include "platform/workspace.h"
-#include "shell/trash_texts.h"
+#include "shell/sidebar_texts.h"
 
 namespace klarvik {
 

@@ -55,7 +55,9 @@ Windows::Windows(const Desktop& desktop) {
 QQuickWindow* Windows::make(const QString& id, const QUrl& view, const QVariantMap& properties,
                             const WindowFrame& frame) {
   QQmlComponent component(&_engine, view);
-  std::unique_ptr<QObject> made(component.createWithInitialProperties(properties));
+  std::unique_ptr<QObject> made;
+  // Qt 6.4 crashes when it is to make what has not been compiled.
+  if (component.isReady()) made.reset(component.createWithInitialProperties(properties));
   auto* const window = qobject_cast<QQuickWindow*>(made.get());
   if (window == nullptr) {
     qWarning().noquote() << component.errorString();

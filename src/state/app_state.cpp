@@ -6,12 +6,11 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/formatting.h"
-#include "state/combined_stop_token.h"
+#include "state/engine_run.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
 
 namespace klarvik {
-
 namespace {
 
 AppState::Scan scanWithFreshEngine(const Platform& platform) {

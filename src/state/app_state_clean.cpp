@@ -3,16 +3,15 @@
 #include <utility>
 
 #include "base/bytes.h"
+#include "platform/main_loop/coalescing_queue.h"
 #include "platform/notification_center.h"
 #include "platform/user_defaults.h"
 #include "state/app_state.h"
-#include "platform/main_loop/coalescing_queue.h"
-#include "state/combined_stop_token.h"
+#include "state/engine_run.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
 
 namespace klarvik {
-
 namespace {
 
 /// Every category that keeps an item, under a new identity.

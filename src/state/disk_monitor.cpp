@@ -7,7 +7,7 @@
 #include "platform/notification_center.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
-#include "state/sleep_for.h"
+#include "state/timers.h"
 
 namespace klarvik {
 

@@ -9,7 +9,7 @@
 #include "core/disk_stats.h"
 #include "platform/notification_center.h"
 #include "platform/platform.h"
-#include "state/repeating_timer.h"
+#include "state/timers.h"
 
 namespace klarvik {
 

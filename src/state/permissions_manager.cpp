@@ -6,14 +6,13 @@
 #include <utility>
 
 #include "places/disk_layout.h"
+#include "platform/desktop_services.h"
 #include "platform/file_system.h"
 #include "platform/path.h"
-#include "platform/workspace.h"
 #include "state/set_if_changed.h"
-#include "state/sleep_for.h"
+#include "state/timers.h"
 
 namespace klarvik {
-
 namespace {
 
 using namespace std::chrono_literals;

@@ -9,7 +9,7 @@
 
 #include "platform/path.h"
 #include "platform/platform.h"
-#include "state/repeating_timer.h"
+#include "state/timers.h"
 
 namespace klarvik {
 

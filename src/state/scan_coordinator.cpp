@@ -7,10 +7,9 @@
 
 #include "platform/user_defaults.h"
 #include "state/section.h"
-#include "state/sleep_for.h"
+#include "state/timers.h"
 
 namespace klarvik {
-
 namespace {
 
 using namespace std::chrono_literals;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "core/junk_model.h"
-#include "state/scan_history_entry.h"
+#include "state/scan_history_json.h"
 
 namespace klarvik {
 

@@ -8,11 +8,11 @@
 #include <vector>
 
 #include "engine/scanner_engine.h"
+#include "platform/main_loop/background_tasks.h"
 #include "platform/notification_center.h"
 #include "platform/platform.h"
-#include "platform/main_loop/background_tasks.h"
 #include "state/removal_notice.h"
-#include "state/repeating_timer.h"
+#include "state/timers.h"
 
 namespace klarvik {
 

@@ -12,6 +12,10 @@
 
 namespace klarvik {
 
+/// What the user reads about an updater's error: what the network's code means, where the network
+/// is behind it, else what the updater says itself.
+[[nodiscard]] std::string updateErrorText(const UpdaterError& error);
+
 /// What is known about newer versions, made of what the updater tells. Main thread only. Making it
 /// starts the updater.
 class UpdateManager : public QObject, private UpdaterDelegate {

@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 
 namespace klarvik {
-
 namespace {
 
 constexpr std::array<std::string_view, 7> prefixes{

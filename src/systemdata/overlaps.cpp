@@ -5,10 +5,9 @@
 #include <set>
 #include <string_view>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 
 namespace klarvik {
-
 namespace {
 
 using Paths = std::set<std::string, std::less<>>;

@@ -1,6 +1,7 @@
 #include "tools/duplicate_group.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "base/bytes.h"
 
@@ -15,6 +16,88 @@ std::int64_t DuplicateGroup::reclaimableBytes() const {
     largest = std::max(largest, file->size);
   }
   return rest;
+}
+
+namespace {
+
+using KeepRule = DuplicateSelection::KeepRule;
+
+bool isNewer(const DuplicateFile& candidate, const DuplicateFile& best) {
+  return best.modifiedDate.value_or(Date::min()) < candidate.modifiedDate.value_or(Date::min());
+}
+
+bool isOlder(const DuplicateFile& candidate, const DuplicateFile& best) {
+  return candidate.modifiedDate.value_or(Date::max()) < best.modifiedDate.value_or(Date::max());
+}
+
+auto depth(const DuplicateFile& file) {
+  return std::distance(file.url.begin(), file.url.end());
+}
+
+bool isShallower(const DuplicateFile& candidate, const DuplicateFile& best) {
+  return depth(candidate) < depth(best);
+}
+
+struct Rule {
+  std::string_view rawValue;
+  std::string_view label;
+  bool (*wins)(const DuplicateFile& candidate, const DuplicateFile& best);
+};
+
+const Rule& ruleOf(KeepRule rule) {
+  static constexpr std::array<Rule, 3> rules{{
+      {"newest", "Newest copy", isNewer},
+      {"oldest", "Oldest copy", isOlder},
+      {"shallowest", "Shallowest path", isShallower},
+  }};
+  return rules.at(static_cast<std::size_t>(rule));
+}
+
+/// The end of `files` only when there are none.
+auto findKeeper(const std::vector<DuplicateFile>& files, KeepRule rule,
+                const std::optional<Uuid>& override) {
+  const auto named = std::find_if(files.begin(), files.end(),
+                                  [&](const DuplicateFile& file) { return override == file.id; });
+  if (named != files.end()) return named;
+  auto best = files.begin();
+  for (auto candidate = best; candidate != files.end(); ++candidate) {
+    if (ruleOf(rule).wins(*candidate, *best)) best = candidate;
+  }
+  return best;
+}
+
+}  // namespace
+
+std::string_view DuplicateSelection::rawValue(KeepRule rule) {
+  return ruleOf(rule).rawValue;
+}
+
+std::string_view DuplicateSelection::label(KeepRule rule) {
+  return ruleOf(rule).label;
+}
+
+std::optional<DuplicateFile> DuplicateSelection::keeper(const DuplicateGroup& group, KeepRule rule,
+                                                        const std::optional<Uuid>& override) {
+  const auto place = keeperPlace(group, rule, override);
+  return place ? std::optional(group.files[*place]) : std::nullopt;
+}
+
+std::optional<std::size_t> DuplicateSelection::keeperPlace(const DuplicateGroup& group,
+                                                           KeepRule rule,
+                                                           const std::optional<Uuid>& override) {
+  const auto found = findKeeper(group.files, rule, override);
+  if (found == group.files.end()) return std::nullopt;
+  return static_cast<std::size_t>(std::distance(group.files.begin(), found));
+}
+
+std::vector<DuplicateFile> DuplicateSelection::removable(const DuplicateGroup& group, KeepRule rule,
+                                                         const std::optional<Uuid>& override) {
+  const auto staying = findKeeper(group.files, rule, override);
+  std::vector<DuplicateFile> others;
+  for (const DuplicateFile& file : group.files) {
+    if (file.id != staying->id) others.push_back(file);
+  }
+  return others;
 }
 
 }  // namespace klarvik

@@ -6,20 +6,18 @@
 
 #include "base/bytes.h"
 #include "base/paths.h"
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "core/catalogue.h"
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"
 #include "engine/program_use.h"
 #include "places/disk_layout.h"
+#include "platform/desktop_services.h"
 #include "platform/file_system.h"
-#include "platform/pasteboard.h"
-#include "platform/recent_documents.h"
 #include "tools/file_size.h"
 #include "tools/trail_finder.h"
 
 namespace klarvik {
-
 namespace {
 
 using Places = std::span<const std::string_view>;

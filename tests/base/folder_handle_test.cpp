@@ -1,4 +1,4 @@
-#include "base/folder_handle.h"
+#include "base/posix_io.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

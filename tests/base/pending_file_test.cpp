@@ -1,4 +1,4 @@
-#include "base/pending_file.h"
+#include "base/file_writes.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <string>
 
-#include "base/folder_handle.h"
+#include "base/posix_io.h"
 #include "support/system_call_faults.h"
 #include "support/temporary_folder.h"
 

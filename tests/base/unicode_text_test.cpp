@@ -1,4 +1,4 @@
-#include "base/unicode_text.h"
+#include "base/text.h"
 
 #include <gtest/gtest.h>
 

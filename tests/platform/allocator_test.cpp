@@ -1,4 +1,4 @@
-#include "platform/allocator.h"
+#include "platform/own_process.h"
 
 #include <gtest/gtest.h>
 #include <malloc.h>

@@ -1,4 +1,4 @@
-#include "platform/background_thread.h"
+#include "platform/own_process.h"
 
 #include <gtest/gtest.h>
 #include <sched.h>

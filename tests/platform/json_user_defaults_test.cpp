@@ -14,7 +14,6 @@
 #include <thread>
 #include <vector>
 
-#include "platform/linux/file_lock.h"
 #include "support/child_process.h"
 #include "support/private_mounts.h"
 #include "support/system_call_faults.h"

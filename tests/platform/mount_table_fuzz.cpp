@@ -1,6 +1,6 @@
 // Whatever the table of mounts holds, each line tells of one absolute place at most.
 
-#include "platform/linux/mount_table.h"
+#include "platform/linux/mounts.h"
 
 #include <algorithm>
 #include <cstddef>

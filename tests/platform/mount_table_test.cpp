@@ -1,4 +1,4 @@
-#include "platform/linux/mount_table.h"
+#include "platform/linux/mounts.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/mounted_volume.h"
+#include "platform/linux/mounts.h"
 
 #include <gtest/gtest.h>
 #include <sys/statvfs.h>

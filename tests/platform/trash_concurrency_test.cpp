@@ -5,7 +5,7 @@
 #include <atomic>
 #include <thread>
 
-#include "platform/linux/trash_record.h"
+#include "platform/linux/trash_folder.h"
 #include "trash_fixture.h"
 
 namespace klarvik {

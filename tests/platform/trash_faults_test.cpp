@@ -7,7 +7,7 @@
 
 #include <cerrno>
 
-#include "platform/linux/trash_record.h"
+#include "platform/linux/trash_folder.h"
 #include "support/system_call_faults.h"
 #include "trash_fixture.h"
 
@@ -70,6 +70,13 @@ class TrashFaults : public TrashFixture, public testing::WithParamInterface<Swee
       const Path record = recordOf(entry.path().filename());
       ASSERT_TRUE(disk.holds(record)) << record;
       EXPECT_EQ(placeInTrashRecord(disk.contentOf(record)), disk.onDisk(kItem));
+    }
+  }
+
+  void expectEachTrashedItemHasARecord() const {
+    if (!disk.holds(kFiles)) return;
+    for (const auto& entry : fs::directory_iterator(disk.onDisk(kFiles))) {
+      EXPECT_TRUE(disk.holds(recordOf(entry.path().filename()))) << entry.path();
     }
   }
 
@@ -333,6 +340,96 @@ TEST_F(TrashSwaps, TheItemIsGoneOrAnotherAtEveryStepOfAMove) {
     EXPECT_EQ(countIn(kInfo), run.answer ? 1u : 0u);
     return run.reached;
   });
+}
+
+/// A file system whose renaming may replace what is there, as that of NFS.
+class TrashWithPlainRenaming : public TrashSwaps {
+ protected:
+  static constexpr const char* kFile = "/Users/ann/parent/file";
+
+  void makeHomeWithAFileAnew() {
+    makeHomeAnew();
+    disk.makeFile(kFile, "content");
+  }
+
+  static FaultyRun runPlainly(SystemCallFault fault, const std::function<bool()>& operation) {
+    return runWithFault(fault, [&operation] {
+      refuseSystemCall(SYS_renameat2, EINVAL);
+      return operation();
+    });
+  }
+};
+
+TEST_F(TrashWithPlainRenaming, AFolderAFileAndALinkGoAndComeBack) {
+  makeHomeWithAFileAnew();
+  disk.makeLink("/Users/ann/parent/link", "nowhere");
+  for (const char* const name : {"item", "file", "link"}) {
+    const Path place = Path("/Users/ann/parent") / name;
+    const DiskSnapshot before = snapshot(place);
+    EXPECT_TRUE(
+        runPlainly({}, [&] { return trash.moveToTrash(place, anywhere) == inFiles(name); }).answer);
+    EXPECT_EQ(snapshot(inFiles(name)), before);
+    EXPECT_FALSE(disk.holds(place));
+    EXPECT_TRUE(
+        runPlainly({}, [&] { return trash.putBack(inFiles(name), place, anywhere); }).answer);
+    EXPECT_EQ(snapshot(place), before);
+    EXPECT_EQ(countIn(kFiles), 0U);
+    EXPECT_EQ(countIn(kInfo), 0U);
+  }
+}
+
+TEST_F(TrashWithPlainRenaming, NothingInTheTrashIsReplaced) {
+  makeHomeWithAFileAnew();
+  disk.makeFile(inFiles("file"), "earlier");
+  disk.makeFolder(inFiles("item"));
+  EXPECT_TRUE(runPlainly({}, [&] {
+                return trash.moveToTrash(kFile, anywhere) && trash.moveToTrash(kItem, anywhere);
+              }).answer);
+  EXPECT_EQ(disk.contentOf(inFiles("file")), "earlier");
+  EXPECT_EQ(snapshot(inFiles("item")).size(), 0U);
+  EXPECT_EQ(countIn(kInfo), 2U);
+}
+
+TEST_F(TrashWithPlainRenaming, NothingIsReplacedByWhatComesBack) {
+  makeHomeWithAFileAnew();
+  ASSERT_TRUE(trash.moveToTrash(kFile, anywhere) && trash.moveToTrash(kItem, anywhere));
+  for (const char* const name : {"file", "item"}) {
+    const Path place = Path("/Users/ann/parent") / name;
+    const auto appears = [&] {
+      if (!disk.holds(place)) disk.makeFile(place, "new");
+    };
+    sweep([&](int at) {
+      SCOPED_TRACE(at);
+      fs::remove(disk.onDisk(place));
+      const FaultyRun run = runPlainly({Kind::disturbed, at, 0, appears}, [&] {
+        return trash.putBack(inFiles(name), place, anywhere);
+      });
+      if (run.answer) {
+        EXPECT_TRUE(trash.moveToTrash(place, anywhere));
+      } else {
+        EXPECT_EQ(disk.contentOf(place), "new");
+      }
+      return run.reached;
+    });
+    fs::remove(disk.onDisk(place));
+  }
+}
+
+TEST_F(TrashWithPlainRenaming, AFaultOrAKillAtAnySystemCallLosesNothing) {
+  for (const auto kind : {Kind::killed, Kind::failsOnce, Kind::failsFromThere}) {
+    sweep([&](int at) {
+      SCOPED_TRACE(at);
+      makeHomeWithAFileAnew();
+      const FaultyRun run = runPlainly({kind, at, EIO, {}}, [&] {
+        return trash.moveToTrash(kFile, anywhere) && trash.moveToTrash(kItem, anywhere);
+      });
+      expectWholeInOnePlace();
+      expectEachTrashedItemHasARecord();
+      EXPECT_TRUE((disk.holds(kFile) && disk.contentOf(kFile) == "content") ||
+                  (disk.holds(inFiles("file")) && disk.contentOf(inFiles("file")) == "content"));
+      return run.reached;
+    });
+  }
 }
 
 TEST_F(TrashSwaps, AWriteCutShortWhileTheRecordIsWrittenTheOriginalStaysNoOrphan) {

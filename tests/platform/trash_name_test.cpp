@@ -1,4 +1,4 @@
-#include "platform/linux/trash_name.h"
+#include "platform/linux/trash_folder.h"
 
 #include <gtest/gtest.h>
 

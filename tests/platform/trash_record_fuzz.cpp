@@ -1,7 +1,7 @@
 // Whatever a `.trashinfo` holds: the place that it names is one that a file can have and that does
 // not climb, and a record that is written of it names the same place.
 
-#include "platform/linux/trash_record.h"
+#include "platform/linux/trash_folder.h"
 
 #include <algorithm>
 #include <cstddef>

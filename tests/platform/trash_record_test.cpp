@@ -1,4 +1,4 @@
-#include "platform/linux/trash_record.h"
+#include "platform/linux/trash_folder.h"
 
 #include <gtest/gtest.h>
 

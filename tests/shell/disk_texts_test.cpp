@@ -1,4 +1,4 @@
-#include "shell/disk_texts.h"
+#include "shell/sidebar_texts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "shell/trash_texts.h"
+#include "shell/sidebar_texts.h"
 
 #include <gtest/gtest.h>
 

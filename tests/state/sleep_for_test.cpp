@@ -1,4 +1,4 @@
-#include "state/sleep_for.h"
+#include "state/timers.h"
 
 #include <gtest/gtest.h>
 

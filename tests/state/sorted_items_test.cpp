@@ -1,4 +1,4 @@
-#include "state/sorted_items.h"
+#include "state/item_selection.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "state/update_error_text.h"
+#include "state/update_manager.h"
 
 #include <gtest/gtest.h>
 

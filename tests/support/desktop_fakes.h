@@ -5,14 +5,9 @@
 #include <optional>
 #include <vector>
 
-#include "platform/login_item.h"
-#include "platform/motion_preference.h"
-#include "platform/open_panel.h"
-#include "platform/pasteboard.h"
-#include "platform/recent_documents.h"
+#include "platform/desktop_services.h"
 #include "platform/status_item.h"
 #include "platform/updater.h"
-#include "platform/workspace.h"
 #include "support/gate.h"
 
 // Fakes of what a user meets on a desktop. Main thread only, like the real ones, unless they say

@@ -1,4 +1,4 @@
-#include "tools/duplicate_selection.h"
+#include "tools/duplicate_group.h"
 
 #include <gtest/gtest.h>
 

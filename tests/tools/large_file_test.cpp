@@ -1,5 +1,5 @@
-#include "tools/large_file.h"
 #include "platform/formatting.h"
+#include "tools/large_file_walker.h"
 
 #include <gmock/gmock.h>
 

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "places/disk_layout.h"
 #include "tools/uninstaller_engine.h"
 

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "uninstaller_fixture.h"
 
 namespace klarvik {

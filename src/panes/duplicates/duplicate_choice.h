@@ -9,7 +9,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "tools/duplicate_selection.h"
+#include "tools/duplicate_group.h"
 
 namespace klarvik {
 

@@ -7,8 +7,8 @@
 
 #include "base/paths.h"
 #include "core/shown_folders.h"
+#include "platform/desktop_services.h"
 #include "platform/notification_center.h"
-#include "platform/open_panel.h"
 #include "state/section.h"
 
 namespace klarvik {

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "panes/duplicates/duplicates_texts.h"
-#include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
 #include "panes/kit/row_ranges.h"
 #include "panes/kit/row_text.h"

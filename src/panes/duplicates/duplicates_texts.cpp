@@ -1,6 +1,5 @@
 #include "panes/duplicates/duplicates_texts.h"
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 
 namespace klarvik::duplicates {

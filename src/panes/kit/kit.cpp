@@ -6,16 +6,14 @@
 #include <limits>
 #include <utility>
 
-#include "panes/kit/file_url.h"
-#include "panes/kit/fonts.h"
 #include "panes/kit/kit_enums.h"
 #include "panes/kit/list_keys.h"
 #include "panes/kit/loader_timeline.h"
+#include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"
 #include "places/disk_layout.h"
+#include "platform/desktop_services.h"
 #include "platform/formatting.h"
-#include "platform/motion_preference.h"
-#include "platform/workspace.h"
 
 void qml_register_types_Klarvik_Kit();
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "panes/kit/fonts.h"
+#include "panes/kit/palette.h"
 
 namespace klarvik {
 namespace {

@@ -11,6 +11,17 @@
 
 namespace klarvik {
 
+/// Makes the symbols' font known to the program. Once, after the QGuiApplication is there; false
+/// when the font cannot be read.
+bool loadSymbolFont();
+
+/// Inter, or the nearest face that is installed. `size` in logical pixels; Qt
+/// 6.4 draws whole ones only, so a half goes up.
+[[nodiscard]] QFont interfaceFont(qreal size, QFont::Weight weight);
+
+/// The face whose ligatures are the symbols.
+[[nodiscard]] QFont symbolFont(qreal size);
+
 /// Every colour and measure that is drawn with. The window is dark whatever the desktop looks like.
 /// QtQuick has a Palette of its own, so QML knows this one as `Theme`.
 class Palette : public QObject {

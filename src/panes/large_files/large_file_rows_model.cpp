@@ -5,7 +5,6 @@
 #include <ranges>
 #include <utility>
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "panes/large_files/large_files_texts.h"
 #include "platform/clock.h"

@@ -8,7 +8,7 @@
 #include "panes/kit/placeholder.h"
 #include "places/words.h"
 #include "platform/formatting.h"
-#include "tools/large_file.h"
+#include "tools/large_file_walker.h"
 
 /// Every text of the Large Files pane that follows a rule.
 namespace klarvik::large_files {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/large_file.h"
+#include "tools/large_file_walker.h"
 
 namespace klarvik {
 

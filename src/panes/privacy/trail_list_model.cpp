@@ -4,7 +4,6 @@
 #include <array>
 #include <utility>
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "panes/privacy/privacy_texts.h"
 
@@ -53,7 +52,7 @@ void TrailListModel::show(std::vector<PrivacyItem> items) {
     if (!needsReview(item.category) && item.canBeCleared()) selected.insert(item.id);
   }
   _items = std::move(items);
-  fill(rows(), std::move(selected));
+  fill(shownRows(), std::move(selected));
 }
 
 void TrailListModel::clear() {
@@ -68,11 +67,11 @@ void TrailListModel::remove(const std::vector<PrivacyItem>& items) {
   SectionedList::remove(leaving);
 }
 
-std::vector<TrailListModel::Row> TrailListModel::rows() const {
+std::vector<TrailListModel::ShownRow> TrailListModel::shownRows() const {
   std::vector<PrivacyItem> bySize = _items;
   std::ranges::stable_sort(bySize, std::ranges::greater{}, &PrivacyItem::size);
   const auto titles = sectionTitles(_words);
-  std::vector<Row> rows;
+  std::vector<ShownRow> rows;
   for (std::size_t section = 0; section < titles.size(); ++section) {
     bool hasHeading = false;
     for (const PrivacyItem& item : bySize) {
@@ -85,7 +84,7 @@ std::vector<TrailListModel::Row> TrailListModel::rows() const {
   return rows;
 }
 
-TrailListModel::Row TrailListModel::row(const PrivacyItem& item) const {
+TrailListModel::ShownRow TrailListModel::row(const PrivacyItem& item) const {
   QString name = programText(privacy::label(item.category, _words));
   if (!item.program.empty()) name += QStringLiteral(" — ") + printableText(item.program);
   const QString size = byteText(item.size, _formatting);

@@ -31,8 +31,8 @@ class TrailListModel : public klarvik::SectionedList {
   void remove(const std::vector<PrivacyItem>& items);
 
  private:
-  [[nodiscard]] std::vector<Row> rows() const;
-  [[nodiscard]] Row row(const PrivacyItem& item) const;
+  [[nodiscard]] std::vector<ShownRow> shownRows() const;
+  [[nodiscard]] ShownRow row(const PrivacyItem& item) const;
 
   const Formatting& _formatting;
   const Words& _words;

@@ -61,4 +61,43 @@ Item {
             }
         }
     }
+
+    /// One tool's line in the strip.
+    component OtherToolsEntry: Pressable {
+        id: otherToolsEntry
+
+        required property int index
+        required property string size
+        required property string note
+        required property string toolHelp
+
+        title: otherToolsEntry.size + " " + otherToolsEntry.note
+        help: otherToolsEntry.toolHelp
+        implicitWidth: texts.implicitWidth + 24
+        implicitHeight: 30
+
+        background: Rectangle {
+            radius: Theme.cornerRadius
+            color: Theme.white(otherToolsEntry.down ? 0.1 : otherToolsEntry.hovered ? 0.07 : 0.04)
+        }
+
+        contentItem: Item {
+            Row {
+                id: texts
+
+                anchors.centerIn: parent
+                spacing: 5
+
+                MonospacedDigits {
+                    text: otherToolsEntry.size
+                    size: 13
+                }
+
+                Label {
+                    text: otherToolsEntry.note
+                    color: Theme.textSecondary
+                }
+            }
+        }
+    }
 }

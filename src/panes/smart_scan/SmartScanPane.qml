@@ -95,4 +95,50 @@ ToolPane {
             }
         ]
     }
+
+    /// What is selected, what becomes of it, and the button that does it.
+    component CleanFooter: ToolFooter {
+        id: cleanFooter
+
+        required property CleanFooterModel model
+
+        selectionSummary: model.selectionSummary
+        explanation: model.hint
+        buttonTitle: model.shown.buttonLabel
+        shown: model.shown
+        onAction: model.clean()
+        onStop: model.stop()
+    }
+
+    /// What the last clean freed, and the way back from it.
+    component CleanedBanner: ResultBanner {
+        id: cleanedBanner
+
+        required property CleanedBannerModel model
+
+        symbol: "checkmark.circle.fill"
+        symbolColor: Theme.safe
+        headline: model.headline
+        detail: model.detail
+
+        SecondaryButton {
+            visible: cleanedBanner.model.isRestorable
+            title: qsTr("Empty Trash")
+            onAction: cleanedBanner.model.emptyTrash()
+        }
+
+        SecondaryButton {
+            visible: cleanedBanner.model.isRestorable
+            isEnabled: !cleanedBanner.model.isRestoring
+            symbol: "arrow.uturn.backward"
+            title: qsTr("Restore")
+            onAction: cleanedBanner.model.restore()
+        }
+
+        SymbolButton {
+            symbol: "xmark"
+            title: qsTr("Dismiss")
+            onAction: cleanedBanner.model.dismiss()
+        }
+    }
 }

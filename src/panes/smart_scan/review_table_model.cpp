@@ -7,7 +7,6 @@
 #include <span>
 #include <utility>
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_ranges.h"
 #include "panes/kit/row_text.h"
 #include "panes/smart_scan/smart_scan_texts.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "panes/kit/file_url.h"
+#include "panes/kit/row_text.h"
 
 namespace klarvik::smart_scan {
 

@@ -3,15 +3,11 @@
 #include <QColor>
 #include <QUrl>
 #include <algorithm>
-#include <ranges>
-#include <unordered_set>
 #include <utility>
 
 #include "panes/kit/donut.h"
-#include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
 #include "panes/kit/palette.h"
-#include "panes/kit/row_ranges.h"
 #include "panes/kit/row_text.h"
 #include "panes/system_data/system_data_texts.h"
 
@@ -50,34 +46,31 @@ SelectionState::Value selectionOf(const SystemDataKind& kind) {
 
 SystemDataTableModel::SystemDataTableModel(SystemDataFindings& findings,
                                            const Formatting& formatting, Path home, QObject* parent)
-    : QAbstractListModel(parent),
+    : KeyedListModel(parent),
       _findings(findings),
       _formatting(formatting),
       _home(std::move(home)),
       _layout(layoutFor(_home)) {}
 
-int SystemDataTableModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(_rows.size());
-}
-
 QVariant SystemDataTableModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid) || role < RowKindRole) return {};
-  const Row& row = _rows[static_cast<std::size_t>(index.row())];
+  const Row& row = rows()[static_cast<std::size_t>(index.row())];
+  const auto category = static_cast<SystemDataSubCategory>(row.section);
   switch (role) {
     case RowKindRole:
-      return static_cast<int>(row.kind);
+      return row.kind;
     case KindNameRole:
-      return text(label(row.category, _layout));
+      return text(label(category, _layout));
     default:
       break;
   }
-  switch (row.kind) {
+  switch (static_cast<RowKind>(row.kind)) {
     case RowKind::Kind:
       if (const SystemDataKind* kind = kindOf(row)) return dataOfKind(*kind, role);
       break;
     case RowKind::Header:
       if (role == NameRole || role == DescriptionRole) {
-        return text(klarvik::description(row.category, _layout));
+        return text(klarvik::description(category, _layout));
       }
       break;
     case RowKind::Item:
@@ -109,9 +102,9 @@ QHash<int, QByteArray> SystemDataTableModel::roleNames() const {
 
 void SystemDataTableModel::activate(int row) {
   if (!hasIndex(row, 0)) return;
-  const Row& pressed = _rows[static_cast<std::size_t>(row)];
-  if (pressed.kind == RowKind::Kind) {
-    toggleExpansion(pressed.category);
+  const Row& pressed = rows()[static_cast<std::size_t>(row)];
+  if (pressed.kind == static_cast<int>(RowKind::Kind)) {
+    toggleExpansion(static_cast<SystemDataSubCategory>(pressed.section));
   } else {
     toggleSelection(row);
   }
@@ -119,9 +112,9 @@ void SystemDataTableModel::activate(int row) {
 
 void SystemDataTableModel::toggleSelection(int row) {
   if (!hasIndex(row, 0)) return;
-  const Row& pressed = _rows[static_cast<std::size_t>(row)];
-  if (pressed.kind == RowKind::Kind) {
-    _findings.toggleKind(pressed.place);
+  const Row& pressed = rows()[static_cast<std::size_t>(row)];
+  if (pressed.kind == static_cast<int>(RowKind::Kind)) {
+    _findings.toggleKind(pressed.sectionPlace);
   } else if (const SystemDataItem* item = itemOf(pressed)) {
     _findings.toggle(*item);
   }
@@ -136,16 +129,11 @@ void SystemDataTableModel::toggleExpansion(SystemDataSubCategory category) {
 }
 
 void SystemDataTableModel::syncRows() {
-  const std::vector<Row> wanted = rowsToShow();
-  removeRowsMissingFrom(wanted);
-  moveRowsAsIn(wanted);
-  insertRowsOf(wanted);
-  _rows = wanted;
-  if (!_rows.empty()) emit dataChanged(index(0), index(rowCount() - 1));
+  showRows(rowsToShow());
 }
 
 void SystemDataTableModel::syncSelection() {
-  if (!_rows.empty()) emit dataChanged(index(0), index(rowCount() - 1), {SelectionRole});
+  if (!rows().empty()) emit dataChanged(index(0), index(rowCount() - 1), {SelectionRole});
 }
 
 std::vector<SystemDataTableModel::Row> SystemDataTableModel::rowsToShow() const {
@@ -153,88 +141,37 @@ std::vector<SystemDataTableModel::Row> SystemDataTableModel::rowsToShow() const 
   const std::vector<SystemDataKind>& kinds = _findings.kinds();
   for (std::size_t place = 0; place < kinds.size(); ++place) {
     const SystemDataKind& kind = kinds[place];
-    rows.push_back({.kind = RowKind::Kind, .category = kind.kind, .place = place});
-    if (!_expandedCategories.contains(std::string(rawValue(kind.kind)))) continue;
-    rows.push_back({.kind = RowKind::Header, .category = kind.kind, .place = place});
-    for (std::size_t item = 0; item < kind.items.size(); ++item) {
-      rows.push_back({.kind = RowKind::Item,
-                      .category = kind.kind,
-                      .place = place,
+    const auto add = [&](RowKind rowKind, std::size_t itemPlace, Uuid item = {}) {
+      rows.push_back({.kind = static_cast<int>(rowKind),
+                      .section = static_cast<int>(kind.kind),
                       .item = item,
-                      .id = kind.items[item].id});
+                      .sectionPlace = place,
+                      .itemPlace = itemPlace});
+    };
+    add(RowKind::Kind, 0);
+    if (!_expandedCategories.contains(std::string(rawValue(kind.kind)))) continue;
+    add(RowKind::Header, 0);
+    for (std::size_t item = 0; item < kind.items.size(); ++item) {
+      add(RowKind::Item, item, kind.items[item].id);
     }
   }
   return rows;
 }
 
-void SystemDataTableModel::removeRowsMissingFrom(const std::vector<Row>& wanted) {
-  const std::unordered_set<Row, RowHash, SameRow> kept(wanted.begin(), wanted.end());
-  std::vector<RowRange> runs =
-      rangesOf(_rows.size(), [&](std::size_t row) { return !kept.contains(_rows[row]); });
-  if (runs.size() > mostRuns) {
-    const std::size_t first = runs.front().first;
-    runs = {RowRange{first, runs.back().first + runs.back().count - first}};
-  }
-  for (const auto& [first, count] : std::views::reverse(runs)) {
-    const auto begin = _rows.begin() + static_cast<std::ptrdiff_t>(first);
-    beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count - 1));
-    _rows.erase(begin, begin + static_cast<std::ptrdiff_t>(count));
-    endRemoveRows();
-  }
-}
-
-/// Kinds change places as their sizes change; each moves as one block.
-void SystemDataTableModel::moveRowsAsIn(const std::vector<Row>& wanted) {
-  const std::unordered_set<Row, RowHash, SameRow> present(_rows.begin(), _rows.end());
-  std::vector<Row> order;
-  std::ranges::copy_if(wanted, std::back_inserter(order),
-                       [&](const Row& row) { return present.contains(row); });
-  for (std::size_t at = 0; at < order.size(); ++at) {
-    if (_rows[at].isSame(order[at])) continue;
-    const auto target = _rows.begin() + static_cast<std::ptrdiff_t>(at);
-    const auto first =
-        std::find_if(target, _rows.end(), [&](const Row& row) { return row.isSame(order[at]); });
-    const auto last =
-        std::mismatch(first, _rows.end(), order.begin() + static_cast<std::ptrdiff_t>(at),
-                      order.end(), SameRow{})
-            .first;
-    beginMoveRows({}, static_cast<int>(first - _rows.begin()),
-                  static_cast<int>(last - _rows.begin()) - 1, {}, static_cast<int>(at));
-    std::rotate(target, first, last);
-    endMoveRows();
-  }
-}
-
-void SystemDataTableModel::insertRowsOf(const std::vector<Row>& wanted) {
-  const std::unordered_set<Row, RowHash, SameRow> present(_rows.begin(), _rows.end());
-  std::size_t at = 0;
-  while (at < wanted.size()) {
-    if (present.contains(wanted[at])) {
-      ++at;
-      continue;
-    }
-    const auto first = wanted.begin() + static_cast<std::ptrdiff_t>(at);
-    const auto last =
-        std::find_if(first, wanted.end(), [&](const Row& row) { return present.contains(row); });
-    beginInsertRows({}, static_cast<int>(at), static_cast<int>(last - wanted.begin()) - 1);
-    _rows.insert(_rows.begin() + static_cast<std::ptrdiff_t>(at), first, last);
-    endInsertRows();
-    at = static_cast<std::size_t>(last - wanted.begin());
-  }
-}
-
 /// Nothing while the rows are being brought in line with findings that lack the kind.
 const SystemDataKind* SystemDataTableModel::kindOf(const Row& row) const {
   const std::vector<SystemDataKind>& kinds = _findings.kinds();
-  const bool isThere = row.place < kinds.size() && kinds[row.place].kind == row.category;
-  return isThere ? &kinds[row.place] : nullptr;
+  const std::size_t place = row.sectionPlace;
+  const bool isThere = place < kinds.size() && static_cast<int>(kinds[place].kind) == row.section;
+  return isThere ? &kinds[place] : nullptr;
 }
 
 const SystemDataItem* SystemDataTableModel::itemOf(const Row& row) const {
   const SystemDataKind* kind = kindOf(row);
-  if (kind == nullptr || row.kind != RowKind::Item) return nullptr;
-  const bool isThere = row.item < kind->items.size() && kind->items[row.item].id == row.id;
-  return isThere ? &kind->items[row.item] : nullptr;
+  if (kind == nullptr || row.kind != static_cast<int>(RowKind::Item)) return nullptr;
+  const std::size_t place = row.itemPlace;
+  const bool isThere = place < kind->items.size() && kind->items[place].id == row.item;
+  return isThere ? &kind->items[place] : nullptr;
 }
 
 QVariant SystemDataTableModel::dataOfKind(const SystemDataKind& kind, int role) const {

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QAbstractListModel>
 #include <cstddef>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "panes/keyed_list_model.h"
 #include "panes/system_data/system_data_findings.h"
 #include "places/disk_layout.h"
 
@@ -15,9 +15,9 @@ namespace klarvik {
 class Formatting;
 
 /// The findings as one flat list for a virtualised view: a row for each kind, and below an open one
-/// an explanation with the column words, and its items. Rows come, move and go one by one, so that
-/// scroll position, focus and expansion survive. Main thread only; the findings must outlive it.
-class SystemDataTableModel : public QAbstractListModel {
+/// an explanation with the column words, and its items. Main thread only; the findings must outlive
+/// it.
+class SystemDataTableModel : public klarvik::KeyedListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("The pane makes it.")
@@ -47,7 +47,6 @@ class SystemDataTableModel : public QAbstractListModel {
   SystemDataTableModel(SystemDataFindings& findings, const Formatting& formatting, Path home,
                        QObject* parent = nullptr);
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
@@ -70,32 +69,8 @@ class SystemDataTableModel : public QAbstractListModel {
   void selectionToggled();
 
  private:
-  struct Row {
-    RowKind kind = RowKind::Kind;
-    SystemDataSubCategory category = SystemDataSubCategory::otherLibrary;
-    std::size_t place = 0;  ///< of the kind, in the findings
-    std::size_t item = 0;   ///< in the kind
-    Uuid id{};              ///< of the item
-
-    [[nodiscard]] bool isSame(const Row& other) const {
-      return kind == other.kind && category == other.category && id == other.id;
-    }
-  };
-  struct RowHash {
-    std::size_t operator()(const Row& row) const {
-      return std::hash<Uuid>{}(row.id) * 31 + static_cast<std::size_t>(row.category) * 3 +
-             static_cast<std::size_t>(row.kind);
-    }
-  };
-  struct SameRow {
-    bool operator()(const Row& left, const Row& right) const { return left.isSame(right); }
-  };
-
   void toggleExpansion(SystemDataSubCategory category);
   [[nodiscard]] std::vector<Row> rowsToShow() const;
-  void removeRowsMissingFrom(const std::vector<Row>& wanted);
-  void moveRowsAsIn(const std::vector<Row>& wanted);
-  void insertRowsOf(const std::vector<Row>& wanted);
   [[nodiscard]] const SystemDataKind* kindOf(const Row& row) const;
   [[nodiscard]] const SystemDataItem* itemOf(const Row& row) const;
   [[nodiscard]] QVariant dataOfKind(const SystemDataKind& kind, int role) const;
@@ -106,7 +81,6 @@ class SystemDataTableModel : public QAbstractListModel {
   Path _home;
   const DiskLayout& _layout;
   std::set<std::string> _expandedCategories;
-  std::vector<Row> _rows;
 };
 
 }  // namespace klarvik

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/bytes.h"
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "panes/uninstaller/uninstaller_texts.h"
 
@@ -40,7 +39,7 @@ void LeftoverListModel::show(std::vector<ResidualFile> residuals) {
     if (!isKeptBack(residual.category)) selected.insert(residual.id);
   }
   _residuals = std::move(residuals);
-  fill(rows(), std::move(selected));
+  fill(shownRows(), std::move(selected));
 }
 
 void LeftoverListModel::clear() {
@@ -48,10 +47,10 @@ void LeftoverListModel::clear() {
   empty();
 }
 
-std::vector<LeftoverListModel::Row> LeftoverListModel::rows() const {
-  std::vector<Row> rows;
+std::vector<LeftoverListModel::ShownRow> LeftoverListModel::shownRows() const {
+  std::vector<ShownRow> rows;
   for (const ResidualCategory category : allResidualCategories()) {
-    std::vector<Row> section;
+    std::vector<ShownRow> section;
     std::int64_t size = 0;
     for (const ResidualFile& residual : _residuals) {
       if (residual.category != category) continue;
@@ -65,8 +64,8 @@ std::vector<LeftoverListModel::Row> LeftoverListModel::rows() const {
   return rows;
 }
 
-LeftoverListModel::Row LeftoverListModel::heading(ResidualCategory category,
-                                                  std::int64_t size) const {
+LeftoverListModel::ShownRow LeftoverListModel::heading(ResidualCategory category,
+                                                       std::int64_t size) const {
   const QString name = printableText(rawValue(category));
   const QString sizeText = byteText(size, _formatting);
   const QString whatItIs = uninstaller::whatItIs(category);
@@ -76,7 +75,7 @@ LeftoverListModel::Row LeftoverListModel::heading(ResidualCategory category,
           .description = rowDescription(name, sizeText, whatItIs)};
 }
 
-LeftoverListModel::Row LeftoverListModel::row(const ResidualFile& residual) const {
+LeftoverListModel::ShownRow LeftoverListModel::row(const ResidualFile& residual) const {
   const QString name = printableText(residual.url.filename().native());
   const QString size = byteText(residual.size, _formatting);
   const QString whatItIs = uninstaller::whatItIs(residual.category);

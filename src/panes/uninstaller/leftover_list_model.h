@@ -33,9 +33,9 @@ class LeftoverListModel : public klarvik::SectionedList {
   void clear();
 
  private:
-  [[nodiscard]] std::vector<Row> rows() const;
-  [[nodiscard]] Row heading(ResidualCategory category, std::int64_t size) const;
-  [[nodiscard]] Row row(const ResidualFile& residual) const;
+  [[nodiscard]] std::vector<ShownRow> shownRows() const;
+  [[nodiscard]] ShownRow heading(ResidualCategory category, std::int64_t size) const;
+  [[nodiscard]] ShownRow row(const ResidualFile& residual) const;
 
   const Formatting& _formatting;
   std::vector<ResidualFile> _residuals;

@@ -1,11 +1,29 @@
 #pragma once
 
+#include <QFileSystemWatcher>
 #include <QObject>
+#include <functional>
 
-#include "platform/desktop/file_watch.h"
+#include "platform/path.h"
 #include "platform/user_defaults.h"
 
 namespace klarvik {
+
+/// Tells, from the main loop, that a file may have been written, replaced, made or removed, also
+/// while its folder is not there. It may tell more often than that. Main thread only.
+class FileWatch {
+ public:
+  /// `file` is a path on the machine.
+  FileWatch(const Path& file, std::function<void()> changed);
+
+ private:
+  void lookAgain();
+  [[nodiscard]] QStringList placesToWatch() const;
+
+  const QString _file;
+  std::function<void()> _changed;
+  QFileSystemWatcher _watcher;
+};
 
 class NotificationCenter;
 

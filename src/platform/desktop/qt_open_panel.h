@@ -3,8 +3,8 @@
 #include <QFileDialog>
 #include <memory>
 
+#include "platform/desktop_services.h"
 #include "platform/file_system.h"
-#include "platform/open_panel.h"
 
 namespace klarvik {
 

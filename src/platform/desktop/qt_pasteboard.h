@@ -6,7 +6,7 @@
 #include <memory>
 #include <mutex>
 
-#include "platform/pasteboard.h"
+#include "platform/desktop_services.h"
 
 namespace klarvik {
 

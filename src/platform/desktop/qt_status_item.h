@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QColor>
+#include <QIcon>
 #include <QMenu>
 #include <QSystemTrayIcon>
 #include <memory>
@@ -10,6 +12,9 @@
 #include "platform/status_item.h"
 
 namespace klarvik {
+
+/// An icon that is drawn anew at each size that is asked for. Without an `icon` it is empty.
+[[nodiscard]] QIcon pillIcon(StatusItem::Icon icon, const QColor& color);
 
 /// The status item as a tray icon. Needs a `QApplication` as long as it is in use.
 ///

@@ -7,8 +7,8 @@
 #include <fstream>
 #include <utility>
 
-#include "base/atomic_write.h"
-#include "base/unicode_text.h"
+#include "base/file_writes.h"
+#include "base/text.h"
 #include "platform/desktop_entry.h"
 
 namespace klarvik {

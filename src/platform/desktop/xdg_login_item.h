@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/login_item.h"
+#include "platform/desktop_services.h"
 #include "platform/path.h"
 
 namespace klarvik {

@@ -6,7 +6,7 @@
 #include <functional>
 #include <utility>
 
-#include "platform/motion_preference.h"
+#include "platform/desktop_services.h"
 
 namespace klarvik {
 

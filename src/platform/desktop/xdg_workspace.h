@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/desktop_services.h"
 #include "platform/file_system.h"
-#include "platform/workspace.h"
 
 namespace klarvik {
 

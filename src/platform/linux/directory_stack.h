@@ -1,8 +1,9 @@
 #pragma once
 
+#include <dirent.h>
 #include <sys/types.h>
-
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,20 +12,90 @@
 
 namespace klarvik {
 
+/// Names that wait for their turn, the last one first, packed into one piece of memory.
+class NameStack {
+ public:
+  [[nodiscard]] bool empty() const { return _bytes.empty(); }
+  /// For `truncate`: a measure of what is held, not a number of names.
+  [[nodiscard]] std::size_t extent() const { return _bytes.size(); }
+
+  void push(std::string_view name) { _bytes.append(name).push_back('\0'); }
+
+  std::string pop() {
+    const std::size_t end = _bytes.size() - 1;
+    const std::size_t before = end == 0 ? std::string::npos : _bytes.rfind('\0', end - 1);
+    const std::size_t start = before == std::string::npos ? 0 : before + 1;
+    std::string name = _bytes.substr(start, end - start);
+    _bytes.resize(start);
+    return name;
+  }
+
+  /// Drops what was pushed since `extent()` was this.
+  void truncate(std::size_t extent) { _bytes.resize(extent); }
+
+ private:
+  std::string _bytes;
+};
+
+/// One entry of a directory as it was listed. The name ends with a zero byte.
+struct ListedEntry {
+  std::string_view name;
+  unsigned char type = DT_UNKNOWN;  ///< one of DT_...; not every file system tells
+};
+
+/// Lists opened directories, one after the other, through one big buffer.
+class DirectoryReader {
+ public:
+  /// Hands every entry but "." and ".." to `each` until it answers false. An error on the way ends
+  /// the list early; false only when nothing at all could be read.
+  template <typename Each>
+  bool read(int folder, const Each& each) {
+    for (bool first = true;; first = false) {
+      const ssize_t filled = fill(folder);
+      if (filled <= 0) return !(first && filled < 0);
+      if (!handOver(static_cast<std::size_t>(filled), each)) return true;
+    }
+  }
+
+ private:
+  static constexpr std::size_t kBufferBytes = std::size_t{64} * 1024;
+
+  ssize_t fill(int folder) {
+    return retryOnEintr([&] { return ::getdents64(folder, _buffer.get(), kBufferBytes); });
+  }
+
+  template <typename Each>
+  bool handOver(std::size_t filled, const Each& each) {
+    for (std::size_t at = 0; at < filled;) {
+      const auto* entry = reinterpret_cast<const struct dirent64*>(_buffer.get() + at);
+      at += entry->d_reclen;
+      if (isDotOrDotDot(entry->d_name)) continue;
+      if (!each(ListedEntry{entry->d_name, entry->d_type})) return false;
+    }
+    return true;
+  }
+
+  static bool isDotOrDotDot(const char* name) {
+    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
+  }
+
+  std::unique_ptr<std::byte[]> _buffer = std::make_unique_for_overwrite<std::byte[]>(kBufferBytes);
+};
+
 /// Where a walk stands: the opened folders from its start down to the current one.
 ///
 /// 1. Every folder was opened by its name in the folder above, and is no symbolic link.
 /// 2. Only a few handles are open at a time, the start's and the current one's among them, so that
 ///    depth is bounded by memory alone.
 /// 3. A folder above whose handle was closed is opened again through "..", and only accepted when
-///    it is the same folder as before. A trail never leads to a place that it did not come from.
+///    it is the same folder as before. A stack never leads to a place that it did not come from.
 ///
 /// Belongs to one thread.
 class DirectoryStack {
  public:
   explicit DirectoryStack(UniqueFd start);
 
-  /// 0 in the folder that the trail started at.
+  /// 0 in the folder that it started at.
   [[nodiscard]] std::size_t depth() const { return _levels.size() - 1; }
   [[nodiscard]] int current() const { return _levels.back().handle.get(); }
   /// Of the current folder, counted from the start: "a/b", and empty at the start itself.

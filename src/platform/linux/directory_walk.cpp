@@ -3,10 +3,8 @@
 #include <optional>
 #include <vector>
 
-#include "platform/linux/directory_reader.h"
 #include "platform/linux/directory_stack.h"
 #include "platform/linux/file_status.h"
-#include "platform/linux/name_stack.h"
 #include "platform/packages.h"
 
 namespace klarvik {

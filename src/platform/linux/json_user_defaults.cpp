@@ -1,6 +1,7 @@
 #include "platform/linux/json_user_defaults.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,14 +12,28 @@
 #include <ctime>
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <thread>
 
-#include "base/atomic_write.h"
+#include "base/file_writes.h"
 #include "base/posix_io.h"
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "platform/base64.h"
-#include "platform/linux/file_lock.h"
 
 namespace klarvik {
+
+std::optional<FileLock> FileLock::take(const Path& file, std::chrono::milliseconds patience) {
+  using Clock = std::chrono::steady_clock;
+  UniqueFd fd{::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600)};
+  if (!fd) return std::nullopt;
+  const Clock::time_point end = Clock::now() + patience;
+  while (::flock(fd.get(), LOCK_EX | LOCK_NB) != 0) {
+    const bool worthWaiting = errno == EWOULDBLOCK || errno == EINTR;
+    if (!worthWaiting || Clock::now() >= end) return std::nullopt;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return FileLock(std::move(fd));
+}
+
 namespace {
 
 using nlohmann::json;

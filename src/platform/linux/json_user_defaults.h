@@ -1,14 +1,30 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <nlohmann/json_fwd.hpp>
+#include <optional>
 
+#include "base/posix_io.h"
 #include "platform/path.h"
 #include "platform/user_defaults.h"
 
 namespace klarvik {
+
+/// Keeps other threads and processes out for as long as it lives.
+class FileLock {
+ public:
+  /// Locks `file`, a path on the machine, making it when it is missing. Nothing when it cannot be
+  /// made, or when another holds it for longer than `patience`.
+  [[nodiscard]] static std::optional<FileLock> take(const Path& file,
+                                                    std::chrono::milliseconds patience);
+
+ private:
+  explicit FileLock(UniqueFd fd) : _fd(std::move(fd)) {}
+  UniqueFd _fd;
+};
 
 /// Preferences kept in one JSON document, "preferences.json", in a folder of their own.
 ///

@@ -11,9 +11,8 @@
 #include <system_error>
 #include <utility>
 
-#include "base/folder_handle.h"
 #include "base/posix_io.h"
-#include "platform/linux/directory_reader.h"
+#include "platform/linux/directory_stack.h"
 #include "platform/linux/directory_walk.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/tree_removal.h"

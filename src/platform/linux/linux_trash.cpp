@@ -6,13 +6,13 @@
 #include <ctime>
 #include <string_view>
 
-#include "base/folder_handle.h"
 #include "base/paths.h"
-#include "platform/linux/directory_reader.h"
+#include "base/posix_io.h"
+#include "platform/linux/directory_stack.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/item_move.h"
-#include "platform/linux/mount_table.h"
-#include "platform/linux/trash_record.h"
+#include "platform/linux/mounts.h"
+#include "platform/linux/trash_folder.h"
 #include "platform/linux/tree_removal.h"
 #include "platform/linux/volume_trash.h"
 

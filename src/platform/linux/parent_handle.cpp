@@ -10,7 +10,6 @@
 #include <string_view>
 #include <vector>
 
-#include "base/folder_handle.h"
 #include "base/posix_io.h"
 
 namespace klarvik {

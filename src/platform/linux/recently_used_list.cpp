@@ -4,9 +4,9 @@
 
 #include <cerrno>
 
-#include "base/atomic_write.h"
+#include "base/file_writes.h"
 #include "base/posix_io.h"
-#include "platform/linux/file_lock.h"
+#include "platform/linux/json_user_defaults.h"
 
 namespace klarvik {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/desktop_services.h"
 #include "platform/path.h"
-#include "platform/recent_documents.h"
 
 namespace klarvik {
 

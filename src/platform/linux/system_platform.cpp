@@ -9,7 +9,7 @@
 #include "platform/linux/json_user_defaults.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_trash.h"
-#include "platform/linux/mounted_volume.h"
+#include "platform/linux/mounts.h"
 #include "platform/linux/process_table.h"
 #include "platform/linux/recently_used_list.h"
 #include "platform/linux/shell_command_runner.h"

@@ -1,15 +1,139 @@
 #include "platform/linux/trash_folder.h"
 
 #include <fcntl.h>
+#include <limits.h>
 #include <unistd.h>
 
-#include "base/folder_handle.h"
-#include "base/pending_file.h"
+#include <algorithm>
+#include <array>
+#include <random>
+
+#include "base/file_writes.h"
 #include "base/posix_io.h"
+#include "base/text.h"
 #include "platform/linux/item_move.h"
-#include "platform/linux/trash_name.h"
 
 namespace klarvik {
+namespace {
+
+constexpr std::size_t kLongestName = NAME_MAX - kTrashRecordSuffix.size();
+constexpr std::size_t kLongestExtension = 32;
+constexpr std::size_t kNumberedNames = 8;
+
+std::string_view extensionOf(std::string_view name) {
+  const std::size_t dot = name.rfind('.');
+  if (dot == std::string_view::npos || dot == 0) return {};
+  const std::string_view extension = name.substr(dot);
+  return extension.size() <= kLongestExtension ? extension : std::string_view();
+}
+
+// Not in the middle of a character, if it is UTF-8: that has at most three bytes after the first.
+std::string_view cutTo(std::string_view text, std::size_t length) {
+  if (text.size() <= length) return text;
+  const auto continues = [&](std::size_t at) {
+    return (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+  };
+  for (std::size_t end = length; end > 0 && length - end <= 3; --end) {
+    if (!continues(end)) return text.substr(0, end);
+  }
+  return text.substr(0, length);
+}
+
+std::string numberAfter(std::size_t taken) {
+  std::string text;
+  if (taken == 0) return text;
+  const std::size_t number = taken <= kNumberedNames ? taken + 1 : std::random_device()();
+  return text.append(".").append(std::to_string(number));
+}
+
+}  // namespace
+
+std::string trashName(std::string_view name, std::size_t taken) {
+  const std::string_view extension = extensionOf(name);
+  const std::string_view stem = name.substr(0, name.size() - extension.size());
+  const std::string number = numberAfter(taken);
+  std::string result(cutTo(stem, kLongestName - number.size() - extension.size()));
+  return result.append(number).append(extension);
+}
+
+namespace {
+
+constexpr std::string_view kHeading = "[Trash Info]";
+constexpr std::string_view kPathKey = "Path=";
+constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+// Letters and digits aside, what a place may hold without being encoded.
+constexpr std::string_view kPlainMarks = "/-._~";
+
+bool isPlain(unsigned char byte) {
+  return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
+         (byte >= '0' && byte <= '9') ||
+         kPlainMarks.find(static_cast<char>(byte)) != std::string_view::npos;
+}
+
+std::string percentEncoded(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (isPlain(byte)) {
+      text += c;
+    } else {
+      text += {'%', kHexDigits[byte >> 4], kHexDigits[byte & 15]};
+    }
+  }
+  return text;
+}
+
+std::optional<char> byteOf(std::string_view twoDigits) {
+  const auto value = wholeNumber<unsigned char>(twoDigits, 16);
+  if (twoDigits.size() != 2 || !value || *value == 0) return std::nullopt;
+  return static_cast<char>(*value);
+}
+
+std::optional<std::string> percentDecoded(std::string_view text) {
+  std::string bytes;
+  while (!text.empty()) {
+    if (text.front() != '%') {
+      bytes += text.front();
+      text.remove_prefix(1);
+      continue;
+    }
+    const auto byte = byteOf(text.substr(1, 2));
+    if (!byte) return std::nullopt;
+    bytes += *byte;
+    text.remove_prefix(3);
+  }
+  return bytes;
+}
+
+bool climbs(const Path& place) {
+  return std::find(place.begin(), place.end(), "..") != place.end();
+}
+
+}  // namespace
+
+std::string trashRecordText(const Path& place, std::time_t deleted) {
+  std::tm local{};
+  ::localtime_r(&deleted, &local);
+  std::array<char, 32> date{};
+  std::strftime(date.data(), date.size(), "%Y-%m-%dT%H:%M:%S", &local);
+  return std::string(kHeading) + "\n" + std::string(kPathKey) + percentEncoded(place.native()) +
+         "\nDeletionDate=" + date.data() + "\n";
+}
+
+std::optional<Path> placeInTrashRecord(std::string_view text) {
+  if (takeLine(text) != kHeading) return std::nullopt;
+  while (!text.empty()) {
+    const std::string_view line = takeLine(text);
+    if (!line.starts_with(kPathKey)) continue;
+    const auto bytes = percentDecoded(line.substr(kPathKey.size()));
+    if (!bytes || bytes->empty() || bytes->find('\0') != std::string::npos) return std::nullopt;
+    Path place(*bytes);
+    return climbs(place) ? std::nullopt : std::optional(std::move(place));
+  }
+  return std::nullopt;
+}
+
 namespace {
 
 constexpr std::size_t kMostNames = 200;

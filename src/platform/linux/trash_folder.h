@@ -1,15 +1,35 @@
 #pragma once
 
 #include <sys/stat.h>
-
+#include <cstddef>
+#include <ctime>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/posix_io.h"
 #include "platform/linux/parent_handle.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+/// What a record's name has behind the name of the thing it tells of.
+inline constexpr std::string_view kTrashRecordSuffix = ".trashinfo";
+
+/// The name to try for a thing called `name` when `taken` earlier ones were taken already: first
+/// its own, then numbered ones, then ones with a random number, so that the thousandth thing of one
+/// name finds its place as fast as the tenth. Cut in the middle, before the extension, where a
+/// record of that name would be too long for a disk.
+[[nodiscard]] std::string trashName(std::string_view name, std::size_t taken);
+
+/// The text of a `.trashinfo`, which tells where a trashed thing was and when it went. `place` is
+/// written as percent-encoded bytes, so a name of any bytes stays on its line; `deleted` is written
+/// in local time.
+[[nodiscard]] std::string trashRecordText(const Path& place, std::time_t deleted);
+
+/// The place that such a text names. Nothing when it is not a whole record: another heading, no
+/// place, a broken percent sign or a NUL in it, or a ".." among its components.
+[[nodiscard]] std::optional<Path> placeInTrashRecord(std::string_view text);
 
 /// One Trash, held open: a folder with `files/`, where the things are, and `info/`, where each has
 /// its record. Neither may be a link. May be used from several threads at once, and other programs

@@ -12,11 +12,9 @@
 #include <vector>
 
 #include "base/posix_io.h"
-#include "platform/linux/directory_reader.h"
 #include "platform/linux/directory_stack.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/item_move.h"
-#include "platform/linux/name_stack.h"
 
 namespace klarvik {
 namespace {

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <string>
 
-#include "base/folder_handle.h"
-#include "platform/linux/mount_table.h"
+#include "base/posix_io.h"
+#include "platform/linux/mounts.h"
 
 namespace klarvik {
 namespace {

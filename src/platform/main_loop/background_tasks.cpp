@@ -3,7 +3,7 @@
 #include <latch>
 #include <system_error>
 
-#include "platform/background_thread.h"
+#include "platform/own_process.h"
 
 namespace klarvik {
 

@@ -13,12 +13,12 @@
 namespace klarvik {
 
 /// The way of an engine's reports to the main thread: any thread posts, the main thread applies, in
-/// the order of posting and only while the mailbox lives.
+/// the order of posting and only while the queue lives.
 ///
 /// An engine may report faster than a window can draw. So a report takes the place of the one
 /// waiting just before it where `replaces` says that the older one no longer matters; unless told
 /// otherwise, only the newest does. The first report is applied at once, and while more keep coming
-/// the mailbox is emptied at most once in `pause`. Made and destroyed on the main thread, and not
+/// the queue is emptied at most once in `pause`. Made and destroyed on the main thread, and not
 /// before the engine's last post.
 template <typename Report>
 class CoalescingQueue final : public QObject {

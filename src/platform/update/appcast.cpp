@@ -5,7 +5,7 @@
 #include <array>
 #include <utility>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "platform/update/plain_text.h"
 
 namespace klarvik {

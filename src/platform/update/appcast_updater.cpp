@@ -8,15 +8,15 @@
 #include <array>
 #include <utility>
 
-#include "base/folder_handle.h"
-#include "base/unicode_text.h"
+#include "base/posix_io.h"
+#include "base/text.h"
 #include "platform/application_info.h"
 #include "platform/base64.h"
+#include "platform/desktop_services.h"
 #include "platform/update/appcast.h"
 #include "platform/update/archive_signature.h"
 #include "platform/update/update_errors.h"
 #include "platform/user_defaults.h"
-#include "platform/workspace.h"
 
 namespace klarvik {
 namespace {

@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-#include "base/pending_file.h"
+#include "base/file_writes.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "platform/main_loop/background_tasks.h"

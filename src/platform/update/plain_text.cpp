@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "base/text.h"
-#include "base/unicode_text.h"
 
 namespace klarvik {
 namespace {

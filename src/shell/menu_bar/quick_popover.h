@@ -1,15 +1,22 @@
 #pragma once
 
+#include <QPoint>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QRect>
+#include <QSize>
 #include <memory>
 #include <optional>
 
 #include "shell/menu_bar/menu_bar_popover.h"
 
 namespace klarvik {
+
+/// Where a popover goes that belongs to an icon: below it, or above where there is no room below,
+/// on one middle line with it, and in any case inside `screen`, the part of the icon's screen that
+/// no panel takes.
+[[nodiscard]] QPoint popoverPlace(const QRect& icon, const QSize& popover, const QRect& screen);
 
 class Clock;
 

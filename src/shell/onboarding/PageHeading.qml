@@ -48,4 +48,14 @@ Column {
         color: Theme.textSecondary
         horizontalAlignment: Text.AlignHCenter
     }
+
+    /// Text of the first run that takes as many lines as it needs.
+    component PageText: Label {
+        wrapMode: Text.Wrap
+        maximumLineCount: 8
+        elide: Text.ElideNone
+        lineHeight: 1.25
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
 }

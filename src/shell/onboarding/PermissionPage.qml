@@ -141,4 +141,43 @@ Item {
             }
         }
     }
+
+    /// How things stand, on a strip of that colour.
+    component StateStrip: Rectangle {
+        id: stateStrip
+
+        required property string symbol
+        required property string text
+        required property color tint
+
+        implicitHeight: 40
+        radius: 8
+        color: Qt.alpha(stateStrip.tint, 0.14)
+        border.width: 1
+        border.color: Qt.alpha(stateStrip.tint, 0.25)
+        Accessible.role: Accessible.StaticText
+        Accessible.name: stateStrip.text
+
+        Symbol {
+            id: icon
+
+            anchors.left: parent.left
+            anchors.leftMargin: 14
+            anchors.verticalCenter: parent.verticalCenter
+            name: stateStrip.symbol
+            size: 15
+            color: stateStrip.tint
+        }
+
+        Label {
+            anchors.left: icon.right
+            anchors.leftMargin: 10
+            anchors.right: parent.right
+            anchors.rightMargin: 10
+            anchors.verticalCenter: parent.verticalCenter
+            text: stateStrip.text
+            size: 12
+            color: stateStrip.tint
+        }
+    }
 }

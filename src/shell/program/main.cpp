@@ -3,9 +3,9 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "platform/allocator.h"
 #include "platform/desktop/desktop_platform.h"
 #include "platform/desktop/single_instance.h"
+#include "platform/own_process.h"
 #include "shell/klarvik_app.h"
 #include "shell/menu_bar/window_activation.h"
 #include "state/shared_state.h"

@@ -18,7 +18,7 @@ ToolScrollView {
         width: parent.width
         label: qsTr("Startup")
 
-        SettingsCheckbox {
+        CheckRow {
             title: qsTr("Launch at login")
             isOn: root.model.launchAtLogin.isOn
             onToggled: root.model.launchAtLogin.toggle()
@@ -29,7 +29,7 @@ ToolScrollView {
             text: Words.launchAtLoginUnavailable
         }
 
-        SettingsCheckbox {
+        CheckRow {
             title: Words.showInTray
             isOn: root.model.showMenuBar.isOn
             onToggled: root.model.showMenuBar.toggle()
@@ -40,13 +40,13 @@ ToolScrollView {
         width: parent.width
         label: qsTr("Deleting")
 
-        SettingsCheckbox {
+        CheckRow {
             title: qsTr("Move to Trash instead of deleting")
             isOn: root.model.useTrash.isOn
             onToggled: root.model.useTrash.toggle()
         }
 
-        SettingsCheckbox {
+        CheckRow {
             title: qsTr("Ask before removing Review items")
             isOn: root.model.confirmDelete.isOn
             onToggled: root.model.confirmDelete.toggle()
@@ -93,13 +93,13 @@ ToolScrollView {
         width: parent.width
         label: qsTr("Scanning")
 
-        SettingsCheckbox {
+        CheckRow {
             title: qsTr("Measure every tool when Klarvik opens")
             isOn: root.model.backgroundScanOnLaunch.isOn
             onToggled: root.model.backgroundScanOnLaunch.toggle()
         }
 
-        SettingsCheckbox {
+        CheckRow {
             title: Words.includeDeveloperCaches
             isOn: root.model.includeDeveloperJunk.isOn
             onToggled: root.model.includeDeveloperJunk.toggle()
@@ -151,6 +151,50 @@ ToolScrollView {
         TextButton {
             title: qsTr("Show onboarding again")
             onAction: root.model.showOnboardingAgain()
+        }
+    }
+
+    /// Small print below a setting.
+    component SettingsNote: Label {
+        width: Math.min(320, implicitWidth)
+        size: 11
+        color: Theme.textTertiary
+        wrapMode: Text.Wrap
+        elide: Text.ElideNone
+        maximumLineCount: 4
+        lineHeight: 1.1
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+
+    /// What a setting is about on the left, and the setting on the right.
+    component SettingsRow: Item {
+        id: settingsRow
+
+        required property string label
+        default property alias content: column.data
+
+        implicitHeight: column.height
+        Accessible.role: Accessible.Grouping
+        Accessible.name: settingsRow.label
+
+        Label {
+            id: name
+
+            width: 120
+            height: 20
+            text: settingsRow.label
+            color: Theme.textSecondary
+            horizontalAlignment: Text.AlignRight
+        }
+
+        Column {
+            id: column
+
+            anchors.left: name.right
+            anchors.leftMargin: 16
+            anchors.right: parent.right
+            spacing: 4
         }
     }
 }

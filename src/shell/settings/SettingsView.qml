@@ -68,4 +68,30 @@ Item {
             }
         }
     }
+
+    /// One tab of the strip.
+    component SettingsTabButton: Pressable {
+        id: settingsTabButton
+
+        required property bool isSelected
+
+        implicitWidth: label.implicitWidth + 28
+        implicitHeight: 28
+        Accessible.role: Accessible.PageTab
+        Accessible.selected: settingsTabButton.isSelected
+
+        background: Rectangle {
+            radius: Theme.cornerRadius
+            color: settingsTabButton.isSelected ? Theme.white(0.12) : settingsTabButton.hovered ? Theme.white(0.06) : Theme.clear
+        }
+
+        contentItem: Label {
+            id: label
+
+            text: settingsTabButton.title
+            size: 13
+            color: settingsTabButton.isSelected ? Theme.textPrimary : Theme.textSecondary
+            horizontalAlignment: Text.AlignHCenter
+        }
+    }
 }

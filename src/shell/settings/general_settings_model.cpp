@@ -5,10 +5,22 @@
 #include "panes/kit/row_text.h"
 #include "places/disk_layout.h"
 #include "platform/application_info.h"
+#include "platform/desktop_services.h"
 #include "platform/file_system.h"
-#include "platform/workspace.h"
+#include "state/set_if_changed.h"
 
 namespace klarvik {
+
+LaunchAtLogin::LaunchAtLogin(LoginItem& loginItem, QObject* parent)
+    : QObject(parent), _loginItem(loginItem), _status(loginItem.status()) {}
+
+void LaunchAtLogin::toggle() {
+  const bool wanted = !isOn();
+  const bool isEnabled = _loginItem.status() == LoginItem::Status::enabled;
+  if (wanted && !isEnabled) _loginItem.registerProgram();
+  if (!wanted && isEnabled) _loginItem.unregisterProgram();
+  if (setIfChanged(_status, _loginItem.status())) emit changed();
+}
 
 GeneralSettingsModel::GeneralSettingsModel(PermissionsManager& permissions, LoginItem& loginItem,
                                            const Desktop& desktop, QObject* parent)

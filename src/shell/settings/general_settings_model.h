@@ -5,11 +5,37 @@
 #include <QString>
 
 #include "panes/kit/stored_switch.h"
+#include "platform/desktop_services.h"
 #include "platform/platform.h"
-#include "shell/settings/launch_at_login.h"
 #include "state/permissions_manager.h"
 
 namespace klarvik {
+
+/// Whether the program starts at login, as a box on the screen. Read when this is made, and after
+/// each change by the box: one that fails snaps back. Main thread only.
+class LaunchAtLogin : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("The settings hand it out.")
+  Q_PROPERTY(bool isOn READ isOn NOTIFY changed)
+  Q_PROPERTY(bool isUnavailable READ isUnavailable NOTIFY changed)
+
+ public:
+  /// `loginItem` must outlive this.
+  explicit LaunchAtLogin(LoginItem& loginItem, QObject* parent = nullptr);
+
+  [[nodiscard]] bool isOn() const { return _status == LoginItem::Status::enabled; }
+  /// This copy of the program is not one that can be started at login.
+  [[nodiscard]] bool isUnavailable() const { return _status == LoginItem::Status::notFound; }
+  Q_INVOKABLE void toggle();
+
+ signals:
+  void changed();
+
+ private:
+  LoginItem& _loginItem;
+  LoginItem::Status _status;
+};
 
 /// The General page of the settings. Its boxes write through at once. Main thread only; everything
 /// handed in must outlive it.

@@ -163,4 +163,44 @@ Item {
             onAction: root.model.openReleaseNotes()
         }
     }
+
+    /// A switch that is on or off.
+    component ToggleSwitch: Pressable {
+        id: toggleSwitch
+
+        required property bool isOn
+        signal toggled()
+
+        implicitWidth: 36
+        implicitHeight: 20
+        Accessible.role: Accessible.CheckBox
+        Accessible.checkable: true
+        Accessible.checked: toggleSwitch.isOn
+        Accessible.onToggleAction: toggleSwitch.action()
+        onAction: toggleSwitch.toggled()
+
+        background: Rectangle {
+            radius: height / 2
+            color: toggleSwitch.isOn ? Theme.accent : toggleSwitch.hovered ? Theme.white(0.2) : Theme.white(0.14)
+            opacity: toggleSwitch.down ? 0.7 : 1.0
+        }
+
+        contentItem: Item {
+            Rectangle {
+                width: 16
+                height: 16
+                radius: 8
+                y: 2
+                x: toggleSwitch.isOn ? parent.width - width - 2 : 2
+                color: Theme.onAccent
+
+                Behavior on x {
+                    enabled: !Kit.reduceMotion
+                    NumberAnimation {
+                        duration: 120
+                    }
+                }
+            }
+        }
+    }
 }

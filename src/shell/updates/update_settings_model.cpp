@@ -2,11 +2,10 @@
 
 #include "panes/kit/palette.h"
 #include "platform/application_info.h"
-#include "platform/workspace.h"
+#include "platform/desktop_services.h"
 #include "state/set_if_changed.h"
 
 namespace klarvik {
-
 namespace {
 
 using namespace std::chrono_literals;

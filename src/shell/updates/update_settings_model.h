@@ -6,7 +6,7 @@
 #include <QString>
 
 #include "platform/platform.h"
-#include "state/repeating_timer.h"
+#include "state/timers.h"
 #include "state/update_manager.h"
 
 namespace klarvik {

@@ -6,8 +6,8 @@
 #include <QPersistentModelIndex>
 #include <QSignalSpy>
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
+#include "panes/kit/row_text.h"
 #include "support/fake_desktop.h"
 
 namespace klarvik {

@@ -1,4 +1,4 @@
-#include "panes/kit/file_url.h"
+#include "panes/kit/row_text.h"
 
 #include <gtest/gtest.h>
 

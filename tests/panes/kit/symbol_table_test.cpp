@@ -5,7 +5,7 @@
 #include <QTextLayout>
 
 #include "kit_window.h"
-#include "panes/kit/fonts.h"
+#include "panes/kit/palette.h"
 #include "places/category_type.h"
 
 namespace klarvik {

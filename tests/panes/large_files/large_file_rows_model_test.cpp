@@ -7,7 +7,7 @@
 #include <QUrl>
 #include <random>
 
-#include "panes/kit/file_url.h"
+#include "panes/kit/row_text.h"
 #include "support/fake_desktop.h"
 
 namespace klarvik {

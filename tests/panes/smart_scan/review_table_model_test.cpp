@@ -3,7 +3,6 @@
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 
-#include "panes/kit/file_url.h"
 #include "panes/kit/row_text.h"
 #include "smart_scan_fixture.h"
 

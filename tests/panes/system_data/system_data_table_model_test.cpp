@@ -7,8 +7,8 @@
 #include <QUrl>
 
 #include "found_items.h"
-#include "panes/kit/file_url.h"
 #include "panes/kit/kit_enums.h"
+#include "panes/kit/row_text.h"
 #include "platform/formatting.h"
 
 namespace klarvik {

@@ -6,7 +6,7 @@
 
 #include "platform/application_info.h"
 #include "platform/command_runner.h"
-#include "platform/recent_documents.h"
+#include "platform/desktop_services.h"
 #include "platform/trash.h"
 #include "platform/volume.h"
 #include "support/temporary_folder.h"

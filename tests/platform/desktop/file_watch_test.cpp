@@ -1,4 +1,4 @@
-#include "platform/desktop/file_watch.h"
+#include "platform/desktop/observed_user_defaults.h"
 
 #include <gtest/gtest.h>
 

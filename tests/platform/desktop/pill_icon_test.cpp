@@ -1,4 +1,4 @@
-#include "platform/desktop/pill_icon.h"
+#include "platform/desktop/qt_status_item.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "platform/update/appcast.h"
 #include "platform/update/update_choice.h"
 

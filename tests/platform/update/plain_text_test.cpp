@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/unicode_text.h"
+#include "base/text.h"
 
 namespace klarvik {
 namespace {

@@ -1,4 +1,4 @@
-#include "shell/menu_bar/popover_place.h"
+#include "shell/menu_bar/quick_popover.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,23 @@
-#include "state/sleep_for.h"
+#include "state/timers.h"
 
 #include <utility>
 
 namespace klarvik {
+
+RepeatingTimer::RepeatingTimer(Clock& clock, std::chrono::nanoseconds interval,
+                               std::function<void()> tick)
+    : _clock(clock), _interval(interval), _tick(std::move(tick)) {
+  setAlarm();
+}
+
+void RepeatingTimer::setAlarm() {
+  _alarm = _clock.wakeAfter(_interval, [this] {
+    setAlarm();
+    // A copy, since the tick may end the timer.
+    const auto tick = _tick;
+    tick();
+  });
+}
 
 Sleep::Sleep(Clock& clock, std::chrono::nanoseconds duration, std::stop_token stop)
     : _clock(clock), _duration(duration), _stop(std::move(stop)) {}

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <sys/types.h>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <span>
@@ -59,5 +61,14 @@ class PendingFile {
   std::string _temporary;  ///< where the folder cannot hold a file without a name; empty: it can
   std::int64_t _size = 0;
 };
+
+/// Puts `content` in the place of `file`, a path on the machine. Whoever reads the file, also after
+/// a crash at any moment, finds either all that stood there before or all of `content`. `mode` says
+/// who may read it: the user alone, unless told otherwise.
+///
+/// False when that failed; what stood there before then still stands. Two writers of one file must
+/// keep each other out.
+[[nodiscard]] bool writeAtomically(const std::filesystem::path& file, std::string_view content,
+                                   ::mode_t mode = 0600);
 
 }  // namespace klarvik

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <sys/stat.h>
-
 #include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 #include "platform/path.h"
+#include "platform/volume.h"
 
 namespace klarvik {
 
@@ -34,5 +34,20 @@ struct MountOfEntry {
 /// Asks for the entry `name` of the opened `folder`, or for `folder` itself when `name` is empty.
 /// Nothing when there is none, or when the system does not tell its mount.
 [[nodiscard]] std::optional<MountOfEntry> mountOfEntry(int folder, const char* name);
+
+/// The mounted file system that a folder of this machine lies on.
+class MountedVolume final : public Volume {
+ public:
+  /// `folder` is a path on the machine.
+  explicit MountedVolume(Path folder);
+
+  [[nodiscard]] std::optional<std::int64_t> totalBytes() const override;
+  [[nodiscard]] std::optional<std::int64_t> availableBytes() const override;
+  [[nodiscard]] std::optional<std::int64_t> keptForRootBytes() const override;
+  [[nodiscard]] std::optional<std::string> name() const override;
+
+ private:
+  Path _folder;
+};
 
 }  // namespace klarvik
