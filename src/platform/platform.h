@@ -16,6 +16,7 @@ class Pasteboard;
 class RecentDocuments;
 class RunningPrograms;
 class StatusItem;
+class ToolRunner;
 class Trash;
 class Updater;
 class UserDefaults;
@@ -34,6 +35,7 @@ struct Platform {
   const ApplicationInfo& info;
   RecentDocuments& recentDocuments;
   RunningPrograms& programs;
+  ToolRunner& tools;
 };
 
 /// The same, with what only a program that has a main loop and a desktop around it can offer.

@@ -14,6 +14,7 @@
 #include "engine/scanner_engine.h"
 #include "platform/system_platform.h"
 #include "support/fake_running_programs.h"
+#include "support/fake_tool_runner.h"
 #include "support/private_mounts.h"
 #include "support/temporary_folder.h"
 
@@ -51,7 +52,7 @@ class LinuxDiskTest : public testing::Test {
 
   [[nodiscard]] Platform platform() {
     return {system.files,      system.trash, system.commands,        system.defaults, system.volume,
-            system.formatting, system.info,  system.recentDocuments, programs};
+            system.formatting, system.info,  system.recentDocuments, programs, tools};
   }
 
   [[nodiscard]] CleanCategory find(CategoryType type) {
@@ -79,6 +80,7 @@ class LinuxDiskTest : public testing::Test {
   SystemPlatform machine{disk.path(), home};
   const Platform system = machine.platform();
   FakeRunningPrograms programs;
+  FakeToolRunner tools;
 };
 
 using Names = std::vector<std::string>;

@@ -39,7 +39,8 @@ FakeDesktop::FakeDesktop(FileSystem& disk, Trash& trashOfTheDisk)
 FakeDesktop::~FakeDesktop() = default;
 
 Desktop FakeDesktop::with(Clock& other) {
-  return {{files, trash, commands, defaults, volume, formatting, info, recentDocuments, programs},
+  return {{files, trash, commands, defaults, volume, formatting, info, recentDocuments, programs,
+           tools},
           other,
           notifications,
           workspace,

@@ -13,6 +13,7 @@
 #include "support/fake_command_runner.h"
 #include "support/fake_file_system.h"
 #include "support/fake_running_programs.h"
+#include "support/fake_tool_runner.h"
 #include "support/fake_user_defaults.h"
 #include "support/fake_volume.h"
 #include "support/fault_injecting_file_system.h"
@@ -65,6 +66,7 @@ struct FakeDesktop {
   ApplicationInfo info{{"CFBundleShortVersionString", "1.2.3"}, {"CFBundleVersion", "45"}};
   FakeRecentDocuments& recentDocuments;
   FakeRunningPrograms programs;
+  FakeToolRunner tools;
   NotificationCenter notifications;
   FakeWorkspace& workspace;
   FakeMotionPreference& motion;

@@ -65,7 +65,7 @@ class LinuxTrails : public testing::Test {
   const Platform system = machine.platform();
   const Platform platform{system.files,    system.trash,           system.commands,
                           system.defaults, system.volume,          system.formatting,
-                          system.info,     system.recentDocuments, programs};
+                          system.info,     system.recentDocuments, programs, system.tools};
   FakePasteboard pasteboard;
   PrivacyScanner scanner{platform, pasteboard};
 };

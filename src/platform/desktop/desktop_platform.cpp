@@ -35,7 +35,7 @@ DesktopPlatform::DesktopPlatform(const Path& root, const UserFolders& folders)
 Desktop DesktopPlatform::desktop() {
   const Platform system = _system.platform();
   return {{system.files, system.trash, system.commands, _defaults, system.volume, system.formatting,
-           system.info, system.recentDocuments, system.programs},
+           system.info, system.recentDocuments, system.programs, system.tools},
           _clock,
           _notifications,
           _workspace,

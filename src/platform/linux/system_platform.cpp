@@ -13,6 +13,7 @@
 #include "platform/linux/process_table.h"
 #include "platform/linux/recently_used_list.h"
 #include "platform/linux/shell_command_runner.h"
+#include "platform/linux/system_tools.h"
 
 namespace klarvik {
 namespace {
@@ -45,7 +46,8 @@ struct SystemPlatform::Parts {
         trash(root, folders.home, folders.data),
         defaults(files.diskPath(folders.configuration) / "klarvik"),
         volume(homeOrRoot(root, files)),
-        recentDocuments(files.diskPath(folders.data) / "recently-used.xbel") {}
+        recentDocuments(files.diskPath(folders.data) / "recently-used.xbel"),
+        tools(root, files.folders()) {}
 
   LinuxFileSystem files;
   LinuxTrash trash;
@@ -56,6 +58,7 @@ struct SystemPlatform::Parts {
   const ApplicationInfo info = builtInApplicationInfo();
   RecentlyUsedList recentDocuments;
   ProcessTable programs{};
+  SystemTools tools;
 };
 
 SystemPlatform::SystemPlatform(const Path& root, const UserFolders& folders)
@@ -64,9 +67,9 @@ SystemPlatform::SystemPlatform(const Path& root, const UserFolders& folders)
 SystemPlatform::~SystemPlatform() = default;
 
 Platform SystemPlatform::platform() {
-  return {_parts->files,    _parts->trash,           _parts->commands,
-          _parts->defaults, _parts->volume,          _parts->formatting,
-          _parts->info,     _parts->recentDocuments, _parts->programs};
+  return {_parts->files,    _parts->trash,      _parts->commands, _parts->defaults,
+          _parts->volume,   _parts->formatting, _parts->info,     _parts->recentDocuments,
+          _parts->programs, _parts->tools};
 }
 
 const Path& SystemPlatform::preferencesFile() const {
