@@ -54,8 +54,6 @@ struct Words {
   std::string_view applicationColumn;
   std::string_view measuringApplications;
   std::string_view lookingForLeftovers;
-  std::string_view someLeftoversStay;  ///< of the selected leftovers and the application
-  std::string_view allLeftoversGo;
   std::string_view noTrails;
   std::string_view trailsUnread;
   std::string_view browserTrails;

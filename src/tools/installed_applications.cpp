@@ -12,7 +12,6 @@
 #include "base/bytes.h"
 #include "base/paths.h"
 #include "base/text.h"
-#include "base/unicode_text.h"
 #include "core/catalogue.h"
 #include "engine/allocated_size.h"
 #include "places/disk_layout.h"

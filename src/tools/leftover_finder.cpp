@@ -5,7 +5,7 @@
 
 #include "base/bytes.h"
 #include "base/paths.h"
-#include "base/unicode_text.h"
+#include "base/text.h"
 #include "core/catalogue.h"
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"

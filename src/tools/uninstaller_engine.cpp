@@ -5,6 +5,7 @@
 
 #include "base/bytes.h"
 #include "base/paths.h"
+#include "base/text.h"
 #include "core/removal_check.h"
 #include "places/disk_layout.h"
 #include "platform/application_bundle.h"
@@ -15,6 +16,7 @@
 #include "tools/file_size.h"
 #include "tools/installed_applications.h"
 #include "tools/leftover_finder.h"
+#include "tools/package_removal.h"
 #include "tools/residual_matcher.h"
 
 namespace klarvik {
@@ -162,11 +164,22 @@ UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
   UninstallOutcome outcome;
   const FileSystem& files = _platform.files;
   outcome.isRunning = isRunning(_platform.programs, app);
-  if (outcome.isRunning) return outcome;
-  if (app.goesToTrash()) {
+  if (outcome.isRunning) {
+    outcome.whyItStayed = printable(app.name) + " is running. Close it first.";
+    return outcome;
+  }
+  if (isRemovedByTool(app)) {
+    outcome.whyItStayed = removeByTool(_platform, app);
+    outcome.isGone = outcome.whyItStayed.empty();
+    if (!outcome.isGone) return outcome;
+    outcome.freed = app.appSize;
+  } else if (app.goesToTrash()) {
     const auto scope = DeletionScope::application();
     outcome.isGone = trashIfAllowed(app.appURL, scope, app.identity);
-    if (!outcome.isGone) return outcome;
+    if (!outcome.isGone) {
+      outcome.whyItStayed = "It could not be moved to the Trash.";
+      return outcome;
+    }
     outcome.freed = app.appSize;
     for (const AppPart& part : app.parts) {
       static_cast<void>(trashIfAllowed(part.path, scope, part.identity));
@@ -191,6 +204,11 @@ bool UninstallerEngine::trashIfAllowed(const Path& path, const DeletionScope& sc
   const bool isGone = _platform.trash.moveToTrash(named, check).has_value();
   if (!isGone) countIfReplaced(_platform.files, named, identity, _leftAlone);
   return isGone;
+}
+
+RemovalPlan UninstallerEngine::plan(const AppInfo& app) const {
+  const std::lock_guard lock(_working);
+  return planRemoval(_platform, app);
 }
 
 std::vector<std::string> UninstallerEngine::residualIdentifiers(const AppInfo& app) {

@@ -9,14 +9,16 @@
 #include "core/left_alone.h"
 #include "platform/platform.h"
 #include "tools/app_info.h"
+#include "tools/package_removal.h"
 
 namespace klarvik {
 
 /// What an uninstalling did.
 struct UninstallOutcome {
-  std::int64_t freed = 0;  ///< bytes, of what is gone as it was measured when it was found
-  bool isGone = false;     ///< the application itself
-  bool isRunning = false;  ///< and therefore nothing was done
+  std::int64_t freed = 0;     ///< bytes, of what is gone as it was measured when it was found
+  bool isGone = false;        ///< the application itself
+  bool isRunning = false;     ///< and therefore nothing was done
+  std::string whyItStayed{};  ///< a sentence; empty where there is nothing to say
 
   bool operator==(const UninstallOutcome&) const = default;
 };
@@ -54,6 +56,9 @@ class UninstallerEngine {
   /// not remove such, they go alone, and where it could not be removed, nothing does.
   UninstallOutcome remove(const AppInfo& app, const std::vector<ResidualFile>& residuals);
 
+  /// How an application goes that Klarvik does not remove itself. Asks the package manager.
+  [[nodiscard]] RemovalPlan plan(const AppInfo& app) const;
+
   /// The words by which `DeletionGuard` knows what is a residual of `app`.
   [[nodiscard]] static std::vector<std::string> residualIdentifiers(const AppInfo& app);
 
@@ -67,7 +72,7 @@ class UninstallerEngine {
 
   const Platform& _platform;
   LeftAlone* const _leftAlone;
-  std::mutex _working;
+  mutable std::mutex _working;
 };
 
 }  // namespace klarvik

@@ -1,4 +1,5 @@
 #include "linux_applications_fixture.h"
+#include "support/linux_sample_disk.h"
 #include "tools/installed_applications.h"
 
 namespace klarvik {
@@ -209,6 +210,37 @@ TEST_F(LinuxApplications, OfTheUserAreNeverSoughtOutsideOfTheFoldersForPrograms)
   program("/home/ben/.local/bin/his");
   entry(ownEntries / "his.desktop", "Name=His\nExec=/home/ben/.local/bin/his\n");
   EXPECT_THAT(names(), ElementsAre("Letter"));
+}
+
+TEST(ApplicationsOfTheLinuxSampleDisk, AreOfEveryKindAndLeaveOnlyTheirOwn) {
+  FakeDesktopOnDisk world{std::nullopt, linuxHome};
+  std::filesystem::remove_all(world.disk.onDisk("/home"));
+  const LinuxSampleDisk sample = buildLinuxSampleDisk(world.disk.path());
+  UninstallerEngine engine(world.desktop);
+  std::map<AppKind, std::size_t> kinds;
+  std::map<std::string, std::size_t> leftovers;
+  for (const AppInfo& app : engine.listApps()) {
+    ++kinds[app.kind];
+    EXPECT_GT(app.appSize, 0) << app.name;
+    for (const ResidualFile& each : engine.findResiduals(app)) {
+      ++leftovers[app.name];
+      EXPECT_EQ(std::ranges::find(sample.secrets, each.url), sample.secrets.end()) << each.url;
+      const bool isSandboxed = app.kind == AppKind::flatpak || app.kind == AppKind::snap;
+      const std::string within = each.url.lexically_relative(linuxHome).native();
+      EXPECT_EQ(isSandboxed, within.starts_with(".var/app/") || within.starts_with("snap/"))
+          << each.url;
+    }
+  }
+  EXPECT_GE(kinds[AppKind::flatpak], 10U);
+  EXPECT_EQ(kinds[AppKind::snap], 5U);
+  EXPECT_EQ(kinds[AppKind::appImage], 1U);
+  EXPECT_EQ(kinds[AppKind::byHand], 1U);
+  EXPECT_EQ(kinds[AppKind::debianPackage], 2U);
+  EXPECT_EQ(leftovers["Inkpot"], 4U);
+  EXPECT_EQ(leftovers["Typesetter"], 4U);
+  EXPECT_EQ(leftovers["Sheets"], 4U);
+  EXPECT_EQ(leftovers["Acme Shell"], 0U);
+  EXPECT_EQ(leftovers["spotify"], 1U);
 }
 
 TEST(NameWithoutVersion, EndsWhereTheVersionBegins) {

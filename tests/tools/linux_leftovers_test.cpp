@@ -78,9 +78,8 @@ TEST_F(LinuxLeftovers, OfTheFamousAreKnownByName) {
   installDebian("jetbrains-idea");
   leave({".config/JetBrains/IntelliJIdea2024.3", ".config/JetBrains/PyCharm2024.3",
          ".cache/JetBrains/IntelliJIdea2024.3"});
-  EXPECT_THAT(
-      leftoversOf(appCalled("jetbrains-idea")),
-      ElementsAre(".cache/JetBrains/IntelliJIdea2024.3", ".config/JetBrains/IntelliJIdea2024.3"));
+  EXPECT_THAT(leftoversOf(appCalled("jetbrains-idea")),
+              ElementsAre(".config/JetBrains/IntelliJIdea2024.3"));
 }
 
 TEST_F(LinuxLeftovers, AreNeverASecretNorHoldOne) {
@@ -201,6 +200,95 @@ TEST_F(LinuxUninstalling, OfAPackageTakesOnlyTheSelectedLeftovers) {
   EXPECT_TRUE(disk.holds(trashed / "inkpot/data"));
 }
 
+TEST_F(LinuxUninstalling, HasAFlatpakRemovedByItsToolAndThenMovesItsLeftovers) {
+  installFlatpak("/var/lib/flatpak", "org.acme.Typewriter", "Typewriter");
+  leave({".var/app/org.acme.Typewriter"});
+  const AppInfo app = appCalled("Typewriter");
+  world.tools.act(
+      "flatpak uninstall --noninteractive --system app/org.acme.Typewriter/x86_64/stable", [&] {
+        EXPECT_TRUE(disk.holds(home / ".var/app/org.acme.Typewriter/data"));
+        std::filesystem::remove_all(disk.onDisk(app.appURL));
+        return FakeToolRunner::printed("");
+      });
+  const auto leftovers = engine.findResiduals(app);
+  ASSERT_THAT(leftovers, SizeIs(1));
+  const UninstallOutcome outcome = engine.remove(app, leftovers);
+  EXPECT_TRUE(outcome.isGone);
+  EXPECT_EQ(outcome.freed, app.appSize + leftovers[0].size);
+  EXPECT_TRUE(disk.holds(trashed / "org.acme.Typewriter/data"));
+}
+
+TEST_F(LinuxUninstalling, TellsWhyAToolLeftItAndKeepsItsLeftovers) {
+  installFlatpak(home / ".local/share/flatpak", "org.acme.Typewriter", "Typewriter");
+  leave({".var/app/org.acme.Typewriter"});
+  const AppInfo app = appCalled("Typewriter");
+  const auto leftovers = engine.findResiduals(app);
+  const std::string line =
+      "flatpak uninstall --noninteractive --user app/org.acme.Typewriter/x86_64/stable";
+  const auto before = snapshotOf(disk.path());
+  const auto whyItStayed = [&] { return engine.remove(app, leftovers).whyItStayed; };
+  EXPECT_EQ(whyItStayed(), "flatpak could not be started.");
+  world.tools.end(line, ToolResult::End::timedOut);
+  EXPECT_EQ(whyItStayed(), "flatpak took too long, and was stopped.");
+  world.tools.act(line, [] {
+    return ToolResult{
+        .end = ToolResult::End::exited, .status = 1, .errors = "  Not\x1b allowed\nmore\n"};
+  });
+  EXPECT_EQ(whyItStayed(), "flatpak did not remove it: Not\uFFFD allowed");
+  world.tools.answer(line, "all is well");
+  EXPECT_EQ(whyItStayed(), "flatpak did not remove it.");
+  EXPECT_EQ(unexpectedSince(before, {}), "");
+}
+
+TEST_F(LinuxUninstalling, AsksSnapdOnlyWhereItRuns) {
+  installSnap("inkpot", "3");
+  const AppInfo app = appCalled("inkpot");
+  EXPECT_EQ(engine.remove(app, {}).whyItStayed, "snapd does not run on this computer.");
+  EXPECT_THAT(world.tools.commandsRun(), ElementsAre("systemctl is-active snapd.socket"));
+  world.tools.answer("systemctl is-active snapd.socket", "active\n");
+  world.tools.act("snap remove inkpot", [&] {
+    std::filesystem::remove_all(disk.onDisk("/var/lib/snapd/snaps"));
+    return FakeToolRunner::printed("inkpot removed\n");
+  });
+  EXPECT_TRUE(engine.remove(app, {}).isGone);
+}
+
+TEST_F(LinuxUninstalling, HandsNoToolANameThatItMightTakeForMore) {
+  for (const char* const name :
+       {"-y", "--purge", "a b", "a;b", "../x", "", "app/-x", "a\nb", "$(x)"}) {
+    for (const AppKind kind : {AppKind::flatpak, AppKind::snap, AppKind::debianPackage}) {
+      const AppInfo app{.name = "Odd", .bundleID = "odd", .kind = kind, .package = name};
+      if (kind == AppKind::flatpak && std::string_view(name) == "app/-x") continue;
+      EXPECT_EQ(engine.plan(app).command, "");
+      EXPECT_FALSE(engine.remove(app, {}).isGone);
+    }
+  }
+  EXPECT_THAT(world.tools.commandsRun(), IsEmpty());
+}
+
+TEST_F(LinuxUninstalling, TellsWhatTheRemovalOfAPackageWouldTakeAlong) {
+  installDebian("inkpot");
+  const AppInfo app = appCalled("inkpot");
+  EXPECT_EQ(engine.plan(app), (RemovalPlan{.command = "sudo apt remove inkpot"}))
+      << "apt-get is not there";
+  const std::string line = "apt-get --simulate remove inkpot";
+  world.tools.answer(line,
+                     "Reading package lists...\nThe following packages will be REMOVED:\n"
+                     "  inkpot inkpot-data\nRemv inkpot-data [1.2]\nRemv inkpot:amd64 [1.2]\n"
+                     "Purg x\n");
+  EXPECT_EQ(engine.plan(app), (RemovalPlan{.command = "sudo apt remove inkpot",
+                                           .alsoRemoved = {"inkpot-data"},
+                                           .isSimulated = true}));
+  world.tools.answer(line, "Remv inkpot [1]\nRemv task-gnome-desktop [2]\n");
+  EXPECT_EQ(engine.plan(app).command, "");
+  EXPECT_EQ(engine.plan(app).keptBecause,
+            "Removing it would remove task-gnome-desktop, which this computer needs.");
+  world.tools.answer(line, "Remv another [1]\n");
+  EXPECT_FALSE(engine.plan(app).isSimulated);
+  world.tools.end(line, ToolResult::End::timedOut);
+  EXPECT_FALSE(engine.plan(app).isSimulated);
+}
+
 TEST_F(LinuxUninstalling, LeavesWhatRunsAsItIs) {
   installByHand("inkpot");
   leave({".config/inkpot"});
@@ -208,7 +296,9 @@ TEST_F(LinuxUninstalling, LeavesWhatRunsAsItIs) {
   const auto leftovers = engine.findResiduals(app);
   const auto before = snapshotOf(disk.path());
   world.programs.running.insert("inkpot");
-  EXPECT_EQ(engine.remove(app, leftovers), (UninstallOutcome{.isRunning = true}));
+  const UninstallOutcome outcome = engine.remove(app, leftovers);
+  EXPECT_TRUE(outcome.isRunning);
+  EXPECT_EQ(outcome.whyItStayed, "inkpot is running. Close it first.");
   EXPECT_EQ(unexpectedSince(before, {}), "");
 }
 
@@ -220,7 +310,7 @@ TEST_F(LinuxUninstalling, LeavesWhatHasTakenThePlaceOfTheApplicationAndItsLeftov
   std::filesystem::rename(disk.onDisk(app.appURL), disk.onDisk(home / "kept"));
   disk.makeFile(app.appURL / "thesis", 5'000);
   const auto before = snapshotOf(disk.path());
-  EXPECT_EQ(engine.remove(app, leftovers), UninstallOutcome{});
+  EXPECT_EQ(engine.remove(app, leftovers).whyItStayed, "It could not be moved to the Trash.");
   EXPECT_EQ(unexpectedSince(before, {}), "");
 }
 

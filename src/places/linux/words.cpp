@@ -52,8 +52,6 @@ const Words words{
     .applicationColumn = "APP",
     .measuringApplications = "Measuring the apps in the menu, and the AppImages in your home.",
     .lookingForLeftovers = "Checking settings, caches, app data and states in your home.",
-    .someLeftoversStay = "What is not selected stays. What is selected goes to the Trash.",
-    .allLeftoversGo = "All leftovers go to the Trash, and can be put back.",
     .noTrails = "No trail that Klarvik clears was found.",
     .trailsUnread = "Rescan to see what this computer has recorded.",
     .browserTrails = "BROWSERS",

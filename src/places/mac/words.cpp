@@ -56,9 +56,6 @@ const Words words{
     .measuringApplications = "Measuring every app in /Applications and ~/Applications.",
     .lookingForLeftovers =
         "Checking Preferences, Caches, Application Support, Containers and Logs.",
-    .someLeftoversStay =
-        "Preferences and app data left behind on purpose. Everything goes to Trash.",
-    .allLeftoversGo = "Everything goes to Trash, so it can be put back.",
     .noTrails = "No browsing or system trails were found.",
     .trailsUnread = "Rescan to see what your Mac has recorded.",
     .browserTrails = "SAFARI, CHROME, FIREFOX",
