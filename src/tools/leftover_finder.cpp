@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 
 #include "base/bytes.h"
 #include "base/paths.h"
@@ -117,13 +118,31 @@ class Search {
 
 }  // namespace
 
+namespace {
+
+/// Whether a place is known to be of both.
+bool shareAPlace(std::span<const KnownLeftover> known, const std::string& one,
+                 const std::string& other) {
+  return std::ranges::any_of(known, [&](const KnownLeftover& each) {
+    return each.identifier == one && std::ranges::any_of(known, [&](const KnownLeftover& second) {
+             return second.identifier == other && second.place.base == each.place.base &&
+                    second.place.pattern == each.place.pattern;
+           });
+  });
+}
+
+}  // namespace
+
 std::vector<std::string> ownIdentifiers(const FileSystem& files, const AppInfo& app,
                                         const std::vector<AppInfo>& installed) {
+  const auto known = layoutFor(files.home()).applications.desktop->knownLeftovers;
   std::vector<std::string> own = app.identifiers;
   for (const AppInfo& other : installed) {
     if (isSameApplication(other, app)) continue;
     std::erase_if(own, [&](const std::string& identifier) {
-      return std::ranges::find(other.identifiers, identifier) != other.identifiers.end();
+      return std::ranges::any_of(other.identifiers, [&](const std::string& each) {
+        return each == identifier || shareAPlace(known, identifier, each);
+      });
     });
   }
   // Programs of the terminal are packages too.

@@ -1,6 +1,5 @@
 #include "support/linux_sample_disk.h"
 
-#include <algorithm>
 #include <array>
 #include <span>
 #include <string_view>
@@ -694,20 +693,9 @@ constexpr std::string_view appImageStart(
 
 /// A picture of one colour with rounded corners.
 std::string squareIcon(std::string_view color) {
-  constexpr int side = 48;
-  constexpr int corner = 10;
-  std::string picture = "/* XPM */\nstatic char *icon[] = {\n\"48 48 2 1\",\n\"  c None\",\n\". c ";
-  picture.append(color).append("\"");
-  for (int row = 0; row < side; ++row) {
-    picture += ",\n\"";
-    for (int column = 0; column < side; ++column) {
-      const int right = std::max({corner - column, column - (side - 1 - corner), 0});
-      const int down = std::max({corner - row, row - (side - 1 - corner), 0});
-      picture += right * right + down * down <= corner * corner ? '.' : ' ';
-    }
-    picture += '"';
-  }
-  return picture + "\n};\n";
+  std::string picture = R"(<svg xmlns="http://www.w3.org/2000/svg" width="64" height="64">)"
+                        R"(<rect width="64" height="64" rx="14" fill=")";
+  return picture.append(color).append("\"/></svg>\n");
 }
 
 /// Puts the disk together, one subject after the other.
@@ -929,7 +917,7 @@ class LinuxSampleDiskBuilder {
     const Path entry = Path(".local/share/applications") / (name + ".desktop");
     _writer.text(place(entry),
                  desktopEntry(title, place(program).native()) + "Icon=" + name + '\n');
-    _writer.text(place(Path(".local/share/icons/hicolor/48x48/apps") / (name + ".xpm")),
+    _writer.text(place(Path(".local/share/icons/hicolor/scalable/apps") / (name + ".svg")),
                  squareIcon(color));
     passedOver(entry);
   }

@@ -82,6 +82,15 @@ TEST_F(LinuxLeftovers, OfTheFamousAreKnownByName) {
               ElementsAre(".config/JetBrains/IntelliJIdea2024.3"));
 }
 
+TEST_F(LinuxLeftovers, ThatTwoOfTheFamousShareAreOfferedForNeither) {
+  installDebian("firefox-esr");
+  leave({".cache/mozilla/firefox", ".cache/mozilla/other", ".mozilla/firefox"});
+  EXPECT_THAT(leftoversOf(appCalled("firefox-esr")), ElementsAre(".cache/mozilla/firefox"));
+  installDebian("firefox");
+  EXPECT_THAT(leftoversOf(appCalled("firefox-esr")), IsEmpty());
+  EXPECT_THAT(leftoversOf(appCalled("firefox")), IsEmpty());
+}
+
 TEST_F(LinuxLeftovers, AreNeverASecretNorHoldOne) {
   for (const char* const name : {"keyrings", "ssh", "gnupg", "rclone", "keepassxc", "Signal",
                                  "pass", "nvim", "emacs", "vaults"}) {

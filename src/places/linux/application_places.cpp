@@ -65,6 +65,8 @@ constexpr std::array knownLeftovers{
     KnownLeftover{"google-chrome-stable", {cache, "google-chrome"}, caches},
     KnownLeftover{"brave-browser", {config, "BraveSoftware/Brave-Browser"}, preferences},
     KnownLeftover{"brave-browser", {cache, "BraveSoftware/Brave-Browser"}, caches},
+    KnownLeftover{"firefox", {cache, "mozilla/firefox"}, caches},
+    KnownLeftover{"firefox-esr", {cache, "mozilla/firefox"}, caches},
     KnownLeftover{"code", {config, "Code"}, preferences},
     KnownLeftover{"code", {home, ".vscode"}, appSupport},
     KnownLeftover{"thunderbird", {home, ".thunderbird"}, appSupport},
