@@ -107,6 +107,7 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
   const Path trash =
       question.folders.data.lexically_relative(question.folders.home) / "Trash/files";
   if (isBelow(relative, trash.lexically_normal().native())) return allowed;
+  if (isInTrashOfAVolume(question)) return allowed;
   if (const auto own = catalogue.ownPlaceOf(path)) {
     return refuse("~/", *own, " holds your own files, not junk.");
   }
@@ -132,6 +133,7 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
     return nameMatchesAny(question.layout.guard.secretNames, lowercased(piece));
   });
   if (isKeys) return refuse(path, " holds keys and passwords.");
+  if (isInTrashOfAVolume(question)) return allowed;
   const Catalogue catalogue(question.layout, question.folders);
   const bool isOfAnApplication = question.scope.kind == DeletionScope::Kind::residual ||
                                  question.scope.kind == DeletionScope::Kind::application;

@@ -12,6 +12,18 @@ bool isSystemDirectory(const DeletionQuestion& question) {
   return std::ranges::find(directories, question.path) != directories.end();
 }
 
+bool isInTrashOfAVolume(const DeletionQuestion& question) {
+  if (question.scope.kind != DeletionScope::Kind::trashed) return false;
+  const auto pieces = splitPath(question.path);
+  const std::size_t count = pieces.size();
+  const auto isUser = [](std::string_view text) { return wholeNumber<unsigned>(text).has_value(); };
+  if (count < 3 || pieces[count - 2] != "files") return false;
+  constexpr std::string_view ownPrefix = ".Trash-";
+  const std::string_view folder = pieces[count - 3];
+  if (folder.starts_with(ownPrefix)) return isUser(folder.substr(ownPrefix.size()));
+  return count >= 4 && isUser(folder) && pieces[count - 4] == ".Trash";
+}
+
 bool isSomeonesHome(const DeletionQuestion& question) {
   const GuardRules& rules = question.layout.guard;
   const std::string_view home = question.home;

@@ -45,6 +45,8 @@ struct DeletionQuestion {
 
 /// What both say alike.
 [[nodiscard]] bool isSystemDirectory(const DeletionQuestion& question);
+/// Whether it asks for an entry of a Trash at the top of a volume, as its path tells.
+[[nodiscard]] bool isInTrashOfAVolume(const DeletionQuestion& question);
 /// Whether the home is one that a person has. An account without one is often given "/" or another
 /// system directory; what lies there belongs to everybody.
 [[nodiscard]] bool isSomeonesHome(const DeletionQuestion& question);

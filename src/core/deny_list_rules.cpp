@@ -38,6 +38,7 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
     case DeletionScope::Kind::general:
     case DeletionScope::Kind::trail:
     case DeletionScope::Kind::application:
+    case DeletionScope::Kind::trashed:
       break;
   }
   for (const auto& [base, entry] : question.layout.guard.ownPlaces) {
@@ -55,6 +56,7 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
   const bool isAnothers = std::ranges::any_of(
       rules.otherHomes, [&](std::string_view homes) { return isBelow(path, homes); });
   if (isAnothers) return refuse("Refusing to touch another user account.");
+  if (isInTrashOfAVolume(question)) return allowed;
   // Ahead of the cleanable places: a residual in /Library/Caches must still belong to the app.
   const bool isResidual = question.scope.kind == DeletionScope::Kind::residual;
   if (isResidual && path.starts_with("/Library/")) {

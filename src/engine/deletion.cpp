@@ -50,9 +50,9 @@ bool removeSnapshot(CommandRunner& commands, const Path& named) {
 DeletionOutcome ScannerEngine::deleteItem(const JunkItem& item, bool useTrash) {
   // What is removed is the very path that the guard judged, spelled without detours.
   const Path named = standardizedPath(item.path);
-  const auto scope = DeletionScope::general();
   DeletionOutcome outcome{.originalURL = item.path};
   const bool isInTrash = _platform.trash.contains(named);
+  const auto scope = isInTrash ? DeletionScope::trashed() : DeletionScope::general();
   if (!mayRemove(_platform.files, named, scope)) return outcome;
   if (!isInTrash && !isStillOffered(_platform, named)) return outcome;
 
@@ -158,6 +158,7 @@ std::int64_t ScannerEngine::emptyTrash(std::stop_token stop, const DeletionSink&
        deleteItems(entries, /*useTrash=*/false, std::move(stop), progress)) {
     reclaimed = addBytes(reclaimed, outcome.reclaimed);
   }
+  _platform.trash.dropRecordsOfNothing();
   return reclaimed;
 }
 

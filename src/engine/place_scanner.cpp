@@ -206,13 +206,15 @@ void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& c
 
 std::string PlaceScanner::obstacle(const Path& path, const Measure& measure) const {
   const FileSystem& files = _platform.files;
-  const auto scope = DeletionScope::general();
+  const bool isTrashed = _platform.trash.contains(path);
+  const auto scope = isTrashed ? DeletionScope::trashed() : DeletionScope::general();
   if (const auto refusal = DeletionGuard::refusalReason(path, scope, files.folders(), _layout)) {
     return *refusal;
   }
   const auto real = files.realPath(path);
   if (!real) return std::string(_layout.words.folderAboveUnreadable);
-  if (*real != path && !mayRemoveReal(files, *real, scope)) {
+  // The Trash itself makes sure that an entry really lies in it, wherever the user keeps it.
+  if (*real != path && !isTrashed && !mayRemoveReal(files, *real, scope)) {
     return filledIn(_layout.words.liesElsewhere, real->native());
   }
   if (measure.holdsMountPoint) return std::string(_layout.words.holdsOtherVolume);

@@ -18,6 +18,7 @@ std::optional<DeletionScope> scopeNamed(const std::vector<std::string>& words) {
   if (words[0] == "residual") return DeletionScope::residual(identifiers);
   if (!identifiers.empty()) return std::nullopt;
   if (words[0] == "general") return DeletionScope::general();
+  if (words[0] == "trashed") return DeletionScope::trashed();
   if (words[0] == "pickedFile") return DeletionScope::pickedFile();
   return std::nullopt;
 }

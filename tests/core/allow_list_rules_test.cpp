@@ -54,6 +54,30 @@ TEST(AllowListRules, LetGoWhatWaitsInTheTrashWhereverThatIs) {
   }
 }
 
+TEST(AllowListRules, LetGoWhatWaitsInTheTrashOfAnyVolumeOnlyWhenThatIsWhatIsAsked) {
+  const DeletionScope trashed = DeletionScope::trashed();
+  for (const char* path :
+       {"/.Trash-1000/files/a", "/media/ann/stick/.Trash-1000/files/a b",
+        "/mnt/disk/.Trash/1000/files/a", "/tmp/.Trash-1000/files/a",
+        "/home/ann/disk/.Trash-1000/files/a", "/home/ann/.local/share/Trash/files/a"}) {
+    EXPECT_EQ(ask(path, trashed), allowed) << path;
+  }
+  for (const char* path :
+       {"/media/ann/stick/.Trash-1000/files/a", "/home/ann/disk/.Trash-1000/files/a"}) {
+    EXPECT_NE(ask(path), allowed) << path;
+    EXPECT_NE(ask(path, DeletionScope::residual({"files"})), allowed) << path;
+  }
+  for (const char* path :
+       {"/media/stick/.Trash-1000/files", "/media/stick/.Trash-1000/info/a.trashinfo",
+        "/media/stick/.Trash-ann/files/a", "/media/stick/.Trash-/files/a",
+        "/media/stick/.Trash/files/a", "/media/stick/.Trash-1000/files/a/b", "/media/stick/files/a",
+        "/files/a", "/home/bob/.Trash-1000/files/a",
+        "/media/stick/.Trash-1000/files/passwords.kdbx",
+        "/home/ann/disk/.Trash-1000/files/passwords.kdbx", "/home/ann/Documents/a"}) {
+    EXPECT_NE(ask(path, trashed), allowed) << path;
+  }
+}
+
 TEST(AllowListRules, KeepWhatPeopleKeep) {
   EXPECT_EQ(ask("/home/ann/.config/Code/User/settings.json"),
             "~/.config holds your own files, not junk.");

@@ -17,6 +17,20 @@ TEST(MountTable, TellsIdAndPlaceOfEachLine) {
   EXPECT_EQ(mounts[1].place, "/media/USB stick\\\n");
 }
 
+TEST(MountTable, TellsWhichFileSystemsNeedNoServer) {
+  const auto mounts = mountTableFrom(
+      "22 1 254:0 / / rw,relatime - ext4 /dev/vda rw\n"
+      "36 22 0:31 / /media/stick rw shared:5 master:1 - vfat /dev/sdb1 rw\n"
+      "37 22 0:32 / /mnt/server rw - nfs4 server:/export rw\n"
+      "38 22 0:33 / /mnt/other rw - fuse.sshfs server: rw\n"
+      "39 22 0:34 / /mnt/ext4 rw\n"
+      "40 22 0:35 / /mnt/unknown rw - \n");
+  ASSERT_EQ(mounts.size(), 6u);
+  for (const MountPoint& mount : mounts) {
+    EXPECT_EQ(mount.isLocal, mount.place == "/" || mount.place == "/media/stick") << mount.place;
+  }
+}
+
 TEST(MountTable, LeavesOutLinesOfAnotherForm) {
   EXPECT_TRUE(mountTableFrom("").empty());
   EXPECT_TRUE(mountTableFrom("\n\nx 1 0:1 / /mnt rw\n22 1 254:0 /\n22 1 254:0 / mnt\n").empty());

@@ -1,8 +1,10 @@
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <fstream>
 
 #include "support/private_mounts.h"
@@ -11,7 +13,9 @@
 namespace klarvik {
 namespace {
 
+using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::SizeIs;
 
 /// A stick is mounted on the disk. Everything happens in a process with mounts of its own.
 class TrashVolumes : public TrashFixture {
@@ -214,6 +218,106 @@ TEST_F(TrashVolumes, WithTheHomeOnAVolumeOfItsOwnTheRestOfTheDiskHasATrashAtItsT
     EXPECT_THAT(disk.contentOf(own / "info/a.trashinfo"), HasSubstr("\nPath=Library/Caches/a\n"));
     EXPECT_TRUE(trash.contains(*place));
     EXPECT_TRUE(trash.putBack(*place, "/Library/Caches/a", anywhere));
+  }));
+}
+
+TEST_F(TrashVolumes, WhatWaitsOnAnotherVolumeIsListedAndNothingIsMadeThere) {
+  EXPECT_TRUE(passesWithStick([&] {
+    EXPECT_THAT(trash.folders(), ElementsAre(Path(kFiles)));
+    EXPECT_EQ(countIn(kStick), 0u);
+    disk.makeFile(onStick("a"), "content");
+    disk.makeFile("/Users/ann/b", "content");
+    ASSERT_TRUE(trash.moveToTrash(onStick("a"), anywhere));
+    ASSERT_TRUE(trash.moveToTrash("/Users/ann/b", anywhere));
+    EXPECT_THAT(trash.folders(), ElementsAre(Path(kFiles), ownTrash() / "files"));
+    EXPECT_EQ(trash.list(), (std::vector{inFiles("b"), ownTrash() / "files/a"}));
+    const auto before = trash.modificationDate();
+    ASSERT_TRUE(trash.remove(ownTrash() / "files/a", anywhere));
+    EXPECT_GE(trash.modificationDate(), before);
+    EXPECT_EQ(trash.list(), std::vector{inFiles("b")});
+  }));
+}
+
+TEST_F(TrashVolumes, BothTrashesOfAVolumeAreListedAndOneSeenTwiceOnce) {
+  EXPECT_TRUE(passesWithStick([&] {
+    disk.makeFile(ownTrash() / "files/a", "content");
+    disk.makeFolder(ownTrash() / "info");
+    ASSERT_EQ(::chmod(disk.makeFolder(onStick(".Trash")).c_str(), 01777), 0);
+    disk.makeFile(onStick(".Trash/" + user() + "/files/b"), "content");
+    disk.makeFolder(onStick(".Trash/" + user() + "/info"));
+    disk.makeFolder("/Volumes/Again");
+    mountBind(disk.onDisk(kStick), disk.onDisk("/Volumes/Again"));
+    const auto items = trash.list();
+    ASSERT_TRUE(items);
+    EXPECT_THAT(*items, SizeIs(2));
+  }));
+}
+
+TEST_F(TrashVolumes, ATrashOfSomeoneElseIsNotListed) {
+  EXPECT_TRUE(passesWithStick([&] {
+    disk.makeFile(ownTrash() / "files/a", "content");
+    disk.makeFolder(ownTrash() / "info");
+    const Path folder = disk.onDisk(ownTrash());
+    if (::chown(folder.c_str(), 12345, 12345) != 0) mountBind("/srv", folder);
+    EXPECT_EQ(trash.list(), std::vector<Path>());
+  }));
+}
+
+TEST_F(TrashVolumes, ATrashThatIsALinkToAnotherVolumeIsFilledListedRestoredAndEmptied) {
+  EXPECT_TRUE(passesWithStick([&] {
+    disk.makeFolder("/Users/ann/.local/share");
+    disk.makeFolder(onStick("kept"));
+    disk.makeLink("/Users/ann/.local/share/Trash", disk.onDisk(onStick("kept")));
+    disk.makeFile(onStick("a"), "content");
+    ASSERT_EQ(trash.moveToTrash(onStick("a"), anywhere), inFiles("a"));
+    EXPECT_EQ(trash.list(), std::vector{inFiles("a")});
+    const auto asNamed = [&](const Path& place, const FileAttributes&) {
+      return place == inFiles("a");
+    };
+    EXPECT_TRUE(trash.putBack(inFiles("a"), onStick("a"), asNamed));
+    EXPECT_EQ(disk.contentOf(onStick("a")), "content");
+    ASSERT_TRUE(trash.moveToTrash(onStick("a"), anywhere));
+    EXPECT_TRUE(trash.remove(inFiles("a"), asNamed));
+    EXPECT_EQ(trash.list(), std::vector<Path>());
+    EXPECT_EQ(countIn(onStick("kept/info")), 0u);
+  }));
+}
+
+TEST_F(TrashVolumes, WhereTheHomesTrashCannotBeHadTheOthersAreStillListed) {
+  EXPECT_TRUE(passesWithStick([&] {
+    disk.makeFile("/Users/ann/.local", "no folder");
+    EXPECT_EQ(trash.list(), std::nullopt);
+    EXPECT_EQ(trash.modificationDate(), std::nullopt);
+    disk.makeFile(ownTrash() / "files/a", "content");
+    disk.makeFolder(ownTrash() / "info");
+    EXPECT_EQ(trash.list(), std::vector{ownTrash() / "files/a"});
+    EXPECT_TRUE(trash.modificationDate());
+  }));
+}
+
+TEST_F(TrashVolumes, OnlyOldRecordsOfNothingAreDroppedOnEveryVolume) {
+  EXPECT_TRUE(passesWithStick([&] {
+    const auto makeRecord = [&](const Path& info, const std::string& name, bool isOld) {
+      const Path record = disk.makeFile(info / (name + ".trashinfo"), "[Trash Info]\nPath=/x\n");
+      const std::array<timespec, 2> old{timespec{1'000'000'000, 0}, timespec{1'000'000'000, 0}};
+      if (isOld) {
+        ASSERT_EQ(::utimensat(AT_FDCWD, record.c_str(), old.data(), 0), 0);
+      }
+    };
+    for (const Path& folder : {Path(kFiles).parent_path(), ownTrash()}) {
+      disk.makeFile(folder / "files/there", "content");
+      makeRecord(folder / "info", "there", true);
+      makeRecord(folder / "info", "gone", true);
+      makeRecord(folder / "info", "just written", false);
+      disk.makeFile(folder / "info/notes.txt", "mine");
+    }
+    trash.dropRecordsOfNothing();
+    for (const Path& folder : {Path(kFiles).parent_path(), ownTrash()}) {
+      EXPECT_FALSE(disk.holds(folder / "info/gone.trashinfo"));
+      for (const char* const name : {"there.trashinfo", "just written.trashinfo", "notes.txt"}) {
+        EXPECT_TRUE(disk.holds(folder / "info" / name)) << name;
+      }
+    }
   }));
 }
 

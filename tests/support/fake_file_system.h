@@ -82,6 +82,7 @@ class FakeTrash final : public Trash {
   std::optional<Path> moveToTrash(const Path& item, const ItemCheck& mayMove) override;
   bool putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) override;
   bool remove(const Path& trashed, const ItemCheck& mayRemove) override;
+  void dropRecordsOfNothing() override {}  // it keeps none
 
  private:
   FakeFileSystem& _files;

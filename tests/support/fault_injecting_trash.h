@@ -44,6 +44,7 @@ class FaultInjectingTrash final : public Trash, public FaultInjection<TrashOpera
   std::optional<Path> moveToTrash(const Path& item, const ItemCheck& mayMove) override;
   bool putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) override;
   bool remove(const Path& trashed, const ItemCheck& mayRemove) override;
+  void dropRecordsOfNothing() override { _trash.dropRecordsOfNothing(); }
 
  private:
   void moveStampThatIsSet();

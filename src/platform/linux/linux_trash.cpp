@@ -3,7 +3,9 @@
 #include <fcntl.h>
 
 #include <algorithm>
+#include <chrono>
 #include <ctime>
+#include <set>
 #include <string_view>
 
 #include "base/paths.h"
@@ -78,28 +80,26 @@ std::vector<Path> LinuxTrash::folders() {
   std::vector<Path> folders{_homeTrash / "files"};
   Path ofTheHome = _home / ".Trash";
   if (isFolder(attributesAt(_root, ofTheHome))) folders.push_back(std::move(ofTheHome));
+  for (OnVolume& found : trashesOnVolumes()) folders.push_back(std::move(found.files));
   return folders;
 }
 
 std::optional<std::vector<Path>> LinuxTrash::list() {
-  const std::vector<Path> all = folders();
-  auto items = entriesOf(_root, all.front());
-  if (!items) return std::nullopt;
-  for (std::size_t i = 1; i < all.size(); ++i) {
-    const auto more = entriesOf(_root, all[i]);
-    if (more) items->insert(items->end(), more->begin(), more->end());
+  std::optional<std::vector<Path>> items;
+  for (const Path& folder : folders()) {
+    const auto more = entriesOf(_root, folder);
+    if (!more) continue;
+    if (!items) items.emplace();
+    items->insert(items->end(), more->begin(), more->end());
   }
   return items;
 }
 
 std::optional<Date> LinuxTrash::modificationDate() {
-  const std::vector<Path> all = folders();
-  const auto main = attributesAt(_root, all.front());
-  if (!isFolder(main)) return std::nullopt;
-  std::optional<Date> newest = main->modified;
-  for (std::size_t i = 1; i < all.size(); ++i) {
-    const auto more = attributesAt(_root, all[i]);
-    if (more) newest = std::max(newest, more->modified);
+  std::optional<Date> newest;
+  for (const Path& folder : folders()) {
+    const auto attributes = attributesAt(_root, folder);
+    if (isFolder(attributes)) newest = std::max(newest, attributes->modified);
   }
   return newest;
 }
@@ -138,7 +138,7 @@ bool LinuxTrash::putBack(const Path& trashed, const Path& original, const ItemCh
   if (!hold) return false;
   const auto from = openTrashed(trashed);
   const auto seen = from ? statusOf(from->folder.get(), from->name.c_str()) : std::nullopt;
-  if (!seen || !mayReturn(from->realPath, attributesOf(*seen))) return false;
+  if (!seen || !mayReturn(placeOf(*from, trashed), attributesOf(*seen))) return false;
   const auto recorder = recorderOf(*from, trashed);
   const auto recorded = recorder ? recordedPlace(*recorder, from->name) : std::nullopt;
 
@@ -160,11 +160,53 @@ bool LinuxTrash::remove(const Path& trashed, const ItemCheck& mayRemove) {
   if (!seen) return false;
   const auto recorder = recorderOf(*parent, trashed);
   const bool isRecorded = recorder && recorder->trash.holdsRecord(parent->name);
-  if (!mayRemove(parent->realPath, attributesOf(*seen)) || !removeTree(*parent, *seen)) {
+  if (!mayRemove(placeOf(*parent, trashed), attributesOf(*seen)) || !removeTree(*parent, *seen)) {
     return false;
   }
   if (isRecorded) recorder->trash.dropRecord(parent->name);
   return true;
+}
+
+void LinuxTrash::dropRecordsOfNothing() {
+  const Date yesterday = std::chrono::system_clock::now() - std::chrono::days(1);
+  if (const auto home = openHomeTrash()) home->dropRecordsOfNothing(yesterday);
+  for (const OnVolume& found : trashesOnVolumes()) found.trash.dropRecordsOfNothing(yesterday);
+}
+
+std::vector<LinuxTrash::OnVolume> LinuxTrash::trashesOnVolumes() const {
+  std::vector<OnVolume> found;
+  std::set<FileIdentity> known;
+  const auto addThoseAt = [&](const Path& top, std::optional<std::uint64_t> mount) {
+    const auto opened = openParent(_root, top / "x");
+    const auto topMount = opened ? mountOfEntry(opened->folder.get(), "") : std::nullopt;
+    if (!topMount || (mount && topMount->id != *mount)) return;
+    for (VolumeTrash& trash : volumeTrashesAt(opened->folder.get(), topMount->id)) {
+      const auto files = statusOf(trash.trash.files(), "");
+      if (!files || !known.insert(*attributesOf(*files).identity).second) continue;
+      found.push_back({std::move(trash.trash), top / trash.folder / "files"});
+    }
+  };
+  addThoseAt("/", std::nullopt);
+  const auto mounts = readMountTable();
+  if (!mounts) return found;
+  for (const MountPoint& point : *mounts) {
+    const auto top = logical(point.place);
+    const bool waitsForAServer = std::ranges::any_of(*mounts, [&](const MountPoint& other) {
+      return !other.isLocal && other.place != "/" &&
+             isBelow(point.place.native(), other.place.native());
+    });
+    if (point.isLocal && top && top != "/" && !waitsForAServer) addThoseAt(*top, point.id);
+  }
+  return found;
+}
+
+/// The user may keep the home's Trash behind a link; an entry of it is then told by its name there.
+Path LinuxTrash::placeOf(const ParentHandle& item, const Path& trashed) const {
+  const Path named = trashed.lexically_normal();
+  if (named.parent_path() != _homeTrash / "files") return item.realPath;
+  const auto home = openHomeTrash();
+  const auto files = home ? statusOf(home->files(), "") : std::nullopt;
+  return files && isStill(*files, item.folder.get(), "") ? named : item.realPath;
 }
 
 std::optional<ParentHandle> LinuxTrash::openTrashed(const Path& trashed) const {

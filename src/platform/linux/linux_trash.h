@@ -33,6 +33,7 @@ class LinuxTrash : public Trash {
   std::optional<Path> moveToTrash(const Path& item, const ItemCheck& mayMove) override;
   bool putBack(const Path& trashed, const Path& original, const ItemCheck& mayReturn) override;
   bool remove(const Path& trashed, const ItemCheck& mayRemove) override;
+  void dropRecordsOfNothing() override;
 
  private:
   /// A Trash that can take a certain item.
@@ -40,6 +41,12 @@ class LinuxTrash : public Trash {
     TrashFolder trash;
     Path files;          // logical, its `files/`
     Path recordedPlace;  // of the item, as this Trash writes it
+  };
+
+  /// A Trash folder at the top of a volume, and where it is.
+  struct OnVolume {
+    TrashFolder trash;
+    Path files;  // logical
   };
 
   struct Recorder {
@@ -59,6 +66,10 @@ class LinuxTrash : public Trash {
                                                           std::uint64_t mount) const;
   [[nodiscard]] std::optional<Destination> destinationOnVolume(const Path& item,
                                                                std::uint64_t mount) const;
+  /// Those that are there, each once, on volumes that no server keeps.
+  [[nodiscard]] std::vector<OnVolume> trashesOnVolumes() const;
+  /// What a check is told of the place of a trashed item.
+  [[nodiscard]] Path placeOf(const ParentHandle& item, const Path& trashed) const;
   [[nodiscard]] bool holdsMountPoint(const Path& folder) const;
   [[nodiscard]] bool isPartOfATrash(const Path& item) const;
 

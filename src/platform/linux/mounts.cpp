@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -20,6 +21,20 @@ constexpr std::size_t kIdField = 0;
 constexpr std::size_t kPlaceField = 4;
 
 constexpr std::size_t kLongestTable = 64 << 20;  // bytes; a machine with 100,000 mounts has less
+
+// Behind the fields, whose number varies, a lone dash precedes the kind of file system.
+constexpr std::string_view kEndOfFields = " - ";
+
+constexpr std::array<std::string_view, 18> kLocalKinds{
+    "ext2",  "ext3", "ext4",  "xfs",  "btrfs", "f2fs",    "zfs", "bcachefs", "jfs",
+    "tmpfs", "vfat", "exfat", "ntfs", "ntfs3", "fuseblk", "hfs", "hfsplus",  "overlay"};
+
+bool isLocalKind(std::string_view line) {
+  const std::size_t end = line.find(kEndOfFields);
+  if (end == std::string_view::npos) return false;
+  const std::string_view kind = line.substr(end + kEndOfFields.size());
+  return std::ranges::find(kLocalKinds, kind.substr(0, kind.find(' '))) != kLocalKinds.end();
+}
 
 std::string_view fieldOf(std::string_view line, std::size_t index) {
   for (; index > 0; --index) {
@@ -54,7 +69,7 @@ std::vector<MountPoint> mountTableFrom(std::string_view text) {
     const std::string_view line = takeLine(text);
     const auto id = wholeNumber<std::uint64_t>(fieldOf(line, kIdField));
     const std::string_view place = fieldOf(line, kPlaceField);
-    if (id && place.starts_with('/')) mounts.push_back({*id, unescaped(place)});
+    if (id && place.starts_with('/')) mounts.push_back({*id, unescaped(place), isLocalKind(line)});
   }
   return mounts;
 }

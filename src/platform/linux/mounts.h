@@ -15,6 +15,8 @@ namespace klarvik {
 struct MountPoint {
   std::uint64_t id = 0;  ///< what `statx` calls `stx_mnt_id`
   Path place;            ///< on the machine
+  /// Whether its kind of file system keeps files on this machine, so that no server has to answer.
+  bool isLocal = false;
 };
 
 /// What is mounted just now, as this process sees it. Nothing when the system does not tell.

@@ -7,10 +7,13 @@
 #include <algorithm>
 #include <array>
 #include <random>
+#include <vector>
 
 #include "base/file_writes.h"
 #include "base/posix_io.h"
 #include "base/text.h"
+#include "platform/linux/directory_stack.h"
+#include "platform/linux/file_status.h"
 #include "platform/linux/item_move.h"
 
 namespace klarvik {
@@ -167,6 +170,13 @@ std::optional<TrashFolder> TrashFolder::openCreating(const UniqueFd& folder) {
   return TrashFolder(std::move(files), std::move(info));
 }
 
+std::optional<TrashFolder> TrashFolder::open(const UniqueFd& folder) {
+  UniqueFd files = openFolderHandle(folder.get(), "files");
+  UniqueFd info = openFolderHandle(folder.get(), "info");
+  if (!files || !info) return std::nullopt;
+  return TrashFolder(std::move(files), std::move(info));
+}
+
 std::optional<TrashFolder> TrashFolder::openAround(const UniqueFd& files) {
   const UniqueFd folder = openFolderHandle(files.get(), "..");
   UniqueFd again = openFolderHandle(files.get(), ".");
@@ -212,6 +222,25 @@ bool TrashFolder::holdsRecord(const std::string& name) const {
 
 void TrashFolder::dropRecord(const std::string& name) const {
   removeRecord(_info.get(), name);
+}
+
+void TrashFolder::dropRecordsOfNothing(Date time) const {
+  constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+  const UniqueFd info(retryOnEintr([&] { return ::openat(_info.get(), ".", flags); }));
+  if (!info) return;
+  std::vector<std::string> names;
+  DirectoryReader().read(info.get(), [&](const ListedEntry& entry) {
+    const std::string_view name = entry.name;
+    if (name.ends_with(kTrashRecordSuffix) && name != kTrashRecordSuffix) {
+      names.emplace_back(name.substr(0, name.size() - kTrashRecordSuffix.size()));
+    }
+    return true;
+  });
+  for (const std::string& name : names) {
+    const auto record = statusOf(_info.get(), recordName(name).c_str());
+    const auto written = record ? attributesOf(*record).modified : std::nullopt;
+    if (written && *written < time && !holds(files(), name)) dropRecord(name);
+  }
 }
 
 }  // namespace klarvik

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/posix_io.h"
+#include "platform/date.h"
 #include "platform/linux/parent_handle.h"
 #include "platform/path.h"
 
@@ -44,6 +45,8 @@ class TrashFolder {
   /// Makes `files/` and `info/` in `folder` where they are missing. Nothing when they cannot be
   /// had.
   [[nodiscard]] static std::optional<TrashFolder> openCreating(const UniqueFd& folder);
+  /// The same, but makes nothing.
+  [[nodiscard]] static std::optional<TrashFolder> open(const UniqueFd& folder);
   /// The Trash whose `files/` is opened as `files`.
   [[nodiscard]] static std::optional<TrashFolder> openAround(const UniqueFd& files);
 
@@ -59,6 +62,8 @@ class TrashFolder {
   /// Only for a record that was there before its thing went: otherwise the name may have come to
   /// another thing meanwhile, and the record with it.
   void dropRecord(const std::string& name) const;
+  /// Drops each record that was written before `time` and has no thing.
+  void dropRecordsOfNothing(Date time) const;
 
  private:
   TrashFolder(UniqueFd files, UniqueFd info) : _files(std::move(files)), _info(std::move(info)) {}

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "platform/linux/trash_folder.h"
 
@@ -18,6 +19,9 @@ struct VolumeTrash {
 /// folder that is a link or lacks the sticky bit is passed over, and so is a folder that belongs to
 /// someone else. Nothing when there can be no Trash.
 [[nodiscard]] std::optional<VolumeTrash> openVolumeTrash(int top, std::uint64_t mount);
+
+/// Those that are there already; nothing is made.
+[[nodiscard]] std::vector<VolumeTrash> volumeTrashesAt(int top, std::uint64_t mount);
 
 /// The folder at whose top the Trash would be that has `item` directly in its `files/`. Goes by the
 /// text alone. Nothing when `item` is in no such place.

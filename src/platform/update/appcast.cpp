@@ -24,10 +24,11 @@ constexpr std::array<std::pair<const char*, std::string AppcastItem::*>, 7> elem
     {"sparkle:os", &AppcastItem::system},
 }};
 /// Attributes of its enclosure. Older feeds have the version here.
-constexpr std::array<std::pair<const char*, std::string AppcastItem::*>, 6> attributes{{
+constexpr std::array<std::pair<const char*, std::string AppcastItem::*>, 7> attributes{{
     {"url", &AppcastItem::address},
     {"length", &AppcastItem::length},
-    {"sparkle:edSignature", &AppcastItem::signature},
+    {"klarvik:sha256", &AppcastItem::digest},
+    {"klarvik:signature", &AppcastItem::signature},
     {"sparkle:version", &AppcastItem::version},
     {"sparkle:shortVersionString", &AppcastItem::displayVersion},
     {"sparkle:os", &AppcastItem::system},

@@ -16,11 +16,12 @@ struct AppcastItem {
   std::string notesLink;
   std::string minimumSystem;
   std::string maximumSystem;
-  std::string channel;  ///< empty: for everybody
-  std::string system;   ///< the operating system it is for; empty: any
-  std::string address;  ///< where the archive is
-  std::string length;   ///< of the archive, in bytes
-  std::string signature;
+  std::string channel;    ///< empty: for everybody
+  std::string system;     ///< the operating system it is for; empty: any
+  std::string address;    ///< where the archive is
+  std::string length;     ///< of the archive, in bytes
+  std::string digest;     ///< SHA-256 of the archive, in base64
+  std::string signature;  ///< of the release as a whole, in base64
 };
 
 /// The items of an RSS appcast in their order. The text may come from anywhere: reading it takes

@@ -14,7 +14,7 @@
 #include "platform/base64.h"
 #include "platform/desktop_services.h"
 #include "platform/update/appcast.h"
-#include "platform/update/archive_signature.h"
+#include "platform/update/release_signature.h"
 #include "platform/update/update_errors.h"
 #include "platform/user_defaults.h"
 
@@ -54,7 +54,7 @@ UpdaterError notSaved() {
 
 UpdaterError notGenuine() {
   return notAcceptable(
-      "The update is not signed by the makers of Klarvik, so Klarvik has thrown it away.");
+      "The update is not what the makers of Klarvik have signed, so Klarvik has thrown it away.");
 }
 
 /// As far as the network itself is to blame; what the updater said already stands.
@@ -85,11 +85,13 @@ void AppcastUpdater::stop() {
 }
 
 bool AppcastUpdater::canCheckForUpdates() const {
-  return _delegate != nullptr && (_phase == Phase::idle || _phase == Phase::offered);
+  const bool isFree = _phase == Phase::idle || _phase == Phase::offered || _standing;
+  return _delegate != nullptr && isFree;
 }
 
 void AppcastUpdater::checkForUpdates() {
   if (!canCheckForUpdates()) return;
+  returnToStandingOffer();
   _isFollowed = true;
   show(update_stage::Checking{});
   if (_phase == Phase::offered) return offer(std::move(_offer));
@@ -120,6 +122,7 @@ void AppcastUpdater::present(std::function<void(const UpdateStage&)> show) {
 }
 
 void AppcastUpdater::install() {
+  returnToStandingOffer();
   if (_phase == Phase::offered) return download();
   if (_delivered.empty()) return;
   if (!isStillWhatWasDelivered()) {
@@ -136,6 +139,7 @@ void AppcastUpdater::install() {
 }
 
 void AppcastUpdater::dismiss() {
+  returnToStandingOffer();
   switch (_phase) {
     case Phase::idle:
       _delivered.clear();
@@ -158,7 +162,9 @@ void AppcastUpdater::checkIfDue() {
   const bool isWanted = automaticallyChecksForUpdates() && _around.info.contains("SUFeedURL") &&
                         _delegate->mayCheckInBackground();
   const bool isAtRest = _phase == Phase::idle && _delivered.empty();
-  if (!isAtRest || !isWanted || !isDue()) return;
+  const bool isOffered = _phase == Phase::offered;
+  if ((!isAtRest && !isOffered) || !isWanted || !isDue()) return;
+  if (isOffered) return check(std::move(_offer));
   _isFollowed = false;
   check();
 }
@@ -178,12 +184,13 @@ void AppcastUpdater::rememberCheck() {
   _around.defaults.set(lastCheckKey, std::int64_t{seconds.time_since_epoch().count()});
 }
 
-void AppcastUpdater::check() {
+void AppcastUpdater::check(std::optional<UpdateOffer> standing) {
   abandon();
+  _standing = std::move(standing);
   _phase = Phase::checking;
   rememberCheck();
   const auto address = informationText(_around.info, "SUFeedURL");
-  if (!address) return fail(unusableFeed(url_code::fileNotFound, "No feed has been named."));
+  if (!address) return failCheck(unusableFeed(url_code::fileNotFound, "No feed has been named."));
   _fetch = std::make_unique<HttpsFetch>(
       _network, _around.clock,
       HttpsFetch::Request{QUrl(QString::fromStdString(*address), QUrl::StrictMode), _options.feed,
@@ -196,16 +203,32 @@ void AppcastUpdater::check() {
       [this](const auto& error) { judgeFeed(error); });
 }
 
+void AppcastUpdater::returnToStandingOffer() {
+  if (!_standing) return;
+  UpdateOffer standing = std::move(*_standing);
+  abandon();
+  _offer = std::move(standing);
+  _phase = Phase::offered;
+}
+
 void AppcastUpdater::judgeFeed(const std::optional<UpdaterError>& error) {
   if (error) {
-    return fail(during("The update feed could not be read.", updater_code::feedNotUsable, *error));
+    return failCheck(
+        during("The update feed could not be read.", updater_code::feedNotUsable, *error));
   }
   const auto items = parseAppcast(_feed);
-  if (!items) return fail(unusableFeed(url_code::badResponse, "The feed is no appcast."));
+  if (!items) return failCheck(unusableFeed(url_code::badResponse, "The feed is no appcast."));
   auto choice = chooseUpdate(*items, runningProgram(), _options.archive.mostBytes);
-  if (const auto* objection = std::get_if<UpdaterError>(&choice)) return fail(*objection);
+  if (const auto* objection = std::get_if<UpdaterError>(&choice)) return failCheck(*objection);
   auto* const found = std::get_if<UpdateOffer>(&choice);
-  return found != nullptr ? offer(std::move(*found)) : foundNothing();
+  if (found == nullptr) return foundNothing();
+  if (_standing == *found) return returnToStandingOffer();
+  offer(std::move(*found));
+}
+
+/// An offer that waits does not go because of a bad connection.
+void AppcastUpdater::failCheck(const UpdaterError& error) {
+  return _standing ? returnToStandingOffer() : fail(error);
 }
 
 RunningProgram AppcastUpdater::runningProgram() const {
@@ -222,6 +245,7 @@ RunningProgram AppcastUpdater::runningProgram() const {
 
 void AppcastUpdater::offer(UpdateOffer offer) {
   _fetch.reset();
+  _standing.reset();
   _phase = Phase::offered;
   _offer = std::move(offer);
   _delegate->didFindValidUpdate(_offer.version);
@@ -229,10 +253,11 @@ void AppcastUpdater::offer(UpdateOffer offer) {
 }
 
 void AppcastUpdater::foundNothing() {
+  const bool isShown = _isFollowed || _standing;
   abandon();
   _delegate->didNotFindUpdate();
   _delegate->didFinishUpdateCycle(std::nullopt);
-  if (_isFollowed) show(update_stage::UpToDate{});
+  if (isShown) show(update_stage::UpToDate{});
 }
 
 void AppcastUpdater::download() {
@@ -282,10 +307,9 @@ void AppcastUpdater::judgeArchive(const std::optional<UpdaterError>& error) {
 QCoro::Task<> AppcastUpdater::verify() {
   _fetch.reset();
   _phase = Phase::verifying;
-  auto judge = [archive = _archive, signature = _offer.signature,
-                key = runningProgram().publicKey.value_or("")] {
+  auto judge = [archive = _archive, digest = _offer.digest] {
     const bool isGenuine = archive->inspect(
-        [&](std::span<const std::byte> content) { return isSignedBy(key, content, signature); });
+        [&](std::span<const std::byte> content) { return digestOf(content) == digest; });
     if (!isGenuine) return std::optional(notGenuine());
     return archive->flush() ? std::nullopt : std::optional(notSaved());
   };
@@ -336,6 +360,7 @@ void AppcastUpdater::abandon() {
   _fetch.reset();
   _feed.clear();
   _offer = {};
+  _standing.reset();
   if (_archive) _archive->discard();
   _archive.reset();
   _delivered.clear();

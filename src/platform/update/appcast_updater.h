@@ -35,9 +35,10 @@ struct UpdaterOptions {
 /// Finds updates in the feed that the application's information names under "SUFeedURL", and
 /// accepts an archive only when the holder of the key behind "SUPublicEDKey" has signed it.
 ///
-/// Checks by itself at most once a day, whatever came of the last check. What it does on the disk:
-/// the preferences "automaticallyChecksForUpdates" and "lastUpdateCheckDate", and one file in the
-/// user's downloads once an archive has been accepted.
+/// Checks by itself at most once a day, whatever came of the last check, and also while an offer
+/// waits for an answer: a newer version takes its place, and one that was withdrawn goes. What it
+/// does on the disk: the preferences "automaticallyChecksForUpdates" and "lastUpdateCheckDate", and
+/// one file in the user's downloads once an archive has been accepted.
 class AppcastUpdater final : public QObject, public Updater {
  public:
   /// All of these must outlive the updater.
@@ -69,7 +70,10 @@ class AppcastUpdater final : public QObject, public Updater {
 
   void checkIfDue();
   [[nodiscard]] bool isDue() const;
-  void check();
+  /// `standing` is offered again unless the feed says otherwise.
+  void check(std::optional<UpdateOffer> standing = std::nullopt);
+  void returnToStandingOffer();
+  void failCheck(const UpdaterError& error);
   void rememberCheck();
   void judgeFeed(const std::optional<UpdaterError>& error);
   void offer(UpdateOffer offer);
@@ -101,6 +105,7 @@ class AppcastUpdater final : public QObject, public Updater {
   std::unique_ptr<HttpsFetch> _fetch;
   std::string _feed;
   UpdateOffer _offer;
+  std::optional<UpdateOffer> _standing;  ///< while the feed is read again
   std::shared_ptr<PendingFile> _archive;
   Path _delivered;  ///< logical; empty: nothing
   std::optional<FileAttributes> _deliveredAs;

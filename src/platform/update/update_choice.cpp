@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "platform/base64.h"
+#include "platform/update/release_signature.h"
 #include "platform/update/update_errors.h"
 #include "platform/update/version.h"
 
@@ -12,6 +13,7 @@ namespace klarvik {
 namespace {
 
 constexpr const char* thisSystem = "linux";
+constexpr std::size_t digestBytes = 32;
 constexpr std::size_t signatureBytes = 64;
 
 struct Candidate {
@@ -73,14 +75,26 @@ std::string shownVersion(const AppcastItem& item) {
   return version.substr(0, version.find('+'));
 }
 
-std::variant<UpdateOffer, UpdaterError> offerOf(const AppcastItem& item, std::int64_t mostBytes) {
+bool isSigned(const AppcastItem& item, const UpdateOffer& offer, const std::string& signature,
+              const std::string& publicKey) {
+  const auto statement = releaseStatement({.version = item.version,
+                                           .displayVersion = item.displayVersion,
+                                           .length = offer.length,
+                                           .digest = offer.digest});
+  return statement && isSignedBy(publicKey, *statement, signature);
+}
+
+std::variant<UpdateOffer, UpdaterError> offerOf(const AppcastItem& item,
+                                                const std::string& publicKey,
+                                                std::int64_t mostBytes) {
   UpdateOffer offer;
   offer.version = shownVersion(item);
   offer.notes = item.notes;
   offer.notesLink = secureAddress(item.notesLink);
   offer.address = secureAddress(item.address);
   offer.length = lengthOf(item);
-  offer.signature = bytesOfBase64(item.signature).value_or("");
+  offer.digest = bytesOfBase64(item.digest).value_or("");
+  const std::string signature = bytesOfBase64(item.signature).value_or("");
   if (offer.address.empty()) {
     return notAcceptable("Version " + offer.version +
                          " is not offered over a secure connection, so Klarvik leaves it alone.");
@@ -89,9 +103,13 @@ std::variant<UpdateOffer, UpdaterError> offerOf(const AppcastItem& item, std::in
     return notAcceptable("Version " + offer.version +
                          " does not say how long it is, so Klarvik leaves it alone.");
   }
-  if (offer.signature.size() != signatureBytes) {
+  if (offer.digest.size() != digestBytes || signature.size() != signatureBytes) {
     return notAcceptable("Version " + offer.version +
                          " is not signed, so Klarvik leaves it alone.");
+  }
+  if (!isSigned(item, offer, signature, publicKey)) {
+    return notAcceptable("Version " + offer.version +
+                         " is not signed by the makers of Klarvik, so Klarvik leaves it alone.");
   }
   return offer;
 }
@@ -108,7 +126,7 @@ std::variant<UpdateOffer, NothingNewer, UpdaterError> chooseUpdate(
   }
   std::optional<UpdaterError> objection;
   for (const Candidate& candidate : newer) {
-    auto judged = offerOf(*candidate.item, mostBytes);
+    auto judged = offerOf(*candidate.item, *running.publicKey, mostBytes);
     if (auto* const offer = std::get_if<UpdateOffer>(&judged)) return std::move(*offer);
     if (!objection) objection = std::get<UpdaterError>(judged);
   }

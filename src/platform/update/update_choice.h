@@ -20,14 +20,16 @@ struct RunningProgram {
   std::string systemVersion;
 };
 
-/// An item that may be offered: everything in it has been looked at, but for the archive itself.
+/// An item that may be offered: it is signed, and all that is left to be compared is the archive.
 struct UpdateOffer {
   std::string version;  ///< as people call it; nothing but a version
   std::string notes;
   std::string notesLink;
   std::string address;
   std::int64_t length = 0;
-  std::string signature;  ///< 64 bytes
+  std::string digest;  ///< SHA-256 of the archive, 32 bytes
+
+  bool operator==(const UpdateOffer&) const = default;
 };
 
 struct NothingNewer {};

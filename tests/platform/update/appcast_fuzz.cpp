@@ -17,9 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                         .displayVersion = "1",
                                         .publicKey = std::string(32, 'k'),
                                         .systemVersion = "6.1"};
+  // Nobody holds the key that belongs to this one.
   const auto choice = klarvik::chooseUpdate(*items, running, 1000);
-  if (const auto* offer = std::get_if<klarvik::UpdateOffer>(&choice)) {
-    if (offer->length <= 0 || offer->length > 1000 || offer->signature.size() != 64) std::abort();
-  }
+  if (std::holds_alternative<klarvik::UpdateOffer>(choice)) std::abort();
   return 0;
 }

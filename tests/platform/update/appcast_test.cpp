@@ -28,7 +28,7 @@ TEST(Appcast, ReadsAnItemWithTheVersionInElementsOfItsOwn) {
       "<sparkle:releaseNotesLink>https://example.com/notes</sparkle:releaseNotesLink>"
       "<description><![CDATA[<p>Better &amp; faster</p>]]></description>"
       "<enclosure url=\"https://example.com/k.deb\" length=\"12\" type=\"x\""
-      " sparkle:edSignature=\"c2ln\" sparkle:os=\"linux\"/>");
+      " klarvik:sha256=\"ZGln\" klarvik:signature=\"c2ln\" sparkle:os=\"linux\"/>");
   EXPECT_EQ(item.version, "200");
   EXPECT_EQ(item.displayVersion, "2.0");
   EXPECT_EQ(item.minimumSystem, "5.10");
@@ -38,6 +38,7 @@ TEST(Appcast, ReadsAnItemWithTheVersionInElementsOfItsOwn) {
   EXPECT_EQ(item.notes, "Better & faster");
   EXPECT_EQ(item.address, "https://example.com/k.deb");
   EXPECT_EQ(item.length, "12");
+  EXPECT_EQ(item.digest, "ZGln");
   EXPECT_EQ(item.signature, "c2ln");
   EXPECT_EQ(item.system, "linux");
 }

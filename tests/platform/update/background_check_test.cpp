@@ -52,11 +52,79 @@ TEST_F(BackgroundCheck, RunsRightAfterTheStartWhenItIsDueAndShowsWhatItFinds) {
   EXPECT_TRUE(is<update_stage::Offered>());
 }
 
-TEST_F(BackgroundCheck, LeavesAnOfferThatStandsAlone) {
-  pass(0h);
-  pass(72h);
-  EXPECT_EQ(checks(), 1U);
-  EXPECT_TRUE(is<update_stage::Offered>());
+/// An offer that waits while a day passes, and the feed that is read then.
+class StandingOffer : public BackgroundCheck {
+ protected:
+  void SetUp() override {
+    pass(0h);
+    ASSERT_TRUE(is<update_stage::Offered>());
+    stages.clear();
+    delegate.calls.clear();
+  }
+  void passADay() {
+    clock.advance(24h);
+    ASSERT_TRUE(
+        turnMainLoopUntil([this] { return checks() == 2 && server.openConnections() == 0; }));
+  }
+  [[nodiscard]] std::string offered() const {
+    const auto* stage =
+        stages.empty() ? nullptr : std::get_if<update_stage::Offered>(&stages.back());
+    return stage != nullptr ? stage->version : "";
+  }
+};
+
+TEST_F(StandingOffer, StaysAsItIsWhenTheFeedSaysTheSame) {
+  passADay();
+  EXPECT_THAT(stages, IsEmpty());
+  EXPECT_THAT(delegate.calls, IsEmpty());
+  ASSERT_TRUE(install());
+  EXPECT_THAT(downloads(), ElementsAre("Klarvik-2.0.deb"));
+}
+
+TEST_F(StandingOffer, GivesWayToANewerVersion) {
+  serve({.version = "2.1"});
+  passADay();
+  ASSERT_TRUE(turnMainLoopUntil([this] { return offered() == "2.1"; }));
+  EXPECT_THAT(delegate.calls, ElementsAre("found 2.1"));
+  ASSERT_TRUE(install());
+  EXPECT_THAT(downloads(), ElementsAre("Klarvik-2.1.deb"));
+}
+
+TEST_F(StandingOffer, GoesWhenTheFeedWithdrawsIt) {
+  server.answer("/feed", {.body = rss("")});
+  passADay();
+  ASSERT_TRUE(turnMainLoopUntil([this] { return is<update_stage::UpToDate>(); }));
+  updater->install();
+  EXPECT_THAT(downloads(), IsEmpty());
+}
+
+TEST_F(StandingOffer, StaysWhenTheFeedCannotBeRead) {
+  server.answer("/feed", {.body = "garbage"});
+  passADay();
+  EXPECT_THAT(stages, IsEmpty());
+  ASSERT_TRUE(install());
+  EXPECT_THAT(downloads(), ElementsAre("Klarvik-2.0.deb"));
+}
+
+TEST_F(StandingOffer, IsInstalledAlsoWhileTheFeedIsReadAgain) {
+  clock.advance(24h);
+  ASSERT_TRUE(install());
+  EXPECT_THAT(downloads(), ElementsAre("Klarvik-2.0.deb"));
+}
+
+TEST_F(StandingOffer, IsPutOffAlsoWhileTheFeedIsReadAgain) {
+  clock.advance(24h);
+  updater->dismiss();
+  EXPECT_THAT(delegate.calls, ElementsAre("aborted 4008", "finished 4008"));
+  EXPECT_TRUE(is<update_stage::Hidden>());
+  EXPECT_TRUE(updater->canCheckForUpdates());
+}
+
+TEST_F(StandingOffer, IsShownAgainWhenTheUserAsksWhileTheFeedIsRead) {
+  clock.advance(24h);
+  ASSERT_TRUE(updater->canCheckForUpdates());
+  updater->checkForUpdates();
+  EXPECT_EQ(offered(), "2.0");
 }
 
 TEST_F(QuietBackgroundCheck, ShowsNothingUnlessThereIsSomethingNew) {

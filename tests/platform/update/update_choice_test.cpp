@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "platform/base64.h"
+#include "platform/update/release_signature.h"
+#include "test_keys.h"
 
 namespace klarvik {
 namespace {
@@ -14,14 +17,24 @@ AppcastItem item(const std::string& version) {
   item.version = version;
   item.address = "https://example.com/klarvik-" + version + ".deb";
   item.length = "100";
-  item.signature = base64(std::string(64, 's'));
   return item;
 }
 
-RunningProgram running() {
+/// Signed as it stands, over an archive of the digest "ddd…".
+AppcastItem signedItem(AppcastItem item, const SigningKey& key) {
+  const std::string digest(32, 'd');
+  item.digest = base64(digest);
+  const auto statement =
+      releaseStatement({item.version, item.displayVersion,
+                        wholeNumber<std::int64_t>(item.length).value_or(0), digest});
+  item.signature = statement ? key.sign(*statement) : "";
+  return item;
+}
+
+RunningProgram running(const SigningKey& key) {
   return {.build = "1.9",
           .displayVersion = "1.9",
-          .publicKey = std::string(32, 'k'),
+          .publicKey = bytesOfBase64(key.publicKey()),
           .systemVersion = "6.1.0-13-amd64"};
 }
 
@@ -29,14 +42,21 @@ class UpdateChoice : public ::testing::Test {
  protected:
   /// The version that is offered; "" for nothing newer, and what is said where newer ones are
   /// refused.
-  std::string chosen(const std::vector<AppcastItem>& items) const {
+  std::string chosen(std::vector<AppcastItem> items) const {
+    for (AppcastItem& item : items) {
+      if (item.signature.empty()) item = signedItem(std::move(item), key);
+    }
+    return chosenAsTheyAre(items);
+  }
+  std::string chosenAsTheyAre(const std::vector<AppcastItem>& items) const {
     const auto choice = chooseUpdate(items, program, mostBytes);
     if (const auto* error = std::get_if<UpdaterError>(&choice)) return error->localizedDescription;
     const auto* offer = std::get_if<UpdateOffer>(&choice);
     return offer != nullptr ? offer->version : "";
   }
 
-  RunningProgram program = running();
+  SigningKey key;
+  RunningProgram program = running(key);
 };
 
 TEST_F(UpdateChoice, IsTheNewestWhereverItStands) {
@@ -107,21 +127,47 @@ TEST_F(UpdateChoice, PassesOverWhatNeedsANewerOrAnOlderSystem) {
 }
 
 TEST_F(UpdateChoice, IsTheNewestThatCanBeAccepted) {
-  AppcastItem unsignedItem = item("4.0");
-  unsignedItem.signature.clear();
   AppcastItem insecure = item("3.0");
   insecure.address = "http://example.com/k.deb";
-  EXPECT_EQ(chosen({unsignedItem, insecure, item("2.0")}), "2.0");
+  EXPECT_EQ(chosenAsTheyAre({item("4.0"), insecure, signedItem(item("2.0"), key)}), "2.0");
 }
 
 TEST_F(UpdateChoice, SaysWhyNoneCanBeAccepted) {
-  AppcastItem broken = item("2.0");
-  broken.signature.clear();
-  EXPECT_EQ(chosen({broken}), "Version 2.0 is not signed, so Klarvik leaves it alone.");
-  broken.signature = base64("short");
-  EXPECT_EQ(chosen({broken}), "Version 2.0 is not signed, so Klarvik leaves it alone.");
-  broken.signature = "!!!";
-  EXPECT_EQ(chosen({broken}), "Version 2.0 is not signed, so Klarvik leaves it alone.");
+  const std::string unsignedVersion = "Version 2.0 is not signed, so Klarvik leaves it alone.";
+  EXPECT_EQ(chosenAsTheyAre({item("2.0")}), unsignedVersion);
+  for (const std::string& broken : {base64("short"), std::string("!!!")}) {
+    AppcastItem item = signedItem(klarvik::item("2.0"), key);
+    item.signature = broken;
+    EXPECT_EQ(chosenAsTheyAre({item}), unsignedVersion);
+    item = signedItem(klarvik::item("2.0"), key);
+    item.digest = broken;
+    EXPECT_EQ(chosenAsTheyAre({item}), unsignedVersion);
+  }
+}
+
+TEST_F(UpdateChoice, TakesNothingThatClaimsOtherThanWhatWasSigned) {
+  const std::string refused =
+      " is not signed by the makers of Klarvik, so Klarvik leaves it alone.";
+  const AppcastItem genuine = signedItem(item("2.0"), key);
+  EXPECT_EQ(chosenAsTheyAre({genuine}), "2.0");
+  AppcastItem renumbered = genuine;
+  renumbered.version = "3.0";
+  EXPECT_EQ(chosenAsTheyAre({renumbered}), "Version 3.0" + refused);
+  AppcastItem renamed = genuine;
+  renamed.displayVersion = "3.0";
+  EXPECT_EQ(chosenAsTheyAre({renamed}), "Version 3.0" + refused);
+  AppcastItem longer = genuine;
+  longer.length = "101";
+  EXPECT_EQ(chosenAsTheyAre({longer}), "Version 2.0" + refused);
+  AppcastItem another = genuine;
+  another.digest = base64(std::string(32, 'e'));
+  EXPECT_EQ(chosenAsTheyAre({another}), "Version 2.0" + refused);
+  EXPECT_EQ(chosenAsTheyAre({signedItem(item("2.0"), SigningKey())}), "Version 2.0" + refused);
+  AppcastItem twoLines = item("2.0");
+  twoLines.version = "2.0+\nlength 1";
+  twoLines.signature = key.sign("klarvik release 1");
+  twoLines.digest = genuine.digest;
+  EXPECT_EQ(chosenAsTheyAre({twoLines}), "Version 2.0" + refused);
 }
 
 TEST_F(UpdateChoice, TakesArchivesFromSecureAddressesOnly) {
@@ -155,10 +201,13 @@ TEST_F(UpdateChoice, WithoutAKeyIsNothingAndSaysWhy) {
 TEST_F(UpdateChoice, LinksToNotesOnSecureAddressesOnly) {
   AppcastItem linked = item("2.0");
   linked.notesLink = "javascript:alert(1)";
-  EXPECT_EQ(std::get<UpdateOffer>(chooseUpdate({linked}, program, mostBytes)).notesLink, "");
+  const auto notesLink = [&] {
+    return std::get<UpdateOffer>(chooseUpdate({signedItem(linked, key)}, program, mostBytes))
+        .notesLink;
+  };
+  EXPECT_EQ(notesLink(), "");
   linked.notesLink = "https://example.com/notes";
-  EXPECT_EQ(std::get<UpdateOffer>(chooseUpdate({linked}, program, mostBytes)).notesLink,
-            "https://example.com/notes");
+  EXPECT_EQ(notesLink(), "https://example.com/notes");
 }
 
 }  // namespace

@@ -240,6 +240,20 @@ TEST_F(UpdateFeed, WithAnUnsignedVersionOffersNothingAndSaysSo) {
   EXPECT_EQ(sentence(), "Version 2.0 is not signed, so Klarvik leaves it alone.");
 }
 
+TEST_F(UpdateFeed, WithAVersionOfAnotherSignerOffersNothingAndSaysSo) {
+  serve({.version = "2.0", .signature = SigningKey().sign(archive)});
+  expectRefusal();
+  EXPECT_EQ(sentence(),
+            "Version 2.0 is not signed by the makers of Klarvik, so Klarvik leaves it alone.");
+}
+
+TEST_F(UpdateFeed, WithAnOldSignedArchiveUnderANewNumberOffersNothingAndSaysSo) {
+  serve({.version = "3.0", .signedAs = "1.0"});
+  expectRefusal();
+  EXPECT_EQ(sentence(),
+            "Version 3.0 is not signed by the makers of Klarvik, so Klarvik leaves it alone.");
+}
+
 TEST_F(UpdateFeed, WithoutAKeyInTheProgramOffersNothingAndSaysSo) {
   for (const char* const noKey : {"", "garbage", "c2hvcnQ="}) {
     info["SUPublicEDKey"] = std::string(noKey);

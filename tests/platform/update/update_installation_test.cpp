@@ -116,18 +116,12 @@ TEST_F(UpdateInstallation, NamesTheFileItselfWhateverTheAddressSays) {
   EXPECT_THAT(downloads(), ElementsAre("Klarvik-2.0"));
 }
 
-TEST_F(UpdateInstallation, RefusesAnArchiveThatIsWronglySigned) {
-  serve({.version = "2.0", .signature = SigningKey().sign(archive)});
-  expectRefusal(
-      "The update is not signed by the makers of Klarvik, so Klarvik has thrown it away.");
-}
-
 TEST_F(UpdateInstallation, RefusesAnArchiveInWhichAByteHasChanged) {
   std::string changed = archive;
   changed.back() = 'x';
   server.answer("/k.deb", {.body = changed});
   expectRefusal(
-      "The update is not signed by the makers of Klarvik, so Klarvik has thrown it away.");
+      "The update is not what the makers of Klarvik have signed, so Klarvik has thrown it away.");
 }
 
 TEST_F(UpdateInstallation, RefusesAnArchiveThatIsShorterThanAnnounced) {

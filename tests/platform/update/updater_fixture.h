@@ -7,13 +7,17 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "base/text.h"
 #include "https_server.h"
 #include "platform/application_info.h"
+#include "platform/base64.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/update/appcast_updater.h"
+#include "platform/update/release_signature.h"
 #include "support/application/main_loop.h"
 #include "support/desktop_fakes.h"
 #include "support/fake_clock.h"
@@ -65,6 +69,7 @@ class UpdaterFixture : public ::testing::Test {
     std::string url = {};        ///< empty: /k.deb of the server
     std::string length = {};     ///< empty: that of the archive
     std::string signature = {};  ///< empty: a good one; "-": none
+    std::string signedAs = {};   ///< empty: the version; what the signature says otherwise
   };
 
   static std::string rss(const std::string& content) {
@@ -74,11 +79,17 @@ class UpdaterFixture : public ::testing::Test {
     const auto or_ = [](const std::string& text, const std::string& other) {
       return text.empty() ? other : text;
     };
-    const std::string signature = or_(item.signature, key.sign(archive));
+    const std::string digest = digestOf(std::as_bytes(std::span(archive)));
+    const auto length = wholeNumber<std::int64_t>(or_(item.length, std::to_string(archive.size())));
+    const auto statement =
+        releaseStatement({or_(item.signedAs, item.version), "", length.value_or(0), digest});
+    const std::string signature = or_(item.signature, key.sign(statement.value_or("")));
     return rss("<item><sparkle:version>" + item.version + "</sparkle:version><description>Faster." +
                "</description><enclosure url=\"" + or_(item.url, server.address("/k.deb")) +
                "\" length=\"" + or_(item.length, std::to_string(archive.size())) + "\"" +
-               (signature == "-" ? "" : " sparkle:edSignature=\"" + signature + "\"") +
+               (signature == "-" ? ""
+                                 : " klarvik:sha256=\"" + base64(digest) +
+                                       "\" klarvik:signature=\"" + signature + "\"") +
                "/></item>");
   }
   void serve(const FeedItem& item) { server.answer("/feed", {.body = feedOf(item)}); }
