@@ -59,13 +59,22 @@ bool isAppImage(const FileSystem& files, const Path& path) {
          text.substr(8, 2) == "AI" && (text[10] == 1 || text[10] == 2);
 }
 
+/// A home that is a link has two names; the rules know the one that the user goes by.
+std::optional<Path> inNamedHome(const FileSystem& files, const std::optional<Path>& real) {
+  const Path home = files.realHome();
+  if (!real || home == files.home() || !isBelow(real->native(), home.native())) return real;
+  return files.home() / real->lexically_relative(home);
+}
+
 /// What a link at the end of `path` leads to, link after link; links that go in circles lead
 /// nowhere.
 std::optional<Path> followed(const FileSystem& files, Path path) {
   for (int link = 0; link <= mostLinks; ++link) {
     const auto attributes = files.attributes(path);
     if (!attributes) return std::nullopt;
-    if (attributes->kind != FileKind::symbolicLink) return files.realPath(path);
+    if (attributes->kind != FileKind::symbolicLink) {
+      return inNamedHome(files, files.realPath(path));
+    }
     const auto target = files.linkTarget(path);
     const auto real = files.realPath(path);
     if (!target || !real) return std::nullopt;
@@ -157,7 +166,7 @@ class Search {
       return entry.depth() < deepestEntry ? WalkStep::proceed : WalkStep::skipDescendants;
     };
     // A walk enters no link, and the folder of a Flatpak's entries lies behind two.
-    if (const auto real = _files.realPath(start / "x")) {
+    if (const auto real = inNamedHome(_files, _files.realPath(start / "x"))) {
       _files.walk(real->parent_path(), {.skipHidden = true, .stayOnMount = true}, visit);
       std::ranges::sort(found);
       for (const Path& path : found) {
@@ -229,17 +238,33 @@ class Search {
     const auto installed = std::ranges::find_if(entries, isOthers);
     const FoundEntry& source = installed != entries.end() ? **installed : *entries.front();
 
+    std::optional<AppInfo> app = appOf(source);
+    if (!app) return;
+    const bool isShown = !face.isHidden && !face.isNotDisplayed && face.isShownIn(desktops);
+    for (const FoundEntry* other : entries) {
+      // Of the same identifier and hidden behind this one, but there.
+      auto hidden = other != &source && !other->isOwn ? appOf(*other) : std::nullopt;
+      if (hidden && !isSameApplication(*hidden, *app)) keep(*std::move(hidden), false);
+    }
+    app->name = nameOf(face.name, source.id);
+    app->icon = face.icon;
+    keep(*std::move(app), isShown);
+  }
+
+  static std::string nameOf(const std::string& name, const std::string& id) {
+    return std::string(firstCharacters(printable(name.empty() ? id : name), longestName));
+  }
+
+  [[nodiscard]] std::optional<AppInfo> appOf(const FoundEntry& source) const {
     std::optional<AppInfo> app = flatpakOf(source);
     if (!app) app = snapOf(source);
     if (!app && source.entry.flatpak.empty() && source.entry.snap.empty()) app = programAt(source);
-    if (!app) return;
-    app->name = std::string(
-        firstCharacters(printable(face.name.empty() ? source.id : face.name), longestName));
+    if (!app) return std::nullopt;
+    app->name = nameOf(source.entry.name, source.id);
     app->bundleID = source.id;
-    app->icon = face.icon;
+    app->icon = source.entry.icon;
     identify(*app, source);
-    const bool isShown = !face.isHidden && !face.isNotDisplayed && face.isShownIn(desktops);
-    keep(*std::move(app), isShown);
+    return app;
   }
 
   [[nodiscard]] std::optional<AppInfo> flatpakOf(const FoundEntry& source) const {

@@ -212,6 +212,19 @@ TEST_F(LinuxApplications, OfTheUserAreNeverSoughtOutsideOfTheFoldersForPrograms)
   EXPECT_THAT(names(), ElementsAre("Letter"));
 }
 
+TEST_F(LinuxApplications, OfAHomeThatIsALinkAreNamedAsTheUserNamesIt) {
+  std::filesystem::remove_all(disk.onDisk(home));
+  disk.makeFolder("/data/ann");
+  disk.makeLink(home, "../data/ann");
+  installByHand("ink");
+  appImage(home / "Applications/Krita-5.2.AppImage");
+  EXPECT_EQ(appCalled("ink").appURL, home / ".local/opt/ink-2.1");
+  EXPECT_TRUE(appCalled("ink").goesToTrash());
+  EXPECT_TRUE(engine.remove(appCalled("ink"), {}).isGone);
+  EXPECT_FALSE(disk.holds("/data/ann/.local/opt/ink-2.1"));
+  EXPECT_TRUE(engine.remove(appCalled("Krita-5.2"), {}).isGone);
+}
+
 TEST(ApplicationsOfTheLinuxSampleDisk, AreOfEveryKindAndLeaveOnlyTheirOwn) {
   FakeDesktopOnDisk world{std::nullopt, linuxHome};
   std::filesystem::remove_all(world.disk.onDisk("/home"));

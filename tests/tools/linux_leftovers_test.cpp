@@ -135,6 +135,17 @@ TEST_F(LinuxLeftovers, OfSandboxesLieInTheFoldersOfTheSandbox) {
   EXPECT_EQ(ofInk[0].category, ResidualCategory::containers);
 }
 
+TEST_F(LinuxLeftovers, OfAFlatpakThatIsInstalledTwiceAreStillNeeded) {
+  const std::string id = "org.acme.Typewriter";
+  installFlatpak("/var/lib/flatpak", id, "Typewriter");
+  leave({".var/app/" + id});
+  const AppInfo app = appCalled("Typewriter");
+  EXPECT_THAT(leftoversOf(app), SizeIs(1));
+  installFlatpak(home / ".local/share/flatpak", id, "Typewriter");
+  EXPECT_THAT(names(), ElementsAre("Typewriter"));
+  EXPECT_THAT(leftoversOf(app), IsEmpty());
+}
+
 TEST_F(LinuxLeftovers, AreNoLinksAndNothingBehindOne) {
   installDebian("writer");
   disk.makeFile(home / "Documents/writer/letter", 9'000);
