@@ -140,6 +140,18 @@ void syncFolder(const std::filesystem::path& folder) {
 
 }  // namespace
 
+std::filesystem::path linkedFile(const std::filesystem::path& file) {
+  constexpr int mostLinks = 40;
+  std::filesystem::path place = file;
+  for (int link = 0; link < mostLinks; ++link) {
+    std::error_code error;
+    const auto target = std::filesystem::read_symlink(place, error);
+    if (error) return place;
+    place = place.parent_path() / target;
+  }
+  return file;
+}
+
 bool writeAtomically(const std::filesystem::path& file, std::string_view content, ::mode_t mode) {
   // In folders that are everybody's, under a name that nobody else gives.
   const std::filesystem::path fresh =

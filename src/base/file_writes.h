@@ -62,9 +62,13 @@ class PendingFile {
   std::int64_t _size = 0;
 };
 
-/// Puts `content` in the place of `file`, a path on the machine. Whoever reads the file, also after
-/// a crash at any moment, finds either all that stood there before or all of `content`. `mode` says
-/// who may read it: the user alone, unless told otherwise.
+/// What `file`, a path on the machine, means once the links that it is are followed: people keep
+/// such files elsewhere and link to them. `file` itself where it is no link, or links in a circle.
+[[nodiscard]] std::filesystem::path linkedFile(const std::filesystem::path& file);
+
+/// Puts `content` in the place of `file`, a path on the machine; of a link, too.
+/// Whoever reads the file, also after a crash at any moment, finds either all that stood there
+/// before or all of `content`. `mode` says who may read it: the user alone, unless told otherwise.
 ///
 /// False when that failed; what stood there before then still stands. Two writers of one file must
 /// keep each other out.

@@ -19,6 +19,9 @@ using DefaultsValue = std::variant<bool, std::int64_t, double, std::string, Byte
 /// this program or from outside. Also when none has: whoever hears it reads again what it needs.
 inline constexpr const char* defaultsChangedNotification = "klarvik.defaultsChanged";
 
+/// Posted the same way, once in a run, when a preference could not be stored.
+inline constexpr const char* defaultsNotSavedNotification = "klarvik.defaultsNotSaved";
+
 /// The user's preferences: typed values under text keys, kept across restarts. Each read sees what
 /// stands on the disk now, also when another process wrote it. May be called from any thread.
 class UserDefaults {

@@ -65,7 +65,7 @@ Item {
         height: isNeeded ? banner.y + banner.implicitHeight : 0
         visible: isNeeded
 
-        readonly property bool isNeeded: root.shell.removalNotice !== ""
+        readonly property bool isNeeded: root.shell.notice !== ""
 
         ResultBanner {
             id: banner
@@ -73,13 +73,13 @@ Item {
             y: 12
             symbol: "exclamationmark.triangle.fill"
             symbolColor: Theme.review
-            headline: qsTr("Something was left as it was")
-            detail: root.shell.removalNotice
+            headline: root.shell.noticeHeadline
+            detail: root.shell.notice
 
             SymbolButton {
                 symbol: "xmark"
                 title: qsTr("Dismiss")
-                onAction: root.shell.dismissRemovalNotice()
+                onAction: root.shell.dismissNotice()
             }
         }
     }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <vector>
 
+#include "platform/notification_center.h"
 #include "platform/platform.h"
 #include "shell/app_commands_model.h"
 #include "shell/disk_block_model.h"
@@ -30,7 +31,8 @@ class AppShellModel : public QObject {
   Q_PROPERTY(klarvik::PaneStackModel* panes READ panes CONSTANT)
   Q_PROPERTY(klarvik::FullDiskAccessModel* access READ access CONSTANT)
   Q_PROPERTY(klarvik::AppCommandsModel* commands READ commands CONSTANT)
-  Q_PROPERTY(QString removalNotice READ removalNotice NOTIFY removalNoticeChanged)
+  Q_PROPERTY(QString noticeHeadline READ noticeHeadline NOTIFY noticeChanged)
+  Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
 
  public:
   AppShellModel(const std::vector<PaneEntry>& panes, AppState& appState, SharedState& shared,
@@ -43,13 +45,15 @@ class AppShellModel : public QObject {
   [[nodiscard]] FullDiskAccessModel* access() { return &_access; }
   [[nodiscard]] AppCommandsModel* commands() const { return &_commands; }
   /// Empty while there is none.
-  [[nodiscard]] QString removalNotice() const;
-  Q_INVOKABLE void dismissRemovalNotice() { _removalNotice.dismiss(); }
+  [[nodiscard]] QString noticeHeadline() const;
+  /// Empty while there is nothing to tell.
+  [[nodiscard]] QString notice() const;
+  Q_INVOKABLE void dismissNotice();
   Q_INVOKABLE void openSettings() { emit settingsAsked(); }
 
  signals:
   void settingsAsked();
-  void removalNoticeChanged();
+  void noticeChanged();
 
  private:
   SidebarModel _sidebar;
@@ -59,6 +63,8 @@ class AppShellModel : public QObject {
   FullDiskAccessModel _access;
   AppCommandsModel& _commands;
   RemovalNotice& _removalNotice;
+  bool _tellsOfSettings = false;  ///< that could not be saved
+  NotificationCenter::Subscription _onSettingsNotSaved;
 };
 
 }  // namespace klarvik

@@ -209,6 +209,33 @@ TEST_F(JsonUserDefaultsTest, EveryBrokenDocumentIsKeptAsideUnderANameOfItsOwn) {
   }
 }
 
+TEST_F(JsonUserDefaultsTest, ADocumentBehindLinksIsWrittenWhereItIs) {
+  config.makeFile("dotfiles/preferences.json", std::string_view("{\"kept\": true}"));
+  config.makeLink("dotfiles/link", "preferences.json");
+  config.makeLink(fileName, config.onDisk("dotfiles/link"));
+  ASSERT_TRUE(open().set("useTrash", true));
+  EXPECT_TRUE(std::filesystem::is_symlink(config.onDisk(fileName)));
+  EXPECT_TRUE(std::filesystem::is_symlink(config.onDisk("dotfiles/link")));
+  EXPECT_THAT(config.contentOf("dotfiles/preferences.json"), testing::HasSubstr("useTrash"));
+  EXPECT_EQ(open().object("kept"), DefaultsValue(true));
+  EXPECT_EQ(open().object("useTrash"), DefaultsValue(true));
+
+  config.makeFile("dotfiles/preferences.json", std::string_view("broken"));
+  ASSERT_TRUE(open().set("useTrash", false));
+  EXPECT_TRUE(std::filesystem::is_symlink(config.onDisk(fileName)));
+  EXPECT_EQ(open().object("useTrash"), DefaultsValue(false));
+}
+
+TEST_F(JsonUserDefaultsTest, ALinkInACircleStaysAndOneToNothingIsFilledIn) {
+  config.makeLink(fileName, config.onDisk(fileName));
+  EXPECT_FALSE(open().set("useTrash", true));
+  std::filesystem::remove(config.onDisk(fileName));
+  config.makeFolder("dotfiles");
+  config.makeLink(fileName, config.onDisk("dotfiles/new.json"));
+  ASSERT_TRUE(open().set("useTrash", true));
+  EXPECT_TRUE(config.holds("dotfiles/new.json"));
+}
+
 TEST_F(JsonUserDefaultsTest, GivesUpWhenAnotherNeverLetsGoOfTheLock) {
   ASSERT_TRUE(open().set("useTrash", true));
   const auto held = FileLock::take(folder() / "preferences.lock", std::chrono::milliseconds(0));

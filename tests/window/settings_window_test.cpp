@@ -54,6 +54,18 @@ TEST_F(SettingsWindow, OpensFromTheSidebarAndHoldsEveryRow) {
   picture("settings_general");
 }
 
+TEST_F(SettingsWindow, TheMainOneSaysOnceThatSettingsCannotBeSaved) {
+  openWindow();
+  desk->notifications.post(defaultsNotSavedNotification);
+  settle();
+  EXPECT_TRUE(shows("Your settings cannot be saved"));
+  EXPECT_TRUE(shows("They hold until Klarvik quits."));
+  picture("settings_not_saved");
+  click("Dismiss");
+  settle();
+  EXPECT_FALSE(shows("Your settings cannot be saved"));
+}
+
 TEST_F(SettingsWindow, OpensOverTheMiddleOfTheMainWindow) {
   openWindow();
   window().setGeometry(40, 60, 920, 640);

@@ -18,16 +18,10 @@ Label {
 
     HoverHandler {
         id: hover
-
-        onHoveredChanged: tipLoader.setSource(hover.hovered && root.tip !== "" ? "KitToolTip.qml" : "", {
-            text: root.tip,
-            shown: true
-        })
     }
 
-    Loader {
-        id: tipLoader
-
-        anchors.fill: parent
+    HelpTip {
+        text: root.tip
+        hovered: hover.hovered
     }
 }

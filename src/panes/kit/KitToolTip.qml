@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Window
 import QtQuick.Templates as T
 import Klarvik.Kit
 
@@ -9,6 +10,15 @@ T.ToolTip {
 
     property bool shown: false
 
+    // Beside what it is about, never over it.
+    readonly property bool fitsBelow: {
+        const window = root.parent ? root.parent.Window.window : null;
+        if (!root.visible || !window)
+            return true;
+        const bottom = root.parent.mapToItem(null, 0, root.parent.height).y;
+        return bottom + 6 + root.implicitHeight + root.margins <= window.height;
+    }
+
     visible: root.shown && root.text !== ""
     delay: 700
     timeout: 12000
@@ -16,7 +26,7 @@ T.ToolTip {
     padding: 6
     leftPadding: 9
     rightPadding: 9
-    y: root.parent ? root.parent.height + 6 : 0
+    y: root.fitsBelow ? root.parent.height + 6 : -root.implicitHeight - 6
     implicitWidth: Math.min(360, label.implicitWidth + root.leftPadding + root.rightPadding)
     implicitHeight: label.implicitHeight + root.topPadding + root.bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent

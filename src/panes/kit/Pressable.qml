@@ -52,10 +52,6 @@ Item {
     Keys.onEnterPressed: event => root.answer(event)
     onBackgroundChanged: root.putInto(root.background, backgroundSlot)
     onContentItemChanged: root.putInto(root.contentItem, contentSlot)
-    onHoveredChanged: tip.setSource(root.hovered && root.help !== "" ? "KitToolTip.qml" : "", {
-        text: root.help,
-        shown: true
-    })
 
     HoverHandler {
         id: hover
@@ -86,8 +82,8 @@ Item {
         gap: root.ringGap
     }
 
-    Loader {
-        id: tip
-        anchors.fill: parent
+    HelpTip {
+        text: root.help
+        hovered: root.hovered
     }
 }

@@ -48,24 +48,47 @@ ObservedUserDefaults::ObservedUserDefaults(UserDefaults& stored, const Path& fil
       _outsideChanges(file, [this] { _notifications.post(defaultsChangedNotification); }) {}
 
 std::optional<DefaultsValue> ObservedUserDefaults::object(const std::string& key) const {
-  return _stored.object(key);
+  const std::scoped_lock lock(_mutex);
+  const auto waiting = _notStored.find(key);
+  return waiting != _notStored.end() ? waiting->second : _stored.object(key);
 }
 
 bool ObservedUserDefaults::set(const std::string& key, const DefaultsValue& value) {
-  return tellLater(_stored.set(key, value));
+  return change(key, value);
 }
 
 bool ObservedUserDefaults::remove(const std::string& key) {
-  return tellLater(_stored.remove(key));
+  return change(key, std::nullopt);
 }
 
-/// The watch would see this change as well, but a system may have no watches left.
-bool ObservedUserDefaults::tellLater(bool hasChanged) {
-  if (hasChanged) {
-    QMetaObject::invokeMethod(
-        this, [this] { _notifications.post(defaultsChangedNotification); }, Qt::QueuedConnection);
+bool ObservedUserDefaults::change(const std::string& key, const Wish& wish) {
+  const std::scoped_lock lock(_mutex);
+  const bool stored = isStored(key, wish);
+  if (stored) {
+    _notStored.erase(key);
+    storeWhatWaits();
+  } else {
+    _notStored[key] = wish;
+    if (!_hasToldOfIt) postLater(defaultsNotSavedNotification);
+    _hasToldOfIt = true;
   }
-  return hasChanged;
+  // The watch would see a stored change as well, but a system may have no watches left.
+  postLater(defaultsChangedNotification);
+  return stored;
+}
+
+bool ObservedUserDefaults::isStored(const std::string& key, const Wish& wish) {
+  return wish ? _stored.set(key, *wish) : _stored.remove(key);
+}
+
+void ObservedUserDefaults::storeWhatWaits() {
+  std::erase_if(_notStored,
+                [this](const auto& waiting) { return isStored(waiting.first, waiting.second); });
+}
+
+void ObservedUserDefaults::postLater(const char* notification) {
+  QMetaObject::invokeMethod(
+      this, [this, notification] { _notifications.post(notification); }, Qt::QueuedConnection);
 }
 
 }  // namespace klarvik

@@ -3,6 +3,10 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <functional>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
 
 #include "platform/path.h"
 #include "platform/user_defaults.h"
@@ -28,7 +32,8 @@ class FileWatch {
 class NotificationCenter;
 
 /// Preferences that are kept in a file, with `defaultsChangedNotification` posted after each change
-/// to them. Made and destroyed on the main thread.
+/// to them. One that cannot be stored holds for the rest of the run, or until it can. Made and
+/// destroyed on the main thread.
 class ObservedUserDefaults final : public QObject, public UserDefaults {
  public:
   /// `file`, on the machine, is where `stored` keeps them. What is handed in must outlive this.
@@ -39,11 +44,19 @@ class ObservedUserDefaults final : public QObject, public UserDefaults {
   bool remove(const std::string& key) override;
 
  private:
-  bool tellLater(bool hasChanged);
+  using Wish = std::optional<DefaultsValue>;  ///< nothing: removed
+
+  bool change(const std::string& key, const Wish& wish);
+  [[nodiscard]] bool isStored(const std::string& key, const Wish& wish);
+  void storeWhatWaits();
+  void postLater(const char* notification);
 
   UserDefaults& _stored;
   NotificationCenter& _notifications;
   FileWatch _outsideChanges;
+  mutable std::mutex _mutex;  // guards what follows
+  std::map<std::string, Wish> _notStored;
+  bool _hasToldOfIt = false;
 };
 
 }  // namespace klarvik

@@ -225,13 +225,14 @@ bool JsonUserDefaults::change(const std::function<void(json& document)>& apply) 
   const auto lock = FileLock::take(_folder / "preferences.lock", lockPatience);
   if (!lock) return false;
 
-  Reading reading = Reading::of(_file);
+  const Path place = linkedFile(_file);
+  Reading reading = Reading::of(place);
   if (reading.condition == Reading::Condition::unreadable) return false;
   apply(reading.document);
   const std::string text = reading.document.dump(2) + '\n';
   if (text.size() > largestDocument) return false;
-  if (reading.condition == Reading::Condition::broken && !keepAside(_file)) return false;
-  return writeAtomically(_file, text);
+  if (reading.condition == Reading::Condition::broken && !keepAside(place)) return false;
+  return writeAtomically(place, text);
 }
 
 }  // namespace klarvik

@@ -44,6 +44,61 @@ TEST_F(Elements, ThatCanBePressedTellTheirRoleAndName) {
   }
 }
 
+class ToolTips : public KitWindow {
+ protected:
+  /// A button inside something that can be pressed as well; both have help.
+  void showNested(const QByteArray& y) {
+    show("Item { width: 400; height: 300; Pressable { objectName: 'outer'; x: 20; y: " + y +
+         "; width: 300; height: 50; title: 'Trash'; help: 'Opens the Trash'; TextButton { "
+         "objectName: 'inner'; x: 200; y: 10; title: 'Empty'; help: 'Removes Zero KB' } } }");
+  }
+  void pointAt(const char* name, QPointF place) {
+    QTest::mouseMove(&view, part(name)->mapToScene(place).toPoint());
+  }
+  /// Of the tooltips that are to be seen.
+  [[nodiscard]] QList<QObject*> tips() {
+    QList<QObject*> seen;
+    for (QObject* object : view.rootObject()->findChildren<QObject*>()) {
+      if (object->inherits("QQuickToolTip") && object->property("opened").toBool()) seen << object;
+    }
+    return seen;
+  }
+  [[nodiscard]] bool showsOnly(const QString& text) {
+    return QTest::qWaitFor([&] {
+      const QList<QObject*> seen = tips();
+      return seen.size() == 1 && seen.front()->property("text") == text;
+    });
+  }
+};
+
+TEST_F(ToolTips, OfThingsInsideEachOtherOnlyTheInnermostIsShown) {
+  showNested("40");
+  pointAt("outer", {10, 25});
+  EXPECT_TRUE(showsOnly("Opens the Trash"));
+  pointAt("inner", {5, 5});
+  EXPECT_TRUE(showsOnly("Removes Zero KB"));
+  pointAt("outer", {10, 25});
+  EXPECT_TRUE(showsOnly("Opens the Trash"));
+}
+
+TEST_F(ToolTips, SayWhatIsTrueAtThisMoment) {
+  showNested("40");
+  pointAt("inner", {5, 5});
+  ASSERT_TRUE(showsOnly("Removes Zero KB"));
+  part("inner")->setProperty("help", "Removes 64 MB");
+  EXPECT_TRUE(showsOnly("Removes 64 MB"));
+  part("inner")->setProperty("help", "");
+  EXPECT_TRUE(showsOnly("Opens the Trash"));
+}
+
+TEST_F(ToolTips, StandAboveWhatIsAtTheBottomOfTheWindow) {
+  showNested("245");
+  pointAt("inner", {5, 5});
+  ASSERT_TRUE(showsOnly("Removes Zero KB"));
+  const QObject* tip = tips().front();
+  EXPECT_LE(tip->property("y").toReal() + tip->property("height").toReal(), 0);
+}
+
 TEST_F(Elements, ThatCanBePressedAnswerThePointerSpaceAndReturn) {
   for (const PressableElement& element : pressables) {
     QQuickItem* item = showOne(QByteArray(element.qml) + "; objectName: 'it'; x: 40; y: 40 }");

@@ -53,6 +53,28 @@ TEST_F(ObservedUserDefaultsTest, TellsOfAChangeThatThisProgramMakesOnceTheMainLo
   EXPECT_FALSE(observed->object("showMenuBar"));
 }
 
+TEST_F(ObservedUserDefaultsTest, WhatCannotBeStoredHoldsForThisRunAndIsToldOnce) {
+  int told = 0;
+  const auto notSaved = notifications.observe(defaultsNotSavedNotification, [&told] { ++told; });
+  FakeUserDefaults memory;
+  observe(memory, home.path() / "nowhere/preferences.json");
+  ASSERT_TRUE(observed->set("showMenuBar", true));
+  ASSERT_TRUE(observed->set("removed", true));
+  memory.refuseWrites(true);
+  EXPECT_FALSE(observed->set("showMenuBar", false));
+  EXPECT_FALSE(observed->remove("removed"));
+  EXPECT_TRUE(sees({false}));
+  EXPECT_FALSE(observed->boolean("showMenuBar", true));
+  EXPECT_FALSE(observed->object("removed"));
+  EXPECT_EQ(told, 1);
+  EXPECT_TRUE(memory.boolean("showMenuBar", false));
+
+  memory.refuseWrites(false);
+  EXPECT_TRUE(observed->set("another", true));
+  EXPECT_FALSE(memory.boolean("showMenuBar", true));
+  EXPECT_FALSE(memory.object("removed"));
+}
+
 TEST_F(ObservedUserDefaultsTest, TellsOfAChangeFromAnotherThreadOnTheMainOne) {
   FakeUserDefaults memory;
   observe(memory, home.path() / "nowhere/preferences.json");

@@ -1,0 +1,42 @@
+import QtQuick
+import Klarvik.Kit
+
+// The tooltip of what it is put into, made when the pointer comes. Its text is always that of the
+// moment, and of things inside each other only the innermost has one.
+Loader {
+    id: root
+
+    property string text: ""
+    property bool hovered: false
+
+    readonly property bool isWanted: root.hovered && root.text !== ""
+
+    function isInside(outer: Item): bool {
+        for (let item = root.parent; item; item = item.parent) {
+            if (item === outer)
+                return true;
+        }
+        return false;
+    }
+
+    anchors.fill: parent
+    onIsWantedChanged: {
+        if (root.isWanted) {
+            if (!HelpTips.owner || root.isInside(HelpTips.owner))
+                HelpTips.owner = root.parent;
+            root.setSource("KitToolTip.qml");
+        } else {
+            if (HelpTips.owner === root.parent)
+                HelpTips.owner = null;
+            root.source = "";
+        }
+    }
+    onLoaded: {
+        root.item.text = Qt.binding(() => root.text);
+        root.item.shown = Qt.binding(() => !HelpTips.owner || HelpTips.owner === root.parent);
+    }
+    Component.onDestruction: {
+        if (HelpTips.owner === root.parent)
+            HelpTips.owner = null;
+    }
+}
