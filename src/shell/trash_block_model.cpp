@@ -12,6 +12,9 @@ TrashBlockModel::TrashBlockModel(TrashMonitor& monitor, PermissionsManager& perm
                                  const Desktop& desktop, QObject* parent)
     : QObject(parent), _monitor(monitor), _permissions(permissions), _desktop(desktop) {
   connect(&monitor, &TrashMonitor::changed, this, &TrashBlockModel::changed);
+  connect(&monitor, &TrashMonitor::confirmationWanted, this, [this] {
+    if (control() == Control::Empty) setConfirming(true);
+  });
 }
 
 QString TrashBlockModel::symbol() const {

@@ -21,12 +21,33 @@ void registerModules() {
   qml_register_types_Klarvik_Shell();
 }
 
+/// What the desktop draws around a window. Before it is shown nobody knows; then it is what most
+/// desktops draw.
+QMargins frameAround(const QWindow& window) {
+  const QMargins known = window.frameMargins();
+  constexpr QMargins usual(0, 38, 0, 0);
+  return known.isNull() ? usual : known;
+}
+
+/// Where the content of a window may lie so that its frame is on the screen and under no panel.
+QRect roomFor(const QWindow& window, const QScreen& screen) {
+  return screen.availableGeometry().marginsRemoved(frameAround(window));
+}
+
+/// As large as wanted as far as there is room, but never smaller than the window may be.
+QSize sizeThatFits(const QWindow& window, const QSize& wanted) {
+  const QScreen* const screen = window.screen();
+  if (screen == nullptr) return wanted;
+  return wanted.boundedTo(roomFor(window, *screen).size()).expandedTo(window.minimumSize());
+}
+
 /// A place of that size around `middle`, on the screen as far as it fits there.
-QRect placeAround(const QPoint& middle, const QSize& size, const QScreen* screen) {
+QRect placeAround(const QPoint& middle, const QSize& size, const QWindow& window,
+                  const QScreen* screen) {
   QRect place(QPoint(), size);
   place.moveCenter(middle);
   if (screen == nullptr) return place;
-  const QRect room = screen->availableGeometry();
+  const QRect room = roomFor(window, *screen);
   place.moveRight(std::min(place.right(), room.right()));
   place.moveBottom(std::min(place.bottom(), room.bottom()));
   place.moveLeft(std::max(place.left(), room.left()));
@@ -40,10 +61,11 @@ void fit(QWindow& window, const WindowFrame& frame) {
   const QPoint middle = window.geometry().center();
   window.setMaximumSize(frame.maximum);
   window.setMinimumSize(frame.minimum);
+  const QSize size = sizeThatFits(window, frame.initial);
   if (window.isVisible()) {
-    window.setGeometry(placeAround(middle, frame.initial, window.screen()));
+    window.setGeometry(placeAround(middle, size, window, window.screen()));
   } else {
-    window.resize(frame.initial);
+    window.resize(size);
   }
 }
 
@@ -78,7 +100,7 @@ QQuickWindow* Windows::make(const QString& id, const QUrl& view, const QVariantM
 void Windows::placeOverMainWindow(QQuickWindow& window) const {
   const QQuickWindow* const main = find(mainWindowId);
   if (main == nullptr || !main->isVisible()) return;
-  window.setGeometry(placeAround(main->geometry().center(), window.size(), main->screen()));
+  window.setGeometry(placeAround(main->geometry().center(), window.size(), window, main->screen()));
 }
 
 QQuickWindow* Windows::find(const QString& id) const {

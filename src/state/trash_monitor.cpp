@@ -5,9 +5,10 @@
 
 #include "base/bytes.h"
 #include "engine/allocated_size.h"
+#include "places/disk_layout.h"
+#include "platform/main_loop/coalescing_queue.h"
 #include "platform/notification_center.h"
 #include "platform/trash.h"
-#include "platform/main_loop/coalescing_queue.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
 
@@ -71,6 +72,18 @@ QCoro::Task<> TrashMonitor::measure(std::vector<Path> entries, std::optional<Dat
   _lastStamp = stamp;
   setBytes(bytes);
   setMeasuring(false);
+}
+
+bool TrashMonitor::asksBeforeEmptying() const {
+  return layoutFor(_desktop.files.home()).tellsWhatGoesForGood;
+}
+
+void TrashMonitor::requestEmptying() {
+  if (asksBeforeEmptying()) {
+    emit confirmationWanted();
+  } else {
+    emptyTrash();
+  }
 }
 
 QCoro::Task<std::int64_t> TrashMonitor::emptyTrash() {

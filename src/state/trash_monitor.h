@@ -47,6 +47,10 @@ class TrashMonitor : public QObject {
   /// Reads the Trash anew when it has changed since the last reading, or in any case with `force`.
   /// While its size is being measured, nothing happens.
   void refresh(bool force);
+  /// What a button that empties the Trash does: a layout that tells what goes for good has the user
+  /// asked first, by whoever hears `confirmationWanted`; on any other the Trash is emptied.
+  void requestEmptying();
+  [[nodiscard]] bool asksBeforeEmptying() const;
   /// Bytes reclaimed; 0 at once while an emptying is under way.
   QCoro::Task<std::int64_t> emptyTrash();
   /// For the end of the program: removes no further entry. Nothing may be started afterwards.
@@ -56,6 +60,7 @@ class TrashMonitor : public QObject {
 
  signals:
   void changed();
+  void confirmationWanted();
 
  private:
   QCoro::Task<> measure(std::vector<Path> entries, std::optional<Date> stamp);

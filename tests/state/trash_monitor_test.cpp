@@ -46,6 +46,31 @@ class TrashMonitorTest : public ::testing::Test {
   std::optional<TrashMonitor> monitor;
 };
 
+TEST_F(TrashMonitorTest, ARequestEmptiesTheTrashOfAMacAtOnce) {
+  trash("a");
+  makeAndMeasure();
+  const SignalCount asked(*monitor, &TrashMonitor::confirmationWanted);
+  monitor->requestEmptying();
+  EXPECT_TRUE(turnMainLoopUntil([this] { return !monitor->isEmptying(); }));
+  EXPECT_EQ(asked.get(), 0);
+  EXPECT_EQ(monitor->itemCount(), 0);
+}
+
+TEST(TrashMonitorOfALinuxDisk, ARequestAsksTheUserFirst) {
+  TemporaryFolder disk;
+  LinuxFileSystem files(disk.path(), "/home/ann");
+  LinuxTrash trash(disk.path(), "/home/ann");
+  FakeDesktop around(files, trash);
+  disk.makeFile("/home/ann/.local/share/Trash/files/a", std::string("content"));
+  RemovalNotice notice;
+  TrashMonitor monitor(around.desktop, notice);
+  const SignalCount asked(monitor, &TrashMonitor::confirmationWanted);
+  monitor.requestEmptying();
+  EXPECT_EQ(asked.get(), 1);
+  EXPECT_FALSE(monitor.isEmptying());
+  EXPECT_TRUE(disk.holds("/home/ann/.local/share/Trash/files/a"));
+}
+
 TEST_F(TrashMonitorTest, AnEntryThatIsAnotherThingOnceItsTurnComesStaysAndTheUserIsTold) {
   trash("a");
   trash("b");

@@ -77,6 +77,32 @@ TEST_F(SidebarWindow, ShowsTheTrashWhenPressedBesideItsButton) {
             std::vector<Path>{desk->desktop.trash.folders().front()});
 }
 
+class TrashOfALinuxDisk : public EmptyHomeWindowFixture {
+ protected:
+  TrashOfALinuxDisk() { home = "/home/ann"; }
+};
+
+TEST_F(TrashOfALinuxDisk, IsEmptiedFromTheTrayOnlyOnceTheUserHasAgreed) {
+  desk->disk.makeFile(home / ".local/share/Trash/files/film", 2'000'000);
+  openWindow();
+  const TrashMonitor& trash = shared->trashMonitor();
+  ASSERT_TRUE(turnUntil([&] { return trash.itemCount() > 0 && !trash.isMeasuring(); }));
+  constexpr std::size_t emptyTrash = 1;
+  desk->statusItem.choose(emptyTrash);
+  ASSERT_NE(waitFor("Empty the Trash?"), nullptr);
+  settle();
+  picture("trash_confirmation");
+  EXPECT_LT(find("Cancel")->mapToScene({}).x(), find("Empty Trash")->mapToScene({}).x());
+  click("Cancel");
+  settle();
+  EXPECT_TRUE(homeHolds(".local/share/Trash/files/film"));
+  desk->statusItem.choose(emptyTrash);
+  ASSERT_NE(waitFor("Empty the Trash?"), nullptr);
+  settle();
+  click("Empty Trash");
+  EXPECT_TRUE(turnUntil([this] { return !homeHolds(".local/share/Trash/files/film"); }));
+}
+
 TEST_F(SidebarWindowOverAnEmptyHome, OffersNothingForAnEmptyTrash) {
   openWindow();
   ASSERT_TRUE(turnUntil([this] { return !shared->trashMonitor().isMeasuring(); }));

@@ -63,6 +63,7 @@ QString DuplicateFinderModel::subtitle() const {
   if (isScanning()) {
     return duplicates::scanningSubtitle(foundCount(), currentPath(), _desktop.files.home());
   }
+  if (_wasStopped) return duplicates::stoppedSubtitle(progress());
   return hasScanned() ? duplicates::foundSubtitle(groups().size(), extraCopies())
                       : duplicates::unscannedSubtitle();
 }
@@ -74,6 +75,7 @@ QString DuplicateFinderModel::actionTitle() const {
 Placeholder DuplicateFinderModel::placeholder() const {
   if (!groups().empty()) return {};
   if (isScanning()) return duplicates::hashing();
+  if (_wasStopped) return duplicates::stopped(progress());
   return hasScanned() ? duplicates::nothingFound() : duplicates::notScanned(_scanDirs);
 }
 
@@ -130,6 +132,7 @@ void DuplicateFinderModel::startScan() {
   // The prompt may have ended after a scan or a deletion was started another way.
   if (isScanning() || isDeleting()) return;
   _report = {};
+  _wasStopped = false;
   _scan.start<DuplicateProgress, ChosenGroups>(
       {.work =
            [&files = _desktop.files, folders = _scanDirs](std::stop_token, const auto& post) {
@@ -145,6 +148,7 @@ void DuplicateFinderModel::startScan() {
 
 /// The search itself cannot be stopped: it works on to its end, unseen.
 void DuplicateFinderModel::cancelScan() {
+  _wasStopped = true;
   _scan.cancel();
   scanningChanged();
 }

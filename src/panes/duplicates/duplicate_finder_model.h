@@ -157,6 +157,7 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   DuplicateChoice _choice;
   DuplicateRowsModel _rows;
   DuplicateProgress _report;  ///< the latest one
+  bool _wasStopped = false;   ///< the last search, so that it says nothing of what there is
 
   std::stop_source _deleteTask{std::nostopstate};
   PickedFilesRemoval _removal;

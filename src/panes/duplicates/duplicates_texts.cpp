@@ -1,5 +1,7 @@
 #include "panes/duplicates/duplicates_texts.h"
 
+#include <algorithm>
+
 #include "panes/kit/row_text.h"
 
 namespace klarvik::duplicates {
@@ -7,6 +9,10 @@ namespace {
 
 QString lastComponent(const Path& path) {
   return printableText((path.has_filename() ? path.filename() : path).native());
+}
+
+int wholePercent(double fraction) {
+  return static_cast<int>(std::clamp(fraction, 0.0, 1.0) * 100);
 }
 
 }  // namespace
@@ -74,6 +80,18 @@ Placeholder notScanned(const std::vector<Path>& folders) {
 Placeholder nothingFound() {
   return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("No duplicates"),
                            QStringLiteral("Nothing in those folders is byte-for-byte identical."));
+}
+
+Placeholder stopped(double fraction) {
+  return Placeholder::idle(
+      QStringLiteral("doc.on.doc"), QStringLiteral("Search stopped"),
+      QStringLiteral("%1% was done, so nobody knows yet whether those folders hold duplicates. "
+                     "Rescan to search them to the end.")
+          .arg(wholePercent(fraction)));
+}
+
+QString stoppedSubtitle(double fraction) {
+  return QStringLiteral("Stopped at %1%").arg(wholePercent(fraction));
 }
 
 QString minSizeText(double megabytes) {

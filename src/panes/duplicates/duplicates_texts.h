@@ -21,6 +21,7 @@ namespace klarvik::duplicates {
                                        const Path& home);
 [[nodiscard]] QString foundSubtitle(std::size_t groups, std::int64_t extraCopies);
 [[nodiscard]] QString unscannedSubtitle();
+[[nodiscard]] QString stoppedSubtitle(double fraction);
 
 /// "Documents, Downloads and Desktop".
 [[nodiscard]] QString folderList(const std::vector<Path>& folders);
@@ -32,6 +33,8 @@ namespace klarvik::duplicates {
 [[nodiscard]] Placeholder hashing();
 [[nodiscard]] Placeholder notScanned(const std::vector<Path>& folders);
 [[nodiscard]] Placeholder nothingFound();
+/// After a stop, `fraction` (0 to 1) on the way: what the search would have found nobody knows.
+[[nodiscard]] Placeholder stopped(double fraction);
 
 [[nodiscard]] QString minSizeText(double megabytes);
 [[nodiscard]] QString selectionSummary(std::int64_t bytes, std::size_t copies,

@@ -19,6 +19,13 @@ Sheet {
         }
     }
 
+    // What destroys stands on the right, wherever it is named.
+    readonly property list<DialogButton> buttonsInOrder: {
+        const isCancel = button => button.role === ButtonRole.Cancel;
+        const all = Array.from(root.buttons);
+        return [...all.filter(isCancel), ...all.filter(button => !isCancel(button))];
+    }
+
     name: root.title
     description: root.message
     onCancelled: root.cancel()
@@ -54,7 +61,7 @@ Sheet {
         spacing: 10
 
         Repeater {
-            model: root.buttons
+            model: root.buttonsInOrder
 
             PrimaryButton {
                 id: choice

@@ -47,7 +47,7 @@ bool CleanedBannerModel::isRestorable() const {
 }
 
 void CleanedBannerModel::emptyTrash() {
-  if (isRestorable()) _trashMonitor.emptyTrash();
+  if (isRestorable()) _trashMonitor.requestEmptying();
 }
 
 void CleanedBannerModel::restore() {

@@ -189,7 +189,7 @@ void SystemDataModel::stopRemoval() {
 }
 
 void SystemDataModel::emptyTrash() {
-  _trash.emptyTrash();
+  _trash.requestEmptying();
 }
 
 QString SystemDataModel::safetyText(int safety) const {

@@ -70,14 +70,16 @@ void MenuBarModel::syncActions() {
 
 void MenuBarModel::perform(int action) {
   if (action < 0 || action >= _actions.size() || !_actions[action].isEnabled) return;
-  if (action != EmptyTrash) emit leaving();
+  const bool staysHere = action == EmptyTrash && !_trash.asksBeforeEmptying();
+  if (!staysHere) emit leaving();
   switch (action) {
     case ScanNow:
       _appState.startScan();
       activateWindow("main");
       return;
     case EmptyTrash:
-      _trash.emptyTrash();
+      if (!staysHere) activateWindow("main");
+      _trash.requestEmptying();
       return;
     case OpenKlarvik:
       activateWindow("main");

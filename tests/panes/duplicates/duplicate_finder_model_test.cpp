@@ -135,9 +135,14 @@ TEST_F(DuplicateFinderViewTest, ACancelledScanRunsOnUnseenAndItsResultIsDropped)
   EXPECT_FALSE(pane->isScanning());
   EXPECT_TRUE(pane->hasScanned());
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Idle{}));
-  EXPECT_EQ(pane->placeholder().title, "No duplicates");
+  EXPECT_EQ(pane->placeholder().title, "Search stopped");
+  const int percent = static_cast<int>(pane->progress() * 100);
+  EXPECT_EQ(pane->subtitle(), QString("Stopped at %1%").arg(percent));
+  EXPECT_TRUE(pane->placeholder().detail.startsWith(
+      QString("%1% was done, so nobody knows yet").arg(percent)));
 
   ASSERT_TRUE(letGo());
+  EXPECT_EQ(pane->placeholder().title, "Search stopped");
   EXPECT_THAT(pane->groups(), IsEmpty());
   EXPECT_FALSE(total());
   EXPECT_EQ(activity(), ToolActivity::State(ToolActivity::Idle{}));
@@ -150,6 +155,7 @@ TEST_F(DuplicateFinderViewTest, ANewScanMayStartWhileACancelledOneRunsOn) {
   ASSERT_TRUE(turnUntil([this] { return isHeld(); }));
   pane->performAction();
   ASSERT_TRUE(scan());
+  EXPECT_EQ(pane->subtitle(), "1 groups · 1 extra copies · one copy of each is always kept");
   ASSERT_THAT(pane->groups(), SizeIs(1));
   const Uuid id = pane->groups()[0]->group.id;
   const auto measured = total();
