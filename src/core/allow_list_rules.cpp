@@ -9,28 +9,82 @@ namespace {
 
 using Pieces = std::vector<std::string_view>;
 
-/// Whether the folder in which `path` lies, the first below `root`, bears one of the identifiers.
+/// The name by which a thing in `folder` is known; nothing where it is none of that kind.
+std::optional<std::string_view> knownName(const LeftoverFolder& folder, const Pieces& path,
+                                          std::size_t length) {
+  std::string_view name = path[length];
+  switch (folder.name) {
+    case LeftoverName::whole:
+      return name;
+    case LeftoverName::hidden:
+      if (!name.starts_with('.')) return std::nullopt;
+      return name.substr(1);
+    case LeftoverName::stem:
+      if (path.size() != length + 1) return std::nullopt;
+      return name.substr(0, name.rfind('.'));
+  }
+  return std::nullopt;
+}
+
+/// Whether the thing in which `path` lies, the first below a folder of leftovers, bears one of the
+/// identifiers.
 Refusal residualRefusal(const Pieces& path, std::string_view relative, const Catalogue& catalogue,
                         const DeletionQuestion& question) {
   const auto identifiers = distinctiveIdentifiers(question.scope.identifiers);
   if (identifiers.empty()) return refuse("App identifier is too short to match residuals safely.");
-  const auto belongs = [&](std::string_view folder) {
-    return std::ranges::find(identifiers, lowercased(folder)) != identifiers.end();
+  const auto belongs = [&](std::string_view name) {
+    return std::ranges::find(identifiers, name) != identifiers.end();
   };
-
-  bool isRoot = false;
-  for (const PlacePattern& root : question.layout.guard.residualRoots) {
-    const PatternMatch match = catalogue.match(path, root);
-    if (match.relation == Relation::below) {
-      if (belongs(path[match.length])) return allowed;
-      return refuse(path[match.length], " does not belong to the app being removed.");
-    }
-    isRoot = isRoot || match.relation != Relation::apart;
+  const auto isIn = [&](const PlacePattern& place) {
+    const Relation relation = catalogue.match(path, place).relation;
+    return relation == Relation::at || relation == Relation::below;
+  };
+  if (catalogue.reachesUnsavedWork(path)) {
+    return refuse("~/", relative, " holds your own files, not junk.");
   }
-  const bool isDotFolder = !isRoot && path.front().starts_with('.');
-  if (!isDotFolder) return refuse(relative, " is not a place apps leave residual files.");
-  if (belongs(path.front().substr(1))) return allowed;
-  return refuse(path.front(), " does not belong to the app being removed.");
+
+  const DesktopApplications& places = *question.layout.applications.desktop;
+  const bool isKnown = std::ranges::any_of(places.knownLeftovers, [&](const KnownLeftover& known) {
+    return belongs(known.identifier) && isIn(known.place);
+  });
+  if (isKnown) return allowed;
+
+  const LeftoverFolder* folder = nullptr;
+  std::size_t length = 0;
+  for (const LeftoverFolder& each : places.leftovers) {
+    const PatternMatch match = catalogue.match(path, each.folder);
+    if (match.relation == Relation::at || match.relation == Relation::above) {
+      return refuse(relative, " is not a place apps leave residual files.");
+    }
+    const bool isNearer = folder == nullptr || match.length > length;
+    if (match.relation != Relation::below || !isNearer) continue;
+    folder = &each;
+    length = match.length;
+  }
+  const auto name = folder ? knownName(*folder, path, length) : std::nullopt;
+  if (!name) return refuse(relative, " is not a place apps leave residual files.");
+  const std::string lower = lowercased(*name);
+  if (nameMatchesAny(places.sharedNames, lower)) {
+    return refuse(path[length], " is shared by several apps.");
+  }
+  const bool isCommon = std::ranges::find(places.commonWords, lower) != places.commonWords.end();
+  if (belongs(lower) && !isCommon) return allowed;
+  return refuse(path[length], " does not belong to the app being removed.");
+}
+
+/// What a user has installed by hand, and its entry and icons.
+Refusal applicationRefusal(const Pieces& path, std::string_view relative,
+                           const Catalogue& catalogue, const DeletionQuestion& question) {
+  const DesktopApplications& places = *question.layout.applications.desktop;
+  const auto isNamed = [&](const PlacePattern& place) {
+    return catalogue.match(path, place).relation == Relation::at;
+  };
+  if (std::ranges::any_of(places.byHand, isNamed)) return allowed;
+  if (std::ranges::any_of(places.alongside, isNamed)) return allowed;
+  const bool isHidden =
+      std::ranges::any_of(path, [](std::string_view piece) { return piece.starts_with('.'); });
+  if (!isHidden && lowercased(path.back()).ends_with(".appimage")) return allowed;
+  return refuse("~/", relative, " is no app that Klarvik removes.");
 }
 
 Refusal refusalInHome(std::string_view relative, const DeletionQuestion& question) {
@@ -39,6 +93,9 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
   if (catalogue.reachesSecret(path)) return refuse("~/", relative, " holds keys and passwords.");
   if (question.scope.kind == DeletionScope::Kind::residual) {
     return residualRefusal(path, relative, catalogue, question);
+  }
+  if (question.scope.kind == DeletionScope::Kind::application) {
+    return applicationRefusal(path, relative, catalogue, question);
   }
 
   if (!catalogue.placesOf(path, /*inHome=*/true).empty()) return allowed;
@@ -78,8 +135,9 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
   if (isKeys) return refuse(path, " holds keys and passwords.");
   if (isInTrashOfAVolume(question)) return allowed;
   const Catalogue catalogue(question.layout, question.folders);
-  const bool isListed = question.scope.kind != DeletionScope::Kind::residual &&
-                        !catalogue.placesOf(pieces, /*inHome=*/false).empty();
+  const bool isOfAnApplication = question.scope.kind == DeletionScope::Kind::residual ||
+                                 question.scope.kind == DeletionScope::Kind::application;
+  const bool isListed = !isOfAnApplication && !catalogue.placesOf(pieces, /*inHome=*/false).empty();
   if (isListed) return allowed;
   if (const auto* entry = firstPrefixOf(path, question.layout.guard.protectedPrefixes)) {
     return refuse(*entry, question.layout.guard.protectedReason);

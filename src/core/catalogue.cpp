@@ -182,6 +182,12 @@ bool Catalogue::reachesSecret(std::span<const std::string_view> path) const {
          });
 }
 
+bool Catalogue::reachesUnsavedWork(std::span<const std::string_view> path) const {
+  return std::ranges::any_of(_layout.guard.ownPlaces, [&](const PlacePattern& own) {
+    return own.base == Base::cache && match(path, own).relation != Relation::apart;
+  });
+}
+
 std::optional<std::string> Catalogue::ownPlaceOf(std::span<const std::string_view> path) const {
   for (const PlacePattern& own : _layout.guard.ownPlaces) {
     const PatternMatch found = match(path, own);

@@ -40,6 +40,9 @@ class Catalogue {
 
   /// Keys and passwords: at or below such a place, or above one.
   [[nodiscard]] bool reachesSecret(std::span<const std::string_view> path) const;
+  /// Work that programs keep in their caches until it is saved: at or below such a place, or above
+  /// one.
+  [[nodiscard]] bool reachesUnsavedWork(std::span<const std::string_view> path) const;
   /// The pattern of what people keep for themselves that `path` is or lies in.
   [[nodiscard]] std::optional<std::string> ownPlaceOf(std::span<const std::string_view> path) const;
 

@@ -14,11 +14,12 @@ struct DiskLayout;
 /// What kind of removal is being asked for.
 struct DeletionScope {
   enum class Kind {
-    general,     ///< an item that a scanner found
-    pickedFile,  ///< a file that the user chose by hand
-    residual,    ///< a file left behind by an application that is being uninstalled
-    trail,       ///< a trail of what the user did
-    trashed,     ///< an entry of the user's Trash, on whatever volume
+    general,      ///< an item that a scanner found
+    pickedFile,   ///< a file that the user chose by hand
+    residual,     ///< a file left behind by an application that is being uninstalled
+    trail,        ///< a trail of what the user did
+    application,  ///< what the user has installed by hand, and what goes along with it
+    trashed,      ///< an entry of the user's Trash, on whatever volume
   };
   Kind kind = Kind::general;
   std::vector<std::string> identifiers;  ///< of that application; `residual` only
@@ -26,6 +27,7 @@ struct DeletionScope {
   static DeletionScope general() { return {Kind::general, {}}; }
   static DeletionScope pickedFile() { return {Kind::pickedFile, {}}; }
   static DeletionScope trail() { return {Kind::trail, {}}; }
+  static DeletionScope application() { return {Kind::application, {}}; }
   static DeletionScope trashed() { return {Kind::trashed, {}}; }
   static DeletionScope residual(std::vector<std::string> identifiers) {
     return {Kind::residual, std::move(identifiers)};

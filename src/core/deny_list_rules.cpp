@@ -37,6 +37,7 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
       return refuse("~/", relative, " is a whole folder, not a file you picked.");
     case DeletionScope::Kind::general:
     case DeletionScope::Kind::trail:
+    case DeletionScope::Kind::application:
     case DeletionScope::Kind::trashed:
       break;
   }

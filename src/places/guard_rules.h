@@ -29,7 +29,7 @@ struct GuardRules {
   std::span<const PlacePattern> secrets{};              ///< keys and passwords, at and below
   std::span<const std::string_view> secretNames{};      ///< patterns; anywhere in the home
   std::span<const PlacePattern> ownPlaces;              ///< what people keep, at and below
-  std::span<const PlacePattern> residualRoots;
+  std::span<const PlacePattern> residualRoots{};  ///< where no desktop entries tell more
   std::span<const std::string_view> cleanableOutsideHome{};  ///< prefixes
 };
 

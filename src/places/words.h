@@ -56,6 +56,8 @@ struct Words {
   std::string_view noApplications;
   std::string_view applicationsListed;  ///< "%1": a number
   std::string_view applicationColumn;
+  std::string_view measuringApplications;
+  std::string_view lookingForLeftovers;
   std::string_view noTrails;
   std::string_view trailsUnread;
   std::string_view browserTrails;

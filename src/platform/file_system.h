@@ -113,6 +113,8 @@ class FileSystem {
   [[nodiscard]] virtual bool exists(const Path& path) const = 0;
   /// Never follows a link in the last component.
   [[nodiscard]] virtual std::optional<FileAttributes> attributes(const Path& path) const = 0;
+  /// What the symbolic link at `path` says, as it stands there; nothing where there is none.
+  [[nodiscard]] virtual std::optional<Path> linkTarget(const Path&) const { return std::nullopt; }
   /// Whether another volume begins at `path`. Waits for no server.
   [[nodiscard]] virtual bool isMountPoint(const Path& path) const = 0;
   /// Waits for no server.

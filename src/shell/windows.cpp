@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "panes/kit/kit.h"
+#include "panes/uninstaller/application_icons.h"
 #include "platform/file_system.h"
 
 void qml_register_types_Klarvik_Panes();
@@ -72,6 +73,8 @@ Windows::Windows(const Desktop& desktop) {
   registerModules();
   installKit(_engine, {desktop.formatting, desktop.files.home(), desktop.workspace, desktop.clock,
                        desktop.motion});
+  // The engine takes it over.
+  _engine.addImageProvider(ApplicationIcons::name, new ApplicationIcons(desktop.files));
 }
 
 QQuickWindow* Windows::make(const QString& id, const QUrl& view, const QVariantMap& properties,

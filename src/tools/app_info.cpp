@@ -19,6 +19,30 @@ const std::array<ResidualCategory, residualCategoryCount>& allResidualCategories
   return all;
 }
 
+bool AppInfo::goesToTrash() const {
+  const bool isOneThing =
+      kind == AppKind::bundle || kind == AppKind::appImage || kind == AppKind::byHand;
+  return isOneThing && keptBecause.empty();
+}
+
+std::string AppInfo::removalCommand() const {
+  if (!keptBecause.empty()) return {};
+  switch (kind) {
+    case AppKind::flatpak:
+      return std::string("flatpak uninstall ") + (isForAllUsers ? "" : "--user ") + package;
+    case AppKind::snap:
+      return "snap remove " + package;
+    case AppKind::debianPackage:
+      return "sudo apt remove " + package;
+    case AppKind::bundle:
+    case AppKind::appImage:
+    case AppKind::byHand:
+    case AppKind::foreign:
+      break;
+  }
+  return {};
+}
+
 std::string_view rawValue(ResidualCategory category) {
   return names.at(static_cast<std::size_t>(category));
 }

@@ -54,37 +54,115 @@ void append(std::vector<std::string>& list, std::string text) {
   if (std::ranges::find(list, text) == list.end()) list.push_back(std::move(text));
 }
 
+std::vector<std::string> formsOfTheName(const AppInfo& app) {
+  std::vector<std::string> forms;
+  const std::string name = lowercased(app.name);
+  for (std::string form : {name, withBlanksAs("", name), withBlanksAs("-", name)}) {
+    if (isLongEnough(form)) append(forms, std::move(form));
+  }
+  return forms;
+}
+
 /// `parts` of the bundle identifier, then the forms of the name, then the whole identifier.
 std::vector<std::string> identifyingTexts(const std::vector<std::string>& parts,
                                           const AppInfo& app) {
   std::vector<std::string> texts;
   for (const std::string& part : parts) append(texts, part);
-  const std::string name = lowercased(app.name);
-  for (std::string form : {name, withBlanksAs("", name), withBlanksAs("-", name)}) {
-    if (isLongEnough(form)) append(texts, std::move(form));
-  }
+  for (std::string& form : formsOfTheName(app)) append(texts, std::move(form));
   append(texts, lowercased(app.bundleID));
   return texts;
 }
 
+bool isAtWordEdge(std::string_view name, std::size_t at) {
+  return at >= name.size() || wordSeparators.find(name[at]) != std::string_view::npos;
+}
+
+/// Whether a word, or several, of `name` begin with `text`.
+bool hasWordsThatBegin(std::string_view name, std::string_view text, bool andEnd = false) {
+  if (text.empty()) return false;
+  for (auto at = name.find(text); at != std::string_view::npos; at = name.find(text, at + 1)) {
+    const bool begins = at == 0 || isAtWordEdge(name, at - 1);
+    if (begins && (!andEnd || isAtWordEdge(name, at + text.size()))) return true;
+  }
+  return false;
+}
+
+/// Whether `text` stands in `name` between the separators of words.
+bool spells(std::string_view name, std::string_view text) {
+  return hasWordsThatBegin(name, text, /*andEnd=*/true);
+}
+
+/// Folders that applications share are called by an identifier with this in front of it.
+std::string_view withoutGroup(std::string_view name) {
+  constexpr std::string_view group = "group.";
+  return name.starts_with(group) ? name.substr(group.size()) : name;
+}
+
+/// The first two labels of an identifier: "com.acme" of "com.acme.writer".
+std::string_view vendorOf(std::string_view identifier) {
+  const auto first = identifier.find('.');
+  if (first == std::string_view::npos) return {};
+  return identifier.substr(0, identifier.find('.', first + 1));
+}
+
+constexpr std::string_view systemVendor = "com.apple";
+
 }  // namespace
 
-ResidualMatcher::ResidualMatcher(const AppInfo& app, const ApplicationPlaces& places)
+ResidualMatcher::ResidualMatcher(const AppInfo& app, const ApplicationPlaces& places,
+                                 const std::vector<std::string>& installed)
     : _protectedNames(places.protectedNames),
       _bundleID(lowercased(app.bundleID)),
-      _tokens(identifyingTexts(distinctiveParts(app.bundleID), app)) {
+      _tokens(identifyingTexts(distinctiveParts(app.bundleID), app)),
+      _nameForms(formsOfTheName(app)) {
   std::erase_if(_tokens, [](const std::string& token) { return !isLongEnough(token); });
+  for (const std::string& identifier : installed) {
+    std::string lower = lowercased(identifier);
+    if (lower != _bundleID) _otherBundles.push_back(std::move(lower));
+  }
 }
 
 bool ResidualMatcher::matches(std::string_view name) const {
   const std::string lower = lowercased(name);
-  const auto begins = [&](std::string_view start) { return lower.starts_with(start); };
-  if (std::ranges::any_of(_protectedNames, begins)) return false;
-  if (lower == _bundleID) return true;
+  const auto isTheSystems = [&](std::string_view identifier) {
+    return std::ranges::any_of(
+        _protectedNames, [&](std::string_view start) { return identifier.starts_with(start); });
+  };
+  // Of an application of the system everything is the system's.
+  if (isTheSystems(lower) || isTheSystems(_bundleID)) return false;
+  return bearsAToken(lower) && !isAnothers(lower) && !sharesOnlyTheVendor(lower);
+}
+
+bool ResidualMatcher::bearsAToken(const std::string& lower) const {
   const std::vector<std::string_view> words = split(lower, wordSeparators);
-  return std::ranges::any_of(_tokens, [&](const std::string& token) {
-    return lower == token || std::ranges::find(words, token) != words.end();
+  return lower == _bundleID || std::ranges::any_of(_tokens, [&](const std::string& token) {
+           return lower == token || std::ranges::find(words, token) != words.end();
+         });
+}
+
+bool ResidualMatcher::isAnothers(const std::string& lower) const {
+  if (vendorOf(withoutGroup(lower)) == systemVendor && vendorOf(_bundleID) != systemVendor) {
+    return true;
+  }
+  const bool isOwn = spells(lower, _bundleID);
+  return std::ranges::any_of(_otherBundles, [&](const std::string& other) {
+    // One word alone is rather a word of this name than another's identifier.
+    const bool isWord = other.find('.') == std::string::npos;
+    // The longer of two that begin alike is the one that is meant.
+    const bool isMeant = !isOwn || other.size() > _bundleID.size();
+    return isMeant && (isWord ? lower == other : spells(lower, other));
   });
+}
+
+bool ResidualMatcher::sharesOnlyTheVendor(const std::string& lower) const {
+  const std::string_view vendor = vendorOf(_bundleID);
+  if (vendor.empty() || vendorOf(withoutGroup(lower)) != vendor) return false;
+  // A word grown longer, "writerx" of "writer", says more than the vendor does.
+  const auto stands = [&](std::string_view text) {
+    return hasWordsThatBegin(lower, text, /*andEnd=*/!isLongEnough(text));
+  };
+  return !stands(_bundleID) && !stands(split(_bundleID, ".").back()) &&
+         std::ranges::none_of(_nameForms, stands);
 }
 
 std::vector<std::string> guardIdentifiers(const AppInfo& app) {

@@ -1,15 +1,22 @@
 #include "tools/uninstaller_engine.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "base/bytes.h"
 #include "base/paths.h"
+#include "base/text.h"
 #include "core/removal_check.h"
 #include "places/disk_layout.h"
 #include "platform/application_bundle.h"
+#include "platform/current_desktop.h"
 #include "platform/file_system.h"
+#include "platform/running_programs.h"
 #include "platform/trash.h"
 #include "tools/file_size.h"
+#include "tools/installed_applications.h"
+#include "tools/leftover_finder.h"
+#include "tools/package_removal.h"
 #include "tools/residual_matcher.h"
 
 namespace klarvik {
@@ -27,8 +34,26 @@ std::vector<Path> visibleEntries(const FileSystem& files, const Path& folder) {
   return entries;
 }
 
+std::vector<Path> applicationsOf(const FileSystem& files) {
+  std::vector<Path> found;
+  for (const std::string_view folder : layoutFor(files.home()).applications.folders) {
+    std::ranges::copy_if(visibleEntries(files, files.home() / folder), std::back_inserter(found),
+                         isApplicationName);
+  }
+  return found;
+}
+
+std::vector<std::string> installedIdentifiers(const FileSystem& files) {
+  std::vector<std::string> identifiers;
+  for (const Path& path : applicationsOf(files)) {
+    if (const auto bundle = ApplicationBundle::at(files, path)) {
+      identifiers.push_back(bundle->identifier);
+    }
+  }
+  return identifiers;
+}
+
 std::optional<AppInfo> appAt(const FileSystem& files, const Path& path) {
-  if (!isApplicationName(path)) return std::nullopt;
   const auto identity = entryIdentity(files, path);
   const auto bundle = ApplicationBundle::at(files, path);
   if (!bundle) return std::nullopt;
@@ -37,6 +62,22 @@ std::optional<AppInfo> appAt(const FileSystem& files, const Path& path) {
                  .appURL = path,
                  .appSize = contentSize(files, path),
                  .identity = identity};
+}
+
+bool isRunning(const RunningPrograms& programs, const AppInfo& app) {
+  switch (app.kind) {
+    case AppKind::flatpak:
+      return programs.isSandboxRunning(app.appURL.filename().native());
+    case AppKind::snap:
+      return programs.isSandboxRunning(app.package);
+    case AppKind::bundle:
+    case AppKind::appImage:
+    case AppKind::byHand:
+    case AppKind::debianPackage:
+    case AppKind::foreign:
+      return !app.program.empty() && programs.isRunning(app.program);
+  }
+  return false;
 }
 
 /// No rule is asked for an application that the user chose to remove: it can be put back.
@@ -59,11 +100,12 @@ UninstallerEngine::UninstallerEngine(const Platform& platform, LeftAlone* leftAl
 std::vector<AppInfo> UninstallerEngine::listApps() {
   const std::lock_guard lock(_working);
   const FileSystem& files = _platform.files;
+  if (layoutFor(files.home()).applications.desktop != nullptr) {
+    return InstalledApplications(_platform).listed(currentDesktops());
+  }
   std::vector<AppInfo> apps;
-  for (const std::string_view folder : layoutFor(files.home()).applications.folders) {
-    for (const Path& entry : visibleEntries(files, files.home() / folder)) {
-      if (auto app = appAt(files, entry)) apps.push_back(*std::move(app));
-    }
+  for (const Path& entry : applicationsOf(files)) {
+    if (auto app = appAt(files, entry)) apps.push_back(*std::move(app));
   }
   std::ranges::stable_sort(apps, {}, &AppInfo::name);
   return apps;
@@ -73,7 +115,10 @@ std::vector<ResidualFile> UninstallerEngine::findResiduals(const AppInfo& app) {
   const std::lock_guard lock(_working);
   const FileSystem& files = _platform.files;
   const ApplicationPlaces& places = layoutFor(files.home()).applications;
-  const ResidualMatcher matcher(app, places);
+  if (places.desktop != nullptr) {
+    return findLeftovers(_platform, app, InstalledApplications(_platform).all());
+  }
+  const ResidualMatcher matcher(app, places, installedIdentifiers(files));
   std::vector<ResidualFile> found;
   for (const ResidualFolder& root : places.residuals) {
     for (const Path& entry : visibleEntries(files, files.home() / root.folder)) {
@@ -91,20 +136,83 @@ std::vector<ResidualFile> UninstallerEngine::findResiduals(const AppInfo& app) {
 
 std::int64_t UninstallerEngine::uninstall(const AppInfo& app,
                                           const std::vector<ResidualFile>& residuals) {
+  return remove(app, residuals).freed;
+}
+
+UninstallOutcome UninstallerEngine::remove(const AppInfo& app,
+                                           const std::vector<ResidualFile>& residuals) {
   const std::lock_guard lock(_working);
+  return app.kind == AppKind::bundle ? removeBundle(app, residuals) : removeProgram(app, residuals);
+}
+
+UninstallOutcome UninstallerEngine::removeBundle(const AppInfo& app,
+                                                 const std::vector<ResidualFile>& residuals) {
   const auto scope = DeletionScope::residual(residualIdentifiers(app));
-  std::int64_t freed = 0;
+  UninstallOutcome outcome;
   for (const ResidualFile& residual : residuals) {
     const bool isGone =
         removeIfAllowed(_platform.files, residual.url, scope, residual.identity, _leftAlone);
-    if (isGone) freed = addBytes(freed, residual.size);
+    if (isGone) outcome.freed = addBytes(outcome.freed, residual.size);
   }
-  if (moveToTrash(_platform, app, _leftAlone)) freed = addBytes(freed, app.appSize);
-  return freed;
+  outcome.isGone = moveToTrash(_platform, app, _leftAlone);
+  if (outcome.isGone) outcome.freed = addBytes(outcome.freed, app.appSize);
+  return outcome;
+}
+
+UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
+                                                  const std::vector<ResidualFile>& residuals) {
+  UninstallOutcome outcome;
+  const FileSystem& files = _platform.files;
+  outcome.isRunning = isRunning(_platform.programs, app);
+  if (outcome.isRunning) {
+    outcome.whyItStayed = printable(app.name) + " is running. Close it first.";
+    return outcome;
+  }
+  if (isRemovedByTool(app)) {
+    outcome.whyItStayed = removeByTool(_platform, app);
+    outcome.isGone = outcome.whyItStayed.empty();
+    if (!outcome.isGone) return outcome;
+    outcome.freed = app.appSize;
+  } else if (app.goesToTrash()) {
+    const auto scope = DeletionScope::application();
+    outcome.isGone = trashIfAllowed(app.appURL, scope, app.identity);
+    if (!outcome.isGone) {
+      outcome.whyItStayed = "It could not be moved to the Trash.";
+      return outcome;
+    }
+    outcome.freed = app.appSize;
+    for (const AppPart& part : app.parts) {
+      static_cast<void>(trashIfAllowed(part.path, scope, part.identity));
+    }
+  }
+  // Another application may have been installed since they were found.
+  const auto identifiers = ownIdentifiers(files, app, InstalledApplications(_platform).all());
+  const auto scope = DeletionScope::residual(identifiers);
+  for (const ResidualFile& residual : residuals) {
+    if (trashIfAllowed(residual.url, scope, residual.identity)) {
+      outcome.freed = addBytes(outcome.freed, residual.size);
+    }
+  }
+  return outcome;
+}
+
+bool UninstallerEngine::trashIfAllowed(const Path& path, const DeletionScope& scope,
+                                       const std::optional<EntryIdentity>& identity) {
+  const Path named = standardizedPath(path);
+  if (!identity || !mayRemove(_platform.files, named, scope)) return false;
+  const auto check = itemCheck(_platform.files, named, scope, identity);
+  const bool isGone = _platform.trash.moveToTrash(named, check).has_value();
+  if (!isGone) countIfReplaced(_platform.files, named, identity, _leftAlone);
+  return isGone;
+}
+
+RemovalPlan UninstallerEngine::plan(const AppInfo& app) const {
+  const std::lock_guard lock(_working);
+  return planRemoval(_platform, app);
 }
 
 std::vector<std::string> UninstallerEngine::residualIdentifiers(const AppInfo& app) {
-  return guardIdentifiers(app);
+  return app.kind == AppKind::bundle ? guardIdentifiers(app) : app.identifiers;
 }
 
 }  // namespace klarvik

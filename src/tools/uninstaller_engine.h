@@ -5,11 +5,23 @@
 #include <string>
 #include <vector>
 
+#include "core/deletion_guard.h"
 #include "core/left_alone.h"
 #include "platform/platform.h"
 #include "tools/app_info.h"
+#include "tools/package_removal.h"
 
 namespace klarvik {
+
+/// What an uninstalling did.
+struct UninstallOutcome {
+  std::int64_t freed = 0;     ///< bytes, of what is gone as it was measured when it was found
+  bool isGone = false;        ///< the application itself
+  bool isRunning = false;     ///< and therefore nothing was done
+  std::string whyItStayed{};  ///< a sentence; empty where there is nothing to say
+
+  bool operator==(const UninstallOutcome&) const = default;
+};
 
 /// Lists the installed applications, finds what one of them has left in the Library folders, and
 /// removes it.
@@ -29,7 +41,8 @@ class UninstallerEngine {
   [[nodiscard]] std::vector<AppInfo> listApps();
 
   /// What bears the application's name or identifier at the top level of a Library folder, largest
-  /// first. Empty things are left out, and so is what belongs to the system.
+  /// first. Empty things are left out, and so is what belongs to the system, or rather to another
+  /// application that is installed.
   [[nodiscard]] std::vector<ResidualFile> findResiduals(const AppInfo& app);
 
   /// Removes `residuals` for good, one after the other, each only if `DeletionGuard` lets it go as
@@ -38,13 +51,28 @@ class UninstallerEngine {
   /// found.
   std::int64_t uninstall(const AppInfo& app, const std::vector<ResidualFile>& residuals);
 
+  /// The same, and more of what it did. Of an application that a desktop entry tells, residuals go
+  /// to the Trash too, and only after the application itself; where that stays because Klarvik does
+  /// not remove such, they go alone, and where it could not be removed, nothing does.
+  UninstallOutcome remove(const AppInfo& app, const std::vector<ResidualFile>& residuals);
+
+  /// How an application goes that Klarvik does not remove itself. Asks the package manager.
+  [[nodiscard]] RemovalPlan plan(const AppInfo& app) const;
+
   /// The words by which `DeletionGuard` knows what is a residual of `app`.
   [[nodiscard]] static std::vector<std::string> residualIdentifiers(const AppInfo& app);
 
  private:
+  [[nodiscard]] UninstallOutcome removeBundle(const AppInfo& app,
+                                              const std::vector<ResidualFile>& residuals);
+  [[nodiscard]] UninstallOutcome removeProgram(const AppInfo& app,
+                                               const std::vector<ResidualFile>& residuals);
+  [[nodiscard]] bool trashIfAllowed(const Path& path, const DeletionScope& scope,
+                                    const std::optional<EntryIdentity>& identity);
+
   const Platform& _platform;
   LeftAlone* const _leftAlone;
-  std::mutex _working;
+  mutable std::mutex _working;
 };
 
 }  // namespace klarvik

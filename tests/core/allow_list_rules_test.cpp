@@ -145,6 +145,52 @@ TEST(AllowListRules, TakeAResidualOnlyByTheWholeOfItsName) {
             "App identifier is too short to match residuals safely.");
 }
 
+TEST(AllowListRules, TakeAResidualInNoFolderThatManyShare) {
+  const DeletionScope greedy = DeletionScope::residual(
+      {"applications", "icons", "autostart", "hicolor", "jetbrains", "google", "mozilla", "systemd",
+       "local", "share", "snap", "code", "files", "gnome-shell", "user", "apps"});
+  for (const char* const path :
+       {"/home/ann/.local/share/applications", "/home/ann/.local/share/icons",
+        "/home/ann/.config/autostart", "/home/ann/.local/share/icons/hicolor",
+        "/home/ann/.config/JetBrains", "/home/ann/.config/google", "/home/ann/.config/systemd",
+        "/home/ann/.mozilla", "/home/ann/.local", "/home/ann/.local/share", "/home/ann/snap",
+        "/home/ann/.config/files", "/home/ann/.config/gnome-shell",
+        "/home/ann/.local/share/icons/hicolor/48x48/apps", "/home/ann/.config/systemd/user"}) {
+    EXPECT_NE(ask(path, greedy), allowed) << path;
+  }
+  EXPECT_EQ(ask("/home/ann/.config/Code", greedy), allowed) << "known by this name";
+  EXPECT_NE(ask("/home/ann/.cache/code", greedy), allowed);
+  EXPECT_EQ(ask("/home/ann/.vscode/extensions", greedy), allowed);
+}
+
+TEST(AllowListRules, TakeEntriesAndIconsOfAnApplicationByTheirNames) {
+  EXPECT_EQ(ask("/home/ann/.local/share/applications/writer.desktop", writer), allowed);
+  EXPECT_EQ(ask("/home/ann/.config/autostart/org.acme.Writer.desktop", writer), allowed);
+  EXPECT_EQ(ask("/home/ann/.local/share/icons/hicolor/48x48/apps/writer.png", writer), allowed);
+  EXPECT_NE(ask("/home/ann/.local/share/applications/writer-2.desktop", writer), allowed);
+  EXPECT_NE(ask("/home/ann/.local/share/applications/writer.desktop/x", writer), allowed);
+  EXPECT_NE(ask("/home/ann/.local/share/icons/Adwaita/48x48/apps/writer.png", writer), allowed);
+}
+
+TEST(AllowListRules, TakeOfAnApplicationWhatWasInstalledByHandAndNothingElse) {
+  const DeletionScope application = DeletionScope::application();
+  for (const char* const path :
+       {"/home/ann/Applications/Writer.AppImage", "/home/ann/Downloads/Writer-2.appimage",
+        "/home/ann/.local/opt/writer-2", "/home/ann/.local/bin/writer",
+        "/home/ann/.local/share/applications/writer.desktop",
+        "/home/ann/.local/share/icons/hicolor/48x48/apps/writer.png"}) {
+    EXPECT_EQ(ask(path, application), allowed) << path;
+  }
+  for (const char* const path :
+       {"/home/ann", "/home/ann/Applications", "/home/ann/Applications/x/y", "/home/ann/Documents",
+        "/home/ann/Documents/letter.txt", "/home/ann/.config/writer", "/home/ann/.local/opt",
+        "/home/ann/.local/bin", "/home/ann/.hidden/x.AppImage", "/home/ann/.ssh",
+        "/home/ann/.local/share/applications", "/home/ann/Applications/all.kdbx", "/opt/writer",
+        "/usr/bin/writer", "/home/ben/Applications/x", "/tmp/x.AppImage"}) {
+    EXPECT_NE(ask(path, application), allowed) << path;
+  }
+}
+
 TEST(AllowListRules, TakeAThingUnderAConditionOnlyAsAWhole) {
   EXPECT_EQ(ask("/home/ann/.var/app/org.gone.App"), allowed);
   EXPECT_EQ(ask("/home/ann/.var/app/org.gone.App/data/letter"),

@@ -23,6 +23,8 @@ class PaneFixture : public ::testing::Test {
   static constexpr std::int64_t megabyte = 1'000'000;
   static constexpr std::int64_t mebibyte = 1'048'576;
 
+  explicit PaneFixture(const Path& home = macHome) : desk(std::nullopt, home) {}
+
   void TearDown() override {
     gate.open();
     desk.trashGate.open();

@@ -134,6 +134,10 @@ Path FaultInjectingFileSystem::realHome() const {
   return _files.realHome();
 }
 
+std::optional<Path> FaultInjectingFileSystem::linkTarget(const Path& path) const {
+  return _files.linkTarget(path);
+}
+
 bool FaultInjectingFileSystem::isMountPoint(const Path& path) const {
   return _files.isMountPoint(path);
 }

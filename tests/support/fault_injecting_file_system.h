@@ -58,6 +58,7 @@ class FaultInjectingFileSystem final : public FileSystem, public FaultInjection<
   [[nodiscard]] std::optional<Path> realPath(const Path& path) const override;
   [[nodiscard]] bool exists(const Path& path) const override;
   [[nodiscard]] std::optional<FileAttributes> attributes(const Path& path) const override;
+  [[nodiscard]] std::optional<Path> linkTarget(const Path& path) const override;
   [[nodiscard]] bool isMountPoint(const Path& path) const override;
   [[nodiscard]] VolumeTops volumeTops() const override { return _files.volumeTops(); }
   [[nodiscard]] std::optional<std::vector<Path>> list(const Path& folder) const override;

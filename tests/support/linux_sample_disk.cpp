@@ -620,7 +620,6 @@ constexpr auto otherFiles = std::to_array<std::string_view>({
     "/var/cache/apt/archives/acme_1.0_amd64.deb",
     "/var/cache/apt/archives/writer_2.1_amd64.deb",
     "/var/crash/vmcore.0",
-    "/var/lib/dpkg/status",
     "/var/lib/docker/volumes/database/_data/table",
     "/var/lib/systemd/coredump/core.write.1000.zst",
     "/var/log/journal/a1b2c3/system.journal",
@@ -685,6 +684,20 @@ std::string desktopEntry(std::string_view name, std::string_view program) {
   return entry;
 }
 
+/// How an AppImage begins: as a program, with a mark where the head of one has room.
+constexpr std::string_view appImageStart(
+    "\x7f"
+    "ELF\x02\x01\x01\x00"
+    "AI\x02",
+    11);
+
+/// A picture of one colour with rounded corners.
+std::string squareIcon(std::string_view color) {
+  std::string picture = R"(<svg xmlns="http://www.w3.org/2000/svg" width="64" height="64">)"
+                        R"(<rect width="64" height="64" rx="14" fill=")";
+  return picture.append(color).append("\"/></svg>\n");
+}
+
 /// Puts the disk together, one subject after the other.
 class LinuxSampleDiskBuilder {
  public:
@@ -712,6 +725,7 @@ class LinuxSampleDiskBuilder {
     installedThings();
     forTools();
     desktopEntries();
+    applications();
     documents();
     trash();
     temporaryThings();
@@ -818,6 +832,16 @@ class LinuxSampleDiskBuilder {
     own(installation / "app" / id / "x86_64/stable/a1b2c3/metadata");
     _writer.link(place(installation / "app" / id / "current"), "x86_64/stable");
     _writer.link(place(installation / "app" / id / "x86_64/stable/active"), "a1b2c3");
+    const std::string file = std::string(id) + ".desktop";
+    const Path entries =
+        installation / "app" / id / "x86_64/stable/a1b2c3/export/share/applications";
+    _writer.file(place(installation / "app" / id / "x86_64/stable/a1b2c3/files/bin/app"),
+                 900 * kilobyte * _scale);
+    _writer.text(place(entries / file),
+                 desktopEntry(id.substr(id.rfind('.') + 1), "/usr/bin/flatpak") +
+                     "X-Flatpak=" + std::string(id) + '\n');
+    _writer.link(place(installation / "exports/share/applications" / file),
+                 Path("../../../app") / id / "current/active/export/share/applications" / file);
     passedOver(Path(".var/app") / id);
   }
 
@@ -834,6 +858,9 @@ class LinuxSampleDiskBuilder {
       _writer.link(Path("/snap") / each.name / "current", each.revision);
       own(Path("snap") / each.name / each.revision / "settings");
       _writer.link(place(Path("snap") / each.name / "current"), each.revision);
+      const std::string name(each.name);
+      _writer.text(Path("/var/lib/snapd/desktop/applications") / (name + "_" + name + ".desktop"),
+                   desktopEntry(name, "/snap/bin/" + name) + "X-SnapInstanceName=" + name + '\n');
       passedOver(Path("snap") / each.name);
       passedOver(Path("snap") / each.name / each.revision);
     }
@@ -881,6 +908,66 @@ class LinuxSampleDiskBuilder {
     _writer.mode(program, executable);
     _writer.text(place(folder / "write.desktop"), desktopEntry("Write", program.native()));
     passedOver(folder / "write.desktop");
+  }
+
+  /// An application's entry in the user's own folder, and its icon.
+  void ownEntry(const std::string& name, const Path& program, std::string_view color) {
+    std::string title = name;
+    title.front() = static_cast<char>(title.front() - 'a' + 'A');
+    const Path entry = Path(".local/share/applications") / (name + ".desktop");
+    _writer.text(place(entry),
+                 desktopEntry(title, place(program).native()) + "Icon=" + name + '\n');
+    _writer.text(place(Path(".local/share/icons/hicolor/scalable/apps") / (name + ".svg")),
+                 squareIcon(color));
+    passedOver(entry);
+  }
+
+  /// A program that a package has brought, and its entry.
+  void packaged(const std::string& id, const std::string& package, std::string_view title,
+                const std::string& more = {}) {
+    constexpr mode_t executable = 0755;
+    const Path program = Path("/usr/bin") / package;
+    own(program);
+    _writer.mode(program, executable);
+    const Path entry = Path("/usr/share/applications") / (id + ".desktop");
+    _writer.text(entry, desktopEntry(title, program.native()));
+    _writer.text(Path("/var/lib/dpkg/info") / (package + ".list"),
+                 "/.\n" + program.native() + '\n' + entry.native() + '\n');
+    _packages += "Package: " + package + "\nStatus: install ok installed\nInstalled-Size: 5120\n" +
+                 more + '\n';
+  }
+
+  /// What a program has stored, too little for a row of a scan.
+  void stored(const std::string& name) {
+    for (const char* const folder : {".config", ".cache", ".local/share", ".local/state"}) {
+      _writer.file(place(Path(folder) / name / "data"), 300 * kilobyte);
+      passedOver(Path(folder) / name);
+    }
+  }
+
+  /// An application of each kind that is no Flatpak and no snap, and what it has stored.
+  void applications() {
+    constexpr mode_t executable = 0755;
+    packaged("org.acme.Sheets", "acme-sheets", "Sheets");
+    packaged("org.acme.Shell", "acme-shell", "Acme Shell", "Essential: yes\n");
+    _writer.text("/var/lib/dpkg/status", _packages);
+    _disk.keep.emplace_back("/var/lib/dpkg/status");
+    stored("acme-sheets");
+
+    const Path image = "Applications/Inkpot-2.1.AppImage";
+    _writer.file(place(image), 3 * megabyte * _scale, appImageStart);
+    _writer.mode(place(image), executable);
+    ownEntry("inkpot", image, "#c2410c");
+    passedOver(image);
+    stored("inkpot");
+
+    const Path program = ".local/opt/typesetter-4.2/bin/typesetter";
+    _writer.file(place(program), 800 * kilobyte * _scale);
+    _writer.mode(place(program), executable);
+    _writer.file(place(".local/opt/typesetter-4.2/lib/fonts"), 2 * megabyte * _scale);
+    ownEntry("typesetter", program, "#0f766e");
+    passedOver(program);
+    stored("typesetter");
   }
 
   /// The same content in several places.
@@ -963,6 +1050,7 @@ class LinuxSampleDiskBuilder {
   DiskWriter _writer;
   std::int64_t _scale;
   std::int64_t _now;
+  std::string _packages;  // the table of the package manager
   LinuxSampleDisk _disk;
 };
 

@@ -17,8 +17,10 @@ AppInfo app(const std::string& name, const std::string& bundleID) {
   return {.name = name, .bundleID = bundleID};
 }
 
-bool matches(const AppInfo& application, std::string_view name) {
-  return ResidualMatcher(application, layoutFor("/Users/ann").applications).matches(name);
+bool matches(const AppInfo& application, std::string_view name,
+             const std::vector<std::string>& installed = {}) {
+  return ResidualMatcher(application, layoutFor("/Users/ann").applications, installed)
+      .matches(name);
 }
 
 TEST(ResidualMatcher, TakesATokenAsAWholeWordOnly) {
@@ -120,6 +122,73 @@ TEST(ResidualMatcher, AProtectedNameIsNeverAResidual) {
   }
   EXPECT_TRUE(matches(app("Xcode", "com.apple.dt.Xcode"), "com.apple.dt.Xcode.plist"));
   EXPECT_TRUE(matches(app("Music", "com.x.y"), "Music"));
+}
+
+TEST(ResidualMatcher, AnApplicationOfTheSystemLeavesNothing) {
+  const AppInfo safari = app("Safari", "com.apple.Safari");
+  for (const char* const name : {"Safari", "safari", "com.apple.Safari", "com.apple.finder.plist",
+                                 "com.apple.dt.Xcode", "apple", "Apple"}) {
+    EXPECT_FALSE(matches(safari, name)) << name;
+  }
+}
+
+TEST(ResidualMatcher, WhatSpellsAnotherInstalledApplicationsIdentifierIsThatOnes) {
+  const std::vector<std::string> installed{"com.paper.n", "com.note.app", "com.note.App.Beta",
+                                           "org.x.Keynote"};
+  const AppInfo note = app("Note", "com.paper.n");
+  EXPECT_TRUE(matches(note, "com.note.app"));
+  for (const char* const name : {"com.note.app", "COM.NOTE.APP", "com.note.app.plist",
+                                 "com.note.app.beta.savedState", "A1B2.com.note.app"}) {
+    EXPECT_FALSE(matches(note, name, installed)) << name;
+  }
+  for (const char* const name :
+       {"note", "note-cache", "com.note.apple", "xcom.note.app", "com.paper.n.note", "com.note"}) {
+    EXPECT_EQ(matches(note, name, installed), matches(note, name)) << name;
+  }
+}
+
+TEST(ResidualMatcher, OfTwoIdentifiersThatBeginAlikeTheLongerOneIsMeant) {
+  const std::vector<std::string> installed{"com.acme.writer", "com.acme.writer.beta"};
+  const AppInfo writer = app("Writer", "com.acme.writer");
+  const AppInfo beta = app("Writer Beta", "com.acme.writer.beta");
+  EXPECT_TRUE(matches(writer, "com.acme.writer.plist", installed));
+  EXPECT_TRUE(matches(writer, "com.acme.writer.helper", installed));
+  EXPECT_FALSE(matches(writer, "com.acme.writer.beta.plist", installed));
+  EXPECT_TRUE(matches(beta, "com.acme.writer.beta.plist", installed));
+  EXPECT_FALSE(matches(beta, "com.acme.writer.plist", installed));
+}
+
+TEST(ResidualMatcher, AnotherApplicationWhoseIdentifierIsOneWordHasOnlyThatName) {
+  const AppInfo note = app("Note", "com.paper.n");
+  EXPECT_FALSE(matches(note, "Note", {"note"}));
+  EXPECT_TRUE(matches(note, "note-cache", {"note"}));
+  EXPECT_TRUE(matches(note, "note", {"", "com"}));
+}
+
+TEST(ResidualMatcher, TheWordsOfTheVendorAloneAreNotEnough) {
+  const AppInfo writer = app("Ink Pot", "com.acme.Writer");
+  for (const char* const name :
+       {"com.acme.painter", "com.acme.painter.plist", "com.acme.plist", "com.acme",
+        "COM.ACME.Painter", "group.com.acme.painter", "com.acme.rewriter"}) {
+    EXPECT_FALSE(matches(writer, name)) << name;
+  }
+  for (const char* const name :
+       {"com.acme.writer", "com.acme.writer.plist", "com.acme.suite.writer", "com.acme.inkpot",
+        "com.acme.ink-pot", "com.acme.writerx", "group.com.acme.writer", "acme", "acme-data",
+        "org.acme.painter"}) {
+    EXPECT_TRUE(matches(writer, name)) << name;
+  }
+}
+
+TEST(ResidualMatcher, WhatTheSystemsVendorMadeIsNoLeftoverOfOthers) {
+  const AppInfo finder = app("Finder", "com.acme.finder");
+  EXPECT_FALSE(matches(finder, "com.apple.finder.plist"));
+  EXPECT_FALSE(matches(finder, "COM.APPLE.Finder"));
+  EXPECT_FALSE(matches(finder, "group.com.apple.finder"));
+  EXPECT_TRUE(matches(finder, "com.applepie.finder"));
+  const AppInfo xcode = app("Xcode", "com.apple.dt.Xcode");
+  EXPECT_TRUE(matches(xcode, "com.apple.dt.Xcode.plist"));
+  EXPECT_FALSE(matches(xcode, "com.apple.finder.plist"));
 }
 
 TEST(ResidualMatcher, WhateverTheApplicationIsCalledNoTokenMatchesInsideAWord) {

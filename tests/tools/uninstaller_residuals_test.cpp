@@ -144,6 +144,23 @@ TEST_F(UninstallerResiduals, NeighboursDoNotFindOneAnothersFiles) {
               ElementsAre(library / "Caches/App 11"));
 }
 
+TEST_F(UninstallerResiduals, OfOtherInstalledApplicationsAreNotFound) {
+  install("Note", "com.paper.note");
+  installAt("/Users/ann/Applications/Notes.app", "Notes", "com.note.app");
+  install("Painter", "com.acme.painter");
+  for (const char* const name : {"com.note.app.plist", "com.paper.note.plist", "com.acme.plist",
+                                 "com.acme.painter.plist", "com.acme.writer.plist"}) {
+    disk.makeFile(library / "Preferences" / name, 10);
+  }
+  EXPECT_THAT(placesFound({.name = "Note", .bundleID = "com.paper.note"}),
+              ElementsAre(library / "Preferences/com.paper.note.plist"));
+  EXPECT_THAT(placesFound(writer), ElementsAre(library / "Preferences/com.acme.writer.plist"));
+  std::filesystem::remove_all(disk.onDisk("/Users/ann/Applications/Notes.app"));
+  EXPECT_THAT(placesFound({.name = "Note", .bundleID = "com.paper.note"}),
+              ElementsAre(library / "Preferences/com.note.app.plist",
+                          library / "Preferences/com.paper.note.plist"));
+}
+
 TEST_F(UninstallerResiduals, OfAHomeThatIsNotThereAreThoseOutsideOfIt) {
   std::filesystem::remove_all(disk.onDisk("/Users/ann"));
   disk.makeFile("/Library/Caches/com.acme.writer", 10);

@@ -15,16 +15,36 @@ RowFrame {
     required property string path
     required property url url
     required property string size
+    required property url icon
     required description
 
     implicitHeight: UninstallerMetrics.rowHeight
     Accessible.role: Accessible.Button
 
-    Symbol {
+    Item {
         Layout.preferredWidth: 24
-        name: "app.badge.fill"
-        size: 18
-        color: Theme.textTertiary
+        Layout.preferredHeight: 24
+
+        Image {
+            id: picture
+
+            // One of a single point stands for none.
+            readonly property bool isShown: status === Image.Ready && implicitWidth > 1
+
+            anchors.fill: parent
+            visible: isShown
+            source: root.icon
+            sourceSize: Qt.size(24 * Screen.devicePixelRatio, 24 * Screen.devicePixelRatio)
+            fillMode: Image.PreserveAspectFit
+        }
+
+        Symbol {
+            anchors.centerIn: parent
+            visible: !picture.isShown
+            name: "app.badge.fill"
+            size: 18
+            color: Theme.textTertiary
+        }
     }
 
     ColumnLayout {

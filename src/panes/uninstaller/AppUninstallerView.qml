@@ -43,6 +43,13 @@ ToolPane {
     // The linter does not know that a list property takes another one's value.
     columns: model.isDetail ? leftoverColumns : appColumns // qmllint disable type
 
+    banner: RemovalAdvice {
+        visible: root.model.isDetail && explanation !== ""
+        command: root.model.removalCommand
+        explanation: root.model.removalExplanation
+        alsoRemoved: root.model.alsoRemoved
+    }
+
     filters: FilterBar {
         implicitHeight: UninstallerMetrics.filterHeight
 
@@ -97,7 +104,7 @@ ToolPane {
         visible: root.model.isDetail
         selectionSummary: root.model.selectionSummary
         explanation: root.model.selectionHint
-        buttonTitle: root.model.title
+        buttonTitle: root.model.actionTitle
         isEnabled: root.model.canUninstall
         isBusy: root.model.isUninstalling
         onAction: root.model.uninstall()

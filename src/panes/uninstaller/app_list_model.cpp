@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "panes/kit/row_text.h"
+#include "panes/uninstaller/application_icons.h"
+#include "panes/uninstaller/uninstaller_texts.h"
 
 namespace klarvik {
 namespace {
@@ -26,7 +28,7 @@ QVariant AppListModel::data(const QModelIndex& index, int role) const {
     case NameRole:
       return printableText(app.name);
     case BundleRole:
-      return printableText(app.bundleID);
+      return uninstaller::origin(app);
     case PathRole:
       return printableText(app.appURL.native());
     case UrlRole:
@@ -35,7 +37,9 @@ QVariant AppListModel::data(const QModelIndex& index, int role) const {
       return byteText(app.appSize, _formatting);
     case DescriptionRole:
       return rowDescription(printableText(app.name), byteText(app.appSize, _formatting),
-                            printableText(app.bundleID));
+                            uninstaller::origin(app));
+    case IconRole:
+      return applicationIconUrl(app.icon);
     default:
       return {};
   }
@@ -43,7 +47,8 @@ QVariant AppListModel::data(const QModelIndex& index, int role) const {
 
 QHash<int, QByteArray> AppListModel::roleNames() const {
   return {{NameRole, "name"}, {BundleRole, "bundle"}, {PathRole, "path"},
-          {UrlRole, "url"},   {SizeRole, "size"},     {DescriptionRole, "description"}};
+          {UrlRole, "url"},   {SizeRole, "size"},     {DescriptionRole, "description"},
+          {IconRole, "icon"}};
 }
 
 void AppListModel::setApps(std::vector<AppInfo> apps) {

@@ -25,6 +25,7 @@ class AppListModel : public klarvik::KeyedListModel {
     UrlRole,
     SizeRole,
     DescriptionRole,
+    IconRole,
   };
 
   explicit AppListModel(const Formatting& formatting, QObject* parent = nullptr);

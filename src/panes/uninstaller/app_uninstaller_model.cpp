@@ -38,6 +38,8 @@ AppUninstallerModel::AppUninstallerModel(SharedState& shared, const Desktop& des
   connect(&_navigator, &Navigator::sectionChanged, this, &AppUninstallerModel::sectionChanged);
   connect(&_leftoverList, &LeftoverListModel::selectionChanged, this,
           &AppUninstallerModel::selectionChanged);
+  connect(&_leftoverList, &LeftoverListModel::selectionChanged, this,
+          &AppUninstallerModel::stateChanged);
 }
 
 AppUninstallerModel::~AppUninstallerModel() {
@@ -82,7 +84,7 @@ Placeholder AppUninstallerModel::listPlaceholder() const {
   if (isLoading()) {
     return Placeholder::busy(
         QStringLiteral("Reading applications"),
-        QStringLiteral("Measuring every app in /Applications and ~/Applications."));
+        programText(layoutFor(_desktop.files.home()).words.measuringApplications));
   }
   if (!hasLoaded() || _appList.rowCount() > 0) return {};
   if (apps().empty()) {
@@ -97,7 +99,7 @@ Placeholder AppUninstallerModel::detailPlaceholder() const {
   if (isFindingResiduals()) {
     return Placeholder::busy(
         QStringLiteral("Looking for leftovers"),
-        QStringLiteral("Checking Preferences, Caches, Application Support, Containers and Logs."));
+        programText(layoutFor(_desktop.files.home()).words.lookingForLeftovers));
   }
   if (!residuals().empty()) return {};
   return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("No leftovers"),
@@ -105,7 +107,30 @@ Placeholder AppUninstallerModel::detailPlaceholder() const {
 }
 
 bool AppUninstallerModel::canUninstall() const {
-  return _selectedApp.has_value() && !isFindingResiduals() && !_isUninstalling;
+  if (!_selectedApp || isFindingResiduals() || _isUninstalling) return false;
+  return appGoes() || !selectedResiduals().empty();
+}
+
+/// Whether the application itself goes, and not its leftovers alone.
+bool AppUninstallerModel::appGoes() const {
+  return _selectedApp && (_selectedApp->goesToTrash() || isRemovedByTool(*_selectedApp));
+}
+
+QString AppUninstallerModel::actionTitle() const {
+  return _selectedApp ? uninstaller::actionTitle(*_selectedApp) : QString();
+}
+
+QString AppUninstallerModel::removalCommand() const {
+  return appGoes() ? QString() : printableText(_plan.command);
+}
+
+QString AppUninstallerModel::removalExplanation() const {
+  if (!_selectedApp || appGoes()) return {};
+  return uninstaller::planExplanation(*_selectedApp, _plan);
+}
+
+QString AppUninstallerModel::alsoRemoved() const {
+  return uninstaller::alsoRemoved(_plan);
 }
 
 QString AppUninstallerModel::selectionSummary() const {
@@ -114,6 +139,10 @@ QString AppUninstallerModel::selectionSummary() const {
 }
 
 QString AppUninstallerModel::selectionHint() const {
+  if (!_whyItStayed.isEmpty()) return _whyItStayed;
+  if (_selectedApp && _selectedApp->kind != AppKind::bundle) {
+    return uninstaller::removalHint(*_selectedApp);
+  }
   return uninstaller::selectionHint(selectedResiduals().size(), residuals().size());
 }
 
@@ -170,19 +199,28 @@ void AppUninstallerModel::open(int row) {
   if (app == nullptr || _isUninstalling) return;
   _leftoverList.clear();
   _selectedApp = *app;
+  _whyItStayed.clear();
   findResiduals(*app);
   emit levelChanged();
 }
 
 void AppUninstallerModel::findResiduals(AppInfo app) {
-  _residualSearch.start<std::monostate, std::vector<ResidualFile>>(
-      {.work = [&desktop = _desktop, app = std::move(app)](
-                   std::stop_token,
-                   const auto&) { return UninstallerEngine(desktop).findResiduals(app); },
+  struct Found {
+    std::vector<ResidualFile> residuals;
+    RemovalPlan plan;
+  };
+  _residualSearch.start<std::monostate, Found>(
+      {.work =
+           [&desktop = _desktop, app = std::move(app)](std::stop_token, const auto&) {
+             UninstallerEngine engine(desktop);
+             return Found{engine.findResiduals(app), engine.plan(app)};
+           },
        .finish =
-           [this](std::vector<ResidualFile> found) {
-             _leftoverList.show(std::move(found));
+           [this](Found found) {
+             _plan = std::move(found.plan);
+             _leftoverList.show(std::move(found.residuals));
              emit stateChanged();
+             emit selectionChanged();
            }});
   emit stateChanged();
 }
@@ -206,13 +244,26 @@ QCoro::Task<> AppUninstallerModel::remove(AppInfo app, std::vector<ResidualFile>
 
   LeftAlone leftAlone;
   UninstallerEngine engine(_desktop, &leftAlone);
-  co_await runInBackground(_removals, [&] { return engine.uninstall(app, residuals); });
+  UninstallOutcome outcome;
+  co_await runInBackground(_removals, [&] {
+    outcome = engine.remove(app, residuals);
+    return outcome.isGone;
+  });
   _notice.tell(leftAlone);
 
-  _appList.remove(app.appURL);
-  if (isLoading()) _removedWhileReading.insert(app.appURL);
   _isUninstalling = false;
-  closeDetail();
+  const bool isListed = app.kind != AppKind::bundle && !outcome.isGone;
+  if (!isListed) {
+    _appList.remove(app.appURL);
+    if (isLoading()) _removedWhileReading.insert(app.appURL);
+    closeDetail();
+  } else {
+    // The application is still there, and so may some of its leftovers be.
+    _whyItStayed = printableText(outcome.whyItStayed);
+    _leftoverList.clear();
+    findResiduals(app);
+    emit selectionChanged();
+  }
   _desktop.notifications.post(diskChangedNotification);
 }
 
@@ -220,7 +271,10 @@ void AppUninstallerModel::closeDetail() {
   _residualSearch.cancel();
   _leftoverList.clear();
   _selectedApp.reset();
+  _plan = {};
+  _whyItStayed.clear();
   emit levelChanged();
+  emit selectionChanged();
   emit stateChanged();
 }
 

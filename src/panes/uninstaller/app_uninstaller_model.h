@@ -17,6 +17,7 @@
 #include "state/engine_run.h"
 #include "state/scan_session.h"
 #include "state/shared_state.h"
+#include "tools/package_removal.h"
 
 namespace klarvik {
 
@@ -34,6 +35,10 @@ class AppUninstallerModel : public klarvik::ToolPane {
   Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
   Q_PROPERTY(bool isUninstalling READ isUninstalling NOTIFY stateChanged)
   Q_PROPERTY(bool canUninstall READ canUninstall NOTIFY stateChanged)
+  Q_PROPERTY(QString actionTitle READ actionTitle NOTIFY levelChanged)
+  Q_PROPERTY(QString removalCommand READ removalCommand NOTIFY stateChanged)
+  Q_PROPERTY(QString removalExplanation READ removalExplanation NOTIFY stateChanged)
+  Q_PROPERTY(QString alsoRemoved READ alsoRemoved NOTIFY stateChanged)
   Q_PROPERTY(QString selectionSummary READ selectionSummary NOTIFY selectionChanged)
   Q_PROPERTY(QString selectionHint READ selectionHint NOTIFY selectionChanged)
   Q_PROPERTY(klarvik::AppListModel* appList READ appList CONSTANT)
@@ -67,6 +72,13 @@ class AppUninstallerModel : public klarvik::ToolPane {
   [[nodiscard]] QString subtitle() const;
   [[nodiscard]] Placeholder placeholder() const;
   [[nodiscard]] bool canUninstall() const;
+  /// Of the button: what becomes of the opened application.
+  [[nodiscard]] QString actionTitle() const;
+  /// What the user may run where Klarvik does not remove the opened application; empty for none.
+  [[nodiscard]] QString removalCommand() const;
+  /// Why Klarvik does not remove it; empty where it does.
+  [[nodiscard]] QString removalExplanation() const;
+  [[nodiscard]] QString alsoRemoved() const;
   [[nodiscard]] QString selectionSummary() const;
   [[nodiscard]] QString selectionHint() const;
   [[nodiscard]] AppListModel* appList() { return &_appList; }
@@ -102,6 +114,7 @@ class AppUninstallerModel : public klarvik::ToolPane {
   void finishReading(std::vector<AppInfo> read);
   void findResiduals(AppInfo app);
   QCoro::Task<> remove(AppInfo app, std::vector<ResidualFile> residuals);
+  [[nodiscard]] bool appGoes() const;
   void closeDetail();
 
   ScanCoordinator& _coordinator;
@@ -112,6 +125,8 @@ class AppUninstallerModel : public klarvik::ToolPane {
   AppListModel _appList;
   LeftoverListModel _leftoverList;
   std::optional<AppInfo> _selectedApp;
+  RemovalPlan _plan;       ///< of that application
+  QString _whyItStayed{};  ///< after a removal that failed
   bool _isUninstalling = false;
   bool _isWaitingForTurn = false;
   std::optional<Date> _loadedAt;

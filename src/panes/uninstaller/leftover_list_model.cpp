@@ -36,7 +36,7 @@ void LeftoverListModel::show(std::vector<ResidualFile> residuals) {
   clear();
   std::unordered_set<Uuid> selected;
   for (const ResidualFile& residual : residuals) {
-    if (!isKeptBack(residual.category)) selected.insert(residual.id);
+    if (residual.isPreselected && !isKeptBack(residual.category)) selected.insert(residual.id);
   }
   _residuals = std::move(residuals);
   fill(shownRows(), std::move(selected));

@@ -1,5 +1,7 @@
 #include "panes/uninstaller/uninstaller_texts.h"
 
+#include <QStringList>
+
 #include "panes/kit/row_text.h"
 
 namespace klarvik::uninstaller {
@@ -63,6 +65,80 @@ QString selectionHint(std::size_t selectedCount, std::size_t residualCount) {
              ? QStringLiteral(
                    "Preferences and app data left behind on purpose. Everything goes to Trash.")
              : QStringLiteral("Everything goes to Trash, so it can be put back.");
+}
+
+QString origin(const AppInfo& app) {
+  const QString identifier = printableText(app.bundleID);
+  const auto installed = [&](const char* how) {
+    return QString::fromUtf8(how) + QStringLiteral(" · ") + identifier;
+  };
+  switch (app.kind) {
+    case AppKind::bundle:
+      break;
+    case AppKind::appImage:
+      return installed("AppImage");
+    case AppKind::byHand:
+      return installed("Installed by hand");
+    case AppKind::flatpak:
+      return installed("Flatpak");
+    case AppKind::snap:
+      return installed("Snap");
+    case AppKind::debianPackage:
+      return installed("Package");
+    case AppKind::foreign:
+      return installed("For all users");
+  }
+  return identifier;
+}
+
+QString removalHint(const AppInfo& app) {
+  if (app.goesToTrash()) {
+    return QStringLiteral("The app and what is selected go to the Trash, and can be put back.");
+  }
+  if (isRemovedByTool(app)) {
+    return app.kind == AppKind::snap
+               ? QStringLiteral(
+                     "snapd removes the app, and keeps a snapshot of its data for 31 days.")
+               : QStringLiteral(
+                     "Flatpak removes the app. Selected leftovers go to the Trash, and can be put "
+                     "back.");
+  }
+  return QStringLiteral("The app stays. Selected leftovers go to the Trash, and can be put back.");
+}
+
+QString actionTitle(const AppInfo& app) {
+  const bool appGoes = app.goesToTrash() || isRemovedByTool(app);
+  return appGoes ? uninstallTitle(app.name) : QStringLiteral("Move Leftovers to Trash");
+}
+
+QString planExplanation(const AppInfo& app, const RemovalPlan& plan) {
+  if (!plan.keptBecause.empty()) return printableText(plan.keptBecause);
+  if (plan.command.empty()) return {};
+  const QString how = QStringLiteral(
+      "Klarvik does not remove packages. Run this in a terminal if you agree with it.");
+  if (app.kind != AppKind::debianPackage) return how;
+  if (!plan.isSimulated) return how + QStringLiteral(" What else it removes is not known.");
+  const std::size_t count = plan.alsoRemoved.size();
+  if (count == 0) return how + QStringLiteral(" It removes no other package.");
+  if (count == 1) {
+    return how + QStringLiteral(" It also removes ") + printableText(plan.alsoRemoved.front()) +
+           QStringLiteral(".");
+  }
+  constexpr std::size_t mostNamed = 4;
+  QStringList named;
+  for (const std::string& each : plan.alsoRemoved) {
+    if (named.size() < static_cast<qsizetype>(mostNamed)) named << printableText(each);
+  }
+  QString also = named.join(QStringLiteral(", "));
+  if (count > mostNamed) also += QStringLiteral(" and %1 more").arg(count - mostNamed);
+  return how + QStringLiteral(" It also removes %1 packages: ").arg(count) + also +
+         QStringLiteral(".");
+}
+
+QString alsoRemoved(const RemovalPlan& plan) {
+  QStringList named;
+  for (const std::string& each : plan.alsoRemoved) named << printableText(each);
+  return named.join(QStringLiteral(", "));
 }
 
 }  // namespace klarvik::uninstaller

@@ -142,11 +142,6 @@ constexpr std::array ownPlaces{
     PlacePattern{cache, "emacs"},
 };
 
-constexpr std::array residualRoots{
-    PlacePattern{config, ""}, PlacePattern{cache, ""},        PlacePattern{data, ""},
-    PlacePattern{state, ""},  PlacePattern{home, ".var/app"}, PlacePattern{home, "snap"},
-};
-
 }  // namespace
 
 const GuardRules guardRules{
@@ -160,7 +155,6 @@ const GuardRules guardRules{
     .secrets = secrets,
     .secretNames = secretNames,
     .ownPlaces = ownPlaces,
-    .residualRoots = residualRoots,
 };
 
 }  // namespace klarvik::linux_disk

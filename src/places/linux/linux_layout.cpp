@@ -102,9 +102,6 @@ constexpr std::array<FileKindName, 8> fileKinds{{
     {"Design", designs},
 }};
 
-// The applications of a Linux disk are not known yet.
-constexpr ApplicationPlaces applicationPlaces{};
-
 }  // namespace
 
 const DiskLayout& layout() {

@@ -56,6 +56,9 @@ const Words words{
     .noApplications = "Nothing found in /Applications.",
     .applicationsListed = "%1 apps · dragging one to the Trash leaves its support files behind",
     .applicationColumn = "BUNDLE",
+    .measuringApplications = "Measuring every app in /Applications and ~/Applications.",
+    .lookingForLeftovers =
+        "Checking Preferences, Caches, Application Support, Containers and Logs.",
     .noTrails = "No browsing or system trails were found.",
     .trailsUnread = "Rescan to see what your Mac has recorded.",
     .browserTrails = "SAFARI, CHROME, FIREFOX",

@@ -4,6 +4,7 @@
 #include <limits.h>
 #include <stdio.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -174,6 +175,19 @@ std::optional<FileAttributes> LinuxFileSystem::attributes(const Path& path) cons
   const auto location = locate(path);
   if (!location) return std::nullopt;
   return attributesAt(location->at(), location->name.c_str());
+}
+
+std::optional<Path> LinuxFileSystem::linkTarget(const Path& path) const {
+  const auto location = locate(path);
+  if (!location) return std::nullopt;
+  std::string target(PATH_MAX, '\0');
+  const auto read = [&] {
+    return ::readlinkat(location->at(), location->name.c_str(), target.data(), target.size());
+  };
+  const ssize_t length = retryOnEintr(read);
+  if (length <= 0 || length >= PATH_MAX) return std::nullopt;
+  target.resize(static_cast<std::size_t>(length));
+  return Path(std::move(target));
 }
 
 bool LinuxFileSystem::isMountPoint(const Path& path) const {

@@ -22,7 +22,7 @@ TEST(UninstallerTexts, NameNoFolderOfAnotherSystemOnALinuxDisk) {
   const Words& words = layoutFor("/home/ann").words;
   EXPECT_EQ(listSubtitle(false, true, 3, words), "Reading the installed apps…");
   EXPECT_EQ(listSubtitle(false, false, 3, words),
-            "3 apps · deleting one leaves its support files behind");
+            "3 apps · removing one leaves its settings and caches behind");
 }
 
 TEST(UninstallerTexts, TellWhatTheOpenedApplicationTakes) {
@@ -65,6 +65,47 @@ TEST(UninstallerTexts, HintAtWhatIsLeftBehindWhenFewerAreSelectedThanFound) {
 TEST(UninstallerTexts, MakeAnOddNameFitForTheScreen) {
   EXPECT_EQ(uninstallTitle("odd\xff\nname"), QStringLiteral("Uninstall odd\uFFFD\uFFFDname"));
   EXPECT_EQ(uninstallTitle("a\u202Eb 📱"), QStringLiteral("Uninstall a\uFFFDb 📱"));
+}
+
+TEST(UninstallerTexts, TellHowAnApplicationWasInstalledAndHowItGoes) {
+  AppInfo app{.name = "Ink", .bundleID = "org.acme.Ink", .kind = AppKind::flatpak};
+  app.package = "app/org.acme.Ink/x86_64/stable";
+  EXPECT_EQ(origin(app), "Flatpak · org.acme.Ink");
+  EXPECT_EQ(actionTitle(app), "Uninstall Ink");
+  EXPECT_EQ(removalHint(app),
+            "Flatpak removes the app. Selected leftovers go to the Trash, and can be put back.");
+  app.kind = AppKind::snap;
+  app.package = "ink";
+  EXPECT_EQ(origin(app), "Snap · org.acme.Ink");
+  EXPECT_EQ(removalHint(app),
+            "snapd removes the app, and keeps a snapshot of its data for 31 days.");
+  app.kind = AppKind::appImage;
+  EXPECT_EQ(origin(app), "AppImage · org.acme.Ink");
+  EXPECT_EQ(removalHint(app), "The app and what is selected go to the Trash, and can be put back.");
+  app.kind = AppKind::debianPackage;
+  EXPECT_EQ(origin(app), "Package · org.acme.Ink");
+  EXPECT_EQ(actionTitle(app), "Move Leftovers to Trash");
+  EXPECT_EQ(removalHint(app),
+            "The app stays. Selected leftovers go to the Trash, and can be put back.");
+  app.kind = AppKind::bundle;
+  EXPECT_EQ(origin(app), "org.acme.Ink");
+}
+
+TEST(UninstallerTexts, TellWhatElseACommandRemoves) {
+  const AppInfo app{.name = "Ink", .kind = AppKind::debianPackage};
+  const QString how =
+      "Klarvik does not remove packages. Run this in a terminal if you agree with it.";
+  RemovalPlan plan{.command = "sudo apt remove ink"};
+  EXPECT_EQ(planExplanation(app, plan), how + " What else it removes is not known.");
+  plan.isSimulated = true;
+  EXPECT_EQ(planExplanation(app, plan), how + " It removes no other package.");
+  plan.alsoRemoved = {"a"};
+  EXPECT_EQ(planExplanation(app, plan), how + " It also removes a.");
+  plan.alsoRemoved = {"a", "b", "c", "d", "e", "f"};
+  EXPECT_EQ(planExplanation(app, plan),
+            how + " It also removes 6 packages: a, b, c, d and 2 more.");
+  EXPECT_EQ(alsoRemoved(plan), "a, b, c, d, e, f");
+  EXPECT_EQ(planExplanation(app, {.keptBecause = "It is needed."}), "It is needed.");
 }
 
 }  // namespace
