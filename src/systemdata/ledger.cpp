@@ -52,13 +52,15 @@ std::string nameOf(const LedgerPlace& place, std::string_view star) {
 
 class LedgerMaker {
  public:
-  LedgerMaker(const Platform& platform, const SystemDataEngine::ProgressSink& progress)
+  LedgerMaker(const Platform& platform, const SystemDataEngine::ProgressSink& progress,
+              const std::stop_token& stop)
       : _platform(platform),
         _layout(layoutFor(platform.files.home())),
         _search(platform),
         _home(platform.files.home()),
         _realHome(platform.files.realHome()),
-        _progress(progress) {
+        _progress(progress),
+        _stop(stop) {
     const Catalogue catalogue(_layout, platform.files.folders());
     for (const LedgerPlace& place : _layout.ledger) {
       _places.push_back({.pattern = patternOf(place, _realHome, catalogue),
@@ -93,7 +95,7 @@ class LedgerMaker {
     const auto used = static_cast<double>(
         std::max<std::int64_t>(readDiskStats(_platform.volume, _layout).usedBytes, 1));
     Census census =
-        takeCensus(_platform.files, _places, {}, [&](std::size_t place, std::int64_t bytes) {
+        takeCensus(_platform.files, _places, _stop, [&](std::size_t place, std::int64_t bytes) {
           const double fraction = std::min(static_cast<double>(bytes) / used, 1.0);
           tell(_layout.ledger[place].kind, fraction * fractionOfWalk);
         });
@@ -206,6 +208,7 @@ class LedgerMaker {
   const Path _home;
   const Path _realHome;
   const SystemDataEngine::ProgressSink& _progress;
+  const std::stop_token& _stop;
   std::vector<CensusPlace> _places;
   Items _items;
   std::map<Kind, Smaller> _smaller;
@@ -214,8 +217,9 @@ class LedgerMaker {
 }  // namespace
 
 SystemDataResult makeLedger(const Platform& platform,
-                            const SystemDataEngine::ProgressSink& progress) {
-  return LedgerMaker(platform, progress).make();
+                            const SystemDataEngine::ProgressSink& progress,
+                            const std::stop_token& stop) {
+  return LedgerMaker(platform, progress, stop).make();
 }
 
 }  // namespace klarvik

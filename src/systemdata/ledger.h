@@ -10,6 +10,7 @@ namespace klarvik {
 /// nobody but an administrator could read. What the file system keeps for the system is told before
 /// the remainder; it is not used. As `SystemDataEngine::analyse` otherwise.
 [[nodiscard]] SystemDataResult makeLedger(const Platform& platform,
-                                          const SystemDataEngine::ProgressSink& progress);
+                                          const SystemDataEngine::ProgressSink& progress,
+                                          const std::stop_token& stop);
 
 }  // namespace klarvik

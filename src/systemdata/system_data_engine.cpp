@@ -20,9 +20,11 @@ std::string_view labelOf(const Pass& pass, std::span<const SystemDataWords> word
 
 }  // namespace
 
-SystemDataResult SystemDataEngine::analyse(const ProgressSink& progress) {
+SystemDataResult SystemDataEngine::analyse(const ProgressSink& progress,
+                                           const std::stop_token& stop) {
   const std::scoped_lock serial(_analysing);
-  if (!layoutFor(_platform.files.home()).ledger.empty()) return makeLedger(_platform, progress);
+  if (!layoutFor(_platform.files.home()).ledger.empty())
+    return makeLedger(_platform, progress, stop);
   const SystemDataSearch search(_platform);
   const DiskLayout& layout = layoutFor(_platform.files.home());
   std::vector<SystemDataItem> items;

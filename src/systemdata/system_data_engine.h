@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <mutex>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -25,11 +26,12 @@ class SystemDataEngine {
 
   explicit SystemDataEngine(const Platform& platform) : _platform(platform) {}
 
-  /// Goes through all passes, each of which is reported before it begins. An analysis cannot be
-  /// stopped half-way. The free bytes of the result are left at 0 for the caller to fill in. Items
-  /// come shortest path first, and none lies inside another; those of a layout with a ledger come
-  /// as `makeLedger` says.
-  [[nodiscard]] SystemDataResult analyse(const ProgressSink& progress);
+  /// Goes through all passes, each of which is reported before it begins. Only the walk of a ledger
+  /// ends early at a stop; what comes of it then is worth nothing. The free bytes of the result are
+  /// left at 0 for the caller to fill in. Items come shortest path first, and none lies inside
+  /// another; those of a layout with a ledger come as `makeLedger` says.
+  [[nodiscard]] SystemDataResult analyse(const ProgressSink& progress,
+                                         const std::stop_token& stop = {});
 
   /// Bytes allocated on the disk for a path and all it holds, hidden files and the contents of
   /// packages included. 0 for a link and for what cannot be read.

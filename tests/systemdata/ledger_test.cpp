@@ -39,7 +39,7 @@ SystemDataItem at(const SystemDataResult& result, const Path& path) {
 }
 
 SystemDataResult ledgerOf(const Platform& platform) {
-  return makeLedger(platform, [](const std::string&, double) {});
+  return makeLedger(platform, [](const std::string&, double) {}, {});
 }
 
 /// A disk with figures of its own.
@@ -57,7 +57,8 @@ class Ledger : public testing::Test {
                      .formatting = platform.formatting,
                      .info = platform.info,
                      .recentDocuments = platform.recentDocuments,
-                     .programs = programs});
+                     .programs = programs,
+                     .tools = platform.tools});
   }
 
   const TemporaryFolder disk;

@@ -18,9 +18,9 @@ namespace klarvik {
 namespace {
 
 SystemDataModel::Analyse analyseWithFreshEngine(const Platform& platform) {
-  return [&platform](const SystemDataEngine::ProgressSink& progress) {
+  return [&platform](const SystemDataEngine::ProgressSink& progress, const std::stop_token& stop) {
     SystemDataEngine engine(platform);
-    SystemDataResult result = engine.analyse(progress);
+    SystemDataResult result = engine.analyse(progress, stop);
     result.freeBytesAtMeasurement = engine.freeBytes();
     return result;
   };
@@ -218,10 +218,12 @@ void SystemDataModel::startAnalysis() {
   _movedWhileScanning.clear();
   _scan.start<ScanReport, SystemDataResult>(
       {.work =
-           [analyse = _analyse](std::stop_token, const auto& post) {
-             return analyse([&post](const std::string& label, double fraction) {
-               post({label, fraction});
-             });
+           [analyse = _analyse](const std::stop_token& stop, const auto& post) {
+             return analyse(
+                 [&post](const std::string& label, double fraction) {
+                   post({label, fraction});
+                 },
+                 stop);
            },
        .report = [this](const ScanReport& report) { apply(report); },
        .finish = [this](const SystemDataResult& result) { finishAnalysis(result); }});
@@ -229,7 +231,7 @@ void SystemDataModel::startAnalysis() {
   emit stateChanged();
 }
 
-/// The pass under way cannot be stopped: what it still finds is dropped.
+/// A pass under way may run on: what it still finds is dropped.
 void SystemDataModel::stopAnalysis() {
   _scan.cancel();
   emit stateChanged();

@@ -84,7 +84,8 @@ class SystemDataModel : public klarvik::ToolPane {
 
   /// Analyses on the calling thread, as `SystemDataEngine::analyse` does; its result says how much
   /// is free.
-  using Analyse = std::function<SystemDataResult(const SystemDataEngine::ProgressSink&)>;
+  using Analyse = std::function<SystemDataResult(const SystemDataEngine::ProgressSink&,
+                                                 const std::stop_token&)>;
 
   /// Without an `analyse` of its own, each analysis is that of a fresh `SystemDataEngine`.
   SystemDataModel(SharedState& shared, const Desktop& desktop, QObject* parent = nullptr,

@@ -91,9 +91,8 @@ class SystemDataPane : public PaneFixture {
   std::vector<SystemDataItem> laidDown;
   std::atomic<int> analyses = 0;
   SystemDataModel pane{shared, desktop, nullptr,
-                       [this](const SystemDataEngine::ProgressSink& progress) {
-                         return analyseAsLaidDown(progress);
-                       }};
+                       [this](const SystemDataEngine::ProgressSink& progress,
+                              const std::stop_token&) { return analyseAsLaidDown(progress); }};
 };
 
 TEST_F(SystemDataPane, IsEmptyUntilTheUserAsksForAnAnalysis) {
