@@ -287,22 +287,26 @@ TEST_F(WalkFaultsTest, ReadingAFolderThatFailsPartWayCountsWhatWasRead) {
   EXPECT_GE(refused, 1) << "the call that opens the folder is among those that fail";
 }
 
+/// The number of the next handle, in a child; none behind it is taken, whatever was inherited.
+int firstFreeHandle() {
+  constexpr int behindTheStandardOnes = 3;
+  ::close_range(behindTheStandardOnes, ~0U, 0);
+  return behindTheStandardOnes;
+}
+
 TEST_F(WalkFaultsTest, HandlesThatRunOutMakeItFindLessWithoutACrash) {
   makeDeepTree(disk.makeFolder("/start"), 40);
   EXPECT_TRUE(inChild([&] {
-    const int next = ::dup(0);
-    ::close(next);
+    const int next = firstFreeHandle();
     return limitHandles(static_cast<rlim_t>(next)) &&
            files.walk("/start", {}, nullptr) == WalkOutcome::refused && !files.list("/start");
   }));
   EXPECT_TRUE(inChild([&] {
-    const int next = ::dup(0);
-    ::close(next);
+    const int next = firstFreeHandle();
     return limitHandles(static_cast<rlim_t>(next + 1)) && countBelow(files, "/start") == 3;
   })) << "one handle is enough to see what lies directly in the folder";
   EXPECT_TRUE(inChild([&] {
-    const int next = ::dup(0);
-    ::close(next);
+    const int next = firstFreeHandle();
     return limitHandles(static_cast<rlim_t>(next + 3)) && countBelow(files, "/start") == 121;
   })) << "three handles are enough for any depth";
 }
