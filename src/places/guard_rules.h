@@ -24,12 +24,12 @@ struct GuardRules {
   std::string_view managedReason{};
   /// No home lies at or below one of these: what is there belongs to everybody.
   std::span<const std::string_view> nobodysHomes{};
-  std::span<const std::string_view> homesAllTheSame{};  ///< patterns; but these are somebody's
-  std::span<const std::string_view> otherHomes;         ///< patterns; what other people own
-  std::span<const PlacePattern> secrets{};              ///< keys and passwords, at and below
-  std::span<const std::string_view> secretNames{};      ///< patterns; anywhere in the home
-  std::span<const PlacePattern> ownPlaces;              ///< what people keep, at and below
-  std::span<const PlacePattern> residualRoots{};  ///< where no desktop entries tell more
+  std::span<const std::string_view> homesAllTheSame{};       ///< patterns; but these are somebody's
+  std::span<const std::string_view> otherHomes;              ///< patterns; what other people own
+  std::span<const PlacePattern> secrets{};                   ///< keys and passwords, at and below
+  std::span<const std::string_view> secretNames{};           ///< patterns; anywhere in the home
+  std::span<const PlacePattern> ownPlaces;                   ///< what people keep, at and below
+  std::span<const PlacePattern> residualRoots{};             ///< where no desktop entries tell more
   std::span<const std::string_view> cleanableOutsideHome{};  ///< prefixes
 };
 

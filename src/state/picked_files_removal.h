@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "engine/scanner_engine.h"
-#include "platform/platform.h"
 #include "platform/main_loop/background_tasks.h"
+#include "platform/platform.h"
 #include "state/removal_notice.h"
 
 namespace klarvik {
