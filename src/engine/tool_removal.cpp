@@ -53,6 +53,7 @@ class Asked {
   }
 
   [[nodiscard]] std::vector<JunkItem> items() const {
+    if (!_platform.files.exists(shownAt())) return {};
     switch (_tool.answer) {
       case ToolAnswer::dockerBuildCache:
         return sized(dockerUse(buildCacheOfDocker).reclaimable);

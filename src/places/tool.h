@@ -46,7 +46,8 @@ struct CleaningTool {
   CategoryType category = CategoryType::packageCaches;
   std::string_view item{};  ///< its name; empty where the table of places has it
   std::string_view reason{};
-  std::string_view shownAt{};  ///< where it lies, for the user's eyes
+  /// Where it lies. Nothing is asked where that is missing: some tools make it when they are asked.
+  std::string_view shownAt{};
 
   [[nodiscard]] bool isRun() const { return told.empty(); }
 };

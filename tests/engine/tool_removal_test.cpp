@@ -34,6 +34,16 @@ constexpr std::int64_t big = 10'500'000;
 /// A Linux home on a disk of the machine. Tools answer what a test lays down.
 class ToolsTest : public testing::Test {
  protected:
+  ToolsTest() {
+    for (const Path& place : storages()) disk.makeFolder(place);
+  }
+
+  /// Where the tools keep what is in no table of places.
+  [[nodiscard]] std::vector<Path> storages() const {
+    return {"/var/lib/docker", home / ".local/share/containers",
+            home / ".local/share/flatpak/runtime", "/var/lib/snapd/snaps"};
+  }
+
   [[nodiscard]] Path onDisk(const Path& place) const { return disk.onDisk(home / place); }
 
   void file(const Path& place, std::int64_t bytes = big) const {
@@ -280,16 +290,25 @@ TEST_F(ToolsTest, OfPackagesTellEachThatIsKeptUnused) {
   EXPECT_EQ(tools.commandsRun().size(), runs + 2);
 }
 
+/// Some make their folders in the home when they are asked what is there.
+TEST_F(ToolsTest, AreNotAskedWhereTheyHaveKeptNothing) {
+  for (const Path& place : storages()) std::filesystem::remove_all(disk.onDisk(place));
+  for (const CategoryType type : {CategoryType::dockerData, CategoryType::installedPackages}) {
+    EXPECT_THAT(find(type).items, IsEmpty());
+  }
+  EXPECT_THAT(tools.commandsRun(), IsEmpty());
+}
+
 TEST_F(ToolsTest, OfFlatpakSumUpWhatItWouldRemove) {
-  const std::string list = "flatpak list --runtime --columns=ref,size,installation";
+  const std::string list = "flatpak list --user --runtime --columns=ref,size,installation";
   tools.answer(list, "org.a/x86_64/1\t1.5?GB\tsystem\norg.b/x86_64/2\t20.0?MB\tuser\n");
-  tools.act("flatpak uninstall --unused", [] {
+  tools.act("flatpak uninstall --user --unused", [] {
     return ToolResult{
         .end = End::exited, .status = 1, .output = "\n 1.\t   \torg.b\t2\tr\n\n [Y/n]: n\n"};
   });
   const JunkItem item = only(CategoryType::installedPackages);
   EXPECT_EQ(item.size, 20'000'000);
-  tools.act("flatpak uninstall --unused --noninteractive", [&] {
+  tools.act("flatpak uninstall --user --unused --noninteractive", [&] {
     tools.answer(list, "org.a/x86_64/1\t1.5?GB\tsystem\n");
     return FakeToolRunner::printed("");
   });
@@ -366,7 +385,7 @@ TEST_F(RealToolsTest, PodmanRemovesImagesWithoutAName) {
 }
 
 TEST_F(RealToolsTest, FlatpakRemovesAnUnusedRuntime) {
-  const std::string folders = "export FLATPAK_USER_DIR=" + onDisk("flatpak").native() +
+  const std::string folders = "export FLATPAK_USER_DIR=" + onDisk(".local/share/flatpak").native() +
                               " FLATPAK_SYSTEM_DIR=" + onDisk("system").native();
   if (!bringIn("flatpak", "", folders)) GTEST_SKIP() << "there is no Flatpak";
   disk.makeFile(home / "rt/metadata",
@@ -385,11 +404,11 @@ TEST_F(RealToolsTest, FlatpakRemovesAnUnusedRuntime) {
       !shell(flatpak + "pin --user --remove " + ref)) {
     GTEST_SKIP() << "Flatpak installs nothing here";
   }
-  const auto item = offered(CategoryType::installedPackages, "flatpak");
+  const auto item = offered(CategoryType::installedPackages, "flatpak-user");
   ASSERT_TRUE(item);
   EXPECT_GE(item->size, 3'000'000);
   EXPECT_EQ(reallyRemoved(*item), item->size);
-  EXPECT_FALSE(offered(CategoryType::installedPackages, "flatpak"));
+  EXPECT_FALSE(offered(CategoryType::installedPackages, "flatpak-user"));
 }
 
 }  // namespace

@@ -36,19 +36,26 @@ constexpr auto askPodmanImages = arguments("podman", "--remote=false", "images",
 constexpr auto prunePodmanImages =
     arguments("podman", "--remote=false", "image", "prune", "--force");
 
-constexpr auto askFlatpakSizes =
-    arguments("flatpak", "list", "--runtime", "--columns=ref,size,installation");
-constexpr auto askFlatpakUnused = arguments("flatpak", "uninstall", "--unused");
-constexpr auto uninstallFlatpakUnused =
-    arguments("flatpak", "uninstall", "--unused", "--noninteractive");
+constexpr auto askSystemFlatpakSizes =
+    arguments("flatpak", "list", "--system", "--runtime", "--columns=ref,size,installation");
+constexpr auto askSystemFlatpakUnused = arguments("flatpak", "uninstall", "--system", "--unused");
+constexpr auto uninstallSystemFlatpakUnused =
+    arguments("flatpak", "uninstall", "--system", "--unused", "--noninteractive");
+constexpr auto askUserFlatpakSizes =
+    arguments("flatpak", "list", "--user", "--runtime", "--columns=ref,size,installation");
+constexpr auto askUserFlatpakUnused = arguments("flatpak", "uninstall", "--user", "--unused");
+constexpr auto uninstallUserFlatpakUnused =
+    arguments("flatpak", "uninstall", "--user", "--unused", "--noninteractive");
 // Where the service does not run, the list would wait for it for ever.
 constexpr auto askSnapd = arguments("systemctl", "is-active", "--quiet", "snapd.socket");
 constexpr auto askSnaps = arguments("snap", "list", "--all");
 constexpr auto removeSnap = arguments("snap", "remove", "NAME", "--revision=REVISION");
 
+constexpr std::string_view unusedRuntimes =
+    "Runtimes that no installed application needs; some come back at the next update.";
 constexpr std::string_view imagesWithoutName = "Images that no name and no container refers to.";
 
-constexpr std::array<CleaningTool, 22> all{{
+constexpr std::array<CleaningTool, 23> all{{
     {.id = "uv", .name = "uv", .asks = askUv, .removes = cleanUv},
     {.id = "pnpm", .name = "pnpm", .asks = askPnpm, .removes = prunePnpm},
     {.id = "conda",
@@ -89,17 +96,27 @@ constexpr std::array<CleaningTool, 22> all{{
      .item = "Podman images without a name",
      .reason = imagesWithoutName,
      .shownAt = "~/.local/share/containers"},
-    {.id = "flatpak",
+    {.id = "flatpak-system",
      .name = "Flatpak",
      .rights = asked,
      .answer = flatpakRuntimes,
-     .asks = askFlatpakUnused,
-     .asksFirst = askFlatpakSizes,
-     .removes = uninstallFlatpakUnused,
+     .asks = askSystemFlatpakUnused,
+     .asksFirst = askSystemFlatpakSizes,
+     .removes = uninstallSystemFlatpakUnused,
      .category = installedPackages,
      .item = "Unused Flatpak runtimes",
-     .reason = "Runtimes that no installed application needs; some come back at the next update.",
-     .shownAt = "/var/lib/flatpak"},
+     .reason = unusedRuntimes,
+     .shownAt = "/var/lib/flatpak/runtime"},
+    {.id = "flatpak-user",
+     .name = "Flatpak",
+     .answer = flatpakRuntimes,
+     .asks = askUserFlatpakUnused,
+     .asksFirst = askUserFlatpakSizes,
+     .removes = uninstallUserFlatpakUnused,
+     .category = installedPackages,
+     .item = "Your unused Flatpak runtimes",
+     .reason = unusedRuntimes,
+     .shownAt = "~/.local/share/flatpak/runtime"},
     {.id = "snap",
      .name = "snapd",
      .rights = asked,
