@@ -37,7 +37,8 @@ int KeyedListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(_rows.size());
 }
 
-void KeyedListModel::showRows(std::vector<Row> wanted, const std::function<void()>& exchange) {
+void KeyedListModel::showRows(const std::vector<Row>& wanted,
+                              const std::function<void()>& exchange) {
   removeRowsMissingFrom(wanted);
   if (exchange) exchange();
   const auto known = setOf(wanted);

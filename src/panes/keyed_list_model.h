@@ -39,7 +39,7 @@ class KeyedListModel : public QAbstractListModel {
 
   /// Removes the rows that are not among `wanted`, calls `exchange`, which puts the data of the
   /// wanted rows in place, then moves, inserts and redraws rows. No two of `wanted` are the same.
-  void showRows(std::vector<Row> wanted, const std::function<void()>& exchange = {});
+  void showRows(const std::vector<Row>& wanted, const std::function<void()>& exchange = {});
 
  private:
   void removeRowsMissingFrom(const std::vector<Row>& wanted);

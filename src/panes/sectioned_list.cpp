@@ -61,7 +61,7 @@ void SectionedList::fill(std::vector<ShownRow> rows, std::unordered_set<Uuid> se
     if (!item) ++section;
     wanted.push_back({.section = section, .item = item.value_or(Uuid()), .itemPlace = place});
   }
-  showRows(std::move(wanted));
+  showRows(wanted);
   emit selectionChanged();
 }
 
@@ -83,7 +83,7 @@ void SectionedList::remove(const std::unordered_set<Uuid>& items) {
     kept.push_back(row);
   }
   if (!kept.empty() && !_shown[kept.back().itemPlace].item) kept.pop_back();
-  showRows(std::move(kept));
+  showRows(kept);
   for (const Uuid& item : items) _selected.erase(item);
   emit selectionChanged();
 }

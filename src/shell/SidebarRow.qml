@@ -21,6 +21,7 @@ Pressable {
 
     title: description
     help: isHeading ? "" : toolHelp
+    isHelpBeside: true
     pressableEnabled: !isHeading
     Accessible.role: isHeading ? Accessible.Heading : Accessible.Button
     Accessible.selectable: !isHeading

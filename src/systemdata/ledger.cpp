@@ -94,13 +94,13 @@ class LedgerMaker {
   void addMeasured() {
     const auto used = static_cast<double>(
         std::max<std::int64_t>(readDiskStats(_platform.volume, _layout).usedBytes, 1));
-    Census census =
+    const Census census =
         takeCensus(_platform.files, _places, _stop, [&](std::size_t place, std::int64_t bytes) {
           const double fraction = std::min(static_cast<double>(bytes) / used, 1.0);
           tell(_layout.ledger[place].kind, fraction * fractionOfWalk);
         });
-    for (CensusRow& row : census.rows) {
-      if (row.bytes > 0) add(std::move(row));
+    for (const CensusRow& row : census.rows) {
+      if (row.bytes > 0) add(row);
     }
     foldTinyKinds();
     for (auto& [kind, rest] : _smaller) {
@@ -129,7 +129,7 @@ class LedgerMaker {
     if (folded.count > 0) _smaller[Kind::elsewhere].add(folded);
   }
 
-  void add(CensusRow row) {
+  void add(const CensusRow& row) {
     const LedgerPlace& place = _layout.ledger[row.place];
     if (row.path.empty() || row.bytes < place.above) {
       _smaller[place.kind].add({.bytes = row.bytes, .count = 1});

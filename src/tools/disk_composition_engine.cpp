@@ -175,12 +175,6 @@ DiskComposition DiskCompositionEngine::measureVolume(const std::stop_token& stop
   if (!disk.buckets.empty() && disk.buckets.back().id == "system") {
     disk.buckets.back().places = {"/"};
   }
-  if (const auto kept = _platform.volume.keptForRootBytes().value_or(0); kept >= 1) {
-    disk.buckets.push_back({.id = "kept",
-                            .label = std::string(layout.words.keptForSystem),
-                            .bytes = kept,
-                            .color = storage_palette::white(0.5)});
-  }
   progress("Done", 1.0);
   disk.measuredAt = _now();
   return disk;

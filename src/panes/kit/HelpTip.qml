@@ -8,6 +8,7 @@ Loader {
 
     property string text: ""
     property bool hovered: false
+    property bool isBeside: false
 
     readonly property bool isWanted: root.hovered && root.text !== ""
 
@@ -32,6 +33,7 @@ Loader {
         }
     }
     onLoaded: {
+        root.item.isBeside = root.isBeside;
         root.item.text = Qt.binding(() => root.text);
         root.item.shown = Qt.binding(() => !HelpTips.owner || HelpTips.owner === root.parent);
     }

@@ -9,6 +9,8 @@ T.ToolTip {
     id: root
 
     property bool shown: false
+    // To the right, where what stands above and below can be pressed as well.
+    property bool isBeside: false
 
     // Beside what it is about, never over it.
     readonly property bool fitsBelow: {
@@ -26,7 +28,9 @@ T.ToolTip {
     padding: 6
     leftPadding: 9
     rightPadding: 9
-    y: root.fitsBelow ? root.parent.height + 6 : -root.implicitHeight - 6
+    x: !root.parent ? 0 : root.isBeside ? root.parent.width + 12 : (root.parent.width - root.implicitWidth) / 2
+    y: !root.parent ? 0 : root.isBeside ? (root.parent.height - root.implicitHeight) / 2
+                    : root.fitsBelow ? root.parent.height + 6 : -root.implicitHeight - 6
     implicitWidth: Math.min(360, label.implicitWidth + root.leftPadding + root.rightPadding)
     implicitHeight: label.implicitHeight + root.topPadding + root.bottomPadding
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent

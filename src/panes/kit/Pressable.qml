@@ -10,6 +10,8 @@ Item {
 
     property string title
     property string help
+    // Whether the tooltip stands to the right instead of below.
+    property bool isHelpBeside: false
     property bool pressableEnabled: true
     // How far the area that answers a press reaches beyond the element, on each side.
     property real tapMargin: 0
@@ -85,5 +87,6 @@ Item {
     HelpTip {
         text: root.help
         hovered: root.hovered
+        isBeside: root.isHelpBeside
     }
 }

@@ -9,6 +9,8 @@
 #include "base/paths.h"
 #include "panes/kit/row_text.h"
 #include "panes/storage/storage_texts.h"
+#include "places/disk_layout.h"
+#include "platform/file_system.h"
 #include "state/set_if_changed.h"
 
 namespace klarvik {
@@ -182,9 +184,11 @@ void StorageAnalyticsModel::setHighlighted(const QString& bucket) {
 void StorageAnalyticsModel::updateSubtitle() {
   const auto measuredAt = _composition ? std::optional(_composition->measuredAt) : std::nullopt;
   const std::string text =
-      isMeasuring() ? storage::measuringSubtitle(_measureLabel)
-                    : storage::restingSubtitle(_diskMonitor.stats(), measuredAt,
-                                               _desktop.clock.now(), _desktop.formatting);
+      isMeasuring()
+          ? storage::measuringSubtitle(_measureLabel)
+          : storage::restingSubtitle(_diskMonitor.stats(), measuredAt, _desktop.clock.now(),
+                                     _desktop.formatting,
+                                     layoutFor(_desktop.files.home()).words.keptForSystem);
   if (setIfChanged(_subtitle, QString::fromStdString(text))) emit subtitleChanged();
 }
 

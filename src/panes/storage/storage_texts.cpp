@@ -7,9 +7,13 @@ std::string measuringSubtitle(const std::string& label) {
 }
 
 std::string restingSubtitle(const DiskStats& stats, std::optional<Date> measuredAt, Date now,
-                            const Formatting& formatting) {
-  const std::string free =
+                            const Formatting& formatting, std::string_view keptWord) {
+  std::string free =
       formatting.byteText(stats.freeBytes) + " free of " + formatting.byteText(stats.totalBytes);
+  const std::int64_t kept = stats.totalBytes - stats.usedBytes - stats.freeBytes;
+  if (kept > 0 && !keptWord.empty()) {
+    free.append(" · ").append(formatting.byteText(kept)).append(" ").append(keptWord);
+  }
   return measuredAt ? free + " · measured " + formatting.relativeAbbreviated(*measuredAt, now)
                     : free;
 }

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/disk_stats.h"
 #include "platform/formatting.h"
@@ -11,9 +12,11 @@
 namespace klarvik::storage {
 
 [[nodiscard]] std::string measuringSubtitle(const std::string& label);
-/// Without `measuredAt` nothing has been measured.
+/// Without `measuredAt` nothing has been measured. `keptWord` is said of what is neither used nor
+/// free for the user.
 [[nodiscard]] std::string restingSubtitle(const DiskStats& stats, std::optional<Date> measuredAt,
-                                          Date now, const Formatting& formatting);
+                                          Date now, const Formatting& formatting,
+                                          std::string_view keptWord = {});
 [[nodiscard]] std::string actionTitle(bool isMeasuring, bool isMeasured);
 /// What stands in the place of a chart that there is none of yet.
 [[nodiscard]] std::string nothingMeasured(bool hasFullDiskAccess);

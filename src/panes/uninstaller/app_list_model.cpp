@@ -58,8 +58,8 @@ void AppListModel::setApps(std::vector<AppInfo> apps) {
   for (AppInfo& app : apps) {
     if (const auto former = known.extract(app.appURL.native())) app.id = former.mapped();
   }
-  std::vector<Row> wanted = matching(apps);
-  showRows(std::move(wanted), [&] { _apps = std::move(apps); });
+  const std::vector<Row> wanted = matching(apps);
+  showRows(wanted, [&] { _apps = std::move(apps); });
 }
 
 void AppListModel::remove(const Path& appURL) {

@@ -4,7 +4,7 @@ namespace klarvik::linux_disk {
 
 const Words words{
     .systemAndEverythingElse = "The system and everything else",
-    .keptForSystem = "Kept for the system",
+    .keptForSystem = "kept for the system",
     .unnamedVolume = "System",
     .unnamedHomeVolume = "Home",
     .systemLine = "%1",

@@ -180,7 +180,6 @@ TEST_F(FolderBrowserTest, AShareOfTheDiskOpensTheFoldersInIt) {
   EXPECT_FALSE(pane.browser()->isOpen());
   pane.performAction();
   ASSERT_TRUE(turnUntil([&] { return pane.isMeasured(); }));
-  pane.openBucket("kept");
   pane.openBucket("no such share");
   EXPECT_FALSE(pane.browser()->isOpen());
   pane.openBucket("documents");

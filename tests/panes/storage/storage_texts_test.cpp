@@ -19,6 +19,10 @@ TEST(StorageTexts, SayHowMuchIsFreeAndHowOldTheMeasurementIs) {
   const Formatting formatting("en_US");
   EXPECT_EQ(storage::restingSubtitle(stats, std::nullopt, now, formatting),
             "200 GB free of 500 GB");
+  DiskStats withKeptBlocks = stats;
+  withKeptBlocks.usedBytes -= 7'000'000'000;
+  EXPECT_EQ(storage::restingSubtitle(withKeptBlocks, std::nullopt, now, formatting, "kept"),
+            "200 GB free of 500 GB · 7 GB kept");
   EXPECT_EQ(storage::restingSubtitle(stats, now - 3min, now, formatting),
             "200 GB free of 500 GB · measured 3 min. ago");
 }
