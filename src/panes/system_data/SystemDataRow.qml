@@ -169,7 +169,7 @@ RowFrame {
     }
 
     RevealButton {
-        visible: root.isItem && root.url.toString() !== ""
+        visible: root.isItem && root.path !== ""
         activeFocusOnTab: root.ListView.isCurrentItem
         url: root.url
     }

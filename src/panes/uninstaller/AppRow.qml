@@ -34,7 +34,8 @@ RowFrame {
             anchors.fill: parent
             visible: isShown
             source: root.icon
-            sourceSize: Qt.size(24 * Screen.devicePixelRatio, 24 * Screen.devicePixelRatio)
+            sourceSize.width: 24 * Screen.devicePixelRatio
+            sourceSize.height: 24 * Screen.devicePixelRatio
             fillMode: Image.PreserveAspectFit
         }
 

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Layouts
 import Klarvik.Kit
 
 /// How an application goes that Klarvik does not remove itself: the command, and what it would take.
