@@ -511,11 +511,11 @@ class Search {
 
   /// An icon that another application shows as well stays.
   void removeForeignIcons() {
-    for (auto& [app, isShown] : _found) {
-      std::erase_if(app.parts, [&](const AppPart& part) {
+    for (auto& found : _found) {
+      std::erase_if(found.first.parts, [&](const AppPart& part) {
         return part.path.extension() != entryExtension &&
                std::ranges::any_of(_found, [&](const auto& other) {
-                 return &other.first != &app && other.first.icon == part.path.stem();
+                 return &other != &found && other.first.icon == part.path.stem();
                });
       });
     }
