@@ -110,10 +110,12 @@ class FolderMeasurement {
 
   WalkStep visit(WalkEntry& entry) {
     const auto attributes = entry.attributes();
-    if (!attributes || attributes->isMountPoint) return WalkStep::proceed;
-    if (_holdsLeftOut && isLeftOut(entry.name())) return WalkStep::skipDescendants;
-    add(entry.name(), *attributes);
-    return WalkStep::proceed;
+    const bool counts =
+        attributes && !attributes->isMountPoint && !(_holdsLeftOut && isLeftOut(entry.name()));
+    if (counts) add(entry.name(), *attributes);
+    // Only a folder that was listed may be entered, or its number would be sought in vain.
+    const bool isListedFolder = counts && attributes->kind == FileKind::directory;
+    return isListedFolder ? WalkStep::proceed : WalkStep::skipDescendants;
   }
 
   void add(std::string_view name, const FileAttributes& attributes) {

@@ -6,6 +6,7 @@
 
 #include "platform/file_system.h"
 #include "platform/linux/linux_file_system.h"
+#include "support/fault_injecting_file_system.h"
 #include "support/private_mounts.h"
 #include "support/temporary_folder.h"
 
@@ -182,6 +183,18 @@ TEST_F(FolderSizesTest, EndsAtAStopAndWaitsForNoServer) {
     const FolderSizes sizes = measure({"/t", "/far"});
     EXPECT_THAT(sizes.rows(FolderSizes::top), testing::SizeIs(1));
   }));
+}
+
+TEST_F(FolderSizesTest, AFolderThatTellsNothingIsLeftOutAndNotEntered) {
+  inMemory([&] {
+    disk.makeFile("/docs/closed/deep/a", kb);
+    disk.makeFile("/docs/open/b", 2 * kb);
+    LinuxFileSystem real{disk.path(), "/home/ann"};
+    FaultInjectingFileSystem faulty(real);
+    faulty.fail(FileOperation::attributes, "/docs/closed");
+    const FolderSizes sizes = FolderSizes::measure(faulty, {{Path("/docs")}}, {}, {});
+    EXPECT_THAT(rowsOf(sizes, find(sizes, {"/docs"})), ElementsAre(Row("open", 2 * kb)));
+  });
 }
 
 }  // namespace
