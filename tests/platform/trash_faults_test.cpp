@@ -432,6 +432,42 @@ TEST_F(TrashWithPlainRenaming, AFaultOrAKillAtAnySystemCallLosesNothing) {
   }
 }
 
+TEST_F(TrashWithPlainRenaming, WhatComesToTheNameAtAnyStepOfAMoveIsKept) {
+  const Path parent = "/Users/ann/parent";
+  for (const char* const name : {"file", "item"}) {
+    for (const bool newIsFolder : {false, true}) {
+      sweep([&](int at) {
+        SCOPED_TRACE(at);
+        makeHomeWithAFileAnew();
+        const DiskSnapshot original = snapshot(parent / name);
+        const Path newcomer = disk.onDisk("/Users/ann/newcomer");
+        disk.makeFile(newIsFolder ? "/Users/ann/newcomer/new" : "/Users/ann/newcomer", "new");
+        const DiskSnapshot brought = snapshot("/Users/ann/newcomer");
+        const auto swap = [&] {
+          std::error_code gone;
+          fs::rename(disk.onDisk(parent / name), disk.onDisk("/Users/ann/aside"), gone);
+          fs::rename(newcomer, disk.onDisk(parent / name), gone);
+        };
+        const FaultyRun run = runPlainly({Kind::disturbed, at, 0, swap}, [&] {
+          return trash.moveToTrash(parent / name, anywhere).has_value();
+        });
+        const auto standsIn = [&](const Path& folder, const DiskSnapshot& thing) {
+          return disk.holds(folder) &&
+                 std::ranges::any_of(fs::directory_iterator(disk.onDisk(folder)),
+                                     [&](const fs::directory_entry& entry) {
+                                       return snapshot(folder / entry.path().filename()) == thing;
+                                     });
+        };
+        for (const DiskSnapshot& thing : {original, brought}) {
+          EXPECT_TRUE(standsIn("/Users/ann", thing) || standsIn(parent, thing) ||
+                      standsIn(kFiles, thing));
+        }
+        return run.reached;
+      });
+    }
+  }
+}
+
 TEST_F(TrashSwaps, AWriteCutShortWhileTheRecordIsWrittenTheOriginalStaysNoOrphan) {
   makeHomeAnew();
   const FaultyRun run = runWithFault({}, [&] {

@@ -1,10 +1,13 @@
 #include "platform/linux/item_move.h"
 
 #include <fcntl.h>
+#include <limits.h>
 #include <stdio.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
+#include <random>
 
 #include "base/posix_io.h"
 #include "platform/linux/file_status.h"
@@ -33,43 +36,66 @@ bool unlinkName(const Name& name) {
   return retryOnEintr([&] { return ::unlinkat(name.folder, name.text.c_str(), 0); }) == 0;
 }
 
+bool linkName(const Name& from, const Name& to) {
+  return retryOnEintr([&] {
+           return ::linkat(from.folder, from.text.c_str(), to.folder, to.text.c_str(), 0);
+         }) == 0;
+}
+
+/// Where something stands already, nothing is renamed; what comes in that moment is replaced when
+/// it is a file.
+bool renamePlainly(const Name& from, const Name& to) {
+  if (statusOf(to.folder, to.text.c_str())) {
+    errno = EEXIST;
+    return false;
+  }
+  return retryOnEintr([&] {
+           return ::renameat(from.folder, from.text.c_str(), to.folder, to.text.c_str());
+         }) == 0;
+}
+
+/// Takes the name from the item that has another one by now. The system would unlink whatever
+/// stands there, so what it is is seen under a temporary name first.
+Move unlinkFirstName(const Name& name, const struct statx& seen) {
+  const std::string temporary = temporaryName(name.text);
+  const Name aside{name.folder, temporary};
+  if (!renamePlainly(name, aside)) return Move::failed;
+  if (isStill(seen, aside.folder, aside.text.c_str()) && unlinkName(aside)) return Move::done;
+  const bool isBack = linkName(aside, name) ? unlinkName(aside) : renamePlainly(aside, name);
+  return isBack ? Move::failed : Move::strayed;
+}
+
 /// A second name replaces nothing. The first one goes once both are known to mean the item.
 Move moveBySecondName(const Name& from, const struct statx& seen, const Name& to) {
-  const int linked = retryOnEintr(
-      [&] { return ::linkat(from.folder, from.text.c_str(), to.folder, to.text.c_str(), 0); });
-  if (linked != 0) {
+  if (!linkName(from, to)) {
     if (errno == EEXIST) return Move::nameTaken;
     const bool cannotLink = errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS;
     return cannotLink ? Move::unsupported : Move::failed;
   }
-  const bool isMeant =
-      isStill(seen, to.folder, to.text.c_str()) && isStill(seen, from.folder, from.text.c_str());
-  if (isMeant && unlinkName(from)) return Move::done;
-  unlinkName(to);
-  return Move::failed;
+  const bool isMeant = isStill(seen, to.folder, to.text.c_str());
+  const Move taken = isMeant ? unlinkFirstName(from, seen) : Move::failed;
+  if (taken != Move::done) unlinkName(to);
+  return taken;
 }
 
 /// A folder that is renamed replaces nothing but an empty folder, and one is looked for before.
 Move moveFolderPlainly(const Name& from, const struct statx& seen, const Name& to) {
-  const auto plainly = [](const Name& source, const Name& target) {
-    if (statusOf(target.folder, target.text.c_str())) {
-      errno = EEXIST;
-      return false;
-    }
-    return retryOnEintr([&] {
-             return ::renameat(source.folder, source.text.c_str(), target.folder,
-                               target.text.c_str());
-           }) == 0;
-  };
   if (!isStill(seen, from.folder, from.text.c_str())) return Move::failed;
-  if (!plainly(from, to)) {
+  if (!renamePlainly(from, to)) {
     const bool isTaken = errno == EEXIST || errno == ENOTEMPTY || errno == ENOTDIR;
     return isTaken ? Move::nameTaken : Move::failed;
   }
-  return lookedAtAgain(seen, to, [&] { return plainly(to, from); });
+  return lookedAtAgain(seen, to, [&] { return renamePlainly(to, from); });
 }
 
 }  // namespace
+
+std::string temporaryName(const std::string& name) {
+  std::array<char, 32> suffix{};
+  const int length =
+      std::snprintf(suffix.data(), suffix.size(), ".klarvik-removal-%08x", std::random_device()());
+  return name.substr(0, NAME_MAX - static_cast<std::size_t>(length)) + suffix.data();
+}
 
 Move moveItem(const Name& from, const struct statx& seen, const Name& to) {
   if (renameIfFree(from, to)) {

@@ -27,4 +27,7 @@ struct Name {
 /// name since stays. May be called from any thread.
 [[nodiscard]] Move moveItem(const Name& from, const struct statx& seen, const Name& to);
 
+/// A name beside `name` that nobody else gives.
+[[nodiscard]] std::string temporaryName(const std::string& name);
+
 }  // namespace klarvik

@@ -1,13 +1,9 @@
 #include "platform/linux/tree_removal.h"
 
 #include <fcntl.h>
-#include <limits.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
-#include <cstdio>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -136,19 +132,11 @@ void emptyFolder(const ParentHandle& item, const struct statx& seen, const Mount
   TreeRemoval(std::move(folder), mount).run();
 }
 
-/// A name that nobody else gives.
-std::string nameForRemoval(const std::string& name) {
-  std::array<char, 32> suffix{};
-  const int length =
-      std::snprintf(suffix.data(), suffix.size(), ".klarvik-removal-%08x", std::random_device()());
-  return name.substr(0, NAME_MAX - static_cast<std::size_t>(length)) + suffix.data();
-}
-
 /// The system removes whatever stands under a name by the time it is asked. So the file is taken to
 /// a name of its own first, and looked at again there.
 bool removeFile(const ParentHandle& item, const struct statx& seen) {
   const int folder = item.folder.get();
-  const std::string nameAside = nameForRemoval(item.name);
+  const std::string nameAside = temporaryName(item.name);
   const Name place{folder, item.name};
   const Name aside{folder, nameAside};
   const Move move = moveItem(place, seen, aside);
