@@ -248,7 +248,13 @@ void ReviewTableModel::setExpanded(std::size_t at, bool expanded) {
 }
 
 void ReviewTableModel::showAll(std::size_t at) {
-  _shown[at].showsAll = true;
+  ShownCategory& shown = _shown[at];
+  shown.showsAll = true;
+  if (shown.hiddenCount == 0) return;
+  // The row becomes the first of those that it hid: a list stays at the row that is current.
+  shown.hiddenCount = 0;
+  shown.ranks.push_back(shown.ranks.size());
+  rowChanged(firstRow(at) + shown.ranks.size());
   syncItems(at);
 }
 
