@@ -95,6 +95,12 @@ TEST_F(DuplicatesWindowOverAnEmptyHome, KeepsTheCopyThatTheUserNames) {
   click("Keep this copy instead");
   settle();
   EXPECT_TRUE(shows("report copy.pdf, 5.2 MB, keep, ~/Downloads/"));
+  QQuickItem* row = find("report copy.pdf, 5.2 MB, keep");
+  EXPECT_TRUE(row->hasActiveFocus());
+  EXPECT_FALSE(row->property("isMarked").toBool()) << "no key was used";
+  press(Qt::Key_Down);
+  EXPECT_FALSE(row->hasActiveFocus());
+  EXPECT_TRUE(find(focused())->property("isMarked").toBool());
   EXPECT_TRUE(shows("report.pdf, 5.2 MB, delete, ~/Documents/"));
   clickSelectionBox("report old.pdf, 5.2 MB");
   settle();

@@ -21,9 +21,9 @@ ToolPane {
     rowsShowLoader: true
     columns: [
         ColumnSpec { title: qsTr("FILE") },
-        ColumnSpec { title: qsTr("COPIES"); width: DuplicatesMetrics.copiesWidth; alignment: Qt.AlignRight },
-        ColumnSpec { title: qsTr("EACH"); width: DuplicatesMetrics.eachWidth; alignment: Qt.AlignRight },
-        ColumnSpec { title: qsTr("RECLAIMABLE"); width: DuplicatesMetrics.reclaimableWidth; alignment: Qt.AlignRight }
+        ColumnSpec { title: qsTr("COPIES"); width: Measures.countWidth; alignment: Qt.AlignRight },
+        ColumnSpec { title: qsTr("EACH"); width: Measures.sizeWidth; alignment: Qt.AlignRight },
+        ColumnSpec { title: qsTr("RECLAIMABLE"); width: Measures.sizeWidth; alignment: Qt.AlignRight }
     ]
     onAction: model.performAction()
 

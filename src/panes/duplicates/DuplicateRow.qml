@@ -28,15 +28,14 @@ ToolDetailRow {
 
     function openMenu() {
         if (!isGroup)
-            menu.popup(Theme.sidePadding + indent, height / 2);
+            menu.popup(Measures.side(root.width) + indent, height / 2);
     }
 
     path: url
     nameSize: isGroup ? 13 : 12
     nameWeight: isGroup ? Font.Medium : Font.Normal
     tint: hovered ? 0.03 : isGroup ? 0 : 0.02
-    indent: isGroup ? 0 : DuplicatesMetrics.copyIndent
-    implicitHeight: isGroup ? DuplicatesMetrics.groupHeight : DuplicatesMetrics.copyHeight
+    indent: isGroup ? 0 : Measures.indent
     Accessible.role: isGroup ? Accessible.TreeItem : Accessible.CheckBox
     Accessible.checkable: canToggle
     Accessible.checked: selection === SelectionState.All
@@ -46,6 +45,7 @@ ToolDetailRow {
         id: menu
         visible: !root.isGroup
         entries: [root.menuEntry]
+        onOpening: root.takePress()
         onChosen: root.kept()
     }
 
@@ -78,19 +78,19 @@ ToolDetailRow {
     ]
 
     NumberCell {
-        Layout.preferredWidth: DuplicatesMetrics.copiesWidth
+        Layout.preferredWidth: Measures.countWidth
         visible: root.isGroup
         text: root.copies
     }
 
     NumberCell {
-        Layout.preferredWidth: DuplicatesMetrics.eachWidth
+        Layout.preferredWidth: Measures.sizeWidth
         visible: root.isGroup
         text: root.each
     }
 
     NumberCell {
-        Layout.preferredWidth: DuplicatesMetrics.reclaimableWidth
+        Layout.preferredWidth: Measures.sizeWidth
         visible: root.isGroup
         text: root.reclaimable
         isStrong: true

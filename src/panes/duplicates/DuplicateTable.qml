@@ -13,15 +13,11 @@ RowList {
     readonly property int firstRow: root.indexAt(1, root.contentY)
 
     name: qsTr("Groups of equal files")
-    rowHeight: DuplicatesMetrics.copyHeight
     model: root.pane.rows
     onActivated: row => root.pane.activate(row)
     onToggled: row => root.pane.toggleSelection(row)
     onFirstRowChanged: root.pane.rows.lookAt(root.firstRow)
-    Keys.onMenuPressed: {
-        root.marksCurrentRow = true;
-        (root.currentItem as DuplicateRow)?.openMenu();
-    }
+    Keys.onMenuPressed: (root.currentItem as DuplicateRow)?.openMenu()
 
     delegate: DuplicateRow {
         onKept: root.pane.keepInstead(index)

@@ -21,9 +21,9 @@ Item {
         id: line
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
-        anchors.leftMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width)
         // The usual folders fit into the smallest window.
-        width: Math.min(implicitWidth, root.width - Theme.sidePadding - root.ringRoom)
+        width: Math.min(implicitWidth, root.width - 2 * Measures.side(root.width) + root.ringRoom)
         spacing: 10
 
         FilterLabel { text: qsTr("Folders") }

@@ -17,8 +17,8 @@ Rectangle {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        anchors.leftMargin: Theme.sidePadding
-        anchors.rightMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width)
+        anchors.rightMargin: Measures.side(root.width)
         spacing: Theme.partSpacing
 
         Repeater {

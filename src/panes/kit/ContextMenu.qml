@@ -8,9 +8,12 @@ Item {
     id: root
 
     required property list<string> entries
+    // Before the menu is there.
+    signal opening()
     signal chosen(int index)
 
     function popup(x: real, y: real) {
+        root.opening();
         menu.x = x;
         menu.y = y;
         menu.open();

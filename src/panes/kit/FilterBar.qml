@@ -16,7 +16,7 @@ Item {
     CenteredRow {
         id: line
         anchors.left: parent.left
-        anchors.leftMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width)
         anchors.verticalCenter: parent.verticalCenter
         spacing: 10
     }

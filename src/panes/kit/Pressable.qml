@@ -22,7 +22,7 @@ Item {
     property Item contentItem
     readonly property bool down: area.pressed && area.containsMouse
     readonly property bool hovered: hover.hovered
-    readonly property bool visualFocus: root.activeFocus
+    readonly property bool visualFocus: root.activeFocus && Kit.usesKeys
     signal action()
 
     function putInto(item: Item, slot: Item) {

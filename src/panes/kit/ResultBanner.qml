@@ -34,7 +34,7 @@ Item {
     }
 
     KitToolTip {
-        x: Theme.sidePadding
+        x: Measures.side(root.width)
         shown: over.hovered && root.help !== ""
         text: root.help
     }
@@ -45,8 +45,8 @@ Item {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.topMargin: 12
-        anchors.leftMargin: Theme.sidePadding + 16
-        anchors.rightMargin: Theme.sidePadding + 12
+        anchors.leftMargin: Measures.side(root.width) + 16
+        anchors.rightMargin: Measures.side(root.width) + 12
         spacing: 12
 
         Symbol {

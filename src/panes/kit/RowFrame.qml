@@ -26,8 +26,7 @@ Item {
 
     readonly property RowList list: root.ListView.view as RowList
     readonly property bool hovered: hover.hovered
-    readonly property real partsHeight: line.implicitHeight
-    readonly property bool isMarked: root.activeFocus && root.list !== null && root.list.marksCurrentRow
+    readonly property bool isMarked: root.activeFocus && root.list !== null && Kit.usesKeys
     property bool isPooled: false
     // Also told to the list, as are presses of keys.
     signal activated()
@@ -45,6 +44,7 @@ Item {
     }
 
     width: parent ? parent.width : implicitWidth
+    implicitHeight: Measures.rowHeight
     // A row that is kept for later use is not there, for a screen reader neither.
     visible: !root.isPooled
     ListView.onPooled: root.isPooled = true
@@ -89,8 +89,8 @@ Item {
     RowLayout {
         id: line
         anchors.fill: parent
-        anchors.leftMargin: Theme.sidePadding + root.indent
-        anchors.rightMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width) + root.indent
+        anchors.rightMargin: Measures.side(root.width)
         visible: root.showsParts
         spacing: Theme.partSpacing
     }

@@ -9,12 +9,8 @@ ToolListView {
     id: root
 
     required property string name
-    // What Page Up and Page Down reckon with: how high most rows are.
-    required property real rowHeight
     // Whether the keyboard follows a press on a row.
     property bool pressTakesFocus: true
-    // The row that keys act on is marked once keys are used.
-    property bool marksCurrentRow: false
     // Return, or a press on the row.
     signal activated(int row)
     // Space, or a press on the box in the row.
@@ -22,10 +18,8 @@ ToolListView {
 
     function takePress(row: int) {
         root.currentIndex = row;
-        if (!root.pressTakesFocus)
-            return;
-        root.forceActiveFocus(Qt.MouseFocusReason);
-        root.marksCurrentRow = false;
+        if (root.pressTakesFocus)
+            root.forceActiveFocus(Qt.MouseFocusReason);
     }
 
     // A key that is held is one press.
@@ -49,14 +43,12 @@ ToolListView {
     Accessible.name: root.name
 
     onActiveFocusChanged: {
-        root.marksCurrentRow = root.activeFocus;
         // Who comes back by Tab begins with the row, not with the button in it.
         if (!root.activeFocus && root.currentItem)
             root.currentItem.focus = true;
     }
     Keys.onPressed: event => {
-        const row = Kit.rowReachedBy(event.key, root.currentIndex, root.count, Math.floor(root.height / root.rowHeight));
-        root.marksCurrentRow = true;
+        const row = Kit.rowReachedBy(event.key, root.currentIndex, root.count, Math.floor(root.height / Measures.rowHeight));
         event.accepted = row >= 0;
         if (event.accepted)
             root.currentIndex = row;

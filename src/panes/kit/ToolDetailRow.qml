@@ -23,8 +23,7 @@ RowFrame {
     readonly property bool hasPath: Kit.hasPath(root.path)
 
     tint: root.hovered ? 0.03 : 0.02
-    indent: 28
-    implicitHeight: Math.max(20, root.partsHeight) + 16
+    indent: Measures.indent
 
     RowLayout {
         id: leadingParts

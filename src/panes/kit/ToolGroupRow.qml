@@ -30,7 +30,6 @@ RowFrame {
     signal toggleExpanded()
 
     description: root.title
-    implicitHeight: Math.max(20, root.partsHeight) + 20
     Accessible.role: Accessible.TreeItem
     onToggled: root.toggleSelection()
     onActivated: {

@@ -33,8 +33,8 @@ Rectangle {
         RowLayout {
             spacing: 10
             Layout.fillWidth: true
-            Layout.leftMargin: Theme.sidePadding
-            Layout.rightMargin: Theme.sidePadding
+            Layout.leftMargin: Measures.side(root.width)
+            Layout.rightMargin: Measures.side(root.width)
             Layout.topMargin: 18
             Layout.bottomMargin: 16
 

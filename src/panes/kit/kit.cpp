@@ -1,5 +1,7 @@
 #include "panes/kit/kit.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QQmlEngine>
 #include <QtGlobal>
 #include <cstdint>
@@ -28,6 +30,13 @@ std::int64_t wholeBytes(double bytes) {
   return bytes > -limit ? static_cast<std::int64_t>(bytes) : 0;
 }
 
+/// Keys of a command leave the focus where it is.
+bool moves(const QKeyEvent& key) {
+  const bool isModifier = key.key() >= Qt::Key_Shift && key.key() <= Qt::Key_ScrollLock;
+  return !isModifier &&
+         !(key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
 }  // namespace
 
 void installKit(QQmlEngine& engine, KitServices services) {
@@ -39,10 +48,22 @@ void installKit(QQmlEngine& engine, KitServices services) {
 
 Kit::Kit(KitServices services, QObject* parent) : QObject(parent), _services(std::move(services)) {
   _services.motion.onChange([this] { emit reduceMotionChanged(); });
+  QCoreApplication::instance()->installEventFilter(this);
 }
 
 Kit::~Kit() {
   _services.motion.onChange({});
+}
+
+bool Kit::eventFilter(QObject* /*watched*/, QEvent* event) {
+  const bool isKey = event->type() == QEvent::KeyPress && moves(*static_cast<QKeyEvent*>(event));
+  const bool isPointer =
+      event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin;
+  if ((isKey || isPointer) && _usesKeys != isKey) {
+    _usesKeys = isKey;
+    emit usesKeysChanged();
+  }
+  return false;
 }
 
 Kit& Kit::of(const QQmlEngine& engine) {

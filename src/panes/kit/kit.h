@@ -40,6 +40,8 @@ class Kit : public QObject {
   QML_ELEMENT
   QML_SINGLETON
   Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY reduceMotionChanged)
+  /// Whether the user works with keys just now, and has to see where they go.
+  Q_PROPERTY(bool usesKeys MEMBER _usesKeys NOTIFY usesKeysChanged)
 
  public:
   Kit(KitServices services, QObject* parent);
@@ -87,9 +89,14 @@ class Kit : public QObject {
 
  signals:
   void reduceMotionChanged();
+  void usesKeysChanged();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   KitServices _services;
+  bool _usesKeys = false;
 };
 
 }  // namespace klarvik

@@ -20,9 +20,9 @@ ToolPane {
     rowsShowLoader: true
     columns: [
         ColumnSpec { title: qsTr("FILE") },
-        ColumnSpec { title: qsTr("KIND"); width: LargeFilesMetrics.kindWidth },
-        ColumnSpec { title: qsTr("LAST OPENED"); width: LargeFilesMetrics.lastOpenedWidth },
-        ColumnSpec { title: qsTr("SIZE"); width: LargeFilesMetrics.sizeWidth; alignment: Qt.AlignRight }
+        ColumnSpec { title: qsTr("KIND"); width: Measures.kindWidth },
+        ColumnSpec { title: qsTr("LAST OPENED"); width: Measures.dateWidth },
+        ColumnSpec { title: qsTr("SIZE"); width: Measures.sizeWidth; alignment: Qt.AlignRight }
     ]
     onAction: model.performAction()
 

@@ -22,7 +22,6 @@ ToolDetailRow {
     path: url
     tint: isSelected ? 0.06 : hovered ? 0.03 : 0
     indent: 0
-    implicitHeight: LargeFilesMetrics.rowHeight
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: isSelected
@@ -36,21 +35,21 @@ ToolDetailRow {
     }
 
     Label {
-        Layout.preferredWidth: LargeFilesMetrics.kindWidth
+        Layout.preferredWidth: Measures.kindWidth
         text: root.kind
         size: 12
         color: Theme.textSecondary
     }
 
     Label {
-        Layout.preferredWidth: LargeFilesMetrics.lastOpenedWidth
+        Layout.preferredWidth: Measures.dateWidth
         text: root.lastOpened
         size: 12
         color: Theme.textSecondary
     }
 
     NumberCell {
-        Layout.preferredWidth: LargeFilesMetrics.sizeWidth
+        Layout.preferredWidth: Measures.sizeWidth
         text: root.size
         isStrong: true
     }

@@ -16,7 +16,6 @@ RowList {
     }
 
     name: qsTr("Large files")
-    rowHeight: LargeFilesMetrics.rowHeight
     model: root.pane.rows
     onActivated: row => root.pane.toggleSelection(row)
     onToggled: row => root.pane.toggleSelection(row)

@@ -23,16 +23,16 @@ ToolPane {
         },
         ColumnSpec {
             title: qsTr("WHAT CLEARING COSTS")
-            width: PrivacyMetrics.costWidth
+            width: Measures.noteWidth
         },
         ColumnSpec {
             title: qsTr("ITEMS")
-            width: PrivacyMetrics.itemsWidth
+            width: Measures.countWidth
             alignment: Qt.AlignRight
         },
         ColumnSpec {
             title: qsTr("SIZE")
-            width: PrivacyMetrics.sizeWidth
+            width: Measures.sizeWidth
             alignment: Qt.AlignRight
         }
     ]

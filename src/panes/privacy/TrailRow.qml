@@ -30,7 +30,7 @@ ToolDetailRow {
     tint: isTrail && hovered ? 0.03 : 0
     indent: 0
     showsParts: isTrail
-    implicitHeight: isTrail ? PrivacyMetrics.rowHeight : PrivacyMetrics.headingHeight
+    implicitHeight: isTrail ? Measures.rowHeight : Measures.headingHeight
     Accessible.role: isTrail ? Accessible.CheckBox : Accessible.Heading
     Accessible.checkable: canSelect
     Accessible.checked: isSelected
@@ -38,7 +38,7 @@ ToolDetailRow {
     whole: SectionHeading {
         visible: !root.isTrail
         anchors.left: parent.left
-        anchors.leftMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width)
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 8
         text: root.name
@@ -54,19 +54,19 @@ ToolDetailRow {
     }
 
     Label {
-        Layout.preferredWidth: PrivacyMetrics.costWidth
+        Layout.preferredWidth: Measures.noteWidth
         text: root.note
         size: 12
         color: root.canSelect ? Theme.textSecondary : Theme.review
     }
 
     NumberCell {
-        Layout.preferredWidth: PrivacyMetrics.itemsWidth
+        Layout.preferredWidth: Measures.countWidth
         text: root.count
     }
 
     NumberCell {
-        Layout.preferredWidth: PrivacyMetrics.sizeWidth
+        Layout.preferredWidth: Measures.sizeWidth
         text: root.size
         isStrong: true
     }

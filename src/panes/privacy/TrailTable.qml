@@ -11,7 +11,6 @@ RowList {
     required property PrivacyCleanerModel pane
 
     name: qsTr("Trails found")
-    rowHeight: PrivacyMetrics.rowHeight
     model: root.pane.trailList
     onActivated: row => root.pane.toggle(row)
     onToggled: row => root.pane.toggle(row)

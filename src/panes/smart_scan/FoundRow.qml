@@ -15,15 +15,15 @@ RowArrival {
 
     readonly property bool isInProgress: safety === ScanningTableModel.InProgress
 
-    implicitHeight: SmartScanMetrics.rowHeight
+    implicitHeight: Measures.rowHeight
     Accessible.role: Accessible.ListItem
     Accessible.name: root.description
 
     RowLayout {
         anchors.fill: parent
-        anchors.leftMargin: Theme.sidePadding
-        anchors.rightMargin: Theme.sidePadding
-        spacing: SmartScanMetrics.columnSpacing
+        anchors.leftMargin: Measures.side(root.width)
+        anchors.rightMargin: Measures.side(root.width)
+        spacing: Theme.partSpacing
 
         Label {
             Layout.fillWidth: true
@@ -33,7 +33,7 @@ RowArrival {
         }
 
         Item {
-            Layout.preferredWidth: SmartScanMetrics.safetyWidth
+            Layout.preferredWidth: Measures.safetyWidth
             Layout.fillHeight: true
 
             SafetyBadge {
@@ -54,12 +54,12 @@ RowArrival {
         }
 
         NumberCell {
-            Layout.preferredWidth: SmartScanMetrics.itemsWidth
+            Layout.preferredWidth: Measures.countWidth
             text: root.items
         }
 
         NumberCell {
-            Layout.preferredWidth: SmartScanMetrics.sizeWidth
+            Layout.preferredWidth: Measures.sizeWidth
             text: root.size
             isStrong: !root.isInProgress
         }

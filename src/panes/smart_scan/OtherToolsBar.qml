@@ -27,8 +27,8 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        anchors.leftMargin: Theme.sidePadding
-        anchors.rightMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width)
+        anchors.rightMargin: Measures.side(root.width)
         spacing: 8
 
         RowLayout {

@@ -43,8 +43,7 @@ ToolGroupRow {
     showsLeading: !isShowMore
     tint: hovered ? 0.03 : isCategory ? 0 : 0.02
     // A hint has no box, and its name begins where those of the items do.
-    indent: isCategory ? 0 : isHint || isCommand ? 54 : 26
-    implicitHeight: SmartScanMetrics.rowHeight
+    indent: isCategory ? 0 : isHint || isCommand ? 2 * Measures.indent : Measures.indent
     showsParts: !isCommand
     Accessible.role: isShowMore || isCommand ? Accessible.Button : isCategory ? Accessible.TreeItem
                      : isHint ? Accessible.StaticText : Accessible.CheckBox
@@ -55,8 +54,8 @@ ToolGroupRow {
     whole: CommandLine {
         anchors.fill: parent
         // Below the name of the hint.
-        anchors.leftMargin: Theme.sidePadding + root.indent + 20 + Theme.partSpacing
-        anchors.rightMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width) + root.indent + 20 + Theme.partSpacing
+        anchors.rightMargin: Measures.side(root.width)
         visible: root.isCommand
         command: root.isCommand ? root.name : ""
         isCopied: root.isCopied
@@ -75,7 +74,7 @@ ToolGroupRow {
     }
 
     Item {
-        Layout.preferredWidth: SmartScanMetrics.safetyWidth
+        Layout.preferredWidth: Measures.safetyWidth
         Layout.fillHeight: true
         visible: root.isCategory
 
@@ -87,7 +86,7 @@ ToolGroupRow {
     }
 
     NumberCell {
-        Layout.preferredWidth: SmartScanMetrics.itemsWidth
+        Layout.preferredWidth: Measures.countWidth
         visible: root.isCategory
         text: root.items
     }
@@ -99,7 +98,7 @@ ToolGroupRow {
     }
 
     NumberCell {
-        Layout.preferredWidth: SmartScanMetrics.sizeWidth
+        Layout.preferredWidth: Measures.sizeWidth
         visible: !root.isShowMore
         text: root.size
         isStrong: root.isCategory

@@ -30,7 +30,6 @@ ColumnLayout {
 
         RowList {
             name: qsTr("Categories found")
-            rowHeight: SmartScanMetrics.rowHeight
             model: root.model
             onActivated: row => root.model.activate(row)
             onToggled: row => root.model.toggleSelection(row)
@@ -41,8 +40,8 @@ ColumnLayout {
 
     Label {
         Layout.fillWidth: true
-        Layout.leftMargin: Theme.sidePadding
-        Layout.rightMargin: Theme.sidePadding
+        Layout.leftMargin: Measures.side(root.width)
+        Layout.rightMargin: Measures.side(root.width)
         Layout.topMargin: 8
         Layout.bottomMargin: 8
         visible: text.length > 0

@@ -15,8 +15,8 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.leftMargin: Theme.sidePadding
-        anchors.rightMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width)
+        anchors.rightMargin: Measures.side(root.width)
         anchors.topMargin: 12
         spacing: 12
 

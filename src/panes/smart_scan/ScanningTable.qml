@@ -15,8 +15,8 @@ ColumnLayout {
 
     Label {
         Layout.fillWidth: true
-        Layout.leftMargin: Theme.sidePadding
-        Layout.rightMargin: Theme.sidePadding
+        Layout.leftMargin: Measures.side(root.width)
+        Layout.rightMargin: Measures.side(root.width)
         Layout.topMargin: 8
         text: root.model.scanningHeadline
         Accessible.role: Accessible.StaticText
@@ -25,8 +25,8 @@ ColumnLayout {
 
     ScanProgressBar {
         Layout.fillWidth: true
-        Layout.leftMargin: Theme.sidePadding
-        Layout.rightMargin: Theme.sidePadding
+        Layout.leftMargin: Measures.side(root.width)
+        Layout.rightMargin: Measures.side(root.width)
         Layout.topMargin: 10
         Layout.bottomMargin: 18
         progress: root.model.progress

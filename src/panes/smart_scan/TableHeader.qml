@@ -14,16 +14,16 @@ ColumnHeader {
         },
         ColumnSpec {
             title: qsTr("SAFETY")
-            width: SmartScanMetrics.safetyWidth
+            width: Measures.safetyWidth
         },
         ColumnSpec {
             title: qsTr("ITEMS")
-            width: SmartScanMetrics.itemsWidth
+            width: Measures.countWidth
             alignment: Qt.AlignRight
         },
         ColumnSpec {
             title: qsTr("SIZE")
-            width: SmartScanMetrics.sizeWidth
+            width: Measures.sizeWidth
             alignment: Qt.AlignRight
         }
     ]

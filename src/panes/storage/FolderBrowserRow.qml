@@ -25,7 +25,6 @@ RowFrame {
     property FolderBrowser browser
 
     isPressable: canOpen
-    implicitHeight: 44
     Accessible.role: canOpen ? Accessible.Button : Accessible.StaticText
 
     Symbol {
@@ -70,12 +69,12 @@ RowFrame {
     }
 
     NumberCell {
-        Layout.preferredWidth: 56
+        Layout.preferredWidth: Measures.shareWidth
         text: root.shareText
     }
 
     NumberCell {
-        Layout.preferredWidth: 88
+        Layout.preferredWidth: Measures.sizeWidth
         text: root.size
         isStrong: true
     }

@@ -20,10 +20,8 @@ FocusScope {
             root.browser.goUp();
     }
     onVisibleChanged: {
-        if (!root.visible)
-            return;
-        list.forceActiveFocus(Qt.MouseFocusReason);
-        list.marksCurrentRow = false;
+        if (root.visible)
+            list.forceActiveFocus(Qt.OtherFocusReason);
     }
 
     ColumnLayout {
@@ -32,8 +30,8 @@ FocusScope {
 
         RowLayout {
             Layout.fillWidth: true
-            Layout.leftMargin: Theme.sidePadding - 6
-            Layout.rightMargin: Theme.sidePadding
+            Layout.leftMargin: Measures.side(root.width) - 6
+            Layout.rightMargin: Measures.side(root.width)
             Layout.bottomMargin: 10
             spacing: 6
 
@@ -122,7 +120,6 @@ FocusScope {
                 objectName: "folderRows"
                 focus: true
                 name: qsTr("Folders and files, largest first")
-                rowHeight: 44
                 model: root.browser
                 onActivated: row => root.browser.activate(row)
                 onCountChanged: currentIndex = count > 0 ? 0 : -1

@@ -31,6 +31,8 @@ ToolPane {
 
     ToolScrollView {
         visible: !root.model.browser.isOpen
+        topMargin: 12
+
         StorageCard {
             heading: qsTr("WHAT FILLS THE DISK")
 

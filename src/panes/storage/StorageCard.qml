@@ -16,8 +16,8 @@ Item {
     Column {
         id: parts
 
-        x: Theme.sidePadding
-        width: Math.min(1120, root.width - 2 * Theme.sidePadding)
+        x: Measures.side(root.width)
+        width: root.width - 2 * x
         spacing: 10
 
         SectionHeading {

@@ -17,7 +17,7 @@ Item {
         id: line
 
         anchors.left: parent.left
-        anchors.leftMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width)
         anchors.verticalCenter: parent.verticalCenter
         value: root.progress
     }
@@ -26,7 +26,7 @@ Item {
         anchors.left: line.right
         anchors.right: parent.right
         anchors.leftMargin: Theme.partSpacing
-        anchors.rightMargin: Theme.sidePadding
+        anchors.rightMargin: Measures.side(root.width)
         anchors.verticalCenter: parent.verticalCenter
         text: root.label
         size: 12

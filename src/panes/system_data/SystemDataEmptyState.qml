@@ -15,8 +15,9 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
-        anchors.leftMargin: Theme.sidePadding
-        anchors.rightMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width)
+        anchors.rightMargin: Measures.side(root.width)
+        anchors.topMargin: 12
         spacing: 12
 
         SectionHeading {
@@ -25,7 +26,6 @@ Item {
 
         Panel {
             Layout.fillWidth: true
-            Layout.maximumWidth: 1120
 
             ColumnLayout {
                 width: parent.width
@@ -67,7 +67,6 @@ Item {
 
         Panel {
             Layout.fillWidth: true
-            Layout.maximumWidth: 1120
             Layout.topMargin: 8
 
             ColumnLayout {

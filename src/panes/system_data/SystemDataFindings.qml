@@ -25,7 +25,6 @@ ColumnLayout {
 
         RowList {
             name: qsTr("Kinds of System Data")
-            rowHeight: SystemDataMetrics.rowHeight
             model: root.pane.table
             onActivated: row => root.pane.table.activate(row)
             onToggled: row => root.pane.table.toggleSelection(row)

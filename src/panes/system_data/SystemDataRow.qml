@@ -36,10 +36,10 @@ RowFrame {
     readonly property bool isHighlighted: isKind && model.highlighted === kindName
 
     tint: isHighlighted ? 0.06 : hovered && !isHeader ? 0.03 : isKind ? 0 : 0.02
-    indent: isItem ? SystemDataMetrics.indent : 0
+    indent: isItem ? Measures.indent : 0
     showsParts: !isHeader
     isPressable: !isHeader
-    implicitHeight: isHeader ? explanation.implicitHeight : SystemDataMetrics.rowHeight
+    implicitHeight: isHeader ? explanation.implicitHeight : Measures.rowHeight
     Accessible.role: isKind ? Accessible.TreeItem : isItem && canToggle ? Accessible.CheckBox : Accessible.StaticText
     Accessible.checkable: canToggle
     Accessible.checked: selection === SelectionState.All
@@ -53,8 +53,8 @@ RowFrame {
 
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.leftMargin: Theme.sidePadding + SystemDataMetrics.indent
-        anchors.rightMargin: Theme.sidePadding
+        anchors.leftMargin: Measures.side(root.width) + Measures.indent
+        anchors.rightMargin: Measures.side(root.width)
         visible: root.isHeader
         spacing: 8
 
@@ -74,7 +74,7 @@ RowFrame {
         RowLayout {
             Layout.fillWidth: true
             Layout.bottomMargin: 8
-            spacing: SystemDataMetrics.columnSpacing
+            spacing: Theme.partSpacing
 
             SectionHeading {
                 Layout.fillWidth: true
@@ -83,20 +83,20 @@ RowFrame {
             }
 
             SectionHeading {
-                Layout.preferredWidth: SystemDataMetrics.statusWidth
+                Layout.preferredWidth: Measures.statusWidth
                 text: qsTr("STATUS")
                 size: 10
             }
 
             SectionHeading {
-                Layout.preferredWidth: SystemDataMetrics.shareWidth
+                Layout.preferredWidth: Measures.shareWidth
                 text: qsTr("SHARE")
                 size: 10
                 horizontalAlignment: Text.AlignRight
             }
 
             SectionHeading {
-                Layout.preferredWidth: SystemDataMetrics.sizeWidth
+                Layout.preferredWidth: Measures.sizeWidth
                 text: qsTr("SIZE")
                 size: 10
                 horizontalAlignment: Text.AlignRight
@@ -175,18 +175,18 @@ RowFrame {
     }
 
     SafetyText {
-        Layout.preferredWidth: SystemDataMetrics.statusWidth
+        Layout.preferredWidth: Measures.statusWidth
         safety: root.safety
         text: root.safetyText
     }
 
     NumberCell {
-        Layout.preferredWidth: SystemDataMetrics.shareWidth
+        Layout.preferredWidth: Measures.shareWidth
         text: root.share
     }
 
     NumberCell {
-        Layout.preferredWidth: SystemDataMetrics.sizeWidth
+        Layout.preferredWidth: Measures.sizeWidth
         text: root.size
         isStrong: root.isKind
     }

@@ -18,7 +18,6 @@ RowFrame {
     required property url icon
     required description
 
-    implicitHeight: UninstallerMetrics.rowHeight
     Accessible.role: Accessible.Button
 
     Item {
@@ -72,7 +71,7 @@ RowFrame {
     }
 
     NumberCell {
-        Layout.preferredWidth: UninstallerMetrics.sizeWidth
+        Layout.preferredWidth: Measures.sizeWidth
         text: root.size
         isStrong: true
     }

@@ -21,7 +21,6 @@ RowList {
     }
 
     name: qsTr("Installed apps")
-    rowHeight: UninstallerMetrics.rowHeight
     pressTakesFocus: false
     model: root.pane.appList
     onActivated: row => root.open(row)

@@ -17,7 +17,7 @@ ToolPane {
         },
         ColumnSpec {
             title: qsTr("TOTAL")
-            width: UninstallerMetrics.sizeWidth
+            width: Measures.sizeWidth
             alignment: Qt.AlignRight
         }
     ]
@@ -27,11 +27,11 @@ ToolPane {
         },
         ColumnSpec {
             title: qsTr("WHAT IT IS")
-            width: UninstallerMetrics.whatItIsWidth
+            width: Measures.noteWidth
         },
         ColumnSpec {
             title: qsTr("SIZE")
-            width: UninstallerMetrics.sizeWidth
+            width: Measures.sizeWidth
             alignment: Qt.AlignRight
         }
     ]
@@ -51,7 +51,7 @@ ToolPane {
     }
 
     filters: FilterBar {
-        implicitHeight: UninstallerMetrics.filterHeight
+        implicitHeight: Measures.filterHeight
 
         SearchField {
             visible: !root.model.isDetail

@@ -27,8 +27,7 @@ ToolDetailRow {
     nameWeight: isLeftover ? Font.Normal : Font.Medium
     showsLeading: isLeftover
     tint: !isLeftover ? 0 : hovered ? 0.04 : 0.02
-    indent: isLeftover ? 16 : 0
-    implicitHeight: UninstallerMetrics.rowHeight
+    indent: isLeftover ? Measures.indent : 0
     Accessible.role: isLeftover ? Accessible.CheckBox : Accessible.Heading
     Accessible.checkable: isLeftover
     Accessible.checked: isSelected
@@ -43,14 +42,14 @@ ToolDetailRow {
     }
 
     Label {
-        Layout.preferredWidth: UninstallerMetrics.whatItIsWidth
+        Layout.preferredWidth: Measures.noteWidth
         text: root.isLeftover ? "" : root.note
         size: 12
         color: Theme.textSecondary
     }
 
     NumberCell {
-        Layout.preferredWidth: UninstallerMetrics.sizeWidth
+        Layout.preferredWidth: Measures.sizeWidth
         text: root.size
         isStrong: !root.isLeftover
     }

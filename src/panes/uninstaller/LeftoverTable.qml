@@ -11,7 +11,6 @@ RowList {
     required property AppUninstallerModel pane
 
     name: qsTr("Leftovers")
-    rowHeight: UninstallerMetrics.rowHeight
     model: root.pane.leftoverList
     onActivated: row => root.pane.toggleLeftover(row)
     onToggled: row => root.pane.toggleLeftover(row)
