@@ -176,6 +176,15 @@ std::string Formatting::dateAndTime(Date date) const {
   return utf8(text);
 }
 
+std::string Formatting::dayAndMonth(Date date) const {
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::DateFormat> format{
+      icu::DateFormat::createInstanceForSkeleton("MMMd", _locale->icu, status)};
+  icu::UnicodeString text;
+  if (U_SUCCESS(status) && format) format->format(icuDate(date), text);
+  return utf8(text);
+}
+
 std::string Formatting::relative(Date date, Date now) const {
   return relativeText(date, now, _locale->icu, UDAT_STYLE_LONG);
 }

@@ -24,6 +24,8 @@ class Formatting {
   [[nodiscard]] std::string byteText(std::int64_t bytes) const;
   /// Medium date and short time: "Mar 4, 2026, 5:06 PM".
   [[nodiscard]] std::string dateAndTime(Date date) const;
+  /// "Mar 4".
+  [[nodiscard]] std::string dayAndMonth(Date date) const;
   /// "3 minutes ago": full units.
   [[nodiscard]] std::string relative(Date date, Date now) const;
   /// "3 min. ago".

@@ -20,7 +20,8 @@ Pressable {
     readonly property color tint: isSelected ? "white" : Theme.textMuted
 
     title: description
-    help: isHeading ? "" : toolHelp
+    // No sentence that is the name again.
+    help: isHeading || toolHelp === label ? "" : toolHelp
     isHelpBeside: true
     pressableEnabled: !isHeading
     Accessible.role: isHeading ? Accessible.Heading : Accessible.Button

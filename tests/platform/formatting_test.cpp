@@ -81,6 +81,8 @@ TEST(Formatting, WritesMediumDateAndShortTime) {
   EXPECT_EQ(Formatting("en_US").dateAndTime(afternoon),
             "Mar 4, 2026, 5:06" + std::string(narrowSpace) + "PM");
   EXPECT_EQ(Formatting("de_DE").dateAndTime(afternoon), "04.03.2026, 17:06");
+  EXPECT_EQ(Formatting("en_US").dayAndMonth(afternoon), "Mar 4");
+  EXPECT_EQ(Formatting("de_DE").dayAndMonth(afternoon), "4. März");
 }
 
 TEST(Formatting, WritesAMomentBefore1970) {

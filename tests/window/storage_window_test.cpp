@@ -22,9 +22,21 @@ class StorageWindow : public WindowFixture {
     shared->scanHistory().recordScan({scanned(CategoryType::xcodeCache, 2'000'000'000)});
     shared->scanHistory().recordScan({scanned(CategoryType::xcodeCache, 9'500'000'000),
                                       scanned(CategoryType::dockerData, 3'100'000'000)});
-    for (std::int64_t number = 0; number < 30; ++number) {
+    recordCleans(30);
+  }
+  void recordCleans(int count) {
+    for (std::int64_t number = 0; number < count; ++number) {
       shared->scanHistory().recordClean((number * 37 % 11 + 1) * 400'000'000, {});
     }
+  }
+  /// The bars are called so for assistive tools in any case.
+  [[nodiscard]] bool isWritten(const QString& text) const {
+    return isWrittenIn(*window().contentItem(), text);
+  }
+  static bool isWrittenIn(const QQuickItem& item, const QString& text) {
+    if (item.isVisible() && item.property("text").toString() == text) return true;
+    return std::ranges::any_of(item.childItems(),
+                               [&](const QQuickItem* child) { return isWrittenIn(*child, text); });
   }
   void openStorage() {
     openWindow();
@@ -77,6 +89,20 @@ TEST_F(StorageWindow, MeasuresAndExplainsTheDiskWithoutChangingIt) {
   picture("storage-full_920x640");
   window().resize(2560, 1440);
   picture("storage-full_2560x1440");
+}
+
+TEST_F(StorageWindow, WritesTheFigureOverEachOfAFewCleansAndOnlyTheHighestOfMany) {
+  recordCleans(4);
+  openStorage();
+  for (const char* const figure : {"400 MB", "2 GB", "3.6 GB", "800 MB"}) {
+    EXPECT_TRUE(isWritten(figure)) << figure;
+  }
+  picture("storage-few-cleans");
+  recordCleans(26);
+  settle();
+  EXPECT_TRUE(isWritten("4.4 GB"));
+  EXPECT_FALSE(isWritten("3.6 GB"));
+  picture("storage-many-cleans");
 }
 
 TEST_F(StorageWindow, LinksTheChartAndItsLegendByHoverBothWays) {

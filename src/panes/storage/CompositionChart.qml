@@ -1,28 +1,36 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Layouts
 import Klarvik.Kit
 import Klarvik.Panes
 
-/// The ring of what fills the disk, and beside it what each slice stands for.
-RowLayout {
+/// The ring of what fills the disk, and beside it what each slice stands for: in columns, as many
+/// as fit, so that a share stands near its name and the legend is about as high as the ring.
+Item {
     id: root
 
     required property StorageAnalyticsModel model
 
-    spacing: 32
+    readonly property int gap: 32
+    readonly property int narrowestColumn: 220
+    readonly property int widestColumn: 340
+    readonly property int rowCount: root.model.legend.length
+    readonly property real legendRoom: root.width - chart.x - chart.width - root.gap
+    readonly property int columnCount: Math.max(1, Math.min(Math.floor(root.legendRoom / root.narrowestColumn), Math.ceil(root.rowCount / 5)))
+    readonly property int columnWidth: Math.min(root.widestColumn, Math.floor(root.legendRoom / root.columnCount))
+
+    implicitHeight: Math.max(chart.height, legend.height)
 
     DonutChart {
         id: chart
 
         property real drawn: root.model.animateCharts && root.model.isMeasured ? 1 : 0
 
-        Layout.alignment: Qt.AlignVCenter
-        Layout.leftMargin: 6
+        x: 6
+        y: Math.floor((root.height - height) / 2)
         slices: root.model.slices
-        size: 190
-        thickness: 26
+        size: 210
+        thickness: 28
         centerTitle: root.model.usedText
         centerSubtitle: qsTr("in use")
         highlighted: root.model.highlighted
@@ -43,9 +51,14 @@ RowLayout {
         }
     }
 
-    Column {
-        Layout.fillWidth: true
-        Layout.alignment: Qt.AlignVCenter
+    Grid {
+        id: legend
+
+        x: chart.x + chart.width + root.gap
+        y: Math.floor((root.height - height) / 2)
+        flow: Grid.TopToBottom
+        columns: root.columnCount
+        rows: Math.ceil(root.rowCount / root.columnCount)
 
         Repeater {
             model: root.model.legend
@@ -55,7 +68,7 @@ RowLayout {
 
                 required property storageLegendRow modelData
 
-                width: parent ? parent.width : implicitWidth
+                width: root.columnWidth
                 slice: row.modelData.slice
                 share: row.modelData.share
                 subtitle: row.modelData.size

@@ -71,7 +71,8 @@ ToolPane {
                     required property growthRow modelData
                     readonly property string description: grown.modelData.name + ", " + grown.modelData.figure
 
-                    width: parent ? parent.width : implicitWidth
+                    // A figure stands near what it belongs to.
+                    width: parent ? Math.min(parent.width, 560) : implicitWidth
                     implicitHeight: 20
                     Accessible.role: Accessible.ListItem
                     Accessible.name: grown.description

@@ -53,6 +53,8 @@ QList<CleanBar> cleanBars(const std::vector<ScanHistoryEntry>& cleans,
   for (std::size_t at = count; at-- > 0;) {
     const std::int64_t reclaimed = std::max<std::int64_t>(cleans[at].totalJunk, 0);
     bars.append({.height = static_cast<double>(reclaimed) / static_cast<double>(highest),
+                 .size = byteText(reclaimed, formatting),
+                 .date = QString::fromStdString(formatting.dayAndMonth(cleans[at].date)),
                  .description = byteText(reclaimed, formatting) + QStringLiteral(" · ") +
                                 QString::fromStdString(formatting.dateAndTime(cleans[at].date))});
   }

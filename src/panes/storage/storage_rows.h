@@ -49,10 +49,14 @@ struct CleanBar {
   Q_GADGET
   QML_VALUE_TYPE(cleanBar)
   Q_PROPERTY(double height MEMBER height)
+  Q_PROPERTY(QString size MEMBER size)
+  Q_PROPERTY(QString date MEMBER date)
   Q_PROPERTY(QString description MEMBER description)
 
  public:
   double height = 0;  ///< 0 to 1, of the highest
+  QString size;
+  QString date;  ///< without the year
   QString description;
 
   bool operator==(const CleanBar&) const = default;

@@ -135,7 +135,10 @@ TEST_F(CleanBars, NeverReachBelowTheirGround) {
 
 TEST_F(CleanBars, SayWhatTheyStandFor) {
   auto cleans = cleansOf({2'000'000, 1'000});
-  EXPECT_TRUE(cleanBars(cleans, formatting).back().description.startsWith("2 MB · "));
+  const CleanBar newest = cleanBars(cleans, formatting).back();
+  EXPECT_TRUE(newest.description.startsWith("2 MB · "));
+  EXPECT_EQ(newest.size, "2 MB");
+  EXPECT_EQ(newest.date, QString::fromStdString(formatting.dayAndMonth(cleans.front().date)));
 }
 
 }  // namespace
