@@ -25,7 +25,8 @@ DesktopPlatform::DesktopPlatform(const Path& root, const UserFolders& folders)
     : _system(root, folders),
       _defaults(_system.platform().defaults, _system.preferencesFile(), _notifications),
       _workspace(_system.platform().files),
-      _openPanel(_system.platform().files),
+      _ownOpenPanel(_system.platform().files),
+      _openPanel(_system.platform().files, _ownOpenPanel),
       _loginItem(XdgLoginItem::placesOfThisProgram(
           _system.platform().files.diskPath(folders.configuration))),
       _updater({_system.platform().info, _defaults, _system.platform().files, _clock, _workspace},

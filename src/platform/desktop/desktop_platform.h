@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "platform/desktop/observed_user_defaults.h"
+#include "platform/desktop/portal_open_panel.h"
 #include "platform/desktop/qt_clock.h"
 #include "platform/desktop/qt_open_panel.h"
 #include "platform/desktop/qt_pasteboard.h"
@@ -41,7 +42,8 @@ class DesktopPlatform {
   XdgWorkspace _workspace;
   XdgMotionPreference _motion;
   QtPasteboard _pasteboard;
-  QtOpenPanel _openPanel;
+  QtOpenPanel _ownOpenPanel;
+  PortalOpenPanel _openPanel;
   QtStatusItem _statusItem;
   XdgLoginItem _loginItem;
   AppcastUpdater _updater;

@@ -8,7 +8,8 @@
 
 namespace klarvik {
 
-/// The folder panel that Qt draws itself, since the desktops' own ones let choose a single folder.
+/// The folder panel that Qt draws itself, for desktops without a portal: those of Qt's that ask the
+/// desktop let choose a single folder.
 /// Needs a `QApplication` as long as it is in use.
 class QtOpenPanel final : public OpenPanel {
  public:

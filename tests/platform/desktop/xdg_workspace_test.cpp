@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "platform/linux/linux_file_system.h"
+#include "private_bus.h"
 #include "support/application/main_loop.h"
 #include "support/temporary_folder.h"
 
@@ -40,28 +41,6 @@ class Opener : public QObject {
 
   Q_INVOKABLE void open(const QUrl& url) { opened.push_back(url.toEncoded().toStdString()); }
   std::vector<std::string> opened;
-};
-
-// A bus of its own, so that no file manager of whoever runs the tests is asked for anything.
-class PrivateBus {
- public:
-  PrivateBus() {
-    _daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
-    if (_daemon.waitForStarted() && _daemon.waitForReadyRead()) {
-      address = QString::fromUtf8(_daemon.readLine()).trimmed();
-    }
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address.toUtf8());
-  }
-  ~PrivateBus() {
-    _daemon.kill();
-    _daemon.waitForFinished();
-  }
-  PrivateBus(const PrivateBus&) = delete;
-  PrivateBus& operator=(const PrivateBus&) = delete;
-  QString address;
-
- private:
-  QProcess _daemon;
 };
 
 class FileManager : public QDBusVirtualObject {

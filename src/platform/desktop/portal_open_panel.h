@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusPendingCall>
+#include <QDBusServiceWatcher>
+#include <QObject>
+#include <QString>
+#include <QVariantMap>
+#include <functional>
+
+#include "platform/desktop_services.h"
+
+namespace klarvik {
+
+class FileSystem;
+
+/// The folder dialog of the user's desktop, asked for through its portal. Where there is none, or
+/// one that cannot choose folders, `fallback` is asked instead. Main thread only.
+class PortalOpenPanel final : public QObject, public OpenPanel {
+  Q_OBJECT
+ public:
+  PortalOpenPanel(const FileSystem& files, OpenPanel& fallback,
+                  QDBusConnection bus = QDBusConnection::sessionBus());
+
+  /// An open dialog belongs to another program, which alone can bring it to the front.
+  void chooseFolders(const Request& request, Answer answer) override;
+
+ private slots:
+  void responded(uint code, const QVariantMap& results);
+
+ private:
+  void open();
+  void listenTo(const QString& dialog);
+  void whenAnswered(const QDBusPendingCall& call,
+                    std::function<void(const QDBusMessage& reply)> act);
+  void fallBack();
+  /// Ends the request that is open, and hands out its answer.
+  Answer close();
+
+  const FileSystem& _files;
+  OpenPanel& _fallback;
+  QDBusConnection _bus;
+  QDBusServiceWatcher _portal;
+  Request _request;
+  Answer _answer;   // empty while no dialog is open
+  QString _dialog;  // the path on the bus of what will tell what was chosen
+  int _dialogs = 0;
+};
+
+}  // namespace klarvik
