@@ -47,12 +47,14 @@ TEST_F(DuplicatesWindow, SaysWhatItIsForBeforeAScan) {
   openDuplicates();
   EXPECT_TRUE(shows("Compares file contents with SHA-256, not names."));
   EXPECT_TRUE(shows("Choose where to look"));
-  for (const char* column : {"FILE", "COPIES", "EACH", "RECLAIMABLE"}) EXPECT_TRUE(shows(column));
+  for (const char* column : {"FILE", "COPIES", "EACH", "RECLAIMABLE"}) {
+    EXPECT_FALSE(shows(column)) << "over no rows";
+  }
   for (const char* part : {"Folders", "Documents", "Downloads", "Desktop", "Add folder…", "Keep",
                            "Newest copy", "Min size 1 MB", "Add a folder…"}) {
     EXPECT_TRUE(shows(part)) << part;
   }
-  EXPECT_TRUE(shows("Zero KB selected · 0 copies"));
+  EXPECT_FALSE(shows("Delete Zero KB"));
   picture("duplicates-empty");
   window().resize(920, 640);
   picture("duplicates-empty_920x640");
@@ -73,7 +75,7 @@ TEST_F(DuplicatesWindow, FindsEqualFilesAndMovesAllButOneToTheTrash) {
 
   const std::size_t before = listing("/Users/ann").size();
   click("Delete ");
-  ASSERT_TRUE(turnUntil([this] { return shows("Zero KB selected"); }));
+  ASSERT_TRUE(turnUntil([this] { return shows("No duplicates"); }));
   settle();
   EXPECT_GT(trashCount(), trashed);
   EXPECT_EQ(listing("/Users/ann/Music"), music);
@@ -145,6 +147,39 @@ TEST_F(DuplicatesWindowOverAnEmptyHome, ChangesTheRuleAndTheFolders) {
   picture("duplicates-one-folder");
 }
 
+TEST_F(DuplicatesWindowOverAnEmptyHome, AFolderTakenAwayCanBePutBack) {
+  openDuplicates();
+  EXPECT_FALSE(shows("Undo"));
+  click("Downloads");
+  settle();
+  EXPECT_FALSE(shows("Downloads"));
+  picture("duplicates-undo");
+  click("Undo");
+  settle();
+  EXPECT_TRUE(shows("Downloads"));
+  EXPECT_FALSE(shows("Undo"));
+  EXPECT_LT(find("Downloads")->mapToScene({}).x(), find("Desktop")->mapToScene({}).x());
+}
+
+TEST_F(DuplicatesWindowOverAnEmptyHome, LeftAndRightCloseAndOpenAGroup) {
+  addFile("Documents/report.pdf", 5);
+  addFile("Downloads/report copy.pdf", 5);
+  openDuplicates();
+  ASSERT_TRUE(rescan());
+  ASSERT_TRUE(tabTo("report.pdf, 2 copies"));
+  press(Qt::Key_Right);
+  EXPECT_TRUE(shows("report copy.pdf, 5.2 MB")) << "stands open already";
+  press(Qt::Key_End);
+  press(Qt::Key_Left);
+  EXPECT_EQ(focused(), "report.pdf, 2 copies, 5.2 MB reclaimable");
+  press(Qt::Key_Left);
+  settle();
+  EXPECT_FALSE(shows("report copy.pdf, 5.2 MB"));
+  press(Qt::Key_Right);
+  settle();
+  EXPECT_TRUE(shows("report copy.pdf, 5.2 MB"));
+}
+
 TEST_F(DuplicatesWindowOverAnEmptyHome, ManyFoldersLeaveRoomForWhatStandsBehindThem) {
   openDuplicates();
   click("Add folder…");
@@ -157,8 +192,17 @@ TEST_F(DuplicatesWindowOverAnEmptyHome, ManyFoldersLeaveRoomForWhatStandsBehindT
   settle();
   EXPECT_TRUE(shows("Min size 1 MB"));
   EXPECT_LE(find("Min size 1 MB")->mapToScene({}).x() + find("Min size 1 MB")->width(), 920);
-  ASSERT_TRUE(tabTo("A rather long folder name 19"));
+  EXPECT_FALSE(shows("A rather long folder name 19"));
   picture("duplicates-many-folders_920x640");
+  ASSERT_TRUE(tabTo("+")) << "says how many more there are";
+  press(Qt::Key_Space);
+  settle();
+  EXPECT_TRUE(shows("A rather long folder name 19"));
+  EXPECT_TRUE(shows("Min size 1 MB"));
+  picture("duplicates-all-folders_920x640");
+  click("Fewer");
+  settle();
+  EXPECT_FALSE(shows("A rather long folder name 19"));
 }
 
 TEST_F(DuplicatesWindowOverAnEmptyHome, IsUsedFromTheKeyboardAlone) {

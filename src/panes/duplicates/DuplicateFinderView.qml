@@ -19,6 +19,7 @@ ToolPane {
     isActionEnabled: model.canScan
     isBusy: model.isScanning
     rowsShowLoader: true
+    showsColumns: !instead.isShown
     columns: [
         ColumnSpec { title: qsTr("FILE") },
         ColumnSpec { title: qsTr("COPIES"); width: Measures.countWidth; alignment: Qt.AlignRight },
@@ -53,6 +54,7 @@ ToolPane {
     }
 
     footer: ToolFooter {
+        visible: !root.instead.isShown
         selectionSummary: root.model.selectionSummary
         explanation: root.model.footerHint
         buttonTitle: root.model.deleteButtonTitle

@@ -17,6 +17,7 @@ ToolDetailRow {
     required property int selection
     required property bool canToggle
     required property int fate
+    required property string date
     required property string menuEntry
     required property string copies
     required property string each
@@ -31,6 +32,8 @@ ToolDetailRow {
             menu.popup(Measures.side(root.width) + indent, height / 2);
     }
 
+    canExpand: isGroup
+    isOpen: isExpanded
     path: url
     nameSize: isGroup ? 13 : 12
     nameWeight: isGroup ? Font.Medium : Font.Normal
@@ -76,6 +79,35 @@ ToolDetailRow {
             fate: root.fate
         }
     ]
+
+    // When the copy was last changed, which the rule for what stays looks at.
+    Label {
+        Layout.preferredWidth: Measures.countWidth + Theme.partSpacing + Measures.sizeWidth
+        visible: !root.isGroup
+        text: root.date
+        size: 12
+        color: Theme.textTertiary
+        horizontalAlignment: Text.AlignRight
+    }
+
+    Item {
+        Layout.preferredWidth: Measures.sizeWidth
+        Layout.fillHeight: true
+        visible: !root.isGroup
+
+        TextButton {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.canToggle
+            title: qsTr("Keep this")
+            help: root.menuEntry
+            activeFocusOnTab: root.ListView.isCurrentItem
+            onAction: {
+                root.takePress();
+                root.kept();
+            }
+        }
+    }
 
     NumberCell {
         Layout.preferredWidth: Measures.countWidth

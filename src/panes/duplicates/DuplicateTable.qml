@@ -14,6 +14,7 @@ RowList {
 
     name: qsTr("Groups of equal files")
     model: root.pane.rows
+    groupOf: row => root.pane.rows.groupRow(row)
     onActivated: row => root.pane.activate(row)
     onToggled: row => root.pane.toggleSelection(row)
     onFirstRowChanged: root.pane.rows.lookAt(root.firstRow)

@@ -133,6 +133,7 @@ void DuplicateFinderModel::startScan() {
   if (isScanning() || isDeleting()) return;
   _report = {};
   _wasStopped = false;
+  if (std::exchange(_removedFolder, std::nullopt)) emit scanDirsChanged();
   _scan.start<DuplicateProgress, ChosenGroups>(
       {.work =
            [&files = _desktop.files, folders = _scanDirs](std::stop_token, const auto& post) {
@@ -190,6 +191,7 @@ void DuplicateFinderModel::chooseFolders() {
 }
 
 void DuplicateFinderModel::addFolders(const std::vector<Path>& folders) {
+  _removedFolder.reset();
   for (const Path& chosen : folders) {
     const Path folder = standardizedPath(chosen);
     const bool isListed = std::ranges::find(_scanDirs, folder) != _scanDirs.end();
@@ -204,7 +206,20 @@ void DuplicateFinderModel::removeFolder(int index) {
   if (_scanDirs.size() < 2 || index < 0 || static_cast<std::size_t>(index) >= _scanDirs.size()) {
     return;
   }
+  _removedFolder = {index, _scanDirs[static_cast<std::size_t>(index)]};
   _scanDirs.erase(_scanDirs.begin() + index);
+  emit scanDirsChanged();
+  emit placeholderChanged();
+}
+
+QString DuplicateFinderModel::removedFolder() const {
+  return _removedFolder ? duplicates::folderNames({_removedFolder->path}).front() : QString();
+}
+
+void DuplicateFinderModel::putFolderBack() {
+  if (!_removedFolder) return;
+  _scanDirs.insert(_scanDirs.begin() + _removedFolder->index, _removedFolder->path);
+  _removedFolder.reset();
   emit scanDirsChanged();
   emit placeholderChanged();
 }

@@ -44,6 +44,7 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   Q_PROPERTY(klarvik::Placeholder placeholder READ placeholder NOTIFY placeholderChanged)
   Q_PROPERTY(QList<QString> folderNames READ folderNames NOTIFY scanDirsChanged)
   Q_PROPERTY(QList<QString> folderHelps READ folderHelps NOTIFY scanDirsChanged)
+  Q_PROPERTY(QString removedFolder READ removedFolder NOTIFY scanDirsChanged)
   Q_PROPERTY(QList<QString> keepRules READ keepRules CONSTANT)
   Q_PROPERTY(int keepRuleIndex READ keepRuleIndex NOTIFY keepRuleChanged)
   Q_PROPERTY(QString minSizeText READ minSizeText CONSTANT)
@@ -97,6 +98,8 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   [[nodiscard]] Placeholder placeholder() const;
   [[nodiscard]] QStringList folderNames() const { return duplicates::folderNames(_scanDirs); }
   [[nodiscard]] QStringList folderHelps() const;
+  /// The name of the folder that `putFolderBack` brings back; empty when there is none.
+  [[nodiscard]] QString removedFolder() const;
   [[nodiscard]] QStringList keepRules() const;
   [[nodiscard]] int keepRuleIndex() const;
   [[nodiscard]] QString minSizeText() const { return duplicates::minSizeText(minSizeMB); }
@@ -116,6 +119,8 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   Q_INVOKABLE void chooseFolders();
   /// The last folder stays.
   Q_INVOKABLE void removeFolder(int index);
+  /// The folder that was removed last, unless folders were added or searched since.
+  Q_INVOKABLE void putFolderBack();
   Q_INVOKABLE void chooseKeepRule(int index);
   /// What pressing the row does: a group opens or closes, a copy is selected or not.
   Q_INVOKABLE void activate(int row);
@@ -154,6 +159,11 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   const Desktop& _desktop;
 
   std::vector<Path> _scanDirs;
+  struct RemovedFolder {
+    int index = 0;
+    Path path;
+  };
+  std::optional<RemovedFolder> _removedFolder;
   DuplicateChoice _choice;
   DuplicateRowsModel _rows;
   DuplicateProgress _report;  ///< the latest one

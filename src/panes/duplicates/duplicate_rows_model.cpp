@@ -66,6 +66,7 @@ QHash<int, QByteArray> DuplicateRowsModel::roleNames() const {
           {SelectionRole, "selection"},
           {CanToggleRole, "canToggle"},
           {FateRole, "fate"},
+          {DateRole, "date"},
           {MenuEntryRole, "menuEntry"},
           {CopiesRole, "copies"},
           {EachRole, "each"},
@@ -79,7 +80,7 @@ void DuplicateRowsModel::lookAt(int firstRow) {
 }
 
 void DuplicateRowsModel::toggleExpanded(int row) {
-  const std::size_t head = groupRow(row);
+  const auto head = static_cast<std::size_t>(groupRow(row));
   const ChosenGroup* group = _rows[head].group;
   if (_expanded.erase(group->group.id) > 0) {
     takeRows(head + 1, rowsBelow(head));
@@ -151,7 +152,7 @@ void DuplicateRowsModel::allChanged() {
 }
 
 void DuplicateRowsModel::groupChanged(int row) {
-  const std::size_t head = groupRow(row);
+  const auto head = static_cast<std::size_t>(groupRow(row));
   emit dataChanged(index(static_cast<int>(head)), index(static_cast<int>(head + rowsBelow(head))));
 }
 
@@ -174,10 +175,9 @@ void DuplicateRowsModel::removeWithin(std::size_t first, std::size_t last, const
   endRemoveRows();
 }
 
-std::size_t DuplicateRowsModel::groupRow(int row) const {
-  auto head = static_cast<std::size_t>(row);
-  while (!_rows[head].isGroup()) --head;
-  return head;
+int DuplicateRowsModel::groupRow(int row) const {
+  while (!at(row).isGroup()) --row;
+  return row;
 }
 
 std::size_t DuplicateRowsModel::rowsBelow(std::size_t groupRow) const {
@@ -230,6 +230,10 @@ QVariant DuplicateRowsModel::dataOfCopy(const ChosenGroup& group, std::size_t fi
       return !isKeeper;
     case FateRole:
       return static_cast<int>(isKeeper ? KeepOrDelete::Keep : KeepOrDelete::Delete);
+    case DateRole:
+      return copy.modifiedDate
+                 ? QString::fromStdString(_desktop.formatting.dateAndTime(*copy.modifiedDate))
+                 : QString();
     case MenuEntryRole:
       return duplicates::menuEntry(isKeeper);
     case DescriptionRole:

@@ -29,6 +29,7 @@ class DuplicateRowsModel : public QAbstractListModel {
     SelectionRole,
     CanToggleRole,
     FateRole,
+    DateRole,
     MenuEntryRole,
     CopiesRole,
     EachRole,
@@ -59,6 +60,8 @@ class DuplicateRowsModel : public QAbstractListModel {
   [[nodiscard]] const Row& at(int row) const { return _rows[static_cast<std::size_t>(row)]; }
   /// Told by the view: its first row on the screen.
   Q_INVOKABLE void lookAt(int firstRow);
+  /// The group that the row belongs to; requires that the row is there.
+  Q_INVOKABLE [[nodiscard]] int groupRow(int row) const;
 
   /// Opens the group of this row, or closes it.
   void toggleExpanded(int row);
@@ -79,7 +82,6 @@ class DuplicateRowsModel : public QAbstractListModel {
   void insertCopies(std::size_t groupRow);
   void takeRows(std::size_t first, std::size_t count);
   void removeWithin(std::size_t first, std::size_t last, const IsGone& isGone);
-  [[nodiscard]] std::size_t groupRow(int row) const;
   [[nodiscard]] std::size_t rowsBelow(std::size_t groupRow) const;
   [[nodiscard]] QVariant dataOfGroup(const ChosenGroup& group, int role) const;
   [[nodiscard]] QVariant dataOfCopy(const ChosenGroup& group, std::size_t file, int role) const;

@@ -10,12 +10,18 @@ Pressable {
     property bool isSelected: false
     property bool isDashed: false
     property bool hasAction: true
+    // Before the title.
+    property string symbol: root.isSelected && !root.isRemovable ? "checkmark" : ""
+    // A press takes it away.
+    property bool isRemovable: false
 
     pressableEnabled: root.hasAction
-    implicitWidth: label.implicitWidth + 20
+    // Not asked of the row, which counts nothing while the chip is hidden.
+    implicitWidth: Math.ceil(label.width + (mark.name === "" ? 0 : mark.implicitWidth + parts.spacing)
+                             + (root.isRemovable ? cross.implicitWidth + parts.spacing : 0)) + 20
     implicitHeight: label.implicitHeight + 8
     Accessible.role: root.hasAction ? Accessible.Button : Accessible.StaticText
-    Accessible.checkable: root.hasAction && !root.isDashed
+    Accessible.checkable: root.hasAction && !root.isDashed && !root.isRemovable
     Accessible.checked: root.isSelected
 
     background: Rectangle {
@@ -48,11 +54,36 @@ Pressable {
         }
     }
 
-    contentItem: Label {
-        id: label
-        text: root.title
-        size: 12
-        color: root.isDashed ? Theme.textSecondary : Theme.textPrimary
-        horizontalAlignment: Text.AlignHCenter
+    contentItem: Item {
+        CenteredRow {
+            id: parts
+            anchors.centerIn: parent
+            spacing: 5
+
+            Symbol {
+                id: mark
+                visible: name !== ""
+                name: root.symbol
+                size: 9
+                color: Theme.textPrimary
+            }
+
+            Label {
+                id: label
+                width: Math.min(implicitWidth, 220)
+                text: root.title
+                size: 12
+                elide: Text.ElideMiddle
+                color: root.isDashed ? Theme.textSecondary : Theme.textPrimary
+            }
+
+            Symbol {
+                id: cross
+                visible: root.isRemovable
+                name: "xmark"
+                size: 8
+                color: root.hovered ? Theme.textPrimary : Theme.textMuted
+            }
+        }
     }
 }

@@ -33,7 +33,7 @@ Pressable {
         text: root.title
         weight: Font.DemiBold
         color: Theme.onAccent
-        opacity: root.isEnabled ? 1.0 : 0.6
+        opacity: root.isEnabled ? 1.0 : 0.85
         horizontalAlignment: Text.AlignHCenter
         elide: Text.ElideMiddle
     }

@@ -17,6 +17,9 @@ Item {
     property real tint: root.hovered ? 0.03 : 0
     property real indent: 0
     property alias spacing: line.spacing
+    // Whether rows that belong to it can be shown below it, and are.
+    property bool canExpand: false
+    property bool isOpen: false
     // Whether a press on the row does anything.
     property bool isPressable: true
     default property alias parts: line.data

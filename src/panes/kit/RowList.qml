@@ -11,6 +11,8 @@ ToolListView {
     required property string name
     // Whether the keyboard follows a press on a row.
     property bool pressTakesFocus: true
+    // The row that opens and closes the one given; itself, or one above it.
+    property var groupOf: row => row
     // Return, or a press on the row.
     signal activated(int row)
     // Space, or a press on the box in the row.
@@ -37,6 +39,17 @@ ToolListView {
             root.toggled(root.currentIndex);
     }
 
+    // Right opens. Left closes, and goes from a row to the one that it belongs to.
+    function setOpen(opens: bool, event: KeyEvent) {
+        if (!root.isPress(event))
+            return;
+        const row = root.currentItem as RowFrame;
+        if (row?.canExpand && row.isOpen !== opens)
+            root.activated(root.currentIndex);
+        else if (!opens)
+            root.currentIndex = root.groupOf(root.currentIndex);
+    }
+
     activeFocusOnTab: true
     highlightMoveDuration: 0
     Accessible.role: Accessible.List
@@ -53,6 +66,8 @@ ToolListView {
         if (event.accepted)
             root.currentIndex = row;
     }
+    Keys.onLeftPressed: event => root.setOpen(false, event)
+    Keys.onRightPressed: event => root.setOpen(true, event)
     Keys.onSpacePressed: event => root.toggleCurrent(event)
     Keys.onReturnPressed: event => root.activateCurrent(event)
     Keys.onEnterPressed: event => root.activateCurrent(event)

@@ -30,6 +30,8 @@ RowFrame {
     signal toggleExpanded()
 
     description: root.title
+    canExpand: root.canToggleExpanded
+    isOpen: root.isExpanded
     Accessible.role: Accessible.TreeItem
     onToggled: root.toggleSelection()
     onActivated: {

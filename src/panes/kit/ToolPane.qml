@@ -15,6 +15,8 @@ Rectangle {
     property bool isBusy: false
     property bool rowsShowLoader: false
     property alias columns: header.columns
+    // Headings stand over rows only.
+    property bool showsColumns: true
     property alias headerButtons: extraButtons.data
     property alias banner: bannerSlot.data
     property alias filters: filterSlot.data
@@ -101,7 +103,7 @@ Rectangle {
         ColumnHeader {
             id: header
             objectName: "columnHeader"
-            visible: header.columns.length > 0
+            visible: root.showsColumns && header.columns.length > 0
             Layout.fillWidth: true
         }
 

@@ -18,6 +18,7 @@ ToolPane {
     actionTitle: model.actionTitle
     isBusy: model.isScanning
     rowsShowLoader: true
+    showsColumns: !instead.isShown
     columns: [
         ColumnSpec { title: qsTr("FILE") },
         ColumnSpec { title: qsTr("KIND"); width: Measures.kindWidth },
@@ -86,6 +87,7 @@ ToolPane {
     }
 
     footer: ToolFooter {
+        visible: !root.instead.isShown
         selectionSummary: root.model.selectionSummary
         explanation: root.model.footerHint
         buttonTitle: root.model.trashButtonTitle

@@ -17,6 +17,7 @@ ToolPane {
     actionTitle: qsTr("Rescan")
     isBusy: model.isScanning
     rowsShowLoader: true
+    showsColumns: !instead.isShown
     columns: [
         ColumnSpec {
             title: qsTr("TRAIL")

@@ -31,6 +31,7 @@ ColumnLayout {
         RowList {
             name: qsTr("Categories found")
             model: root.model
+            groupOf: row => root.model.categoryRow(row)
             onActivated: row => root.model.activate(row)
             onToggled: row => root.model.toggleSelection(row)
 

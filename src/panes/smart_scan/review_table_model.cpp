@@ -390,6 +390,10 @@ std::size_t ReviewTableModel::firstRow(std::size_t at) const {
       [](std::size_t rows, const ShownCategory& shown) { return rows + shown.rowCount(); });
 }
 
+int ReviewTableModel::categoryRow(int row) const {
+  return static_cast<int>(firstRow(place(row).category));
+}
+
 ReviewTableModel::Place ReviewTableModel::place(int row) const {
   auto rest = static_cast<std::size_t>(row);
   std::size_t at = 0;

@@ -58,6 +58,8 @@ class ReviewTableModel : public QAbstractListModel {
   /// What pressing the row does: a category opens or closes, an item is selected or not, the last
   /// row shows the rest, a command is copied.
   Q_INVOKABLE void activate(int row);
+  /// The category that the row belongs to; requires that the row is there.
+  Q_INVOKABLE [[nodiscard]] int categoryRow(int row) const;
   /// What pressing the selection box of the row does. Nothing on a row that has none.
   Q_INVOKABLE void toggleSelection(int row);
   /// Puts the command of the row where the user can paste it. Nothing on another row.

@@ -26,6 +26,7 @@ ColumnLayout {
         RowList {
             name: qsTr("Kinds of System Data")
             model: root.pane.table
+            groupOf: row => root.pane.table.kindRow(row)
             onActivated: row => root.pane.table.activate(row)
             onToggled: row => root.pane.table.toggleSelection(row)
 

@@ -37,6 +37,8 @@ RowFrame {
 
     tint: isHighlighted ? 0.06 : hovered && !isHeader ? 0.03 : isKind ? 0 : 0.02
     indent: isItem ? Measures.indent : 0
+    canExpand: isKind
+    isOpen: isExpanded
     showsParts: !isHeader
     isPressable: !isHeader
     implicitHeight: isHeader ? explanation.implicitHeight : Measures.rowHeight

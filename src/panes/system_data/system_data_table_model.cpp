@@ -128,6 +128,11 @@ void SystemDataTableModel::toggleExpansion(SystemDataSubCategory category) {
   syncRows();
 }
 
+int SystemDataTableModel::kindRow(int row) const {
+  while (rows()[static_cast<std::size_t>(row)].kind != static_cast<int>(RowKind::Kind)) --row;
+  return row;
+}
+
 void SystemDataTableModel::syncRows() {
   showRows(rowsToShow());
 }

@@ -61,6 +61,8 @@ class SystemDataTableModel : public klarvik::KeyedListModel {
 
   /// What pressing the row does: a kind opens or closes, an item is selected or not.
   Q_INVOKABLE void activate(int row);
+  /// The kind that the row belongs to; requires that the row is there.
+  Q_INVOKABLE [[nodiscard]] int kindRow(int row) const;
   /// What pressing the selection box of the row does. Nothing on a row that has none.
   Q_INVOKABLE void toggleSelection(int row);
 

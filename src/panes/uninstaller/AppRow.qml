@@ -75,4 +75,11 @@ RowFrame {
         text: root.size
         isStrong: true
     }
+
+    Symbol {
+        Layout.preferredWidth: 12
+        name: "chevron.right"
+        size: 10
+        color: Theme.textTertiary
+    }
 }

@@ -19,6 +19,10 @@ ToolPane {
             title: qsTr("TOTAL")
             width: Measures.sizeWidth
             alignment: Qt.AlignRight
+        },
+        ColumnSpec {
+            title: ""
+            width: 12
         }
     ]
     readonly property list<ColumnSpec> leftoverColumns: [
@@ -40,6 +44,7 @@ ToolPane {
     subtitle: model.subtitle
     hasAction: false
     isBusy: model.isUninstalling
+    showsColumns: !instead.isShown
     // The linter does not know that a list property takes another one's value.
     columns: model.isDetail ? leftoverColumns : appColumns // qmllint disable type
 
@@ -69,6 +74,7 @@ ToolPane {
             id: backChip
 
             visible: root.model.isDetail
+            symbol: "chevron.left"
             title: qsTr("All apps")
             help: qsTr("Back to the list of all apps")
             pressableEnabled: !root.model.isUninstalling
