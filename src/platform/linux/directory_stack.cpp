@@ -13,16 +13,20 @@ namespace {
 
 constexpr std::size_t kMostHandles = 32;
 
-UniqueFd openFolder(int folder, const char* name) {
-  constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-  return UniqueFd(retryOnEintr([&] { return ::openat(folder, name, flags); }));
+bool isOutOfHandles() {
+  return errno == EMFILE || errno == ENFILE;
 }
 
 }  // namespace
 
+UniqueFd openForListing(int folder, const char* name) {
+  constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+  return UniqueFd(retryOnEintr([&] { return ::openat(folder, name, flags); }));
+}
+
 void DirectoryStack::Level::closeHandle() {
   struct stat status {};
-  if (::fstat(handle.get(), &status) == 0) {
+  if (::fstat(handle->get(), &status) == 0) {
     device = status.st_dev;
     inode = status.st_ino;
   }
@@ -35,32 +39,53 @@ bool DirectoryStack::Level::isThe(const UniqueFd& folder) const {
          status.st_ino == inode;
 }
 
-DirectoryStack::DirectoryStack(UniqueFd start) {
-  _levels.push_back({.handle = std::move(start)});
+DirectoryStack::DirectoryStack(UniqueFd start, std::function<bool()> freeHandles)
+    : _freeHandles(std::move(freeHandles)) {
+  _levels.push_back({.handle = std::make_shared<const UniqueFd>(std::move(start))});
 }
 
 UniqueFd DirectoryStack::open(const char* name) {
   for (;;) {
-    UniqueFd folder = openFolder(current(), name);
-    const bool outOfHandles = !folder && (errno == EMFILE || errno == ENFILE);
-    if (!outOfHandles || !closeHighest()) return folder;
+    UniqueFd folder = openIn(current(), name);
+    if (folder || !isOutOfHandles() || !closeHighest()) return folder;
   }
 }
 
-void DirectoryStack::enter(UniqueFd folder, std::string_view name) {
-  if (!_path.empty()) _path.push_back('/');
-  _path.append(name);
-  _levels.push_back({.handle = std::move(folder), .pathLength = _path.size()});
+UniqueFd DirectoryStack::openIn(int folder, const char* name) const {
+  UniqueFd opened = openForListing(folder, name);
+  if (opened || !isOutOfHandles() || !_freeHandles || !_freeHandles()) return opened;
+  return openForListing(folder, name);
+}
+
+void DirectoryStack::enter(std::shared_ptr<const UniqueFd> folder, std::string_view name) {
+  enterUnopened(name);
+  _levels.back().handle = std::move(folder);
   if (_levels.size() - _firstOpen > kMostHandles) closeHighest();
 }
 
+void DirectoryStack::enterUnopened(std::string_view name) {
+  if (!_path.empty()) _path.push_back('/');
+  _path.append(name);
+  _levels.push_back({.handle = nullptr, .pathLength = _path.size()});
+}
+
+void DirectoryStack::openCurrent(const std::function<bool(int above, const char* name)>& mayOpen) {
+  if (_levels.back().handle) return;
+  const auto above = _levels[depth() - 1].handle;
+  const std::string name(currentName());
+  if (!above || !mayOpen(above->get(), name.c_str())) return;
+  UniqueFd folder = openIn(above->get(), name.c_str());
+  if (folder) _levels.back().handle = std::make_shared<const UniqueFd>(std::move(folder));
+}
+
 void DirectoryStack::leave() {
-  const UniqueFd left = std::move(_levels.back().handle);
+  const auto left = std::move(_levels.back().handle);
   truncate(depth() - 1);
   if (_levels.back().handle) return;
-  UniqueFd above = openFolder(left.get(), "..");
+  UniqueFd above;
+  if (left) above = openIn(left->get(), "..");
   if (!_levels.back().isThe(above)) return reopenFromRoot();
-  _levels.back().handle = std::move(above);
+  _levels.back().handle = std::make_shared<const UniqueFd>(std::move(above));
   _firstOpen = depth();
 }
 
@@ -82,14 +107,14 @@ void DirectoryStack::reopenFromRoot() {
   UniqueFd reached;
   std::size_t level = 0;
   while (level < depth()) {
-    const int from = level == 0 ? _levels.front().handle.get() : reached.get();
-    UniqueFd next = openFolder(from, std::string(nameAt(level + 1)).c_str());
+    const int from = level == 0 ? _levels.front().handle->get() : reached.get();
+    UniqueFd next = openIn(from, std::string(nameAt(level + 1)).c_str());
     if (!_levels[level + 1].isThe(next)) break;
     reached = std::move(next);
     ++level;
   }
   truncate(level);
-  if (level > 0) _levels.back().handle = std::move(reached);
+  if (level > 0) _levels.back().handle = std::make_shared<const UniqueFd>(std::move(reached));
   _firstOpen = std::max(level, std::size_t{1});
 }
 
