@@ -110,16 +110,18 @@ PickedFileOutcome ScannerEngine::trashFile(const PickedFile& file, const PickedF
   const auto scope = DeletionScope::pickedFile();
   const FileSystem& files = _platform.files;
   if (!mayRemove(files, named, scope)) return {.url = file.url};
-  const bool moved =
-      (!check || check(file)) &&
-      _platform.trash.moveToTrash(named, itemCheck(files, named, scope, file.identity)).has_value();
-  if (!moved) countIfReplaced(files, named, file.identity, _leftAlone);
-  return {.url = file.url, .bytes = moved ? file.size : 0, .moved = moved};
+  std::optional<Path> trashed;
+  if (!check || check(file)) {
+    trashed = _platform.trash.moveToTrash(named, itemCheck(files, named, scope, file.identity));
+  }
+  if (!trashed) countIfReplaced(files, named, file.identity, _leftAlone);
+  const bool moved = trashed.has_value();
+  return {.url = file.url, .bytes = moved ? file.size : 0, .moved = moved, .trashedURL = trashed};
 }
 
 std::set<Path> ScannerEngine::trashFiles(const std::vector<PickedFile>& files, std::stop_token stop,
-                                         const DeletionSink& progress,
-                                         const PickedFileCheck& check) {
+                                         const DeletionSink& progress, const PickedFileCheck& check,
+                                         const TrashedSink& trashed) {
   std::vector<PickedFileOutcome> byNumber(files.size());
   std::set<Path> moved;
   ProgressCounter tally(files.size(), stop, progress);
@@ -129,9 +131,25 @@ std::set<Path> ScannerEngine::trashFiles(const std::vector<PickedFile>& files, s
       [&](std::size_t number) {
         const PickedFileOutcome& outcome = byNumber[number];
         if (outcome.moved) moved.insert(outcome.url);
+        if (outcome.moved && trashed) {
+          trashed({outcome.url, *outcome.trashedURL, files[number].identity, outcome.bytes});
+        }
         tally.add(outcome.url.filename().native(), outcome.bytes);
       });
   return moved;
+}
+
+std::int64_t ScannerEngine::restoreItems(std::vector<TrashedItem> items,
+                                         const std::stop_token& stop) {
+  // A folder comes before what lay in it: what returns makes the folders above it again, and such a
+  // folder would be in the way of the one that was there.
+  std::ranges::sort(items, {}, &TrashedItem::original);
+  std::int64_t count = 0;
+  for (const TrashedItem& item : items) {
+    if (stop.stop_requested()) break;
+    if (restoreItem(item.trashed, item.original, item.identity)) ++count;
+  }
+  return count;
 }
 
 bool ScannerEngine::restoreItem(const Path& trashedURL, const Path& originalURL,

@@ -11,6 +11,7 @@
 
 #include "core/junk_model.h"
 #include "core/left_alone.h"
+#include "engine/trashed_item.h"
 #include "platform/platform.h"
 
 namespace klarvik {
@@ -59,6 +60,7 @@ struct PickedFileOutcome {
   Path url;
   std::int64_t bytes = 0;
   bool moved = false;
+  std::optional<Path> trashedURL = std::nullopt;  ///< where the Trash put it
 };
 
 /// Scans the places where junk collects, and removes and restores what the user selected.
@@ -99,7 +101,10 @@ class ScannerEngine {
   PickedFileOutcome trashFile(const PickedFile& file, const PickedFileCheck& check = {});
   /// The files that were really moved. Stopping is as in `deleteItems`.
   std::set<Path> trashFiles(const std::vector<PickedFile>& files, std::stop_token stop,
-                            const DeletionSink& progress, const PickedFileCheck& check = {});
+                            const DeletionSink& progress, const PickedFileCheck& check = {},
+                            const TrashedSink& trashed = {});
+  /// Puts items back, each where nothing stands: how many. A stop request is seen between two.
+  std::int64_t restoreItems(std::vector<TrashedItem> items, const std::stop_token& stop);
   /// Nothing but what has the identity `trashed`, if it is told, goes back.
   bool restoreItem(const Path& trashedURL, const Path& originalURL,
                    const std::optional<EntryIdentity>& trashed = std::nullopt);

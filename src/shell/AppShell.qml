@@ -56,21 +56,41 @@ Item {
         }
     }
 
-    Item {
+    Column {
         id: notice
 
         anchors.left: divider.right
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        height: isNeeded ? banner.y + banner.implicitHeight : 0
-        visible: isNeeded
-
-        readonly property bool isNeeded: root.shell.notice !== ""
+        topPadding: removalBanner.visible || noticeBanner.visible ? 12 : 0
 
         ResultBanner {
-            id: banner
+            id: removalBanner
 
-            y: 12
+            visible: root.shell.removalHeadline !== ""
+            symbol: "trash.fill"
+            symbolColor: Theme.textMuted
+            headline: root.shell.removalHeadline
+            detail: root.shell.removalDetail
+
+            SecondaryButton {
+                visible: root.shell.canRestore
+                symbol: "arrow.uturn.backward"
+                title: qsTr("Restore")
+                onAction: root.shell.restoreRemoval()
+            }
+
+            SymbolButton {
+                symbol: "xmark"
+                title: qsTr("Dismiss")
+                onAction: root.shell.dismissRemoval()
+            }
+        }
+
+        ResultBanner {
+            id: noticeBanner
+
+            visible: root.shell.notice !== ""
             symbol: "exclamationmark.triangle.fill"
             symbolColor: Theme.review
             headline: root.shell.noticeHeadline

@@ -1,5 +1,7 @@
 #include "shell/app_shell_model.h"
 
+#include "panes/kit/row_text.h"
+
 #include "platform/user_defaults.h"
 #include "state/set_if_changed.h"
 
@@ -17,10 +19,15 @@ AppShellModel::AppShellModel(const std::vector<PaneEntry>& panes, AppState& appS
       _access(shared.permissionsManager(), desktop),
       _commands(commands),
       _removalNotice(shared.removalNotice()),
+      _lastRemoval(shared.lastRemoval()),
+      _trashMonitor(shared.trashMonitor()),
+      _formatting(desktop.formatting),
       _onSettingsNotSaved(desktop.notifications.observe(defaultsNotSavedNotification, [this] {
         if (setIfChanged(_tellsOfSettings, true)) emit noticeChanged();
       })) {
   connect(&_removalNotice, &RemovalNotice::changed, this, &AppShellModel::noticeChanged);
+  connect(&_lastRemoval, &LastRemoval::changed, this, &AppShellModel::removalChanged);
+  connect(&_trashMonitor, &TrashMonitor::changed, this, &AppShellModel::removalChanged);
 }
 
 QString AppShellModel::noticeHeadline() const {
@@ -34,6 +41,37 @@ QString AppShellModel::notice() const {
         "They hold until Klarvik quits. Is the disk full, or the folder of settings read-only?");
   }
   return QString::fromStdString(_removalNotice.text());
+}
+
+QString AppShellModel::removalHeadline() const {
+  const auto& removal = _lastRemoval.summary();
+  if (!removal) return {};
+  const auto counted = [](std::int64_t count, const QString& one, const QString& many) {
+    return count == 1 ? one : many.arg(count);
+  };
+  if (!removal->restoredCount) {
+    return counted(removal->itemCount, tr("1 item moved to the Trash"),
+                   tr("%1 items moved to the Trash"));
+  }
+  return counted(*removal->restoredCount, tr("1 item is back where it was"),
+                 tr("%1 items are back where they were"));
+}
+
+QString AppShellModel::removalDetail() const {
+  const auto& removal = _lastRemoval.summary();
+  if (!removal) return {};
+  if (!removal->restoredCount) {
+    return tr("%1. The space is free once the Trash is emptied.")
+        .arg(byteText(removal->bytes, _formatting));
+  }
+  return *removal->restoredCount == removal->itemCount
+             ? tr("Scan again to see them in the list.")
+             : tr("The others stay in the Trash: something stands in their places, or they have "
+                  "gone from it.");
+}
+
+bool AppShellModel::canRestore() const {
+  return _lastRemoval.canRestore() && _trashMonitor.itemCount() > 0;
 }
 
 void AppShellModel::dismissNotice() {

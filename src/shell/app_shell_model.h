@@ -33,6 +33,9 @@ class AppShellModel : public QObject {
   Q_PROPERTY(klarvik::AppCommandsModel* commands READ commands CONSTANT)
   Q_PROPERTY(QString noticeHeadline READ noticeHeadline NOTIFY noticeChanged)
   Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+  Q_PROPERTY(QString removalHeadline READ removalHeadline NOTIFY removalChanged)
+  Q_PROPERTY(QString removalDetail READ removalDetail NOTIFY removalChanged)
+  Q_PROPERTY(bool canRestore READ canRestore NOTIFY removalChanged)
 
  public:
   AppShellModel(const std::vector<PaneEntry>& panes, AppState& appState, SharedState& shared,
@@ -49,11 +52,19 @@ class AppShellModel : public QObject {
   /// Empty while there is nothing to tell.
   [[nodiscard]] QString notice() const;
   Q_INVOKABLE void dismissNotice();
+  /// What a tool has moved to the Trash, or put back; empty while there is nothing to tell.
+  [[nodiscard]] QString removalHeadline() const;
+  [[nodiscard]] QString removalDetail() const;
+  /// Nothing comes back from a Trash that was emptied.
+  [[nodiscard]] bool canRestore() const;
+  Q_INVOKABLE void restoreRemoval() { _lastRemoval.restore(); }
+  Q_INVOKABLE void dismissRemoval() { _lastRemoval.dismiss(); }
   Q_INVOKABLE void openSettings() { emit settingsAsked(); }
 
  signals:
   void settingsAsked();
   void noticeChanged();
+  void removalChanged();
 
  private:
   SidebarModel _sidebar;
@@ -63,6 +74,9 @@ class AppShellModel : public QObject {
   FullDiskAccessModel _access;
   AppCommandsModel& _commands;
   RemovalNotice& _removalNotice;
+  LastRemoval& _lastRemoval;
+  TrashMonitor& _trashMonitor;
+  const Formatting& _formatting;
   bool _tellsOfSettings = false;  ///< that could not be saved
   NotificationCenter::Subscription _onSettingsNotSaved;
 };

@@ -67,18 +67,10 @@ class AppState : public QObject {
     bool operator==(const ScanActivity&) const = default;
   };
 
-  /// An item that a clean has put into the Trash.
-  struct Restorable {
-    Path original;
-    Path trashed;
-    std::optional<EntryIdentity> identity;
-    bool operator==(const Restorable&) const = default;
-  };
-
   struct CleanSummary {
     std::int64_t freed = 0;
     std::int64_t itemCount = 0;
-    std::vector<Restorable> restorable;
+    std::vector<TrashedItem> restorable;
     std::map<CategoryType, std::int64_t> cleanedCategories;
     bool operator==(const CleanSummary&) const = default;
   };

@@ -108,7 +108,8 @@ AppState::Cleaned AppState::sumUp(const CleanPlan& plan,
     summary.freed = addBytes(summary.freed, outcome.reclaimed);
     cleaned.removed.insert(item.id);
     if (outcome.trashedURL) {
-      summary.restorable.push_back({item.path, *outcome.trashedURL, item.identity});
+      summary.restorable.push_back(
+          {item.path, *outcome.trashedURL, item.identity, outcome.reclaimed});
     }
     std::int64_t& ofCategory = summary.cleanedCategories[plan.types[outcome.item]];
     ofCategory = addBytes(ofCategory, outcome.reclaimed);
@@ -204,16 +205,8 @@ QCoro::Task<std::int64_t> AppState::restoreLastClean() {
   if (!restorable.empty()) {
     LeftAlone leftAlone;
     ScannerEngine engine(_desktop, &leftAlone);
-    auto restore = [&engine, inOrder = restorable, stop = _lifetime.get_token()]() mutable {
-      // A folder comes before what lay in it: what returns makes the folders above it again, and
-      // such a folder would be in the way of the one that was there.
-      std::ranges::sort(inOrder, {}, &Restorable::original);
-      std::int64_t count = 0;
-      for (const auto& [original, trashed, identity] : inOrder) {
-        if (stop.stop_requested()) break;
-        if (engine.restoreItem(trashed, original, identity)) ++count;
-      }
-      return count;
+    auto restore = [&engine, &restorable, stop = _lifetime.get_token()] {
+      return engine.restoreItems(restorable, stop);
     };
     restored = co_await runInBackground(_removalWork, std::move(restore));
     _notice.tell(leftAlone);

@@ -7,8 +7,8 @@
 namespace klarvik {
 
 PickedFilesRemoval::PickedFilesRemoval(const Desktop& desktop, RemovalNotice& notice,
-                                       QObject* parent)
-    : QObject(parent), _desktop(desktop), _notice(notice) {}
+                                       LastRemoval* lastRemoval, QObject* parent)
+    : QObject(parent), _desktop(desktop), _notice(notice), _lastRemoval(lastRemoval) {}
 
 PickedFilesRemoval::~PickedFilesRemoval() {
   finish();
@@ -27,15 +27,17 @@ QCoro::Task<std::set<Path>> PickedFilesRemoval::trash(std::size_t count,
     _progress = std::move(progress);
     emit changed();
   });
-  auto move = [&engine, &reports, &pick, &leftAlone, stop = _stop.get_token()] {
+  std::vector<TrashedItem> trashed;
+  auto move = [&engine, &reports, &pick, &leftAlone, &trashed, stop = _stop.get_token()] {
     const Pick picked = pick(leftAlone);
     return engine.trashFiles(
         picked.files, stop, [&](const DeletionProgress& progress) { reports.post(progress); },
-        picked.check);
+        picked.check, [&](TrashedItem item) { trashed.push_back(std::move(item)); });
   };
   std::set<Path> moved = co_await runInBackground(_work, std::move(move));
   reports.empty();
   _notice.tell(leftAlone);
+  if (_lastRemoval != nullptr) _lastRemoval->tell(std::move(trashed));
 
   _isRunning = false;
   _progress.reset();

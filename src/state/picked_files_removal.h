@@ -12,6 +12,7 @@
 #include "engine/scanner_engine.h"
 #include "platform/main_loop/background_tasks.h"
 #include "platform/platform.h"
+#include "state/last_removal.h"
 #include "state/removal_notice.h"
 
 namespace klarvik {
@@ -41,7 +42,9 @@ class PickedFilesRemoval : public QObject {
     ScannerEngine::PickedFileCheck check = {};
   };
 
-  PickedFilesRemoval(const Desktop& desktop, RemovalNotice& notice, QObject* parent = nullptr);
+  /// Without `lastRemoval` whoever has it tells by other means what was moved.
+  PickedFilesRemoval(const Desktop& desktop, RemovalNotice& notice,
+                     LastRemoval* lastRemoval = nullptr, QObject* parent = nullptr);
   /// Starts no further file, and waits for those in hand; whoever awaits `trash` is resumed first.
   ~PickedFilesRemoval() override;
 
@@ -64,6 +67,7 @@ class PickedFilesRemoval : public QObject {
  private:
   const Desktop& _desktop;
   RemovalNotice& _notice;
+  LastRemoval* _lastRemoval;
   bool _isRunning = false;
   std::optional<DeletionProgress> _progress;
   std::stop_source _stop;

@@ -9,7 +9,8 @@ SharedState::SharedState(const Desktop& desktop)
       _scanHistory(desktop.defaults, desktop.clock),
       _permissionsManager(desktop),
       _diskMonitor(desktop),
-      _trashMonitor(desktop, _removalNotice) {}
+      _trashMonitor(desktop, _removalNotice),
+      _lastRemoval(desktop, _removalNotice) {}
 
 UpdateManager& SharedState::updateManager() {
   if (!_updateManager) _updateManager.emplace(_desktop);

@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "state/disk_monitor.h"
+#include "state/last_removal.h"
 #include "state/navigator.h"
 #include "state/permissions_manager.h"
 #include "state/removal_notice.h"
@@ -34,6 +35,7 @@ class SharedState {
   [[nodiscard]] DiskMonitor& diskMonitor() { return _diskMonitor; }
   [[nodiscard]] TrashMonitor& trashMonitor() { return _trashMonitor; }
   [[nodiscard]] RemovalNotice& removalNotice() { return _removalNotice; }
+  [[nodiscard]] LastRemoval& lastRemoval() { return _lastRemoval; }
   /// Made at first use, since that starts the updater.
   UpdateManager& updateManager();
 
@@ -47,6 +49,7 @@ class SharedState {
   DiskMonitor _diskMonitor;
   RemovalNotice _removalNotice;
   TrashMonitor _trashMonitor;
+  LastRemoval _lastRemoval;
   std::optional<UpdateManager> _updateManager;
 };
 

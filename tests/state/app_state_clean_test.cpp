@@ -134,9 +134,9 @@ TEST_F(AppStateClean, TheSummaryTellsTheBytesTheItemsTheCategoriesAndTheWayBack)
             (std::map<CategoryType, std::int64_t>{{CategoryType::appCaches, 6000},
                                                   {CategoryType::xcodeArchives, 40'000}}));
   ASSERT_EQ(summary.restorable.size(), 4U);
-  for (const auto& [original, trashed, identity] : summary.restorable) {
-    EXPECT_FALSE(around.disk.holds(original));
-    EXPECT_TRUE(around.disk.holds(trashed));
+  for (const TrashedItem& item : summary.restorable) {
+    EXPECT_FALSE(around.disk.holds(item.original));
+    EXPECT_TRUE(around.disk.holds(item.trashed));
   }
 }
 

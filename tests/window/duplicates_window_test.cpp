@@ -81,7 +81,20 @@ TEST_F(DuplicatesWindow, FindsEqualFilesAndMovesAllButOneToTheTrash) {
   EXPECT_EQ(listing("/Users/ann/Music"), music);
   EXPECT_GE(listing("/Users/ann").size(), before);
   EXPECT_TRUE(shows("No duplicates"));
+  ASSERT_TRUE(turnUntil([this] { return shows("Restore"); }));
+  EXPECT_TRUE(shows("items moved to the Trash") || shows("1 item moved to the Trash") ||
+              shows(QString::number(trashCount() - trashed) + " items moved to the Trash"));
   picture("duplicates-after");
+
+  click("Restore");
+  ASSERT_TRUE(turnUntil([this] { return !shows("Restore"); }));
+  ASSERT_TRUE(turnUntil([&] { return trashCount() == trashed; }));
+  settle();
+  EXPECT_TRUE(shows("Scan again to see them in the list."));
+  picture("duplicates-restored");
+  click("Dismiss");
+  settle();
+  EXPECT_FALSE(shows("Scan again to see them in the list."));
 }
 
 TEST_F(DuplicatesWindowOverAnEmptyHome, KeepsTheCopyThatTheUserNames) {

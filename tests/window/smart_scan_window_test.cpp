@@ -132,8 +132,8 @@ TEST_F(SmartScanWindow, CleansSafeItemsWithoutAskingAndTakesThemBack) {
   ASSERT_FALSE(restorable.empty());
   click("Restore");
   ASSERT_TRUE(turnUntil([this] { return is<AppState::Done>(); }));
-  for (const auto& [original, trashed, identity] : restorable) {
-    EXPECT_TRUE(desk->disk.holds(original)) << original;
+  for (const TrashedItem& item : restorable) {
+    EXPECT_TRUE(desk->disk.holds(item.original)) << item.original;
   }
   EXPECT_FALSE(shows("Restore"));
   EXPECT_EQ(listing("/Users/ann/Library/Caches"), before);
@@ -186,9 +186,9 @@ TEST_F(SmartScanWindow, StopsACleanAndTellsWhatWentUntilThen) {
   desk->trashGate.open();
   ASSERT_TRUE(turnUntil([this] { return is<AppState::CleanDone>(); }));
   const AppState::CleanSummary& summary = *app->appState().lastClean();
-  for (const auto& [original, trashed, identity] : summary.restorable) {
-    EXPECT_FALSE(desk->disk.holds(original));
-    EXPECT_TRUE(desk->disk.holds(trashed));
+  for (const TrashedItem& item : summary.restorable) {
+    EXPECT_FALSE(desk->disk.holds(item.original));
+    EXPECT_TRUE(desk->disk.holds(item.trashed));
   }
   EXPECT_FALSE(app->appState().scanResults().empty());
 }

@@ -42,7 +42,7 @@ DuplicateFinderModel::DuplicateFinderModel(SharedState& shared, const Desktop& d
       _permissions(shared.permissionsManager()),
       _desktop(desktop),
       _rows(_choice, desktop),
-      _removal(desktop, shared.removalNotice()),
+      _removal(desktop, shared.removalNotice(), &shared.lastRemoval()),
       _scan(Section::duplicates, shared.toolActivity(), shared.scanCoordinator(), desktop.clock) {
   const UserFolders shown = shownFolders(desktop.files);
   _scanDirs =

@@ -34,7 +34,7 @@ LargeFileFinderModel::LargeFileFinderModel(SharedState& shared, const Desktop& d
       _permissions(shared.permissionsManager()),
       _desktop(desktop),
       _rows(_selected, desktop),
-      _removal(desktop, shared.removalNotice()),
+      _removal(desktop, shared.removalNotice(), &shared.lastRemoval()),
       _scan(Section::largeFiles, shared.toolActivity(), shared.scanCoordinator(), desktop.clock) {
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
           &LargeFileFinderModel::placeholderChanged);

@@ -17,6 +17,7 @@ CleanedBannerModel::CleanedBannerModel(AppState& appState, DiskMonitor& diskMoni
       _formatting(formatting) {
   connect(&appState, &AppState::lastCleanChanged, this, &CleanedBannerModel::changed);
   connect(&diskMonitor, &DiskMonitor::statsChanged, this, &CleanedBannerModel::changed);
+  connect(&trashMonitor, &TrashMonitor::changed, this, &CleanedBannerModel::changed);
 }
 
 bool CleanedBannerModel::isShown() const {
@@ -43,7 +44,7 @@ bool CleanedBannerModel::tellsApart() const {
 }
 
 bool CleanedBannerModel::isRestorable() const {
-  return !summary().restorable.empty();
+  return !summary().restorable.empty() && _trashMonitor.itemCount() > 0;
 }
 
 void CleanedBannerModel::emptyTrash() {

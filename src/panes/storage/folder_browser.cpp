@@ -48,7 +48,7 @@ FolderBrowser::FolderBrowser(SharedState& shared, const Desktop& desktop, QObjec
     : QAbstractListModel(parent),
       _desktop(desktop),
       _measure(measure ? std::move(measure) : measureTheDisk(desktop.files)),
-      _removal(desktop, shared.removalNotice()),
+      _removal(desktop, shared.removalNotice(), &shared.lastRemoval()),
       _measurement(desktop.clock) {
   connect(&_removal, &PickedFilesRemoval::changed, this, &FolderBrowser::removalChanged);
 }

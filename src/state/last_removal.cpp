@@ -1,0 +1,55 @@
+#include "state/last_removal.h"
+
+#include <utility>
+
+#include "base/bytes.h"
+#include "core/left_alone.h"
+#include "engine/scanner_engine.h"
+#include "platform/notification_center.h"
+#include "platform/platform.h"
+#include "state/removal_notice.h"
+#include "state/section.h"
+
+namespace klarvik {
+
+LastRemoval::LastRemoval(const Desktop& desktop, RemovalNotice& notice, QObject* parent)
+    : QObject(parent), _desktop(desktop), _notice(notice) {}
+
+LastRemoval::~LastRemoval() {
+  _lifetime.request_stop();
+  _work.finish();
+}
+
+void LastRemoval::tell(std::vector<TrashedItem> items) {
+  // What is being put back is told first.
+  if (items.empty() || _isRestoring) return;
+  _summary = Summary{.itemCount = static_cast<std::int64_t>(items.size())};
+  for (const TrashedItem& item : items) _summary->bytes = addBytes(_summary->bytes, item.bytes);
+  _work.deleteInBackground(std::exchange(_items, std::move(items)));
+  emit changed();
+}
+
+void LastRemoval::dismiss() {
+  if (!_summary || _isRestoring) return;
+  _summary.reset();
+  _work.deleteInBackground(std::exchange(_items, {}));
+  emit changed();
+}
+
+QCoro::Task<> LastRemoval::restore() {
+  if (!canRestore()) co_return;
+  _isRestoring = true;
+  emit changed();
+  LeftAlone leftAlone;
+  ScannerEngine engine(_desktop, &leftAlone);
+  auto restore = [&engine, items = std::exchange(_items, {}), stop = _lifetime.get_token()] {
+    return engine.restoreItems(items, stop);
+  };
+  _summary->restoredCount = co_await runInBackground(_work, std::move(restore));
+  _isRestoring = false;
+  _notice.tell(leftAlone);
+  emit changed();
+  _desktop.notifications.post(diskChangedNotification);
+}
+
+}  // namespace klarvik
