@@ -1,4 +1,6 @@
 #include "base/paths.h"
+
+#include "base/message.h"
 #include "base/text.h"
 #include "core/catalogue.h"
 #include "core/deletion_rules.h"
@@ -31,7 +33,9 @@ std::optional<std::string_view> knownName(const LeftoverFolder& folder, const Pi
 Refusal residualRefusal(const Pieces& path, std::string_view relative, const Catalogue& catalogue,
                         const DeletionQuestion& question) {
   const auto identifiers = distinctiveIdentifiers(question.scope.identifiers);
-  if (identifiers.empty()) return refuse("App identifier is too short to match residuals safely.");
+  if (identifiers.empty())
+    return refuse(
+        QT_TRANSLATE_NOOP("Engine", "App identifier is too short to match residuals safely."));
   const auto belongs = [&](std::string_view name) {
     return std::ranges::find(identifiers, name) != identifiers.end();
   };
@@ -40,7 +44,7 @@ Refusal residualRefusal(const Pieces& path, std::string_view relative, const Cat
     return relation == Relation::at || relation == Relation::below;
   };
   if (catalogue.reachesUnsavedWork(path)) {
-    return refuse("~/", relative, " holds your own files, not junk.");
+    return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 holds your own files, not junk."), relative);
   }
 
   const DesktopApplications& places = *question.layout.applications.desktop;
@@ -54,7 +58,8 @@ Refusal residualRefusal(const Pieces& path, std::string_view relative, const Cat
   for (const LeftoverFolder& each : places.leftovers) {
     const PatternMatch match = catalogue.match(path, each.folder);
     if (match.relation == Relation::at || match.relation == Relation::above) {
-      return refuse(relative, " is not a place apps leave residual files.");
+      return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is not a place apps leave residual files."),
+                    relative);
     }
     const bool isNearer = folder == nullptr || match.length > length;
     if (match.relation != Relation::below || !isNearer) continue;
@@ -62,14 +67,17 @@ Refusal residualRefusal(const Pieces& path, std::string_view relative, const Cat
     length = match.length;
   }
   const auto name = folder ? knownName(*folder, path, length) : std::nullopt;
-  if (!name) return refuse(relative, " is not a place apps leave residual files.");
+  if (!name)
+    return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is not a place apps leave residual files."),
+                  relative);
   const std::string lower = lowercased(*name);
   if (nameMatchesAny(places.sharedNames, lower)) {
-    return refuse(path[length], " is shared by several apps.");
+    return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is shared by several apps."), path[length]);
   }
   const bool isCommon = std::ranges::find(places.commonWords, lower) != places.commonWords.end();
   if (belongs(lower) && !isCommon) return allowed;
-  return refuse(path[length], " does not belong to the app being removed.");
+  return refuse(QT_TRANSLATE_NOOP("Engine", "%1 does not belong to the app being removed."),
+                path[length]);
 }
 
 /// What a user has installed by hand, and its entry and icons.
@@ -84,13 +92,14 @@ Refusal applicationRefusal(const Pieces& path, std::string_view relative,
   const bool isHidden =
       std::ranges::any_of(path, [](std::string_view piece) { return piece.starts_with('.'); });
   if (!isHidden && lowercased(path.back()).ends_with(".appimage")) return allowed;
-  return refuse("~/", relative, " is no app that Klarvik removes.");
+  return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no app that Klarvik removes."), relative);
 }
 
 Refusal refusalInHome(std::string_view relative, const DeletionQuestion& question) {
   const Pieces path = splitPath(relative);
   const Catalogue catalogue(question.layout, question.folders);
-  if (catalogue.reachesSecret(path)) return refuse("~/", relative, " holds keys and passwords.");
+  if (catalogue.reachesSecret(path))
+    return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 holds keys and passwords."), relative);
   if (question.scope.kind == DeletionScope::Kind::residual) {
     return residualRefusal(path, relative, catalogue, question);
   }
@@ -101,7 +110,7 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
   if (!catalogue.placesOf(path, /*inHome=*/true).empty()) return allowed;
   if (question.scope.kind == DeletionScope::Kind::trail) {
     if (catalogue.isTrail(path)) return allowed;
-    return refuse("~/", relative, " is no trail that Klarvik clears.");
+    return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no trail that Klarvik clears."), relative);
   }
   // What waits in the Trash was put there to go, wherever the user keeps the Trash.
   const Path trash =
@@ -109,17 +118,18 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
   if (isBelow(relative, trash.lexically_normal().native())) return allowed;
   if (isInTrashOfAVolume(question)) return allowed;
   if (const auto own = catalogue.ownPlaceOf(path)) {
-    return refuse("~/", *own, " holds your own files, not junk.");
+    return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 holds your own files, not junk."), *own);
   }
   if (question.scope.kind == DeletionScope::Kind::pickedFile) {
     if (path.front().starts_with('.')) {
-      return refuse("~/", relative, " is no place that Klarvik cleans.");
+      return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no place that Klarvik cleans."), relative);
     }
     if (path.size() >= 2) return allowed;
-    return refuse("~/", relative, " is a whole folder, not a file you picked.");
+    return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is a whole folder, not a file you picked."),
+                  relative);
   }
   if (catalogue.isNamedLikeArtifact(path)) return allowed;
-  return refuse("~/", relative, " is no place that Klarvik cleans.");
+  return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no place that Klarvik cleans."), relative);
 }
 
 Refusal refusalOutsideHome(const DeletionQuestion& question) {
@@ -127,12 +137,13 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
   const bool isAnothers =
       std::ranges::any_of(question.layout.guard.otherHomes,
                           [&](std::string_view homes) { return isBelow(path, homes); });
-  if (isAnothers) return refuse("Refusing to touch another user account.");
+  if (isAnothers)
+    return refuse(QT_TRANSLATE_NOOP("Engine", "Refusing to touch another user account."));
   const auto pieces = splitPath(path);
   const bool isKeys = std::ranges::any_of(pieces, [&](std::string_view piece) {
     return nameMatchesAny(question.layout.guard.secretNames, lowercased(piece));
   });
-  if (isKeys) return refuse(path, " holds keys and passwords.");
+  if (isKeys) return refuse(QT_TRANSLATE_NOOP("Engine", "%1 holds keys and passwords."), path);
   if (isInTrashOfAVolume(question)) return allowed;
   const Catalogue catalogue(question.layout, question.folders);
   const bool isOfAnApplication = question.scope.kind == DeletionScope::Kind::residual ||
@@ -140,9 +151,9 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
   const bool isListed = !isOfAnApplication && !catalogue.placesOf(pieces, /*inHome=*/false).empty();
   if (isListed) return allowed;
   if (const auto* entry = firstPrefixOf(path, question.layout.guard.protectedPrefixes)) {
-    return refuse(*entry, question.layout.guard.protectedReason);
+    return refuse(question.layout.guard.protectedReason, *entry);
   }
-  return refuse(path, " is outside the locations Klarvik cleans.");
+  return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is outside the locations Klarvik cleans."), path);
 }
 
 }  // namespace
@@ -151,11 +162,14 @@ Refusal refusalByAllowList(const DeletionQuestion& question) {
   const std::string_view path = question.path;
   const std::string_view home = question.home;
   const bool hasHome = isSomeonesHome(question);
-  if (hasHome && path == home) return refuse("Refusing to delete the home directory.");
-  if (isSystemDirectory(question)) return refuse(path, " is a system directory.");
+  if (hasHome && path == home)
+    return refuse(QT_TRANSLATE_NOOP("Engine", "Refusing to delete the home directory."));
+  if (isSystemDirectory(question))
+    return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is a system directory."), path);
   if (hasHome) {
     if (isBelow(path, home)) return refusalInHome(path.substr(home.size() + 1), question);
-    if (isBelow(home, path)) return refuse(path, " holds your home.");
+    if (isBelow(home, path))
+      return refuse(QT_TRANSLATE_NOOP("Engine", "%1 holds your home."), path);
   }
   return refusalOutsideHome(question);
 }

@@ -11,24 +11,24 @@
 
 namespace klarvik {
 
-std::optional<std::string> DeletionGuard::refusalReason(const Path& path,
-                                                        const DeletionScope& scope,
-                                                        const Path& home) {
+std::optional<Message> DeletionGuard::refusalReason(const Path& path, const DeletionScope& scope,
+                                                    const Path& home) {
   const Path standardized = standardizedPath(home);
   return refusalReason(path, scope, UserFolders::in(standardized), layoutFor(standardized));
 }
 
-std::optional<std::string> DeletionGuard::refusalReason(const Path& givenPath,
-                                                        const DeletionScope& scope,
-                                                        const UserFolders& folders,
-                                                        const DiskLayout& layout) {
+std::optional<Message> DeletionGuard::refusalReason(const Path& givenPath,
+                                                    const DeletionScope& scope,
+                                                    const UserFolders& folders,
+                                                    const DiskLayout& layout) {
   const std::string path = standardizedPath(givenPath).native();
   // The disk would read such a path only as far as its NUL, which is another path than this one.
   const bool namesAPath = givenPath.native().find('\0') == std::string::npos;
-  if (!path.starts_with('/') || !namesAPath) return refuse("Path is not absolute.");
+  if (!path.starts_with('/') || !namesAPath)
+    return refuse(QT_TRANSLATE_NOOP("Engine", "Path is not absolute."));
   // Any two dots in a row, also inside a name: wider than needed, and wanted so.
   if (path.find("..") != std::string::npos) {
-    return refuse("Path contains a parent-directory reference.");
+    return refuse(QT_TRANSLATE_NOOP("Engine", "Path contains a parent-directory reference."));
   }
   const std::string home = standardizedPath(folders.home).native();
   const DeletionQuestion question{path, scope, folders, layout, home};

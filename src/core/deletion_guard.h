@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/message.h"
 #include "platform/path.h"
 #include "platform/user_folders.h"
 
@@ -40,14 +41,14 @@ struct DeletionScope {
 class DeletionGuard {
  public:
   /// Nothing when `path` may be removed, else a sentence that says why not.
-  [[nodiscard]] static std::optional<std::string> refusalReason(const Path& path,
-                                                                const DeletionScope& scope,
-                                                                const Path& home);
+  [[nodiscard]] static std::optional<Message> refusalReason(const Path& path,
+                                                            const DeletionScope& scope,
+                                                            const Path& home);
   /// The same by the rules of `layout`, for a user whose folders lie elsewhere.
-  [[nodiscard]] static std::optional<std::string> refusalReason(const Path& path,
-                                                                const DeletionScope& scope,
-                                                                const UserFolders& folders,
-                                                                const DiskLayout& layout);
+  [[nodiscard]] static std::optional<Message> refusalReason(const Path& path,
+                                                            const DeletionScope& scope,
+                                                            const UserFolders& folders,
+                                                            const DiskLayout& layout);
 };
 
 }  // namespace klarvik

@@ -7,19 +7,18 @@
 #include <string_view>
 #include <vector>
 
+#include "base/message.h"
 #include "core/deletion_guard.h"
 
 namespace klarvik {
 
 /// Why something may not be removed, as a sentence; nothing when it may.
-using Refusal = std::optional<std::string>;
+using Refusal = std::optional<Message>;
 inline constexpr std::nullopt_t allowed = std::nullopt;
 
-template <class... Parts>
-[[nodiscard]] Refusal refuse(const Parts&... parts) {
-  std::string sentence;
-  (sentence.append(parts), ...);
-  return sentence;
+/// `what`: the "%1" of the sentence.
+[[nodiscard]] inline Refusal refuse(std::string_view sentence, std::string_view what = {}) {
+  return Message(sentence, {std::string(what)});
 }
 
 [[nodiscard]] inline const std::string_view* firstPrefixOf(

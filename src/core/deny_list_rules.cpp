@@ -1,4 +1,6 @@
 #include "base/paths.h"
+
+#include "base/message.h"
 #include "base/text.h"
 #include "core/deletion_rules.h"
 #include "places/disk_layout.h"
@@ -9,12 +11,16 @@ namespace {
 
 Refusal residualRefusal(std::string_view path, const DeletionQuestion& question) {
   const auto identifiers = distinctiveIdentifiers(question.scope.identifiers);
-  if (identifiers.empty()) return refuse("App identifier is too short to match residuals safely.");
+  if (identifiers.empty())
+    return refuse(
+        QT_TRANSLATE_NOOP("Engine", "App identifier is too short to match residuals safely."));
 
   const auto roots = question.layout.guard.residualRoots;
   const auto root =
       std::ranges::find_if(roots, [&](const auto& entry) { return isBelow(path, entry.pattern); });
-  if (root == roots.end()) return refuse(path, " is not a place apps leave residual files.");
+  if (root == roots.end())
+    return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is not a place apps leave residual files."),
+                  path);
 
   const std::string_view rest = path.substr(root->pattern.size() + 1);
   const std::vector<std::string_view> restPieces = splitPath(rest);
@@ -24,7 +30,8 @@ Refusal residualRefusal(std::string_view path, const DeletionQuestion& question)
     return lowerFolder.find(id) != std::string::npos;
   });
   if (belongs) return allowed;
-  return refuse(folder, " does not belong to the app being removed.");
+  return refuse(QT_TRANSLATE_NOOP("Engine", "%1 does not belong to the app being removed."),
+                folder);
 }
 
 Refusal refusalInHome(std::string_view relative, const DeletionQuestion& question) {
@@ -34,7 +41,8 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
       return residualRefusal(relative, question);
     case DeletionScope::Kind::pickedFile:
       if (deepEnough) return allowed;
-      return refuse("~/", relative, " is a whole folder, not a file you picked.");
+      return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is a whole folder, not a file you picked."),
+                    relative);
     case DeletionScope::Kind::general:
     case DeletionScope::Kind::trail:
     case DeletionScope::Kind::application:
@@ -43,11 +51,11 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
   }
   for (const auto& [base, entry] : question.layout.guard.ownPlaces) {
     if (relative == entry || isBelow(relative, entry)) {
-      return refuse("~/", entry, " holds your own files, not junk.");
+      return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 holds your own files, not junk."), entry);
     }
   }
   if (deepEnough) return allowed;
-  return refuse("~/", relative, " is too broad to delete safely.");
+  return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is too broad to delete safely."), relative);
 }
 
 Refusal refusalOutsideHome(const DeletionQuestion& question) {
@@ -55,7 +63,8 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
   const GuardRules& rules = question.layout.guard;
   const bool isAnothers = std::ranges::any_of(
       rules.otherHomes, [&](std::string_view homes) { return isBelow(path, homes); });
-  if (isAnothers) return refuse("Refusing to touch another user account.");
+  if (isAnothers)
+    return refuse(QT_TRANSLATE_NOOP("Engine", "Refusing to touch another user account."));
   if (isInTrashOfAVolume(question)) return allowed;
   // Ahead of the cleanable places: a residual in /Library/Caches must still belong to the app.
   const bool isResidual = question.scope.kind == DeletionScope::Kind::residual;
@@ -63,7 +72,7 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
     return residualRefusal(path.substr(1), question);
   }
   if (firstPrefixOf(path, rules.cleanableOutsideHome) != nullptr) return allowed;
-  return refuse(path, " is outside the locations Klarvik cleans.");
+  return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is outside the locations Klarvik cleans."), path);
 }
 
 }  // namespace
@@ -71,15 +80,17 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
 Refusal refusalByDenyList(const DeletionQuestion& question) {
   const std::string_view path = question.path;
   const GuardRules& rules = question.layout.guard;
-  if (isSystemDirectory(question)) return refuse(path, " is a system directory.");
+  if (isSystemDirectory(question))
+    return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is a system directory."), path);
   if (const auto* entry = firstPrefixOf(path, rules.protectedPrefixes)) {
-    return refuse(*entry, rules.protectedReason);
+    return refuse(rules.protectedReason, *entry);
   }
   if (const auto* entry = firstPrefixOf(path, rules.managedPrefixes)) {
-    return refuse(*entry, rules.managedReason);
+    return refuse(rules.managedReason, *entry);
   }
   if (isSomeonesHome(question)) {
-    if (path == question.home) return refuse("Refusing to delete the home directory.");
+    if (path == question.home)
+      return refuse(QT_TRANSLATE_NOOP("Engine", "Refusing to delete the home directory."));
     if (isBelow(path, question.home)) {
       return refusalInHome(path.substr(question.home.size() + 1), question);
     }

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/message.h"
 #include "core/uuid.h"
 #include "places/category_type.h"
 #include "platform/date.h"
@@ -34,6 +35,8 @@ struct JunkItem {
   /// The tool that removes it; Klarvik itself never does then. A row of the layout's table.
   const CleaningTool* tool = nullptr;
   std::vector<std::string> toolNames{};  ///< what of the tool's own names it is, if it is one
+  /// What the name was made of; empty where it is one of the disk.
+  Message nameText{};
 
   /// Of all that is shown.
   bool operator==(const JunkItem& other) const;
@@ -44,8 +47,9 @@ struct Hint {
   std::string name;
   Path path;
   std::int64_t size = 0;  ///< bytes
-  std::string reason;     ///< one sentence
+  Message reason;         ///< one sentence
   std::string command;    ///< what the user may run; empty when there is nothing to run
+  Message nameText{};     ///< as of an item
 };
 
 /// What one category of a scan found.

@@ -62,6 +62,18 @@ JunkItem CategoryScanners::item(std::string name, const Path& path) const {
   return found;
 }
 
+JunkItem CategoryScanners::item(const Message& name, const Path& path) const {
+  JunkItem found = item(name.english(), path);
+  found.nameText = name;
+  return found;
+}
+
+JunkItem CategoryScanners::datedItem(const Message& name, const Path& path) const {
+  JunkItem found = datedItem(name.english(), path);
+  found.nameText = name;
+  return found;
+}
+
 JunkItem CategoryScanners::datedItem(std::string name, const Path& path) const {
   const auto attributes = _platform.files.attributes(path);
   return {.name = std::move(name),

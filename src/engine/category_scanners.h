@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/message.h"
 #include "core/junk_model.h"
 #include "platform/platform.h"
 
@@ -47,11 +48,13 @@ class CategoryScanners {
   /// What stands at `path`, measured: 0 bytes when nothing does. What comes to the name while it is
   /// being measured is not meant.
   [[nodiscard]] JunkItem item(std::string name, const Path& path) const;
+  [[nodiscard]] JunkItem item(const Message& name, const Path& path) const;
   /// The same, with the date of its last change.
   [[nodiscard]] JunkItem datedItem(std::string name, const Path& path) const;
+  [[nodiscard]] JunkItem datedItem(const Message& name, const Path& path) const;
   [[nodiscard]] Items scanPaths(std::span<const std::string_view> paths) const;
-  [[nodiscard]] std::string backupName(const JunkItem& folder) const;
-  [[nodiscard]] std::string snapshotName(const std::string& text) const;
+  [[nodiscard]] Message backupName(const JunkItem& folder) const;
+  [[nodiscard]] Message snapshotName(const std::string& text) const;
   [[nodiscard]] std::int64_t snapshotSize(const std::string& text) const;
   [[nodiscard]] Items firmware() const;
 

@@ -1,6 +1,8 @@
 // The rows of the scan table that look at what developer tools leave behind.
 
 #include "engine/category_scanners.h"
+
+#include "base/message.h"
 #include "engine/docker_table.h"
 #include "engine/shell.h"
 #include "engine/simulator_devices.h"
@@ -18,7 +20,8 @@ CategoryScanners::Items CategoryScanners::xcodeArchives() const {
 
 CategoryScanners::Items CategoryScanners::simulators() const {
   Items items;
-  JunkItem caches = item("CoreSimulator Caches", inHome(mac::simulatorCaches));
+  JunkItem caches = item(Message(QT_TRANSLATE_NOOP("Engine", "CoreSimulator Caches")),
+                         inHome(mac::simulatorCaches));
   if (caches.size >= 1) items.push_back(std::move(caches));
 
   const auto listing =
@@ -26,7 +29,8 @@ CategoryScanners::Items CategoryScanners::simulators() const {
   const Path devices = inHome(mac::simulatorDevices);
   for (const SimulatorDevice& device : unavailableSimulators(listing)) {
     JunkItem folder =
-        item(device.name + " (" + device.runtime + ") — unavailable", devices / device.udid);
+        item({QT_TRANSLATE_NOOP("Engine", "%1 (%2) — unavailable"), {device.name, device.runtime}},
+             devices / device.udid);
     if (folder.size > mac::largestIgnoredDevice) items.push_back(std::move(folder));
   }
   return items;
@@ -37,9 +41,12 @@ CategoryScanners::Items CategoryScanners::docker() const {
   if (!engineId.empty()) {
     const auto table = runShell(_platform.commands, "docker system df 2>/dev/null");
     // No file stands for this: the path only fills the item's place, and the guard refuses it.
-    return {{.name = "Docker reclaimable (images, containers, volumes, cache)",
+    const Message name =
+        QT_TRANSLATE_NOOP("Engine", "Docker reclaimable (images, containers, volumes, cache)");
+    return {{.name = name.english(),
              .path = "/usr/local/bin/docker",
-             .size = dockerReclaimableBytes(table)}};
+             .size = dockerReclaimableBytes(table),
+             .nameText = name}};
   }
 
   Items items;

@@ -18,20 +18,6 @@
 namespace klarvik {
 namespace {
 
-/// `text` with each "*" replaced by the next of `stars`.
-std::string filledIn(std::string_view text, const std::vector<std::string>& stars) {
-  std::string filled;
-  auto next = stars.begin();
-  for (const char character : text) {
-    if (character == '*' && next != stars.end()) {
-      filled += *next++;
-    } else {
-      filled += character;
-    }
-  }
-  return filled;
-}
-
 std::vector<std::string_view> views(const std::vector<std::string>& texts) {
   return {texts.begin(), texts.end()};
 }
@@ -160,10 +146,11 @@ bool PlaceScanner::isExcepted(const Place& place, const PlaceMatch& match) const
          _catalogue.hasRowOfItsOwn(place.base, match.stars.back());
 }
 
-std::string PlaceScanner::nameOf(const Place& place, const PlaceMatch& match) {
-  if (place.name.empty()) return match.path.filename().native();
-  const std::string name = filledIn(place.name, match.stars);
-  return match.inside.empty() ? name : name + " — " + match.inside.native();
+/// Empty where the place has no name but that of its file.
+Message PlaceScanner::nameOf(const Place& place, const PlaceMatch& match) {
+  if (place.name.empty()) return {};
+  Message name(place.name, match.stars);
+  return match.inside.empty() ? name : name.followedBy(" — " + match.inside.native());
 }
 
 void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCategory& category) {
@@ -179,14 +166,16 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
                       _now)) {
     return;
   }
-  std::string name = nameOf(place, match);
+  Message nameText = nameOf(place, match);
+  std::string name = nameText.empty() ? match.path.filename().native() : nameText.english();
   const CleaningTool* tool = _layout.tool(place.details.tool);
   if (tool != nullptr && !mayRun(*tool, match.path, measure)) {
     category.hints.push_back({.name = std::move(name),
                               .path = match.path,
                               .size = measure.bytes,
-                              .reason = std::string(place.reason),
-                              .command = commandLine(*tool)});
+                              .reason = place.reason,
+                              .command = commandLine(*tool),
+                              .nameText = std::move(nameText)});
     return;
   }
   JunkItem item{.name = std::move(name),
@@ -197,7 +186,8 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
                 .reason = std::string(place.reason),
                 .goesForGood = tool != nullptr || place.details.removal == Removal::outright,
                 .closeFirst = runningUser(place, match),
-                .tool = tool};
+                .tool = tool,
+                .nameText = std::move(nameText)};
   if (tool != nullptr) {
     list(std::move(item), category);
   } else {
@@ -211,12 +201,13 @@ bool PlaceScanner::mayRun(const CleaningTool& tool, const Path& path,
 }
 
 void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& category) {
-  if (const std::string why = obstacle(item.path, measure); !why.empty()) {
+  if (const Message why = obstacle(item.path, measure); !why.empty()) {
     category.hints.push_back({.name = std::move(item.name),
                               .path = std::move(item.path),
                               .size = item.size,
                               .reason = why,
-                              .command = {}});
+                              .command = {},
+                              .nameText = std::move(item.nameText)});
     return;
   }
   list(std::move(item), category);
@@ -228,7 +219,7 @@ void PlaceScanner::list(JunkItem item, CleanCategory& category) {
   _report(category.items.back());
 }
 
-std::string PlaceScanner::obstacle(const Path& path, const Measure& measure) const {
+Message PlaceScanner::obstacle(const Path& path, const Measure& measure) const {
   const FileSystem& files = _platform.files;
   const bool isTrashed = _platform.trash.contains(path);
   const auto scope = isTrashed ? DeletionScope::trashed() : DeletionScope::general();
@@ -236,14 +227,14 @@ std::string PlaceScanner::obstacle(const Path& path, const Measure& measure) con
     return *refusal;
   }
   const auto real = files.realPath(path);
-  if (!real) return std::string(_layout.words.folderAboveUnreadable);
+  if (!real) return _layout.words.folderAboveUnreadable;
   // The Trash itself makes sure that an entry really lies in it, wherever the user keeps it.
   if (*real != path && !isTrashed && !mayRemoveReal(files, *real, scope)) {
-    return filledIn(_layout.words.liesElsewhere, real->native());
+    return {_layout.words.liesElsewhere, {real->native()}};
   }
-  if (measure.holdsMountPoint) return std::string(_layout.words.holdsOtherVolume);
-  if (!measure.isOwn) return std::string(_layout.words.belongsToAnother);
-  if (measure.holdsReadOnlyFolder) return std::string(_layout.words.holdsReadOnlyFolders);
+  if (measure.holdsMountPoint) return _layout.words.holdsOtherVolume;
+  if (!measure.isOwn) return _layout.words.belongsToAnother;
+  if (measure.holdsReadOnlyFolder) return _layout.words.holdsReadOnlyFolders;
   return {};
 }
 

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/message.h"
 #include "core/catalogue.h"
 #include "core/junk_model.h"
 #include "engine/place_conditions.h"
@@ -38,7 +39,7 @@ class PlaceScanner {
  private:
   [[nodiscard]] Path folder(Base base) const;
   [[nodiscard]] std::vector<PlaceMatch> matches(const Place& place) const;
-  [[nodiscard]] static std::string nameOf(const Place& place, const PlaceMatch& match);
+  [[nodiscard]] static Message nameOf(const Place& place, const PlaceMatch& match);
   [[nodiscard]] bool isExcepted(const Place& place, const PlaceMatch& match) const;
   void look(const Place& place, const PlaceMatch& match, CleanCategory& category);
   /// As an item, or as a hint where Klarvik could not remove it.
@@ -47,7 +48,7 @@ class PlaceScanner {
   /// Whether `tool` can be asked to remove what lies at `path`.
   [[nodiscard]] bool mayRun(const CleaningTool& tool, const Path& path,
                             const Measure& measure) const;
-  [[nodiscard]] std::string obstacle(const Path& path, const Measure& measure) const;
+  [[nodiscard]] Message obstacle(const Path& path, const Measure& measure) const;
   [[nodiscard]] std::string runningUser(const Place& place, const PlaceMatch& match) const;
   [[nodiscard]] bool overlapsAnItem(const Path& path) const;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/bytes.h"
+#include "base/message.h"
 #include "engine/category_scanners.h"
 #include "engine/place_scanner.h"
 #include "places/disk_layout.h"
@@ -76,7 +77,9 @@ std::vector<CleanCategory> ScannerEngine::scanAll(std::stop_token stop, const Up
     }
     ++_current.completedCategories;
   }
-  begin(stop.stop_requested() ? "Scan stopped" : "Scan complete", 1.0);
+  begin(stop.stop_requested() ? QT_TRANSLATE_NOOP("Engine", "Scan stopped")
+                              : QT_TRANSLATE_NOOP("Engine", "Scan complete"),
+        1.0);
 
   sortBySize(found);
   _updateSink = nullptr;

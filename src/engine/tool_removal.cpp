@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/bytes.h"
+#include "base/message.h"
 #include "engine/place_conditions.h"
 #include "engine/tool_answers.h"
 #include "places/disk_layout.h"
@@ -95,16 +96,17 @@ class Asked {
  private:
   [[nodiscard]] std::vector<JunkItem> sized(std::optional<std::int64_t> bytes) const {
     if (bytes.value_or(0) < 1) return {};
-    return {item(std::string(_tool.item), shownAt(), *bytes)};
+    return {item(_tool.item, shownAt(), *bytes)};
   }
 
-  [[nodiscard]] JunkItem item(std::string name, Path path, std::int64_t bytes) const {
-    return {.name = std::move(name),
+  [[nodiscard]] JunkItem item(Message name, Path path, std::int64_t bytes) const {
+    return {.name = name.english(),
             .path = std::move(path),
             .size = bytes,
             .reason = std::string(_tool.reason),
             .goesForGood = true,
-            .tool = &_tool};
+            .tool = &_tool,
+            .nameText = std::move(name)};
   }
 
   [[nodiscard]] Path shownAt() const {
@@ -182,9 +184,8 @@ class Asked {
       const Path file = shownAt() / fileName;
       const auto attributes = _platform.files.attributes(file);
       if (!attributes || attributes->kind != FileKind::regular) continue;
-      std::string title = name;
-      title.append(", revision ").append(revision);
-      found.push_back(item(std::move(title), file, attributes->allocatedBytes));
+      found.push_back(item({QT_TRANSLATE_NOOP("Engine", "%1, revision %2"), {name, revision}}, file,
+                           attributes->allocatedBytes));
       found.back().modifiedDate = attributes->modified;
       found.back().toolNames = {name, revision};
     }

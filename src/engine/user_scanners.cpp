@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "base/text.h"
+
+#include "base/message.h"
 #include "engine/category_scanners.h"
 #include "engine/firmware_files.h"
 #include "engine/local_snapshots.h"
@@ -46,17 +48,18 @@ CategoryScanners::Items CategoryScanners::deviceBackups() const {
   Items items;
   for (const Path& child : children(mac::deviceBackups)) {
     items.push_back(datedItem(child.filename().native(), child));
-    items.back().name = backupName(items.back());
+    items.back().nameText = backupName(items.back());
+    items.back().name = items.back().nameText.english();
   }
   sortItemsBySize(items);
   return items;
 }
 
-std::string CategoryScanners::backupName(const JunkItem& folder) const {
+Message CategoryScanners::backupName(const JunkItem& folder) const {
   const std::string told = folder.modifiedDate
                                ? _platform.formatting.dateAndTime(*folder.modifiedDate)
                                : std::string(firstCharacters(folder.name, backupNameCharacters));
-  return "iPhone Backup — " + told;
+  return {QT_TRANSLATE_NOOP("Engine", "iPhone Backup — %1"), {told}};
 }
 
 CategoryScanners::Items CategoryScanners::trash() const {
@@ -76,15 +79,19 @@ CategoryScanners::Items CategoryScanners::timeMachine() const {
   Items items;
   const auto listing = runShell(_platform.commands, "tmutil listlocalsnapshotdates / 2>/dev/null");
   for (const std::string& text : snapshotTexts(listing)) {
-    items.push_back(
-        {.name = snapshotName(text), .path = snapshotPath(text), .size = snapshotSize(text)});
+    Message name = snapshotName(text);
+    items.push_back({.name = name.english(),
+                     .path = snapshotPath(text),
+                     .size = snapshotSize(text),
+                     .nameText = std::move(name)});
   }
   return items;
 }
 
-std::string CategoryScanners::snapshotName(const std::string& text) const {
+Message CategoryScanners::snapshotName(const std::string& text) const {
   const auto date = Formatting::parseDate(text, "yyyy-MM-dd-HHmmss");
-  return "Snapshot — " + (date ? _platform.formatting.dateAndTime(*date) : text);
+  return {QT_TRANSLATE_NOOP("Engine", "Snapshot — %1"),
+          {date ? _platform.formatting.dateAndTime(*date) : text}};
 }
 
 std::int64_t CategoryScanners::snapshotSize(const std::string& text) const {
@@ -97,7 +104,8 @@ CategoryScanners::Items CategoryScanners::firmware() const {
   const auto lookInto = [&](std::string_view folder) {
     for (const Path& child : children(folder)) {
       if (!isFirmware(child)) continue;
-      JunkItem file = datedItem("📱 Firmware: " + child.filename().native(), child);
+      JunkItem file = datedItem(
+          {QT_TRANSLATE_NOOP("Engine", "📱 Firmware: %1"), {child.filename().native()}}, child);
       if (file.size > mac::largestIgnoredFirmware) items.push_back(std::move(file));
     }
   };
@@ -109,7 +117,7 @@ CategoryScanners::Items CategoryScanners::firmware() const {
 CategoryScanners::Items CategoryScanners::leftovers() const {
   Items items = firmware();
   for (const mac::Leftover& leftover : mac::leftoverFolders) {
-    JunkItem folder = item(std::string(leftover.name), inHome(leftover.path));
+    JunkItem folder = item(Message(leftover.name), inHome(leftover.path));
     if (folder.size > leftover.largestIgnored) items.push_back(std::move(folder));
   }
   sortItemsBySize(items);

@@ -9,7 +9,9 @@ namespace {
 
 struct Category {
   CategoryType type;
-  std::string_view name;
+  /// Stored in histories, so that it never changes, in whatever language the program runs. What is
+  /// shown are the names of the layout's scan rows, and their translations.
+  std::string_view key;
   std::string_view icon;
   SystemColor color;
   SafetyLevel safety;
@@ -84,7 +86,7 @@ std::span<const CategoryType> allCategoryTypes() {
 }
 
 std::string_view rawValue(CategoryType type) {
-  return category(type).name;
+  return category(type).key;
 }
 
 std::string_view icon(CategoryType type) {

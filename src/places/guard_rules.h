@@ -19,7 +19,7 @@ struct GuardRules {
   bool onlyListedPlaces = false;
   std::span<const std::string_view> systemDirectories;  ///< these themselves
   std::span<const std::string_view> protectedPrefixes;
-  std::string_view protectedReason;  ///< follows the prefix in the sentence
+  std::string_view protectedReason;  ///< "%1": the prefix
   std::span<const std::string_view> managedPrefixes{};
   std::string_view managedReason{};
   /// No home lies at or below one of these: what is there belongs to everybody.

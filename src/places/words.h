@@ -22,6 +22,29 @@ struct Words {
   std::string_view belongsToAnother;
   std::string_view holdsReadOnlyFolders;
 
+  // Why an application is not removed. "%1": the tool that was asked to, or what the sentence
+  // names.
+  std::string_view appIsRunning{};
+  std::string_view appNotTrashed{};
+  std::string_view appOfNoAskedManager{};
+  std::string_view packageIsOfSystem{};
+  std::string_view appHasNoFolderOfItsOwn{};
+  std::string_view appIsWorkedOn{};
+  std::string_view removalTakesNeeded{};
+  std::string_view appIsNotRemoved{};
+  std::string_view serviceIsNotRunning{};
+  std::string_view toolNotStarted{};
+  std::string_view toolTookTooLong{};
+  std::string_view toolWasStopped{};
+  std::string_view toolDidNotRemove{};
+  std::string_view toolDidNotRemoveAndSaid{};  ///< "%2": what the tool said
+
+  // Of an analysis that accounts for the whole volume.
+  std::string_view smallerItems{};
+  std::string_view countedSmallerItems{};  ///< "%n": how many, more than one
+  std::string_view eachTakesLittle{};
+  std::string_view hasDeletedFilesOpen{};
+
   // The file manager and the Trash.
   std::string_view showInFileManager;
   std::string_view openTrash;
@@ -54,7 +77,7 @@ struct Words {
   std::string_view analysisFindsProtected;
   std::string_view readingApplications;
   std::string_view noApplications;
-  std::string_view applicationsListed;  ///< "%1": a number
+  std::string_view applicationsListed;  ///< "%n": a number
   std::string_view applicationColumn;
   std::string_view measuringApplications;
   std::string_view lookingForLeftovers;

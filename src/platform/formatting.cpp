@@ -8,24 +8,26 @@
 
 #include <array>
 #include <chrono>
+#include <utility>
+
+#include "base/message.h"
 
 namespace klarvik {
 namespace {
 
 struct ByteUnit {
-  std::string_view name;
   std::uint64_t bytes;
   int decimals;  // the most that are shown
 };
 
 constexpr std::uint64_t thousand = 1'000;
 constexpr std::array<ByteUnit, 6> byteUnits{{
-    {"KB", thousand, 0},
-    {"MB", thousand* thousand, 1},
-    {"GB", thousand* thousand* thousand, 2},
-    {"TB", thousand* thousand* thousand* thousand, 2},
-    {"PB", thousand* thousand* thousand* thousand* thousand, 2},
-    {"EB", thousand* thousand* thousand* thousand* thousand* thousand, 2},
+    {thousand, 0},
+    {thousand * thousand, 1},
+    {thousand * thousand * thousand, 2},
+    {thousand * thousand * thousand * thousand, 2},
+    {thousand * thousand * thousand * thousand * thousand, 2},
+    {thousand * thousand * thousand * thousand * thousand * thousand, 2},
 }};
 
 constexpr std::uint64_t powerOfTen(int exponent) {
@@ -54,15 +56,19 @@ std::string decimalText(std::uint64_t shown, int decimals, const std::string& se
   return digits + separator + fraction;
 }
 
-std::string magnitudeText(std::uint64_t bytes, const std::string& separator) {
-  if (bytes == 0) return "Zero KB";
-  if (bytes == 1) return "1 byte";
-  if (bytes < thousand) return std::to_string(bytes) + " bytes";
-  for (const ByteUnit& unit : byteUnits) {
+std::string magnitudeText(std::uint64_t bytes, const std::string& separator,
+                          const FormattingLanguage& language) {
+  if (bytes == 0) return language.noBytes;
+  if (bytes == 1) return language.oneByte;
+  if (bytes < thousand) return Message(language.bytes, {std::to_string(bytes)}).english();
+  const auto names = splitWords(language.units);
+  for (std::size_t at = 0; at < byteUnits.size(); ++at) {
+    const ByteUnit& unit = byteUnits.at(at);
     const std::uint64_t scale = powerOfTen(unit.decimals);
     const std::uint64_t shown = dividedHalfToEven(bytes, unit.bytes / scale);
     if (shown < thousand * scale || &unit == &byteUnits.back()) {
-      return decimalText(shown, unit.decimals, separator) + ' ' + std::string(unit.name);
+      return decimalText(shown, unit.decimals, separator) + ' ' +
+             std::string(at < names.size() ? names[at] : "");
     }
   }
   return {};
@@ -153,19 +159,26 @@ struct Formatting::Locale {
   icu::Locale icu;
   std::string decimalSeparator;
   std::unique_ptr<const icu::Collator> collator;
+  FormattingLanguage language;
 };
 
-Formatting::Formatting(std::optional<std::string> locale) {
-  const icu::Locale icu = locale ? icu::Locale(locale->c_str()) : usersLocale();
-  _locale = std::make_unique<const Locale>(Locale{icu, decimalSeparator(icu), collator(icu)});
+Formatting::Formatting(std::optional<std::string> locale)
+    : Formatting(FormattingLanguage{.locale = std::move(locale)}) {}
+
+Formatting::Formatting(FormattingLanguage language) {
+  const icu::Locale icu = language.locale ? icu::Locale(language.locale->c_str()) : usersLocale();
+  _locale = std::make_unique<const Locale>(
+      Locale{icu, decimalSeparator(icu), collator(icu), std::move(language)});
 }
 
 Formatting::~Formatting() = default;
 
 std::string Formatting::byteText(std::int64_t bytes) const {
   const auto bits = static_cast<std::uint64_t>(bytes);
-  if (bytes < 0) return '-' + magnitudeText(0 - bits, _locale->decimalSeparator);
-  return magnitudeText(bits, _locale->decimalSeparator);
+  if (bytes < 0) {
+    return '-' + magnitudeText(0 - bits, _locale->decimalSeparator, _locale->language);
+  }
+  return magnitudeText(bits, _locale->decimalSeparator, _locale->language);
 }
 
 std::string Formatting::dateAndTime(Date date) const {

@@ -11,12 +11,23 @@
 
 namespace klarvik {
 
+/// The language of a `Formatting`. What stands here is English.
+struct FormattingLanguage {
+  /// Identifier of a locale ("en_US", "de_DE"); the user's own when absent.
+  std::optional<std::string> locale = std::nullopt;
+  std::string noBytes = "Zero KB";
+  std::string oneByte = "1 byte";
+  std::string bytes = "%1 bytes";           ///< below 1,000
+  std::string units = "KB MB GB TB PB EB";  ///< six of them
+};
+
 /// Turns numbers and dates into the text of one locale. Immutable; may be used from any thread.
 class Formatting {
  public:
   /// A locale by its identifier ("en_US", "de_DE"); the user's own when absent. The time zone is
   /// the machine's.
   explicit Formatting(std::optional<std::string> locale = std::nullopt);
+  explicit Formatting(FormattingLanguage language);
   ~Formatting();
 
   /// The one way a size becomes text: "Zero KB", "1 byte", "999 bytes", "12 KB", "1.5 MB",

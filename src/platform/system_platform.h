@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "platform/formatting.h"
 #include "platform/platform.h"
 #include "platform/user_folders.h"
 
@@ -10,8 +11,9 @@ namespace klarvik {
 /// Owns the real thing of everything that the engines ask for. No Qt, no main loop.
 class SystemPlatform {
  public:
-  /// `root` is where the logical "/" lies on the machine.
-  SystemPlatform(const Path& root, const UserFolders& folders);
+  /// `root` is where the logical "/" lies on the machine. `locale`: of sizes and dates; the user's
+  /// own when absent.
+  SystemPlatform(const Path& root, const UserFolders& folders, FormattingLanguage language = {});
   SystemPlatform(const Path& root, const Path& home)
       : SystemPlatform(root, UserFolders::in(home)) {}
   ~SystemPlatform();

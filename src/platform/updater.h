@@ -8,6 +8,7 @@
 #include <string>
 #include <variant>
 
+#include "base/message.h"
 #include "platform/date.h"
 
 namespace klarvik {
@@ -21,7 +22,7 @@ inline constexpr const char* updaterErrorDomain = "KlarvikUpdaterErrorDomain";
 struct UpdaterError {
   std::string domain;
   std::int64_t code = 0;
-  std::string localizedDescription;                          ///< a whole sentence
+  Message description;                                       ///< a whole sentence
   std::shared_ptr<const UpdaterError> underlying = nullptr;  ///< what caused it, where known
 };
 

@@ -15,7 +15,7 @@ Report reportOf(const DuplicateProgress& progress) {
   return {{"event", "progress"},
           {"fraction", progress.fraction},
           {"groupsFound", progress.groupsFound},
-          {"line", textReport(progress.line)}};
+          {"line", textReport(progress.line.english())}};
 }
 
 Report reportOf(const DuplicateGroup& group) {

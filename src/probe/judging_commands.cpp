@@ -36,7 +36,7 @@ int guard(const Invocation& call) {
     const auto refusal =
         DeletionGuard::refusalReason(path, *scope, files.folders(), layoutFor(files.home()));
     print({{"path", textReport(path)},
-           {"refusal", refusal ? textReport(*refusal) : Report(nullptr)}});
+           {"refusal", refusal ? textReport(refusal->english()) : Report(nullptr)}});
   }
   return 0;
 }

@@ -2,10 +2,12 @@
 
 #include <utility>
 
+#include "translation/translation.h"
+
 namespace klarvik {
 
 AppCommand settingsWindowButton(std::function<void()> openSettings) {
-  return {"Settings…", "Ctrl+,", std::move(openSettings)};
+  return {translate("Shell", "Settings…"), "Ctrl+,", std::move(openSettings)};
 }
 
 AppCommandsModel::AppCommandsModel(std::vector<AppCommand> commands, QObject* parent)

@@ -4,6 +4,7 @@
 
 #include "platform/user_defaults.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -31,13 +32,14 @@ AppShellModel::AppShellModel(const std::vector<PaneEntry>& panes, AppState& appS
 }
 
 QString AppShellModel::noticeHeadline() const {
-  return _tellsOfSettings ? tr("Your settings cannot be saved")
-                          : tr("Something was left as it was");
+  return _tellsOfSettings ? translate("Shell", "Your settings cannot be saved")
+                          : translate("Shell", "Something was left as it was");
 }
 
 QString AppShellModel::notice() const {
   if (_tellsOfSettings) {
-    return tr(
+    return translate(
+        "Shell",
         "They hold until Klarvik quits. Is the disk full, or the folder of settings read-only?");
   }
   return QString::fromStdString(_removalNotice.text());

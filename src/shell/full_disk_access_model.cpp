@@ -3,6 +3,7 @@
 #include "platform/application_info.h"
 #include "platform/user_defaults.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -30,21 +31,22 @@ QString FullDiskAccessModel::symbol() const {
 }
 
 QString FullDiskAccessModel::title() const {
-  return isGranted() ? QStringLiteral("Full Disk Access granted")
-                     : QStringLiteral("One permission to set up");
+  return isGranted() ? translate("Shell", "Full Disk Access granted")
+                     : translate("Shell", "One permission to set up");
 }
 
 QString FullDiskAccessModel::text() const {
   return isGranted()
-             ? QStringLiteral(
-                   "Klarvik can measure every location Storage settings keeps out of sight.")
-             : QStringLiteral(
+             ? translate("Shell",
+                         "Klarvik can measure every location Storage settings keeps out of sight.")
+             : translate(
+                   "Shell",
                    "macOS keeps caches, logs and backups behind Full Disk Access. Without it, some "
                    "categories will show 0 bytes.");
 }
 
 QString FullDiskAccessModel::footerTitle() const {
-  return isGranted() ? QStringLiteral("Continue") : QStringLiteral("Skip for now");
+  return isGranted() ? translate("Shell", "Continue") : translate("Shell", "Skip for now");
 }
 
 bool FullDiskAccessModel::showsIdentityNote() const {

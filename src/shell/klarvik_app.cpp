@@ -6,6 +6,8 @@
 #include "shell/menu_bar/quick_popover.h"
 #include "shell/menu_bar/window_activation.h"
 
+#include "translation/translation.h"
+
 namespace klarvik {
 
 namespace {
@@ -66,9 +68,10 @@ void KlarvikApp::removeLeftoverKeys() {
 
 std::vector<AppCommand> KlarvikApp::commands() {
   return {
-      {"Check for Updates…", "", [this] { _shared.updateManager().checkForUpdates(); }},
+      {translate("Shell", "Check for Updates…"), "",
+       [this] { _shared.updateManager().checkForUpdates(); }},
       settingsWindowButton([this] { openWindow(settingsWindowId); }),
-      {"Quit", "Ctrl+Q", [] { QCoreApplication::quit(); }},
+      {translate("Kit", "Quit"), "Ctrl+Q", [] { QCoreApplication::quit(); }},
   };
 }
 
@@ -128,9 +131,10 @@ std::vector<SettingsTab> KlarvikApp::settingsTabs() {
   _generalSettings =
       std::make_unique<GeneralSettingsModel>(_shared.permissionsManager(), _loginItem, _desktop);
   _updateSettings = std::make_unique<UpdateSettingsModel>(_shared.updateManager(), _desktop);
-  return {
-      {"General", QUrl("qrc:/Klarvik/Shell/GeneralSettingsSection.qml"), _generalSettings.get()},
-      {"Updates", QUrl("qrc:/Klarvik/Shell/UpdateSettingsView.qml"), _updateSettings.get()}};
+  return {{translate("Settings", "General"), QUrl("qrc:/Klarvik/Shell/GeneralSettingsSection.qml"),
+           _generalSettings.get()},
+          {translate("Settings", "Updates"), QUrl("qrc:/Klarvik/Shell/UpdateSettingsView.qml"),
+           _updateSettings.get()}};
 }
 
 /// What happens unasked, once the main window is on the screen for the first time.

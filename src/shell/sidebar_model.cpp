@@ -5,6 +5,7 @@
 
 #include "places/disk_layout.h"
 #include "shell/sidebar_texts.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -107,7 +108,7 @@ void SidebarModel::update() {
 
 SidebarModel::Row SidebarModel::heading(std::string_view group) const {
   Row row;
-  row.title = text(group);
+  row.title = translated(group);
   return row;
 }
 
@@ -120,7 +121,7 @@ SidebarModel::Row SidebarModel::row(Section section) const {
   const auto help =
       sidebar::help(section, _coordinator.totals(), _appState.layout().words, _formatting);
   Row row;
-  row.title = text(tool(section).title);
+  row.title = translated(tool(section).title);
   row.section = section;
   row.symbol = text(tool(section).symbol);
   row.help = help ? QString::fromStdString(*help) : row.title;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "translation/translation.h"
+
 namespace klarvik::sidebar {
 
 double usedFraction(const DiskStats& stats) {
@@ -17,25 +19,29 @@ bool isNearlyFull(const DiskStats& stats) {
 }
 
 std::string percentFull(const DiskStats& stats) {
-  return percentText(usedFraction(stats)) + " full";
+  return filled(translate("Shell", "%1 full"), percentText(usedFraction(stats)));
 }
 
 std::string freeLine(const DiskStats& stats, const Formatting& formatting) {
-  return formatting.byteText(stats.freeBytes) + " free of " + formatting.byteText(stats.totalBytes);
+  return filled(translate("Kit", "%1 free of %2"), formatting.byteText(stats.freeBytes),
+                formatting.byteText(stats.totalBytes));
 }
 
 namespace {
 
 std::string itemCountText(std::int64_t count) {
-  return std::to_string(count) + (count == 1 ? " item" : " items");
+  return (count == 1 ? translate("Shell", "1 item")
+                     : translate("Shell", "%n items", nullptr, plural(count)))
+      .toStdString();
 }
 
 std::string emptyingText(const std::optional<DeletionProgress>& progress) {
   if (!progress || progress->total < 1) {
-    return "Emptying…";
+    return translate("Shell", "Emptying…").toStdString();
   }
-  return "Emptying " + std::to_string(std::min(progress->total, progress->completed + 1)) + " of " +
-         std::to_string(progress->total);
+  return filled(translate("Shell", "Emptying %1 of %2"),
+                std::to_string(std::min(progress->total, progress->completed + 1)),
+                std::to_string(progress->total));
 }
 
 }  // namespace
@@ -50,13 +56,13 @@ std::string trashSubtitle(const TrashMonitor::Figures& trash, const Words& words
     return emptyingText(trash.emptyProgress);
   }
   if (!trash.isReadable) {
-    return std::string(words.trashUnreadable);
+    return translated(words.trashUnreadable).toStdString();
   }
   if (trash.itemCount == 0) {
-    return "Empty";
+    return translate("Shell", "Empty", "the Trash is").toStdString();
   }
   const std::string count = itemCountText(trash.itemCount);
-  return trash.isMeasuring ? count + " · measuring…"
+  return trash.isMeasuring ? filled(translate("Shell", "%1 · measuring…"), count)
                            : formatting.byteText(trash.bytes) + " · " + count;
 }
 
@@ -76,9 +82,10 @@ std::string trashControlHelp(const TrashMonitor::Figures& trash, const DiskLayou
                              const Formatting& formatting) {
   switch (trashControl(trash, layout)) {
     case TrashBlockModel::Control::Grant:
-      return "macOS keeps the Trash behind Full Disk Access";
+      return translate("Shell", "macOS keeps the Trash behind Full Disk Access").toStdString();
     case TrashBlockModel::Control::Empty:
-      return "Delete everything in the Trash and reclaim " + formatting.byteText(trash.bytes);
+      return filled(translate("Shell", "Delete everything in the Trash and reclaim %1"),
+                    formatting.byteText(trash.bytes));
     case TrashBlockModel::Control::None:
     case TrashBlockModel::Control::Progress:
       return "";
@@ -87,8 +94,8 @@ std::string trashControlHelp(const TrashMonitor::Figures& trash, const DiskLayou
 }
 
 std::string emptyTrashMessage(const TrashMonitor::Figures& trash, const Formatting& formatting) {
-  return itemCountText(trash.itemCount) + " · " + formatting.byteText(trash.bytes) +
-         ". This cannot be undone.";
+  return filled(translate("Shell", "%1 · %2. This cannot be undone."),
+                itemCountText(trash.itemCount), formatting.byteText(trash.bytes));
 }
 
 namespace {
@@ -118,8 +125,7 @@ std::optional<std::string> help(Section section, const Totals& totals, const Wor
   if (total == nullptr) {
     return std::nullopt;
   }
-  return tool(section).help(
-      {formatting.byteText(total->bytes), std::to_string(total->items), words});
+  return tool(section).help({formatting.byteText(total->bytes), plural(total->items), words});
 }
 
 RightHand rightHand(const ToolActivity::State& activity,

@@ -16,6 +16,7 @@
 #include "state/scan_coordinator.h"
 #include "state/section.h"
 #include "state/tool_activity.h"
+#include "translation/translation.h"
 
 /// What the sidebar says and draws, as plain functions of what it shows: the disk, the Trash, the
 /// rows of the tools.
@@ -23,7 +24,8 @@ namespace klarvik::sidebar {
 
 /// A fraction in whole percent; what is over is left out.
 [[nodiscard]] inline std::string percentText(double fraction) {
-  return std::to_string(static_cast<std::int64_t>(std::trunc(fraction * 100))) + "%";
+  return filled(translate("Kit", "%1%"),
+                std::to_string(static_cast<std::int64_t>(std::trunc(fraction * 100))));
 }
 
 /// 0 to 1.

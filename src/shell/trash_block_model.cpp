@@ -5,6 +5,7 @@
 #include "platform/file_system.h"
 #include "platform/trash.h"
 #include "shell/sidebar_texts.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -33,9 +34,9 @@ TrashBlockModel::Control TrashBlockModel::control() const {
 QString TrashBlockModel::controlTitle() const {
   switch (control()) {
     case Control::Grant:
-      return QStringLiteral("Grant");
+      return translate("Shell", "Grant");
     case Control::Empty:
-      return QStringLiteral("Empty");
+      return translate("Shell", "Empty", "the button that empties the Trash");
     case Control::None:
     case Control::Progress:
       return {};

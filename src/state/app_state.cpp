@@ -48,7 +48,7 @@ const DiskLayout& AppState::layout() const {
 
 void AppState::startScan() {
   _session.start(scanJob());
-  setScanState(Scanning{0, "Starting scan"});
+  setScanState(Scanning{0, QT_TRANSLATE_NOOP("Engine", "Starting scan")});
   setResults({}, {});
   if (setIfChanged(_expandedCategories, {})) emit expandedCategoriesChanged();
   if (setIfChanged(_scanActivity, {})) emit scanActivityChanged();

@@ -4,30 +4,33 @@
 #include <array>
 
 #include "places/words.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
 namespace {
 
-constexpr std::string_view storageGroup = "STORAGE";
-constexpr std::string_view appsGroup = "APPS";
+constexpr std::string_view storageGroup = QT_TRANSLATE_NOOP("Engine", "STORAGE");
+constexpr std::string_view appsGroup = QT_TRANSLATE_NOOP("Engine", "APPS");
 constexpr Tool::Elsewhere notElsewhere{};
 
 constexpr std::array table{
     Tool{.section = Section::smartScan,
          .key = "smartScan",
-         .title = "Smart Scan",
+         .title = QT_TRANSLATE_NOOP("Engine", "Smart Scan"),
          .symbol = "",
          .group = "",
          .turn = 0,
          .elsewhere = notElsewhere,
          .help =
              [](const Tool::Found& found) {
-               return found.bytes + " of junk found in " + found.items + " items";
+               return filled(
+                   translate("Tools", "%1 of junk found in %n items", nullptr, found.count),
+                   found.bytes);
              }},
     Tool{.section = Section::storage,
          .key = "storage",
-         .title = "Storage",
+         .title = QT_TRANSLATE_NOOP("Engine", "Storage"),
          .symbol = "chart.bar.fill",
          .group = storageGroup,
          .turn = 5,
@@ -35,56 +38,66 @@ constexpr std::array table{
          .help = nullptr},
     Tool{.section = Section::duplicates,
          .key = "duplicates",
-         .title = "Duplicates",
+         .title = QT_TRANSLATE_NOOP("Engine", "Duplicates"),
          .symbol = "doc.on.doc",
          .group = storageGroup,
          .turn = 6,
-         .elsewhere = {1, "in extra copies"},
+         .elsewhere = {1, QT_TRANSLATE_NOOP("Engine", "in extra copies")},
          .help =
              [](const Tool::Found& found) {
-               return found.bytes + " reclaimable across " + found.items + " extra copies";
+               return filled(translate("Tools", "%1 reclaimable across %n extra copies", nullptr,
+                                       found.count),
+                             found.bytes);
              }},
     Tool{.section = Section::largeFiles,
          .key = "largeFiles",
-         .title = "Large Files",
+         .title = QT_TRANSLATE_NOOP("Engine", "Large Files"),
          .symbol = "doc.text.magnifyingglass",
          .group = storageGroup,
          .turn = 4,
-         .elsewhere = {2, "in big files"},
+         .elsewhere = {2, QT_TRANSLATE_NOOP("Engine", "in big files")},
          .help =
              [](const Tool::Found& found) {
-               return found.items + " files over the size threshold, " + found.bytes + " in total";
+               return filled(translate("Tools", "%n files over the size threshold, %1 in total",
+                                       nullptr, found.count),
+                             found.bytes);
              }},
     Tool{.section = Section::systemData,
          .key = "systemData",
-         .title = "System Data",
+         .title = QT_TRANSLATE_NOOP("Engine", "System Data"),
          .symbol = "externaldrive",
          .group = storageGroup,
          .turn = 1,
-         .elsewhere = {0, "removable"},
+         .elsewhere = {0, QT_TRANSLATE_NOOP("Engine", "removable")},
          .help =
              [](const Tool::Found& found) {
-               return filledIn(found.words.systemDataHelp, found.bytes);
+               return filled(translated(found.words.systemDataHelp), found.bytes);
              }},
     Tool{.section = Section::uninstaller,
          .key = "uninstaller",
-         .title = "Uninstaller",
+         .title = QT_TRANSLATE_NOOP("Engine", "Uninstaller"),
          .symbol = "square.dashed",
          .group = appsGroup,
          .turn = 2,
          .elsewhere = notElsewhere,
          .help =
              [](const Tool::Found& found) {
-               return found.items + " apps installed, " + found.bytes + " on disk";
+               return filled(
+                   translate("Tools", "%n apps installed, %1 on disk", nullptr, found.count),
+                   found.bytes);
              }},
     Tool{.section = Section::privacy,
          .key = "privacy",
-         .title = "Privacy",
+         .title = QT_TRANSLATE_NOOP("Engine", "Privacy"),
          .symbol = "shield",
          .group = appsGroup,
          .turn = 3,
-         .elsewhere = {3, "of browsing trails"},
-         .help = [](const Tool::Found& found) { return found.items + " trails, " + found.bytes; }},
+         .elsewhere = {3, QT_TRANSLATE_NOOP("Engine", "of browsing trails")},
+         .help =
+             [](const Tool::Found& found) {
+               return filled(translate("Tools", "%n trails, %1", nullptr, found.count),
+                             found.bytes);
+             }},
 };
 
 constexpr bool everyRowStandsAtItsSection() {

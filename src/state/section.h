@@ -24,7 +24,7 @@ struct Tool {
   /// What a scan came to, as text.
   struct Found {
     std::string bytes;
-    std::string items;
+    int count;           ///< of items
     const Words& words;  ///< of the disk
   };
   /// Its line beneath the results of a Smart Scan.

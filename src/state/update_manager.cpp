@@ -9,20 +9,21 @@
 #include "platform/formatting.h"
 #include "platform/notification_center.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
 
 /// What is not listed is `anyOther`.
 constexpr auto sentences = std::to_array<std::pair<std::int64_t, const char*>>({
-    {-1001, "The update server timed out."},
-    {-1005, "No internet connection."},
-    {-1009, "No internet connection."},
-    {-1008, "The update feed is missing or malformed."},
-    {-1011, "The update feed is missing or malformed."},
-    {-1100, "The update feed is missing or malformed."},
+    {-1001, QT_TRANSLATE_NOOP("Updates", "The update server timed out.")},
+    {-1005, QT_TRANSLATE_NOOP("Updates", "No internet connection.")},
+    {-1009, QT_TRANSLATE_NOOP("Updates", "No internet connection.")},
+    {-1008, QT_TRANSLATE_NOOP("Updates", "The update feed is missing or malformed.")},
+    {-1011, QT_TRANSLATE_NOOP("Updates", "The update feed is missing or malformed.")},
+    {-1100, QT_TRANSLATE_NOOP("Updates", "The update feed is missing or malformed.")},
 });
-constexpr const char* anyOther = "Could not reach the update server.";
+constexpr const char* anyOther = QT_TRANSLATE_NOOP("Updates", "Could not reach the update server.");
 
 /// The error itself or the one right below it.
 const UpdaterError* networkError(const UpdaterError& error) {
@@ -36,10 +37,10 @@ const UpdaterError* networkError(const UpdaterError& error) {
 
 std::string updateErrorText(const UpdaterError& error) {
   const UpdaterError* const network = networkError(error);
-  if (network == nullptr) return error.localizedDescription;
+  if (network == nullptr) return translated(error.description).toStdString();
   const auto* const found =
       std::ranges::find(sentences, network->code, &decltype(sentences)::value_type::first);
-  return found != sentences.end() ? found->second : anyOther;
+  return translate("Updates", found != sentences.end() ? found->second : anyOther).toStdString();
 }
 
 UpdateManager::UpdateManager(const Desktop& desktop, QObject* parent)
@@ -58,16 +59,16 @@ UpdateManager::~UpdateManager() {
 
 void UpdateManager::checkForUpdates() {
   if (!_desktop.updater.canCheckForUpdates()) {
-    return setStatus(Failed{"A check is already running."});
+    return setStatus(Failed{translate("Updates", "A check is already running.").toStdString()});
   }
   setStatus(Checking{});
   _desktop.updater.checkForUpdates();
 }
 
 std::string UpdateManager::lastCheckedText() const {
-  if (!_lastCheckDate) return "Never checked";
-  return "Checked " +
-         _desktop.formatting.relativeAbbreviated(*_lastCheckDate, _desktop.clock.now());
+  if (!_lastCheckDate) return translate("Updates", "Never checked").toStdString();
+  return filled(translate("Updates", "Checked %1"),
+                _desktop.formatting.relativeAbbreviated(*_lastCheckDate, _desktop.clock.now()));
 }
 
 std::string UpdateManager::detailText() const {
@@ -76,7 +77,8 @@ std::string UpdateManager::detailText() const {
 }
 
 std::string UpdateManager::feedAddress() const {
-  return informationText(_desktop.info, "SUFeedURL").value_or("not configured");
+  return informationText(_desktop.info, "SUFeedURL")
+      .value_or(translate("Updates", "not configured").toStdString());
 }
 
 void UpdateManager::didFindValidUpdate(const std::string& displayVersion) {

@@ -6,11 +6,13 @@
 #include <utility>
 
 #include "base/bytes.h"
+#include "base/message.h"
 #include "base/paths.h"
 #include "core/catalogue.h"
 #include "core/disk_stats.h"
 #include "engine/volume_census.h"
 #include "places/disk_layout.h"
+#include "places/words.h"
 #include "platform/file_system.h"
 #include "platform/running_programs.h"
 #include "platform/volume.h"
@@ -43,11 +45,9 @@ std::string_view starOf(std::string_view pattern, std::string_view path, LedgerU
   return names.back();
 }
 
-std::string nameOf(const LedgerPlace& place, std::string_view star) {
-  if (place.name.empty()) return friendlyName(star);
-  std::string name(place.name);
-  if (const auto at = name.find('*'); at != std::string::npos) name.replace(at, 1, star);
-  return name;
+/// Empty for an application, which is called after its folder.
+Message nameOf(const LedgerPlace& place, std::string_view star) {
+  return place.name.empty() ? Message() : Message(place.name, {std::string(star)});
 }
 
 class LedgerMaker {
@@ -78,7 +78,7 @@ class LedgerMaker {
     const DiskStats disk = readDiskStats(_platform.volume, _layout);
     addVolumeRow(Kind::reserved, _platform.volume.keptForRootBytes().value_or(0));
     addVolumeRow(Kind::notReadable, disk.usedBytes - sum);
-    _progress("Analysis complete", 1.0);
+    _progress(QT_TRANSLATE_NOOP("Engine", "Analysis complete"), 1.0);
     SystemDataResult result(std::move(_items));
     result.ledger = LedgerSum{.usedBytes = disk.usedBytes,
                               .exceedsBy = std::max<std::int64_t>(sum - disk.usedBytes, 0)};
@@ -104,13 +104,16 @@ class LedgerMaker {
     }
     foldTinyKinds();
     for (auto& [kind, rest] : _smaller) {
-      const std::string count = std::to_string(rest.count);
-      _items.push_back(
-          {.name = rest.count > 1 ? count + " smaller items" : std::string("Smaller items"),
-           .size = rest.bytes,
-           .subCategory = kind,
-           .safetyOverride = ItemSafety::protected_,
-           .sentence = "Each takes too little to be worth a row."});
+      const Words& words = _layout.words;
+      Message name = rest.count > 1
+                         ? Message::counted(words.countedSmallerItems, static_cast<int>(rest.count))
+                         : Message(words.smallerItems);
+      _items.push_back({.name = name.english(),
+                        .size = rest.bytes,
+                        .subCategory = kind,
+                        .safetyOverride = ItemSafety::protected_,
+                        .sentence = words.eachTakesLittle,
+                        .nameText = std::move(name)});
     }
   }
 
@@ -136,13 +139,15 @@ class LedgerMaker {
       return;
     }
     const std::string_view star = starOf(_places[row.place].pattern, row.path.native(), place.unit);
-    SystemDataItem item{.name = nameOf(place, star),
+    Message nameText = nameOf(place, star);
+    SystemDataItem item{.name = nameText.empty() ? friendlyName(star) : nameText.english(),
                         .path = asNamed(row.path),
                         .size = row.bytes,
                         .subCategory = place.kind,
                         .safetyOverride = ItemSafety::protected_,
                         .identity = row.identity,
-                        .sentence = place.sentence};
+                        .sentence = place.sentence,
+                        .nameText = std::move(nameText)};
     // Of what counts in several rows only a part would be shown, and all of it would go.
     if (place.mayBeOffered && row.identity && !row.isPartly) {
       item.safetyOverride = _search.verdict(item.path).value_or(ItemSafety::protected_);
@@ -163,7 +168,7 @@ class LedgerMaker {
                         .size = bytes,
                         .subCategory = Kind::deletedOpen,
                         .safetyOverride = ItemSafety::protected_,
-                        .sentence = "Has deleted files open. Restart it to get the space back."});
+                        .sentence = _layout.words.hasDeletedFilesOpen});
     }
   }
 
@@ -181,7 +186,8 @@ class LedgerMaker {
                       .size = bytes,
                       .subCategory = kind,
                       .safetyOverride = ItemSafety::protected_,
-                      .sentence = words.description});
+                      .sentence = words.description,
+                      .nameText = words.label});
   }
 
   /// By the name of the home that the user knows.

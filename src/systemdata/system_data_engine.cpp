@@ -3,6 +3,7 @@
 #include <iterator>
 #include <utility>
 
+#include "base/message.h"
 #include "engine/allocated_size.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
@@ -34,7 +35,7 @@ SystemDataResult SystemDataEngine::analyse(const ProgressSink& progress,
     items.insert(items.end(), std::make_move_iterator(found.begin()),
                  std::make_move_iterator(found.end()));
   }
-  progress("Analysis complete", 1.0);
+  progress(QT_TRANSLATE_NOOP("Engine", "Analysis complete"), 1.0);
   return SystemDataResult(withoutOverlaps(std::move(items)));
 }
 

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/message.h"
 #include "core/uuid.h"
 #include "platform/entry_identity.h"
 #include "platform/path.h"
@@ -32,6 +33,8 @@ struct SystemDataItem {
   std::optional<EntryIdentity> identity = std::nullopt;
   /// What it is and what one can do about it; empty where the kind says it all.
   std::string_view sentence{};
+  /// What the name was made of; empty where it is one of the disk.
+  Message nameText{};
 
   [[nodiscard]] ItemSafety safety() const;
   /// Whether a pane may select, count as removable, or remove it.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/message.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/removal_check.h"
@@ -93,6 +94,7 @@ SystemDataSearch::Items SystemDataSearch::wholePlaces(std::span<const WholePlace
   Items items;
   for (const WholePlace& place : places) {
     SystemDataItem found = item(std::string(place.name), inHome(place.path), kind);
+    found.nameText = place.name;
     if (found.size < place.minimumSize) continue;
     if (place.safetyOverride) found.safetyOverride = place.safetyOverride;
     items.push_back(std::move(found));
@@ -133,10 +135,12 @@ SystemDataSearch::Items SystemDataSearch::localSnapshots(SystemDataSubCategory k
     const auto command = listedSnapshotSizeCommand(text);
     const auto told = command ? runShell(_platform.commands, *command) : std::string();
     const auto beginning = firstCharacters(text, snapshotNameCharacters);
-    items.push_back({.name = "Snapshot: " + std::string(beginning),
+    Message name(QT_TRANSLATE_NOOP("Engine", "Snapshot: %1"), {std::string(beginning)});
+    items.push_back({.name = name.english(),
                      .path = snapshotPath(text),
                      .size = listedSnapshotBytes(told),
-                     .subCategory = kind});
+                     .subCategory = kind,
+                     .nameText = std::move(name)});
   }
   return items;
 }
@@ -162,7 +166,9 @@ SystemDataSearch::Items SystemDataSearch::firmware(SystemDataSubCategory kind) c
   for (const std::string_view folder : softwareUpdateFolders) {
     for (const Path& file : list(inHome(folder))) {
       if (!isFirmware(file)) continue;
-      SystemDataItem found = item("Firmware: " + file.filename().native(), file, kind);
+      Message name(QT_TRANSLATE_NOOP("Engine", "Firmware: %1"), {file.filename().native()});
+      SystemDataItem found = item(name.english(), file, kind);
+      found.nameText = std::move(name);
       if (found.size >= smallestFirmware) items.push_back(std::move(found));
     }
   }

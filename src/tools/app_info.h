@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/message.h"
 #include "core/uuid.h"
 #include "places/application_places.h"
 #include "platform/entry_identity.h"
@@ -74,7 +75,7 @@ struct AppInfo {
   std::string icon{};     ///< of an icon theme, or an absolute path; empty for none
   std::string program{};  ///< the name of its executable; empty where it is not known
   /// Why it is not removed, as a sentence; empty where it can be.
-  std::string keptBecause{};
+  Message keptBecause{};
 
   /// Whether Klarvik itself can remove it.
   [[nodiscard]] bool goesToTrash() const;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/bytes.h"
+#include "base/message.h"
 #include "places/storage_palette.h"
 
 namespace klarvik {
@@ -25,7 +26,7 @@ std::vector<DiskComposition::Bucket> DiskComposition::displayBuckets(double smal
   std::ranges::stable_sort(shown, std::ranges::greater{}, &Bucket::bytes);
   if (smaller >= 1) {
     shown.push_back({.id = "smaller",
-                     .label = "Smaller folders",
+                     .label = QT_TRANSLATE_NOOP("Engine", "Smaller folders"),
                      .bytes = smaller,
                      .color = storage_palette::white(0.42)});
   }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/bytes.h"
+#include "base/message.h"
 #include "base/paths.h"
 #include "core/catalogue.h"
 #include "core/disk_stats.h"
@@ -142,9 +143,9 @@ DiskComposition DiskCompositionEngine::measureDisk(std::stop_token stop,
          .url = places.size() == 1 ? std::optional(places.front()) : std::nullopt});
   }
 
-  progress("The rest of the disk", (stepCount - 1) / stepCount);
+  progress(QT_TRANSLATE_NOOP("Engine", "The rest of the disk"), (stepCount - 1) / stepCount);
   addRemainder(disk, sum);
-  progress("Done", 1.0);
+  progress(QT_TRANSLATE_NOOP("Engine", "Done"), 1.0);
   disk.measuredAt = _now();
   return disk;
 }
@@ -170,12 +171,12 @@ DiskComposition DiskCompositionEngine::measureVolume(const std::stop_token& stop
     sum = addBytes(sum, bucket.bytes);
     disk.buckets.push_back(std::move(bucket));
   }
-  progress("The rest of the disk", fractionOfWalk);
+  progress(QT_TRANSLATE_NOOP("Engine", "The rest of the disk"), fractionOfWalk);
   addRemainder(disk, sum);
   if (!disk.buckets.empty() && disk.buckets.back().id == "system") {
     disk.buckets.back().places = {"/"};
   }
-  progress("Done", 1.0);
+  progress(QT_TRANSLATE_NOOP("Engine", "Done"), 1.0);
   disk.measuredAt = _now();
   return disk;
 }

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "base/bytes.h"
+#include "base/message.h"
 
 namespace klarvik {
 
@@ -46,9 +47,9 @@ struct Rule {
 
 const Rule& ruleOf(KeepRule rule) {
   static constexpr std::array<Rule, 3> rules{{
-      {"newest", "Newest copy", isNewer},
-      {"oldest", "Oldest copy", isOlder},
-      {"shallowest", "Shallowest path", isShallower},
+      {"newest", QT_TRANSLATE_NOOP("Engine", "Newest copy"), isNewer},
+      {"oldest", QT_TRANSLATE_NOOP("Engine", "Oldest copy"), isOlder},
+      {"shallowest", QT_TRANSLATE_NOOP("Engine", "Shallowest path"), isShallower},
   }};
   return rules.at(static_cast<std::size_t>(rule));
 }

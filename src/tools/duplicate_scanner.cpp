@@ -144,7 +144,7 @@ FileNumbers sameSized(const FileSystem& files, const FoundFiles& found) {
   return numbers;
 }
 
-using Report = std::function<void(double fraction, std::int64_t groupsFound, std::string line)>;
+using Report = std::function<void(double fraction, std::int64_t groupsFound, Message line)>;
 
 /// What one thread hashes found files with.
 class FileHashing {
@@ -220,27 +220,29 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
                                                    std::int64_t minimumSize,
                                                    const ProgressSink& progress) {
   const std::scoped_lock lock(_scanning);
-  const Report report = [&](double fraction, std::int64_t groupsFound, std::string line) {
+  const Report report = [&](double fraction, std::int64_t groupsFound, Message line) {
     if (progress) progress({fraction, groupsFound, std::move(line)});
   };
 
-  report(0.05, 0, "Collecting files...");
+  report(0.05, 0, QT_TRANSLATE_NOOP("Engine", "Collecting files..."));
   const FoundFiles found = collected(_files, directories, minimumSize);
   if (found.size() == 0) return {};
 
-  report(0.15, 0, "Grouping by size (" + std::to_string(found.size()) + " files)...");
+  report(0.15, 0,
+         Message::counted(QT_TRANSLATE_N_NOOP("Engine", "Grouping by size (%n files)..."),
+                          static_cast<int>(found.size())));
   const FileNumbers numbers = sameSized(_files, found);
   if (numbers.empty()) return {};
 
   const Contents contents = hashed(_files, found, numbers, _hashedAtOnce, report);
 
-  report(0.97, 0, "Building results...");
+  report(0.97, 0, QT_TRANSLATE_NOOP("Engine", "Building results..."));
   std::vector<DuplicateGroup> groups;
   FoundFileAccess access(_files, found);
   contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
     groups.push_back(duplicateGroup(access, found, digest, holders));
   });
-  report(1.0, static_cast<std::int64_t>(groups.size()), "Done");
+  report(1.0, static_cast<std::int64_t>(groups.size()), QT_TRANSLATE_NOOP("Engine", "Done"));
   std::ranges::stable_sort(groups, std::ranges::greater(), &DuplicateGroup::reclaimableBytes);
   return groups;
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "base/message.h"
 #include "platform/file_system.h"
 #include "tools/duplicate_group.h"
 
@@ -17,7 +18,7 @@ namespace klarvik {
 struct DuplicateProgress {
   double fraction = 0;           ///< 0 to 1
   std::int64_t groupsFound = 0;  ///< so far; 0 again while the result is being built
-  std::string line;              ///< a sentence, or the name of a file in bytes of the disk
+  Message line;                  ///< a sentence, or the name of a file in bytes of the disk
 
   bool operator==(const DuplicateProgress&) const = default;
 };

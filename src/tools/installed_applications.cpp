@@ -16,6 +16,7 @@
 #include "engine/allocated_size.h"
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
+#include "places/words.h"
 #include "platform/desktop_entry.h"
 #include "platform/file_system.h"
 #include "platform/text_of_file.h"
@@ -340,9 +341,7 @@ class Search {
     const bool isElsewhere = isBelow(program->native(), "/opt") && ownerOf(*program).empty();
     if (source.isOwn && !isElsewhere) return std::nullopt;
     AppInfo app = appAt(AppKind::foreign, *program, *program);
-    app.keptBecause =
-        "It was installed for all users of this computer, and not by a package manager that "
-        "Klarvik asks.";
+    app.keptBecause = _layout.words.appOfNoAskedManager;
     return app;
   }
 
@@ -360,7 +359,7 @@ class Search {
     app.appSize = installed.bytes;
     app.isForAllUsers = true;
     if (installed.isNeeded) {
-      app.keptBecause = "The package " + package + " is a part of the system.";
+      app.keptBecause = {_layout.words.packageIsOfSystem, {package}};
     }
     return app;
   }
@@ -376,14 +375,13 @@ class Search {
     app.bundleID = source.id;
     const auto target = ownPlaceOf(program, source);
     if (!target) {
-      app.keptBecause = "Klarvik cannot tell which folder is its own: its program is " +
-                        printable(program.native()) + ".";
+      app.keptBecause = {_layout.words.appHasNoFolderOfItsOwn, {printable(program.native())}};
       return app;
     }
     app.appURL = *target;
     app.identity = entryIdentity(_files, *target);
     if (_files.attributes(*target / ".git")) {
-      app.keptBecause = "Its folder is one that somebody works in: it holds a Git repository.";
+      app.keptBecause = _layout.words.appIsWorkedOn;
       return app;
     }
     addParts(app, source);

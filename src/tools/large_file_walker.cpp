@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "base/message.h"
 #include "base/text.h"
 #include "core/catalogue.h"
 #include "core/shown_folders.h"
@@ -52,21 +53,21 @@ std::string_view LargeFile::kind() const {
       if (std::ranges::find(kind.extensions, wanted) != kind.extensions.end()) return kind.name;
     }
   }
-  return "Other";
+  return QT_TRANSLATE_NOOP("Engine", "Other");
 }
 
 std::string LargeFile::lastOpenedText(const Formatting& formatting, Date now) const {
-  return lastOpened ? formatting.relative(*lastOpened, now) : "never";
+  return lastOpened ? formatting.relative(*lastOpened, now) : QT_TRANSLATE_NOOP("Engine", "never");
 }
 
 std::string_view label(LargeFileSort sort) {
   switch (sort) {
     case LargeFileSort::size:
-      return "Size";
+      return QT_TRANSLATE_NOOP("Engine", "Size");
     case LargeFileSort::date:
-      return "Last opened";
+      return QT_TRANSLATE_NOOP("Engine", "Last opened");
     case LargeFileSort::name:
-      return "Name";
+      return QT_TRANSLATE_NOOP("Engine", "Name");
   }
   return {};
 }

@@ -5,8 +5,11 @@
 #include <chrono>
 #include <optional>
 
+#include "base/message.h"
 #include "base/text.h"
+#include "places/disk_layout.h"
 #include "places/path_pattern.h"
+#include "places/words.h"
 #include "platform/file_system.h"
 #include "platform/tool_runner.h"
 #include "tools/installed_applications.h"
@@ -63,6 +66,10 @@ bool hasPlainName(const AppInfo& app) {
   return false;
 }
 
+const Words& wordsOf(const Platform& platform) {
+  return layoutFor(platform.files.home()).words;
+}
+
 void askApt(const Platform& platform, const AppInfo& app, RemovalPlan& plan) {
   const Command command{"apt-get", "--simulate", "remove", app.package};
   const ToolResult answer = platform.tools.run(command, {.time = mostTimeForAnAnswer});
@@ -77,7 +84,7 @@ void askApt(const Platform& platform, const AppInfo& app, RemovalPlan& plan) {
   if (needed != removed.end() || nameMatchesAny(neededPackages, app.package)) {
     const std::string& which = needed != removed.end() ? *needed : app.package;
     plan.command.clear();
-    plan.keptBecause = "Removing it would remove " + which + ", which this computer needs.";
+    plan.keptBecause = {wordsOf(platform).removalTakesNeeded, {which}};
   }
   plan.alsoRemoved = std::move(removed);
 }
@@ -111,20 +118,21 @@ bool isStillInstalled(const Platform& platform, const AppInfo& app) {
                              [&](const AppInfo& each) { return isSameApplication(each, app); });
 }
 
-std::string whyItStayed(const ToolResult& result, const std::string& tool) {
+Message whyItStayed(const Words& words, const ToolResult& result, const std::string& tool) {
   switch (result.end) {
     case ToolResult::End::notStarted:
-      return tool + " could not be started.";
+      return {words.toolNotStarted, {tool}};
     case ToolResult::End::timedOut:
-      return tool + " took too long, and was stopped.";
+      return {words.toolTookTooLong, {tool}};
     case ToolResult::End::stopped:
     case ToolResult::End::signalled:
-      return tool + " was stopped.";
+      return {words.toolWasStopped, {tool}};
     case ToolResult::End::exited:
       break;
   }
   const std::string said = firstLineOf(result.errors);
-  return tool + (said.empty() ? " did not remove it." : " did not remove it: " + said);
+  if (said.empty()) return {words.toolDidNotRemove, {tool}};
+  return {words.toolDidNotRemoveAndSaid, {tool, said}};
 }
 
 }  // namespace
@@ -154,13 +162,14 @@ bool isRemovedByTool(const AppInfo& app) {
   return removalBy(app).has_value();
 }
 
-std::string removeByTool(const Platform& platform, const AppInfo& app) {
+Message removeByTool(const Platform& platform, const AppInfo& app) {
   const auto command = removalBy(app);
-  if (!command) return "Klarvik does not remove it.";
-  if (!isServiceThere(platform, app)) return "snapd does not run on this computer.";
+  const Words& words = wordsOf(platform);
+  if (!command) return words.appIsNotRemoved;
+  if (!isServiceThere(platform, app)) return {words.serviceIsNotRunning, {"snapd"}};
   const ToolResult result = platform.tools.run(*command, {.time = mostTimeForARemoval});
   if (!isStillInstalled(platform, app)) return {};
-  return whyItStayed(result, command->front());
+  return whyItStayed(words, result, command->front());
 }
 
 }  // namespace klarvik

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/message.h"
 #include "platform/platform.h"
 #include "tools/app_info.h"
 
@@ -15,7 +16,7 @@ struct RemovalPlan {
   std::string command{};
   std::vector<std::string> alsoRemoved{};  ///< packages that would go with it
   bool isSimulated = false;                ///< the package manager was asked
-  std::string keptBecause{};               ///< why nothing is offered, as a sentence
+  Message keptBecause{};                   ///< why nothing is offered, as a sentence
 
   bool operator==(const RemovalPlan&) const = default;
 };
@@ -32,6 +33,6 @@ struct RemovalPlan {
 
 /// Has it removed, and waits for that; the package manager may ask the user for a password. Empty
 /// once the application is gone, else a sentence that says why it is not. Any thread.
-[[nodiscard]] std::string removeByTool(const Platform& platform, const AppInfo& app);
+[[nodiscard]] Message removeByTool(const Platform& platform, const AppInfo& app);
 
 }  // namespace klarvik

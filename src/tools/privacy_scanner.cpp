@@ -5,6 +5,7 @@
 #include <span>
 
 #include "base/bytes.h"
+#include "base/message.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/catalogue.h"
@@ -126,15 +127,15 @@ struct TrailSearch {
 };
 
 constexpr std::array<TrailSearch, 9> searches{{
-    {0.1, "Scanning browser history...", history},
-    {0.22, "Scanning browser cookies...", cookies},
-    {0.34, "Scanning browser cache...", browserCache},
-    {0.45, "Scanning recent files...", recentFiles},
-    {0.55, "Scanning recent apps...", recentApps},
-    {0.65, "Scanning downloads list...", downloads},
-    {0.73, "Scanning clipboard...", clipboard},
-    {0.83, "Scanning quarantine database...", quarantine},
-    {0.93, "Scanning location cache...", locationCache},
+    {0.1, QT_TRANSLATE_NOOP("Engine", "Scanning browser history..."), history},
+    {0.22, QT_TRANSLATE_NOOP("Engine", "Scanning browser cookies..."), cookies},
+    {0.34, QT_TRANSLATE_NOOP("Engine", "Scanning browser cache..."), browserCache},
+    {0.45, QT_TRANSLATE_NOOP("Engine", "Scanning recent files..."), recentFiles},
+    {0.55, QT_TRANSLATE_NOOP("Engine", "Scanning recent apps..."), recentApps},
+    {0.65, QT_TRANSLATE_NOOP("Engine", "Scanning downloads list..."), downloads},
+    {0.73, QT_TRANSLATE_NOOP("Engine", "Scanning clipboard..."), clipboard},
+    {0.83, QT_TRANSLATE_NOOP("Engine", "Scanning quarantine database..."), quarantine},
+    {0.93, QT_TRANSLATE_NOOP("Engine", "Scanning location cache..."), locationCache},
 }};
 
 }  // namespace
@@ -147,7 +148,7 @@ std::vector<PrivacyItem> PrivacyScanner::scan(const ProgressSink& progress) {
     if (progress) progress(search.fraction, search.line);
     if (auto item = search.find(_files, _pasteboard)) items.push_back(std::move(*item));
   }
-  if (progress) progress(1.0, "Done");
+  if (progress) progress(1.0, QT_TRANSLATE_NOOP("Engine", "Done"));
   return items;
 }
 
@@ -159,7 +160,7 @@ std::vector<PrivacyItem> PrivacyScanner::scanTable(const ProgressSink& progress)
     progress(step / (privacyCategoryCount + 1), line);
   });
   if (auto copied = clipboard(_files, _pasteboard)) items.push_back(std::move(*copied));
-  if (progress) progress(1.0, "Done");
+  if (progress) progress(1.0, QT_TRANSLATE_NOOP("Engine", "Done"));
   return items;
 }
 

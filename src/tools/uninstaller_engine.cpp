@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "core/removal_check.h"
 #include "places/disk_layout.h"
+#include "places/words.h"
 #include "platform/application_bundle.h"
 #include "platform/current_desktop.h"
 #include "platform/file_system.h"
@@ -163,9 +164,10 @@ UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
                                                   const std::vector<ResidualFile>& residuals) {
   UninstallOutcome outcome;
   const FileSystem& files = _platform.files;
+  const Words& words = layoutFor(files.home()).words;
   outcome.isRunning = isRunning(_platform.programs, app);
   if (outcome.isRunning) {
-    outcome.whyItStayed = printable(app.name) + " is running. Close it first.";
+    outcome.whyItStayed = {words.appIsRunning, {printable(app.name)}};
     return outcome;
   }
   if (isRemovedByTool(app)) {
@@ -177,7 +179,7 @@ UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
     const auto scope = DeletionScope::application();
     outcome.isGone = trashIfAllowed(app.appURL, scope, app.identity);
     if (!outcome.isGone) {
-      outcome.whyItStayed = "It could not be moved to the Trash.";
+      outcome.whyItStayed = words.appNotTrashed;
       return outcome;
     }
     outcome.freed = app.appSize;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/message.h"
 #include "core/deletion_guard.h"
 #include "core/left_alone.h"
 #include "platform/platform.h"
@@ -15,10 +16,10 @@ namespace klarvik {
 
 /// What an uninstalling did.
 struct UninstallOutcome {
-  std::int64_t freed = 0;     ///< bytes, of what is gone as it was measured when it was found
-  bool isGone = false;        ///< the application itself
-  bool isRunning = false;     ///< and therefore nothing was done
-  std::string whyItStayed{};  ///< a sentence; empty where there is nothing to say
+  std::int64_t freed = 0;  ///< bytes, of what is gone as it was measured when it was found
+  bool isGone = false;     ///< the application itself
+  bool isRunning = false;  ///< and therefore nothing was done
+  Message whyItStayed{};   ///< a sentence; empty where there is nothing to say
 
   bool operator==(const UninstallOutcome&) const = default;
 };

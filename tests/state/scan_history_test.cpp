@@ -63,6 +63,18 @@ TEST_F(ScanHistoryTest, RecordsTheBytesOfAScanByCategory) {
   EXPECT_TRUE(history.cleans().empty());
 }
 
+TEST_F(ScanHistoryTest, StoresCategoriesUnderKeysThatNeverChange) {
+  const std::vector<std::string> keys{
+      "Xcode Cache",    "iOS Simulators",      "Xcode Archives",
+      "App Caches",     "System Logs",         "iPhone Backups",
+      "Trash",          "Browser Caches",      "Docker",
+      "Time Machine",   "Leftovers",           "Build Artifacts",
+      "Package Caches", "Toolchains & Stores", "Installed Packages"};
+  for (std::size_t at = 0; at < keys.size(); ++at) {
+    EXPECT_EQ(rawValue(static_cast<CategoryType>(at)), keys[at]);
+  }
+}
+
 TEST_F(ScanHistoryTest, AScanThatFoundNothingIsNotRecorded) {
   ScanHistory history(defaults, clock);
   history.recordScan({});

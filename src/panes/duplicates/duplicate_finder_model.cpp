@@ -10,6 +10,7 @@
 #include "platform/desktop_services.h"
 #include "platform/notification_center.h"
 #include "state/section.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -69,7 +70,7 @@ QString DuplicateFinderModel::subtitle() const {
 }
 
 QString DuplicateFinderModel::actionTitle() const {
-  return QStringLiteral("Rescan");
+  return translate("Duplicates", "Rescan");
 }
 
 Placeholder DuplicateFinderModel::placeholder() const {
@@ -86,7 +87,7 @@ QStringList DuplicateFinderModel::folderHelps() const {
 QStringList DuplicateFinderModel::keepRules() const {
   QStringList labels;
   for (const KeepRule rule : DuplicateSelection::allKeepRules) {
-    labels << QString::fromStdString(std::string(DuplicateSelection::label(rule)));
+    labels << translated(DuplicateSelection::label(rule));
   }
   return labels;
 }
@@ -184,7 +185,9 @@ void DuplicateFinderModel::setGroups(ChosenGroups groups) {
 
 void DuplicateFinderModel::chooseFolders() {
   _desktop.openPanel.chooseFolders(
-      {"Scan This Folder", "Klarvik reads only the folders listed here.", _desktop.files.home()},
+      {translate("Duplicates", "Scan This Folder").toStdString(),
+       translate("Duplicates", "Klarvik reads only the folders listed here.").toStdString(),
+       _desktop.files.home()},
       [pane = QPointer(this)](const std::vector<Path>& folders) {
         if (pane && !folders.empty()) pane->addFolders(folders);
       });

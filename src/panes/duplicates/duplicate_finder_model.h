@@ -76,7 +76,7 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   [[nodiscard]] bool hasScanned() const { return _scan.hasScanned(); }
   [[nodiscard]] double progress() const { return _report.fraction; }
   [[nodiscard]] std::int64_t foundCount() const { return _report.groupsFound; }
-  [[nodiscard]] const std::string& currentPath() const { return _report.line; }
+  [[nodiscard]] const Message& currentPath() const { return _report.line; }
   [[nodiscard]] bool isDeleting() const { return _removal.isRunning(); }
   [[nodiscard]] RemovalProgress deleteProgress() const { return _removal.progress(); }
   [[nodiscard]] KeepRule keepRule() const { return _choice.keepRule(); }

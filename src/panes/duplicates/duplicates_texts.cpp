@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "panes/kit/row_text.h"
+#include "translation/translation.h"
 
 namespace klarvik::duplicates {
 namespace {
@@ -18,32 +19,37 @@ int wholePercent(double fraction) {
 }  // namespace
 
 QString title(std::size_t groups, std::int64_t reclaimable, const Formatting& formatting) {
-  const QString name = QStringLiteral("Duplicates");
+  const QString name = translated("Duplicates");
   if (groups == 0) return name;
-  return name + QStringLiteral(" · ") + byteText(reclaimable, formatting) +
-         QStringLiteral(" reclaimable");
+  return name + QStringLiteral(" · ") +
+         translate("Duplicates", "%1 reclaimable").arg(byteText(reclaimable, formatting));
 }
 
-QString scanningSubtitle(std::int64_t groupsFound, std::string_view currentPath, const Path& home) {
-  return QString::number(groupsFound) + QStringLiteral(" groups so far · ") +
-         abbreviated(currentPath, home);
+QString scanningSubtitle(std::int64_t groupsFound, const Message& current, const Path& home) {
+  return translate("Duplicates", "%n groups so far", nullptr, plural(groupsFound)) +
+         QStringLiteral(" · ") + abbreviated(translated(current).toStdString(), home);
 }
 
 QString foundSubtitle(std::size_t groups, std::int64_t extraCopies) {
-  return QStringLiteral("%1 groups · %2 extra copies · one copy of each is always kept")
-      .arg(QString::number(groups), QString::number(extraCopies));
+  return QStringList{translate("Duplicates", "%n groups", nullptr, plural(groups)),
+                     translate("Duplicates", "%n extra copies", nullptr, plural(extraCopies)),
+                     translate("Duplicates", "one copy of each is always kept")}
+      .join(QStringLiteral(" · "));
 }
 
 QString unscannedSubtitle() {
-  return QStringLiteral(
+  return translate(
+      "Duplicates",
       "Compares file contents with SHA-256, not names. One copy of each is always kept.");
 }
 
 QString folderList(const std::vector<Path>& folders) {
   QStringList names = folderNames(folders);
-  if (names.isEmpty()) return QStringLiteral("none yet");
+  if (names.isEmpty()) return translate("Duplicates", "none yet");
   const QString last = names.takeLast();
-  return names.isEmpty() ? last : names.join(QStringLiteral(", ")) + QStringLiteral(" and ") + last;
+  return names.isEmpty()
+             ? last
+             : translate("Duplicates", "%1 and %2").arg(names.join(QStringLiteral(", ")), last);
 }
 
 QStringList folderNames(const std::vector<Path>& folders) {
@@ -53,86 +59,92 @@ QStringList folderNames(const std::vector<Path>& folders) {
 }
 
 QStringList folderHelps(const std::vector<Path>& folders, const Path& home) {
-  const QString ending = folders.size() > 1
-                             ? QStringLiteral(" — click to remove")
-                             : QStringLiteral(" — the last folder cannot be removed");
+  const QString sentence = folders.size() > 1
+                               ? translate("Duplicates", "%1 — click to remove")
+                               : translate("Duplicates", "%1 — the last folder cannot be removed");
   QStringList helps;
-  for (const Path& folder : folders) helps << abbreviated(folder.native(), home) + ending;
+  for (const Path& folder : folders) helps << sentence.arg(abbreviated(folder.native(), home));
   return helps;
 }
 
 Placeholder hashing() {
-  return Placeholder::busy(
-      QStringLiteral("Hashing files"),
-      QStringLiteral("Klarvik compares contents, so identical files are found even "
-                     "when they were renamed."));
+  return Placeholder::busy(translate("Duplicates", "Hashing files"),
+                           translate("Duplicates",
+                                     "Klarvik compares contents, so identical files are found even "
+                                     "when they were renamed."));
 }
 
 Placeholder notScanned(const std::vector<Path>& folders) {
   return Placeholder::idle(
-      QStringLiteral("doc.on.doc"), QStringLiteral("Choose where to look"),
-      QStringLiteral("Klarvik compares contents, not names, so it only reads the "
-                     "folders you name: ") +
-          folderList(folders) + QStringLiteral(". Nothing outside them is touched."),
-      QStringLiteral("Add a folder…"));
+      QStringLiteral("doc.on.doc"), translate("Duplicates", "Choose where to look"),
+      translate("Duplicates",
+                "Klarvik compares contents, not names, so it only reads the folders you name: "
+                "%1. Nothing outside them is touched.")
+          .arg(folderList(folders)),
+      translate("Duplicates", "Add a folder…"));
 }
 
 Placeholder nothingFound() {
-  return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("No duplicates"),
-                           QStringLiteral("Nothing in those folders is byte-for-byte identical."));
+  return Placeholder::idle(
+      QStringLiteral("checkmark.circle"), translate("Duplicates", "No duplicates"),
+      translate("Duplicates", "Nothing in those folders is byte-for-byte identical."));
 }
 
 Placeholder stopped(double fraction) {
   return Placeholder::idle(
-      QStringLiteral("doc.on.doc"), QStringLiteral("Search stopped"),
-      QStringLiteral("%1% was done, so nobody knows yet whether those folders hold duplicates. "
-                     "Rescan to search them to the end.")
+      QStringLiteral("doc.on.doc"), translate("Duplicates", "Search stopped"),
+      translate("Duplicates",
+                "%1% was done, so nobody knows yet whether those folders hold duplicates. "
+                "Rescan to search them to the end.")
           .arg(wholePercent(fraction)));
 }
 
 QString stoppedSubtitle(double fraction) {
-  return QStringLiteral("Stopped at %1%").arg(wholePercent(fraction));
+  return translate("Duplicates", "Stopped at %1%").arg(wholePercent(fraction));
 }
 
 QString minSizeText(double megabytes) {
-  return QStringLiteral("Min size %1 MB").arg(static_cast<std::int64_t>(megabytes));
+  return translate("Duplicates", "Min size %1 MB").arg(static_cast<std::int64_t>(megabytes));
 }
 
 QString selectionSummary(std::int64_t bytes, std::size_t copies, const Formatting& formatting) {
-  return QStringLiteral("%1 selected · %2 copies")
-      .arg(byteText(bytes, formatting), QString::number(copies));
+  return translate("Duplicates", "%1 selected · %n copies", nullptr, plural(copies))
+      .arg(byteText(bytes, formatting));
 }
 
 QString deleteButtonTitle(std::int64_t bytes, const Formatting& formatting) {
-  return QStringLiteral("Delete ") + byteText(bytes, formatting);
+  return translate("Duplicates", "Delete %1").arg(byteText(bytes, formatting));
 }
 
 QString footerHint() {
-  return QStringLiteral("One copy of every group stays where it is. Deletions go to Trash.");
+  return translate("Duplicates",
+                   "One copy of every group stays where it is. Deletions go to Trash.");
 }
 
 std::string finishedSummary(std::size_t groups) {
-  return std::to_string(groups) + " groups";
+  return translate("Duplicates", "%n groups", nullptr, plural(groups)).toStdString();
 }
 
 QString groupName(const DuplicateGroup& group) {
-  return group.files.empty() ? QStringLiteral("Unknown") : lastComponent(group.files.front().url);
+  return group.files.empty() ? translate("Duplicates", "Unknown")
+                             : lastComponent(group.files.front().url);
 }
 
 QString menuEntry(bool isKeeper) {
-  return isKeeper ? QStringLiteral("This copy stays") : QStringLiteral("Keep this copy instead");
+  return isKeeper ? translate("Duplicates", "This copy stays")
+                  : translate("Duplicates", "Keep this copy instead");
 }
 
 QString groupDescription(const ChosenGroup& group, const Formatting& formatting) {
-  return QStringLiteral("%1, %2 copies, %3 reclaimable")
-      .arg(groupName(group.group), QString::number(group.group.files.size()),
-           byteText(group.removableBytes, formatting));
+  return translate("Duplicates", "%1, %n copies, %2 reclaimable", nullptr,
+                   plural(group.group.files.size()))
+      .arg(groupName(group.group), byteText(group.removableBytes, formatting));
 }
 
 QString copyDescription(const DuplicateFile& file, bool isKeeper, const Path& home,
                         const Formatting& formatting) {
   return QStringList{lastComponent(file.url), byteText(file.size, formatting),
-                     isKeeper ? QStringLiteral("keep") : QStringLiteral("delete"),
+                     isKeeper ? translate("Duplicates", "keep") : translate("Duplicates", "delete"),
                      folderLine(file.url, home)}
       .join(QStringLiteral(", "));
 }

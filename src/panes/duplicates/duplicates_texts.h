@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/message.h"
 #include "panes/duplicates/duplicate_choice.h"
 #include "panes/kit/placeholder.h"
 #include "platform/formatting.h"
@@ -17,7 +18,7 @@ namespace klarvik::duplicates {
 
 [[nodiscard]] QString title(std::size_t groups, std::int64_t reclaimable,
                             const Formatting& formatting);
-[[nodiscard]] QString scanningSubtitle(std::int64_t groupsFound, std::string_view currentPath,
+[[nodiscard]] QString scanningSubtitle(std::int64_t groupsFound, const Message& current,
                                        const Path& home);
 [[nodiscard]] QString foundSubtitle(std::size_t groups, std::int64_t extraCopies);
 [[nodiscard]] QString unscannedSubtitle();

@@ -13,7 +13,7 @@ Rectangle {
     clip: true
     color: Theme.white(0.08)
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: "Working"
+    Accessible.name: qsTr("Working")
     Component.onCompleted: root.sweep = true
 
     Rectangle {

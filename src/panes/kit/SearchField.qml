@@ -7,7 +7,7 @@ FocusScope {
     id: root
 
     property alias text: input.text
-    property string placeholder: "Search"
+    property string placeholder: qsTr("Search")
     signal edited(string text)
 
     implicitWidth: 220
@@ -70,7 +70,7 @@ FocusScope {
         anchors.rightMargin: 3
         anchors.verticalCenter: parent.verticalCenter
         symbol: "xmark.circle.fill"
-        title: "Clear the search"
+        title: qsTr("Clear the search")
         size: 10
         visible: input.text !== ""
         onAction: {

@@ -16,7 +16,7 @@ Item {
     implicitWidth: root.size
     implicitHeight: root.size
     Accessible.role: Accessible.Animation
-    Accessible.name: "Working"
+    Accessible.name: qsTr("Working")
 
     LoaderTime {
         id: time

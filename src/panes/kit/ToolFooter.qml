@@ -73,7 +73,7 @@ Rectangle {
 
         SecondaryButton {
             objectName: "stopButton"
-            title: "Stop"
+            title: qsTr("Stop")
             visible: root.shown.showsStop
             onAction: root.stop()
         }

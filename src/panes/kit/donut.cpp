@@ -6,6 +6,8 @@
 
 #include "base/bytes.h"
 
+#include "translation/translation.h"
+
 namespace klarvik {
 namespace {
 
@@ -61,7 +63,7 @@ double donutOpacity(const QString& id, const QString& highlighted) {
 }
 
 QString shareText(double share) {
-  return QString::number(static_cast<qint64>(std::round(share * 100))) + "%";
+  return translate("Kit", "%1%").arg(static_cast<qint64>(std::round(share * 100)));
 }
 
 }  // namespace klarvik

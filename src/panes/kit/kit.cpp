@@ -16,6 +16,7 @@
 #include "places/disk_layout.h"
 #include "platform/desktop_services.h"
 #include "platform/formatting.h"
+#include "translation/translation.h"
 
 void qml_register_types_Klarvik_Kit();
 
@@ -132,7 +133,7 @@ QString Kit::safetyText(int level) const {
 }
 
 QString Kit::fateText(int fate) const {
-  return fate == KeepOrDelete::Keep ? QStringLiteral("KEEP") : QStringLiteral("DELETE");
+  return fate == KeepOrDelete::Keep ? translate("Kit", "KEEP") : translate("Kit", "DELETE");
 }
 
 QString Kit::selectionSymbol(int selection) const {

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "platform/formatting.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -35,11 +36,15 @@ QString folderLine(const Path& item, const Path& home) {
 }
 
 QString programText(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+  return translated(utf8);
 }
 
 QString printableText(std::string_view bytes) {
   return QString::fromStdString(printable(bytes));
+}
+
+QString shownName(std::string_view name, const Message& text) {
+  return text.empty() ? printableText(name) : translated(text);
 }
 
 QString byteText(std::int64_t bytes, const Formatting& formatting) {
@@ -47,12 +52,12 @@ QString byteText(std::int64_t bytes, const Formatting& formatting) {
 }
 
 QString withSizesUnbroken(QString text) {
-  static const QRegularExpression gap(QStringLiteral("(?<=\\d) (?=(bytes?|[KMGTPE]B)\\b)"));
+  static const QRegularExpression gap(QStringLiteral("(?<=\\d) (?=([Bb]ytes?|[KMGTPE]B)\\b)"));
   return text.replace(gap, QString(QChar::Nbsp));
 }
 
 QString verdictText(SafetyLevel level) {
-  return level == SafetyLevel::caution ? QStringLiteral("Review") : QStringLiteral("Safe");
+  return level == SafetyLevel::caution ? translate("Kit", "Review") : translate("Kit", "Safe");
 }
 
 QString rowDescription(const QString& name, const QString& size, const QString& verdict) {

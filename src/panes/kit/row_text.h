@@ -22,8 +22,9 @@ namespace klarvik {
 [[nodiscard]] QString folderLine(const Path& item, const Path& home);
 
 class Formatting;
+class Message;
 
-/// A text of the program.
+/// A text of the tables, in the language of the user.
 [[nodiscard]] QString programText(std::string_view utf8);
 /// Bytes of the disk, made fit for one line of the screen: what is not UTF-8, and what would break
 /// the line or reverse it, becomes U+FFFD.
@@ -31,6 +32,8 @@ class Formatting;
 [[nodiscard]] QString byteText(std::int64_t bytes, const Formatting& formatting);
 /// For text over several lines: no line ends between a size's number and its unit.
 [[nodiscard]] QString withSizesUnbroken(QString text);
+/// The name of an item: `text`, where it was made of words of the program, else `name` of the disk.
+[[nodiscard]] QString shownName(std::string_view name, const Message& text);
 /// "Safe" or "Review".
 [[nodiscard]] QString verdictText(SafetyLevel level);
 /// What a screen reader says of a row: "App Caches, 1.2 GB, Safe".

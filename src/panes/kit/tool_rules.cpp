@@ -4,13 +4,14 @@
 
 #include "panes/kit/row_text.h"
 #include "platform/formatting.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
 
 QString removalLine(const DeletionProgress& progress, const Formatting& formatting) {
   const std::int64_t current = std::min(progress.total, progress.completed + 1);
-  return QStringLiteral("Removing %1 of %2 · %3 so far")
+  return translate("Kit", "Removing %1 of %2 · %3 so far")
       .arg(QString::number(current), QString::number(progress.total),
            QString::fromStdString(formatting.byteText(progress.freed)));
 }
@@ -24,14 +25,14 @@ double removalFraction(const DeletionProgress& progress) {
 }
 
 QString removalName(const DeletionProgress& progress) {
-  if (progress.currentName.empty()) return QStringLiteral("Starting…");
+  if (progress.currentName.empty()) return translate("Kit", "Starting…");
   return printableText(progress.currentName);
 }
 
 ToolPaneState toolPaneState(const QString& actionTitle, bool hasAction, bool isBusy,
                             bool rowsShowLoader) {
   return {.showsButton = hasAction && !actionTitle.isEmpty(),
-          .buttonLabel = isBusy ? QStringLiteral("Stop") : actionTitle,
+          .buttonLabel = isBusy ? translate("Kit", "Stop") : actionTitle,
           .showsBar = isBusy && !rowsShowLoader};
 }
 
@@ -47,7 +48,7 @@ ToolFooterState toolFooterState(const ToolFooterInput& input, const Formatting& 
     state.lastLine = input.explanation;
   }
   state.showsStop = input.isBusy && input.canStop;
-  state.buttonLabel = input.isBusy ? QStringLiteral("Working…") : input.buttonTitle;
+  state.buttonLabel = input.isBusy ? translate("Kit", "Working…") : input.buttonTitle;
   state.buttonEnabled = input.isEnabled && !input.isBusy;
   return state;
 }

@@ -52,7 +52,7 @@ ToolPane {
                 required property int index
 
                 visible: index < root.model.kinds.length
-                title: root.model.kinds[index] ?? ""
+                title: root.model.kindNames[index] ?? ""
                 isSelected: visible && title === root.model.activeKind
                 onAction: root.model.toggleKind(title)
             }

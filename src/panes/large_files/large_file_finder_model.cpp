@@ -12,6 +12,7 @@
 #include "platform/notification_center.h"
 #include "state/section.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -55,7 +56,7 @@ LargeFileList LargeFileFinderModel::selectedFiles() const {
 }
 
 QString LargeFileFinderModel::title() const {
-  return QStringLiteral("Large Files");
+  return translated("Large Files");
 }
 
 QString LargeFileFinderModel::subtitle() const {
@@ -65,7 +66,7 @@ QString LargeFileFinderModel::subtitle() const {
 }
 
 QString LargeFileFinderModel::actionTitle() const {
-  return QStringLiteral("Rescan");
+  return translate("LargeFiles", "Rescan");
 }
 
 Placeholder LargeFileFinderModel::placeholder() const {
@@ -87,12 +88,18 @@ int LargeFileFinderModel::thresholdIndex() const {
 
 QStringList LargeFileFinderModel::sorts() const {
   QStringList labels;
-  for (const Sort sort : sortOrders) labels << QString::fromStdString(std::string(label(sort)));
+  for (const Sort sort : sortOrders) labels << translated(label(sort));
   return labels;
 }
 
 int LargeFileFinderModel::sortIndex() const {
   return indexIn(sortOrders, _view.sort);
+}
+
+QStringList LargeFileFinderModel::kindNames() const {
+  QStringList names;
+  for (const QString& kind : _kinds) names << translated(kind.toStdString());
+  return names;
 }
 
 QString LargeFileFinderModel::activeKind() const {

@@ -44,6 +44,7 @@ class LargeFileFinderModel : public klarvik::ToolPane {
   Q_PROPERTY(QList<QString> sorts READ sorts CONSTANT)
   Q_PROPERTY(int sortIndex READ sortIndex NOTIFY sortChanged)
   Q_PROPERTY(QList<QString> kinds READ kinds NOTIFY kindsChanged)
+  Q_PROPERTY(QList<QString> kindNames READ kindNames NOTIFY kindsChanged)
   Q_PROPERTY(int mostKinds READ mostChips CONSTANT)
   Q_PROPERTY(QString activeKind READ activeKind NOTIFY kindFilterChanged)
   Q_PROPERTY(klarvik::LargeFileRowsModel* rows READ rows CONSTANT)
@@ -88,6 +89,8 @@ class LargeFileFinderModel : public klarvik::ToolPane {
   [[nodiscard]] int sortIndex() const;
   /// The kinds that have a chip.
   [[nodiscard]] const QStringList& kinds() const { return _kinds; }
+  /// What the user reads of each.
+  [[nodiscard]] QStringList kindNames() const;
   [[nodiscard]] static int mostChips() { return static_cast<int>(mostKinds); }
   /// Empty while all kinds are shown.
   [[nodiscard]] QString activeKind() const;

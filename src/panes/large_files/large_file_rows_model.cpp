@@ -9,6 +9,7 @@
 #include "panes/large_files/large_files_texts.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -45,9 +46,9 @@ QVariant LargeFileRowsModel::data(const QModelIndex& index, int role) const {
     case UrlRole:
       return urlOfPath(file.url);
     case KindRole:
-      return printableText(file.kind());
+      return translated(file.kind());
     case LastOpenedRole:
-      return QString::fromStdString(file.lastOpenedText(_desktop.formatting, _desktop.clock.now()));
+      return translated(file.lastOpenedText(_desktop.formatting, _desktop.clock.now()));
     case SizeRole:
       return byteText(file.size, _desktop.formatting);
     case IsSelectedRole:

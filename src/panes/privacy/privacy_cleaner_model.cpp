@@ -11,6 +11,7 @@
 #include "platform/file_system.h"
 #include "platform/notification_center.h"
 #include "state/section.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -42,22 +43,23 @@ PrivacyCleanerModel::~PrivacyCleanerModel() {
 QString PrivacyCleanerModel::subtitle() const {
   if (isScanning()) return _currentTask;
   if (_lastResult) return privacy::clearedSubtitle(*_lastResult, _desktop.formatting);
-  return QStringLiteral(
-      "Clearing a trail is not the same as freeing space. "
-      "Each row says what it costs you.");
+  return translate("Privacy",
+                   "Clearing a trail is not the same as freeing space. "
+                   "Each row says what it costs you.");
 }
 
 Placeholder PrivacyCleanerModel::placeholder() const {
   if (isScanning()) {
-    return Placeholder::busy(QStringLiteral("Reading trails"),
-                             QStringLiteral("Nothing is cleared by a scan."));
+    return Placeholder::busy(translate("Privacy", "Reading trails"),
+                             translate("Privacy", "Nothing is cleared by a scan."));
   }
   if (hasItems()) return {};
   if (!hasScanned()) {
-    return Placeholder::idle(QStringLiteral("shield"), QStringLiteral("No scan yet"),
+    return Placeholder::idle(QStringLiteral("shield"), translate("Privacy", "No scan yet"),
                              programText(layoutFor(_desktop.files.home()).words.trailsUnread));
   }
-  return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("Nothing to clear"),
+  return Placeholder::idle(QStringLiteral("checkmark.circle"),
+                           translate("Privacy", "Nothing to clear"),
                            programText(layoutFor(_desktop.files.home()).words.noTrails));
 }
 
@@ -109,7 +111,7 @@ void PrivacyCleanerModel::startScan() {
            [&desktop = _desktop](std::stop_token, const auto& post) {
              PrivacyScanner scanner(desktop, desktop.pasteboard);
              return scanner.scan([&post](double fraction, std::string_view line) {
-               post({fraction, printableText(line)});
+               post({fraction, translated(line)});
              });
            },
        .report = [this](const Report& report) { showReport(report); },
@@ -130,7 +132,8 @@ void PrivacyCleanerModel::showReport(const Report& report) {
 void PrivacyCleanerModel::finishScan(std::vector<PrivacyItem> found) {
   _trailList.show(std::move(found));
   emit stateChanged();
-  _scan.showSummary(std::to_string(items().size()) + " trails");
+  _scan.showSummary(
+      translate("Privacy", "%n trails", nullptr, plural(items().size())).toStdString());
   _scan.setTotal(totalSize(items()), static_cast<std::int64_t>(items().size()));
 }
 

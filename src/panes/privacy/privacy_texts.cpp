@@ -1,13 +1,14 @@
 #include "panes/privacy/privacy_texts.h"
 
 #include "panes/kit/row_text.h"
+#include "translation/translation.h"
 
 namespace klarvik::privacy {
 namespace {
 
 QString trails(std::size_t count) {
-  return QString::number(count) +
-         (count == 1 ? QStringLiteral(" trail") : QStringLiteral(" trails"));
+  return count == 1 ? translate("Privacy", "1 trail")
+                    : translate("Privacy", "%n trails", nullptr, plural(count));
 }
 
 }  // namespace
@@ -19,29 +20,29 @@ std::string_view label(PrivacyCategory category, const Words& words) {
 QString cost(PrivacyCategory category) {
   switch (category) {
     case PrivacyCategory::browserHistory:
-      return QStringLiteral("Autocomplete forgets sites");
+      return translate("Privacy", "Autocomplete forgets sites");
     case PrivacyCategory::browserCookies:
-      return QStringLiteral("Signs you out everywhere");
+      return translate("Privacy", "Signs you out everywhere");
     case PrivacyCategory::browserCache:
-      return QStringLiteral("Sites reload once, slower");
+      return translate("Privacy", "Sites reload once, slower");
     case PrivacyCategory::recentFiles:
-      return QStringLiteral("Recent menus empty out");
+      return translate("Privacy", "Recent menus empty out");
     case PrivacyCategory::recentApps:
-      return QStringLiteral("Recent apps list empties");
+      return translate("Privacy", "Recent apps list empties");
     case PrivacyCategory::downloadsList:
-      return QStringLiteral("Download history forgotten");
+      return translate("Privacy", "Download history forgotten");
     case PrivacyCategory::clipboard:
-      return QStringLiteral("Whatever you last copied");
+      return translate("Privacy", "Whatever you last copied");
     case PrivacyCategory::quarantine:
-      return QStringLiteral("Downloaded-from records go");
+      return translate("Privacy", "Downloaded-from records go");
     case PrivacyCategory::trashHistory:
-      return QStringLiteral("Where trashed files came from");
+      return translate("Privacy", "Where trashed files came from");
     case PrivacyCategory::locationHistory:
-      return QStringLiteral("Cached location lookups");
+      return translate("Privacy", "Cached location lookups");
     case PrivacyCategory::shellHistory:
-      return QStringLiteral("Commands you typed are forgotten");
+      return translate("Privacy", "Commands you typed are forgotten");
     case PrivacyCategory::thumbnails:
-      return QStringLiteral("Previews of pictures, deleted ones too");
+      return translate("Privacy", "Previews of pictures, deleted ones too");
   }
   return {};
 }
@@ -52,38 +53,41 @@ QString entryCount(const PrivacyItem& item) {
 
 QString obstacle(const PrivacyItem& item) {
   if (!item.closeFirst.empty()) {
-    return QStringLiteral("Close %1 first.").arg(printableText(item.closeFirst));
+    return translate("SmartScan", "Close %1 first.")
+        .arg(printableText(translated(item.closeFirst).toStdString()));
   }
   return programText(item.told);
 }
 
 QString clearedSubtitle(const PrivacyClearance& result, const Formatting& formatting) {
-  return QStringLiteral("Cleared ") + QString::number(result.cleaned) +
-         QStringLiteral(" trails · ") + byteText(result.freed, formatting) +
-         QStringLiteral(" freed") +
-         (result.stayed.empty() ? QString()
-                                : QStringLiteral(" · ") + QString::number(result.stayed.size()) +
-                                      QStringLiteral(" stayed: in use, or changed since the scan"));
+  const QString cleared =
+      translate("Privacy", "Cleared %n trails · %1 freed", nullptr, plural(result.cleaned))
+          .arg(byteText(result.freed, formatting));
+  if (result.stayed.empty()) return cleared;
+  return cleared + QStringLiteral(" · ") +
+         translate("Privacy", "%n stayed: in use, or changed since the scan", nullptr,
+                   plural(result.stayed.size()));
 }
 
 QString selectionSummary(std::size_t selectedCount, std::int64_t selectedBytes,
                          const Formatting& formatting) {
-  return trails(selectedCount) + QStringLiteral(" selected · ") +
-         byteText(selectedBytes, formatting);
+  return translate("Privacy", "%1 selected · %2")
+      .arg(trails(selectedCount), byteText(selectedBytes, formatting));
 }
 
 QString selectionHint(bool signsOut, bool forgetsCommands) {
   if (signsOut) {
-    return QStringLiteral("Your selection signs you out of sites. This cannot be undone.");
+    return translate("Privacy", "Your selection signs you out of sites. This cannot be undone.");
   }
   if (forgetsCommands) {
-    return QStringLiteral("Your selection forgets the commands you typed. This cannot be undone.");
+    return translate("Privacy",
+                     "Your selection forgets the commands you typed. This cannot be undone.");
   }
-  return QStringLiteral("Clearing a trail is permanent, but nothing you rely on is removed.");
+  return translate("Privacy", "Clearing a trail is permanent, but nothing you rely on is removed.");
 }
 
 QString clearTitle(std::size_t selectedCount) {
-  return QStringLiteral("Clear ") + trails(selectedCount);
+  return translate("Privacy", "Clear %1").arg(trails(selectedCount));
 }
 
 }  // namespace klarvik::privacy

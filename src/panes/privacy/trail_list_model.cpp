@@ -32,7 +32,7 @@ std::size_t sectionOf(PrivacyCategory category) {
 }
 
 std::array<std::string_view, 3> sectionTitles(const Words& words) {
-  return {words.browserTrails, words.recentTrails, "SYSTEM TRAILS"};
+  return {words.browserTrails, words.recentTrails, QT_TRANSLATE_NOOP("Engine", "SYSTEM TRAILS")};
 }
 
 }  // namespace

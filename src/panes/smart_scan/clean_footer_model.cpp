@@ -3,6 +3,7 @@
 #include "panes/smart_scan/smart_scan_texts.h"
 #include "places/disk_layout.h"
 #include "platform/user_defaults.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -19,7 +20,7 @@ ToolFooterState CleanFooterModel::shown() const {
   ToolFooterState state;
   state.firstLine = _selectionSummary;
   state.lastLine = _hint;
-  state.buttonLabel = isBusy() ? QStringLiteral("Cleaning…") : _cleanTitle;
+  state.buttonLabel = isBusy() ? translate("SmartScan", "Cleaning…") : _cleanTitle;
   state.buttonEnabled = isEnabled();
   state.showsStop = isBusy();
   // A late report may leave a progress behind after the clean has ended: the state decides.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "panes/kit/row_text.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -43,7 +44,8 @@ bool OtherToolsBarModel::isShown() const {
 }
 
 QString OtherToolsBarModel::pendingText() const {
-  return _pending > 0 ? QStringLiteral("%1 still measuring").arg(_pending) : QString();
+  return _pending > 0 ? translate("SmartScan", "%n still measuring", nullptr, plural(_pending))
+                      : QString();
 }
 
 void OtherToolsBarModel::open(int row) {
@@ -65,9 +67,9 @@ QVariant OtherToolsBarModel::data(const QModelIndex& index, int role) const {
     case SizeRole:
       return byteText(row.bytes, _formatting);
     case NoteRole:
-      return printableText(row.tool->elsewhere.note);
+      return translated(row.tool->elsewhere.note);
     case HelpRole:
-      return QStringLiteral("Open ") + printableText(row.tool->title);
+      return translate("SmartScan", "Open %1").arg(translated(row.tool->title));
     default:
       return {};
   }

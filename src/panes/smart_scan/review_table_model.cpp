@@ -12,6 +12,7 @@
 #include "panes/smart_scan/smart_scan_texts.h"
 #include "places/disk_layout.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -449,7 +450,7 @@ QVariant ReviewTableModel::rowDataOfCategory(const ShownCategory& shown, int rol
   if (category == nullptr) {
     return nothing(role);
   }
-  const QString name = printableText(_appState.layout().label(shown.type));
+  const QString name = translated(_appState.layout().label(shown.type));
   const QString size = byteText(_appState.selectedItems().total(category->id).size, _formatting);
   switch (role) {
     case NameRole:
@@ -484,8 +485,8 @@ QVariant ReviewTableModel::rowDataOfHint(const Place& place, int role) const {
   if (told == nullptr) {
     return nothing(role);
   }
-  const QString name = printableText(told->name);
-  const QString note = printableText(told->reason);
+  const QString name = shownName(told->name, told->nameText);
+  const QString note = translated(told->reason);
   switch (role) {
     case NameRole:
       return name;
@@ -518,14 +519,14 @@ QVariant ReviewTableModel::rowDataOfCommand(const Place& place, int role) const 
     case IsCopiedRole:
       return told->command == _copied;
     case DescriptionRole:
-      return QStringLiteral("Copy the command: ") + command;
+      return translate("SmartScan", "Copy the command: %1").arg(command);
     default:
       return nothing(role);
   }
 }
 
 QVariant ReviewTableModel::rowDataOfItem(const JunkItem& item, CategoryType type, int role) const {
-  const QString name = printableText(item.name);
+  const QString name = shownName(item.name, item.nameText);
   switch (role) {
     case NameRole:
       return name;

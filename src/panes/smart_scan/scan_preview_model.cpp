@@ -1,6 +1,6 @@
 #include "panes/smart_scan/scan_preview_model.h"
 
-#include "panes/kit/row_text.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -22,7 +22,7 @@ QVariant ScanPreviewModel::data(const QModelIndex& index, int role) const {
   const Row& row = _rows[static_cast<std::size_t>(index.row())];
   switch (role) {
     case NameRole:
-      return printableText(row.name);
+      return translated(row.name);
     case SafetyRole:
       return static_cast<int>(row.level);
     default:

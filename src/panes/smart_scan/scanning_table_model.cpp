@@ -4,6 +4,7 @@
 
 #include "panes/kit/row_text.h"
 #include "places/disk_layout.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -19,7 +20,7 @@ ScanningTableModel::RowSafety rowSafety(const FoundRow::Safety& safety) {
 
 QString verdict(const FoundRow::Safety& safety) {
   const SafetyLevel* level = std::get_if<SafetyLevel>(&safety);
-  return level != nullptr ? verdictText(*level) : QStringLiteral("Scanning");
+  return level != nullptr ? verdictText(*level) : translate("SmartScan", "Scanning");
 }
 
 bool isRunning(const FoundRow& row) {
@@ -69,7 +70,7 @@ QVariant ScanningTableModel::data(const QModelIndex& index, int role) const {
   const FoundRow& row = _rows[static_cast<std::size_t>(index.row())];
   switch (role) {
     case NameRole:
-      return printableText(row.name);
+      return translated(row.name);
     case SafetyRole:
       return static_cast<int>(rowSafety(row.safety));
     case ItemsRole:
@@ -77,7 +78,7 @@ QVariant ScanningTableModel::data(const QModelIndex& index, int role) const {
     case SizeRole:
       return byteText(row.bytes, _formatting);
     case DescriptionRole:
-      return rowDescription(printableText(row.name), byteText(row.bytes, _formatting),
+      return rowDescription(translated(row.name), byteText(row.bytes, _formatting),
                             verdict(row.safety));
     default:
       return {};

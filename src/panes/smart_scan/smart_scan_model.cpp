@@ -5,6 +5,7 @@
 
 #include "panes/smart_scan/smart_scan_texts.h"
 #include "platform/file_system.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -55,9 +56,10 @@ QString SmartScanModel::subtitle() const {
 
 QString SmartScanModel::actionTitle() const {
   if (isScanning()) {
-    return QStringLiteral("Stop");
+    return translate("SmartScan", "Stop");
   }
-  return _appState.scanResults().empty() ? QStringLiteral("Scan") : QStringLiteral("Rescan");
+  return _appState.scanResults().empty() ? translate("SmartScan", "Scan")
+                                         : translate("SmartScan", "Rescan");
 }
 
 bool SmartScanModel::offersSafeOnly() const {

@@ -4,22 +4,30 @@
 
 #include "panes/kit/row_text.h"
 #include "places/tool.h"
+#include "translation/translation.h"
 
 namespace klarvik::smart_scan {
+namespace {
+
+QString countedItems(std::int64_t count) {
+  return translate("SmartScan", "%n items", nullptr, plural(count));
+}
+
+}  // namespace
 
 std::string paneTitle(const AppState::ScanState& state, std::int64_t totalSpaceFreeable,
                       const Formatting& formatting) {
   if (std::holds_alternative<AppState::Scanning>(state)) {
-    return "Scanning";
+    return translate("SmartScan", "Scanning").toStdString();
   }
   if (std::holds_alternative<AppState::Idle>(state) || totalSpaceFreeable < 1) {
-    return "Smart Scan";
+    return translated("Smart Scan").toStdString();
   }
-  return formatting.byteText(totalSpaceFreeable) + " found";
+  return filled(translate("SmartScan", "%1 found"), formatting.byteText(totalSpaceFreeable));
 }
 
 std::string scanningSubtitle(const AppState::ScanActivity& activity, const Path& home) {
-  const std::string name = printable(activity.categoryName);
+  const std::string name = printable(translated(activity.categoryName).toStdString());
   return activity.currentPath
              ? name + " · " + abbreviated(*activity.currentPath, home).toStdString()
              : name;
@@ -27,8 +35,9 @@ std::string scanningSubtitle(const AppState::ScanActivity& activity, const Path&
 
 std::string idleSubtitle(std::optional<Date> lastCleanDate, Date now,
                          const Formatting& formatting) {
-  return lastCleanDate ? "Last clean " + formatting.relative(*lastCleanDate, now)
-                       : "Nothing scanned yet";
+  return lastCleanDate ? filled(translate("SmartScan", "Last clean %1"),
+                                formatting.relative(*lastCleanDate, now))
+                       : translate("SmartScan", "Nothing scanned yet").toStdString();
 }
 
 std::string resultSubtitle(const std::vector<CleanCategory>& results) {
@@ -37,94 +46,122 @@ std::string resultSubtitle(const std::vector<CleanCategory>& results) {
     items += category.items.size();
   }
   const auto categories = std::ranges::count_if(results, &CleanCategory::hasItems);
-  return std::to_string(categories) + " categories · " + std::to_string(items) + " items";
+  const QString counted = translate("SmartScan", "%n categories", nullptr, plural(categories));
+  return (counted + " · " + countedItems(static_cast<std::int64_t>(items))).toStdString();
 }
 
 std::string scanningHeadline(const AppState::ScanActivity& activity) {
   if (activity.totalCategories < 1) {
-    return "Starting scan";
+    return translated("Starting scan").toStdString();
   }
   const auto current = std::min(activity.totalCategories, activity.completedCategories + 1);
-  return "Scanning " + std::to_string(current) + " of " + std::to_string(activity.totalCategories) +
-         " categories";
+  return filled(translate("SmartScan", "Scanning %1 of %2 categories", nullptr,
+                          plural(activity.totalCategories)),
+                std::to_string(current), std::to_string(activity.totalCategories));
 }
 
 std::string showMoreTitle(std::int64_t hidden) {
-  return "Show " + std::to_string(hidden) + " more";
+  return translate("SmartScan", "Show %n more", nullptr, plural(hidden)).toStdString();
 }
 
 std::string selectionSummary(std::int64_t selectedSize, std::int64_t selectedCount,
                              const Formatting& formatting) {
-  return formatting.byteText(selectedSize) + " selected · " + std::to_string(selectedCount) +
-         " items";
+  return filled(translate("SmartScan", "%1 selected · %n items", nullptr, plural(selectedCount)),
+                formatting.byteText(selectedSize));
 }
 
 std::string selectionHint(std::int64_t selectedCount, bool selectionIsAllSafe,
                           std::string_view fate) {
   if (selectedCount == 0) {
-    return "Select something to clean.";
+    return translate("SmartScan", "Select something to clean.").toStdString();
   }
-  const std::string verdict = selectionIsAllSafe ? "Everything selected is marked Safe."
-                                                 : "Your selection includes Review items.";
-  return verdict + " " + std::string(fate);
+  const QString verdict = selectionIsAllSafe
+                              ? translate("SmartScan", "Everything selected is marked Safe.")
+                              : translate("SmartScan", "Your selection includes Review items.");
+  return verdict.toStdString() + " " + std::string(fate);
 }
 
 std::string fateOf(const ItemSum& selected, bool useTrash, const Formatting& formatting) {
   const std::int64_t forGood = useTrash ? selected.forGood : selected.size;
-  if (forGood == 0) return "Items move to the Trash.";
-  if (forGood == selected.size) return "Items are removed for good.";
-  return formatting.byteText(selected.size - forGood) + " moves to the Trash, " +
-         formatting.byteText(forGood) + " is removed for good.";
+  if (forGood == 0) return translate("SmartScan", "Items move to the Trash.").toStdString();
+  if (forGood == selected.size) {
+    return translate("SmartScan", "Items are removed for good.").toStdString();
+  }
+  return filled(translate("SmartScan", "%1 moves to the Trash, %2 is removed for good."),
+                formatting.byteText(selected.size - forGood), formatting.byteText(forGood));
 }
 
 std::string itemNote(const JunkItem& item) {
-  std::string note = item.wasJustUsed ? "Used within the last day. " : "";
-  if (!item.closeFirst.empty()) note += "Close " + item.closeFirst + " first. ";
-  if (item.tool != nullptr) note += std::string(item.tool->name) + " removes it for good. ";
-  return note + item.reason;
+  std::vector<std::string> notes;
+  if (item.wasJustUsed) {
+    notes.push_back(translate("SmartScan", "Used within the last day.").toStdString());
+  }
+  if (!item.closeFirst.empty()) {
+    notes.push_back(filled(translate("SmartScan", "Close %1 first."),
+                           translated(item.closeFirst).toStdString()));
+  }
+  if (item.tool != nullptr) {
+    notes.push_back(filled(translate("SmartScan", "%1 removes it for good."), item.tool->name));
+  }
+  std::string text;
+  for (const std::string& note : notes) text += note + ' ';
+  return text + translated(item.reason).toStdString();
 }
 
 std::string hintsOnlyNote() {
-  return "Klarvik removes none of this itself.";
+  return translate("SmartScan", "Klarvik removes none of this itself.").toStdString();
 }
 
 std::string commandsNote() {
-  return "Klarvik never asks for your password. Run these in a terminal if you agree with them.";
+  return translate("SmartScan",
+                   "Klarvik never asks for your password. Run these in a terminal if you agree "
+                   "with them.")
+      .toStdString();
 }
 
 std::string cleanTitle(std::int64_t selectedSize, const Formatting& formatting) {
-  return "Clean " + formatting.byteText(selectedSize);
+  return filled(translate("SmartScan", "Clean %1"), formatting.byteText(selectedSize));
 }
 
 std::string removingLine(const DeletionProgress& progress, const Formatting& formatting) {
-  return "Removing " + std::to_string(progress.completed) + " of " +
-         std::to_string(progress.total) + " · " + formatting.byteText(progress.freed) + " so far";
+  return filled(translate("Kit", "Removing %1 of %2 · %3 so far"),
+                std::to_string(progress.completed), std::to_string(progress.total),
+                formatting.byteText(progress.freed));
 }
 
 std::string cleanedApartHeadline(const AppState::CleanSummary& summary,
                                  const Formatting& formatting) {
   const auto inTrash = static_cast<std::int64_t>(summary.restorable.size());
-  return formatting.byteText(summary.freed) + " · " + std::to_string(inTrash) +
-         " items moved to Trash, " + std::to_string(summary.itemCount - inTrash) +
-         " removed for good";
+  const QString trashed =
+      translate("SmartScan", "%n items moved to Trash", nullptr, plural(inTrash));
+  const QString removed =
+      translate("SmartScan", "%n removed for good", nullptr, plural(summary.itemCount - inTrash));
+  return formatting.byteText(summary.freed) + " · " + (trashed + ", " + removed).toStdString();
 }
 
 std::string cleanedApartDetail(std::int64_t freeBytes, const Formatting& formatting) {
-  return formatting.byteText(freeBytes) +
-         " free on disk — what went to the Trash takes its space until you empty it";
+  return filled(
+      translate("SmartScan",
+                "%1 free on disk — what went to the Trash takes its space until you empty it"),
+      formatting.byteText(freeBytes));
 }
 
 std::string cleanedHeadline(const AppState::CleanSummary& summary, const Formatting& formatting) {
-  return formatting.byteText(summary.freed) + " · " + std::to_string(summary.itemCount) +
-         " items " + (summary.restorable.empty() ? "removed" : "moved to Trash");
+  const int count = plural(summary.itemCount);
+  const QString counted = summary.restorable.empty()
+                              ? translate("SmartScan", "%n items removed", nullptr, count)
+                              : translate("SmartScan", "%n items moved to Trash", nullptr, count);
+  return formatting.byteText(summary.freed) + " · " + counted.toStdString();
 }
 
 std::string cleanedDetail(const AppState::CleanSummary& summary, std::int64_t freeBytes,
                           const Formatting& formatting) {
-  const std::string free = formatting.byteText(freeBytes) + " free on disk";
-  return summary.restorable.empty()
-             ? free
-             : free + " — the Trash still holds this space until you empty it";
+  const QString sentence =
+      summary.restorable.empty()
+          ? translate("SmartScan", "%1 free on disk")
+          : translate("SmartScan",
+                      "%1 free on disk — the Trash still holds this space until you empty it");
+  return filled(sentence, formatting.byteText(freeBytes));
 }
 
 }  // namespace klarvik::smart_scan

@@ -12,6 +12,7 @@
 #include "platform/formatting.h"
 #include "platform/notification_center.h"
 #include "state/section.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -37,8 +38,9 @@ QString shortName(std::string_view name, const Path& home) {
 
 QString nameOf(const FolderSizes::Row& row, const Path& home) {
   if (!row.path.empty()) return shortName(row.name, home);
-  return row.things == 1 ? QStringLiteral("1 smaller thing")
-                         : QStringLiteral("%L1 smaller things").arg(row.things);
+  return row.things == 1 ? translate("Storage", "1 smaller thing")
+                         : translate("Storage", "%L1 smaller things", nullptr, plural(row.things))
+                               .arg(row.things);
 }
 
 }  // namespace
@@ -72,9 +74,9 @@ QVariant FolderBrowser::data(const QModelIndex& index, int role) const {
     case NameRole:
       return nameOf(row, _desktop.files.home());
     case DetailRole:
-      return row.path.empty() ? QStringLiteral("Each takes less than the rows above")
-             : row.folder     ? QStringLiteral("Folder")
-                              : QStringLiteral("File");
+      return row.path.empty() ? translate("Storage", "Each takes less than the rows above")
+             : row.folder     ? translate("Storage", "Folder")
+                              : translate("Storage", "File");
     case PathRole:
       return printableText(row.path.native());
     case UrlRole:
@@ -162,10 +164,10 @@ void FolderBrowser::show(FolderSizes::Id folder) {
 
 QString FolderBrowser::status() const {
   if (isMeasuring()) {
-    return QStringLiteral("Reading folders: %1 so far")
+    return translate("Storage", "Reading folders: %1 so far")
         .arg(byteText(_counted, _desktop.formatting));
   }
-  if (_rows.empty()) return QStringLiteral("Nothing in here that you may read.");
+  if (_rows.empty()) return translate("Storage", "Nothing in here that you may read.");
   return byteText(_sizes.bytes(_folder), _desktop.formatting);
 }
 
@@ -244,14 +246,15 @@ void FolderBrowser::cancelTrash() {
 }
 
 QString FolderBrowser::confirmationTitle() const {
-  return _asked
-             ? QStringLiteral("Move “%1” to Trash?").arg(nameOf(_asked->row, _desktop.files.home()))
-             : QString();
+  return _asked ? translate("Storage", "Move “%1” to Trash?")
+                      .arg(nameOf(_asked->row, _desktop.files.home()))
+                : QString();
 }
 
 QString FolderBrowser::confirmationMessage() const {
   if (!_asked) return {};
-  return QStringLiteral("This frees %1 once the Trash is emptied. Nothing is removed permanently.")
+  return translate("Kit",
+                   "This frees %1 once the Trash is emptied. Nothing is removed permanently.")
       .arg(byteText(_asked->row.bytes, _desktop.formatting));
 }
 

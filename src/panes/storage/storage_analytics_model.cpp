@@ -12,6 +12,7 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -110,7 +111,7 @@ void StorageAnalyticsModel::openBucket(const QString& bucket) {
     return std::ranges::any_of(
         opened->places, [&](const Path& place) { return isBelow(path.native(), place.native()); });
   };
-  FolderBrowser::Area area{.name = QString::fromStdString(opened->label),
+  FolderBrowser::Area area{.name = translated(opened->label),
                            .places = opened->places,
                            .isWholeVolume = opened->places == std::vector<Path>{"/"}};
   for (const DiskComposition::Bucket& other : buckets) {

@@ -6,6 +6,7 @@
 #include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"
 #include "panes/storage/storage_texts.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -22,7 +23,7 @@ QList<StorageLegendRow> legendRows(const std::vector<DiskComposition::Bucket>& b
   QList<StorageLegendRow> rows;
   for (const DiskComposition::Bucket& bucket : buckets) {
     rows.append({.slice = {.id = QString::fromStdString(bucket.id),
-                           .label = QString::fromStdString(bucket.label),
+                           .label = translated(bucket.label),
                            .value = bucket.bytes,
                            .color = Palette::color(bucket.color)},
                  .share = static_cast<double>(bucket.bytes) / static_cast<double>(sum),
@@ -36,7 +37,7 @@ QList<GrowthRow> growthRows(const std::vector<Growth>& grown, const Formatting& 
   QList<GrowthRow> rows;
   for (const Growth& growth : grown) {
     rows.append(
-        {.name = printableText(growth.name),
+        {.name = printableText(translated(growth.name).toStdString()),
          .figure = QString::fromStdString(storage::growthFigure(growth.delta, formatting))});
   }
   return rows;

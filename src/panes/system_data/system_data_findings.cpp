@@ -51,7 +51,7 @@ void addToTrash(std::vector<SystemDataItem>& items, std::int64_t bytes) {
     return item.subCategory == kind && item.path.filename() == "Trash";
   });
   if (trash == items.end()) {
-    items.push_back({.name = "Trash", .path = "Trash", .subCategory = kind});
+    items.push_back({.name = "Trash", .path = "Trash", .subCategory = kind, .nameText = "Trash"});
     trash = std::prev(items.end());
   }
   trash->size = addBytes(trash->size, bytes);

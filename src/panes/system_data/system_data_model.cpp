@@ -156,7 +156,7 @@ QString SystemDataModel::bannerHelp() const {
   const auto count = _lastRemoval ? _lastRemoval->itemCount : 0;
   QStringList names;
   for (auto item = _removedItems.end() - count; item != _removedItems.end(); ++item) {
-    names << printableText(item->name);
+    names << shownName(item->name, item->nameText);
   }
   return names.join('\n');
 }

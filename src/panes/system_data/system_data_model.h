@@ -22,6 +22,7 @@
 #include "state/scan_session.h"
 #include "state/shared_state.h"
 #include "systemdata/system_data_engine.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -99,7 +100,7 @@ class SystemDataModel : public klarvik::ToolPane {
   [[nodiscard]] Body body() const;
   [[nodiscard]] bool isScanning() const { return _scan.isRunning(); }
   [[nodiscard]] double scanProgress() const { return _scanProgress; }
-  [[nodiscard]] QString scanLabel() const { return QString::fromStdString(_scanLabel); }
+  [[nodiscard]] QString scanLabel() const { return translated(_scanLabel); }
   [[nodiscard]] bool hasFullDiskAccess() const { return _permissions.hasFullDiskAccess(); }
 
   [[nodiscard]] const SystemDataFindings& findings() const { return _findings; }

@@ -10,6 +10,7 @@
 #include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"
 #include "panes/system_data/system_data_texts.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -60,7 +61,7 @@ QVariant SystemDataTableModel::data(const QModelIndex& index, int role) const {
     case RowKindRole:
       return row.kind;
     case KindNameRole:
-      return text(label(category, _layout));
+      return translated(label(category, _layout));
     default:
       break;
   }
@@ -70,7 +71,7 @@ QVariant SystemDataTableModel::data(const QModelIndex& index, int role) const {
       break;
     case RowKind::Header:
       if (role == NameRole || role == DescriptionRole) {
-        return text(klarvik::description(category, _layout));
+        return translated(klarvik::description(category, _layout));
       }
       break;
     case RowKind::Item:
@@ -180,7 +181,7 @@ const SystemDataItem* SystemDataTableModel::itemOf(const Row& row) const {
 }
 
 QVariant SystemDataTableModel::dataOfKind(const SystemDataKind& kind, int role) const {
-  const QString name = text(label(kind.kind, _layout));
+  const QString name = translated(label(kind.kind, _layout));
   const QString size = byteText(kind.bytes, _formatting);
   const QString safety = QString::fromStdString(system_data::safetyText(kind.safety));
   switch (role) {
@@ -216,7 +217,7 @@ QVariant SystemDataTableModel::dataOfKind(const SystemDataKind& kind, int role) 
 }
 
 QVariant SystemDataTableModel::dataOfItem(const SystemDataItem& item, int role) const {
-  const QString name = printableText(item.name);
+  const QString name = shownName(item.name, item.nameText);
   const QString size = byteText(item.size, _formatting);
   const QString safety = QString::fromStdString(system_data::safetyText(item.safety()));
   switch (role) {

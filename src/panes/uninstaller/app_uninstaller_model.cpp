@@ -13,6 +13,7 @@
 #include "platform/notification_center.h"
 #include "state/section.h"
 #include "tools/uninstaller_engine.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -57,7 +58,7 @@ void AppUninstallerModel::setSearchText(const QString& searchText) {
 
 QString AppUninstallerModel::title() const {
   return _selectedApp ? uninstaller::uninstallTitle(_selectedApp->name)
-                      : QStringLiteral("Uninstaller");
+                      : translate("Uninstaller", "Uninstaller");
 }
 
 QString AppUninstallerModel::subtitle() const {
@@ -77,32 +78,35 @@ Placeholder AppUninstallerModel::placeholder() const {
 Placeholder AppUninstallerModel::listPlaceholder() const {
   if (_isWaitingForTurn) {
     return Placeholder::busy(
-        QStringLiteral("Waiting for the disk"),
-        QStringLiteral("Another tool is measuring. Open this pane and Klarvik reads your "
-                       "applications straight away."));
+        translate("Uninstaller", "Waiting for the disk"),
+        translate("Uninstaller",
+                  "Another tool is measuring. Open this pane and Klarvik reads your "
+                  "applications straight away."));
   }
   if (isLoading()) {
     return Placeholder::busy(
-        QStringLiteral("Reading applications"),
+        translate("Uninstaller", "Reading applications"),
         programText(layoutFor(_desktop.files.home()).words.measuringApplications));
   }
   if (!hasLoaded() || _appList.rowCount() > 0) return {};
   if (apps().empty()) {
-    return Placeholder::idle(QStringLiteral("square.dashed"), QStringLiteral("No apps"),
+    return Placeholder::idle(QStringLiteral("square.dashed"), translate("Uninstaller", "No apps"),
                              programText(layoutFor(_desktop.files.home()).words.noApplications));
   }
-  return Placeholder::idle(QStringLiteral("magnifyingglass"), QStringLiteral("No apps match"),
+  return Placeholder::idle(QStringLiteral("magnifyingglass"),
+                           translate("Uninstaller", "No apps match"),
                            uninstaller::noMatch(searchText()));
 }
 
 Placeholder AppUninstallerModel::detailPlaceholder() const {
   if (isFindingResiduals()) {
     return Placeholder::busy(
-        QStringLiteral("Looking for leftovers"),
+        translate("Uninstaller", "Looking for leftovers"),
         programText(layoutFor(_desktop.files.home()).words.lookingForLeftovers));
   }
   if (!residuals().empty()) return {};
-  return Placeholder::idle(QStringLiteral("checkmark.circle"), QStringLiteral("No leftovers"),
+  return Placeholder::idle(QStringLiteral("checkmark.circle"),
+                           translate("Uninstaller", "No leftovers"),
                            uninstaller::noLeftovers(_selectedApp->name));
 }
 
@@ -190,7 +194,8 @@ void AppUninstallerModel::finishReading(std::vector<AppInfo> read) {
   emit stateChanged();
   std::int64_t bytes = 0;
   for (const AppInfo& app : apps()) bytes = addBytes(bytes, app.appSize);
-  _reading.showSummary(std::to_string(apps().size()) + " apps");
+  _reading.showSummary(
+      translate("Uninstaller", "%n apps", nullptr, plural(apps().size())).toStdString());
   _reading.setTotal(bytes, static_cast<std::int64_t>(apps().size()));
 }
 
@@ -259,7 +264,7 @@ QCoro::Task<> AppUninstallerModel::remove(AppInfo app, std::vector<ResidualFile>
     closeDetail();
   } else {
     // The application is still there, and so may some of its leftovers be.
-    _whyItStayed = printableText(outcome.whyItStayed);
+    _whyItStayed = translated(outcome.whyItStayed);
     _leftoverList.clear();
     findResiduals(app);
     emit selectionChanged();

@@ -5,6 +5,7 @@
 #include "base/bytes.h"
 #include "panes/kit/row_text.h"
 #include "panes/uninstaller/uninstaller_texts.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -66,7 +67,7 @@ std::vector<LeftoverListModel::ShownRow> LeftoverListModel::shownRows() const {
 
 LeftoverListModel::ShownRow LeftoverListModel::heading(ResidualCategory category,
                                                        std::int64_t size) const {
-  const QString name = printableText(rawValue(category));
+  const QString name = translated(rawValue(category));
   const QString sizeText = byteText(size, _formatting);
   const QString whatItIs = uninstaller::whatItIs(category);
   return {.name = name,

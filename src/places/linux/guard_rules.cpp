@@ -148,7 +148,7 @@ const GuardRules guardRules{
     .onlyListedPlaces = true,
     .systemDirectories = systemDirectories,
     .protectedPrefixes = protectedPrefixes,
-    .protectedReason = " is protected by Linux and by Klarvik.",
+    .protectedReason = "%1 is protected by Linux and by Klarvik.",
     .nobodysHomes = nobodysHomes,
     .homesAllTheSame = homesAllTheSame,
     .otherHomes = otherHomes,

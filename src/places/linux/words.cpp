@@ -16,6 +16,28 @@ const Words words{
     .holdsReadOnlyFolders =
         "Some of its folders are read-only: the Trash could not be emptied of them again.",
 
+    .appIsRunning = "%1 is running. Close it first.",
+    .appNotTrashed = "It could not be moved to the Trash.",
+    .appOfNoAskedManager =
+        "It was installed for all users of this computer, and not by a package manager that "
+        "Klarvik asks.",
+    .packageIsOfSystem = "The package %1 is a part of the system.",
+    .appHasNoFolderOfItsOwn = "Klarvik cannot tell which folder is its own: its program is %1.",
+    .appIsWorkedOn = "Its folder is one that somebody works in: it holds a Git repository.",
+    .removalTakesNeeded = "Removing it would remove %1, which this computer needs.",
+    .appIsNotRemoved = "Klarvik does not remove it.",
+    .serviceIsNotRunning = "%1 does not run on this computer.",
+    .toolNotStarted = "%1 could not be started.",
+    .toolTookTooLong = "%1 took too long, and was stopped.",
+    .toolWasStopped = "%1 was stopped.",
+    .toolDidNotRemove = "%1 did not remove it.",
+    .toolDidNotRemoveAndSaid = "%1 did not remove it: %2",
+
+    .smallerItems = "Smaller items",
+    .countedSmallerItems = "%n smaller items",
+    .eachTakesLittle = "Each takes too little to be worth a row.",
+    .hasDeletedFilesOpen = "Has deleted files open. Restart it to get the space back.",
+
     .showInFileManager = "Show in File Manager",
     .openTrash = "Open the Trash in your file manager",
     .trashUnreadable = "Cannot be read",
@@ -54,7 +76,7 @@ const Words words{
     .analysisFindsProtected = "Swap, cloud folders, the installed system",
     .readingApplications = "Reading the installed apps…",
     .noApplications = "No app with an entry in the menu of this computer was found.",
-    .applicationsListed = "%1 apps · removing one leaves its settings and caches behind",
+    .applicationsListed = "%n apps · removing one leaves its settings and caches behind",
     .applicationColumn = "APP",
     .measuringApplications = "Measuring the apps in the menu, and the AppImages in your home.",
     .lookingForLeftovers = "Checking settings, caches, app data and states in your home.",

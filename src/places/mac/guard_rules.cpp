@@ -68,9 +68,9 @@ constexpr std::array<std::string_view, 5> cleanableOutsideHome{
 const GuardRules guardRules{
     .systemDirectories = systemDirectories,
     .protectedPrefixes = protectedPrefixes,
-    .protectedReason = " is protected by macOS and by Klarvik.",
+    .protectedReason = "%1 is protected by macOS and by Klarvik.",
     .managedPrefixes = managedPrefixes,
-    .managedReason = " is managed by macOS while it is running.",
+    .managedReason = "%1 is managed by macOS while it is running.",
     .otherHomes = otherHomes,
     .ownPlaces = ownPlaces,
     .residualRoots = residualRoots,

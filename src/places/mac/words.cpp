@@ -54,7 +54,7 @@ const Words words{
     .analysisFindsProtected = "Swap, iCloud local copies, system frameworks",
     .readingApplications = "Reading /Applications…",
     .noApplications = "Nothing found in /Applications.",
-    .applicationsListed = "%1 apps · dragging one to the Trash leaves its support files behind",
+    .applicationsListed = "%n apps · dragging one to the Trash leaves its support files behind",
     .applicationColumn = "BUNDLE",
     .measuringApplications = "Measuring every app in /Applications and ~/Applications.",
     .lookingForLeftovers =

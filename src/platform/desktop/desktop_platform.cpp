@@ -15,14 +15,15 @@ std::string systemVersion() {
 
 }  // namespace
 
-std::unique_ptr<DesktopPlatform> DesktopPlatform::ofThisUser() {
+std::unique_ptr<DesktopPlatform> DesktopPlatform::ofThisUser(FormattingLanguage language) {
   const auto folders = UserFolders::ofThisUser();
   if (!folders) return nullptr;
-  return std::make_unique<DesktopPlatform>("/", *folders);
+  return std::make_unique<DesktopPlatform>("/", *folders, std::move(language));
 }
 
-DesktopPlatform::DesktopPlatform(const Path& root, const UserFolders& folders)
-    : _system(root, folders),
+DesktopPlatform::DesktopPlatform(const Path& root, const UserFolders& folders,
+                                 FormattingLanguage language)
+    : _system(root, folders, std::move(language)),
       _defaults(_system.platform().defaults, _system.preferencesFile(), _notifications),
       _workspace(_system.platform().files),
       _ownOpenPanel(_system.platform().files),

@@ -24,9 +24,11 @@ class DesktopPlatform {
  public:
   /// The whole machine, as the user who runs this program sees it. Nothing when that user has no
   /// home of their own: no removal would be safe, so that the program is to say so and exit with 1.
-  [[nodiscard]] static std::unique_ptr<DesktopPlatform> ofThisUser();
+  /// `language`: of sizes and dates.
+  [[nodiscard]] static std::unique_ptr<DesktopPlatform> ofThisUser(
+      FormattingLanguage language = {});
 
-  DesktopPlatform(const Path& root, const UserFolders& folders);
+  DesktopPlatform(const Path& root, const UserFolders& folders, FormattingLanguage language = {});
 
   /// Refers to this object.
   [[nodiscard]] Desktop desktop();

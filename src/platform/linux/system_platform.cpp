@@ -41,11 +41,12 @@ Path homeOrRoot(const Path& root, const FileSystem& files) {
 }  // namespace
 
 struct SystemPlatform::Parts {
-  Parts(const Path& root, const UserFolders& folders)
+  Parts(const Path& root, const UserFolders& folders, FormattingLanguage language)
       : files(root, withChosenFolders(root, folders)),
         trash(root, folders.home, folders.data),
         defaults(files.diskPath(folders.configuration) / "klarvik"),
         volume(homeOrRoot(root, files)),
+        formatting(std::move(language)),
         recentDocuments(files.diskPath(folders.data) / "recently-used.xbel"),
         tools(root, files.folders()) {}
 
@@ -54,15 +55,16 @@ struct SystemPlatform::Parts {
   ShellCommandRunner commands{};
   JsonUserDefaults defaults;
   MountedVolume volume;
-  Formatting formatting{};
+  Formatting formatting;
   const ApplicationInfo info = builtInApplicationInfo();
   RecentlyUsedList recentDocuments;
   ProcessTable programs{};
   SystemTools tools;
 };
 
-SystemPlatform::SystemPlatform(const Path& root, const UserFolders& folders)
-    : _parts(std::make_unique<Parts>(root, folders)) {}
+SystemPlatform::SystemPlatform(const Path& root, const UserFolders& folders,
+                               FormattingLanguage language)
+    : _parts(std::make_unique<Parts>(root, folders, std::move(language))) {}
 
 SystemPlatform::~SystemPlatform() = default;
 

@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "base/message.h"
 #include "base/posix_io.h"
 #include "base/text.h"
 #include "platform/application_info.h"
@@ -42,19 +43,21 @@ std::string extensionOf(const std::string& address) {
   return found != extensions.end() ? std::string(*found) : std::string();
 }
 
-UpdaterError unusableFeed(std::int64_t urlCode, const std::string& reason) {
-  return wrapped(updater_code::feedNotUsable, "The update feed cannot be used.",
-                 urlError(urlCode, reason));
+UpdaterError unusableFeed(std::int64_t urlCode, Message reason) {
+  return wrapped(updater_code::feedNotUsable,
+                 QT_TRANSLATE_NOOP("Engine", "The update feed cannot be used."),
+                 urlError(urlCode, std::move(reason)));
 }
 
 UpdaterError notSaved() {
   return {updaterErrorDomain, updater_code::downloadFailed,
-          "The update could not be saved in your Downloads folder."};
+          QT_TRANSLATE_NOOP("Engine", "The update could not be saved in your Downloads folder.")};
 }
 
 UpdaterError notGenuine() {
-  return notAcceptable(
-      "The update is not what the makers of Klarvik have signed, so Klarvik has thrown it away.");
+  return notAcceptable(QT_TRANSLATE_NOOP(
+      "Engine",
+      "The update is not what the makers of Klarvik have signed, so Klarvik has thrown it away."));
 }
 
 /// As far as the network itself is to blame; what the updater said already stands.
@@ -127,8 +130,9 @@ void AppcastUpdater::install() {
   if (_delivered.empty()) return;
   if (!isStillWhatWasDelivered()) {
     _delivered.clear();
-    return fail(notAcceptable(
-        "The update is no longer the file that was checked, so Klarvik does not open it."));
+    return fail(notAcceptable(QT_TRANSLATE_NOOP(
+        "Engine",
+        "The update is no longer the file that was checked, so Klarvik does not open it.")));
   }
   const Path disk = _around.files.diskPath(_delivered);
   const QUrl address = QUrl::fromLocalFile(QString::fromStdString(disk.native()));
@@ -145,14 +149,16 @@ void AppcastUpdater::dismiss() {
       _delivered.clear();
       return show(update_stage::Hidden{});
     case Phase::offered:
-      return cancel(updater_code::installationPutOff, "The update was put off.");
+      return cancel(updater_code::installationPutOff,
+                    QT_TRANSLATE_NOOP("Engine", "The update was put off."));
     case Phase::checking:
       // What the user sees is what came of an earlier check.
       if (!_isFollowed) return show(update_stage::Hidden{});
       [[fallthrough]];
     case Phase::downloading:
     case Phase::verifying:
-      return cancel(updater_code::installationCancelled, "The update was cancelled.");
+      return cancel(updater_code::installationCancelled,
+                    QT_TRANSLATE_NOOP("Engine", "The update was cancelled."));
   }
 }
 
@@ -190,12 +196,15 @@ void AppcastUpdater::check(std::optional<UpdateOffer> standing) {
   _phase = Phase::checking;
   rememberCheck();
   const auto address = informationText(_around.info, "SUFeedURL");
-  if (!address) return failCheck(unusableFeed(url_code::fileNotFound, "No feed has been named."));
+  if (!address)
+    return failCheck(unusableFeed(url_code::fileNotFound,
+                                  QT_TRANSLATE_NOOP("Engine", "No feed has been named.")));
   _fetch = std::make_unique<HttpsFetch>(
       _network, _around.clock,
-      HttpsFetch::Request{QUrl(QString::fromStdString(*address), QUrl::StrictMode), _options.feed,
-                          unusableFeed(url_code::badResponse, "The feed is too long."),
-                          _options.tls},
+      HttpsFetch::Request{
+          QUrl(QString::fromStdString(*address), QUrl::StrictMode), _options.feed,
+          unusableFeed(url_code::badResponse, QT_TRANSLATE_NOOP("Engine", "The feed is too long.")),
+          _options.tls},
       [this](std::string_view bytes) {
         _feed += bytes;
         return std::nullopt;
@@ -213,11 +222,13 @@ void AppcastUpdater::returnToStandingOffer() {
 
 void AppcastUpdater::judgeFeed(const std::optional<UpdaterError>& error) {
   if (error) {
-    return failCheck(
-        during("The update feed could not be read.", updater_code::feedNotUsable, *error));
+    return failCheck(during(QT_TRANSLATE_NOOP("Engine", "The update feed could not be read."),
+                            updater_code::feedNotUsable, *error));
   }
   const auto items = parseAppcast(_feed);
-  if (!items) return failCheck(unusableFeed(url_code::badResponse, "The feed is no appcast."));
+  if (!items)
+    return failCheck(unusableFeed(url_code::badResponse,
+                                  QT_TRANSLATE_NOOP("Engine", "The feed is no appcast.")));
   auto choice = chooseUpdate(*items, runningProgram(), _options.archive.mostBytes);
   if (const auto* objection = std::get_if<UpdaterError>(&choice)) return failCheck(*objection);
   auto* const found = std::get_if<UpdateOffer>(&choice);
@@ -272,10 +283,12 @@ void AppcastUpdater::download() {
   limits.mostBytes = _offer.length;
   _fetch = std::make_unique<HttpsFetch>(
       _network, _around.clock,
-      HttpsFetch::Request{QUrl(QString::fromStdString(_offer.address), QUrl::StrictMode), limits,
-                          notAcceptable("The update is longer than announced, so Klarvik has "
-                                        "thrown it away."),
-                          _options.tls},
+      HttpsFetch::Request{
+          QUrl(QString::fromStdString(_offer.address), QUrl::StrictMode), limits,
+          notAcceptable(QT_TRANSLATE_NOOP("Engine",
+                                          "The update is longer than announced, so Klarvik has "
+                                          "thrown it away.")),
+          _options.tls},
       [this](std::string_view bytes) { return store(bytes); },
       [this](const auto& error) { judgeArchive(error); });
   show(update_stage::Downloading{_offer.version, 0, _offer.length});
@@ -289,15 +302,15 @@ std::optional<UpdaterError> AppcastUpdater::store(std::string_view bytes) {
 
 void AppcastUpdater::judgeArchive(const std::optional<UpdaterError>& error) {
   if (error) {
-    UpdaterError told =
-        during("The update could not be downloaded.", updater_code::downloadFailed, *error);
+    UpdaterError told = during(QT_TRANSLATE_NOOP("Engine", "The update could not be downloaded."),
+                               updater_code::downloadFailed, *error);
     // The feed could be read; it is the download that was redirected to a refused address.
     if (told.code == updater_code::feedNotUsable) told.code = updater_code::downloadFailed;
     return fail(told);
   }
   if (_archive->size() != _offer.length) {
-    return fail(
-        notAcceptable("The update is shorter than announced, so Klarvik has thrown it away."));
+    return fail(notAcceptable(QT_TRANSLATE_NOOP(
+        "Engine", "The update is shorter than announced, so Klarvik has thrown it away.")));
   }
   verify();
 }

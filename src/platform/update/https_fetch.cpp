@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/message.h"
 #include "platform/update/update_errors.h"
 
 namespace klarvik {
@@ -42,7 +43,9 @@ bool hasNetwork() {
 
 UpdaterError insecure() {
   return {updaterErrorDomain, updater_code::feedNotUsable,
-          "The update server offers no secure connection, so Klarvik does not listen to it."};
+          QT_TRANSLATE_NOOP(
+              "Engine",
+              "The update server offers no secure connection, so Klarvik does not listen to it.")};
 }
 
 }  // namespace
@@ -77,7 +80,8 @@ void HttpsFetch::follow(const QUrl& target) {
   const QUrl next = _reply->url().resolved(target);
   dropReply();
   if (++_redirects > _request.limits.redirects) {
-    return end(urlError(url_code::tooManyRedirects, "The server sends us from place to place."));
+    return end(urlError(url_code::tooManyRedirects,
+                        QT_TRANSLATE_NOOP("Engine", "The server sends us from place to place.")));
   }
   get(next);
 }
@@ -111,7 +115,8 @@ void HttpsFetch::replyFinished() {
         urlError(urlCode(_reply->error(), hasNetwork()), _reply->errorString().toStdString()));
   }
   if (_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != 200) {
-    return end(urlError(url_code::badResponse, "The server gave no file."));
+    return end(
+        urlError(url_code::badResponse, QT_TRANSLATE_NOOP("Engine", "The server gave no file.")));
   }
   end(std::nullopt);
 }
@@ -137,7 +142,8 @@ void HttpsFetch::expectSignOfLife() {
 }
 
 void HttpsFetch::endInTime() {
-  end(urlError(url_code::timedOut, "The server did not answer in time."));
+  end(urlError(url_code::timedOut,
+               QT_TRANSLATE_NOOP("Engine", "The server did not answer in time.")));
 }
 
 }  // namespace klarvik

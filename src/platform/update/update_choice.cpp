@@ -3,6 +3,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "base/message.h"
 #include "base/text.h"
 #include "platform/base64.h"
 #include "platform/update/release_signature.h"
@@ -96,20 +97,29 @@ std::variant<UpdateOffer, UpdaterError> offerOf(const AppcastItem& item,
   offer.digest = bytesOfBase64(item.digest).value_or("");
   const std::string signature = bytesOfBase64(item.signature).value_or("");
   if (offer.address.empty()) {
-    return notAcceptable("Version " + offer.version +
-                         " is not offered over a secure connection, so Klarvik leaves it alone.");
+    return notAcceptable(
+        {QT_TRANSLATE_NOOP(
+             "Engine",
+             "Version %1 is not offered over a secure connection, so Klarvik leaves it alone."),
+         {offer.version}});
   }
   if (offer.length <= 0 || offer.length > mostBytes) {
-    return notAcceptable("Version " + offer.version +
-                         " does not say how long it is, so Klarvik leaves it alone.");
+    return notAcceptable(
+        {QT_TRANSLATE_NOOP("Engine",
+                           "Version %1 does not say how long it is, so Klarvik leaves it alone."),
+         {offer.version}});
   }
   if (offer.digest.size() != digestBytes || signature.size() != signatureBytes) {
-    return notAcceptable("Version " + offer.version +
-                         " is not signed, so Klarvik leaves it alone.");
+    return notAcceptable(
+        {QT_TRANSLATE_NOOP("Engine", "Version %1 is not signed, so Klarvik leaves it alone."),
+         {offer.version}});
   }
   if (!isSigned(item, offer, signature, publicKey)) {
-    return notAcceptable("Version " + offer.version +
-                         " is not signed by the makers of Klarvik, so Klarvik leaves it alone.");
+    return notAcceptable(
+        {QT_TRANSLATE_NOOP(
+             "Engine",
+             "Version %1 is not signed by the makers of Klarvik, so Klarvik leaves it alone."),
+         {offer.version}});
   }
   return offer;
 }
@@ -121,8 +131,9 @@ std::variant<UpdateOffer, NothingNewer, UpdaterError> chooseUpdate(
   const std::vector<Candidate> newer = newerItems(items, running);
   if (newer.empty()) return NothingNewer{};
   if (!running.publicKey) {
-    return notAcceptable(
-        "There is a newer version, but this copy of Klarvik has no key to check it with.");
+    return notAcceptable(QT_TRANSLATE_NOOP(
+        "Engine",
+        "There is a newer version, but this copy of Klarvik has no key to check it with."));
   }
   std::optional<UpdaterError> objection;
   for (const Candidate& candidate : newer) {

@@ -1,5 +1,7 @@
 #include "platform/update/update_errors.h"
 
+#include "base/message.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -55,16 +57,16 @@ std::int64_t urlCode(QNetworkReply::NetworkError error, bool hasNetwork) {
   return hidesWhatIsMissing && !hasNetwork ? url_code::notConnected : code;
 }
 
-UpdaterError urlError(std::int64_t code, std::string description) {
+UpdaterError urlError(std::int64_t code, Message description) {
   return {urlErrorDomain, code, std::move(description)};
 }
 
-UpdaterError wrapped(std::int64_t code, std::string description, UpdaterError cause) {
+UpdaterError wrapped(std::int64_t code, Message description, UpdaterError cause) {
   return {updaterErrorDomain, code, std::move(description),
           std::make_shared<const UpdaterError>(std::move(cause))};
 }
 
-UpdaterError notAcceptable(std::string description) {
+UpdaterError notAcceptable(Message description) {
   return {updaterErrorDomain, updater_code::updateNotAcceptable, std::move(description)};
 }
 

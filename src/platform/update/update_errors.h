@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/message.h"
 #include "platform/updater.h"
 
 namespace klarvik {
@@ -35,10 +36,10 @@ inline constexpr std::int64_t secureConnectionFailed = -1200;
 /// The code of `urlErrorDomain` for what Qt reports. Without a network, no host can be found.
 [[nodiscard]] std::int64_t urlCode(QNetworkReply::NetworkError error, bool hasNetwork);
 
-[[nodiscard]] UpdaterError urlError(std::int64_t code, std::string description);
+[[nodiscard]] UpdaterError urlError(std::int64_t code, Message description);
 /// What the updater could not do because of `cause`.
-[[nodiscard]] UpdaterError wrapped(std::int64_t code, std::string description, UpdaterError cause);
+[[nodiscard]] UpdaterError wrapped(std::int64_t code, Message description, UpdaterError cause);
 /// A newer version that will not be offered, or will not be installed.
-[[nodiscard]] UpdaterError notAcceptable(std::string description);
+[[nodiscard]] UpdaterError notAcceptable(Message description);
 
 }  // namespace klarvik

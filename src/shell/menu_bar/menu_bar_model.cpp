@@ -8,6 +8,7 @@
 #include "shell/menu_bar/menu_bar_rules.h"
 #include "shell/menu_bar/window_activation.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -36,7 +37,7 @@ QList<MenuBarCategory> MenuBarModel::categories() const {
     if (!category.hasItems()) continue;
     if (lines.size() == menu_bar::shownCategories) break;
     lines.push_back({text(icon(category.type)), Palette::systemColor(color(category.type)),
-                     text(_appState.layout().label(category.type)),
+                     translated(_appState.layout().label(category.type)),
                      text(category.formattedSize(_formatting))});
   }
   return lines;
@@ -54,13 +55,13 @@ QString MenuBarModel::totalFound() const {
 QList<MenuBarAction> MenuBarModel::currentActions() const {
   const TrashMonitor::Figures& trash = _trash.figures();
   return {
-      {"magnifyingglass", "Scan Now"},
+      {"magnifyingglass", translate("Tray", "Scan Now")},
       {text(menu_bar::trashSymbol(trash)),
        text(menu_bar::trashLabel(trash, _appState.layout().words, _formatting)),
        menu_bar::canEmpty(trash)},
-      {"macwindow", "Open Klarvik", true, true},
-      {"gear", "Preferences"},
-      {"xmark.circle", "Quit"},
+      {"macwindow", translate("Tray", "Open Klarvik"), true, true},
+      {"gear", translate("Tray", "Preferences")},
+      {"xmark.circle", translate("Kit", "Quit")},
   };
 }
 

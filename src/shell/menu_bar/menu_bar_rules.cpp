@@ -1,5 +1,7 @@
 #include "shell/menu_bar/menu_bar_rules.h"
 
+#include "translation/translation.h"
+
 #include <array>
 #include <variant>
 
@@ -35,8 +37,9 @@ std::string title(const AppState::ScanState& state, const Formatting& formatting
 }
 
 std::string moreCategories(std::size_t count) {
-  return count > shownCategories ? std::to_string(count - shownCategories) + " more categories"
-                                 : "";
+  if (count <= shownCategories) return {};
+  return translate("Tray", "%n more categories", nullptr, plural(count - shownCategories))
+      .toStdString();
 }
 
 std::string_view trashSymbol(const TrashMonitor::Figures& trash) {
@@ -45,10 +48,12 @@ std::string_view trashSymbol(const TrashMonitor::Figures& trash) {
 
 std::string trashLabel(const TrashMonitor::Figures& trash, const Words& words,
                        const Formatting& formatting) {
-  if (trash.isEmptying) return "Emptying Trash…";
-  if (!trash.isReadable) return std::string(words.trashUnreadableInTray);
-  if (trash.itemCount > 0) return "Empty Trash · " + formatting.byteText(trash.bytes);
-  return "Trash is empty";
+  if (trash.isEmptying) return translate("Tray", "Emptying Trash…").toStdString();
+  if (!trash.isReadable) return translated(words.trashUnreadableInTray).toStdString();
+  if (trash.itemCount > 0) {
+    return filled(translate("Tray", "Empty Trash · %1"), formatting.byteText(trash.bytes));
+  }
+  return translate("Tray", "Trash is empty").toStdString();
 }
 
 bool canEmpty(const TrashMonitor::Figures& trash) {

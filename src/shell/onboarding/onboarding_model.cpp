@@ -2,6 +2,7 @@
 
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 
@@ -28,9 +29,10 @@ OnboardingModel::OnboardingModel(PermissionsManager& permissions, const Desktop&
 }
 
 QString OnboardingModel::buttonTitle() const {
-  if (isLastStep()) return QStringLiteral("Run first scan");
+  if (isLastStep()) return translate("Onboarding", "Run first scan");
   const bool asks = _step == permissionStep && !isGranted();
-  return asks ? QStringLiteral("Open System Settings") : QStringLiteral("Continue");
+  return asks ? translate("Onboarding", "Open System Settings")
+              : translate("Onboarding", "Continue");
 }
 
 void OnboardingModel::proceed() {

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QIcon>
+#include <QLocale>
 #include <cstdio>
 #include <cstdlib>
 
@@ -9,12 +10,17 @@
 #include "shell/klarvik_app.h"
 #include "shell/menu_bar/window_activation.h"
 #include "state/shared_state.h"
+#include "translation/translation.h"
 
 namespace {
 
 int refuse(const char* sentence) {
   std::fprintf(stderr, "%s\n", sentence);
   return 1;
+}
+
+int refuse(const QString& sentence) {
+  return refuse(qUtf8Printable(sentence));
 }
 
 /// Qt ends a program whose display it cannot reach with an abort: this says it in a sentence first.
@@ -28,9 +34,12 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
 int endAfter(klarvik::SingleInstance::Claim claim) {
   using Claim = klarvik::SingleInstance::Claim;
   if (claim == Claim::fronted) return 0;
-  return refuse(claim == Claim::elsewhere
-                    ? "Klarvik is running already, on another display of yours."
-                    : "Klarvik is running already and does not answer. End that one first.");
+  return refuse(
+      claim == Claim::elsewhere
+          ? klarvik::translate("Program",
+                               "Klarvik is running already, on another display of yours.")
+          : klarvik::translate(
+                "Program", "Klarvik is running already and does not answer. End that one first."));
 }
 
 }  // namespace
@@ -47,10 +56,12 @@ int main(int argumentCount, char** arguments) {
   QApplication::setDesktopFileName("klarvik");
   QApplication::setWindowIcon(QIcon::fromTheme("klarvik"));
 
-  const auto platform = klarvik::DesktopPlatform::ofThisUser();
+  klarvik::speak(klarvik::languageFor(QLocale::system().uiLanguages()));
+  const auto platform = klarvik::DesktopPlatform::ofThisUser(klarvik::formattingLanguage());
   if (!platform) {
-    return refuse(
-        "Klarvik needs a home folder of your own, and found none: it cleans nothing else.");
+    return refuse(klarvik::translate(
+        "Program",
+        "Klarvik needs a home folder of your own, and found none: it cleans nothing else."));
   }
   klarvik::SingleInstance instance(
       klarvik::SingleInstance::Start::ofThisProcess(*klarvik::UserFolders::ofThisUser()));
@@ -62,7 +73,7 @@ int main(int argumentCount, char** arguments) {
   klarvik::SharedState shared(desktop);
   klarvik::KlarvikApp app(desktop, shared, platform->loginItem());
   if (!app.openWindow(klarvik::mainWindowId)) {
-    return refuse("Klarvik could not draw its window.");
+    return refuse(klarvik::translate("Program", "Klarvik could not draw its window."));
   }
   const int status = QApplication::exec();
   app.finishRemovals();

@@ -8,6 +8,7 @@
 #include "platform/desktop_services.h"
 #include "platform/file_system.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 

@@ -4,6 +4,7 @@
 #include "platform/application_info.h"
 #include "platform/desktop_services.h"
 #include "state/set_if_changed.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -43,19 +44,19 @@ QColor colorFor(const UpdateManager::UpToDate&) {
 }
 
 QString titleFor(const UpdateManager::UpdateAvailable& status) {
-  return QStringLiteral("Version %1 available").arg(QString::fromStdString(status.version));
+  return translate("Updates", "Version %1 available").arg(QString::fromStdString(status.version));
 }
 QString titleFor(const UpdateManager::Failed&) {
-  return QStringLiteral("Could not check");
+  return translate("Updates", "Could not check");
 }
 QString titleFor(const UpdateManager::Unknown&) {
-  return QStringLiteral("Not checked yet");
+  return translate("Updates", "Not checked yet");
 }
 QString titleFor(const UpdateManager::Checking&) {
-  return QStringLiteral("Checking…");
+  return translate("Updates", "Checking…");
 }
 QString titleFor(const UpdateManager::UpToDate&) {
-  return QStringLiteral("Up to date");
+  return translate("Updates", "Up to date");
 }
 
 }  // namespace
@@ -96,7 +97,7 @@ QString UpdateSettingsModel::detail() const {
 QString UpdateSettingsModel::buttonTitle() const {
   const bool isAvailable =
       std::holds_alternative<UpdateManager::UpdateAvailable>(_updateManager.status());
-  return isAvailable ? QStringLiteral("Install") : QStringLiteral("Check Now");
+  return isAvailable ? translate("Updates", "Install") : translate("Updates", "Check Now");
 }
 
 bool UpdateSettingsModel::isChecking() const {

@@ -5,6 +5,7 @@
 #include "platform/formatting.h"
 #include "state/set_if_changed.h"
 #include "state/update_manager.h"
+#include "translation/translation.h"
 
 namespace klarvik {
 namespace {
@@ -18,50 +19,54 @@ class Writer {
 
   UpdateWindowContent operator()(const Hidden&) const { return {}; }
   UpdateWindowContent operator()(const Checking&) const {
-    return {.title = "Checking for updates…",
-            .detail = "You have Klarvik " + _running + ".",
+    return {.title = translate("Updates", "Checking for updates…").toStdString(),
+            .detail = filled(translate("Updates", "You have Klarvik %1."), _running),
             .progress = UpdateWindowContent::barWithoutEnd,
-            .secondary = "Cancel"};
+            .secondary = translate("Kit", "Cancel").toStdString()};
   }
   UpdateWindowContent operator()(const Offered& stage) const {
-    return {.title = "Klarvik " + stage.version + " is available",
-            .detail = "You have " + _running + ". The download is " +
-                      _formatting.byteText(stage.bytes) + ".",
+    return {.title = filled(translate("Updates", "Klarvik %1 is available"), stage.version),
+            .detail = filled(translate("Updates", "You have %1. The download is %2."), _running,
+                             _formatting.byteText(stage.bytes)),
             .notes = stage.notes,
             .notesLink = stage.notesLink,
-            .primary = "Install",
-            .secondary = "Later"};
+            .primary = translate("Updates", "Install").toStdString(),
+            .secondary = translate("Updates", "Later").toStdString()};
   }
   UpdateWindowContent operator()(const Downloading& stage) const {
-    return {
-        .title = "Downloading Klarvik " + stage.version + "…",
-        .detail = _formatting.byteText(stage.received) + " of " + _formatting.byteText(stage.total),
-        .progress = static_cast<double>(stage.received) / static_cast<double>(stage.total),
-        .secondary = "Cancel"};
+    return {.title = filled(translate("Updates", "Downloading Klarvik %1…"), stage.version),
+            .detail = filled(translate("Updates", "%1 of %2"), _formatting.byteText(stage.received),
+                             _formatting.byteText(stage.total)),
+            .progress = static_cast<double>(stage.received) / static_cast<double>(stage.total),
+            .secondary = translate("Kit", "Cancel").toStdString()};
   }
   UpdateWindowContent operator()(const Verifying& stage) const {
-    return {.title = "Checking Klarvik " + stage.version + "…",
-            .detail = "Only what the makers of Klarvik have signed is accepted.",
-            .progress = UpdateWindowContent::barWithoutEnd,
-            .secondary = "Cancel"};
+    return {
+        .title = filled(translate("Updates", "Checking Klarvik %1…"), stage.version),
+        .detail = translate("Updates", "Only what the makers of Klarvik have signed is accepted.")
+                      .toStdString(),
+        .progress = UpdateWindowContent::barWithoutEnd,
+        .secondary = translate("Kit", "Cancel").toStdString()};
   }
   UpdateWindowContent operator()(const Delivered& stage) const {
-    return {.title = "Klarvik " + stage.version + " is ready to install",
-            .detail = stage.fileName + " is in your Downloads folder.",
-            .primary = "Open Installer",
-            .secondary = "Done"};
+    return {
+        .title = filled(translate("Updates", "Klarvik %1 is ready to install"), stage.version),
+        .detail = filled(translate("Updates", "%1 is in your Downloads folder."), stage.fileName),
+        .primary = translate("Updates", "Open Installer").toStdString(),
+        .secondary = translate("Updates", "Done").toStdString()};
   }
   UpdateWindowContent operator()(const UpToDate&) const {
-    return {.title = "Klarvik is up to date",
-            .detail = _running + " is the newest version.",
-            .secondary = "OK"};
+    return {.title = translate("Updates", "Klarvik is up to date").toStdString(),
+            .detail = filled(translate("Updates", "%1 is the newest version."), _running),
+            .secondary = translate("Updates", "OK").toStdString()};
   }
   UpdateWindowContent operator()(const Failed& stage) const {
     const bool isAboutTheFeed = stage.error.code == updater_code::feedNotUsable;
-    return {
-        .title = isAboutTheFeed ? "Could not check for updates" : "The update cannot be installed",
-        .detail = updateErrorText(stage.error),
-        .secondary = "OK"};
+    return {.title = (isAboutTheFeed ? translate("Updates", "Could not check for updates")
+                                     : translate("Updates", "The update cannot be installed"))
+                         .toStdString(),
+            .detail = updateErrorText(stage.error),
+            .secondary = translate("Updates", "OK").toStdString()};
   }
 
  private:

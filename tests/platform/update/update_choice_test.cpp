@@ -50,7 +50,7 @@ class UpdateChoice : public ::testing::Test {
   }
   std::string chosenAsTheyAre(const std::vector<AppcastItem>& items) const {
     const auto choice = chooseUpdate(items, program, mostBytes);
-    if (const auto* error = std::get_if<UpdaterError>(&choice)) return error->localizedDescription;
+    if (const auto* error = std::get_if<UpdaterError>(&choice)) return error->description.english();
     const auto* offer = std::get_if<UpdateOffer>(&choice);
     return offer != nullptr ? offer->version : "";
   }

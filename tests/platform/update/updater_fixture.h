@@ -124,7 +124,7 @@ class UpdaterFixture : public ::testing::Test {
   }
   /// What came in the way of the last check or installation: the sentence, and below it the code of
   /// the network's error where there is one.
-  [[nodiscard]] std::string sentence() const { return delegate.lastError.localizedDescription; }
+  [[nodiscard]] std::string sentence() const { return delegate.lastError.description.english(); }
   [[nodiscard]] std::int64_t urlCode() const {
     const auto& below = delegate.lastError.underlying;
     return below != nullptr && below->domain == urlErrorDomain ? below->code : 0;
