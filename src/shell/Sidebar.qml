@@ -112,7 +112,7 @@ Rectangle {
             x: applicationMenu.width - menu.width
             y: applicationMenu.height + 4
             entries: applicationMenu.commands.titles
-            hints: applicationMenu.commands.shortcuts
+            hints: applicationMenu.commands.hints
             onChosen: index => applicationMenu.commands.run(index)
         }
     }

@@ -1,5 +1,6 @@
 #include "shell/app_commands_model.h"
 
+#include <QKeySequence>
 #include <utility>
 
 #include "translation/translation.h"
@@ -23,6 +24,14 @@ QStringList AppCommandsModel::shortcuts() const {
   QStringList shortcuts;
   for (const AppCommand& command : _commands) shortcuts << command.shortcut;
   return shortcuts;
+}
+
+QStringList AppCommandsModel::hints() const {
+  QStringList hints;
+  for (const AppCommand& command : _commands) {
+    hints << QKeySequence(command.shortcut).toString(QKeySequence::NativeText);
+  }
+  return hints;
 }
 
 void AppCommandsModel::run(int index) const {

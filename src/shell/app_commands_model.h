@@ -25,6 +25,7 @@ class AppCommandsModel : public QObject {
   QML_UNCREATABLE("The program makes it.")
   Q_PROPERTY(QList<QString> titles READ titles CONSTANT)
   Q_PROPERTY(QList<QString> shortcuts READ shortcuts CONSTANT)
+  Q_PROPERTY(QList<QString> hints READ hints CONSTANT)
 
  public:
   explicit AppCommandsModel(std::vector<AppCommand> commands, QObject* parent = nullptr);
@@ -32,6 +33,8 @@ class AppCommandsModel : public QObject {
   [[nodiscard]] QStringList titles() const;
   /// In the order of `titles`.
   [[nodiscard]] QStringList shortcuts() const;
+  /// The shortcuts as the keys are called in the language of the user.
+  [[nodiscard]] QStringList hints() const;
   Q_INVOKABLE void run(int index) const;
 
  private:

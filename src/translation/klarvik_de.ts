@@ -1031,7 +1031,7 @@
     </message>
     <message>
         <source>Browser Cache</source>
-        <translation>Browser-Cache</translation>
+        <translation>Cache</translation>
     </message>
     <message>
         <source>Browser Caches</source>
@@ -1039,11 +1039,11 @@
     </message>
     <message>
         <source>Browser Cookies</source>
-        <translation>Browser-Cookies</translation>
+        <translation>Cookies</translation>
     </message>
     <message>
         <source>Browser History</source>
-        <translation>Browserverlauf</translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Browser cookies and web storage. Deleting may log you out of websites.</source>
@@ -1887,11 +1887,11 @@
     </message>
     <message>
         <source>Klarvik finds what file managers hide</source>
-        <translation>Klarvik findet, was Dateiverwaltungen verbergen</translation>
+        <translation>Klarvik findet, was verborgen ist</translation>
     </message>
     <message>
         <source>Klarvik finds what the Finder hides</source>
-        <translation>Klarvik findet, was der Finder verbirgt</translation>
+        <translation>Findet, was der Finder verbirgt</translation>
     </message>
     <message>
         <source>LXC</source>
@@ -2139,7 +2139,7 @@
     </message>
     <message>
         <source>Needs Full Disk Access</source>
-        <translation>Braucht Festplattenvollzugriff</translation>
+        <translation>Vollzugriff nötig</translation>
     </message>
     <message>
         <source>Neither the system&apos;s nor in a home. Whoever made it knows whether it is still needed.</source>
@@ -2183,11 +2183,11 @@
     </message>
     <message>
         <source>Not analysed yet. Storage settings will not say what is in these folders. Klarvik will.</source>
-        <translation>Noch nicht analysiert. Was in diesen Ordnern liegt, verraten die Speichereinstellungen nicht. Klarvik schon.</translation>
+        <translation>Noch nicht analysiert. Klarvik zeigt, was in diesen Ordnern liegt.</translation>
     </message>
     <message>
         <source>Not analysed yet. Your file manager will not say where the space of the disk went. Klarvik will.</source>
-        <translation>Noch nicht analysiert. Wo der Platz geblieben ist, verrät die Dateiverwaltung nicht. Klarvik schon.</translation>
+        <translation>Noch nicht analysiert. Klarvik zeigt, wo der Platz geblieben ist.</translation>
     </message>
     <message>
         <source>Nothing found in /Applications.</source>
@@ -2523,11 +2523,11 @@
     </message>
     <message>
         <source>Rescan to see what this computer has recorded.</source>
-        <translation>Scannen Sie, um zu sehen, was dieser Computer aufgezeichnet hat.</translation>
+        <translation>Ein Scan zeigt, was dieser Computer aufgezeichnet hat.</translation>
     </message>
     <message>
         <source>Rescan to see what your Mac has recorded.</source>
-        <translation>Scannen Sie, um zu sehen, was Ihr Mac aufgezeichnet hat.</translation>
+        <translation>Ein Scan zeigt, was Ihr Mac aufgezeichnet hat.</translation>
     </message>
     <message>
         <source>Review items are things you might want back — build results, toolchains, what removed apps left behind. What goes to the Trash can be restored until you empty it.
@@ -3291,7 +3291,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Trash · needs Full Disk Access</source>
-        <translation>Papierkorb · braucht Festplattenvollzugriff</translation>
+        <translation>Papierkorb · Vollzugriff nötig</translation>
     </message>
     <message>
         <source>Trivy</source>
@@ -4104,7 +4104,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Add folder…</source>
-        <translation>Ordner hinzufügen …</translation>
+        <translation>Hinzufügen …</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -4193,7 +4193,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Full Disk Access</source>
-        <translation>Festplattenvollzugriff</translation>
+        <translation>Vollzugriff</translation>
     </message>
     <message>
         <source>Granted</source>
@@ -4270,7 +4270,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>DELETE</source>
-        <translation>LÖSCHEN</translation>
+        <translation>GEHT</translation>
     </message>
     <message>
         <source>Review</source>
@@ -4378,7 +4378,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Rescan to list the biggest files in your home folder.</source>
-        <translation>Suchen Sie, um die größten Dateien Ihres persönlichen Ordners aufzulisten.</translation>
+        <translation>Eine Suche zeigt die größten Dateien Ihres persönlichen Ordners.</translation>
     </message>
     <message>
         <source>Reading Documents, Desktop and Downloads needs Full Disk Access, so this one waits until you ask. Rescan and Klarvik will explain what macOS is about to request.</source>
@@ -4927,7 +4927,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>%1 · measuring…</source>
-        <translation>%1 · wird gemessen …</translation>
+        <translation>%1 · misst …</translation>
     </message>
     <message>
         <source>macOS keeps the Trash behind Full Disk Access</source>
@@ -5068,11 +5068,11 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Everything selected is marked Safe.</source>
-        <translation>Alles Ausgewählte gilt als sicher.</translation>
+        <translation>Alles davon gilt als sicher.</translation>
     </message>
     <message>
         <source>Your selection includes Review items.</source>
-        <translation>Ihre Auswahl enthält zu prüfende Objekte.</translation>
+        <translation>Enthält zu prüfende Objekte.</translation>
     </message>
     <message>
         <source>Items move to the Trash.</source>
@@ -5084,7 +5084,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>%1 moves to the Trash, %2 is removed for good.</source>
-        <translation>%1 kommen in den Papierkorb, %2 werden endgültig entfernt.</translation>
+        <translation>%1 in den Papierkorb, %2 endgültig gelöscht.</translation>
     </message>
     <message>
         <source>Used within the last day.</source>
@@ -5427,7 +5427,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <name>SystemDataView</name>
     <message>
         <source>Only rows marked Safe to remove or Review first can be selected. Everything goes to Trash.</source>
-        <translation>Auswählbar ist nur, was „Sicher entfernbar“ oder „Erst prüfen“ ist. Alles kommt in den Papierkorb.</translation>
+        <translation>Nur Sicheres und zu Prüfendes ist auswählbar. Alles kommt in den Papierkorb.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -5612,7 +5612,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Documents and unsynced data</source>
-        <translation>Dokumente und nicht abgeglichene Daten</translation>
+        <translation>Dokumente, eigene Daten</translation>
     </message>
     <message>
         <source>Diagnostics only</source>
@@ -5647,7 +5647,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Preferences and app data left behind on purpose. Everything goes to Trash.</source>
-        <translation>Einstellungen und App-Daten bleiben mit Absicht. Alles andere kommt in den Papierkorb.</translation>
+        <translation>Einstellungen und App-Daten bleiben absichtlich. Der Rest kommt in den Papierkorb.</translation>
     </message>
     <message>
         <source>Everything goes to Trash, so it can be put back.</source>
@@ -5667,7 +5667,7 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>The app and what is selected go to the Trash, and can be put back.</source>
-        <translation>Die App und das Ausgewählte kommen in den Papierkorb und lassen sich zurücklegen.</translation>
+        <translation>App und Auswahl kommen wiederherstellbar in den Papierkorb.</translation>
     </message>
     <message>
         <source>snapd removes the app, and keeps a snapshot of its data for 31 days.</source>
@@ -5675,11 +5675,11 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Flatpak removes the app. Selected leftovers go to the Trash, and can be put back.</source>
-        <translation>Flatpak entfernt die App. Ausgewählte Reste kommen in den Papierkorb und lassen sich zurücklegen.</translation>
+        <translation>Flatpak entfernt die App. Gewählte Reste kommen in den Papierkorb.</translation>
     </message>
     <message>
         <source>The app stays. Selected leftovers go to the Trash, and can be put back.</source>
-        <translation>Die App bleibt. Ausgewählte Reste kommen in den Papierkorb und lassen sich zurücklegen.</translation>
+        <translation>Die App bleibt. Gewählte Reste kommen in den Papierkorb.</translation>
     </message>
     <message>
         <source>Move Leftovers to Trash</source>
@@ -5889,11 +5889,11 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <name>WelcomePage</name>
     <message>
         <source>Every item is labelled Safe or Review before anything moves.</source>
-        <translation>Alles ist als „Sicher“ oder „Prüfen“ gekennzeichnet, bevor etwas geschieht.</translation>
+        <translation>Alles ist zuvor als „Sicher“ oder „Prüfen“ markiert.</translation>
     </message>
     <message>
         <source>Removals go to the Trash, so anything can be put back.</source>
-        <translation>Entferntes kommt in den Papierkorb und lässt sich zurücklegen.</translation>
+        <translation>Entferntes lässt sich aus dem Papierkorb zurücklegen.</translation>
     </message>
 </context>
 </TS>

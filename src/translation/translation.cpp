@@ -25,11 +25,20 @@ Spoken& spoken() {
   return state;
 }
 
-/// As it is written where the user lives, if the user's own locale is of that language.
-QLocale localeOf(const QString& language) {
-  const QLocale users = QLocale::system();
-  const QLocale spokenLocale(language);
-  return users.language() == spokenLocale.language() ? users : spokenLocale;
+/// Where the user lives, by the environment, such as "AT"; empty where it does not say. `LANGUAGE`
+/// names languages only.
+QString usersRegion() {
+  for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const QString locale = qEnvironmentVariable(variable);
+    if (!locale.isEmpty()) return locale.section('.', 0, 0).section('@', 0, 0).section('_', 1, 1);
+  }
+  return {};
+}
+
+/// The language as it is written where the user lives.
+QString localeOf(const QString& language) {
+  const QString region = usersRegion();
+  return region.isEmpty() || language.contains('_') ? language : language + '_' + region;
 }
 
 std::unique_ptr<QTranslator> installed(const QString& file, const QString& folder) {
@@ -67,7 +76,7 @@ void speak(const QString& language) {
   now.ofQt.reset();
   now.language = language;
   static const QLocale usual;
-  QLocale::setDefault(language == english ? usual : localeOf(language));
+  QLocale::setDefault(language == english ? usual : QLocale(localeOf(language)));
   if (language == english) return;
   now.ofQt = installed("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
   now.own = installed("klarvik_" + language, ":/i18n");
@@ -83,13 +92,7 @@ FormattingLanguage formattingLanguage() {
                               .bytes = translate("Formatting", "%1 bytes").toStdString(),
                               //: Six units, a blank between them.
                               .units = translate("Formatting", "KB MB GB TB PB EB").toStdString()};
-  // The user's own locale tells more than a language, where it is of that language.
-  const QString users = QLocale::system().name();
-  const QString spokenNow = spokenLanguage();
-  if (spokenNow != english && users.section('_', 0, 0) != spokenNow.section('_', 0, 0)) {
-    const QString region = users.section('_', 1, 1);
-    language.locale = (region.isEmpty() ? spokenNow : spokenNow + '_' + region).toStdString();
-  }
+  if (spokenLanguage() != english) language.locale = localeOf(spokenLanguage()).toStdString();
   return language;
 }
 

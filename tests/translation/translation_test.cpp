@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
+#include <array>
+#include <optional>
 
 #include "panes/kit/row_text.h"
 #include "panes/privacy/privacy_texts.h"
@@ -56,11 +58,7 @@ class TranslationTest : public ::testing::Test {
   void SetUp() override { speak("de"); }
   void TearDown() override { speak("en"); }
 
-  [[nodiscard]] Formatting formatting() const {
-    FormattingLanguage language = formattingLanguage();
-    language.locale = "de_DE";
-    return Formatting(language);
-  }
+  [[nodiscard]] Formatting formatting() const { return Formatting(formattingLanguage()); }
 };
 
 TEST_F(TranslationTest, TheFirstLanguageThatIsSpokenIsTaken) {
@@ -142,6 +140,35 @@ TEST_F(TranslationTest, CountsFollowThePluralsOfTheLanguage) {
             "1 Rest gefunden · insgesamt 2,5 MB");
 }
 
+TEST_F(TranslationTest, SizesAndDatesAreOfTheRegionThatTheEnvironmentNames) {
+  const auto localeIn = [](const char* all, const char* messages, const char* usual) {
+    qputenv("LC_ALL", all);
+    qputenv("LC_MESSAGES", messages);
+    qputenv("LANG", usual);
+    return formattingLanguage().locale.value_or("");
+  };
+  const std::array<const char*, 3> names{"LC_ALL", "LC_MESSAGES", "LANG"};
+  std::array<std::optional<QByteArray>, 3> before;
+  for (std::size_t at = 0; at < names.size(); ++at) {
+    if (qEnvironmentVariableIsSet(names[at])) before[at] = qgetenv(names[at]);
+  }
+  EXPECT_EQ(localeIn("", "", "de_AT.UTF-8"), "de_AT");
+  EXPECT_EQ(localeIn("", "de_CH@euro", "de_AT.UTF-8"), "de_CH");
+  EXPECT_EQ(localeIn("en_US.UTF-8", "de_CH", "de_AT"), "de_US");
+  EXPECT_EQ(localeIn("", "", "C.UTF-8"), "de");
+  EXPECT_EQ(localeIn("C", "de_CH", "de_AT"), "de");
+  EXPECT_EQ(localeIn("", "", ""), "de");
+  speak("en");
+  EXPECT_EQ(localeIn("", "", "de_AT.UTF-8"), "");
+  for (std::size_t at = 0; at < names.size(); ++at) {
+    if (before[at]) {
+      qputenv(names[at], *before[at]);
+    } else {
+      qunsetenv(names[at]);
+    }
+  }
+}
+
 TEST_F(TranslationTest, SizesAndDatesAreWrittenAsTheLanguageDoes) {
   const Formatting german = formatting();
   EXPECT_EQ(german.byteText(0), "0 KB");
@@ -174,10 +201,9 @@ TEST_F(TranslationTest, WordsOfTheDiskAreNoWordsOfTheProgram) {
 }
 
 TEST_F(TranslationTest, AHistoryThatWasStoredInEnglishIsReadInGerman) {
-  const QList<GrowthRow> rows =
-      growthRows({{.name = "App Caches", .delta = 1'500'000},
-                  {.name = "A category of old", .delta = 2'000'000}},
-                 formatting());
+  const QList<GrowthRow> rows = growthRows({{.name = "App Caches", .delta = 1'500'000},
+                                            {.name = "A category of old", .delta = 2'000'000}},
+                                           formatting());
   ASSERT_EQ(rows.size(), 2);
   EXPECT_EQ(rows[0].name, "App-Caches");
   EXPECT_EQ(rows[0].figure, "+1,5 MB");

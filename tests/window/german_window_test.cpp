@@ -71,8 +71,7 @@ class WordsInTwoLanguages : public WordsOfTheWindows {
     TearDown();
     speak("de");
     SetUp();
-    FormattingLanguage language = formattingLanguage();
-    language.locale = "de_DE";
+    const FormattingLanguage language = formattingLanguage();
     std::destroy_at(&desk->formatting);
     std::construct_at(&desk->formatting, language);
     seen.clear();
