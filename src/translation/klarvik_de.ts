@@ -111,6 +111,13 @@
     </message>
 </context>
 <context>
+    <name>DuplicateRow</name>
+    <message>
+        <source>Keep this</source>
+        <translation>Diese behalten</translation>
+    </message>
+</context>
+<context>
     <name>DuplicateTable</name>
     <message>
         <source>Groups of equal files</source>
@@ -4109,6 +4116,26 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>Keep</source>
         <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Fewer</source>
+        <translation>Weniger</translation>
+    </message>
+    <message>
+        <source>+%1 more</source>
+        <translation>+%1 weitere</translation>
+    </message>
+    <message>
+        <source>Show all folders</source>
+        <translation>Alle Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Put %1 back</source>
+        <translation>%1 wieder aufnehmen</translation>
     </message>
 </context>
 <context>
