@@ -48,28 +48,29 @@ QString AppShellModel::notice() const {
 QString AppShellModel::removalHeadline() const {
   const auto& removal = _lastRemoval.summary();
   if (!removal) return {};
-  const auto counted = [](std::int64_t count, const QString& one, const QString& many) {
-    return count == 1 ? one : many.arg(count);
-  };
   if (!removal->restoredCount) {
-    return counted(removal->itemCount, tr("1 item moved to the Trash"),
-                   tr("%1 items moved to the Trash"));
+    return removal->itemCount == 1 ? translate("Shell", "1 item moved to the Trash")
+                                   : translate("Shell", "%n items moved to the Trash", nullptr,
+                                               plural(removal->itemCount));
   }
-  return counted(*removal->restoredCount, tr("1 item is back where it was"),
-                 tr("%1 items are back where they were"));
+  return *removal->restoredCount == 1 ? translate("Shell", "1 item is back where it was")
+                                      : translate("Shell", "%n items are back where they were",
+                                                  nullptr, plural(*removal->restoredCount));
 }
 
 QString AppShellModel::removalDetail() const {
   const auto& removal = _lastRemoval.summary();
   if (!removal) return {};
   if (!removal->restoredCount) {
-    return tr("%1. The space is free once the Trash is emptied.")
+    return translate("Shell", "%1. The space is free once the Trash is emptied.")
         .arg(byteText(removal->bytes, _formatting));
   }
   return *removal->restoredCount == removal->itemCount
-             ? tr("Scan again to see them in the list.")
-             : tr("The others stay in the Trash: something stands in their places, or they have "
-                  "gone from it.");
+             ? translate("Shell", "Scan again to see them in the list.")
+             : translate(
+                   "Shell",
+                   "The others stay in the Trash: something stands in their places, or they have "
+                   "gone from it.");
 }
 
 bool AppShellModel::canRestore() const {

@@ -19,6 +19,10 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
 </context>
 <context>
     <name>AppTable</name>
@@ -4988,6 +4992,40 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>They hold until Klarvik quits. Is the disk full, or the folder of settings read-only?</source>
         <translation>Sie gelten, bis Klarvik beendet wird. Ist der Datenträger voll oder der Ordner der Einstellungen schreibgeschützt?</translation>
+    </message>
+    <message>
+        <source>1 item moved to the Trash</source>
+        <translation>1 Objekt in den Papierkorb gelegt</translation>
+    </message>
+    <message>
+        <source>1 item is back where it was</source>
+        <translation>1 Objekt ist wieder an seinem Ort</translation>
+    </message>
+    <message>
+        <source>%1. The space is free once the Trash is emptied.</source>
+        <translation>%1. Der Platz wird frei, wenn der Papierkorb geleert wird.</translation>
+    </message>
+    <message>
+        <source>Scan again to see them in the list.</source>
+        <translation>Suchen Sie erneut, damit sie wieder in der Liste stehen.</translation>
+    </message>
+    <message>
+        <source>The others stay in the Trash: something stands in their places, or they have gone from it.</source>
+        <translation>Die anderen bleiben im Papierkorb: An ihrem Ort steht etwas anderes, oder sie sind nicht mehr darin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items moved to the Trash</source>
+        <translation>
+            <numerusform>%n Objekt in den Papierkorb gelegt</numerusform>
+            <numerusform>%n Objekte in den Papierkorb gelegt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items are back where they were</source>
+        <translation>
+            <numerusform>%n Objekt ist wieder an seinem Ort</numerusform>
+            <numerusform>%n Objekte sind wieder an ihrem Ort</numerusform>
+        </translation>
     </message>
 </context>
 <context>
