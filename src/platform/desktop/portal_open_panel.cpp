@@ -44,11 +44,10 @@ std::optional<Path> pathOf(const QString& address) {
 
 }  // namespace
 
-PortalOpenPanel::PortalOpenPanel(const FileSystem& files, OpenPanel& fallback, QDBusConnection bus)
-    : _files(files),
-      _fallback(fallback),
-      _bus(std::move(bus)),
-      _portal(service, _bus, QDBusServiceWatcher::WatchForUnregistration) {
+PortalOpenPanel::PortalOpenPanel(const FileSystem& files, OpenPanel& fallback,
+                                 std::optional<QDBusConnection> bus)
+    : _files(files), _fallback(fallback), _bus(std::move(bus)) {
+  _portal.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
   connect(&_portal, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
     // The dialog has gone with the program that it belonged to.
     if (const Answer answer = close()) answer({});
@@ -59,10 +58,13 @@ void PortalOpenPanel::chooseFolders(const Request& request, Answer answer) {
   if (_answer) return;
   _request = request;
   _answer = std::move(answer);
+  if (!_bus) _bus = QDBusConnection::sessionBus();
+  _portal.setConnection(*_bus);
+  _portal.setWatchedServices({service});
   auto call =
       QDBusMessage::createMethodCall(service, object, "org.freedesktop.DBus.Properties", "Get");
   call << QString(fileChooser) << QStringLiteral("version");
-  whenAnswered(_bus.asyncCall(call), [this](const QDBusMessage& reply) {
+  whenAnswered(_bus->asyncCall(call), [this](const QDBusMessage& reply) {
     const auto version = reply.arguments().value(0).value<QDBusVariant>().variant().toUInt();
     if (version >= firstVersion) {
       open();
@@ -75,7 +77,7 @@ void PortalOpenPanel::chooseFolders(const Request& request, Answer answer) {
 void PortalOpenPanel::open() {
   const QString token =
       QStringLiteral("klarvik_%1_%2").arg(QCoreApplication::applicationPid()).arg(++_dialogs);
-  const QString sender = _bus.baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
+  const QString sender = _bus->baseService().mid(1).replace(QLatin1Char('.'), QLatin1Char('_'));
   listenTo(QStringLiteral("%1/request/%2/%3").arg(QLatin1String(object), sender, token));
 
   const QVariantMap options{
@@ -85,7 +87,7 @@ void PortalOpenPanel::open() {
   };
   auto call = QDBusMessage::createMethodCall(service, object, fileChooser, "OpenFile");
   call << frontWindow() << QString::fromStdString(_request.message) << options;
-  whenAnswered(_bus.asyncCall(call), [this](const QDBusMessage& reply) {
+  whenAnswered(_bus->asyncCall(call), [this](const QDBusMessage& reply) {
     // Old portals name the dialog themselves.
     const auto dialog = reply.arguments().value(0).value<QDBusObjectPath>().path();
     if (!dialog.isEmpty() && dialog != _dialog) listenTo(dialog);
@@ -94,8 +96,8 @@ void PortalOpenPanel::open() {
 
 void PortalOpenPanel::listenTo(const QString& dialog) {
   const auto change = [this](auto connecting) {
-    (_bus.*connecting)(service, _dialog, requestInterface, QStringLiteral("Response"), this,
-                       SLOT(responded(uint, QVariantMap)));
+    ((*_bus).*connecting)(service, _dialog, requestInterface, QStringLiteral("Response"), this,
+                          SLOT(responded(uint, QVariantMap)));
   };
   using Connecting = bool (QDBusConnection::*)(const QString&, const QString&, const QString&,
                                                const QString&, QObject*, const char*);

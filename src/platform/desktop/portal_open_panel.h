@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVariantMap>
 #include <functional>
+#include <optional>
 
 #include "platform/desktop_services.h"
 
@@ -19,8 +20,9 @@ class FileSystem;
 class PortalOpenPanel final : public QObject, public OpenPanel {
   Q_OBJECT
  public:
+  /// The user's session bus, unless another is named, is connected to when a dialog is asked for.
   PortalOpenPanel(const FileSystem& files, OpenPanel& fallback,
-                  QDBusConnection bus = QDBusConnection::sessionBus());
+                  std::optional<QDBusConnection> bus = std::nullopt);
 
   /// An open dialog belongs to another program, which alone can bring it to the front.
   void chooseFolders(const Request& request, Answer answer) override;
@@ -39,7 +41,7 @@ class PortalOpenPanel final : public QObject, public OpenPanel {
 
   const FileSystem& _files;
   OpenPanel& _fallback;
-  QDBusConnection _bus;
+  std::optional<QDBusConnection> _bus;
   QDBusServiceWatcher _portal;
   Request _request;
   Answer _answer;   // empty while no dialog is open
