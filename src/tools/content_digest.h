@@ -42,7 +42,7 @@ class Sha256 {
 /// Hashes whole files, one after the other, through one buffer. One thread at a time.
 class ContentHasher {
  public:
-  static constexpr std::size_t chunkBytes = std::size_t{4} * 1024 * 1024;
+  static constexpr std::size_t chunkBytes = std::size_t{256} * 1024;
 
   /// Nothing where there is no file. When reading fails on the way, what was read until
   /// then is all that counts.

@@ -32,7 +32,8 @@ bool isOlder(const DuplicateFile& candidate, const DuplicateFile& best) {
 }
 
 auto depth(const DuplicateFile& file) {
-  return std::distance(file.url.begin(), file.url.end());
+  const Path path = file.url;
+  return std::distance(path.begin(), path.end());
 }
 
 bool isShallower(const DuplicateFile& candidate, const DuplicateFile& best) {

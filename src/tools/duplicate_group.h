@@ -13,13 +13,14 @@
 #include "platform/date.h"
 #include "platform/entry_identity.h"
 #include "platform/path.h"
+#include "tools/path_text.h"
 
 namespace klarvik {
 
 /// One copy of a content that the disk holds more than once.
 struct DuplicateFile {
   Uuid id = Uuid::random();  ///< valid within one result: selections refer to it
-  Path url = {};
+  PathText url = {};
   std::int64_t size = 0;                            ///< bytes; 0 when the file could not be asked
   std::optional<Date> modifiedDate = std::nullopt;  ///< nothing when the file could not be asked
   /// As it was found. Another thing that comes to its name later is not removed in its place.

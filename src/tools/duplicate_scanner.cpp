@@ -24,7 +24,7 @@ namespace {
 constexpr std::array<std::string_view, 5> skippedNames{"node_modules", ".git", ".build", "Pods",
                                                        "__pycache__"};
 constexpr std::size_t filesAReport = 10;
-constexpr std::size_t greatestWidth = 12;  // each has a buffer of 4 MiB
+constexpr std::size_t greatestWidth = 12;  // each has a buffer of its own
 
 using FileNumbers = std::vector<std::size_t>;
 
@@ -198,6 +198,7 @@ DuplicateFile duplicateFile(FoundFileAccess& access, const FoundFiles& found, st
 DuplicateGroup duplicateGroup(FoundFileAccess& access, const FoundFiles& found,
                               const Digest& digest, const FileNumbers& holders) {
   DuplicateGroup group{.hash = hexadecimal(digest), .files = {}};
+  group.files.reserve(holders.size());
   for (const std::size_t number : holders) {
     group.files.push_back(duplicateFile(access, found, number));
   }
@@ -238,6 +239,7 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
 
   report(0.97, 0, QT_TRANSLATE_NOOP("Engine", "Building results..."));
   std::vector<DuplicateGroup> groups;
+  groups.reserve(static_cast<std::size_t>(contents.shared()));
   FoundFileAccess access(_files, found);
   contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
     groups.push_back(duplicateGroup(access, found, digest, holders));

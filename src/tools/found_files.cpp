@@ -51,10 +51,12 @@ std::string FoundFiles::pathOfFolder(std::size_t folder) const {
   return text;
 }
 
-Path FoundFiles::path(std::size_t number) const {
+std::string FoundFiles::path(std::size_t number) const {
   std::string text = pathOfFolder(_files[number].folder);
   if (text.back() != '/') text.push_back('/');
-  return Path(text.append(name(number)));
+  text.append(_names.data() + _files[number].name);
+  text.shrink_to_fit();
+  return text;
 }
 
 std::string FoundFiles::name(std::size_t number) const {

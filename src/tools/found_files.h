@@ -20,7 +20,7 @@ class FoundFiles {
   void add(const WalkEntry& entry);
 
   [[nodiscard]] std::size_t size() const { return _files.size(); }
-  [[nodiscard]] Path path(std::size_t number) const;
+  [[nodiscard]] std::string path(std::size_t number) const;
   /// Bytes of the last path component.
   [[nodiscard]] std::string name(std::size_t number) const;
 
