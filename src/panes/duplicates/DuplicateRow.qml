@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.Panes
 
 /// A group of equal files, or one of its copies.
 ToolDetailRow {

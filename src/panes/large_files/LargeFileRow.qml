@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
-import Klarvik.Panes
 
 /// One file: its name above its folder, and what there is to know of it.
 ToolDetailRow {

@@ -1,6 +1,5 @@
 import QtQuick
 import Klarvik.Kit
-import Klarvik.Panes
 
 /// The column headings that the tables of this pane share.
 ColumnHeader {
