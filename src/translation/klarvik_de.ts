@@ -4821,6 +4821,10 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <source>Empty Trash</source>
         <translation>Papierkorb leeren</translation>
     </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>ReviewTable</name>

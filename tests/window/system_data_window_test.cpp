@@ -123,6 +123,9 @@ TEST_F(SystemDataWindow, MovesASelectedRowToTheTrashAfterAskingAndEmptiesIt) {
   ASSERT_TRUE(turnUntil([this] { return shows("The space is back."); }));
   EXPECT_EQ(trashCount(), 0U);
   picture("system_data-space_back");
+  click("Dismiss");
+  settle();
+  EXPECT_FALSE(shows("The space is back."));
 }
 
 TEST_F(SystemDataWindow, GivesProtectedRowsNoBoxThatWorks) {

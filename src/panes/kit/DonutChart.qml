@@ -69,11 +69,16 @@ Item {
         anchors.centerIn: parent
         spacing: 1
 
+        // A long figure gets smaller before it comes to the ring.
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
+            width: (root.size - 2 * root.thickness) * 0.84
             text: root.centerTitle
             size: 21
             weight: Font.DemiBold
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
+            horizontalAlignment: Text.AlignHCenter
         }
 
         Label {

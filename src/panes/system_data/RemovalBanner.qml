@@ -22,4 +22,10 @@ ResultBanner {
         title: qsTr("Empty Trash")
         onAction: root.model.emptyTrash()
     }
+
+    SymbolButton {
+        symbol: "xmark"
+        title: qsTr("Dismiss")
+        onAction: root.model.dismissBanner()
+    }
 }

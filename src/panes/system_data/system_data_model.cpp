@@ -285,6 +285,11 @@ void SystemDataModel::finishRemoval(const std::vector<SystemDataItem>& items,
   emit bannerChanged();
 }
 
+void SystemDataModel::dismissBanner() {
+  _lastRemoval.reset();
+  emit bannerChanged();
+}
+
 void SystemDataModel::findingsChanged() {
   _table.syncRows();
   const bool isStillThere = std::ranges::any_of(_findings.kinds(), [this](const auto& kind) {

@@ -145,6 +145,7 @@ class SystemDataModel : public klarvik::ToolPane {
   Q_INVOKABLE void cancelConfirmation();
   Q_INVOKABLE void stopRemoval();
   Q_INVOKABLE void emptyTrash();
+  Q_INVOKABLE void dismissBanner();
   /// For the words of the legend that no finding stands behind yet; by the number of an
   /// `ItemSafety`.
   Q_INVOKABLE [[nodiscard]] QString safetyText(int safety) const;
