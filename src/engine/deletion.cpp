@@ -1,5 +1,7 @@
 // Every removal of a found item or a picked file, and the way back.
 
+#include <algorithm>
+
 #include "base/bytes.h"
 #include "base/parallel_for.h"
 #include "base/paths.h"
