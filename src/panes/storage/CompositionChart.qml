@@ -16,7 +16,7 @@ Item {
     readonly property int widestColumn: 340
     readonly property int rowCount: root.model.legend.length
     readonly property real legendRoom: root.width - chart.x - chart.width - root.gap
-    readonly property int columnCount: Math.max(1, Math.min(Math.floor(root.legendRoom / root.narrowestColumn), Math.ceil(root.rowCount / 5)))
+    readonly property int columnCount: Math.max(1, Math.min(Math.floor(root.legendRoom / root.narrowestColumn), Math.ceil(root.rowCount / 7)))
     readonly property int columnWidth: Math.min(root.widestColumn, Math.floor(root.legendRoom / root.columnCount))
 
     implicitHeight: Math.max(chart.height, legend.height)
