@@ -134,6 +134,65 @@ TEST_F(StorageWindow, IsUsedFromTheKeyboardAlone) {
   ASSERT_TRUE(turnUntil([this] { return shows("Re-measure"); }));
 }
 
+class StorageWindowOfALinuxHome : public EmptyHomeWindowFixture {
+ protected:
+  StorageWindowOfALinuxHome() { home = linuxHome; }
+
+  void SetUp() override {
+    EmptyHomeWindowFixture::SetUp();
+    for (const char* const film : {"long", "longer", "longest"}) {
+      desk->disk.makeFile(home / "Videos/films" / film, std::string(film).size() * 100'000);
+    }
+    desk->disk.makeFile(home / "Videos/clip", 50'000);
+    desk->volume.setTotalBytes(4'000'000);
+    desk->volume.setAvailableBytes(1'000'000);
+    shared->diskMonitor().refreshNow();
+  }
+};
+
+TEST_F(StorageWindowOfALinuxHome, OpensAShareDownToItsFilesAndMovesOneToTheTrash) {
+  openWindow();
+  click("Storage");
+  settle();
+  click("Measure");
+  ASSERT_TRUE(turnUntil([this] { return shows("Re-measure"); }));
+  settle();
+  click("Videos");
+  ASSERT_TRUE(turnUntil([this] { return shows("films"); }));
+  settle();
+  picture("storage-drill");
+  press(Qt::Key_Return);
+  settle();
+  ASSERT_TRUE(shows("longest"));
+  EXPECT_FALSE(shows("clip"));
+  press(Qt::Key_Tab);
+  ASSERT_TRUE(tabTo("Move to Trash"));
+  press(Qt::Key_Space);
+  settle();
+  EXPECT_TRUE(shows("Move “longest” to Trash?"));
+  picture("storage-drill-question");
+  click("Cancel");
+  settle();
+  EXPECT_TRUE(homeHolds("Videos/films/longest"));
+
+  ASSERT_TRUE(tabTo("Move to Trash"));
+  press(Qt::Key_Space);
+  settle();
+  press(Qt::Key_Tab);
+  press(Qt::Key_Return);
+  ASSERT_TRUE(turnUntil([this] { return shows("1 item moved to the Trash"); }));
+  settle();
+  EXPECT_FALSE(homeHolds("Videos/films/longest"));
+  EXPECT_TRUE(homeHolds("Videos/films/longer"));
+  EXPECT_EQ(trashCount(), 1U);
+  picture("storage-drill-after");
+  click("Restore");
+  ASSERT_TRUE(turnUntil([this] { return homeHolds("Videos/films/longest"); }));
+  press(Qt::Key_Backspace);
+  settle();
+  EXPECT_TRUE(shows("clip"));
+}
+
 TEST_F(StorageWindow, CanBeClosedInMidMeasurement) {
   const Listing before = listing("/Users/ann/Library");
   openStorage();

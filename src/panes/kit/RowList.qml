@@ -20,8 +20,9 @@ ToolListView {
 
     function takePress(row: int) {
         root.currentIndex = row;
+        // The row, and not a button in it that had the focus before.
         if (root.pressTakesFocus)
-            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.currentItem.forceActiveFocus(Qt.MouseFocusReason);
     }
 
     // A key that is held is one press.

@@ -106,7 +106,10 @@ RowFrame {
             help: title
             size: 12
             color: Theme.textTertiary
-            onAction: root.browser.requestTrash(root.index)
+            onAction: {
+                root.takePress();
+                root.browser.requestTrash(root.index);
+            }
         }
     }
 

@@ -122,10 +122,19 @@ FocusScope {
                 name: qsTr("Folders and files, largest first")
                 model: root.browser
                 onActivated: row => root.browser.activate(row)
-                onCountChanged: currentIndex = count > 0 ? 0 : -1
 
                 delegate: FolderBrowserRow {
                     browser: root.browser
+                }
+            }
+
+            Connections {
+                target: root.browser
+
+                // Another level begins with its first row.
+                function onLevelChanged() {
+                    list.currentIndex = list.count > 0 ? 0 : -1;
+                    list.positionViewAtBeginning();
                 }
             }
         }

@@ -152,13 +152,31 @@ FolderSizes::Id FolderBrowser::topLevel() const {
   return starts.size() == 1 && starts.front().folder ? *starts.front().folder : FolderSizes::top;
 }
 
+std::vector<FolderSizes::Row> FolderBrowser::rowsOf(FolderSizes::Id folder) const {
+  std::vector<FolderSizes::Row> rows = _sizes.rows(folder);
+  std::erase_if(rows, [](const FolderSizes::Row& row) { return row.bytes < 1; });
+  return rows;
+}
+
 void FolderBrowser::show(FolderSizes::Id folder) {
   beginResetModel();
   _folder = folder;
-  _rows = _sizes.rows(folder);
-  std::erase_if(_rows, [](const FolderSizes::Row& row) { return row.bytes < 1; });
+  _rows = rowsOf(folder);
   endResetModel();
   emit levelChanged();
+  emit statusChanged();
+}
+
+/// The rows that stay keep their places on the screen, where only the one has gone.
+void FolderBrowser::showWithout(const Path& gone) {
+  std::vector<FolderSizes::Row> rows = rowsOf(_folder);
+  const auto row = std::ranges::find(_rows, gone, &FolderSizes::Row::path);
+  if (row == _rows.end() || rows.size() + 1 != _rows.size()) return show(_folder);
+  const auto at = static_cast<int>(row - _rows.begin());
+  beginRemoveRows({}, at, at);
+  _rows = std::move(rows);
+  endRemoveRows();
+  if (!_rows.empty()) emit dataChanged(index(0), index(rowCount() - 1));
   emit statusChanged();
 }
 
@@ -268,7 +286,11 @@ QCoro::Task<> FolderBrowser::trash(Asked asked) {
   if (_isOpen && !isMeasuring() && asked.opening == _openings) {
     _sizes.remove(asked.folder, asked.row.path);
     const bool isInside = isBelow((_sizes.path(_folder) / "x").native(), asked.row.path.native());
-    show(isInside ? asked.folder : _folder);
+    if (isInside) {
+      show(asked.folder);
+    } else {
+      showWithout(asked.row.path);
+    }
   }
   _desktop.notifications.post(diskChangedNotification);
 }

@@ -118,7 +118,9 @@ class FolderBrowser : public QAbstractListModel {
   };
 
   void finishMeasuring(FolderSizes sizes);
+  [[nodiscard]] std::vector<FolderSizes::Row> rowsOf(FolderSizes::Id folder) const;
   void show(FolderSizes::Id folder);
+  void showWithout(const Path& gone);
   [[nodiscard]] FolderSizes::Id topLevel() const;
   [[nodiscard]] bool mayTrash(const FolderSizes::Row& row) const;
   QCoro::Task<> trash(Asked asked);

@@ -107,9 +107,12 @@ TEST_F(FolderBrowserTest, MovesARowToTheTrashOnceItIsConfirmed) {
   browser.cancelTrash();
   EXPECT_FALSE(browser.isConfirming());
   EXPECT_TRUE(isThere("Documents/films/long"));
+  const QPersistentModelIndex shorter = browser.index(1);
   browser.requestTrash(0);
   browser.confirmTrash();
   ASSERT_TRUE(turnUntil([this] { return !browser.isDeleting() && browser.rowCount() == 1; }));
+  EXPECT_EQ(shorter.row(), 0) << "the list begins anew";
+  EXPECT_GT(shorter.data(FolderBrowser::ShareRole).toDouble(), 0.7);
   EXPECT_EQ(names(), QStringList{"short"});
   EXPECT_FALSE(isThere("Documents/films/long"));
   EXPECT_EQ(desk.desktop.trash.list().value_or(std::vector<Path>{}).size(), 1U);
