@@ -236,9 +236,11 @@ TEST_F(SystemToolsTest, EndsAtAStopFromAnotherThread) {
   std::stop_source stop;
   const Path begun = disk.onDisk("home/ann/begun");
   ASSERT_EQ(::mkfifo(begun.c_str(), 0600), 0);
+  // Stays open: the signal of a pipe that nobody reads would end the tool before the stop does.
+  std::ifstream waiting;
   const std::jthread stopper([&] {
     // Opened as soon as the tool writes.
-    const std::ifstream waiting(begun);
+    waiting.open(begun);
     stop.request_stop();
   });
   const ToolResult result = runScript("sleep 600 & echo $! > child; echo > begun; wait",

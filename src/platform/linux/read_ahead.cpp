@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <chrono>
 #include <limits>
-#include <ranges>
 #include <system_error>
 #include <utility>
 
@@ -190,12 +189,11 @@ std::span<const ReadAhead::TaskPtr> ReadAhead::withinReach() const {
 }
 
 ReadAhead::TaskPtr ReadAhead::nextWaiting() {
-  for (const TaskPtr& task : withinReach() | std::views::reverse) {
-    if (!isWaiting(task)) continue;
-    task->state = State::begun;
-    return task;
-  }
-  return nullptr;
+  const std::span<const TaskPtr> reach = withinReach();
+  const auto task = std::find_if(reach.rbegin(), reach.rend(), isWaiting);
+  if (task == reach.rend()) return nullptr;
+  (*task)->state = State::begun;
+  return *task;
 }
 
 void ReadAhead::perform(Lock& lock, const TaskPtr& task, FolderReader& reader) {
