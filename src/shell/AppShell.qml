@@ -68,8 +68,8 @@ Item {
             id: removalBanner
 
             visible: root.shell.removalHeadline !== ""
-            symbol: "trash.fill"
-            symbolColor: Theme.textMuted
+            symbol: root.shell.isRestored ? "checkmark.circle.fill" : "trash.fill"
+            symbolColor: root.shell.isRestored ? Theme.safe : Theme.textMuted
             headline: root.shell.removalHeadline
             detail: root.shell.removalDetail
 

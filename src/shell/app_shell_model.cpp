@@ -65,12 +65,17 @@ QString AppShellModel::removalDetail() const {
     return translate("Shell", "%1. The space is free once the Trash is emptied.")
         .arg(byteText(removal->bytes, _formatting));
   }
-  return *removal->restoredCount == removal->itemCount
-             ? translate("Shell", "Scan again to see them in the list.")
+  return isRestored()
+             ? QString()
              : translate(
                    "Shell",
                    "The others stay in the Trash: something stands in their places, or they have "
                    "gone from it.");
+}
+
+bool AppShellModel::isRestored() const {
+  const auto& removal = _lastRemoval.summary();
+  return removal && removal->restoredCount == removal->itemCount;
 }
 
 bool AppShellModel::canRestore() const {

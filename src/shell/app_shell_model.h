@@ -35,6 +35,7 @@ class AppShellModel : public QObject {
   Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
   Q_PROPERTY(QString removalHeadline READ removalHeadline NOTIFY removalChanged)
   Q_PROPERTY(QString removalDetail READ removalDetail NOTIFY removalChanged)
+  Q_PROPERTY(bool isRestored READ isRestored NOTIFY removalChanged)
   Q_PROPERTY(bool canRestore READ canRestore NOTIFY removalChanged)
 
  public:
@@ -55,6 +56,7 @@ class AppShellModel : public QObject {
   /// What a tool has moved to the Trash, or put back; empty while there is nothing to tell.
   [[nodiscard]] QString removalHeadline() const;
   [[nodiscard]] QString removalDetail() const;
+  [[nodiscard]] bool isRestored() const;
   /// Nothing comes back from a Trash that was emptied.
   [[nodiscard]] bool canRestore() const;
   Q_INVOKABLE void restoreRemoval() { _lastRemoval.restore(); }

@@ -20,12 +20,13 @@ LastRemoval::~LastRemoval() {
   _work.finish();
 }
 
-void LastRemoval::tell(std::vector<TrashedItem> items) {
+void LastRemoval::tell(std::vector<TrashedItem> items, std::function<void()> whenRestored) {
   // What is being put back is told first.
   if (items.empty() || _isRestoring) return;
   _summary = Summary{.itemCount = static_cast<std::int64_t>(items.size())};
   for (const TrashedItem& item : items) _summary->bytes = addBytes(_summary->bytes, item.bytes);
   _work.deleteInBackground(std::exchange(_items, std::move(items)));
+  _whenRestored = std::move(whenRestored);
   emit changed();
 }
 
@@ -50,6 +51,7 @@ QCoro::Task<> LastRemoval::restore() {
   _notice.tell(leftAlone);
   emit changed();
   _desktop.notifications.post(diskChangedNotification);
+  if (_summary->restoredCount > 0 && _whenRestored) _whenRestored();
 }
 
 }  // namespace klarvik

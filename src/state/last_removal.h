@@ -3,6 +3,7 @@
 #include <QCoro/QCoroTask>
 #include <QObject>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <stop_token>
 #include <vector>
@@ -38,8 +39,9 @@ class LastRemoval : public QObject {
   /// Whether something can be put back, and nobody does so already.
   [[nodiscard]] bool canRestore() const { return !_items.empty() && !_isRestoring; }
 
-  /// At the end of a removal. One that moved nothing is no news.
-  void tell(std::vector<TrashedItem> items);
+  /// At the end of a removal. One that moved nothing is no news. `whenRestored` is called once
+  /// something of it was put back.
+  void tell(std::vector<TrashedItem> items, std::function<void()> whenRestored = {});
   void dismiss();
   QCoro::Task<> restore();
 
@@ -51,6 +53,7 @@ class LastRemoval : public QObject {
   RemovalNotice& _notice;
   std::optional<Summary> _summary;
   std::vector<TrashedItem> _items;  // that can be put back
+  std::function<void()> _whenRestored;
   bool _isRestoring = false;
   std::stop_source _lifetime;
   BackgroundTasks _work;

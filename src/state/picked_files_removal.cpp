@@ -1,5 +1,6 @@
 #include "state/picked_files_removal.h"
 
+#include <QPointer>
 #include <utility>
 
 #include "platform/main_loop/coalescing_queue.h"
@@ -37,7 +38,11 @@ QCoro::Task<std::set<Path>> PickedFilesRemoval::trash(std::size_t count,
   std::set<Path> moved = co_await runInBackground(_work, std::move(move));
   reports.empty();
   _notice.tell(leftAlone);
-  if (_lastRemoval != nullptr) _lastRemoval->tell(std::move(trashed));
+  if (_lastRemoval != nullptr) {
+    _lastRemoval->tell(std::move(trashed), [removal = QPointer(this)] {
+      if (removal) emit removal->restored();
+    });
+  }
 
   _isRunning = false;
   _progress.reset();

@@ -63,6 +63,8 @@ class PickedFilesRemoval : public QObject {
 
  signals:
   void changed();
+  /// The user has put back files of the last removal: what was found is no longer all there is.
+  void restored();
 
  private:
   const Desktop& _desktop;

@@ -5010,10 +5010,6 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <translation>%1. Der Platz wird frei, wenn der Papierkorb geleert wird.</translation>
     </message>
     <message>
-        <source>Scan again to see them in the list.</source>
-        <translation>Suchen Sie erneut, damit sie wieder in der Liste stehen.</translation>
-    </message>
-    <message>
         <source>The others stay in the Trash: something stands in their places, or they have gone from it.</source>
         <translation>Die anderen bleiben im Papierkorb: An ihrem Ort steht etwas anderes, oder sie sind nicht mehr darin.</translation>
     </message>

@@ -76,6 +76,18 @@ TEST_F(LastRemovalTest, WhatHasGoneFromTheTrashIsNotCounted) {
   EXPECT_EQ(removal.summary()->restoredCount, 1);
 }
 
+TEST_F(LastRemovalTest, TellsWhoRemovedItOnlyWhereSomethingCameBack) {
+  int told = 0;
+  const Path file = "/Users/ann/Documents/a";
+  removal.tell({trash(file)}, [&] { ++told; });
+  desktop.disk.addFile(file, 7);
+  restore();
+  EXPECT_EQ(told, 0);
+  removal.tell({trash("/Users/ann/Documents/b")}, [&] { ++told; });
+  restore();
+  EXPECT_EQ(told, 1);
+}
+
 TEST_F(LastRemovalTest, TheNextOneTakesItsPlace) {
   removal.tell({trash("/Users/ann/Documents/a")});
   removal.tell({trash("/Users/ann/Documents/b"), trash("/Users/ann/Documents/c")});

@@ -49,6 +49,7 @@ DuplicateFinderModel::DuplicateFinderModel(SharedState& shared, const Desktop& d
   _scanDirs =
       withoutNested({shown.documents, shown.downloads, shown.desktop}, desktop.files.home());
   connect(&_removal, &PickedFilesRemoval::changed, this, &DuplicateFinderModel::deletionChanged);
+  connect(&_removal, &PickedFilesRemoval::restored, this, &DuplicateFinderModel::startScan);
 }
 
 DuplicateFinderModel::~DuplicateFinderModel() {

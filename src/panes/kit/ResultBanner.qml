@@ -67,6 +67,7 @@ Item {
 
             Label {
                 Layout.fillWidth: true
+                visible: root.detail !== ""
                 text: Kit.withSizesUnbroken(root.detail)
                 color: Theme.textSecondary
                 size: 12

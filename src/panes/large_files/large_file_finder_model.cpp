@@ -40,6 +40,7 @@ LargeFileFinderModel::LargeFileFinderModel(SharedState& shared, const Desktop& d
   connect(&_permissions, &PermissionsManager::hasFullDiskAccessChanged, this,
           &LargeFileFinderModel::placeholderChanged);
   connect(&_removal, &PickedFilesRemoval::changed, this, &LargeFileFinderModel::deletionChanged);
+  connect(&_removal, &PickedFilesRemoval::restored, this, &LargeFileFinderModel::startScan);
 }
 
 LargeFileFinderModel::~LargeFileFinderModel() {

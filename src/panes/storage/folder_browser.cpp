@@ -53,6 +53,9 @@ FolderBrowser::FolderBrowser(SharedState& shared, const Desktop& desktop, QObjec
       _removal(desktop, shared.removalNotice(), &shared.lastRemoval()),
       _measurement(desktop.clock) {
   connect(&_removal, &PickedFilesRemoval::changed, this, &FolderBrowser::removalChanged);
+  connect(&_removal, &PickedFilesRemoval::restored, this, [this] {
+    if (_isOpen) open(_area);
+  });
 }
 
 FolderBrowser::~FolderBrowser() {
