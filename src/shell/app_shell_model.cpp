@@ -49,6 +49,9 @@ QString AppShellModel::removalHeadline() const {
   const auto& removal = _lastRemoval.summary();
   if (!removal) return {};
   if (!removal->restoredCount) {
+    if (!removal->application.empty()) {
+      return translate("Shell", "“%1” is uninstalled").arg(printableText(removal->application));
+    }
     return removal->itemCount == 1 ? translate("Shell", "1 item moved to the Trash")
                                    : translate("Shell", "%n items moved to the Trash", nullptr,
                                                plural(removal->itemCount));
@@ -62,6 +65,7 @@ QString AppShellModel::removalDetail() const {
   const auto& removal = _lastRemoval.summary();
   if (!removal) return {};
   if (!removal->restoredCount) {
+    if (removal->itemCount == 0) return {};
     return translate("Shell", "%1. The space is free once the Trash is emptied.")
         .arg(byteText(removal->bytes, _formatting));
   }

@@ -21,10 +21,21 @@ LastRemoval::~LastRemoval() {
 }
 
 void LastRemoval::tell(std::vector<TrashedItem> items, std::function<void()> whenRestored) {
+  if (!items.empty()) show({}, std::move(items), std::move(whenRestored));
+}
+
+void LastRemoval::tellUninstalled(std::string application, std::vector<TrashedItem> items,
+                                  std::function<void()> whenRestored) {
+  show({.application = std::move(application)}, std::move(items), std::move(whenRestored));
+}
+
+void LastRemoval::show(Summary summary, std::vector<TrashedItem> items,
+                       std::function<void()> whenRestored) {
   // What is being put back is told first.
-  if (items.empty() || _isRestoring) return;
-  _summary = Summary{.itemCount = static_cast<std::int64_t>(items.size())};
-  for (const TrashedItem& item : items) _summary->bytes = addBytes(_summary->bytes, item.bytes);
+  if (_isRestoring) return;
+  summary.itemCount = static_cast<std::int64_t>(items.size());
+  for (const TrashedItem& item : items) summary.bytes = addBytes(summary.bytes, item.bytes);
+  _summary = std::move(summary);
   _work.deleteInBackground(std::exchange(_items, std::move(items)));
   _whenRestored = std::move(whenRestored);
   emit changed();

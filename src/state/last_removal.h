@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <stop_token>
+#include <string>
 #include <vector>
 
 #include "engine/trashed_item.h"
@@ -22,6 +23,8 @@ class LastRemoval : public QObject {
   Q_OBJECT
  public:
   struct Summary {
+    /// The application that was uninstalled; empty where files were removed.
+    std::string application{};
     std::int64_t itemCount = 0;
     std::int64_t bytes = 0;
     /// How many were put back; absent before anybody asked for it.
@@ -42,6 +45,9 @@ class LastRemoval : public QObject {
   /// At the end of a removal. One that moved nothing is no news. `whenRestored` is called once
   /// something of it was put back.
   void tell(std::vector<TrashedItem> items, std::function<void()> whenRestored = {});
+  /// At the end of the uninstalling of an application that is gone, wherever to.
+  void tellUninstalled(std::string application, std::vector<TrashedItem> items,
+                       std::function<void()> whenRestored);
   void dismiss();
   QCoro::Task<> restore();
 
@@ -49,6 +55,8 @@ class LastRemoval : public QObject {
   void changed();
 
  private:
+  void show(Summary summary, std::vector<TrashedItem> items, std::function<void()> whenRestored);
+
   const Desktop& _desktop;
   RemovalNotice& _notice;
   std::optional<Summary> _summary;

@@ -81,18 +81,6 @@ bool isRunning(const RunningPrograms& programs, const AppInfo& app) {
   return false;
 }
 
-/// No rule is asked for an application that the user chose to remove: it can be put back.
-bool moveToTrash(const Platform& platform, const AppInfo& app, LeftAlone* leftAlone) {
-  const Path named = standardizedPath(app.appURL);
-  const auto isTheApp = [&](const Path&, const FileAttributes& item) {
-    return entryIdentity(item) == app.identity;
-  };
-  if (!isApplicationName(named)) return false;
-  const bool moved = platform.trash.moveToTrash(named, isTheApp).has_value();
-  if (!moved) countIfReplaced(platform.files, named, app.identity, leftAlone);
-  return moved;
-}
-
 }  // namespace
 
 UninstallerEngine::UninstallerEngine(const Platform& platform, LeftAlone* leftAlone)
@@ -155,8 +143,13 @@ UninstallOutcome UninstallerEngine::removeBundle(const AppInfo& app,
         removeIfAllowed(_platform.files, residual.url, scope, residual.identity, _leftAlone);
     if (isGone) outcome.freed = addBytes(outcome.freed, residual.size);
   }
-  outcome.isGone = moveToTrash(_platform, app, _leftAlone);
-  if (outcome.isGone) outcome.freed = addBytes(outcome.freed, app.appSize);
+  const Path named = standardizedPath(app.appURL);
+  // No rule is asked for an application that the user chose to remove: it can be put back.
+  const auto isTheApp = [&](const Path&, const FileAttributes& item) {
+    return entryIdentity(item) == app.identity;
+  };
+  outcome.isGone =
+      isApplicationName(named) && trash({named, {}, app.identity, app.appSize}, isTheApp, outcome);
   return outcome;
 }
 
@@ -177,35 +170,42 @@ UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
     outcome.freed = app.appSize;
   } else if (app.goesToTrash()) {
     const auto scope = DeletionScope::application();
-    outcome.isGone = trashIfAllowed(app.appURL, scope, app.identity);
+    outcome.isGone = trashIfAllowed({app.appURL, {}, app.identity, app.appSize}, scope, outcome);
     if (!outcome.isGone) {
       outcome.whyItStayed = words.appNotTrashed;
       return outcome;
     }
-    outcome.freed = app.appSize;
     for (const AppPart& part : app.parts) {
-      static_cast<void>(trashIfAllowed(part.path, scope, part.identity));
+      trashIfAllowed({part.path, {}, part.identity, 0}, scope, outcome);
     }
   }
   // Another application may have been installed since they were found.
   const auto identifiers = ownIdentifiers(files, app, InstalledApplications(_platform).all());
   const auto scope = DeletionScope::residual(identifiers);
   for (const ResidualFile& residual : residuals) {
-    if (trashIfAllowed(residual.url, scope, residual.identity)) {
-      outcome.freed = addBytes(outcome.freed, residual.size);
-    }
+    trashIfAllowed({residual.url, {}, residual.identity, residual.size}, scope, outcome);
   }
   return outcome;
 }
 
-bool UninstallerEngine::trashIfAllowed(const Path& path, const DeletionScope& scope,
-                                       const std::optional<EntryIdentity>& identity) {
-  const Path named = standardizedPath(path);
-  if (!identity || !mayRemove(_platform.files, named, scope)) return false;
-  const auto check = itemCheck(_platform.files, named, scope, identity);
-  const bool isGone = _platform.trash.moveToTrash(named, check).has_value();
-  if (!isGone) countIfReplaced(_platform.files, named, identity, _leftAlone);
-  return isGone;
+bool UninstallerEngine::trashIfAllowed(TrashedItem item, const DeletionScope& scope,
+                                       UninstallOutcome& outcome) {
+  item.original = standardizedPath(item.original);
+  if (!item.identity || !mayRemove(_platform.files, item.original, scope)) return false;
+  const auto check = itemCheck(_platform.files, item.original, scope, item.identity);
+  return trash(std::move(item), check, outcome);
+}
+
+bool UninstallerEngine::trash(TrashedItem item, const ItemCheck& check, UninstallOutcome& outcome) {
+  auto trashed = _platform.trash.moveToTrash(item.original, check);
+  if (!trashed) {
+    countIfReplaced(_platform.files, item.original, item.identity, _leftAlone);
+    return false;
+  }
+  item.trashed = *std::move(trashed);
+  outcome.freed = addBytes(outcome.freed, item.bytes);
+  outcome.trashed.push_back(std::move(item));
+  return true;
 }
 
 RemovalPlan UninstallerEngine::plan(const AppInfo& app) const {

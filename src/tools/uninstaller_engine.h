@@ -8,6 +8,8 @@
 #include "base/message.h"
 #include "core/deletion_guard.h"
 #include "core/left_alone.h"
+#include "engine/trashed_item.h"
+#include "platform/file_system.h"
 #include "platform/platform.h"
 #include "tools/app_info.h"
 #include "tools/package_removal.h"
@@ -20,6 +22,7 @@ struct UninstallOutcome {
   bool isGone = false;     ///< the application itself
   bool isRunning = false;  ///< and therefore nothing was done
   Message whyItStayed{};   ///< a sentence; empty where there is nothing to say
+  std::vector<TrashedItem> trashed{};  ///< of what is gone, that which can be put back
 
   bool operator==(const UninstallOutcome&) const = default;
 };
@@ -68,8 +71,9 @@ class UninstallerEngine {
                                               const std::vector<ResidualFile>& residuals);
   [[nodiscard]] UninstallOutcome removeProgram(const AppInfo& app,
                                                const std::vector<ResidualFile>& residuals);
-  [[nodiscard]] bool trashIfAllowed(const Path& path, const DeletionScope& scope,
-                                    const std::optional<EntryIdentity>& identity);
+  bool trashIfAllowed(TrashedItem item, const DeletionScope& scope, UninstallOutcome& outcome);
+  /// Fills in where the item went, and adds it to what is gone.
+  bool trash(TrashedItem item, const ItemCheck& check, UninstallOutcome& outcome);
 
   const Platform& _platform;
   LeftAlone* const _leftAlone;

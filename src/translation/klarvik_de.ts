@@ -5027,6 +5027,10 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
             <numerusform>%n Objekte sind wieder an ihrem Ort</numerusform>
         </translation>
     </message>
+    <message>
+        <source>“%1” is uninstalled</source>
+        <translation>„%1“ ist deinstalliert</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

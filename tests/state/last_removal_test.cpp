@@ -76,6 +76,13 @@ TEST_F(LastRemovalTest, WhatHasGoneFromTheTrashIsNotCounted) {
   EXPECT_EQ(removal.summary()->restoredCount, 1);
 }
 
+TEST_F(LastRemovalTest, AnApplicationThatLeftNothingInTheTrashIsNewsAndHasNoWayBack) {
+  removal.tell({trash("/Users/ann/Documents/a")});
+  removal.tellUninstalled("Writer", {}, {});
+  EXPECT_EQ(removal.summary(), (LastRemoval::Summary{.application = "Writer"}));
+  EXPECT_FALSE(removal.canRestore());
+}
+
 TEST_F(LastRemovalTest, TellsWhoRemovedItOnlyWhereSomethingCameBack) {
   int told = 0;
   const Path file = "/Users/ann/Documents/a";

@@ -102,6 +102,7 @@ TEST_F(UninstallerWindow, RemovesAnApplicationWithItsSelectedLeftoversAndNothing
   settle();
   EXPECT_FALSE(shows("Acme Writer, "));
   EXPECT_TRUE(shows(appsAfterwards()));
+  EXPECT_TRUE(shows("“Acme Writer” is uninstalled"));
   picture("uninstaller-after");
 
   EXPECT_EQ(trashCount(), trashed + 1);

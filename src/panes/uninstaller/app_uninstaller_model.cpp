@@ -1,5 +1,6 @@
 #include "panes/uninstaller/app_uninstaller_model.h"
 
+#include <QPointer>
 #include <chrono>
 #include <string>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/notification_center.h"
+#include "state/last_removal.h"
 #include "state/section.h"
 #include "tools/uninstaller_engine.h"
 #include "translation/translation.h"
@@ -31,6 +33,7 @@ AppUninstallerModel::AppUninstallerModel(SharedState& shared, const Desktop& des
       _coordinator(shared.scanCoordinator()),
       _navigator(shared.navigator()),
       _notice(shared.removalNotice()),
+      _lastRemoval(shared.lastRemoval()),
       _desktop(desktop),
       _appList(desktop.formatting),
       _leftoverList(desktop.formatting),
@@ -255,6 +258,14 @@ QCoro::Task<> AppUninstallerModel::remove(AppInfo app, std::vector<ResidualFile>
     return outcome.isGone;
   });
   _notice.tell(leftAlone);
+  auto readAgain = [pane = QPointer(this)] {
+    if (pane) pane->readAgain();
+  };
+  if (outcome.isGone) {
+    _lastRemoval.tellUninstalled(app.name, std::move(outcome.trashed), std::move(readAgain));
+  } else {
+    _lastRemoval.tell(std::move(outcome.trashed), std::move(readAgain));
+  }
 
   _isUninstalling = false;
   const bool isListed = app.kind != AppKind::bundle && !outcome.isGone;
@@ -270,6 +281,12 @@ QCoro::Task<> AppUninstallerModel::remove(AppInfo app, std::vector<ResidualFile>
     emit selectionChanged();
   }
   _desktop.notifications.post(diskChangedNotification);
+}
+
+/// After something of a removal was put back.
+void AppUninstallerModel::readAgain() {
+  readApps();
+  if (_selectedApp && !_isUninstalling) findResiduals(*_selectedApp);
 }
 
 void AppUninstallerModel::closeDetail() {

@@ -115,11 +115,13 @@ class AppUninstallerModel : public klarvik::ToolPane {
   void findResiduals(AppInfo app);
   QCoro::Task<> remove(AppInfo app, std::vector<ResidualFile> residuals);
   [[nodiscard]] bool appGoes() const;
+  void readAgain();
   void closeDetail();
 
   ScanCoordinator& _coordinator;
   Navigator& _navigator;
   RemovalNotice& _notice;
+  LastRemoval& _lastRemoval;
   const Desktop& _desktop;
 
   AppListModel _appList;

@@ -3,6 +3,7 @@
 #include <QSignalSpy>
 #include <chrono>
 
+#include "state/last_removal.h"
 #include "support/disk_snapshot.h"
 #include "uninstaller_fixture.h"
 
@@ -478,6 +479,33 @@ TEST_F(UninstallerRemoval, OfAnAppWithNoLeftoversMovesItToTheTrash) {
   ASSERT_TRUE(uninstall());
   EXPECT_FALSE(desk.disk.holds("/Applications/Writer.app"));
   EXPECT_EQ(trashCount(), 1U);
+}
+
+TEST_F(UninstallerRemoval, IsToldAndTheAppComesBackIntoTheList) {
+  ASSERT_TRUE(openWriter());
+  const std::int64_t size = view->selectedApp()->appSize;
+  ASSERT_TRUE(uninstall());
+  LastRemoval& removal = shared.lastRemoval();
+  EXPECT_EQ(removal.summary(), (LastRemoval::Summary{"Writer", 1, size}));
+  removal.restore();
+  ASSERT_TRUE(turnUntil([this] { return names() == QStringList({"Writer", "Note"}); }));
+  EXPECT_TRUE(desk.disk.holds("/Applications/Writer.app"));
+  EXPECT_EQ(removal.summary()->restoredCount, 1);
+}
+
+TEST_F(UninstallerRemoval, ThatIsPutBackWhileTheListIsReadIsInTheList) {
+  ASSERT_TRUE(openWriter());
+  ASSERT_TRUE(uninstall());
+  holdAt("/Applications");
+  desk.clock.advance(301s);
+  navigateTo(Section::storage);
+  navigateTo(Section::uninstaller);
+  ASSERT_TRUE(isHeld());
+  shared.lastRemoval().restore();
+  ASSERT_TRUE(turnUntil([this] { return shared.lastRemoval().summary()->restoredCount == 1; }));
+  gate.open();
+  ASSERT_TRUE(turnUntil([this] { return !view->isLoading(); }));
+  EXPECT_EQ(names(), (QStringList{"Writer", "Note"}));
 }
 
 TEST_F(UninstallerRemoval, WhileItRunsHoldsTheDetailAsItIs) {
