@@ -4675,6 +4675,10 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <source>Every site forgets that you are signed in once these are cleared. This cannot be undone.</source>
         <translation>Danach sind Sie auf keiner Website mehr angemeldet. Das lässt sich nicht widerrufen.</translation>
     </message>
+    <message>
+        <source>Stayed: in use, or changed</source>
+        <translation>Blieb: in Benutzung oder geändert</translation>
+    </message>
 </context>
 <context>
     <name>PrivacyCleanerView</name>
