@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstring>
 #include <functional>
 #include <iterator>
@@ -10,6 +11,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "base/bytes.h"
 #include "base/parallel_for.h"
 #include "engine/allocated_size.h"
 #include "platform/file_system.h"
@@ -117,9 +119,15 @@ FoundFiles collected(const FileSystem& files, const std::vector<Path>& directori
   return collection.take();
 }
 
+/// The files whose content decides.
+struct ToRead {
+  FileNumbers numbers;
+  std::int64_t bytes = 0;
+};
+
 /// Those whose size others have as well: the largest first, so that at the end no core is left
 /// alone with a huge file.
-FileNumbers sameSized(const FileSystem& files, const FoundFiles& found) {
+ToRead sameSized(const FileSystem& files, const FoundFiles& found) {
   struct Sized {
     std::int64_t size;
     std::size_t number;
@@ -132,19 +140,22 @@ FileNumbers sameSized(const FileSystem& files, const FoundFiles& found) {
   }
   std::ranges::stable_sort(sized, std::ranges::greater(), &Sized::size);
 
-  FileNumbers numbers;
+  ToRead toRead;
   for (auto first = sized.begin(); first != sized.end();) {
     const auto end = std::find_if(first, sized.end(),
                                   [&](const Sized& other) { return other.size != first->size; });
     if (end - first > 1) {
-      std::transform(first, end, std::back_inserter(numbers), std::mem_fn(&Sized::number));
+      std::transform(first, end, std::back_inserter(toRead.numbers), std::mem_fn(&Sized::number));
+      for (auto each = first; each != end; ++each)
+        toRead.bytes = addBytes(toRead.bytes, each->size);
     }
     first = end;
   }
-  return numbers;
+  return toRead;
 }
 
-using Report = std::function<void(double fraction, std::int64_t groupsFound, Message line)>;
+using Report =
+    std::function<void(double fraction, std::int64_t groupsFound, Message line, double readShare)>;
 
 /// What one thread hashes found files with.
 class FileHashing {
@@ -154,19 +165,26 @@ class FileHashing {
   [[nodiscard]] std::optional<Digest> digest(std::size_t number) {
     return _hasher.digest(_access.openForReading(number));
   }
+  [[nodiscard]] std::int64_t bytesRead() const { return _hasher.bytesRead(); }
 
  private:
   FoundFileAccess _access;
   ContentHasher _hasher;
 };
 
-Contents hashed(const FileSystem& files, const FoundFiles& found, const FileNumbers& numbers,
+Contents hashed(const FileSystem& files, const FoundFiles& found, const ToRead& toRead,
                 std::size_t width, const Report& report) {
   Contents contents;
+  const FileNumbers& numbers = toRead.numbers;
+  std::atomic<std::int64_t> bytesRead = 0;
   const auto reportBefore = [&](std::size_t at) {
     if (at % filesAReport != 0 || at == numbers.size()) return;
     const double part = static_cast<double>(at) / static_cast<double>(numbers.size());
-    report(0.15 + part * 0.8, contents.shared(), found.name(numbers[at]));
+    // A file may have grown since it was asked for its size.
+    const double read = std::min(static_cast<double>(bytesRead) /
+                                     static_cast<double>(std::max<std::int64_t>(toRead.bytes, 1)),
+                                 1.0);
+    report(0.15 + part * 0.8, contents.shared(), found.name(numbers[at]), read);
   };
   std::vector<std::unique_ptr<FileHashing>> threads(width);
   std::vector<std::optional<Digest>> digests(numbers.size());
@@ -176,7 +194,9 @@ Contents hashed(const FileSystem& files, const FoundFiles& found, const FileNumb
       [&](std::size_t at, std::size_t number) {
         auto& thread = threads[number];
         if (!thread) thread = std::make_unique<FileHashing>(files, found);
+        const std::int64_t before = thread->bytesRead();
         digests[at] = thread->digest(numbers[at]);
+        bytesRead += thread->bytesRead() - before;
       },
       [&](std::size_t at) {
         if (digests[at]) contents.add(*digests[at], numbers[at]);
@@ -221,30 +241,32 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
                                                    std::int64_t minimumSize,
                                                    const ProgressSink& progress) {
   const std::scoped_lock lock(_scanning);
-  const Report report = [&](double fraction, std::int64_t groupsFound, Message line) {
-    if (progress) progress({fraction, groupsFound, std::move(line)});
+  const Report report = [&](double fraction, std::int64_t groupsFound, Message line,
+                            double readShare) {
+    if (progress) progress({fraction, groupsFound, std::move(line), readShare});
   };
 
-  report(0.05, 0, QT_TRANSLATE_NOOP("Engine", "Collecting files..."));
+  report(0.05, 0, QT_TRANSLATE_NOOP("Engine", "Collecting files..."), 0);
   const FoundFiles found = collected(_files, directories, minimumSize);
   if (found.size() == 0) return {};
 
   report(0.15, 0,
          Message::counted(QT_TRANSLATE_N_NOOP("Engine", "Grouping by size (%n files)..."),
-                          static_cast<int>(found.size())));
-  const FileNumbers numbers = sameSized(_files, found);
-  if (numbers.empty()) return {};
+                          static_cast<int>(found.size())),
+         0);
+  const ToRead toRead = sameSized(_files, found);
+  if (toRead.numbers.empty()) return {};
 
-  const Contents contents = hashed(_files, found, numbers, _hashedAtOnce, report);
+  const Contents contents = hashed(_files, found, toRead, _hashedAtOnce, report);
 
-  report(0.97, 0, QT_TRANSLATE_NOOP("Engine", "Building results..."));
+  report(0.97, 0, QT_TRANSLATE_NOOP("Engine", "Building results..."), 1);
   std::vector<DuplicateGroup> groups;
   groups.reserve(static_cast<std::size_t>(contents.shared()));
   FoundFileAccess access(_files, found);
   contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
     groups.push_back(duplicateGroup(access, found, digest, holders));
   });
-  report(1.0, static_cast<std::int64_t>(groups.size()), QT_TRANSLATE_NOOP("Engine", "Done"));
+  report(1.0, static_cast<std::int64_t>(groups.size()), QT_TRANSLATE_NOOP("Engine", "Done"), 1);
   std::ranges::stable_sort(groups, std::ranges::greater(), &DuplicateGroup::reclaimableBytes);
   return groups;
 }

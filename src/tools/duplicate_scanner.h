@@ -19,6 +19,7 @@ struct DuplicateProgress {
   double fraction = 0;           ///< 0 to 1
   std::int64_t groupsFound = 0;  ///< so far; 0 again while the result is being built
   Message line;                  ///< a sentence, or the name of a file in bytes of the disk
+  double readShare = 0;          ///< of the bytes that have to be read, 0 to 1
 
   bool operator==(const DuplicateProgress&) const = default;
 };

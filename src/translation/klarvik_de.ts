@@ -277,6 +277,17 @@
         <source>delete</source>
         <translation>löschen</translation>
     </message>
+    <message>
+        <source>Less than a minute left</source>
+        <translation>Noch weniger als eine Minute</translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n minutes left</source>
+        <translation>
+            <numerusform>Noch etwa %n Minute</numerusform>
+            <numerusform>Noch etwa %n Minuten</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Engine</name>

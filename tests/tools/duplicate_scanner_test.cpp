@@ -109,13 +109,31 @@ TEST_F(DuplicateScannerTest, ReportsEachStepAndEveryTenthFile) {
   }
 }
 
+TEST_F(DuplicateScannerTest, ReportsHowMuchOfTheBytesIsRead) {
+  for (const char* name : {"a", "b"})
+    disk.makeFile(Path("/large") / name, std::string(97'000, 'x'));
+  for (int number = 0; number < 20; ++number) {
+    disk.makeFile("/small/" + std::to_string(number), std::string(300, 'y'));
+  }
+  disk.makeFile("/of/no/other/size", std::string(500'000, 'z'));
+  scan({"/"});
+  ASSERT_GE(reports.size(), 7U);
+  EXPECT_EQ(reports[0].readShare, 0);
+  EXPECT_EQ(reports[1].readShare, 0);
+  // After ten files, the two large ones among them: at least 196,400 of 200,000 bytes.
+  EXPECT_GE(reports[3].readShare, 0.982);
+  EXPECT_LE(reports[3].readShare, 1);
+  EXPECT_GE(reports[4].readShare, 0.997);
+  EXPECT_EQ(reports.back().readShare, 1);
+}
+
 TEST_F(DuplicateScannerTest, TheGroupCountIsZeroWhileBuildingAndComesBackWithDone) {
   disk.makeFile("/a", "the same");
   disk.makeFile("/b", "the same");
   scan({"/"});
   ASSERT_GE(reports.size(), 2U);
-  EXPECT_EQ(reports[reports.size() - 2], (DuplicateProgress{0.97, 0, "Building results..."}));
-  EXPECT_EQ(reports.back(), (DuplicateProgress{1.0, 1, "Done"}));
+  EXPECT_EQ(reports[reports.size() - 2], (DuplicateProgress{0.97, 0, "Building results...", 1}));
+  EXPECT_EQ(reports.back(), (DuplicateProgress{1.0, 1, "Done", 1}));
 }
 
 TEST_F(DuplicateScannerTest, FilesOfEqualSizeAndDifferentContentYieldNoGroupAndAreReadOnce) {

@@ -256,6 +256,7 @@ TEST_F(DuplicatesWindow, SaysThatFilesAreHashedUntilThereIsAGroup) {
   ASSERT_NE(waitFor("Hashing files"), nullptr);
   settle();
   EXPECT_FALSE(shows("Choose where to look"));
+  EXPECT_TRUE(shows("5%")) << "how far it is";
   picture("duplicates-scanning");
   desk->walkGate.open();
   ASSERT_TRUE(turnUntil([this] { return shows("Rescan"); }));

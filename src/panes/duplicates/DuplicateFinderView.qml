@@ -41,6 +41,8 @@ ToolPane {
         visible: root.instead.isShown && root.instead.isBusy
         title: root.instead.title
         detail: root.instead.detail
+        progress: root.model.progress
+        remaining: root.model.remaining
         style: LoadingStyle.Reading
     }
 

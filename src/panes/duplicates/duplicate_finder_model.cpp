@@ -134,6 +134,7 @@ void DuplicateFinderModel::startScan() {
   // The prompt may have ended after a scan or a deletion was started another way.
   if (isScanning() || isDeleting()) return;
   _report = {};
+  _remaining = {};
   _wasStopped = false;
   if (std::exchange(_removedFolder, std::nullopt)) emit scanDirsChanged();
   _scan.start<DuplicateProgress, ChosenGroups>(
@@ -158,6 +159,7 @@ void DuplicateFinderModel::cancelScan() {
 
 void DuplicateFinderModel::scanMovedOn(DuplicateProgress report) {
   _report = std::move(report);
+  if (_report.readShare > 0) _remaining.report(_desktop.clock.now(), _report.readShare);
   _scan.showProgress(_report.fraction);
   emit subtitleChanged();
 }

@@ -21,6 +21,7 @@
 #include "panes/tool_pane.h"
 #include "platform/platform.h"
 #include "state/picked_files_removal.h"
+#include "state/remaining_time.h"
 #include "state/scan_session.h"
 #include "state/shared_state.h"
 #include "tools/duplicate_removal_guard.h"
@@ -41,6 +42,8 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   Q_PROPERTY(QString actionTitle READ actionTitle CONSTANT)
   Q_PROPERTY(bool canScan READ canScan NOTIFY deletionChanged)
   Q_PROPERTY(bool isScanning READ isScanning NOTIFY isScanningChanged)
+  Q_PROPERTY(double progress READ progress NOTIFY subtitleChanged)
+  Q_PROPERTY(QString remaining READ remaining NOTIFY subtitleChanged)
   Q_PROPERTY(klarvik::Placeholder placeholder READ placeholder NOTIFY placeholderChanged)
   Q_PROPERTY(QList<QString> folderNames READ folderNames NOTIFY scanDirsChanged)
   Q_PROPERTY(QList<QString> folderHelps READ folderHelps NOTIFY scanDirsChanged)
@@ -75,6 +78,10 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   [[nodiscard]] bool isScanning() const { return _scan.isRunning(); }
   [[nodiscard]] bool hasScanned() const { return _scan.hasScanned(); }
   [[nodiscard]] double progress() const { return _report.fraction; }
+  /// How long the search will take yet; empty while nobody knows.
+  [[nodiscard]] QString remaining() const {
+    return duplicates::remainingText(_remaining.estimate());
+  }
   [[nodiscard]] std::int64_t foundCount() const { return _report.groupsFound; }
   [[nodiscard]] const Message& currentPath() const { return _report.line; }
   [[nodiscard]] bool isDeleting() const { return _removal.isRunning(); }
@@ -167,6 +174,7 @@ class DuplicateFinderModel : public klarvik::ToolPane {
   DuplicateChoice _choice;
   DuplicateRowsModel _rows;
   DuplicateProgress _report;  ///< the latest one
+  RemainingTime _remaining;   ///< of the reading
   bool _wasStopped = false;   ///< the last search, so that it says nothing of what there is
 
   std::stop_source _deleteTask{std::nostopstate};

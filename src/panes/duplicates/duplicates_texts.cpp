@@ -103,6 +103,13 @@ QString stoppedSubtitle(double fraction) {
   return translate("Duplicates", "Stopped at %1%").arg(wholePercent(fraction));
 }
 
+QString remainingText(std::optional<std::chrono::seconds> remaining) {
+  if (!remaining) return {};
+  const auto minutes = std::chrono::ceil<std::chrono::minutes>(*remaining).count();
+  if (minutes < 2) return translate("Duplicates", "Less than a minute left");
+  return translate("Duplicates", "About %n minutes left", nullptr, plural(minutes));
+}
+
 QString minSizeText(double megabytes) {
   return translate("Duplicates", "Min size %1 MB").arg(static_cast<std::int64_t>(megabytes));
 }

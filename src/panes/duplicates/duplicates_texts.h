@@ -2,8 +2,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +25,7 @@ namespace klarvik::duplicates {
 [[nodiscard]] QString foundSubtitle(std::size_t groups, std::int64_t extraCopies);
 [[nodiscard]] QString unscannedSubtitle();
 [[nodiscard]] QString stoppedSubtitle(double fraction);
+[[nodiscard]] QString remainingText(std::optional<std::chrono::seconds> remaining);
 
 /// "Documents, Downloads and Desktop".
 [[nodiscard]] QString folderList(const std::vector<Path>& folders);

@@ -9,6 +9,9 @@ Item {
     required property string title
     required property int style
     property string detail
+    // How far it is, from 0 to 1; below that nobody knows.
+    property real progress: -1
+    property string remaining
 
     implicitWidth: 380
     implicitHeight: parts.implicitHeight
@@ -61,6 +64,31 @@ Item {
             wrapMode: Text.Wrap
             maximumLineCount: 12
             visible: text !== ""
+        }
+
+        Item {
+            width: parent.width
+            height: 20
+            visible: root.progress >= 0
+
+            ProgressLine {
+                anchors.horizontalCenter: parent.horizontalCenter
+                anchors.bottom: parent.bottom
+                width: 220
+                value: root.progress
+            }
+        }
+
+        Label {
+            width: parent.width
+            text: root.remaining
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+            size: 12
+            color: Theme.textTertiary
+            horizontalAlignment: Text.AlignHCenter
+            // It comes and goes without moving the rest.
+            visible: root.progress >= 0
         }
     }
 }

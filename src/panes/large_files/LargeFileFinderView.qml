@@ -76,6 +76,7 @@ ToolPane {
         visible: root.instead.isShown && root.instead.isBusy
         title: root.instead.title
         detail: root.instead.detail
+        progress: root.model.progress
         style: LoadingStyle.Reading
     }
 

@@ -38,6 +38,7 @@ class LargeFileFinderModel : public klarvik::ToolPane {
   Q_PROPERTY(QString subtitle READ subtitle NOTIFY subtitleChanged)
   Q_PROPERTY(QString actionTitle READ actionTitle CONSTANT)
   Q_PROPERTY(bool isScanning READ isScanning NOTIFY isScanningChanged)
+  Q_PROPERTY(double progress READ progress NOTIFY subtitleChanged)
   Q_PROPERTY(klarvik::Placeholder placeholder READ placeholder NOTIFY placeholderChanged)
   Q_PROPERTY(QList<QString> thresholds READ thresholds CONSTANT)
   Q_PROPERTY(int thresholdIndex READ thresholdIndex NOTIFY thresholdChanged)

@@ -63,6 +63,15 @@ TEST(DuplicatesTexts, APlaceholderForEachState) {
                               "Nothing in those folders is byte-for-byte identical."));
 }
 
+TEST(DuplicatesTexts, WhatRemainsIsToldInWholeMinutes) {
+  using namespace std::chrono_literals;
+  EXPECT_EQ(duplicates::remainingText(std::nullopt), "");
+  EXPECT_EQ(duplicates::remainingText(0s), "Less than a minute left");
+  EXPECT_EQ(duplicates::remainingText(60s), "Less than a minute left");
+  EXPECT_EQ(duplicates::remainingText(61s), "About 2 minutes left");
+  EXPECT_EQ(duplicates::remainingText(3601s), "About 61 minutes left");
+}
+
 TEST(DuplicatesTexts, TheFooterSumsUpWhatWouldGo) {
   EXPECT_EQ(duplicates::selectionSummary(0, 0, formatting), "Zero KB selected · 0 copies");
   EXPECT_EQ(duplicates::selectionSummary(1'500'000, 1, formatting), "1.5 MB selected · 1 copies");
