@@ -107,6 +107,10 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
     return applicationRefusal(path, relative, catalogue, question);
   }
 
+  if (question.scope.kind == DeletionScope::Kind::database) {
+    if (catalogue.isDatabaseOfTrails(path)) return allowed;
+    return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no trail that Klarvik clears."), relative);
+  }
   if (!catalogue.placesOf(path, /*inHome=*/true).empty()) return allowed;
   if (question.scope.kind == DeletionScope::Kind::trail) {
     if (catalogue.isTrail(path)) return allowed;
@@ -148,7 +152,9 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
   const Catalogue catalogue(question.layout, question.folders);
   const bool isOfAnApplication = question.scope.kind == DeletionScope::Kind::residual ||
                                  question.scope.kind == DeletionScope::Kind::application;
-  const bool isListed = !isOfAnApplication && !catalogue.placesOf(pieces, /*inHome=*/false).empty();
+  const bool isDatabase = question.scope.kind == DeletionScope::Kind::database;
+  const bool isListed =
+      !isOfAnApplication && !isDatabase && !catalogue.placesOf(pieces, /*inHome=*/false).empty();
   if (isListed) return allowed;
   if (const auto* entry = firstPrefixOf(path, question.layout.guard.protectedPrefixes)) {
     return refuse(question.layout.guard.protectedReason, *entry);

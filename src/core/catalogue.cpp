@@ -155,9 +155,21 @@ bool Catalogue::isNamedLikeArtifact(std::span<const std::string_view> path) cons
 }
 
 bool Catalogue::isTrail(std::span<const std::string_view> path) const {
+  return isNamedByTrail(path, [](TrailClearing clearing) {
+    return clearing != TrailClearing::told && clearing != TrailClearing::firefoxHistory;
+  });
+}
+
+bool Catalogue::isDatabaseOfTrails(std::span<const std::string_view> path) const {
+  return isNamedByTrail(
+      path, [](TrailClearing clearing) { return clearing == TrailClearing::firefoxHistory; });
+}
+
+bool Catalogue::isNamedByTrail(std::span<const std::string_view> path,
+                               bool (*isMeant)(TrailClearing)) const {
   return std::ranges::any_of(_layout.trails.trails, [&](const Trail& trail) {
     const std::string_view base = folder(trail.base).value_or("");
-    return trail.clearing != TrailClearing::told &&
+    return isMeant(trail.clearing) &&
            std::ranges::any_of(trail.inside, [&](std::string_view inside) {
              return matchPattern(path, {base, trail.folder, inside}).relation == Relation::at;
            });

@@ -37,6 +37,9 @@ class Catalogue {
 
   /// Whether a table names the thing itself as a trail of what the user did.
   [[nodiscard]] bool isTrail(std::span<const std::string_view> path) const;
+  /// Whether a table names the thing itself as a database that holds trails and more: entries may
+  /// be taken from it, and it is never removed.
+  [[nodiscard]] bool isDatabaseOfTrails(std::span<const std::string_view> path) const;
 
   /// Keys and passwords: at or below such a place, or above one.
   [[nodiscard]] bool reachesSecret(std::span<const std::string_view> path) const;
@@ -51,6 +54,8 @@ class Catalogue {
                                    const PlacePattern& place) const;
 
  private:
+  [[nodiscard]] bool isNamedByTrail(std::span<const std::string_view> path,
+                                    bool (*isMeant)(TrailClearing)) const;
   [[nodiscard]] bool mayHoldBase(const std::string& folder) const;
   [[nodiscard]] bool isOfPlace(const Place& place, std::span<const std::string_view> path) const;
 

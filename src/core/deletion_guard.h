@@ -19,6 +19,7 @@ struct DeletionScope {
     pickedFile,   ///< a file that the user chose by hand
     residual,     ///< a file left behind by an application that is being uninstalled
     trail,        ///< a trail of what the user did
+    database,     ///< a file from which entries are taken, and which stays
     application,  ///< what the user has installed by hand, and what goes along with it
     trashed,      ///< an entry of the user's Trash, on whatever volume
   };
@@ -28,6 +29,7 @@ struct DeletionScope {
   static DeletionScope general() { return {Kind::general, {}}; }
   static DeletionScope pickedFile() { return {Kind::pickedFile, {}}; }
   static DeletionScope trail() { return {Kind::trail, {}}; }
+  static DeletionScope database() { return {Kind::database, {}}; }
   static DeletionScope application() { return {Kind::application, {}}; }
   static DeletionScope trashed() { return {Kind::trashed, {}}; }
   static DeletionScope residual(std::vector<std::string> identifiers) {

@@ -43,6 +43,8 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
       if (deepEnough) return allowed;
       return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is a whole folder, not a file you picked."),
                     relative);
+    case DeletionScope::Kind::database:
+      return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no trail that Klarvik clears."), relative);
     case DeletionScope::Kind::general:
     case DeletionScope::Kind::trail:
     case DeletionScope::Kind::application:

@@ -23,6 +23,7 @@ enum class TrailClearing {
   asList,          ///< the desktop's list of recent documents stays, without entries
   orphansRemoved,  ///< records in a Trash without the thing that they are of
   told,            ///< by the user, in the program itself
+  firefoxHistory,  ///< in a database of Firefox's, where the bookmarks stay
 };
 
 /// Where one program keeps one kind of trail. Its texts live as long as the program.
@@ -35,7 +36,7 @@ struct Trail {
   TrailClearing clearing = TrailClearing::removed;
   TrailCount count = TrailCount::none;
   std::string_view closedFirst{};  ///< the program that writes it again, or that it belongs to
-  std::string_view told{};         ///< how the user clears it; `told` only
+  std::string_view told{};         ///< how the user clears it, where Klarvik cannot
 };
 
 /// Where a system's programs keep trails of what their user did, below the home. Empty where the

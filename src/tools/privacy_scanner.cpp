@@ -16,6 +16,7 @@
 #include "platform/desktop_services.h"
 #include "platform/file_system.h"
 #include "tools/file_size.h"
+#include "tools/firefox_history.h"
 #include "tools/trail_finder.h"
 
 namespace klarvik {
@@ -224,10 +225,24 @@ bool PrivacyScanner::clearPart(const TrailPart& part) {
              _files.empty(part.path, itemCheck(_files, part.path, scope, part.identity));
     case TrailClearing::asList:
       return _platform.recentDocuments.clear();
+    case TrailClearing::firefoxHistory:
+      return clearHistory(part);
     case TrailClearing::told:
       break;
   }
   return false;
+}
+
+bool PrivacyScanner::clearHistory(const TrailPart& part) {
+  const auto databases = firefoxDatabases(_files, part.path);
+  if (!databases) return false;
+  const auto check = itemCheck(_files, part.path, DeletionScope::database(), part.identity);
+  const auto outcome = clearFirefoxHistory(*databases, [&] {
+    const auto real = _files.realPath(part.path);
+    const auto attributes = real ? _files.attributes(*real) : std::nullopt;
+    return attributes && _files.diskPath(*real) == databases->places && check(*real, *attributes);
+  });
+  return outcome == HistoryOutcome::done;
 }
 
 /// Looked at again: a program may have been started since the scan.

@@ -56,6 +56,7 @@ class PrivacyScanner {
   [[nodiscard]] PrivacyClearance clearItem(const PrivacyItem& item);
   [[nodiscard]] PrivacyClearance clearParts(const PrivacyItem& item);
   [[nodiscard]] bool clearPart(const TrailPart& part);
+  [[nodiscard]] bool clearHistory(const TrailPart& part);
   [[nodiscard]] bool isInUse(const PrivacyItem& item) const;
 
   const Platform& _platform;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/bytes.h"
+#include "base/message.h"
 #include "core/catalogue.h"
 #include "core/removal_check.h"
 #include "engine/allocated_size.h"
@@ -57,10 +58,10 @@ std::int64_t countOf(const FileSystem& files, const Path& path, TrailCount count
   return 0;
 }
 
-PrivacyItem& itemOf(std::vector<PrivacyItem>& items, const Trail& trail) {
+/// `told`: how the user clears it, where Klarvik does not.
+PrivacyItem& itemOf(std::vector<PrivacyItem>& items, const Trail& trail, std::string_view told) {
   const auto same = std::ranges::find_if(items, [&](const PrivacyItem& item) {
-    return item.category == trail.category && item.program == trail.program &&
-           item.told == trail.told;
+    return item.category == trail.category && item.program == trail.program && item.told == told;
   });
   if (same != items.end()) return *same;
   std::string name(rawValue(trail.category));
@@ -69,7 +70,25 @@ PrivacyItem& itemOf(std::vector<PrivacyItem>& items, const Trail& trail) {
                                         .name = std::move(name),
                                         .program = std::string(trail.program),
                                         .closedFirst = trail.closedFirst,
-                                        .told = trail.told});
+                                        .told = told});
+}
+
+/// What stands in the way of clearing a history; `usual` is how its program is told to.
+std::string_view obstacle(HistoryOutcome outcome, std::string_view usual) {
+  switch (outcome) {
+    case HistoryOutcome::done:
+      return {};
+    case HistoryOutcome::damaged:
+      return QT_TRANSLATE_NOOP("Engine", "Its database is damaged: left as it is");
+    case HistoryOutcome::tooLarge:
+      return QT_TRANSLATE_NOOP("Engine", "Too large to clear from here");
+    case HistoryOutcome::inUse:
+    case HistoryOutcome::replaced:
+    case HistoryOutcome::unknown:
+    case HistoryOutcome::failed:
+      break;
+  }
+  return usual;
 }
 
 /// One search, and what it has come to.
@@ -114,6 +133,10 @@ class Search {
     const auto attributes = _files.attributes(path);
     if (!attributes) return;
     const bool isFile = attributes->kind == FileKind::regular;
+    if (trail.clearing == TrailClearing::firefoxHistory) {
+      if (isFile) addHistory(trail, path, *attributes);
+      return;
+    }
     if (!isFile && attributes->kind != FileKind::directory) return;
     if (trail.clearing == TrailClearing::orphansRemoved && !isOrphanedRecord(_files, path)) return;
     const bool staysAsFile =
@@ -123,12 +146,24 @@ class Search {
     const std::int64_t count = isFile ? countOf(_files, path, trail.count) : 0;
     if (trail.clearing == TrailClearing::asList && count == 0) return;
     if (trail.clearing != TrailClearing::told && !isAllowed(path)) return;
-    PrivacyItem& item = itemOf(_items, trail);
+    PrivacyItem& item = itemOf(_items, trail, trail.told);
     append(item, {.path = path,
                   .size = wholeAllocatedSize(_files, path),
                   .identity = entryIdentity(*attributes),
                   .clearing = trail.clearing});
     item.count += count;
+  }
+
+  /// The database stays, and as large as it is: Firefox uses the space again.
+  void addHistory(const Trail& trail, const Path& path, const FileAttributes& attributes) {
+    const auto databases = firefoxDatabases(_files, path);
+    if (!databases) return;
+    const FirefoxHistory history = readFirefoxHistory(*databases);
+    const bool isReadable = history.outcome == HistoryOutcome::done;
+    if (isReadable && history.pages == 0 && !history.mayHoldMore) return;
+    PrivacyItem& item = itemOf(_items, trail, obstacle(history.outcome, trail.told));
+    append(item, {.path = path, .identity = entryIdentity(attributes), .clearing = trail.clearing});
+    item.count = addBytes(item.count, history.pages);
   }
 
   static void append(PrivacyItem& item, TrailPart part) {
@@ -170,6 +205,22 @@ class Search {
 };
 
 }  // namespace
+
+std::optional<FirefoxDatabases> firefoxDatabases(const FileSystem& files, const Path& places) {
+  const auto scope = DeletionScope::database();
+  const auto real = files.realPath(places);
+  const auto isWhole = [&](const Path& file) {
+    const auto attributes = files.attributes(file);
+    return attributes && attributes->kind == FileKind::regular && attributes->names == 1;
+  };
+  const bool isAllowed = mayRemove(files, places, scope) && real && isWhole(*real) &&
+                         (*real == places || mayRemoveReal(files, *real, scope));
+  if (!isAllowed) return std::nullopt;
+  FirefoxDatabases databases{.places = files.diskPath(*real)};
+  const Path icons = real->parent_path() / "favicons.sqlite";
+  if (isWhole(icons)) databases.icons = files.diskPath(icons);
+  return databases;
+}
 
 bool isOrphanedRecord(const FileSystem& files, const Path& record) {
   // A program that moves a thing to the Trash writes its record first.

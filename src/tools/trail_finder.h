@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "platform/path.h"
 #include "platform/platform.h"
+#include "tools/firefox_history.h"
 #include "tools/privacy_item.h"
 
 namespace klarvik {
@@ -27,5 +29,10 @@ class TrailFinder {
 
 /// Whether a record in a Trash is of a thing that is not there, and not just on its way.
 [[nodiscard]] bool isOrphanedRecord(const FileSystem& files, const Path& record);
+
+/// The databases of the profile whose history lies at `places`. Nothing where the rules do not let
+/// it be changed, and where it is a link or has another name.
+[[nodiscard]] std::optional<FirefoxDatabases> firefoxDatabases(const FileSystem& files,
+                                                               const Path& places);
 
 }  // namespace klarvik

@@ -4072,6 +4072,14 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <source>zypper packages</source>
         <translation>zypper-Pakete</translation>
     </message>
+    <message>
+        <source>Its database is damaged: left as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too large to clear from here</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FolderBrowserRow</name>

@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "core/deletion_guard.h"
+#include "firefox_profile.h"
 #include "platform/system_platform.h"
 #include "support/desktop_fakes.h"
 #include "support/fake_running_programs.h"
@@ -102,7 +103,86 @@ TEST_F(LinuxTrails, OfABrowserAreClearedInEveryProfileAndNothingElseOfIt) {
   }
 }
 
-TEST_F(LinuxTrails, OfFirefoxsHistoryAreToldAndNeverRemovedForTheBookmarksInTheSameFile) {
+TEST_F(LinuxTrails, OfFirefoxAreTakenOutOfTheFileThatHoldsTheBookmarksToo) {
+  disk.makeFolder(firefox);
+  makePlaces(disk.onDisk(firefox / "places.sqlite"));
+  makeIcons(disk.onDisk(firefox / "favicons.sqlite"));
+  const auto found = scan();
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_EQ(found.front().name, "Browser History — Firefox");
+  EXPECT_EQ(found.front().count, 3);
+  EXPECT_EQ(found.front().size, 0);
+  EXPECT_TRUE(found.front().isSelected);
+  const PrivacyClearance done = scanner.clear(found);
+  EXPECT_EQ(done.cleaned, 1);
+  EXPECT_EQ(done.freed, 0);
+  EXPECT_THAT(done.stayed, IsEmpty());
+  const BrowserDatabase after(disk.onDisk(firefox / "places.sqlite"));
+  EXPECT_THAT(after.rows("SELECT title FROM moz_bookmarks WHERE fk NOT NULL"),
+              ElementsAre("My page", "My query"));
+  EXPECT_THAT(after.rows("SELECT * FROM moz_historyvisits"), IsEmpty());
+  EXPECT_THAT(BrowserDatabase(disk.onDisk(firefox / "favicons.sqlite"))
+                  .rows("SELECT page_url FROM moz_pages_w_icons"),
+              ElementsAre("https://marked.example/"));
+  EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(LinuxTrails, OfAFirefoxThatRunsOrHasItsDatabaseOpenStay) {
+  disk.makeFolder(firefox);
+  const Path places = disk.onDisk(firefox / "places.sqlite");
+  makePlaces(places);
+  const std::string before = disk.contentOf(firefox / "places.sqlite");
+  const auto found = scan();
+  programs.running = {"firefox-esr"};
+  EXPECT_EQ(scanner.clear(found).stayed.size(), 1U);
+  const auto whileItRuns = scan();
+  ASSERT_EQ(whileItRuns.size(), 1U);
+  EXPECT_EQ(whileItRuns.front().closeFirst, "Firefox");
+  programs.running = {};
+  EXPECT_EQ(disk.contentOf(firefox / "places.sqlite"), before);
+  const BrowserDatabase open(places);
+  open.run("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT");
+  EXPECT_EQ(scanner.clear(found).stayed.size(), 1U);
+  EXPECT_EQ(open.rows("SELECT * FROM moz_historyvisits").size(), 4U);
+}
+
+TEST_F(LinuxTrails, OfFirefoxInAFileThatCameSinceTheScanOrHasAnotherNameStay) {
+  disk.makeFolder(firefox);
+  const Path places = disk.onDisk(firefox / "places.sqlite");
+  makePlaces(places);
+  const auto found = scan();
+  const Path other = disk.onDisk(firefox / "other.sqlite");
+  makePlaces(other);
+  std::filesystem::rename(other, places);
+  EXPECT_EQ(scanner.clear(found).stayed.size(), 1U);
+  EXPECT_EQ(BrowserDatabase(places).rows("SELECT * FROM moz_historyvisits").size(), 4U);
+
+  std::filesystem::create_hard_link(places, other);
+  EXPECT_THAT(names(), IsEmpty());
+  std::filesystem::remove(places);
+  disk.makeLink(firefox / "places.sqlite", "other.sqlite");
+  EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(LinuxTrails, OfFirefoxThatCannotBeClearedAreTold) {
+  disk.makeFolder(firefox);
+  const Path places = disk.onDisk(firefox / "places.sqlite");
+  const auto told = [&] {
+    const auto found = scan();
+    EXPECT_EQ(found.size(), 1U);
+    EXPECT_FALSE(found.front().isSelected);
+    return std::string(found.front().told);
+  };
+  makePlaces(places);
+  BrowserDatabase(places).run("ALTER TABLE moz_places RENAME TO moz_pages");
+  EXPECT_EQ(told(), "In the browser: Ctrl+Shift+Del");
+  std::filesystem::resize_file(places, 2ULL << 30);
+  EXPECT_EQ(told(), "Too large to clear from here");
+  disk.makeFile(firefox / "places.sqlite", 50'000);
+  EXPECT_EQ(told(), "Its database is damaged: left as it is");
+}
+
+TEST_F(LinuxTrails, OfADamagedFirefoxAreNeverRemovedForTheBookmarksInTheSameFile) {
   makeProfiles();
   const PrivacyClearance done = clear(browserHistory);
   EXPECT_EQ(done.cleaned, 1);
@@ -241,6 +321,18 @@ TEST_F(LinuxTrails, TheRulesLetGoWhatTheTableNamesAndNoSecret) {
         Path("/home/ann/.local/share/keyrings/login.keyring"), Path("/etc/passwd")}) {
     EXPECT_TRUE(refusal(path)) << path;
   }
+  const auto refusesToChange = [&](const Path& path, const Path& home) {
+    return DeletionGuard::refusalReason(path, DeletionScope::database(), home).has_value();
+  };
+  EXPECT_FALSE(refusesToChange(firefox / "places.sqlite", "/home/ann"));
+  for (const Path& path :
+       {firefox / "cookies.sqlite", firefox / "logins.json", firefox / "x/places.sqlite", firefox,
+        chrome / "Default/History", Path("/home/ann/.cache/mozilla"), Path("/tmp/places.sqlite"),
+        Path("/home/ann/Documents/places.sqlite")}) {
+    EXPECT_TRUE(refusesToChange(path, "/home/ann")) << path;
+  }
+  EXPECT_TRUE(
+      refusesToChange("/Users/ann/.mozilla/firefox/ab.default/places.sqlite", "/Users/ann"));
   EXPECT_TRUE(DeletionGuard::refusalReason(chrome / "Default/History", DeletionScope::general(),
                                            "/home/ann"));
 }

@@ -102,16 +102,10 @@ constexpr Trail trailOf(const Browser& browser, PrivacyCategory category, Patter
           files,    removed,      TrailCount::none, browser.program};
 }
 
-constexpr Trail toldTrailOf(const Browser& browser) {
-  return {browserHistory,
-          browser.name,
-          browser.base,
-          browser.folder,
-          firefoxHistories,
-          told,
-          TrailCount::none,
-          {},
-          "In the browser: Ctrl+Shift+Del"};
+constexpr Trail historyTrailOf(const Browser& browser) {
+  return {browserHistory,   browser.name,     browser.base,
+          browser.folder,   firefoxHistories, firefoxHistory,
+          TrailCount::none, browser.program,  "In the browser: Ctrl+Shift+Del"};
 }
 
 constexpr auto allTrails = [] {
@@ -124,7 +118,7 @@ constexpr auto allTrails = [] {
     *next++ = trailOf(browser, browserCookies, chromiumCookies);
   }
   for (const Browser& browser : firefoxBrowsers) {
-    *next++ = toldTrailOf(browser);
+    *next++ = historyTrailOf(browser);
     *next++ = trailOf(browser, browserCookies, firefoxCookies);
   }
   next = std::ranges::copy(others, next).out;
