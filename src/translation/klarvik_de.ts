@@ -4074,11 +4074,11 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Its database is damaged: left as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenbank beschädigt, bleibt unverändert</translation>
     </message>
     <message>
         <source>Too large to clear from here</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu groß, um es von hier zu löschen</translation>
     </message>
 </context>
 <context>
@@ -4671,6 +4671,10 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <source>Clear %1</source>
         <translation>%1 löschen</translation>
     </message>
+    <message>
+        <source>Every site forgets that you are signed in once these are cleared. This cannot be undone.</source>
+        <translation>Danach sind Sie auf keiner Website mehr angemeldet. Das lässt sich nicht widerrufen.</translation>
+    </message>
 </context>
 <context>
     <name>PrivacyCleanerView</name>
@@ -4697,6 +4701,18 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>SIZE</source>
         <translation>GRÖSSE</translation>
+    </message>
+    <message>
+        <source>Sign out of sites?</source>
+        <translation>Von Websites abmelden?</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Clear and Sign Out</source>
+        <translation>Löschen und abmelden</translation>
     </message>
 </context>
 <context>

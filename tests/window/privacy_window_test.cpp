@@ -41,6 +41,24 @@ class PrivacyWindow : public WindowFixture {
 };
 class PrivacyWindowOverAnEmptyHome : public EmptyHomeWindowFixture {};
 
+class PrivacyWindowOfALinuxDisk : public EmptyHomeWindowFixture {
+ protected:
+  PrivacyWindowOfALinuxDisk() { home = linuxHome; }
+
+  [[nodiscard]] bool openAndScan() {
+    for (const char* place :
+         {".config/chromium/Default/Cookies", ".config/chromium/Default/History",
+          ".mozilla/firefox/ab.default/cookies.sqlite"}) {
+      desk->disk.makeFile(home / place, 90'000);
+    }
+    openWindow();
+    click("Privacy");
+    settle();
+    clickMainButton("Rescan");
+    return waitFor("Browser Cookies — Firefox, ") != nullptr;
+  }
+};
+
 TEST_F(PrivacyWindow, OffersAScanWhereThereWasNone) {
   ASSERT_TRUE(openPane());
   EXPECT_TRUE(shows("Rescan to see what your Mac has recorded."));
@@ -163,6 +181,30 @@ TEST_F(PrivacyWindow, ClosedDuringAClearingFinishesIt) {
   click("Clear ");
   closeWindow();
   EXPECT_EQ(desk->recentDocuments.clearings, 1);
+}
+
+TEST_F(PrivacyWindowOfALinuxDisk, AsksOnceMoreBeforeItSignsAnybodyOut) {
+  ASSERT_TRUE(openAndScan());
+  clickSelectionBox("Browser Cookies — Firefox, ");
+  settle();
+  click("Clear 2 trails");
+  settle();
+  EXPECT_TRUE(shows("Sign out of sites?"));
+  EXPECT_TRUE(shows("Every site forgets that you are signed in"));
+  picture("privacy-sign-out");
+  EXPECT_TRUE(focused().startsWith("Cancel")) << focused().toStdString();
+  press(Qt::Key_Return);
+  settle();
+  EXPECT_FALSE(shows("Sign out of sites?"));
+  EXPECT_TRUE(homeHolds(".mozilla/firefox/ab.default/cookies.sqlite"));
+  EXPECT_TRUE(homeHolds(".config/chromium/Default/History"));
+
+  click("Clear 2 trails");
+  settle();
+  click("Clear and Sign Out");
+  ASSERT_NE(waitFor("Cleared 2 trails"), nullptr);
+  EXPECT_FALSE(homeHolds(".mozilla/firefox/ab.default/cookies.sqlite"));
+  EXPECT_TRUE(homeHolds(".config/chromium/Default/Cookies"));
 }
 
 TEST_F(PrivacyWindowOverAnEmptyHome, SaysThatThereIsNothingToClear) {

@@ -53,6 +53,7 @@ class WordsOfTheWindows : public EmptyHomeWindowFixture {
     desk->disk.makeFile(home / ".cache/mozilla/firefox/a.default/page", 2'000'000);
     desk->disk.makeFile(home / "go/pkg/mod/module/file", 12'000'000);
     desk->disk.makeFile(home / ".local/share/Trash/files/old/film", 2'000'000);
+    desk->disk.makeFile(home / ".config/chromium/Default/Cookies", 9'000);
     desk->programs.running = {"firefox"};
     desk->disk.makeFile(home / "Documents/letter", 1'000'000);
   }
@@ -130,6 +131,13 @@ class WordsOfTheWindows : public EmptyHomeWindowFixture {
     click(said("Privacy", "Engine"));
     readThrough([this] { clickMainButton(said("Rescan", "PrivacyCleanerView")); },
                 [this] { return shows(said("Clipboard", "Engine") + ", "); });
+    const QString cookies = said("Browser Cookies", "Engine") + " — ";
+    if (!shows(cookies)) return;
+    clickSelectionBox(cookies);
+    click(said("Clear %1", "Privacy").arg(said("1 trail", "Privacy")));
+    settleAndRead();
+    press(Qt::Key_Escape);
+    settle();
   }
   void readWhatIsAroundThem() {
     click(said("Klarvik menu"));

@@ -61,4 +61,22 @@ ToolPane {
         isBusy: root.model.isCleaning
         onAction: root.model.clear()
     }
+
+    ConfirmationDialog {
+        isPresented: root.model.asksToSignOut
+        title: qsTr("Sign out of sites?")
+        message: root.model.signOutQuestion
+        buttons: [
+            DialogButton {
+                title: qsTr("Cancel")
+                role: ButtonRole.Cancel
+                onTriggered: root.model.staySignedIn()
+            },
+            DialogButton {
+                title: qsTr("Clear and Sign Out")
+                role: ButtonRole.Destructive
+                onTriggered: root.model.clearAndSignOut()
+            }
+        ]
+    }
 }

@@ -11,6 +11,7 @@
 #include "platform/file_system.h"
 #include "platform/notification_center.h"
 #include "state/section.h"
+#include "state/set_if_changed.h"
 #include "translation/translation.h"
 
 namespace klarvik {
@@ -33,6 +34,10 @@ PrivacyCleanerModel::PrivacyCleanerModel(SharedState& shared, const Desktop& des
       _scan(Section::privacy, shared.toolActivity(), shared.scanCoordinator(), desktop.clock) {
   connect(&_trailList, &TrailListModel::selectionChanged, this,
           &PrivacyCleanerModel::selectionChanged);
+  // A scan may have taken away what the question was about.
+  connect(&_trailList, &TrailListModel::selectionChanged, this, [this] {
+    if (selectedThatSignOut().empty()) askToSignOut(false);
+  });
 }
 
 PrivacyCleanerModel::~PrivacyCleanerModel() {
@@ -142,7 +147,36 @@ void PrivacyCleanerModel::toggle(int row) {
 }
 
 void PrivacyCleanerModel::clear() {
+  if (!canClear()) return;
+  if (!selectedThatSignOut().empty()) {
+    askToSignOut(true);
+  } else {
+    clearItems(_trailList.selectedItems());
+  }
+}
+
+void PrivacyCleanerModel::clearAndSignOut() {
+  if (!_asksToSignOut) return;
+  askToSignOut(false);
   if (canClear()) clearItems(_trailList.selectedItems());
+}
+
+void PrivacyCleanerModel::staySignedIn() {
+  askToSignOut(false);
+}
+
+QString PrivacyCleanerModel::signOutQuestion() const {
+  return privacy::signOutQuestion(selectedThatSignOut(), layoutFor(_desktop.files.home()).words);
+}
+
+std::vector<PrivacyItem> PrivacyCleanerModel::selectedThatSignOut() const {
+  std::vector<PrivacyItem> chosen = _trailList.selectedItems();
+  std::erase_if(chosen, [](const PrivacyItem& item) { return !privacy::signsOut(item); });
+  return chosen;
+}
+
+void PrivacyCleanerModel::askToSignOut(bool asks) {
+  if (setIfChanged(_asksToSignOut, asks)) emit asksToSignOutChanged();
 }
 
 QCoro::Task<> PrivacyCleanerModel::clearItems(std::vector<PrivacyItem> items) {

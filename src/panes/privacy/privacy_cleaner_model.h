@@ -34,6 +34,8 @@ class PrivacyCleanerModel : public klarvik::ToolPane {
   Q_PROPERTY(QString selectionHint READ selectionHint NOTIFY selectionChanged)
   Q_PROPERTY(QString clearTitle READ clearTitle NOTIFY selectionChanged)
   Q_PROPERTY(bool canClear READ canClear NOTIFY selectionChanged)
+  Q_PROPERTY(bool asksToSignOut READ asksToSignOut NOTIFY asksToSignOutChanged)
+  Q_PROPERTY(QString signOutQuestion READ signOutQuestion NOTIFY asksToSignOutChanged)
   Q_PROPERTY(klarvik::TrailListModel* trailList READ trailList CONSTANT)
 
  public:
@@ -58,6 +60,9 @@ class PrivacyCleanerModel : public klarvik::ToolPane {
   [[nodiscard]] QString selectionHint() const;
   [[nodiscard]] QString clearTitle() const;
   [[nodiscard]] bool canClear() const;
+  /// Whether the user is being asked about the trails without which sites forget who they are.
+  [[nodiscard]] bool asksToSignOut() const { return _asksToSignOut; }
+  [[nodiscard]] QString signOutQuestion() const;
   [[nodiscard]] TrailListModel* trailList() { return &_trailList; }
 
   /// Scans when the turn of this tool comes.
@@ -68,12 +73,16 @@ class PrivacyCleanerModel : public klarvik::ToolPane {
   /// The header's main button: stops a running scan, else starts one.
   Q_INVOKABLE void performAction();
   Q_INVOKABLE void toggle(int row);
-  /// Clears what is selected.
+  /// Clears what is selected; asks first where that signs the user out.
   Q_INVOKABLE void clear();
+  /// The answers to that question.
+  Q_INVOKABLE void clearAndSignOut();
+  Q_INVOKABLE void staySignedIn();
 
  signals:
   void stateChanged();
   void selectionChanged();
+  void asksToSignOutChanged();
 
  private:
   struct Report {
@@ -85,6 +94,8 @@ class PrivacyCleanerModel : public klarvik::ToolPane {
   void cancelScan();
   void showReport(const Report& report);
   void finishScan(std::vector<PrivacyItem> found);
+  [[nodiscard]] std::vector<PrivacyItem> selectedThatSignOut() const;
+  void askToSignOut(bool asks);
   QCoro::Task<> clearItems(std::vector<PrivacyItem> items);
 
   RemovalNotice& _notice;
@@ -94,6 +105,7 @@ class PrivacyCleanerModel : public klarvik::ToolPane {
   double _progress = 0;
   QString _currentTask;
   bool _isCleaning = false;
+  bool _asksToSignOut = false;
   std::optional<PrivacyClearance> _lastResult;
 
   ScanSession _scan;

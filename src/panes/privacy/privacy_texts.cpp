@@ -1,5 +1,7 @@
 #include "panes/privacy/privacy_texts.h"
 
+#include <QStringList>
+
 #include "panes/kit/row_text.h"
 #include "translation/translation.h"
 
@@ -15,6 +17,11 @@ QString trails(std::size_t count) {
 
 std::string_view label(PrivacyCategory category, const Words& words) {
   return category == PrivacyCategory::quarantine ? words.downloadOrigins : rawValue(category);
+}
+
+QString name(const PrivacyItem& item, const Words& words) {
+  const QString kind = programText(label(item.category, words));
+  return item.program.empty() ? kind : kind + QStringLiteral(" — ") + printableText(item.program);
 }
 
 QString cost(PrivacyCategory category) {
@@ -84,6 +91,20 @@ QString selectionHint(bool signsOut, bool forgetsCommands) {
                      "Your selection forgets the commands you typed. This cannot be undone.");
   }
   return translate("Privacy", "Clearing a trail is permanent, but nothing you rely on is removed.");
+}
+
+bool signsOut(const PrivacyItem& item) {
+  return item.category == PrivacyCategory::browserCookies && !item.parts.empty();
+}
+
+QString signOutQuestion(const std::vector<PrivacyItem>& items, const Words& words) {
+  QStringList names;
+  for (const PrivacyItem& item : items) names << name(item, words);
+  return translate(
+             "Privacy",
+             "Every site forgets that you are signed in once these are cleared. This cannot be "
+             "undone.") +
+         QStringLiteral("\n\n") + names.join(QLatin1Char('\n'));
 }
 
 QString clearTitle(std::size_t selectedCount) {

@@ -85,8 +85,7 @@ std::vector<TrailListModel::ShownRow> TrailListModel::shownRows() const {
 }
 
 TrailListModel::ShownRow TrailListModel::row(const PrivacyItem& item) const {
-  QString name = programText(privacy::label(item.category, _words));
-  if (!item.program.empty()) name += QStringLiteral(" — ") + printableText(item.program);
+  const QString name = privacy::name(item, _words);
   const QString size = byteText(item.size, _formatting);
   const QString note = item.canBeCleared() ? privacy::cost(item.category) : privacy::obstacle(item);
   const Path path = item.path.value_or(Path());

@@ -20,6 +20,21 @@ class PrivacyScan : public PrivacyFixture {};
 class PrivacyTurn : public PrivacyFixture {};
 class PrivacyClearing : public PrivacyFixture {};
 
+/// Of two browsers, and a history of commands that needs no question.
+class PrivacySigningOut : public PrivacyFixture {
+ protected:
+  PrivacySigningOut() : PrivacyFixture(linuxHome) {
+    for (const char* place : {".config/chromium/Default/Cookies", ".bash_history",
+                              ".mozilla/firefox/ab.default/cookies.sqlite"}) {
+      desk.disk.makeFile(linuxHome / place, 9 * kilobyte);
+    }
+  }
+  [[nodiscard]] bool holdsCookies() const {
+    return desk.disk.holds(linuxHome / ".config/chromium/Default/Cookies") &&
+           desk.disk.holds(linuxHome / ".mozilla/firefox/ab.default/cookies.sqlite");
+  }
+};
+
 TEST_F(PrivacyScan, IsOfferedWhereThereWasNone) {
   EXPECT_EQ(view->subtitle(), explanation);
   EXPECT_EQ(view->placeholder(), Placeholder::idle("shield", "No scan yet",
@@ -337,6 +352,68 @@ TEST_F(PrivacyClearing, WithARescanMeanwhileTakesNothingNewAlong) {
   EXPECT_EQ(view->items().size(), 2U);
   EXPECT_EQ(view->selected().size(), 2U);
   EXPECT_TRUE(desk.disk.holds(inLibrary("Safari/History.db")));
+}
+
+TEST_F(PrivacySigningOut, IsAskedOfExactlyTheTrailsThatDoIt) {
+  ASSERT_TRUE(scan());
+  EXPECT_TRUE(view->selected().empty());
+  toggle("Browser Cookies — Firefox");
+  toggle("Browser Cookies — Chromium");
+  toggle("Shell History");
+  view->clear();
+  EXPECT_TRUE(view->asksToSignOut());
+  EXPECT_FALSE(view->isCleaning());
+  EXPECT_EQ(view->signOutQuestion(),
+            "Every site forgets that you are signed in once these are cleared. This cannot be "
+            "undone.\n\nBrowser Cookies — Chromium\nBrowser Cookies — Firefox");
+  view->staySignedIn();
+  EXPECT_FALSE(view->asksToSignOut());
+  EXPECT_FALSE(view->isCleaning());
+  EXPECT_TRUE(holdsCookies());
+  EXPECT_EQ(view->selected().size(), 3U);
+}
+
+TEST_F(PrivacySigningOut, ClearsWhenItIsConfirmedAndOnlyThen) {
+  ASSERT_TRUE(scan());
+  toggle("Browser Cookies — Firefox");
+  toggle("Browser Cookies — Chromium");
+  view->clearAndSignOut();
+  EXPECT_FALSE(view->isCleaning());
+  view->clear();
+  view->clearAndSignOut();
+  EXPECT_FALSE(view->asksToSignOut());
+  ASSERT_TRUE(turnUntil([this] { return !view->isCleaning(); }));
+  EXPECT_FALSE(holdsCookies());
+  EXPECT_EQ(view->lastResult()->cleaned, 2);
+}
+
+TEST_F(PrivacySigningOut, IsNoQuestionForOtherTrails) {
+  ASSERT_TRUE(scan());
+  toggle("Shell History");
+  ASSERT_TRUE(clear());
+  EXPECT_FALSE(view->asksToSignOut());
+  EXPECT_EQ(view->lastResult()->cleaned, 1);
+  EXPECT_TRUE(holdsCookies());
+}
+
+TEST_F(PrivacySigningOut, IsNoQuestionAnyMoreOnceTheTrailsAreGone) {
+  ASSERT_TRUE(scan());
+  toggle("Browser Cookies — Firefox");
+  view->clear();
+  ASSERT_TRUE(view->asksToSignOut());
+  view->performAction();
+  EXPECT_FALSE(view->asksToSignOut());
+  view->clearAndSignOut();
+  EXPECT_FALSE(view->isCleaning());
+}
+
+TEST_F(PrivacyClearing, OfAMacsCookiesAsksNothingForTheyStay) {
+  addCookies();
+  ASSERT_TRUE(scan());
+  toggle("Browser Cookies");
+  ASSERT_TRUE(clear());
+  EXPECT_FALSE(view->asksToSignOut());
+  EXPECT_EQ(view->lastResult()->cleaned, 1);
 }
 
 TEST_F(PrivacyClearing, IsFinishedBeforeTheProgramEnds) {

@@ -15,7 +15,9 @@ namespace klarvik {
 /// before it removes the list of recent apps.
 class PrivacyFixture : public PaneFixture {
  protected:
-  PrivacyFixture() { view.emplace(shared, desktop); }
+  explicit PrivacyFixture(const Path& home = macHome) : PaneFixture(home) {
+    view.emplace(shared, desktop);
+  }
 
   [[nodiscard]] Path inLibrary(const std::string& place) const {
     return desk.files.home() / "Library" / place;
