@@ -49,7 +49,9 @@ struct Hint {
   std::int64_t size = 0;  ///< bytes
   Message reason;         ///< one sentence
   std::string command;    ///< what the user may run; empty when there is nothing to run
-  Message nameText{};     ///< as of an item
+  /// The row whose `asRoot` can be run here; nothing where the command is only told.
+  const CleaningTool* runAsRoot = nullptr;
+  Message nameText{};  ///< as of an item
 };
 
 /// What one category of a scan found.

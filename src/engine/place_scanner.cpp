@@ -8,6 +8,7 @@
 #include "core/removal_check.h"
 #include "engine/program_use.h"
 #include "engine/project_walk.h"
+#include "engine/root_command.h"
 #include "engine/scanner_engine.h"
 #include "engine/tool_removal.h"
 #include "places/path_pattern.h"
@@ -175,6 +176,7 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
                               .size = measure.bytes,
                               .reason = place.reason,
                               .command = commandLine(*tool),
+                              .runAsRoot = mayRunAsRoot(*tool) ? tool : nullptr,
                               .nameText = std::move(nameText)});
     return;
   }
@@ -198,6 +200,12 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
 bool PlaceScanner::mayRun(const CleaningTool& tool, const Path& path,
                           const Measure& measure) const {
   return measure.isOwn && !measure.holdsMountPoint && cleansFolder(_platform, tool, path, _stop);
+}
+
+bool PlaceScanner::mayRunAsRoot(const CleaningTool& tool) {
+  if (tool.asRoot.empty() || !_platform.files.exists(tool.asRoot.front())) return false;
+  if (!_asksForPassword) _asksForPassword = canRunAsRoot(_platform.tools, _stop);
+  return *_asksForPassword;
 }
 
 void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& category) {

@@ -186,6 +186,33 @@ TEST_F(LinuxDiskTest, TellsWhatOnlyItsOwnToolCanRemove) {
   EXPECT_EQ(found.hints.front().command, "go clean -modcache");
 }
 
+TEST_F(LinuxDiskTest, OffersToRunAsRootWhatIsAConstantWhereTheSystemAsksForThePassword) {
+  file("/var/cache/apt/archives/a.deb", 5 * big);
+  const auto hint = [&] {
+    const CleanCategory found = find(CategoryType::installedPackages);
+    EXPECT_EQ(found.hints.size(), 1U);
+    EXPECT_EQ(found.hints.front().command, "sudo apt-get clean");
+    return found.hints.front();
+  };
+  EXPECT_EQ(hint().runAsRoot, nullptr);
+  tools.answer("pkexec --version", "pkexec version 122\n");
+  EXPECT_EQ(hint().runAsRoot, nullptr);
+  file("/usr/bin/apt-get", 1);
+  ASSERT_NE(hint().runAsRoot, nullptr);
+  EXPECT_EQ(hint().runAsRoot->id, "apt");
+  tools.end("pkexec --version", ToolResult::End::exited, 1);
+  EXPECT_EQ(hint().runAsRoot, nullptr);
+}
+
+TEST_F(LinuxDiskTest, NeverOffersToRunAsRootWhatIsOnlyTold) {
+  file("/var/lib/systemd/coredump/core.x", 5 * big);
+  file("/usr/bin/find", 1);
+  tools.answer("pkexec --version", "pkexec version 122\n");
+  for (const Hint& told : find(CategoryType::systemLogs).hints) {
+    EXPECT_EQ(told.runAsRoot, nullptr) << told.command;
+  }
+}
+
 TEST_F(LinuxDiskTest, TellsWhatLiesOutsideOfTheHomeThroughALink) {
   file("/data/caches/pip/x", big);
   link(".cache", disk.path() / "data/caches");

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/root_command.h"
 #include "platform/formatting.h"
 #include "state/app_state.h"
 
@@ -36,6 +37,9 @@ namespace klarvik::smart_scan {
                                  const Formatting& formatting);
 /// What an item's row says below its name; may be empty.
 [[nodiscard]] std::string itemNote(const JunkItem& item);
+/// What has come of a command that was run with the rights of root.
+[[nodiscard]] std::string rootRunTitle(const RootRun& run);
+[[nodiscard]] std::string rootRunSentence(const RootRun& run);
 /// Of a category with nothing but hints.
 [[nodiscard]] std::string hintsOnlyNote();
 /// Below the commands that the user may run.
