@@ -3,6 +3,7 @@
 #include <unicode/brkiter.h>
 #include <unicode/bytestream.h>
 #include <unicode/casemap.h>
+#include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/utext.h>
 #include <unicode/utf8.h>
@@ -184,6 +185,20 @@ std::size_t charactersOfText(std::string_view text) {
   return count;
 }
 
+std::string composed(std::string_view text) {
+  UErrorCode status = U_ZERO_ERROR;
+  const icu::Normalizer2* const normalizer = icu::Normalizer2::getNFCInstance(status);
+  if (U_FAILURE(status)) return std::string(text);
+  std::string result;
+  const auto compose = [&](std::string_view stretch) {
+    icu::StringByteSink<std::string> sink(&result);
+    const auto size = static_cast<std::int32_t>(stretch.size());
+    normalizer->normalizeUTF8(0, icu::StringPiece(stretch.data(), size), sink, nullptr, status);
+  };
+  forEachUtf8Run(text, compose, [&](std::string_view garbage) { result += garbage; });
+  return result;
+}
+
 }  // namespace
 
 std::string lowercased(std::string_view text) {
@@ -196,6 +211,11 @@ std::string lowercased(std::string_view text) {
   };
   forEachUtf8Run(text, lower, [&](std::string_view garbage) { result += garbage; });
   return result;
+}
+
+std::string comparableName(std::string_view name) {
+  // The order of accents may change with the case.
+  return composed(lowercased(composed(name)));
 }
 
 std::string capitalized(std::string_view text) {

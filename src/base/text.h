@@ -46,6 +46,10 @@ template <std::integral Number>
 /// stay as they are, so that two texts that differ in them do not become the same.
 [[nodiscard]] std::string lowercased(std::string_view text);
 
+/// By what two names are compared that a person takes for the same: in lower case, and with each
+/// letter and its accents as one character where there is one.
+[[nodiscard]] std::string comparableName(std::string_view name);
+
 /// `text` with its first character in upper case, by the same rules. One that is not UTF-8 stays.
 [[nodiscard]] std::string capitalized(std::string_view text);
 

@@ -70,7 +70,7 @@ Refusal residualRefusal(const Pieces& path, std::string_view relative, const Cat
   if (!name)
     return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is not a place apps leave residual files."),
                   relative);
-  const std::string lower = lowercased(*name);
+  const std::string lower = comparableName(*name);
   if (nameMatchesAny(places.sharedNames, lower)) {
     return refuse(QT_TRANSLATE_NOOP("Engine", "%1 is shared by several apps."), path[length]);
   }

@@ -41,7 +41,7 @@ bool isSomeonesHome(const DeletionQuestion& question) {
 std::vector<std::string> distinctiveIdentifiers(const std::vector<std::string>& identifiers) {
   std::vector<std::string> kept;
   for (const std::string& identifier : identifiers) {
-    std::string lower = lowercased(identifier);
+    std::string lower = comparableName(identifier);
     if (characterCount(lower) > 3) kept.push_back(std::move(lower));
   }
   return kept;

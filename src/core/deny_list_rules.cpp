@@ -25,7 +25,7 @@ Refusal residualRefusal(std::string_view path, const DeletionQuestion& question)
   const std::string_view rest = path.substr(root->pattern.size() + 1);
   const std::vector<std::string_view> restPieces = splitPath(rest);
   const std::string_view folder = restPieces.empty() ? rest : restPieces.front();
-  const std::string lowerFolder = lowercased(folder);
+  const std::string lowerFolder = comparableName(folder);
   const bool belongs = std::ranges::any_of(identifiers, [&](const std::string& id) {
     return lowerFolder.find(id) != std::string::npos;
   });

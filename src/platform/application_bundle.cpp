@@ -27,9 +27,21 @@ std::optional<std::string> contentOf(FileReader& file) {
   return std::nullopt;
 }
 
+/// Where the links at `place` lead.
+std::optional<Path> followed(const FileSystem& files, Path place) {
+  constexpr int mostLinks = 8;
+  for (int links = 0; links < mostLinks; ++links) {
+    const auto target = files.linkTarget(place);
+    if (!target) return place;
+    place = target->is_absolute() ? *target : place.parent_path() / *target;
+  }
+  return std::nullopt;
+}
+
 std::optional<PropertyList> informationOf(const FileSystem& files, const Path& folder) {
   for (const std::string_view place : kPlaces) {
-    const auto file = files.openForReading(folder / place);
+    const auto path = followed(files, folder / place);
+    const auto file = path ? files.openForReading(*path) : nullptr;
     if (!file) continue;
     const auto content = contentOf(*file);
     return content ? PropertyList::parse(*content) : std::nullopt;

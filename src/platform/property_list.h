@@ -1,30 +1,31 @@
 #pragma once
 
-#include <memory>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace klarvik {
 
-/// A property list whose outermost part is a dictionary, as XML or binary. It may come from
-/// anywhere: whatever the bytes are, reading them takes bounded time and memory.
+/// The texts of a property list's outermost dictionary, under their keys. What else it holds is
+/// passed over. The list may come from anywhere: whatever the bytes are, reading them takes bounded
+/// time and memory.
 class PropertyList {
  public:
-  /// Nothing when `content` is not such a list, or is more deeply nested or more widely branched
-  /// than one that a program describes itself in would ever be. May be called from any thread.
+  using Texts = std::map<std::string, std::string, std::less<>>;
+
+  /// `content` is XML, binary, or in the old style, a text without tags; a text in UTF-8 or UTF-16.
+  /// Nothing when it is none of these, or when a binary one is more deeply nested or more widely
+  /// branched than one that a program describes itself in would ever be. Any thread.
   [[nodiscard]] static std::optional<PropertyList> parse(std::string_view content);
 
   /// The value for `key` where it is text in UTF-8.
-  [[nodiscard]] std::optional<std::string> text(const char* key) const;
+  [[nodiscard]] std::optional<std::string> text(std::string_view key) const;
 
  private:
-  struct Release {
-    void operator()(void* root) const;
-  };
-  explicit PropertyList(void* root) : _root(root) {}
+  explicit PropertyList(Texts texts) : _texts(std::move(texts)) {}
 
-  std::unique_ptr<void, Release> _root;
+  Texts _texts;
 };
 
 }  // namespace klarvik

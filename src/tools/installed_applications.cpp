@@ -402,8 +402,8 @@ class Search {
       if (match.relation != Relation::below) continue;
       const std::string name = nameWithoutVersion(pieces[match.length - 1]);
       const bool isItsOwn = name == nameWithoutVersion(program.filename().native()) ||
-                            name == lowercased(source.id) ||
-                            name == lowercased(source.entry.windowClass);
+                            name == comparableName(source.id) ||
+                            name == comparableName(source.entry.windowClass);
       if (!isItsOwn) return std::nullopt;
       Path whole = _files.home();
       for (const std::string_view piece : std::span(pieces).first(match.length)) whole /= piece;
@@ -433,7 +433,7 @@ class Search {
 
   void identify(AppInfo& app, const FoundEntry& source) const {
     const auto add = [&](std::string_view text) {
-      std::string lower = lowercased(text);
+      std::string lower = comparableName(text);
       const bool isKnown =
           std::ranges::find(_places.knownLeftovers, lower, &KnownLeftover::identifier) !=
           _places.knownLeftovers.end();
@@ -473,7 +473,7 @@ class Search {
       return;
     }
     const bool isBetterFace =
-        isShown && (!same->second || lowercased(app.bundleID) == lowercased(app.package));
+        isShown && (!same->second || comparableName(app.bundleID) == comparableName(app.package));
     if (isBetterFace) std::swap(same->first, app);
     same->second = same->second || isShown;
     for (std::string& each : app.identifiers) {
@@ -567,7 +567,7 @@ bool isSameApplication(const AppInfo& one, const AppInfo& other) {
 }
 
 std::string nameWithoutVersion(std::string_view name) {
-  std::string lower = lowercased(name);
+  std::string lower = comparableName(name);
   constexpr std::string_view extension = ".appimage";
   if (lower.ends_with(extension)) lower.resize(lower.size() - extension.size());
   for (std::size_t at = 1; at + 1 < lower.size(); ++at) {

@@ -56,7 +56,7 @@ void append(std::vector<std::string>& list, std::string text) {
 
 std::vector<std::string> formsOfTheName(const AppInfo& app) {
   std::vector<std::string> forms;
-  const std::string name = lowercased(app.name);
+  const std::string name = comparableName(app.name);
   for (std::string form : {name, withBlanksAs("", name), withBlanksAs("-", name)}) {
     if (isLongEnough(form)) append(forms, std::move(form));
   }
@@ -69,7 +69,7 @@ std::vector<std::string> identifyingTexts(const std::vector<std::string>& parts,
   std::vector<std::string> texts;
   for (const std::string& part : parts) append(texts, part);
   for (std::string& form : formsOfTheName(app)) append(texts, std::move(form));
-  append(texts, lowercased(app.bundleID));
+  append(texts, comparableName(app.bundleID));
   return texts;
 }
 
@@ -112,18 +112,18 @@ constexpr std::string_view systemVendor = "com.apple";
 ResidualMatcher::ResidualMatcher(const AppInfo& app, const ApplicationPlaces& places,
                                  const std::vector<std::string>& installed)
     : _protectedNames(places.protectedNames),
-      _bundleID(lowercased(app.bundleID)),
+      _bundleID(comparableName(app.bundleID)),
       _tokens(identifyingTexts(distinctiveParts(app.bundleID), app)),
       _nameForms(formsOfTheName(app)) {
   std::erase_if(_tokens, [](const std::string& token) { return !isLongEnough(token); });
   for (const std::string& identifier : installed) {
-    std::string lower = lowercased(identifier);
+    std::string lower = comparableName(identifier);
     if (lower != _bundleID) _otherBundles.push_back(std::move(lower));
   }
 }
 
 bool ResidualMatcher::matches(std::string_view name) const {
-  const std::string lower = lowercased(name);
+  const std::string lower = comparableName(name);
   const auto isTheSystems = [&](std::string_view identifier) {
     return std::ranges::any_of(
         _protectedNames, [&](std::string_view start) { return identifier.starts_with(start); });
@@ -167,7 +167,7 @@ bool ResidualMatcher::sharesOnlyTheVendor(const std::string& lower) const {
 
 std::vector<std::string> guardIdentifiers(const AppInfo& app) {
   std::vector<std::string> parts = distinctiveParts(app.bundleID);
-  std::ranges::transform(parts, parts.begin(), lowercased);
+  std::ranges::transform(parts, parts.begin(), comparableName);
   return identifyingTexts(parts, app);
 }
 

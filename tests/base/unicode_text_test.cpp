@@ -10,6 +10,19 @@ TEST(Lowercased, FollowsUnicodeAndNoOneLanguage) {
   EXPECT_EQ(lowercased(""), "");
 }
 
+TEST(ComparableName, OfALetterWithItsAccentsIsOneWhicheverWayItIsWritten) {
+  EXPECT_EQ(comparableName("Cafe\u0301"), "caf\u00e9");
+  EXPECT_EQ(comparableName("CAF\u00c9"), "caf\u00e9");
+  EXPECT_EQ(comparableName("\u1100\u1161"), "\uac00");
+  EXPECT_NE(comparableName("cafe"), comparableName("caf\u00e9"));
+  EXPECT_EQ(comparableName(""), "");
+}
+
+TEST(ComparableName, KeepsBytesThatAreNotUtf8) {
+  EXPECT_EQ(comparableName("E\u0301\xff\xfeX"), "\u00e9\xff\xfex");
+  EXPECT_NE(comparableName("a\xff"), comparableName("a\xfe"));
+}
+
 TEST(Lowercased, KeepsBytesThatAreNotUtf8) {
   EXPECT_EQ(lowercased("A\xff\xfe\xc3"), "a\xff\xfe\xc3");
 }

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <unicode/unistr.h>
 
 #include "platform/linux/linux_file_system.h"
 #include "support/fault_injecting_file_system.h"
@@ -52,6 +53,15 @@ std::string repeated(std::string_view text, std::size_t times) {
   std::string result;
   for (std::size_t time = 0; time < times; ++time) result += text;
   return result;
+}
+
+std::string encoded(const std::string& text, const char* encoding) {
+  const auto units = icu::UnicodeString::fromUTF8(text);
+  std::string bytes(static_cast<std::size_t>(units.length()) * 2 + 4, '\0');
+  const auto size = units.extract(0, units.length(), bytes.data(),
+                                  static_cast<std::uint32_t>(bytes.size()), encoding);
+  bytes.resize(static_cast<std::size_t>(size));
+  return bytes;
 }
 
 TEST_F(ApplicationBundleTest, IsReadFromAnXmlAndFromABinaryPropertyList) {
@@ -169,40 +179,102 @@ TEST_F(ApplicationBundleTest, APropertyListWithAnyByteSpoiltEndsWell) {
   EXPECT_GT(read, 0U);
 }
 
-TEST_F(ApplicationBundleTest, ADateWithoutSuchAMonthIsNeverRead) {
-  EXPECT_TRUE(bundleOf(xml("<key>a</key><date>2026-12-31T23:59:59Z</date><key>b</key><date/>")));
+TEST_F(ApplicationBundleTest, ADateIsPassedOverWhateverItSays) {
   for (const char* const date :
-       {"2026-00-01T00:00:00Z", "2026-13-01T00:00:00Z", "2026-2000000000-1T0:0:0Z",
-        "2026--999999999-1T0:0Z", "whatever it is", "", "2026-01-01T00:00:00Z and more"}) {
-    EXPECT_FALSE(bundleOf(xml("<key>a</key><date>" + std::string(date) + "</date>"))) << date;
+       {"2026-12-31T23:59:59Z", "2026-13-01T00:00:00Z", "2026-2000000000-1T0:0:0Z",
+        "2026--999999999-1T0:0Z", "whatever it is", ""}) {
+    EXPECT_TRUE(bundleOf(xml("<key>a</key><date>" + std::string(date) + "</date>"))) << date;
   }
 }
 
-TEST_F(ApplicationBundleTest, AMillionLevelsOfXmlAreNoBundle) {
+TEST_F(ApplicationBundleTest, AMillionLevelsOfXmlThatNeverEndAreNoBundle) {
   constexpr std::size_t levels = 1'000'000;
   EXPECT_FALSE(bundleOf(repeated("<array>", levels)));
   EXPECT_FALSE(bundleOf("<plist>" + repeated("<dict><key>k</key>", levels / 10)));
-  EXPECT_FALSE(bundleOf(
-      xml("<key>k</key>" + repeated("<array>", levels / 4) + repeated("</array>", levels / 4))));
 }
 
-TEST_F(ApplicationBundleTest, ThousandsOfLevelsOfXmlAreReadAndForgotten) {
-  constexpr std::size_t levels = 9'000;
+TEST_F(ApplicationBundleTest, HundredsOfThousandsOfLevelsOfXmlArePassedOver) {
+  constexpr std::size_t levels = 250'000;
   EXPECT_TRUE(
       bundleOf(xml("<key>k</key>" + repeated("<array>", levels) + repeated("</array>", levels))));
 }
 
 TEST_F(ApplicationBundleTest, AnEntityBombIsNoBundle) {
+  std::string entities = "<!ENTITY a0 \"aaaaaaaaaa\">";
+  for (int level = 1; level < 12; ++level) {
+    const std::string inner = "&a" + std::to_string(level - 1) + ";";
+    entities += "<!ENTITY a" + std::to_string(level) + " \"" + repeated(inner, 10) + "\">";
+  }
   EXPECT_FALSE(
-      bundleOf("<!DOCTYPE plist [<!ENTITY a \"aaaaaaaaaa\">"
-               "<!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
-               "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\">]>" +
-               xml("<key>k</key><string>&c;</string>")));
-  EXPECT_FALSE(bundleOf(xml("<key>k</key><string>" + repeated("&lt;", 500'000) + "</string>")));
+      bundleOf("<!DOCTYPE plist [" + entities + "]>" + xml("<key>k</key><string>&a11;</string>")));
 }
 
-TEST_F(ApplicationBundleTest, ADictionaryOfHundredsOfThousandsOfKeysIsNoBundle) {
-  EXPECT_FALSE(bundleOf(xml(repeated("<key>a</key><true/>", 200'000))));
+TEST_F(ApplicationBundleTest, ATextOfManyEntitiesIsRead) {
+  EXPECT_TRUE(bundleOf(xml("<key>k</key><string>" + repeated("&lt;", 500'000) + "</string>")));
+}
+
+TEST_F(ApplicationBundleTest, ADictionaryOfHundredsOfThousandsOfKeysIsRead) {
+  EXPECT_TRUE(bundleOf(xml(repeated("<key>a</key><true/>", 200'000))));
+  std::string distinct;
+  for (int key = 0; key < 50'000; ++key) {
+    distinct +=
+        "<key>k" + std::to_string(key) + "</key><string>" + std::to_string(key) + "</string>";
+  }
+  EXPECT_TRUE(bundleOf(xml(distinct)));
+}
+
+TEST_F(ApplicationBundleTest, OnlyTheOutermostDictionaryCounts) {
+  EXPECT_FALSE(
+      bundleOf("<plist><dict><key>inner</key><dict><key>CFBundleIdentifier</key>"
+               "<string>com.acme</string></dict></dict></plist>"));
+  EXPECT_FALSE(
+      bundleOf("<plist><dict><key>CFBundleIdentifier</key><array/>"
+               "<string>com.acme</string></dict></plist>"));
+  EXPECT_FALSE(
+      bundleOf("<html><dict><key>CFBundleIdentifier</key><string>com.acme</string>"
+               "</dict></html>"));
+}
+
+TEST_F(ApplicationBundleTest, IsReadInUtf16WithAByteOrderMarkAndWithout) {
+  const std::string list = xmlPropertyList({{"CFBundleIdentifier", "com.acme.writer"},
+                                            {"CFBundleDisplayName", "S\xC3\xB6hne \U0001F4F1"}});
+  for (const char* const encoding : {"UTF-16LE", "UTF-16BE", "UTF-16"}) {
+    const auto found = bundleOf(encoded(list, encoding));
+    ASSERT_TRUE(found) << encoding;
+    EXPECT_EQ(found->identifier, "com.acme.writer");
+    EXPECT_THAT(found->displayName, Optional(Eq("S\xC3\xB6hne \U0001F4F1"))) << encoding;
+  }
+  EXPECT_FALSE(bundleOf(encoded(list, "UTF-16").substr(0, 301))) << "cut in a character";
+}
+
+TEST_F(ApplicationBundleTest, IsReadInTheOldStyle) {
+  const auto found = bundleOf(R"(// of an old application
+    {
+      CFBundleDocumentTypes = ( { CFBundleTypeName = "a } b"; }, /* ) */ ( c, d ) );
+      CFBundleIcon = <0fbd77 1c2735ae>;
+      "CFBundleIdentifier" = com.acme.writer;
+      CFBundleName = 'Acme "Writer"\n\U00f6';
+    } )");
+  ASSERT_TRUE(found);
+  EXPECT_EQ(found->identifier, "com.acme.writer");
+  EXPECT_THAT(found->name, Optional(Eq("Acme \"Writer\"\n\xC3\xB6")));
+  EXPECT_THAT(identifierIn("{CFBundleIdentifier=\"\\Ud83d\\Udcf1\";}"), Optional(Eq("\U0001F4F1")));
+}
+
+TEST_F(ApplicationBundleTest, AListInTheOldStyleThatIsNotWholeIsNoBundle) {
+  const std::string list = "{ a = (b, {c = d;}); CFBundleIdentifier = \"com.acme\"; /* */ }";
+  EXPECT_TRUE(bundleOf(list));
+  for (std::size_t size = 0; size < list.size(); ++size) {
+    EXPECT_FALSE(bundleOf(list.substr(0, size))) << "at " << size;
+  }
+  for (const char* const odd :
+       {"{ CFBundleIdentifier = com.acme }", "{ CFBundleIdentifier com.acme; }", "{ = com.acme; }",
+        "{ CFBundleIdentifier = ; }", "{ CFBundleIdentifier = = com.acme; }",
+        "{ CFBundleIdentifier = com.acme; } more", "{ CFBundleIdentifier = \"\\Ud83d\"; }",
+        "{ CFBundleIdentifier = (com.acme); }", "{ a = { CFBundleIdentifier = com.acme; }; }"}) {
+    EXPECT_FALSE(bundleOf(odd)) << odd;
+  }
+  EXPECT_FALSE(bundleOf("{ a = " + repeated("(", 1'000'000)));
 }
 
 TEST_F(ApplicationBundleTest, APropertyListThatIsTooLargeIsNoBundle) {
@@ -218,7 +290,19 @@ TEST_F(ApplicationBundleTest, APropertyListThatIsTooLargeIsNoBundle) {
   EXPECT_FALSE(ApplicationBundle::at(files, "/Applications/Endless.app"));
 }
 
-TEST_F(ApplicationBundleTest, AFifoAFolderOrALinkIsNeverOpened) {
+TEST_F(ApplicationBundleTest, IsReadThroughLinksToItsPropertyList) {
+  disk.makeFile("/Applications/Shared/Writer.plist", xmlPropertyList(kWriter));
+  disk.makeLink("/Applications/Shared/Link.plist", "Writer.plist");
+  for (const char* const target : {"../../Shared/Writer.plist", "/Applications/Shared/Writer.plist",
+                                   "/Applications/Shared/Link.plist"}) {
+    disk.makeLink(app / "Contents/Info.plist", target);
+    ASSERT_TRUE(bundle()) << target;
+    EXPECT_EQ(bundle()->identifier, "com.acme.writer");
+    std::filesystem::remove(disk.onDisk(app / "Contents/Info.plist"));
+  }
+}
+
+TEST_F(ApplicationBundleTest, AFifoAFolderOrALinkToNoFileIsNeverOpened) {
   const Path place = disk.onDisk(app / "Contents/Info.plist");
   ASSERT_EQ(::mkfifo(place.c_str(), 0600), 0);
   EXPECT_FALSE(bundle());
@@ -226,8 +310,7 @@ TEST_F(ApplicationBundleTest, AFifoAFolderOrALinkIsNeverOpened) {
   std::filesystem::create_directory(place);
   EXPECT_FALSE(bundle());
   std::filesystem::remove(place);
-  for (const char* const target : {"/dev/zero", "../../Other.plist", "Info.plist", "missing"}) {
-    disk.makeFile("/Applications/Other.plist", xmlPropertyList(kWriter));
+  for (const char* const target : {"/dev/zero", "..", "Info.plist", "missing"}) {
     disk.makeLink(app / "Contents/Info.plist", target);
     EXPECT_FALSE(bundle()) << target;
     std::filesystem::remove(place);

@@ -102,6 +102,13 @@ TEST_F(LinuxLeftovers, AreNeverASecretNorHoldOne) {
   for (const AppInfo& app : engine.listApps()) EXPECT_THAT(leftoversOf(app), IsEmpty()) << app.name;
 }
 
+TEST_F(LinuxLeftovers, AreTheSameWithTheAccentsOfTheirNameApartOrNot) {
+  appImage(home / "Applications/Caf\u00e9-1.0.AppImage");
+  leave({".config/Cafe\u0301", ".cache/caf\u00e9", ".config/cafe"});
+  EXPECT_THAT(leftoversOf(appCalled("Caf\u00e9-1.0")),
+              ElementsAre(".cache/caf\u00e9", ".config/Cafe\u0301"));
+}
+
 TEST_F(LinuxLeftovers, AreNotOfferedWhileAnotherApplicationHasTheSameIdentifier) {
   appImage(home / "Applications/Inkpot-1.0.AppImage");
   leave({".config/inkpot"});

@@ -43,6 +43,17 @@ TEST(ResidualMatcher, APartOfTheIdentifierThatHoldsACapitalLetterCannotMatchByIt
   EXPECT_TRUE(matches(tool, "com.acme.tool"));
 }
 
+TEST(ResidualMatcher, ANameIsTheSameWithItsAccentsApartOrNot) {
+  for (const char* const name : {"Caf\u00e9", "Cafe\u0301"}) {
+    const AppInfo cafe = app(name, "com.x.y");
+    EXPECT_TRUE(matches(cafe, "Caf\u00e9"));
+    EXPECT_TRUE(matches(cafe, "Cafe\u0301 cache"));
+    EXPECT_FALSE(matches(cafe, "Cafe"));
+    EXPECT_THAT(UninstallerEngine::residualIdentifiers(cafe), ElementsAre("caf\u00e9", "com.x.y"));
+  }
+  EXPECT_FALSE(matches(app("Cafe", "com.x.y"), "Cafe\u0301"));
+}
+
 TEST(ResidualMatcher, TheNameFindsWhatSuchAPartCannot) {
   const AppInfo tool = app("Tool", "com.acme.Tool");
   EXPECT_TRUE(matches(tool, "tool"));

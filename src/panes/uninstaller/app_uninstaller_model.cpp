@@ -195,10 +195,14 @@ void AppUninstallerModel::finishReading(std::vector<AppInfo> read) {
   _appList.setApps(std::move(read));
   _loadedAt = _desktop.clock.now();
   emit stateChanged();
-  std::int64_t bytes = 0;
-  for (const AppInfo& app : apps()) bytes = addBytes(bytes, app.appSize);
   _reading.showSummary(
       translate("Uninstaller", "%n apps", nullptr, plural(apps().size())).toStdString());
+  setTotal();
+}
+
+void AppUninstallerModel::setTotal() {
+  std::int64_t bytes = 0;
+  for (const AppInfo& app : apps()) bytes = addBytes(bytes, app.appSize);
   _reading.setTotal(bytes, static_cast<std::int64_t>(apps().size()));
 }
 
@@ -272,6 +276,7 @@ QCoro::Task<> AppUninstallerModel::remove(AppInfo app, std::vector<ResidualFile>
   if (!isListed) {
     _appList.remove(app.appURL);
     if (isLoading()) _removedWhileReading.insert(app.appURL);
+    if (app.kind != AppKind::bundle) setTotal();
     closeDetail();
   } else {
     // The application is still there, and so may some of its leftovers be.

@@ -116,6 +116,7 @@ class AppUninstallerModel : public klarvik::ToolPane {
   QCoro::Task<> remove(AppInfo app, std::vector<ResidualFile> residuals);
   [[nodiscard]] bool appGoes() const;
   void readAgain();
+  void setTotal();
   void closeDetail();
 
   ScanCoordinator& _coordinator;

@@ -493,6 +493,29 @@ TEST_F(UninstallerRemoval, IsToldAndTheAppComesBackIntoTheList) {
   EXPECT_EQ(removal.summary()->restoredCount, 1);
 }
 
+class UninstallerOfALinuxHome : public UninstallerFixture {
+ protected:
+  UninstallerOfALinuxHome() : UninstallerFixture(linuxHome) {}
+};
+
+TEST_F(UninstallerOfALinuxHome, TotalsWhatIsLeftAfterARemoval) {
+  for (const char* const name : {"Inkpot", "Other"}) {
+    desk.disk.makeFile(inHome(std::string("Applications/") + name + ".AppImage"),
+                       std::string("\x7f"
+                                   "ELF\x02\x01\x01\0AI\x02",
+                                   11) +
+                           std::string(100'000, 'x'));
+  }
+  ASSERT_TRUE(readByNavigating() && open("Inkpot"));
+  const auto total = [this] { return shared.scanCoordinator().totals().at("uninstaller"); };
+  const std::int64_t before = total().bytes;
+  const std::int64_t size = view->selectedApp()->appSize;
+  ASSERT_TRUE(uninstall());
+  EXPECT_EQ(total().items, 1);
+  EXPECT_EQ(total().bytes, before - size);
+  EXPECT_EQ(shared.lastRemoval().summary()->itemCount, 1);
+}
+
 TEST_F(UninstallerRemoval, ThatIsPutBackWhileTheListIsReadIsInTheList) {
   ASSERT_TRUE(openWriter());
   ASSERT_TRUE(uninstall());
