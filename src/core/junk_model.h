@@ -23,7 +23,8 @@ struct JunkItem {
   Uuid id = Uuid::random();
   std::string name;  ///< what the row shows; bytes of the disk, made printable only at the screen
   Path path;
-  std::int64_t size = 0;  ///< bytes that the removal should reclaim
+  std::int64_t size = 0;   ///< bytes that the removal should reclaim
+  std::int64_t taken = 0;  ///< bytes on the disk, where that is more; else 0
   std::optional<Date> modifiedDate = std::nullopt;
   /// As it was found. Another thing that comes to its name later is not removed in its place.
   /// Nothing for what is no file.

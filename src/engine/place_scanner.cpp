@@ -10,6 +10,7 @@
 #include "engine/project_walk.h"
 #include "engine/root_command.h"
 #include "engine/scanner_engine.h"
+#include "engine/shared_content.h"
 #include "engine/tool_removal.h"
 #include "places/path_pattern.h"
 #include "platform/file_system.h"
@@ -191,7 +192,7 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
                 .tool = tool,
                 .nameText = std::move(nameText)};
   if (tool != nullptr) {
-    list(std::move(item), category);
+    list(std::move(item), measure, category);
   } else {
     offer(std::move(item), measure, category);
   }
@@ -218,10 +219,13 @@ void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& c
                               .nameText = std::move(item.nameText)});
     return;
   }
-  list(std::move(item), category);
+  list(std::move(item), measure, category);
 }
 
-void PlaceScanner::list(JunkItem item, CleanCategory& category) {
+void PlaceScanner::list(JunkItem item, const Measure& measure, CleanCategory& category) {
+  const std::int64_t stays = sharedBytes(_platform.files, item.path, _stop);
+  item.size = std::max<std::int64_t>(item.size - stays, 0);
+  if (measure.taken > item.size) item.taken = measure.taken;
   _taken.insert(item.path.native() + "/");
   category.items.push_back(std::move(item));
   _report(category.items.back());

@@ -44,7 +44,7 @@ class PlaceScanner {
   void look(const Place& place, const PlaceMatch& match, CleanCategory& category);
   /// As an item, or as a hint where Klarvik could not remove it.
   void offer(JunkItem item, const Measure& measure, CleanCategory& category);
-  void list(JunkItem item, CleanCategory& category);
+  void list(JunkItem item, const Measure& measure, CleanCategory& category);
   /// Whether `tool` can be asked to remove what lies at `path`.
   [[nodiscard]] bool mayRun(const CleaningTool& tool, const Path& path,
                             const Measure& measure) const;

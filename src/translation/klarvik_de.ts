@@ -5331,6 +5331,10 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <source>It printed more than is shown here.</source>
         <translation>Die Ausgabe ist länger, als hier gezeigt wird.</translation>
     </message>
+    <message>
+        <source>Frees about %1 of %2: other files share the rest.</source>
+        <translation>Gibt etwa %1 von %2 frei: Den Rest teilen sich andere Dateien.</translation>
+    </message>
 </context>
 <context>
     <name>SmartScanPane</name>

@@ -378,6 +378,20 @@ TEST_F(SmartScanWindowOfALinuxDisk, ShowsWhatItWouldRunAsRootAndWhatThatPrinted)
   EXPECT_FALSE(shows("Klarvik never asks for your password."));
 }
 
+TEST_F(SmartScanWindowOfALinuxDisk, SaysHowMuchComesBackWhereThatIsLessThanAnItemTakes) {
+  std::filesystem::create_hard_link(desk->disk.makeFile(home / "project/module", 30'000'000),
+                                    desk->disk.onDisk(home / ".npm/_cacache/module"));
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  click("Package Caches");
+  settle();
+  EXPECT_TRUE(shows("Frees about 18 MB of 48 MB: other files share the rest."));
+  EXPECT_TRUE(shows("Clean 18 MB"));
+  window().resize(920, 640);
+  settle();
+  picture("frees_about_920x640");
+}
+
 TEST_F(SmartScanWindowOfALinuxDisk, SaysWhichToolRemovesAnItemForGood) {
   desk->tools.answer("go env GOMODCACHE", desk->disk.onDisk(home / "go/pkg/mod").native() + "\n");
   desk->tools.act("go clean -modcache", [this] {

@@ -564,13 +564,13 @@ QVariant ReviewTableModel::rowDataOfItem(const JunkItem& item, CategoryType type
     case SizeRole:
       return byteText(item.size, _formatting);
     case NoteRole:
-      return printableText(smart_scan::itemNote(item));
+      return printableText(smart_scan::itemNote(item, _formatting));
     case IsInUseRole:
       return !item.closeFirst.empty();
     case CanSelectRole:
       return true;
     case DescriptionRole: {
-      const QString note = printableText(smart_scan::itemNote(item));
+      const QString note = printableText(smart_scan::itemNote(item, _formatting));
       const QString verdict = verdictText(safety(type));
       return rowDescription(name, byteText(item.size, _formatting),
                             note.isEmpty() ? verdict : verdict + ", " + note);

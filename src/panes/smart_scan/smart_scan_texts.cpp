@@ -91,7 +91,7 @@ std::string fateOf(const ItemSum& selected, bool useTrash, const Formatting& for
                 formatting.byteText(selected.size - forGood), formatting.byteText(forGood));
 }
 
-std::string itemNote(const JunkItem& item) {
+std::string itemNote(const JunkItem& item, const Formatting& formatting) {
   std::vector<std::string> notes;
   if (item.wasJustUsed) {
     notes.push_back(translate("SmartScan", "Used within the last day.").toStdString());
@@ -102,6 +102,13 @@ std::string itemNote(const JunkItem& item) {
   }
   if (item.tool != nullptr) {
     notes.push_back(filled(translate("SmartScan", "%1 removes it for good."), item.tool->name));
+  }
+  const std::string comesBack = formatting.byteText(item.size);
+  if (const std::string taken = formatting.byteText(item.taken);
+      item.taken > item.size && taken != comesBack) {
+    notes.push_back(translate("SmartScan", "Frees about %1 of %2: other files share the rest.")
+                        .arg(QString::fromStdString(comesBack), QString::fromStdString(taken))
+                        .toStdString());
   }
   std::string text;
   for (const std::string& note : notes) text += note + ' ';

@@ -36,7 +36,7 @@ namespace klarvik::smart_scan {
 [[nodiscard]] std::string fateOf(const ItemSum& selected, bool useTrash,
                                  const Formatting& formatting);
 /// What an item's row says below its name; may be empty.
-[[nodiscard]] std::string itemNote(const JunkItem& item);
+[[nodiscard]] std::string itemNote(const JunkItem& item, const Formatting& formatting);
 /// What has come of a command that was run with the rights of root.
 [[nodiscard]] std::string rootRunTitle(const RootRun& run);
 [[nodiscard]] std::string rootRunSentence(const RootRun& run);
