@@ -73,6 +73,17 @@ void SectionedList::empty() {
   emit selectionChanged();
 }
 
+void SectionedList::replace(ShownRow row) {
+  const auto found = std::ranges::find(rows(), row.item,
+                                       [](const Row& shown) { return std::optional(shown.item); });
+  if (found == rows().end()) return;
+  if (!row.canSelect) _selected.erase(found->item);
+  _shown[found->itemPlace] = std::move(row);
+  const QModelIndex changed = index(static_cast<int>(found - rows().begin()));
+  emit dataChanged(changed, changed);
+  emit selectionChanged();
+}
+
 void SectionedList::remove(const std::unordered_set<Uuid>& items) {
   std::vector<Row> kept;
   for (const Row& row : rows()) {

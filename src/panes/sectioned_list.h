@@ -67,6 +67,8 @@ class SectionedList : public klarvik::KeyedListModel {
   /// Into a list that is empty.
   void fill(std::vector<ShownRow> rows, std::unordered_set<Uuid> selected);
   void empty();
+  /// Shows something else of an item in the list. One that cannot be selected any more is not.
+  void replace(ShownRow row);
   /// Takes the heading of a section along that is left without an item. All other rows stay.
   void remove(const std::unordered_set<Uuid>& items);
 

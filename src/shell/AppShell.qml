@@ -20,14 +20,12 @@ Item {
         shell: root.shell
     }
 
-    Rectangle {
+    Line {
         id: divider
 
         anchors.left: sidebar.right
         anchors.top: parent.top
         anchors.bottom: parent.bottom
-        width: 1
-        color: Theme.hairlineStrong
     }
 
     Item {

@@ -67,10 +67,11 @@ Rectangle {
             Layout.fillHeight: true
         }
 
-        Rectangle {
+        Item {
             Layout.fillWidth: true
             implicitHeight: 1
-            color: Theme.hairlineStrong
+
+            Separator { color: Theme.hairlineStrong }
         }
 
         TrashBlock {
@@ -79,10 +80,11 @@ Rectangle {
             model: root.shell.trash
         }
 
-        Rectangle {
+        Item {
             Layout.fillWidth: true
             implicitHeight: 1
-            color: Theme.hairlineStrong
+
+            Separator { color: Theme.hairlineStrong }
         }
 
         SymbolButton {

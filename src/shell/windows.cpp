@@ -1,6 +1,7 @@
 #include "shell/windows.h"
 
 #include <QQmlComponent>
+#include <QQuickItem>
 #include <QScreen>
 #include <algorithm>
 #include <utility>
@@ -55,6 +56,11 @@ QRect placeAround(const QPoint& middle, const QSize& size, const QWindow& window
   return place;
 }
 
+/// Where a point is one and a half pixels, or one and a quarter, many edges lie exactly between two
+/// pixels. The renderer rounds each corner of a letter by itself, one up and the next down, and the
+/// letters come out uneven. This moves all that a window holds to one side, by less than is seen.
+constexpr QPointF offTheMiddleOfPixels(0.02, 0.02);
+
 }  // namespace
 
 void fit(QWindow& window, const WindowFrame& frame) {
@@ -90,6 +96,7 @@ QQuickWindow* Windows::make(const QString& id, const QUrl& view, const QVariantM
   }
   made.release();
   window->setObjectName(id);
+  window->contentItem()->setPosition(offTheMiddleOfPixels);
   fit(*window, frame);
   placeOverMainWindow(*window);
   _windows[id].reset(window);

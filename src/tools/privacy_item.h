@@ -40,10 +40,11 @@ struct PrivacyItem {
   std::string program{};  ///< whose trail it is, as the user calls it; empty where nobody's
   std::string_view closedFirst{};  ///< the program without which it is cleared, by its own name
   std::string closeFirst{};        ///< the same as the user calls it, while it runs
+  bool stayed = false;             ///< a clearing left something of it, for another reason
   std::string_view told{};         ///< how the user clears it; empty for what Klarvik clears
 
   /// Whether it can be cleared as things are.
-  [[nodiscard]] bool canBeCleared() const { return closeFirst.empty() && told.empty(); }
+  [[nodiscard]] bool canBeCleared() const { return closeFirst.empty() && told.empty() && !stayed; }
 
   bool operator==(const PrivacyItem&) const = default;
 };

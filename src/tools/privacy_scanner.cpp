@@ -196,7 +196,8 @@ PrivacyClearance PrivacyScanner::clearItem(const PrivacyItem& item) {
 PrivacyClearance PrivacyScanner::clearParts(const PrivacyItem& item) {
   PrivacyClearance done;
   std::size_t gone = 0;
-  if (item.told.empty() && !isInUse(item)) {
+  std::string program = programThatUses(item);
+  if (item.told.empty() && program.empty()) {
     for (const TrailPart& part : item.parts) {
       const std::int64_t before = wholeAllocatedSize(_files, part.path);
       if (!clearPart(part)) continue;
@@ -207,7 +208,7 @@ PrivacyClearance PrivacyScanner::clearParts(const PrivacyItem& item) {
   if (gone == item.parts.size()) {
     done.cleaned = 1;
   } else {
-    done.stayed.push_back(item.id);
+    done.stayed.push_back({item.id, std::move(program)});
   }
   return done;
 }
@@ -245,18 +246,21 @@ bool PrivacyScanner::clearHistory(const TrailPart& part) {
   return outcome == HistoryOutcome::done;
 }
 
-/// Looked at again: a program may have been started since the scan.
-bool PrivacyScanner::isInUse(const PrivacyItem& item) const {
+/// Looked at again: a program may have been started since the scan. Empty where none runs.
+std::string PrivacyScanner::programThatUses(const PrivacyItem& item) const {
   const Catalogue catalogue(layoutFor(_files.home()), _files.folders());
-  const auto runs = [&](std::string_view program) {
-    return !program.empty() && !nameIfRunning(_platform, catalogue, program).empty();
-  };
-  return runs(item.closedFirst) || std::ranges::any_of(item.parts, [&](const TrailPart& part) {
-           const std::string below = part.path.lexically_relative(_files.home()).native();
-           const auto places = catalogue.placesOf(splitPath(below), /*inHome=*/true);
-           return std::ranges::any_of(
-               places, [&](const Place* place) { return runs(place->details.closedFirst); });
-         });
+  std::vector<std::string_view> programs{item.closedFirst};
+  for (const TrailPart& part : item.parts) {
+    const std::string below = part.path.lexically_relative(_files.home()).native();
+    for (const Place* place : catalogue.placesOf(splitPath(below), /*inHome=*/true)) {
+      programs.push_back(place->details.closedFirst);
+    }
+  }
+  for (const std::string_view program : programs) {
+    if (program.empty()) continue;
+    if (std::string name = nameIfRunning(_platform, catalogue, program); !name.empty()) return name;
+  }
+  return {};
 }
 
 }  // namespace klarvik

@@ -14,12 +14,19 @@ namespace klarvik {
 
 class Pasteboard;
 
+/// A trail of which something is still there after a clearing, as far as that is known.
+struct StayedTrail {
+  Uuid id;
+  std::string inUseBy{};  ///< a program that runs, as the user calls it; empty for another reason
+
+  bool operator==(const StayedTrail&) const = default;
+};
+
 /// What a clearing did, as it is told to the user.
 struct PrivacyClearance {
   std::int64_t cleaned = 0;  ///< trails
   std::int64_t freed = 0;    ///< bytes
-  std::vector<Uuid>
-      stayed{};  ///< trails of which something is still there, as far as that is known
+  std::vector<StayedTrail> stayed{};
 
   bool operator==(const PrivacyClearance&) const = default;
 };
@@ -57,7 +64,7 @@ class PrivacyScanner {
   [[nodiscard]] PrivacyClearance clearParts(const PrivacyItem& item);
   [[nodiscard]] bool clearPart(const TrailPart& part);
   [[nodiscard]] bool clearHistory(const TrailPart& part);
-  [[nodiscard]] bool isInUse(const PrivacyItem& item) const;
+  [[nodiscard]] std::string programThatUses(const PrivacyItem& item) const;
 
   const Platform& _platform;
   FileSystem& _files;

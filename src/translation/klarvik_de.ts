@@ -4683,6 +4683,10 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <source>Every site forgets that you are signed in once these are cleared. This cannot be undone.</source>
         <translation>Danach sind Sie auf keiner Website mehr angemeldet. Das lässt sich nicht widerrufen.</translation>
     </message>
+    <message>
+        <source>Stayed: in use, or changed</source>
+        <translation>Blieb: in Benutzung oder geändert</translation>
+    </message>
 </context>
 <context>
     <name>PrivacyCleanerView</name>
@@ -5284,6 +5288,10 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <translation>Vielleicht fragt das System gerade nach dem Passwort.</translation>
     </message>
     <message>
+        <source>Frees about %1 of %2: other files share the rest.</source>
+        <translation>Gibt etwa %1 von %2 frei: Den Rest teilen sich andere Dateien.</translation>
+    </message>
+    <message>
         <source>The command has run</source>
         <translation>Der Befehl wurde ausgeführt</translation>
     </message>
@@ -5330,10 +5338,6 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>It printed more than is shown here.</source>
         <translation>Die Ausgabe ist länger, als hier gezeigt wird.</translation>
-    </message>
-    <message>
-        <source>Frees about %1 of %2: other files share the rest.</source>
-        <translation>Gibt etwa %1 von %2 frei: Den Rest teilen sich andere Dateien.</translation>
     </message>
 </context>
 <context>

@@ -139,8 +139,8 @@ class Package(PackageTest):
 
     def test_depends_on_what_the_program_is_linked_to_and_on_what_its_window_imports(self):
         depends = {entry.split()[0] for entry in self.field("Depends").split(",")}
-        for library in ("libc6", "libqt6quick6", "libexpat1", "libicu", "libplist", "libsqlite3",
-                        "libssl"):
+        linked = ("libc6", "libqt6quick6", "libexpat1", "libicu", "libplist", "libsqlite3", "libssl")
+        for library in linked:
             self.assertTrue(any(name.startswith(library) for name in depends), library)
         self.assertLessEqual({f"qml6-module-{name}" for name in imported_modules()}, depends)
         self.assertLessEqual({"fonts-inter", "hicolor-icon-theme", "xdg-utils"}, depends)

@@ -134,7 +134,7 @@ TEST_F(LinuxTrails, OfAFirefoxThatRunsOrHasItsDatabaseOpenStay) {
   const std::string before = disk.contentOf(firefox / "places.sqlite");
   const auto found = scan();
   programs.running = {"firefox-esr"};
-  EXPECT_EQ(scanner.clear(found).stayed.size(), 1U);
+  EXPECT_EQ(scanner.clear(found).stayed, (std::vector<StayedTrail>{{found.front().id, "Firefox"}}));
   const auto whileItRuns = scan();
   ASSERT_EQ(whileItRuns.size(), 1U);
   EXPECT_EQ(whileItRuns.front().closeFirst, "Firefox");
@@ -247,7 +247,7 @@ TEST_F(LinuxTrails, ThatAreLinksOrHaveAnotherNameStay) {
   EXPECT_EQ(found.front().path, "/home/ann/.zsh_history");
   const PrivacyClearance done = scanner.clear(found);
   EXPECT_EQ(done.cleaned, 0);
-  EXPECT_EQ(done.stayed, std::vector{found.front().id});
+  EXPECT_EQ(done.stayed, (std::vector<StayedTrail>{{found.front().id}}));
   EXPECT_EQ(std::filesystem::file_size(disk.onDisk("/home/ann/dotfiles/zsh")), 3U);
 }
 

@@ -3,10 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Klarvik.Kit
 
-Rectangle {
-    id: root
-
-    width: 1
+Line {
     height: 18
     color: Theme.white(0.12)
 }

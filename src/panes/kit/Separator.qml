@@ -3,11 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Klarvik.Kit
 
-Rectangle {
-    id: root
-
+Line {
     anchors.left: parent ? parent.left : undefined
     anchors.right: parent ? parent.right : undefined
-    height: 1
     color: Theme.hairline
 }

@@ -192,10 +192,7 @@ QCoro::Task<> PrivacyCleanerModel::clearItems(std::vector<PrivacyItem> items) {
 
   _isCleaning = false;
   _lastResult = done;
-  std::erase_if(items, [&](const PrivacyItem& item) {
-    return std::ranges::find(done.stayed, item.id) != done.stayed.end();
-  });
-  _trailList.remove(items);
+  _trailList.takeOut(items, done.stayed);
   emit stateChanged();
   _desktop.notifications.post(diskChangedNotification);
 }

@@ -63,6 +63,7 @@ QString obstacle(const PrivacyItem& item) {
     return translate("SmartScan", "Close %1 first.")
         .arg(printableText(translated(item.closeFirst).toStdString()));
   }
+  if (item.stayed) return translate("Privacy", "Stayed: in use, or changed");
   return programText(item.told);
 }
 

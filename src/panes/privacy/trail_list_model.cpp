@@ -60,9 +60,18 @@ void TrailListModel::clear() {
   empty();
 }
 
-void TrailListModel::remove(const std::vector<PrivacyItem>& items) {
+void TrailListModel::takeOut(const std::vector<PrivacyItem>& items,
+                             const std::vector<StayedTrail>& stayed) {
   std::unordered_set<Uuid> leaving;
   for (const PrivacyItem& item : items) leaving.insert(item.id);
+  for (const StayedTrail& trail : stayed) {
+    leaving.erase(trail.id);
+    const auto found = std::ranges::find(_items, trail.id, &PrivacyItem::id);
+    if (found == _items.end()) continue;
+    found->closeFirst = trail.inUseBy;
+    found->stayed = trail.inUseBy.empty();
+    replace(row(*found));
+  }
   std::erase_if(_items, [&](const PrivacyItem& item) { return leaving.contains(item.id); });
   SectionedList::remove(leaving);
 }

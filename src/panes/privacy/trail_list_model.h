@@ -5,7 +5,7 @@
 
 #include "panes/sectioned_list.h"
 #include "places/words.h"
-#include "tools/privacy_item.h"
+#include "tools/privacy_scanner.h"
 
 namespace klarvik {
 
@@ -27,8 +27,9 @@ class TrailListModel : public klarvik::SectionedList {
   /// Selects all but those that need a review, and those that cannot be cleared.
   void show(std::vector<PrivacyItem> items);
   void clear();
-  /// Rows of other trails stay where they are.
-  void remove(const std::vector<PrivacyItem>& items);
+  /// After a clearing of `items`: they go, but for those that stayed, which say why. Rows of other
+  /// trails stay where they are.
+  void takeOut(const std::vector<PrivacyItem>& items, const std::vector<StayedTrail>& stayed);
 
  private:
   [[nodiscard]] std::vector<ShownRow> shownRows() const;

@@ -65,11 +65,5 @@ RowArrival {
         }
     }
 
-    Rectangle {
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.bottom: parent.bottom
-        height: 1
-        color: Theme.hairline
-    }
+    Separator { anchors.bottom: parent.bottom }
 }

@@ -13,13 +13,7 @@ Item {
 
     implicitHeight: content.implicitHeight + 28
 
-    Rectangle {
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.top: parent.top
-        height: 1
-        color: Theme.hairline
-    }
+    Separator { anchors.top: parent.top }
 
     ColumnLayout {
         id: content

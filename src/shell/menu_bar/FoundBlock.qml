@@ -72,11 +72,12 @@ Rectangle {
             color: Theme.textTertiary
         }
 
-        Rectangle {
+        Item {
             Layout.fillWidth: true
             Layout.topMargin: 2
             implicitHeight: 1
-            color: Theme.hairlineStrong
+
+            Separator { color: Theme.hairlineStrong }
         }
 
         RowLayout {

@@ -69,13 +69,14 @@ FocusScope {
                     Layout.fillWidth: true
                     spacing: 0
 
-                    Rectangle {
+                    Item {
                         Layout.fillWidth: true
                         Layout.topMargin: 6
                         Layout.bottomMargin: 6
                         visible: row.entry.startsGroup
                         implicitHeight: 1
-                        color: Theme.hairlineStrong
+
+                        Separator { color: Theme.hairlineStrong }
                     }
 
                     MenuBarButton {

@@ -12,12 +12,7 @@ Item {
 
     implicitHeight: 68
 
-    Rectangle {
-        anchors.left: parent.left
-        anchors.right: parent.right
-        height: 1
-        color: Theme.hairline
-    }
+    Separator {}
 
     Row {
         anchors.left: parent.left

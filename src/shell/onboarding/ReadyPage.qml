@@ -84,9 +84,8 @@ Item {
                     value: qsTr("your home folder, and what everybody may read")
                 }
 
-                Rectangle {
+                Line {
                     width: parent.width
-                    height: 1
                     color: Theme.hairline
                 }
 

@@ -35,15 +35,13 @@ Item {
         }
     }
 
-    Rectangle {
+    Line {
         id: divider
 
         anchors.top: strip.bottom
         anchors.topMargin: 10
         anchors.left: parent.left
         anchors.right: parent.right
-        height: 1
-        color: Theme.hairlineStrong
     }
 
     Loader {

@@ -387,6 +387,23 @@ TEST_F(PrivacySigningOut, ClearsWhenItIsConfirmedAndOnlyThen) {
   EXPECT_EQ(view->lastResult()->cleaned, 2);
 }
 
+TEST_F(PrivacySigningOut, OfABrowserThatWasStartedMeanwhileSaysWhatStayedAndWhy) {
+  ASSERT_TRUE(scan());
+  toggle("Browser Cookies — Firefox");
+  toggle("Shell History");
+  desk.programs.running = {"firefox-esr"};
+  view->clear();
+  view->clearAndSignOut();
+  ASSERT_TRUE(turnUntil([this] { return !view->isCleaning(); }));
+  EXPECT_TRUE(view->subtitle().endsWith("1 stayed: in use, or changed since the scan"))
+      << view->subtitle().toStdString();
+  EXPECT_FALSE(names().contains("Shell History"));
+  const int cookies = static_cast<int>(names().indexOf("Browser Cookies — Firefox"));
+  ASSERT_GE(cookies, 0);
+  EXPECT_EQ(row(cookies, TrailListModel::NoteRole), "Close Firefox first.");
+  EXPECT_FALSE(isSelected("Browser Cookies — Firefox"));
+}
+
 TEST_F(PrivacySigningOut, IsNoQuestionForOtherTrails) {
   ASSERT_TRUE(scan());
   toggle("Shell History");

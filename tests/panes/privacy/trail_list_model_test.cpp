@@ -129,14 +129,30 @@ TEST_F(TrailListRows, ThatAreRemovedTakeTheHeadingOfAnEmptySectionAlongAndLeaveT
   list.show({trail(browserHistory), trail(browserCookies), trail(recentApps), trail(quarantine)});
   const QPersistentModelIndex cookies = list.index(2);
   QSignalSpy reset(&list, &TrailListModel::modelReset);
-  list.remove(list.selectedItems());
+  list.takeOut(list.selectedItems(), {});
   EXPECT_EQ(names(), (QStringList{"SAFARI, CHROME, FIREFOX", "Browser Cookies"}));
   EXPECT_TRUE(cookies.isValid());
   EXPECT_TRUE(list.selected().empty());
   EXPECT_EQ(list.items().size(), 1U);
   EXPECT_EQ(reset.count(), 0);
-  list.remove(list.items());
+  list.takeOut(list.items(), {});
   EXPECT_EQ(list.rowCount(), 0);
+}
+
+TEST_F(TrailListRows, OfTrailsThatStayedSayWhyAndCannotBeSelectedAnyMore) {
+  list.show({trail(browserHistory), trail(browserCache)});
+  const auto cleared = list.selectedItems();
+  ASSERT_EQ(cleared.size(), 2U);
+  list.takeOut(cleared, {{cleared[0].id, "Firefox"}, {cleared[1].id}});
+  EXPECT_EQ(list.rowCount(), 3);
+  EXPECT_TRUE(list.selected().empty());
+  const auto note = [&](int row) {
+    return list.index(row).data(TrailListModel::NoteRole).toString();
+  };
+  EXPECT_EQ((QSet<QString>{note(1), note(2)}),
+            (QSet<QString>{"Close Firefox first.", "Stayed: in use, or changed"}));
+  list.toggle(1);
+  EXPECT_TRUE(list.selected().empty());
 }
 
 }  // namespace
