@@ -23,7 +23,8 @@ struct JunkItem {
   Uuid id = Uuid::random();
   std::string name;  ///< what the row shows; bytes of the disk, made printable only at the screen
   Path path;
-  std::int64_t size = 0;  ///< bytes that the removal should reclaim
+  std::int64_t size = 0;   ///< bytes that the removal should reclaim
+  std::int64_t taken = 0;  ///< bytes on the disk, where that is more; else 0
   std::optional<Date> modifiedDate = std::nullopt;
   /// As it was found. Another thing that comes to its name later is not removed in its place.
   /// Nothing for what is no file.
@@ -49,7 +50,9 @@ struct Hint {
   std::int64_t size = 0;  ///< bytes
   Message reason;         ///< one sentence
   std::string command;    ///< what the user may run; empty when there is nothing to run
-  Message nameText{};     ///< as of an item
+  /// The row whose `asRoot` can be run here; nothing where the command is only told.
+  const CleaningTool* runAsRoot = nullptr;
+  Message nameText{};  ///< as of an item
 };
 
 /// What one category of a scan found.

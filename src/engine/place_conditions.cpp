@@ -159,8 +159,10 @@ Measure measureWhole(const FileSystem& files, const Path& path, const std::stop_
     }
     const bool takesSpace = !isFolder && entry.kind != FileKind::symbolicLink;
     if (!takesSpace) return;
-    const bool comesBack =
-        entry.names <= 1 || !entry.identity || ++namesFound[*entry.identity] == entry.names;
+    const bool hasOneName = entry.names <= 1 || !entry.identity;
+    const std::uint64_t found = hasOneName ? 1 : ++namesFound[*entry.identity];
+    if (found == 1) measure.taken = addBytes(measure.taken, entry.allocatedBytes);
+    const bool comesBack = hasOneName || found == entry.names;
     if (comesBack) measure.bytes = addBytes(measure.bytes, entry.allocatedBytes);
   };
   if (const auto start = files.attributes(path)) add(*start);

@@ -16,6 +16,7 @@ namespace klarvik {
 /// What a walk through a thing tells of it.
 struct Measure {
   std::int64_t bytes = 0;            ///< all that a removal gives back
+  std::int64_t taken = 0;            ///< all that it takes of the disk, which may be more
   std::optional<Date> used;          ///< when something in it was last changed or read
   bool isOwn = true;                 ///< all of it belongs to the user
   bool holdsMountPoint = false;      ///< other volumes are mounted in it: it cannot be moved

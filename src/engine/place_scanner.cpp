@@ -8,7 +8,9 @@
 #include "core/removal_check.h"
 #include "engine/program_use.h"
 #include "engine/project_walk.h"
+#include "engine/root_command.h"
 #include "engine/scanner_engine.h"
+#include "engine/shared_content.h"
 #include "engine/tool_removal.h"
 #include "places/path_pattern.h"
 #include "platform/file_system.h"
@@ -175,6 +177,7 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
                               .size = measure.bytes,
                               .reason = place.reason,
                               .command = commandLine(*tool),
+                              .runAsRoot = mayRunAsRoot(*tool) ? tool : nullptr,
                               .nameText = std::move(nameText)});
     return;
   }
@@ -189,7 +192,7 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
                 .tool = tool,
                 .nameText = std::move(nameText)};
   if (tool != nullptr) {
-    list(std::move(item), category);
+    list(std::move(item), measure, category);
   } else {
     offer(std::move(item), measure, category);
   }
@@ -198,6 +201,12 @@ void PlaceScanner::look(const Place& place, const PlaceMatch& match, CleanCatego
 bool PlaceScanner::mayRun(const CleaningTool& tool, const Path& path,
                           const Measure& measure) const {
   return measure.isOwn && !measure.holdsMountPoint && cleansFolder(_platform, tool, path, _stop);
+}
+
+bool PlaceScanner::mayRunAsRoot(const CleaningTool& tool) {
+  if (tool.asRoot.empty() || !_platform.files.exists(tool.asRoot.front())) return false;
+  if (!_asksForPassword) _asksForPassword = canRunAsRoot(_platform.tools, _stop);
+  return *_asksForPassword;
 }
 
 void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& category) {
@@ -210,10 +219,13 @@ void PlaceScanner::offer(JunkItem item, const Measure& measure, CleanCategory& c
                               .nameText = std::move(item.nameText)});
     return;
   }
-  list(std::move(item), category);
+  list(std::move(item), measure, category);
 }
 
-void PlaceScanner::list(JunkItem item, CleanCategory& category) {
+void PlaceScanner::list(JunkItem item, const Measure& measure, CleanCategory& category) {
+  const std::int64_t stays = sharedBytes(_platform.files, item.path, _stop);
+  item.size = std::max<std::int64_t>(item.size - stays, 0);
+  if (measure.taken > item.size) item.taken = measure.taken;
   _taken.insert(item.path.native() + "/");
   category.items.push_back(std::move(item));
   _report(category.items.back());

@@ -44,10 +44,12 @@ class PlaceScanner {
   void look(const Place& place, const PlaceMatch& match, CleanCategory& category);
   /// As an item, or as a hint where Klarvik could not remove it.
   void offer(JunkItem item, const Measure& measure, CleanCategory& category);
-  void list(JunkItem item, CleanCategory& category);
+  void list(JunkItem item, const Measure& measure, CleanCategory& category);
   /// Whether `tool` can be asked to remove what lies at `path`.
   [[nodiscard]] bool mayRun(const CleaningTool& tool, const Path& path,
                             const Measure& measure) const;
+  /// Whether the command of `tool` could be run with the rights of root.
+  [[nodiscard]] bool mayRunAsRoot(const CleaningTool& tool);
   [[nodiscard]] Message obstacle(const Path& path, const Measure& measure) const;
   [[nodiscard]] std::string runningUser(const Place& place, const PlaceMatch& match) const;
   [[nodiscard]] bool overlapsAnItem(const Path& path) const;
@@ -58,7 +60,8 @@ class PlaceScanner {
   const std::stop_token _stop;
   const ItemReport _report;
   const Date _now;
-  std::set<std::string> _taken;  ///< paths of items, each with a slash at its end
+  std::optional<bool> _asksForPassword;  ///< whether the system can, once that was looked at
+  std::set<std::string> _taken;          ///< paths of items, each with a slash at its end
 };
 
 /// Whether what a scan found at `path` is still what it was offered as: its marker and its

@@ -60,6 +60,11 @@ struct DesktopApplications {
   std::span<const KnownLeftover> knownLeftovers;
   std::span<const std::string_view> sharedNames;  ///< patterns, in lower case; of folders of many
   std::span<const std::string_view> commonWords;  ///< in lower case; identify nobody
+  /// Patterns; a removal that would take such a package along is not offered.
+  std::span<const std::string_view> neededPackages;
+  std::string_view snapFiles;  ///< the folder of the files that snaps are installed as
+  /// What lies there without a package of its owner's was installed for all users by hand.
+  std::string_view addOns;
 };
 
 /// Where a system's applications lie, and what they leave behind.

@@ -37,6 +37,9 @@ struct CleaningTool {
   std::string_view name;  ///< how the user calls it
   ToolRights rights = ToolRights::user;
   std::string_view told{};  ///< what the user may run in a terminal; empty where Klarvik runs it
+  /// The same, to be run with the rights of root once the user has agreed and the system has asked
+  /// for the password: a program by its full path, and constants. Empty where it is only told.
+  ToolCommand asRoot{};
   ToolAnswer answer = ToolAnswer::folder;
   ToolCommand asks{};       ///< changes nothing
   ToolCommand asksFirst{};  ///< has to be answered well before the other is asked

@@ -70,6 +70,9 @@ class FileReader {
   [[nodiscard]] virtual std::optional<FileAttributes> attributes() const = 0;
   /// How many bytes were put into `buffer`: 0 at the end of the file, nothing when reading failed.
   [[nodiscard]] virtual std::optional<std::size_t> read(std::span<std::byte> buffer) = 0;
+  /// How much of the file stays on the disk when it is removed, because copies of it have the same
+  /// content there; 0 where the file system does not tell.
+  [[nodiscard]] virtual std::int64_t sharedBytes() const { return 0; }
 };
 
 /// A folder that is held open. What lies in it is found without going down to it again, however
@@ -117,6 +120,8 @@ class FileSystem {
   [[nodiscard]] virtual std::optional<Path> linkTarget(const Path&) const { return std::nullopt; }
   /// Whether another volume begins at `path`. Waits for no server.
   [[nodiscard]] virtual bool isMountPoint(const Path& path) const = 0;
+  /// Whether files at or below `path` may share content with copies of them, and tell of it.
+  [[nodiscard]] virtual bool mayShareContent(const Path&) const { return false; }
   /// Waits for no server.
   [[nodiscard]] virtual VolumeTops volumeTops() const { return {{"/"}, {}}; }
   /// Full paths of the direct children, hidden ones included, in the order the disk gives them.

@@ -19,10 +19,12 @@ std::string hexadecimal(std::string_view bytes) {
 }
 
 Report itemReport(const JunkItem& item) {
-  return {{"name", textReport(item.name)},
-          {"path", pathReport(item.path)},
-          {"size", item.size},
-          {"modifiedNanoseconds", dateReport(item.modifiedDate)}};
+  Report report{{"name", textReport(item.name)},
+                {"path", pathReport(item.path)},
+                {"size", item.size},
+                {"modifiedNanoseconds", dateReport(item.modifiedDate)}};
+  if (item.taken > 0) report["taken"] = item.taken;
+  return report;
 }
 
 }  // namespace

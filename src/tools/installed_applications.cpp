@@ -297,7 +297,7 @@ class Search {
   }
 
   [[nodiscard]] std::vector<Path> snapFiles(const std::string& name) const {
-    auto snaps = listed("/var/lib/snapd/snaps");
+    auto snaps = listed(Path(_places.snapFiles));
     std::erase_if(snaps, [&](const Path& file) {
       const std::string text = file.filename().native();
       if (!text.starts_with(name + '_') || !text.ends_with(".snap")) return true;
@@ -338,7 +338,8 @@ class Search {
     }
     if (isInHome && source.isOwn) return byHandAt(*program, source);
     // An entry of the user's own for a program of others is a start of it, and no application.
-    const bool isElsewhere = isBelow(program->native(), "/opt") && ownerOf(*program).empty();
+    const bool isElsewhere =
+        isBelow(program->native(), _places.addOns) && ownerOf(*program).empty();
     if (source.isOwn && !isElsewhere) return std::nullopt;
     AppInfo app = appAt(AppKind::foreign, *program, *program);
     app.keptBecause = _layout.words.appOfNoAskedManager;

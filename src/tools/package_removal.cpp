@@ -1,7 +1,6 @@
 #include "tools/package_removal.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <optional>
 
@@ -25,16 +24,6 @@ constexpr auto mostTimeForAnAnswer = 20s;
 constexpr auto mostTimeForARemoval = 10min;
 constexpr std::size_t longestMessage = 160;  // characters
 constexpr std::string_view removalMark = "Remv ";
-
-/// Without these there is no desktop, no start or no network.
-constexpr auto neededPackages = std::to_array<std::string_view>({
-    "*-desktop",      "task-*",        "linux-image-*", "gnome-shell",
-    "plasma-desktop", "xorg",          "xserver-xorg*", "network-manager",
-    "systemd",        "systemd-sysv",  "grub-*",        "sudo",
-    "gdm3",           "sddm",          "lightdm",       "xfce4",
-    "cinnamon",       "mate-desktop*", "lxqt*",         "apt",
-    "dpkg",
-});
 
 /// The names that a package manager takes hold no other characters, and a tool takes what begins
 /// with "-" for an option.
@@ -79,9 +68,12 @@ void askApt(const Platform& platform, const AppInfo& app, RemovalPlan& plan) {
   if (own == removed.end()) return;
   removed.erase(own);
   plan.isSimulated = true;
-  const auto needed = std::ranges::find_if(
-      removed, [](const std::string& each) { return nameMatchesAny(neededPackages, each); });
-  if (needed != removed.end() || nameMatchesAny(neededPackages, app.package)) {
+  const auto isNeeded = [&](const std::string& each) {
+    const auto* places = layoutFor(platform.files.home()).applications.desktop;
+    return places != nullptr && nameMatchesAny(places->neededPackages, each);
+  };
+  const auto needed = std::ranges::find_if(removed, isNeeded);
+  if (needed != removed.end() || isNeeded(app.package)) {
     const std::string& which = needed != removed.end() ? *needed : app.package;
     plan.command.clear();
     plan.keptBecause = {wordsOf(platform).removalTakesNeeded, {which}};
@@ -102,10 +94,10 @@ std::optional<Command> removalBy(const AppInfo& app) {
 }
 
 /// "snap" waits for as long as a service takes that may not be there.
-bool isServiceThere(const Platform& platform, const AppInfo& app) {
+bool isServiceThere(const Platform& platform, const AppInfo& app, const std::stop_token& stop) {
   if (app.kind != AppKind::snap) return true;
   const Command command{"systemctl", "is-active", "snapd.socket"};
-  return platform.tools.run(command, {.time = mostTimeForAnAnswer}).isWhole();
+  return platform.tools.run(command, {.time = mostTimeForAnAnswer, .stop = stop}).isWhole();
 }
 
 std::string firstLineOf(std::string_view text) {
@@ -162,12 +154,13 @@ bool isRemovedByTool(const AppInfo& app) {
   return removalBy(app).has_value();
 }
 
-Message removeByTool(const Platform& platform, const AppInfo& app) {
+Message removeByTool(const Platform& platform, const AppInfo& app, const std::stop_token& stop) {
   const auto command = removalBy(app);
   const Words& words = wordsOf(platform);
   if (!command) return words.appIsNotRemoved;
-  if (!isServiceThere(platform, app)) return {words.serviceIsNotRunning, {"snapd"}};
-  const ToolResult result = platform.tools.run(*command, {.time = mostTimeForARemoval});
+  if (!isServiceThere(platform, app, stop)) return {words.serviceIsNotRunning, {"snapd"}};
+  const ToolResult result =
+      platform.tools.run(*command, {.time = mostTimeForARemoval, .stop = stop});
   if (!isStillInstalled(platform, app)) return {};
   return whyItStayed(words, result, command->front());
 }

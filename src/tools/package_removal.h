@@ -1,5 +1,6 @@
 #pragma once
 
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,7 +33,9 @@ struct RemovalPlan {
 [[nodiscard]] bool isRemovedByTool(const AppInfo& app);
 
 /// Has it removed, and waits for that; the package manager may ask the user for a password. Empty
-/// once the application is gone, else a sentence that says why it is not. Any thread.
-[[nodiscard]] Message removeByTool(const Platform& platform, const AppInfo& app);
+/// once the application is gone, else a sentence that says why it is not. A stop ends it. Any
+/// thread.
+[[nodiscard]] Message removeByTool(const Platform& platform, const AppInfo& app,
+                                   const std::stop_token& stop = {});
 
 }  // namespace klarvik

@@ -129,9 +129,11 @@ std::int64_t UninstallerEngine::uninstall(const AppInfo& app,
 }
 
 UninstallOutcome UninstallerEngine::remove(const AppInfo& app,
-                                           const std::vector<ResidualFile>& residuals) {
+                                           const std::vector<ResidualFile>& residuals,
+                                           const std::stop_token& stop) {
   const std::lock_guard lock(_working);
-  return app.kind == AppKind::bundle ? removeBundle(app, residuals) : removeProgram(app, residuals);
+  return app.kind == AppKind::bundle ? removeBundle(app, residuals)
+                                     : removeProgram(app, residuals, stop);
 }
 
 UninstallOutcome UninstallerEngine::removeBundle(const AppInfo& app,
@@ -154,7 +156,8 @@ UninstallOutcome UninstallerEngine::removeBundle(const AppInfo& app,
 }
 
 UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
-                                                  const std::vector<ResidualFile>& residuals) {
+                                                  const std::vector<ResidualFile>& residuals,
+                                                  const std::stop_token& stop) {
   UninstallOutcome outcome;
   const FileSystem& files = _platform.files;
   const Words& words = layoutFor(files.home()).words;
@@ -164,7 +167,7 @@ UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
     return outcome;
   }
   if (isRemovedByTool(app)) {
-    outcome.whyItStayed = removeByTool(_platform, app);
+    outcome.whyItStayed = removeByTool(_platform, app, stop);
     outcome.isGone = outcome.whyItStayed.empty();
     if (!outcome.isGone) return outcome;
     outcome.freed = app.appSize;
@@ -183,6 +186,7 @@ UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
   const auto identifiers = ownIdentifiers(files, app, InstalledApplications(_platform).all());
   const auto scope = DeletionScope::residual(identifiers);
   for (const ResidualFile& residual : residuals) {
+    if (stop.stop_requested()) break;
     trashIfAllowed({residual.url, {}, residual.identity, residual.size}, scope, outcome);
   }
   return outcome;

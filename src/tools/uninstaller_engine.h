@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <mutex>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -32,7 +33,8 @@ struct UninstallOutcome {
 ///
 /// Owned by whoever started the work; cheap to make, holds nothing between two calls, and must not
 /// outlive the platform. Operations are synchronous, run one at a time, and are meant to be called
-/// off the main thread. None of them can be stopped: whoever no longer wants the answer ignores it.
+/// off the main thread. But for a removal none
+/// of them can be stopped: whoever no longer wants the answer ignores it.
 /// Nothing throws: what fails counts as not found or not removed.
 class UninstallerEngine {
  public:
@@ -58,7 +60,10 @@ class UninstallerEngine {
   /// The same, and more of what it did. Of an application that a desktop entry tells, residuals go
   /// to the Trash too, and only after the application itself; where that stays because Klarvik does
   /// not remove such, they go alone, and where it could not be removed, nothing does.
-  UninstallOutcome remove(const AppInfo& app, const std::vector<ResidualFile>& residuals);
+  ///
+  /// A stop ends the tool that removes an application, and nothing is removed any more then.
+  UninstallOutcome remove(const AppInfo& app, const std::vector<ResidualFile>& residuals,
+                          const std::stop_token& stop = {});
 
   /// How an application goes that Klarvik does not remove itself. Asks the package manager.
   [[nodiscard]] RemovalPlan plan(const AppInfo& app) const;
@@ -70,7 +75,8 @@ class UninstallerEngine {
   [[nodiscard]] UninstallOutcome removeBundle(const AppInfo& app,
                                               const std::vector<ResidualFile>& residuals);
   [[nodiscard]] UninstallOutcome removeProgram(const AppInfo& app,
-                                               const std::vector<ResidualFile>& residuals);
+                                               const std::vector<ResidualFile>& residuals,
+                                               const std::stop_token& stop);
   bool trashIfAllowed(TrashedItem item, const DeletionScope& scope, UninstallOutcome& outcome);
   /// Fills in where the item went, and adds it to what is gone.
   bool trash(TrashedItem item, const ItemCheck& check, UninstallOutcome& outcome);

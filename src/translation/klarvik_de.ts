@@ -87,6 +87,14 @@
         <source>Copy this command</source>
         <translation>Diesen Befehl kopieren</translation>
     </message>
+    <message>
+        <source>Run…</source>
+        <translation>Ausführen …</translation>
+    </message>
+    <message>
+        <source>Show what would be run, and run it with the system asking for the password</source>
+        <translation>Zeigt, was ausgeführt würde, und führt es aus; das System fragt nach dem Passwort</translation>
+    </message>
 </context>
 <context>
     <name>CompositionChart</name>
@@ -4877,6 +4885,33 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
 </context>
 <context>
+    <name>RootRunSheet</name>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>What it printed</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Stop Waiting</source>
+        <translation>Nicht mehr warten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Ausführen</translation>
+    </message>
+</context>
+<context>
     <name>ScanPreview</name>
     <message>
         <source>WHAT A SCAN LOOKS AT</source>
@@ -5246,6 +5281,74 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>%1 free on disk — the Trash still holds this space until you empty it</source>
         <translation>%1 frei – der Papierkorb belegt diesen Platz noch, bis Sie ihn leeren</translation>
+    </message>
+    <message>
+        <source>Run this command as administrator?</source>
+        <translation>Diesen Befehl als Administrator ausführen?</translation>
+    </message>
+    <message>
+        <source>The command runs</source>
+        <translation>Der Befehl läuft</translation>
+    </message>
+    <message>
+        <source>It is run exactly as it stands here. The system asks for the password; Klarvik never sees it.</source>
+        <translation>Er wird genau so ausgeführt, wie er hier steht. Das System fragt nach dem Passwort; Klarvik sieht es nie.</translation>
+    </message>
+    <message>
+        <source>The system may be asking for the password now.</source>
+        <translation>Vielleicht fragt das System gerade nach dem Passwort.</translation>
+    </message>
+    <message>
+        <source>Frees about %1 of %2: other files share the rest.</source>
+        <translation>Gibt etwa %1 von %2 frei: Den Rest teilen sich andere Dateien.</translation>
+    </message>
+    <message>
+        <source>The command has run</source>
+        <translation>Der Befehl wurde ausgeführt</translation>
+    </message>
+    <message>
+        <source>The command failed</source>
+        <translation>Der Befehl ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The command is not waited for any more</source>
+        <translation>Auf den Befehl wird nicht mehr gewartet</translation>
+    </message>
+    <message>
+        <source>Nothing was run</source>
+        <translation>Es wurde nichts ausgeführt</translation>
+    </message>
+    <message>
+        <source>It ended well. What it has left is measured again.</source>
+        <translation>Er endete ohne Fehler. Was er übrig gelassen hat, wird neu gemessen.</translation>
+    </message>
+    <message>
+        <source>It ended with the error %1.</source>
+        <translation>Er endete mit dem Fehler %1.</translation>
+    </message>
+    <message>
+        <source>It was ended by the signal %1.</source>
+        <translation>Er wurde durch das Signal %1 beendet.</translation>
+    </message>
+    <message>
+        <source>The question for the password was cancelled.</source>
+        <translation>Die Frage nach dem Passwort wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The system refused, or this desktop has no program that asks for the password. The command can still be run in a terminal.</source>
+        <translation>Das System hat abgelehnt, oder dieser Desktop hat kein Programm, das nach dem Passwort fragt. Der Befehl lässt sich weiterhin in einem Terminal ausführen.</translation>
+    </message>
+    <message>
+        <source>The program that asks for the password, pkexec, could not be started.</source>
+        <translation>Das Programm pkexec, das nach dem Passwort fragt, ließ sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>If the password was given before, it may still be running by itself.</source>
+        <translation>Wurde das Passwort schon eingegeben, läuft er vielleicht noch weiter.</translation>
+    </message>
+    <message>
+        <source>It printed more than is shown here.</source>
+        <translation>Die Ausgabe ist länger, als hier gezeigt wird.</translation>
     </message>
 </context>
 <context>

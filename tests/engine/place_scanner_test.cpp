@@ -12,6 +12,7 @@
 #include <string>
 
 #include "engine/scanner_engine.h"
+#include "engine/shared_content.h"
 #include "platform/system_platform.h"
 #include "support/fake_running_programs.h"
 #include "support/fake_tool_runner.h"
@@ -184,6 +185,33 @@ TEST_F(LinuxDiskTest, TellsWhatOnlyItsOwnToolCanRemove) {
   EXPECT_TRUE(found.items.empty());
   ASSERT_EQ(found.hints.size(), 1U);
   EXPECT_EQ(found.hints.front().command, "go clean -modcache");
+}
+
+TEST_F(LinuxDiskTest, OffersToRunAsRootWhatIsAConstantWhereTheSystemAsksForThePassword) {
+  file("/var/cache/apt/archives/a.deb", 5 * big);
+  const auto hint = [&] {
+    const CleanCategory found = find(CategoryType::installedPackages);
+    EXPECT_EQ(found.hints.size(), 1U);
+    EXPECT_EQ(found.hints.front().command, "sudo apt-get clean");
+    return found.hints.front();
+  };
+  EXPECT_EQ(hint().runAsRoot, nullptr);
+  tools.answer("pkexec --version", "pkexec version 122\n");
+  EXPECT_EQ(hint().runAsRoot, nullptr);
+  file("/usr/bin/apt-get", 1);
+  ASSERT_NE(hint().runAsRoot, nullptr);
+  EXPECT_EQ(hint().runAsRoot->id, "apt");
+  tools.end("pkexec --version", ToolResult::End::exited, 1);
+  EXPECT_EQ(hint().runAsRoot, nullptr);
+}
+
+TEST_F(LinuxDiskTest, NeverOffersToRunAsRootWhatIsOnlyTold) {
+  file("/var/lib/systemd/coredump/core.x", 5 * big);
+  file("/usr/bin/find", 1);
+  tools.answer("pkexec --version", "pkexec version 122\n");
+  for (const Hint& told : find(CategoryType::systemLogs).hints) {
+    EXPECT_EQ(told.runAsRoot, nullptr) << told.command;
+  }
 }
 
 TEST_F(LinuxDiskTest, TellsWhatLiesOutsideOfTheHomeThroughALink) {
@@ -376,6 +404,36 @@ TEST_F(LinuxDiskTest, CountsAFileWithTwoNamesOnceAndNotAtAllWhenOneIsElsewhere) 
   const CleanCategory found = find(CategoryType::packageCaches);
   ASSERT_EQ(found.items.size(), 1U);
   EXPECT_LT(found.items.front().size, static_cast<std::int64_t>(2 * big));
+  EXPECT_GT(found.items.front().taken, static_cast<std::int64_t>(2 * big));
+  EXPECT_LT(found.items.front().taken, static_cast<std::int64_t>(3 * big));
+}
+
+TEST_F(LinuxDiskTest, TakesNoMoreThanItFreesWhereNothingIsShared) {
+  file(".cache/pip/one", big);
+  const CleanCategory found = find(CategoryType::packageCaches);
+  ASSERT_EQ(found.items.size(), 1U);
+  EXPECT_EQ(found.items.front().taken, 0);
+}
+
+TEST_F(LinuxDiskTest, PromisesNothingOfWhatCopiesElsewhereHaveToo) {
+  if (!canMountImage("btrfs")) GTEST_SKIP() << "no btrfs can be mounted here";
+  const TemporaryFolder store;
+  EXPECT_TRUE(passesWithPrivateMounts([&] {
+    ASSERT_TRUE(mountImage("btrfs", store.path(), disk.path()));
+    file("kept", big);
+    file(".cache/pip/own", big);
+    ASSERT_TRUE(shareContent(onDisk("kept"), onDisk(".cache/pip/copy")));
+    ::sync();
+    const CleanCategory found = find(CategoryType::packageCaches);
+    ASSERT_EQ(found.items.size(), 1U);
+    EXPECT_NEAR(static_cast<double>(found.items.front().size), big, 1e5);
+    EXPECT_NEAR(static_cast<double>(found.items.front().taken), 2 * big, 2e5);
+    // A stop leaves out what has not been looked at yet.
+    std::stop_source stop;
+    stop.request_stop();
+    EXPECT_EQ(sharedBytes(system.files, home / ".cache/pip", stop.get_token()), 0);
+    EXPECT_GE(sharedBytes(system.files, home / ".cache/pip/copy", {}), 10'000'000);
+  }));
 }
 
 TEST_F(LinuxDiskTest, OffersAMenuEntryWhoseProgramIsGone) {

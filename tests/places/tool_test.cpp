@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 #include <string>
 
@@ -39,7 +40,7 @@ TEST(TheTools, AreNamedOnceAndSayWhatTheyDo) {
 TEST(TheTools, AreNeverToldToRemoveMoreThanIsShown) {
   for (const CleaningTool& each : linuxLayout.tools) {
     std::vector<std::string> all = removalCommand(each, std::vector<std::string>{"one", "2"});
-    for (const ToolCommand command : {each.asks, each.asksFirst}) {
+    for (const ToolCommand command : {each.asks, each.asksFirst, each.asRoot}) {
       all.insert(all.end(), command.begin(), command.end());
     }
     all.emplace_back(each.told);
@@ -67,6 +68,32 @@ TEST(TheTools, ThatNeedRootAreToldAndNeverRun) {
       }
     }
   }
+}
+
+TEST(TheTools, ThatMayBeRunAsRootAreTheseConstantsAndWhatIsToldIsWhatIsRun) {
+  std::map<std::string_view, std::string> lines;
+  for (const CleaningTool& each : linuxLayout.tools) {
+    if (each.asRoot.empty()) continue;
+    EXPECT_EQ(each.rights, ToolRights::root) << each.id;
+    const std::string_view program = each.asRoot.front();
+    EXPECT_TRUE(program.starts_with("/usr/bin/")) << each.id;
+    std::string told = "sudo " + std::string(program.substr(program.rfind('/') + 1));
+    std::string& line = lines[each.id];
+    line = program;
+    for (const std::string_view argument : each.asRoot.subspan(1)) {
+      for (const char* stand : {"NAME", "REVISION", "*", "$", " ", ";"}) {
+        EXPECT_EQ(argument.find(stand), std::string_view::npos) << each.id << ' ' << argument;
+      }
+      told.append(" ").append(argument);
+      line.append(" ").append(argument);
+    }
+    EXPECT_EQ(told, each.told) << each.id;
+  }
+  EXPECT_THAT(lines,
+              testing::ElementsAre(
+                  testing::Pair("apt", "/usr/bin/apt-get clean"),
+                  testing::Pair("dnf", "/usr/bin/dnf clean packages"),
+                  testing::Pair("journal", "/usr/bin/journalctl --rotate --vacuum-size=200M")));
 }
 
 TEST(TheTools, OfPlacesAreInTheTable) {

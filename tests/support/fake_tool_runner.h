@@ -17,6 +17,7 @@ namespace klarvik {
 class FakeToolRunner final : public ToolRunner {
  public:
   using Act = std::function<ToolResult()>;
+  using LimitedAct = std::function<ToolResult(const ToolLimits&)>;
 
   /// `line` is the command with a space between its arguments.
   void answer(const std::string& line, const std::string& output) {
@@ -27,6 +28,10 @@ class FakeToolRunner final : public ToolRunner {
   }
   /// `act` runs on the thread of whoever runs the command.
   void act(const std::string& line, Act act) {
+    actWithin(line, [act = std::move(act)](const ToolLimits&) { return act(); });
+  }
+  /// The same, for one that looks at what it may.
+  void actWithin(const std::string& line, LimitedAct act) {
     const std::lock_guard lock(_mutex);
     _acts[line] = std::move(act);
   }
@@ -41,21 +46,22 @@ class FakeToolRunner final : public ToolRunner {
     return {.end = ToolResult::End::exited, .output = output};
   }
 
-  [[nodiscard]] ToolResult run(std::span<const std::string> command, const ToolLimits&) override {
+  [[nodiscard]] ToolResult run(std::span<const std::string> command,
+                               const ToolLimits& limits) override {
     std::string line;
     for (const std::string& argument : command) line += (line.empty() ? "" : " ") + argument;
-    Act found;
+    LimitedAct found;
     {
       const std::lock_guard lock(_mutex);
       _commandsRun.push_back(line);
       if (const auto at = _acts.find(line); at != _acts.end()) found = at->second;
     }
-    return found ? found() : ToolResult{};
+    return found ? found(limits) : ToolResult{};
   }
 
  private:
   mutable std::mutex _mutex;
-  std::map<std::string, Act> _acts;
+  std::map<std::string, LimitedAct> _acts;
   std::vector<std::string> _commandsRun;
 };
 

@@ -60,6 +60,9 @@ class FaultInjectingFileSystem final : public FileSystem, public FaultInjection<
   [[nodiscard]] std::optional<FileAttributes> attributes(const Path& path) const override;
   [[nodiscard]] std::optional<Path> linkTarget(const Path& path) const override;
   [[nodiscard]] bool isMountPoint(const Path& path) const override;
+  [[nodiscard]] bool mayShareContent(const Path& path) const override {
+    return _files.mayShareContent(path);
+  }
   [[nodiscard]] VolumeTops volumeTops() const override { return _files.volumeTops(); }
   [[nodiscard]] std::optional<std::vector<Path>> list(const Path& folder) const override;
   WalkOutcome walk(const Path& folder, WalkOptions options,

@@ -2,7 +2,9 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <linux/fs.h>
 #include <sched.h>
+#include <sys/ioctl.h>
 #include <sys/mount.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,8 +13,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <string>
+
+#include "base/posix_io.h"
+#include "support/temporary_folder.h"
 
 namespace klarvik {
 namespace {
@@ -68,6 +74,30 @@ bool passesWithPrivateMounts(const std::function<void()>& body) {
   while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
   }
   return status == 0;
+}
+
+bool canMountImage(const std::string& kind) {
+  const TemporaryFolder store;
+  const TemporaryFolder folder;
+  return ::geteuid() == 0 && passesWithPrivateMounts([&] {
+           if (!mountImage(kind, store.path(), folder.path())) std::_Exit(1);
+         });
+}
+
+bool mountImage(const std::string& kind, const Path& store, const Path& folder) {
+  const Path image = store / "image";
+  std::ofstream(image).close();
+  std::filesystem::resize_file(image, 400UL << 20);
+  const std::string made = "PATH=/usr/sbin:/sbin:/usr/bin:/bin; { mkfs." + kind + " -q '" +
+                           image.native() + "' && mount -t " + kind + " -o loop '" +
+                           image.native() + "' '" + folder.native() + "'; } >/dev/null 2>&1";
+  return std::system(made.c_str()) == 0;
+}
+
+bool shareContent(const Path& file, const Path& copy) {
+  const UniqueFd from(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+  const UniqueFd to(::open(copy.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+  return from && to && ::ioctl(to.get(), FICLONE, from.get()) == 0;
 }
 
 bool canMountDeadServers() {

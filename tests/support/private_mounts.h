@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "platform/file_system.h"
@@ -18,6 +19,14 @@ namespace klarvik {
 /// never answers. A `body` that waits for one is ended after a minute, and has not passed.
 [[nodiscard]] bool passesWithDeadServers(const std::vector<Path>& folders,
                                          const std::function<void()>& body);
+
+/// Whether this machine lets a process make a file system of this kind ("btrfs", "xfs") in a file,
+/// and mount it. That takes root, and the programs of that kind.
+[[nodiscard]] bool canMountImage(const std::string& kind);
+/// For use within: an empty one on `folder`, kept in a file of the folder `store`.
+[[nodiscard]] bool mountImage(const std::string& kind, const Path& store, const Path& folder);
+/// A copy that shares its content with the file, on a file system that has such.
+[[nodiscard]] bool shareContent(const Path& file, const Path& copy);
 
 /// For use within: an empty file system in memory on `folder`. `options` are those of tmpfs, such
 /// as "size=64k".

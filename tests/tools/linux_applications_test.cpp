@@ -265,5 +265,44 @@ TEST(NameWithoutVersion, EndsWhereTheVersionBegins) {
   EXPECT_EQ(nameWithoutVersion("-"), "-");
 }
 
+TEST_F(LinuxApplications, OfFlatpakAreNotWaitedForAfterAStopAndKeepTheirData) {
+  installFlatpak(home / ".local/share/flatpak", "org.acme.Ink", "Ink");
+  disk.makeFile(home / ".var/app/org.acme.Ink/data/letter", 50'000);
+  const auto apps = engine.listApps();
+  ASSERT_EQ(apps.size(), 1U);
+  const auto residuals = engine.findResiduals(apps.front());
+  ASSERT_FALSE(residuals.empty());
+  std::stop_source stop;
+  world.tools.actWithin("flatpak uninstall --noninteractive --user app/org.acme.Ink/x86_64/stable",
+                        [&](const ToolLimits& limits) {
+                          stop.request_stop();
+                          EXPECT_TRUE(limits.stop.stop_requested());
+                          return ToolResult{.end = ToolResult::End::stopped};
+                        });
+  const UninstallOutcome done = engine.remove(apps.front(), residuals, stop.get_token());
+  EXPECT_FALSE(done.isGone);
+  EXPECT_EQ(done.freed, 0);
+  EXPECT_TRUE(disk.holds(home / ".var/app/org.acme.Ink/data/letter"));
+  EXPECT_EQ(engine.listApps().size(), 1U);
+}
+
+TEST_F(LinuxApplications, ThatAreGoneAtAStopLeaveTheirData) {
+  installFlatpak(home / ".local/share/flatpak", "org.acme.Ink", "Ink");
+  disk.makeFile(home / ".var/app/org.acme.Ink/data/letter", 50'000);
+  const auto apps = engine.listApps();
+  ASSERT_EQ(apps.size(), 1U);
+  std::stop_source stop;
+  world.tools.actWithin("flatpak uninstall --noninteractive --user app/org.acme.Ink/x86_64/stable",
+                        [&](const ToolLimits&) {
+                          std::filesystem::remove_all(disk.onDisk(home / ".local/share/flatpak"));
+                          stop.request_stop();
+                          return ToolResult{.end = ToolResult::End::stopped};
+                        });
+  const auto residuals = engine.findResiduals(apps.front());
+  const UninstallOutcome done = engine.remove(apps.front(), residuals, stop.get_token());
+  EXPECT_TRUE(done.isGone);
+  EXPECT_TRUE(disk.holds(home / ".var/app/org.acme.Ink/data/letter"));
+}
+
 }  // namespace
 }  // namespace klarvik

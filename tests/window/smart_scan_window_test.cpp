@@ -325,6 +325,73 @@ TEST_F(SmartScanWindowOfALinuxDisk, ShowsACommandThatCanBeCopied) {
   picture("hint_copied_920x640");
 }
 
+TEST_F(SmartScanWindowOfALinuxDisk, ShowsWhatItWouldRunAsRootAndWhatThatPrinted) {
+  const std::string line = "pkexec --disable-internal-agent /usr/bin/apt-get clean";
+  const Path archives = desk->disk.onDisk("/var/cache/apt/archives");
+  desk->disk.makeFile("/var/cache/apt/archives/a.deb", 60'000'000);
+  desk->disk.makeFile("/usr/bin/apt-get", 1);
+  desk->tools.answer("pkexec --version", "pkexec version 122\n");
+  desk->tools.end(line, ToolResult::End::exited, 126);
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  click("Installed Packages");
+  picture("run_as_root_row");
+  window().resize(920, 640);
+  settle();
+  picture("run_as_root_row_920x640");
+  click("Run…");
+  settle();
+  EXPECT_TRUE(shows("Run this command as administrator?"));
+  EXPECT_TRUE(shows(QString::fromStdString(line)));
+  picture("run_as_root_question");
+  EXPECT_TRUE(focused().startsWith("Cancel")) << focused().toStdString();
+  press(Qt::Key_Return);
+  settle();
+  EXPECT_FALSE(shows("Run this command as administrator?"));
+  EXPECT_THAT(desk->tools.commandsRun(), testing::Not(testing::Contains(line)));
+
+  click("Run…");
+  settle();
+  click("Run");
+  ASSERT_NE(waitFor("The question for the password was cancelled."), nullptr);
+  EXPECT_TRUE(shows("Nothing was run"));
+  settle();
+  picture("run_as_root_cancelled");
+  click("Close");
+  settle();
+  EXPECT_TRUE(shows("sudo apt-get clean"));
+
+  desk->tools.act(line, [archives] {
+    std::filesystem::remove_all(archives);
+    return FakeToolRunner::printed("Removed 1 package\nfreed 60 MB\n");
+  });
+  click("Run…");
+  settle();
+  click("Run");
+  ASSERT_NE(waitFor("The command has run"), nullptr);
+  settle();
+  EXPECT_TRUE(shows("Removed 1 package"));
+  picture("run_as_root_done");
+  click("Close");
+  ASSERT_TRUE(turnUntil([this] { return !shows("sudo apt-get clean"); }));
+  settle();
+  EXPECT_FALSE(shows("Klarvik never asks for your password."));
+}
+
+TEST_F(SmartScanWindowOfALinuxDisk, SaysHowMuchComesBackWhereThatIsLessThanAnItemTakes) {
+  std::filesystem::create_hard_link(desk->disk.makeFile(home / "project/module", 30'000'000),
+                                    desk->disk.onDisk(home / ".npm/_cacache/module"));
+  openWindow();
+  ASSERT_TRUE(scanToTheEnd());
+  click("Package Caches");
+  settle();
+  EXPECT_TRUE(shows("Frees about 18 MB of 48 MB: other files share the rest."));
+  EXPECT_TRUE(shows("Clean 18 MB"));
+  window().resize(920, 640);
+  settle();
+  picture("frees_about_920x640");
+}
+
 TEST_F(SmartScanWindowOfALinuxDisk, SaysWhichToolRemovesAnItemForGood) {
   desk->tools.answer("go env GOMODCACHE", desk->disk.onDisk(home / "go/pkg/mod").native() + "\n");
   desk->tools.act("go clean -modcache", [this] {

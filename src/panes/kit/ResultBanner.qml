@@ -13,6 +13,8 @@ Item {
     required property string headline
     required property string detail
     property string help
+    // A command rather than words.
+    property bool headlineIsCode: false
     default property alias buttons: content.data
 
     width: parent ? parent.width : implicitWidth
@@ -62,7 +64,7 @@ Item {
             Label {
                 Layout.fillWidth: true
                 text: root.headline
-                weight: Font.Medium
+                font: root.headlineIsCode ? Theme.codeFont(12) : Theme.font(13, Font.Medium)
             }
 
             Label {

@@ -4,15 +4,17 @@ import QtQuick
 import QtQuick.Layouts
 import Klarvik.Kit
 
-/// A command that the user may run in a terminal, and the button that copies it.
+/// A command that the user may run in a terminal, and the buttons that copy it or have it run here.
 RowLayout {
     id: root
 
     required property string command
     required property bool isCopied
+    property bool canRun: false
     /// Whether Tab comes to the button.
     required property bool isReached
     signal copy()
+    signal run()
 
     spacing: Theme.partSpacing
 
@@ -33,6 +35,14 @@ RowLayout {
             font: Theme.codeFont(11)
             color: Theme.textSecondary
         }
+    }
+
+    TextButton {
+        visible: root.canRun
+        title: qsTr("Run…")
+        help: qsTr("Show what would be run, and run it with the system asking for the password")
+        activeFocusOnTab: root.isReached
+        onAction: root.run()
     }
 
     Item {

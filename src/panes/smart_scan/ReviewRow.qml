@@ -23,8 +23,12 @@ ToolGroupRow {
     required property bool isInUse
     required property bool canSelect
     required property bool isCopied
+    required property bool canRun
     required property string size
     required description
+
+    /// The user wants the command of this row to be run.
+    signal runAsked()
 
     readonly property bool isCategory: kind === ReviewTableModel.Category
     readonly property bool isItem: kind === ReviewTableModel.Item
@@ -59,7 +63,12 @@ ToolGroupRow {
         visible: root.isCommand
         command: root.isCommand ? root.name : ""
         isCopied: root.isCopied
+        canRun: root.canRun
         isReached: root.ListView.isCurrentItem
+        onRun: {
+            root.takePress();
+            root.runAsked();
+        }
         onCopy: {
             root.takePress();
             root.activated();

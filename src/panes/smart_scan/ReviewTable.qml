@@ -35,7 +35,11 @@ ColumnLayout {
             onActivated: row => root.model.activate(row)
             onToggled: row => root.model.toggleSelection(row)
 
-            delegate: ReviewRow {}
+            delegate: ReviewRow {
+                id: row
+
+                onRunAsked: root.model.runCommand(row.index)
+            }
         }
     }
 

@@ -78,6 +78,10 @@ ToolPane {
         model: root.model.footer
     }
 
+    RootRunSheet {
+        model: root.model.rootRun
+    }
+
     ConfirmationDialog {
         isPresented: root.model.isConfirming
         title: qsTr("Your selection includes Review items")

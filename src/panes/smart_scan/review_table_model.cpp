@@ -28,6 +28,7 @@ QVariant nothing(int role) {
     case ReviewTableModel::IsInUseRole:
     case ReviewTableModel::CanSelectRole:
     case ReviewTableModel::IsCopiedRole:
+    case ReviewTableModel::CanRunRole:
       return false;
     case ReviewTableModel::UrlRole:
       return QUrl();
@@ -104,7 +105,8 @@ QHash<int, QByteArray> ReviewTableModel::roleNames() const {
           {NoteRole, "note"},
           {IsInUseRole, "isInUse"},
           {CanSelectRole, "canSelect"},
-          {IsCopiedRole, "isCopied"}};
+          {IsCopiedRole, "isCopied"},
+          {CanRunRole, "canRun"}};
 }
 
 void ReviewTableModel::activate(int row) {
@@ -156,6 +158,17 @@ void ReviewTableModel::copyCommand(int row) {
   }
   _pasteboard.copy(told->command);
   setCopied(told->command);
+}
+
+void ReviewTableModel::runCommand(int row) {
+  if (!hasIndex(row, 0)) {
+    return;
+  }
+  const Place at = place(row);
+  const Hint* told = at.kind == RowKind::Command ? hint(at) : nullptr;
+  if (told != nullptr && told->runAsRoot != nullptr) {
+    emit runAsked(*told->runAsRoot);
+  }
 }
 
 void ReviewTableModel::windowActivated() {
@@ -230,6 +243,7 @@ void ReviewTableModel::removeCategory(std::size_t at) {
   beginRemoveRows({}, first, last);
   _shown.erase(_shown.begin() + static_cast<std::ptrdiff_t>(at));
   endRemoveRows();
+  tellOfCommands();
 }
 
 void ReviewTableModel::updateCategory(std::size_t at) {
@@ -362,6 +376,10 @@ void ReviewTableModel::setHints(std::size_t at, std::span<const Hint> hints) {
   if (const std::size_t kept = std::min(before, count); kept > 0) {
     emit dataChanged(index(row(0)), index(row(kept - 1)));
   }
+  tellOfCommands();
+}
+
+void ReviewTableModel::tellOfCommands() {
   if (setIfChanged(_showedCommands, showsCommands())) {
     emit commandsNoteChanged();
   }
@@ -518,6 +536,8 @@ QVariant ReviewTableModel::rowDataOfCommand(const Place& place, int role) const 
       return command;
     case IsCopiedRole:
       return told->command == _copied;
+    case CanRunRole:
+      return told->runAsRoot != nullptr;
     case DescriptionRole:
       return translate("SmartScan", "Copy the command: %1").arg(command);
     default:
@@ -544,13 +564,13 @@ QVariant ReviewTableModel::rowDataOfItem(const JunkItem& item, CategoryType type
     case SizeRole:
       return byteText(item.size, _formatting);
     case NoteRole:
-      return printableText(smart_scan::itemNote(item));
+      return printableText(smart_scan::itemNote(item, _formatting));
     case IsInUseRole:
       return !item.closeFirst.empty();
     case CanSelectRole:
       return true;
     case DescriptionRole: {
-      const QString note = printableText(smart_scan::itemNote(item));
+      const QString note = printableText(smart_scan::itemNote(item, _formatting));
       const QString verdict = verdictText(safety(type));
       return rowDescription(name, byteText(item.size, _formatting),
                             note.isEmpty() ? verdict : verdict + ", " + note);

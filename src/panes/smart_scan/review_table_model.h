@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "places/tool.h"
 #include "platform/desktop_services.h"
 #include "state/app_state.h"
 
@@ -43,6 +44,7 @@ class ReviewTableModel : public QAbstractListModel {
     IsInUseRole,
     CanSelectRole,
     IsCopiedRole,
+    CanRunRole,
   };
 
   /// Items of an expanded category that show before the user asks for the rest.
@@ -64,6 +66,8 @@ class ReviewTableModel : public QAbstractListModel {
   Q_INVOKABLE void toggleSelection(int row);
   /// Puts the command of the row where the user can paste it. Nothing on another row.
   Q_INVOKABLE void copyCommand(int row);
+  /// Asks for the command of the row to be run. Nothing on a row whose command is only told.
+  Q_INVOKABLE void runCommand(int row);
   /// The user has come back to the window: after a copy they may have run what they copied.
   Q_INVOKABLE void windowActivated();
 
@@ -72,6 +76,7 @@ class ReviewTableModel : public QAbstractListModel {
 
  signals:
   void commandsNoteChanged();
+  void runAsked(const klarvik::CleaningTool& tool);
 
  private:
   struct ShownCategory {
@@ -122,6 +127,7 @@ class ReviewTableModel : public QAbstractListModel {
   [[nodiscard]] QVariant rowDataOfHint(const Place& place, int role) const;
   [[nodiscard]] QVariant rowDataOfCommand(const Place& place, int role) const;
   [[nodiscard]] bool showsCommands() const;
+  void tellOfCommands();
   void setCopied(std::string command);
   [[nodiscard]] QVariant rowDataOfItem(const JunkItem& item, CategoryType type, int role) const;
 

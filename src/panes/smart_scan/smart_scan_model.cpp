@@ -20,7 +20,9 @@ SmartScanModel::SmartScanModel(AppState& appState, SharedState& shared, const De
       _footer(appState, desktop),
       _banner(appState, shared.diskMonitor(), shared.trashMonitor(), desktop.formatting),
       _elsewhere(shared.scanCoordinator(), shared.toolActivity(), shared.navigator(),
-                 desktop.formatting) {
+                 desktop.formatting),
+      _rootRun(desktop.tools, [this] { _appState.measureHintsAgain(); }) {
+  connect(&_reviewTable, &ReviewTableModel::runAsked, &_rootRun, &RootRunModel::ask);
   connect(&_appState, &AppState::scanStateChanged, this, &SmartScanModel::stateChanged);
   connect(&_appState, &AppState::scanResultsChanged, this, &SmartScanModel::resultsChanged);
   connect(&_appState, &AppState::totalSpaceFreeableChanged, this, &SmartScanModel::resultsChanged);

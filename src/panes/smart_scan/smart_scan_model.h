@@ -9,6 +9,7 @@
 #include "panes/smart_scan/cleaned_banner_model.h"
 #include "panes/smart_scan/other_tools_bar_model.h"
 #include "panes/smart_scan/review_table_model.h"
+#include "panes/smart_scan/root_run_model.h"
 #include "panes/smart_scan/scan_preview_model.h"
 #include "panes/smart_scan/scanning_table_model.h"
 #include "panes/tool_pane.h"
@@ -40,6 +41,7 @@ class SmartScanModel : public klarvik::ToolPane {
   Q_PROPERTY(klarvik::CleanFooterModel* footer READ footer CONSTANT)
   Q_PROPERTY(klarvik::CleanedBannerModel* banner READ banner CONSTANT)
   Q_PROPERTY(klarvik::OtherToolsBarModel* elsewhere READ elsewhere CONSTANT)
+  Q_PROPERTY(klarvik::RootRunModel* rootRun READ rootRun CONSTANT)
 
  public:
   enum class Body { Preview, Scanning, Review, NothingFound };
@@ -65,6 +67,10 @@ class SmartScanModel : public klarvik::ToolPane {
   [[nodiscard]] CleanFooterModel* footer() { return &_footer; }
   [[nodiscard]] CleanedBannerModel* banner() { return &_banner; }
   [[nodiscard]] OtherToolsBarModel* elsewhere() { return &_elsewhere; }
+  [[nodiscard]] RootRunModel* rootRun() { return &_rootRun; }
+
+  void stopRemovals() override { _rootRun.stop(); }
+  void finishRemovals() override { _rootRun.finish(); }
 
   /// The header's main button: stops a running scan, else starts one.
   Q_INVOKABLE void performAction();
@@ -95,6 +101,7 @@ class SmartScanModel : public klarvik::ToolPane {
   CleanFooterModel _footer;
   CleanedBannerModel _banner;
   OtherToolsBarModel _elsewhere;
+  RootRunModel _rootRun;
 };
 
 }  // namespace klarvik

@@ -91,7 +91,7 @@ std::string fateOf(const ItemSum& selected, bool useTrash, const Formatting& for
                 formatting.byteText(selected.size - forGood), formatting.byteText(forGood));
 }
 
-std::string itemNote(const JunkItem& item) {
+std::string itemNote(const JunkItem& item, const Formatting& formatting) {
   std::vector<std::string> notes;
   if (item.wasJustUsed) {
     notes.push_back(translate("SmartScan", "Used within the last day.").toStdString());
@@ -103,6 +103,13 @@ std::string itemNote(const JunkItem& item) {
   if (item.tool != nullptr) {
     notes.push_back(filled(translate("SmartScan", "%1 removes it for good."), item.tool->name));
   }
+  const std::string comesBack = formatting.byteText(item.size);
+  if (const std::string taken = formatting.byteText(item.taken);
+      item.taken > item.size && taken != comesBack) {
+    notes.push_back(translate("SmartScan", "Frees about %1 of %2: other files share the rest.")
+                        .arg(QString::fromStdString(comesBack), QString::fromStdString(taken))
+                        .toStdString());
+  }
   std::string text;
   for (const std::string& note : notes) text += note + ' ';
   return text + translated(item.reason).toStdString();
@@ -110,6 +117,55 @@ std::string itemNote(const JunkItem& item) {
 
 std::string hintsOnlyNote() {
   return translate("SmartScan", "Klarvik removes none of this itself.").toStdString();
+}
+
+std::string rootRunTitle(const RootRun& run) {
+  const auto title = [&] {
+    switch (run.end) {
+      case RootRun::End::done:
+        return translate("SmartScan", "The command has run");
+      case RootRun::End::failed:
+      case RootRun::End::killed:
+        return translate("SmartScan", "The command failed");
+      case RootRun::End::leftAlone:
+        return translate("SmartScan", "The command is not waited for any more");
+      case RootRun::End::dismissed:
+      case RootRun::End::notAllowed:
+      case RootRun::End::notThere:
+        break;
+    }
+    return translate("SmartScan", "Nothing was run");
+  }();
+  return title.toStdString();
+}
+
+std::string rootRunSentence(const RootRun& run) {
+  const auto sentence = [&] {
+    switch (run.end) {
+      case RootRun::End::done:
+        return translate("SmartScan", "It ended well. What it has left is measured again.");
+      case RootRun::End::failed:
+        return translate("SmartScan", "It ended with the error %1.").arg(run.status);
+      case RootRun::End::killed:
+        return translate("SmartScan", "It was ended by the signal %1.").arg(run.status);
+      case RootRun::End::dismissed:
+        return translate("SmartScan", "The question for the password was cancelled.");
+      case RootRun::End::notAllowed:
+        return translate("SmartScan",
+                         "The system refused, or this desktop has no program that asks for the "
+                         "password. The command can still be run in a terminal.");
+      case RootRun::End::notThere:
+        return translate("SmartScan",
+                         "The program that asks for the password, pkexec, could not be started.");
+      case RootRun::End::leftAlone:
+        return translate("SmartScan",
+                         "If the password was given before, it may still be running by itself.");
+    }
+    return QString();
+  }();
+  if (!run.isCut) return sentence.toStdString();
+  const QString more = translate("SmartScan", "It printed more than is shown here.");
+  return (sentence + QLatin1Char(' ') + more).toStdString();
 }
 
 std::string commandsNote() {

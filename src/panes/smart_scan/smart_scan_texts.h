@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/root_command.h"
 #include "platform/formatting.h"
 #include "state/app_state.h"
 
@@ -35,7 +36,10 @@ namespace klarvik::smart_scan {
 [[nodiscard]] std::string fateOf(const ItemSum& selected, bool useTrash,
                                  const Formatting& formatting);
 /// What an item's row says below its name; may be empty.
-[[nodiscard]] std::string itemNote(const JunkItem& item);
+[[nodiscard]] std::string itemNote(const JunkItem& item, const Formatting& formatting);
+/// What has come of a command that was run with the rights of root.
+[[nodiscard]] std::string rootRunTitle(const RootRun& run);
+[[nodiscard]] std::string rootRunSentence(const RootRun& run);
 /// Of a category with nothing but hints.
 [[nodiscard]] std::string hintsOnlyNote();
 /// Below the commands that the user may run.

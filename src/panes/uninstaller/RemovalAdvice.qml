@@ -14,6 +14,7 @@ ResultBanner {
     symbol: root.command === "" ? "lock.shield.fill" : "shippingbox.fill"
     symbolColor: Theme.textSecondary
     headline: root.command === "" ? qsTr("This app stays") : root.command
+    headlineIsCode: root.command !== ""
     detail: root.explanation
     help: root.alsoRemoved
 

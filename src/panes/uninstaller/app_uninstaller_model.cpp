@@ -49,6 +49,7 @@ AppUninstallerModel::AppUninstallerModel(SharedState& shared, const Desktop& des
 AppUninstallerModel::~AppUninstallerModel() {
   _reading.drop();
   _residualSearch.drop();
+  stopRemovals();
   finishRemovals();
 }
 
@@ -258,7 +259,7 @@ QCoro::Task<> AppUninstallerModel::remove(AppInfo app, std::vector<ResidualFile>
   UninstallerEngine engine(_desktop, &leftAlone);
   UninstallOutcome outcome;
   co_await runInBackground(_removals, [&] {
-    outcome = engine.remove(app, residuals);
+    outcome = engine.remove(app, residuals, _stop.get_token());
     return outcome.isGone;
   });
   _notice.tell(leftAlone);

@@ -6,6 +6,7 @@
 #include <QString>
 #include <optional>
 #include <set>
+#include <stop_token>
 #include <unordered_set>
 #include <vector>
 
@@ -87,6 +88,7 @@ class AppUninstallerModel : public klarvik::ToolPane {
   /// Reads the applications when the turn of this tool comes.
   void appear() override { readInTurn(); }
   /// A removal cannot be stopped.
+  void stopRemovals() override { _stop.request_stop(); }
   void finishRemovals() override { _removals.finish(); }
 
   /// Opens the application of a row of the list.
@@ -137,6 +139,7 @@ class AppUninstallerModel : public klarvik::ToolPane {
   std::set<Path> _removedWhileReading;  ///< which the reading may have seen before
   ScanSession _reading;
   EngineRun _residualSearch;
+  std::stop_source _stop;  ///< at the end of the program
   BackgroundTasks _removals;
 };
 

@@ -51,6 +51,10 @@ constexpr auto askSnapd = arguments("systemctl", "is-active", "--quiet", "snapd.
 constexpr auto askSnaps = arguments("snap", "list", "--all");
 constexpr auto removeSnap = arguments("snap", "remove", "NAME", "--revision=REVISION");
 
+constexpr auto cleanApt = arguments("/usr/bin/apt-get", "clean");
+constexpr auto cleanDnf = arguments("/usr/bin/dnf", "clean", "packages");
+constexpr auto vacuumJournal = arguments("/usr/bin/journalctl", "--rotate", "--vacuum-size=200M");
+
 constexpr std::string_view unusedRuntimes =
     "Runtimes that no installed application needs; some come back at the next update.";
 constexpr std::string_view imagesWithoutName = "Images that no name and no container refers to.";
@@ -133,8 +137,12 @@ constexpr std::array<CleaningTool, 23> all{{
     {.id = "rustup", .name = "rustup", .told = "rustup toolchain uninstall NAME"},
     {.id = "ollama", .name = "Ollama", .told = "ollama rm NAME"},
     {.id = "minikube", .name = "minikube", .told = "minikube delete"},
-    {.id = "apt", .name = "apt", .rights = root, .told = "sudo apt-get clean"},
-    {.id = "dnf", .name = "dnf", .rights = root, .told = "sudo dnf clean packages"},
+    {.id = "apt", .name = "apt", .rights = root, .told = "sudo apt-get clean", .asRoot = cleanApt},
+    {.id = "dnf",
+     .name = "dnf",
+     .rights = root,
+     .told = "sudo dnf clean packages",
+     .asRoot = cleanDnf},
     {.id = "zypper", .name = "zypper", .rights = root, .told = "sudo zypper clean"},
     {.id = "paccache",
      .name = "paccache",
@@ -143,7 +151,8 @@ constexpr std::array<CleaningTool, 23> all{{
     {.id = "journal",
      .name = "journalctl",
      .rights = root,
-     .told = "sudo journalctl --rotate --vacuum-size=200M"},
+     .told = "sudo journalctl --rotate --vacuum-size=200M",
+     .asRoot = vacuumJournal},
     {.id = "coredumps",
      .name = "find",
      .rights = root,

@@ -16,6 +16,7 @@
 #include "platform/linux/directory_walk.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/mounts.h"
+#include "platform/linux/shared_extents.h"
 #include "platform/linux/tree_removal.h"
 #include "platform/linux/volume_tops.h"
 
@@ -58,6 +59,8 @@ class LinuxFileReader final : public FileReader {
     }
     return filled;
   }
+
+  [[nodiscard]] std::int64_t sharedBytes() const override { return sharedBytesOf(_file.get()); }
 
  private:
   UniqueFd _file;
@@ -225,6 +228,11 @@ WalkOutcome LinuxFileSystem::walk(const Path& folder, WalkOptions options,
   UniqueFd start = open(folder, O_RDONLY | O_DIRECTORY | (isRoot ? 0 : O_NOFOLLOW));
   if (!start) return WalkOutcome::refused;
   return walkBelow(std::move(start), withoutTrailingSlashes(folder), options, visit);
+}
+
+bool LinuxFileSystem::mayShareContent(const Path& path) const {
+  const UniqueFd opened = open(path, O_PATH | O_NOFOLLOW);
+  return opened && klarvik::mayShareContent(opened.get());
 }
 
 std::unique_ptr<FileReader> LinuxFileSystem::openForReading(const Path& path) const {

@@ -28,6 +28,7 @@ class LinuxFileSystem : public FileSystem {
   [[nodiscard]] std::optional<FileAttributes> attributes(const Path& path) const override;
   [[nodiscard]] std::optional<Path> linkTarget(const Path& path) const override;
   [[nodiscard]] bool isMountPoint(const Path& path) const override;
+  [[nodiscard]] bool mayShareContent(const Path& path) const override;
   [[nodiscard]] VolumeTops volumeTops() const override;
   [[nodiscard]] std::optional<std::vector<Path>> list(const Path& folder) const override;
   WalkOutcome walk(const Path& folder, WalkOptions options,

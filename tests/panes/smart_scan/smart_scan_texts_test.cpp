@@ -126,17 +126,28 @@ TEST(FateOfASelection, TellsApartWhatGoesToTheTrashAndWhatForGood) {
 }
 
 TEST(ItemNote, GivesTheReasonAndSaysWhatToCloseFirst) {
-  EXPECT_EQ(itemNote({.name = "npm", .path = "/x"}), "");
-  EXPECT_EQ(itemNote({.name = "npm", .path = "/x", .reason = "It comes back."}), "It comes back.");
+  EXPECT_EQ(itemNote({.name = "npm", .path = "/x"}, english()), "");
+  EXPECT_EQ(itemNote({.name = "npm", .path = "/x", .reason = "It comes back."}, english()),
+            "It comes back.");
   EXPECT_EQ(
-      itemNote({.name = "f", .path = "/x", .reason = "It comes back.", .closeFirst = "Firefox"}),
+      itemNote({.name = "f", .path = "/x", .reason = "It comes back.", .closeFirst = "Firefox"},
+               english()),
       "Close Firefox first. It comes back.");
 }
 
 TEST(ItemNote, SaysWhichToolRemovesItForGood) {
   const CleaningTool go{.id = "go", .name = "Go"};
-  EXPECT_EQ(itemNote({.name = "m", .path = "/x", .reason = "It comes back.", .tool = &go}),
-            "Go removes it for good. It comes back.");
+  EXPECT_EQ(
+      itemNote({.name = "m", .path = "/x", .reason = "It comes back.", .tool = &go}, english()),
+      "Go removes it for good. It comes back.");
+}
+
+TEST(ItemNote, SaysHowMuchComesBackWhereThatIsLess) {
+  EXPECT_EQ(
+      itemNote({.name = "m", .path = "/x", .size = 3'000'000, .taken = 40'000'000}, english()),
+      "Frees about 3 MB of 40 MB: other files share the rest. ");
+  EXPECT_EQ(itemNote({.name = "m", .path = "/x", .size = 3'000'000, .taken = 3'000'100}, english()),
+            "");
 }
 
 TEST(CleanTitle, NamesTheSizeOfTheSelection) {
