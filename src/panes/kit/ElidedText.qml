@@ -10,8 +10,6 @@ Label {
     // What the tooltip says; the text itself, and only when it is cut, as long as this is empty.
     property string fullText: ""
 
-    readonly property string tip: root.fullText !== "" ? root.fullText : root.truncated ? root.text : ""
-
     elide: Text.ElideMiddle
     // Also a name that is read from the right begins where its column does.
     horizontalAlignment: Text.AlignLeft
@@ -21,7 +19,7 @@ Label {
     }
 
     HelpTip {
-        text: root.tip
+        text: root.fullText !== "" ? root.fullText : root.truncated ? root.text : ""
         hovered: hover.hovered
     }
 }

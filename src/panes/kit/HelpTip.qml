@@ -10,8 +10,6 @@ Loader {
     property bool hovered: false
     property bool isBeside: false
 
-    readonly property bool isWanted: root.hovered && root.text !== ""
-
     function isInside(outer: Item): bool {
         for (let item = root.parent; item; item = item.parent) {
             if (item === outer)
@@ -20,18 +18,26 @@ Loader {
         return false;
     }
 
-    anchors.fill: parent
-    onIsWantedChanged: {
-        if (root.isWanted) {
+    function look() {
+        const isWanted = root.hovered && root.text !== "";
+        if (isWanted === root.active)
+            return;
+        if (isWanted) {
             if (!HelpTips.owner || root.isInside(HelpTips.owner))
                 HelpTips.owner = root.parent;
+            root.anchors.fill = root.parent;
+            root.active = true;
             root.setSource("KitToolTip.qml");
         } else {
             if (HelpTips.owner === root.parent)
                 HelpTips.owner = null;
-            root.source = "";
+            root.active = false;
         }
     }
+
+    active: false
+    onHoveredChanged: root.look()
+    onTextChanged: root.look()
     onLoaded: {
         root.item.isBeside = root.isBeside;
         root.item.text = Qt.binding(() => root.text);

@@ -18,19 +18,13 @@ Item {
     property real ringGap: 2
     property real leftPadding: 0
     property real rightPadding: 0
-    property Item background
-    property Item contentItem
+    // Each fills the element.
+    property alias background: backgroundSlot.data
+    property alias contentItem: contentSlot.data
     readonly property bool down: area.pressed && area.containsMouse
-    readonly property bool hovered: hover.hovered
+    readonly property alias hovered: hover.hovered
     readonly property bool visualFocus: root.activeFocus && Kit.usesKeys
     signal action()
-
-    function putInto(item: Item, slot: Item) {
-        if (!item)
-            return;
-        item.parent = slot;
-        item.anchors.fill = slot;
-    }
 
     // A key that is held is one press.
     function answer(event: KeyEvent) {
@@ -52,14 +46,12 @@ Item {
     Keys.onSpacePressed: event => root.answer(event)
     Keys.onReturnPressed: event => root.answer(event)
     Keys.onEnterPressed: event => root.answer(event)
-    onBackgroundChanged: root.putInto(root.background, backgroundSlot)
-    onContentItemChanged: root.putInto(root.contentItem, contentSlot)
 
     HoverHandler {
         id: hover
     }
 
-    Item {
+    ContentSlot {
         id: backgroundSlot
         anchors.fill: parent
     }
@@ -72,7 +64,7 @@ Item {
         onClicked: root.action()
     }
 
-    Item {
+    ContentSlot {
         id: contentSlot
         anchors.fill: parent
         anchors.leftMargin: root.leftPadding

@@ -28,7 +28,7 @@ Item {
     property alias whole: ground.data
 
     readonly property RowList list: root.ListView.view as RowList
-    readonly property bool hovered: hover.hovered
+    readonly property alias hovered: hover.hovered
     readonly property bool isMarked: root.activeFocus && root.list !== null && Kit.usesKeys
     property bool isPooled: false
     // Also told to the list, as are presses of keys.

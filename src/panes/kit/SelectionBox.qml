@@ -29,24 +29,18 @@ Pressable {
     }
     onAction: root.toggled()
 
-    contentItem: Item {
-        Rectangle {
-            anchors.centerIn: parent
-            width: root.size
-            height: root.size
-            radius: root.size * 0.25
-            color: root.isFilled ? Theme.accent : root.hovered ? Theme.white(0.06) : Theme.clear
-            border.width: root.isFilled ? 0 : 1.5
-            border.color: Theme.white(0.35)
-            opacity: root.down ? 0.7 : root.canToggle ? 1.0 : 0.4
-        }
+    background: Rectangle {
+        radius: root.size * 0.25
+        color: root.isFilled ? Theme.accent : root.hovered ? Theme.white(0.06) : Theme.clear
+        border.width: root.isFilled ? 0 : 1.5
+        border.color: Theme.white(0.35)
+        opacity: root.down ? 0.7 : root.canToggle ? 1.0 : 0.4
+    }
 
-        Symbol {
-            anchors.centerIn: parent
-            name: Kit.selectionSymbol(root.selection)
-            size: root.size * 0.62
-            color: Theme.onAccent
-            visible: root.isFilled
-        }
+    contentItem: Symbol {
+        name: Kit.selectionSymbol(root.selection)
+        size: root.size * 0.62
+        color: Theme.onAccent
+        visible: root.isFilled
     }
 }

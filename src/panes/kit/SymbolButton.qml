@@ -23,13 +23,10 @@ Pressable {
         color: root.down ? Theme.white(0.1) : root.hovered ? Theme.white(0.06) : Theme.clear
     }
 
-    contentItem: Item {
-        Symbol {
-            anchors.centerIn: parent
-            name: root.symbol
-            size: root.size
-            color: root.hovered ? root.hoverColor : root.color
-            opacity: root.isEnabled ? 1.0 : 0.4
-        }
+    contentItem: Symbol {
+        name: root.symbol
+        size: root.size
+        color: root.hovered ? root.hoverColor : root.color
+        opacity: root.isEnabled ? 1.0 : 0.4
     }
 }

@@ -50,12 +50,15 @@ RowFrame {
         onToggled: root.pressBox()
     }
 
-    Symbol {
-        Layout.preferredWidth: 14
-        visible: root.canToggleExpanded
-        name: root.isExpanded ? "chevron.down" : "chevron.right"
-        size: 10
-        color: Theme.textTertiary
+    Repeater {
+        model: root.canToggleExpanded ? 1 : 0
+
+        Symbol {
+            Layout.preferredWidth: 14
+            name: root.isExpanded ? "chevron.down" : "chevron.right"
+            size: 10
+            color: Theme.textTertiary
+        }
     }
 
     RowLayout {
@@ -78,13 +81,16 @@ RowFrame {
             color: root.titleColor
         }
 
-        ElidedText {
-            Layout.fillWidth: true
-            visible: text.length > 0
-            text: root.note
-            elide: Text.ElideRight
-            size: 11
-            color: root.noteColor
+        Repeater {
+            model: root.note.length > 0 ? 1 : 0
+
+            ElidedText {
+                Layout.fillWidth: true
+                text: root.note
+                elide: Text.ElideRight
+                size: 11
+                color: root.noteColor
+            }
         }
     }
 }

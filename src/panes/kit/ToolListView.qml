@@ -10,6 +10,9 @@ ListView {
     anchors.fill: parent
     clip: true
     boundsBehavior: Flickable.StopAtBounds
+    // Rows that come into sight take over what others leave behind. Those that a model inserts beyond
+    // what is seen would be made at once, in the frame that shows the others.
     reuseItems: true
+    cacheBuffer: 0
     T.ScrollBar.vertical: KitScrollBar {}
 }

@@ -5,6 +5,8 @@
 #include <QStringView>
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <utility>
 
 #include "panes/kit/palette.h"
 
@@ -26,6 +28,20 @@ void forEachRun(const QString& text, auto take) {
     take(text.mid(start, end - start));
     start = end;
   }
+}
+
+/// That of the widest, found once for each font.
+qreal digitWidth(qreal size, int weight) {
+  static std::map<std::pair<qreal, int>, qreal> widths;
+  const auto [found, isNew] = widths.try_emplace({size, weight}, 0);
+  if (isNew) {
+    const QFontMetricsF metrics(interfaceFont(size, static_cast<QFont::Weight>(weight)));
+    for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
+      found->second = std::max(found->second, metrics.horizontalAdvance(QChar(digit)));
+    }
+    found->second = std::round(found->second);
+  }
+  return found->second;
 }
 
 }  // namespace
@@ -72,28 +88,18 @@ void MonospacedDigits::setAlignment(Qt::Alignment alignment) {
 void MonospacedDigits::layOut() {
   _font = interfaceFont(_size, static_cast<QFont::Weight>(_weight));
   const QFontMetricsF metrics(_font);
-  const qreal cell = digitWidth();
+  _digitWidth = digitWidth(_size, _weight);
   qreal width = 0;
   forEachRun(_text, [&](const QString& run) {
-    width += isDigit(run[0]) ? cell : metrics.horizontalAdvance(run);
+    width += isDigit(run[0]) ? _digitWidth : metrics.horizontalAdvance(run);
   });
   setImplicitSize(std::ceil(width), std::ceil(metrics.height()));
   setBaselineOffset(metrics.ascent());
   update();
 }
 
-qreal MonospacedDigits::digitWidth() const {
-  const QFontMetricsF metrics(_font);
-  qreal widest = 0;
-  for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
-    widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
-  }
-  return std::round(widest);
-}
-
 void MonospacedDigits::paint(QPainter* painter) {
   const QFontMetricsF metrics(_font);
-  const qreal cell = digitWidth();
   painter->setFont(_font);
   painter->setPen(_color);
   const qreal baseline = std::round((height() - metrics.height()) / 2 + metrics.ascent());
@@ -101,7 +107,7 @@ void MonospacedDigits::paint(QPainter* painter) {
   qreal x = _alignment & Qt::AlignRight ? spare : _alignment & Qt::AlignHCenter ? spare / 2 : 0;
   forEachRun(_text, [&](const QString& run) {
     const qreal advance = metrics.horizontalAdvance(run);
-    const qreal slot = isDigit(run[0]) ? cell : advance;
+    const qreal slot = isDigit(run[0]) ? _digitWidth : advance;
     painter->drawText(QPointF(x + (slot - advance) / 2, baseline), run);
     x += slot;
   });

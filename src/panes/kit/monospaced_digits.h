@@ -47,7 +47,6 @@ class MonospacedDigits : public QQuickPaintedItem {
 
  private:
   void layOut();
-  [[nodiscard]] qreal digitWidth() const;
 
   QString _text;
   qreal _size = 13;
@@ -55,6 +54,7 @@ class MonospacedDigits : public QQuickPaintedItem {
   QColor _color = Qt::white;
   Qt::Alignment _alignment = Qt::AlignLeft;
   QFont _font;
+  qreal _digitWidth = 0;
 };
 
 }  // namespace klarvik

@@ -3,8 +3,10 @@
 #include <QFontDatabase>
 #include <QStringList>
 #include <array>
+#include <map>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include "panes/kit/symbol_table.h"
 
@@ -14,6 +16,16 @@ namespace {
 constexpr auto symbolFontFile = ":/Klarvik/Kit/symbols.ttf";
 constexpr auto symbolFamily = "Framework7 Icons";
 
+QFont makeInterfaceFont(int pixels, QFont::Weight weight, qreal tracking) {
+  QFont font;
+  font.setFamilies({"Inter", "Inter Variable", "Noto Sans", "Cantarell", "DejaVu Sans"});
+  font.setWeight(weight);
+  font.setHintingPreference(QFont::PreferVerticalHinting);
+  font.setPixelSize(pixels);
+  if (tracking != 0) font.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
+  return font;
+}
+
 }  // namespace
 
 bool loadSymbolFont() {
@@ -21,13 +33,12 @@ bool loadSymbolFont() {
   return font != -1;
 }
 
-QFont interfaceFont(qreal size, QFont::Weight weight) {
-  QFont font;
-  font.setFamilies({"Inter", "Inter Variable", "Noto Sans", "Cantarell", "DejaVu Sans"});
-  font.setWeight(weight);
-  font.setHintingPreference(QFont::PreferVerticalHinting);
-  font.setPixelSize(qRound(size));
-  return font;
+QFont interfaceFont(qreal size, QFont::Weight weight, qreal tracking) {
+  // A font that is kept has its face found once; a row of a table draws with five of them.
+  static std::map<std::tuple<int, int, qreal>, QFont> made;
+  const auto [found, isNew] = made.try_emplace({qRound(size), weight, tracking});
+  if (isNew) found->second = makeInterfaceFont(qRound(size), weight, tracking);
+  return found->second;
 }
 
 QFont codeFont(qreal size) {
@@ -40,10 +51,13 @@ QFont codeFont(qreal size) {
 }
 
 QFont symbolFont(qreal size) {
-  QFont font{QString(symbolFamily)};
-  font.setStyleStrategy(QFont::NoFontMerging);
-  font.setPixelSize(qRound(size));
-  return font;
+  static std::map<int, QFont> made;
+  const auto [found, isNew] = made.try_emplace(qRound(size), QString(symbolFamily));
+  if (isNew) {
+    found->second.setStyleStrategy(QFont::NoFontMerging);
+    found->second.setPixelSize(qRound(size));
+  }
+  return found->second;
 }
 
 namespace {
@@ -85,9 +99,7 @@ QFont Palette::groupTitle() const {
 }
 
 QFont Palette::font(qreal size, int weight, qreal tracking) const {
-  QFont face = interfaceFont(size, static_cast<QFont::Weight>(weight));
-  if (tracking != 0) face.setLetterSpacing(QFont::AbsoluteSpacing, tracking);
-  return face;
+  return interfaceFont(size, static_cast<QFont::Weight>(weight), tracking);
 }
 
 QFont Palette::codeFont(qreal size) const {
@@ -98,7 +110,7 @@ QFont Palette::symbolFont(qreal size) const {
   return klarvik::symbolFont(size);
 }
 
-QString Palette::glyph(const QString& symbol) const {
+QString Palette::glyph(const QString& symbol) {
   const std::string_view name = glyphOfSymbol(symbol.toStdString());
   return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }

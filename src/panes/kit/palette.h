@@ -16,10 +16,10 @@ namespace klarvik {
 bool loadSymbolFont();
 
 /// Inter, or the nearest face that is installed. `size` in logical pixels; Qt
-/// 6.4 draws whole ones only, so a half goes up.
-[[nodiscard]] QFont interfaceFont(qreal size, QFont::Weight weight);
+/// 6.4 draws whole ones only, so a half goes up. `tracking` is added between letters. Main thread.
+[[nodiscard]] QFont interfaceFont(qreal size, QFont::Weight weight, qreal tracking = 0);
 
-/// The face whose ligatures are the symbols.
+/// The face whose ligatures are the symbols. Main thread.
 [[nodiscard]] QFont symbolFont(qreal size);
 /// A face whose characters are all as wide as each other. `size` as above.
 [[nodiscard]] QFont codeFont(qreal size);
@@ -97,7 +97,7 @@ class Palette : public QObject {
   Q_INVOKABLE [[nodiscard]] QFont codeFont(qreal size) const;
   Q_INVOKABLE [[nodiscard]] QFont symbolFont(qreal size) const;
   /// The ligature that draws a symbol; empty for a name that nothing stands for.
-  Q_INVOKABLE [[nodiscard]] QString glyph(const QString& symbol) const;
+  Q_INVOKABLE [[nodiscard]] static QString glyph(const QString& symbol);
   Q_INVOKABLE [[nodiscard]] static QColor white(qreal opacity);
   Q_INVOKABLE [[nodiscard]] static QColor shade(qreal opacity);
   /// A named system colour in its dark appearance, by name ("blue") or by the number of its

@@ -55,23 +55,27 @@ ToolGroupRow {
     Accessible.checked: selection === ReviewTableModel.All
     Accessible.checkStateMixed: selection === ReviewTableModel.Partial
 
-    whole: CommandLine {
-        anchors.fill: parent
-        // Below the name of the hint.
-        anchors.leftMargin: Measures.side(root.width) + root.indent + 20 + Theme.partSpacing
-        anchors.rightMargin: Measures.side(root.width)
-        visible: root.isCommand
-        command: root.isCommand ? root.name : ""
-        isCopied: root.isCopied
-        canRun: root.canRun
-        isReached: root.ListView.isCurrentItem
-        onRun: {
-            root.takePress();
-            root.runAsked();
-        }
-        onCopy: {
-            root.takePress();
-            root.activated();
+    // What only some rows have is made for these alone: a table is drawn as fast as its rows are made.
+    whole: Repeater {
+        model: root.isCommand ? 1 : 0
+
+        CommandLine {
+            anchors.fill: parent
+            // Below the name of the hint.
+            anchors.leftMargin: Measures.side(root.width) + root.indent + 20 + Theme.partSpacing
+            anchors.rightMargin: Measures.side(root.width)
+            command: root.name
+            isCopied: root.isCopied
+            canRun: root.canRun
+            isReached: root.ListView.isCurrentItem
+            onRun: {
+                root.takePress();
+                root.runAsked();
+            }
+            onCopy: {
+                root.takePress();
+                root.activated();
+            }
         }
     }
 
@@ -82,28 +86,37 @@ ToolGroupRow {
         color: root.isCategory ? Theme.systemColor(root.color) : Theme.textTertiary
     }
 
-    Item {
-        Layout.preferredWidth: Measures.safetyWidth
-        Layout.fillHeight: true
-        visible: root.isCategory
+    Repeater {
+        model: root.isCategory ? 1 : 0
 
-        SafetyBadge {
-            visible: root.canSelect
-            anchors.verticalCenter: parent.verticalCenter
-            level: root.safety
+        Item {
+            Layout.preferredWidth: Measures.safetyWidth
+            Layout.fillHeight: true
+
+            SafetyBadge {
+                visible: root.canSelect
+                anchors.verticalCenter: parent.verticalCenter
+                level: root.safety
+            }
         }
     }
 
-    NumberCell {
-        Layout.preferredWidth: Measures.countWidth
-        visible: root.isCategory
-        text: root.items
+    Repeater {
+        model: root.isCategory ? 1 : 0
+
+        NumberCell {
+            Layout.preferredWidth: Measures.countWidth
+            text: root.items
+        }
     }
 
-    RevealButton {
-        visible: root.isItem || root.isHint
-        activeFocusOnTab: root.ListView.isCurrentItem
-        url: root.url
+    Repeater {
+        model: root.isItem || root.isHint ? 1 : 0
+
+        RevealButton {
+            activeFocusOnTab: root.ListView.isCurrentItem
+            url: root.url
+        }
     }
 
     NumberCell {
