@@ -46,7 +46,7 @@ qreal digitWidth(qreal size, int weight) {
 
 }  // namespace
 
-MonospacedDigits::MonospacedDigits(QQuickItem* parent) : QQuickPaintedItem(parent) {
+MonospacedDigits::MonospacedDigits(QQuickItem* parent) : PixelExactItem(parent) {
   layOut();
 }
 

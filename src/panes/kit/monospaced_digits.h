@@ -5,14 +5,14 @@
 #include <QFont>
 #include <QString>
 
-#include <QtQuick/QQuickPaintedItem>
+#include "panes/kit/pixel_exact_item.h"
 
 namespace klarvik {
 
 /// One line of text whose digits all take the width of the widest, so that a figure that counts up
 /// does not tremble and figures below each other stand in columns. Qt 6.4 cannot turn on a face's
 /// own tabular figures.
-class MonospacedDigits : public QQuickPaintedItem {
+class MonospacedDigits : public klarvik::PixelExactItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)

@@ -25,7 +25,7 @@ int middle(qreal length) {
 
 }  // namespace
 
-Symbol::Symbol(QQuickItem* parent) : QQuickPaintedItem(parent), _color(usualColor()) {
+Symbol::Symbol(QQuickItem* parent) : PixelExactItem(parent), _color(usualColor()) {
   takePlace();
 }
 

@@ -4,13 +4,13 @@
 #include <QColor>
 #include <QString>
 
-#include <QtQuick/QQuickPaintedItem>
+#include "panes/kit/pixel_exact_item.h"
 
 namespace klarvik {
 
 /// A symbol in the middle of its place, which is a quarter larger than its size. Rows are made of
 /// many, so it is one item that draws a glyph. Main thread.
-class Symbol : public QQuickPaintedItem {
+class Symbol : public klarvik::PixelExactItem {
   Q_OBJECT
   QML_ELEMENT
   /// As the symbol table has it; nothing is drawn for one that it lacks.
