@@ -65,6 +65,8 @@ class StatusItem {
   virtual void setHandlers(Handlers handlers) = 0;
   /// Whether this desktop has a tray at this moment. False until that is known.
   [[nodiscard]] virtual bool hasTray() const = 0;
+  /// Whether what is below a window is seen through its clear parts; where not, they are black.
+  [[nodiscard]] virtual bool seesThroughWindows() const = 0;
   /// Shows the item so, also while it is shown already. Where there is no tray, it appears as soon
   /// as there is one.
   virtual void show(const Look& look) = 0;

@@ -23,6 +23,7 @@ Pressable {
     // No sentence that is the name again.
     help: isHeading || toolHelp === label ? "" : toolHelp
     isHelpBeside: true
+    isOnAccent: isSelected
     pressableEnabled: !isHeading
     Accessible.role: isHeading ? Accessible.Heading : Accessible.Button
     Accessible.selectable: !isHeading

@@ -31,7 +31,7 @@ KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& l
       _updateWindow(desktop),
       _windows(desktop),
       _menuBar(desktop, shared.trashMonitor(), [this] {
-        return std::make_unique<QuickPopover>(_windows.engine(), _desktop.clock);
+        return std::make_unique<QuickPopover>(_windows.engine(), _desktop);
       }) {
   removeLeftoverKeys();
   connect(&_onboarding, &OnboardingModel::finished, this, &KlarvikApp::finishOnboarding);

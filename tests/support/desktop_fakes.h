@@ -80,7 +80,10 @@ class FakeStatusItem final : public StatusItem {
   /// There is one until a test says otherwise.
   void setTray(bool hasTray);
 
+  [[nodiscard]] bool seesThroughWindows() const override { return isComposited; }
+
   std::optional<Look> shown;
+  bool isComposited = true;
 
  private:
   Handlers _handlers;

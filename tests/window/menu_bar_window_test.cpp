@@ -33,7 +33,7 @@ class MenuBarWindow : public EmptyHomeWindowFixture, protected FakeAppState {
     installKit(engine, {around.formatting, around.files.home(), around.workspace, around.clock,
                         around.motion});
     controller.emplace(around.desktop, trash,
-                       [this] { return std::make_unique<QuickPopover>(engine, around.clock); });
+                       [this] { return std::make_unique<QuickPopover>(engine, around.desktop); });
     controller->setup(*state);
     MenuBarController::openWindowHandler = [this](const QString& id) { opened << id; };
   }
@@ -46,6 +46,11 @@ class MenuBarWindow : public EmptyHomeWindowFixture, protected FakeAppState {
     EmptyHomeWindowFixture::TearDown();
   }
 
+  /// Whether the border of the upper edge goes on to the corner.
+  [[nodiscard]] bool hasSquareCorners() {
+    const QImage shown = window().grabWindow();
+    return shown.pixelColor(0, 0) == shown.pixelColor(100, 0);
+  }
   void openPopover() {
     around.statusItem.press(icon);
     QQuickWindow* popover = openPopoverWindow();
@@ -96,6 +101,16 @@ class MenuBarWindow : public EmptyHomeWindowFixture, protected FakeAppState {
   std::optional<MenuBarController> controller;
   QStringList opened;
 };
+
+TEST_F(MenuBarWindow, HasRoundCornersWhereNothingBlackIsBehindThem) {
+  openPopover();
+  EXPECT_FALSE(hasSquareCorners());
+  press(Qt::Key_Escape);
+  around.statusItem.isComposited = false;
+  around.clock.advance(10s);
+  openPopover();
+  EXPECT_TRUE(hasSquareCorners());
+}
 
 TEST_F(MenuBarWindow, WithNoResultsAtAllItIsTheHeaderAndTheActionListOnly) {
   openPopover();

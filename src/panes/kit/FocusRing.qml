@@ -8,6 +8,8 @@ Rectangle {
 
     required property bool shown
     property real gap: 2
+    // On a ground of the accent colour it would not be seen in that.
+    property bool isOnAccent: false
 
     anchors.fill: parent
     anchors.margins: -root.gap
@@ -15,6 +17,6 @@ Rectangle {
     radius: Theme.cornerRadius + root.gap
     color: Theme.clear
     border.width: 2
-    border.color: Theme.accent
+    border.color: root.isOnAccent ? Theme.onAccent : Theme.accent
     opacity: 0.9
 }

@@ -16,6 +16,7 @@ Item {
     // How far the area that answers a press reaches beyond the element, on each side.
     property real tapMargin: 0
     property real ringGap: 2
+    property bool isOnAccent: false
     property real leftPadding: 0
     property real rightPadding: 0
     // Each fills the element.
@@ -74,6 +75,7 @@ Item {
     FocusRing {
         shown: root.visualFocus
         gap: root.ringGap
+        isOnAccent: root.isOnAccent
     }
 
     HelpTip {

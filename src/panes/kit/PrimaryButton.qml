@@ -10,6 +10,7 @@ Pressable {
     property color fill: Theme.accent
 
     pressableEnabled: root.isEnabled
+    isOnAccent: true
     implicitWidth: Math.max(72, label.implicitWidth + 28)
     implicitHeight: 30
     leftPadding: 10

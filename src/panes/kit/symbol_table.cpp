@@ -25,7 +25,7 @@ constexpr auto table = std::to_array<SymbolGlyph>({
     {"chevron.left", "chevron_left"},
     {"chevron.right", "chevron_right"},
     {"chevron.up.chevron.down", "chevron_up_chevron_down"},
-    {"circle.dashed", "slowmo"},
+    {"circle.dashed", "circle"},
     {"clock.arrow.2.circlepath", "arrow_counterclockwise_circle_fill"},
     {"cpu.fill", "square_grid_4x3_fill"},
     {"cylinder.fill", "layers_alt_fill"},

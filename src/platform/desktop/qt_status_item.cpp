@@ -10,6 +10,8 @@
 #include <array>
 #include <utility>
 
+#include "platform/desktop/x11_selection.h"
+
 namespace klarvik {
 namespace {
 
@@ -79,6 +81,12 @@ QtStatusItem::~QtStatusItem() = default;
 
 void QtStatusItem::setHandlers(Handlers handlers) {
   _handlers = std::move(handlers);
+}
+
+bool QtStatusItem::seesThroughWindows() const {
+  // Who draws the windows of an X11 display together owns this. Elsewhere there is always somebody.
+  xcb_connection_t* const connection = x11Connection();
+  return connection == nullptr || isOwned(connection, x11Selection(connection, "_NET_WM_CM_S0"));
 }
 
 void QtStatusItem::show(const Look& look) {

@@ -28,6 +28,7 @@ class QtStatusItem final : public QObject, public StatusItem {
 
   void setHandlers(Handlers handlers) override;
   [[nodiscard]] bool hasTray() const override { return _tray.isPresent(); }
+  [[nodiscard]] bool seesThroughWindows() const override;
   void show(const Look& look) override;
   void remove() override;
 

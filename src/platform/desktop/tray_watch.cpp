@@ -8,31 +8,16 @@
 #include <QDBusPendingReply>
 #include <QFile>
 #include <QGuiApplication>
-#include <cstdlib>
 #include <string_view>
 #include <utility>
+
+#include "platform/desktop/x11_selection.h"
 
 namespace klarvik {
 namespace {
 
 // A tray owns the selection of this name. The number is the screen's; a display has one.
 constexpr std::string_view selectionName = "_NET_SYSTEM_TRAY_S0";
-
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, decltype([](Reply* reply) { std::free(reply); })>;
-
-xcb_atom_t selectionOf(xcb_connection_t* connection) {
-  const auto question = xcb_intern_atom(connection, 0, selectionName.size(), selectionName.data());
-  const Owned<xcb_intern_atom_reply_t> answer(xcb_intern_atom_reply(connection, question, nullptr));
-  return answer ? answer->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
-bool isOwned(xcb_connection_t* connection, xcb_atom_t selection) {
-  const auto question = xcb_get_selection_owner(connection, selection);
-  const Owned<xcb_get_selection_owner_reply_t> answer(
-      xcb_get_selection_owner_reply(connection, question, nullptr));
-  return answer && answer->owner != XCB_NONE;
-}
 
 void askToBeTold(xcb_connection_t* connection, xcb_atom_t selection) {
   const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
@@ -45,9 +30,7 @@ void askToBeTold(xcb_connection_t* connection, xcb_atom_t selection) {
 }  // namespace
 
 std::unique_ptr<X11TrayWatch> X11TrayWatch::onThisDisplay(std::function<void()> changed) {
-  const auto* display = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  xcb_connection_t* connection = display != nullptr ? display->connection() : nullptr;
-  // A program that draws to no screen may offer the interface all the same.
+  xcb_connection_t* const connection = x11Connection();
   if (connection == nullptr) return nullptr;
   const auto* extension = xcb_get_extension_data(connection, &xcb_xfixes_id);
   if (extension == nullptr || extension->present == 0) return nullptr;
@@ -60,7 +43,7 @@ X11TrayWatch::X11TrayWatch(xcb_connection_t* connection, std::uint8_t selectionE
                            std::function<void()> changed)
     : _changed(std::move(changed)),
       _selectionEvent(selectionEvent),
-      _selection(selectionOf(connection)) {
+      _selection(x11Selection(connection, selectionName)) {
   askToBeTold(connection, _selection);
   _hasTray = isOwned(connection, _selection);
   qGuiApp->installNativeEventFilter(this);

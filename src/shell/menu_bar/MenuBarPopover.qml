@@ -8,6 +8,7 @@ Window {
     id: root
 
     required property MenuBarModel model
+    required property bool hasRoundCorners
 
     objectName: "popover"
     title: "Klarvik"
@@ -18,7 +19,7 @@ Window {
 
     Rectangle {
         anchors.fill: parent
-        radius: 10
+        radius: root.hasRoundCorners ? 10 : 0
         color: Theme.raised
         border.width: 1
         border.color: Theme.white(0.14)

@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <chrono>
 
+#include "platform/clock.h"
+#include "platform/platform.h"
+
 namespace klarvik {
 namespace {
 
@@ -54,7 +57,8 @@ void grabPointer(QWindow& window) {
 
 }  // namespace
 
-QuickPopover::QuickPopover(QQmlEngine& engine, Clock& clock) : _clock(clock), _component(&engine) {
+QuickPopover::QuickPopover(QQmlEngine& engine, const Desktop& desktop)
+    : _desktop(desktop), _component(&engine) {
   _component.loadUrl(QUrl("qrc:/Klarvik/Shell/MenuBarPopover.qml"));
 }
 
@@ -67,15 +71,16 @@ bool QuickPopover::isShown() const {
 bool QuickPopover::hasJustClosed() const {
   if (!_lostFocus) return false;
   // Negative once the clock has been set back, for however long.
-  const auto since = _clock.now() - *_lostFocus;
+  const auto since = _desktop.clock.now() - *_lostFocus;
   return 0ms <= since && since < onePress;
 }
 
 void QuickPopover::show(MenuBarModel& content, const StatusItem::Place& icon) {
   _icon = QRect(icon.x, icon.y, icon.width, icon.height);
   _lostFocus.reset();
-  QObject* made =
-      _component.createWithInitialProperties({{"model", QVariant::fromValue(&content)}});
+  QObject* made = _component.createWithInitialProperties(
+      {{"model", QVariant::fromValue(&content)},
+       {"hasRoundCorners", _desktop.statusItem.seesThroughWindows()}});
   _window.reset(qobject_cast<QQuickWindow*>(made));
   if (!_window) {
     qWarning("%s", qUtf8Printable(_component.errorString()));
@@ -109,7 +114,7 @@ void QuickPopover::place() {
 
 void QuickPopover::followFocus() {
   if (_window->isActive() || !isShown()) return;
-  _lostFocus = _clock.now();
+  _lostFocus = _desktop.clock.now();
   close();
 }
 

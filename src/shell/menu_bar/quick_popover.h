@@ -18,13 +18,13 @@ namespace klarvik {
 /// no panel takes.
 [[nodiscard]] QPoint popoverPlace(const QRect& icon, const QSize& popover, const QRect& screen);
 
-class Clock;
+struct Desktop;
 
 /// The popover as a window of its own. Esc closes it, and so does a press outside it.
 class QuickPopover final : public QObject, public MenuBarPopover {
  public:
   /// Requires that the kit has been installed in `engine`.
-  QuickPopover(QQmlEngine& engine, Clock& clock);
+  QuickPopover(QQmlEngine& engine, const Desktop& desktop);
   ~QuickPopover() override;
 
   [[nodiscard]] bool isShown() const override;
@@ -38,7 +38,7 @@ class QuickPopover final : public QObject, public MenuBarPopover {
   void place();
   void followFocus();
 
-  Clock& _clock;
+  const Desktop& _desktop;
   QQmlComponent _component;
   std::unique_ptr<QQuickWindow> _window;  ///< the one shown last
   QRect _icon;

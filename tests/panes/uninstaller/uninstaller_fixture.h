@@ -12,7 +12,9 @@ namespace klarvik {
 /// be held up at any folder that it lists.
 class UninstallerFixture : public PaneFixture {
  protected:
-  explicit UninstallerFixture(const Path& home = macHome) : PaneFixture(home) { view.emplace(shared, desktop); }
+  explicit UninstallerFixture(const Path& home = macHome) : PaneFixture(home) {
+    view.emplace(shared, desktop);
+  }
 
   void addApp(const std::string& name, const std::string& bundleID, std::int64_t bytes,
               const Path& folder = "/Applications") const {
