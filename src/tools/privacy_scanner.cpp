@@ -200,7 +200,11 @@ PrivacyClearance PrivacyScanner::clearParts(const PrivacyItem& item) {
   if (item.told.empty() && program.empty()) {
     for (const TrailPart& part : item.parts) {
       const std::int64_t before = wholeAllocatedSize(_files, part.path);
-      if (!clearPart(part)) continue;
+      if (const PartEnd end = clearPart(part); end != PartEnd::gone) {
+        // No process of the user's is it, but one that cannot be seen has it open.
+        if (end == PartEnd::isOpen) program = item.program;
+        continue;
+      }
       ++gone;
       done.freed = addBytes(done.freed, before - wholeAllocatedSize(_files, part.path));
     }
@@ -213,37 +217,39 @@ PrivacyClearance PrivacyScanner::clearParts(const PrivacyItem& item) {
   return done;
 }
 
-bool PrivacyScanner::clearPart(const TrailPart& part) {
+PrivacyScanner::PartEnd PrivacyScanner::clearPart(const TrailPart& part) {
   const auto scope = DeletionScope::trail();
+  const auto endOf = [](bool isGone) { return isGone ? PartEnd::gone : PartEnd::stayed; };
   switch (part.clearing) {
     case TrailClearing::orphansRemoved:
-      if (!isOrphanedRecord(_files, part.path)) return false;
+      if (!isOrphanedRecord(_files, part.path)) return PartEnd::stayed;
       [[fallthrough]];
     case TrailClearing::removed:
-      return removeIfAllowed(_files, part.path, scope, part.identity, _leftAlone);
+      return endOf(removeIfAllowed(_files, part.path, scope, part.identity, _leftAlone));
     case TrailClearing::emptied:
-      return mayRemove(_files, part.path, scope) &&
-             _files.empty(part.path, itemCheck(_files, part.path, scope, part.identity));
+      return endOf(mayRemove(_files, part.path, scope) &&
+                   _files.empty(part.path, itemCheck(_files, part.path, scope, part.identity)));
     case TrailClearing::asList:
-      return _platform.recentDocuments.clear();
+      return endOf(_platform.recentDocuments.clear());
     case TrailClearing::firefoxHistory:
       return clearHistory(part);
     case TrailClearing::told:
       break;
   }
-  return false;
+  return PartEnd::stayed;
 }
 
-bool PrivacyScanner::clearHistory(const TrailPart& part) {
+PrivacyScanner::PartEnd PrivacyScanner::clearHistory(const TrailPart& part) {
   const auto databases = firefoxDatabases(_files, part.path);
-  if (!databases) return false;
+  if (!databases) return PartEnd::stayed;
   const auto check = itemCheck(_files, part.path, DeletionScope::database(), part.identity);
   const auto outcome = clearFirefoxHistory(*databases, [&] {
     const auto real = _files.realPath(part.path);
     const auto attributes = real ? _files.attributes(*real) : std::nullopt;
     return attributes && _files.diskPath(*real) == databases->places && check(*real, *attributes);
   });
-  return outcome == HistoryOutcome::done;
+  if (outcome == HistoryOutcome::inUse) return PartEnd::isOpen;
+  return outcome == HistoryOutcome::done ? PartEnd::gone : PartEnd::stayed;
 }
 
 /// Looked at again: a program may have been started since the scan. Empty where none runs.

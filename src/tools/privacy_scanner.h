@@ -59,11 +59,13 @@ class PrivacyScanner {
   PrivacyClearance clear(const std::vector<PrivacyItem>& items);
 
  private:
+  enum class PartEnd { gone, stayed, isOpen };
+
   [[nodiscard]] std::vector<PrivacyItem> scanTable(const ProgressSink& progress);
   [[nodiscard]] PrivacyClearance clearItem(const PrivacyItem& item);
   [[nodiscard]] PrivacyClearance clearParts(const PrivacyItem& item);
-  [[nodiscard]] bool clearPart(const TrailPart& part);
-  [[nodiscard]] bool clearHistory(const TrailPart& part);
+  [[nodiscard]] PartEnd clearPart(const TrailPart& part);
+  [[nodiscard]] PartEnd clearHistory(const TrailPart& part);
   [[nodiscard]] std::string programThatUses(const PrivacyItem& item) const;
 
   const Platform& _platform;

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <thread>
 
@@ -64,10 +65,14 @@ TEST_F(RootCommand, TellsACancelledPasswordFromARefusalAndFromAnError) {
 }
 
 TEST_F(RootCommand, ThatHangsIsNotWaitedForAfterAStop) {
-  install("sleep 1000\n");
+  const Path started = disk.onDisk("started");
+  ASSERT_EQ(::mkfifo(started.c_str(), 0600), 0);
+  install("echo yes >'" + started.native() + "'; sleep 1000\n");
   std::stop_source stop;
   std::jthread stopping([&] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    std::string line;
+    std::getline(std::ifstream(started) >> std::ws, line);
+    EXPECT_EQ(line, "yes");
     stop.request_stop();
   });
   EXPECT_EQ(run(stop.get_token()).end, End::leftAlone);

@@ -7,13 +7,24 @@ import shutil
 import sqlite3
 import subprocess
 import tempfile
-import time
+import threading
 import unittest
 
 from process_test import BUILD, picture_of
-from real_tools_test import HOME, become_an_ordinary_user, live_on, run, site
+from real_tools_test import HOME, Site, become_an_ordinary_user, live_on, run, site
 
 DATABASES = {"places.sqlite", "favicons.sqlite"}
+
+
+class WatchedSite(Site):
+    """Tells when a page is opened that is not left again."""
+
+    is_open = threading.Event()
+
+    def do_GET(self):
+        super().do_GET()
+        if self.path == "/open.html":
+            self.is_open.set()
 
 
 @unittest.skipUnless(shutil.which("firefox-esr"), "Firefox is not installed")
@@ -29,8 +40,8 @@ class FirefoxHistory(unittest.TestCase):
         self.home = live_on(self.disk)
         folder = self.disk / "srv"
         folder.mkdir()
-        self.address = self.enterContext(site(folder))
-        for name in ("kept", "visited", "later"):
+        self.address = self.enterContext(site(folder, WatchedSite))
+        for name in ("kept", "visited", "open", "later"):
             (folder / f"{name}.html").write_text(f"<title>{name}</title>{name}", encoding="utf-8")
 
     def visit(self, page):
@@ -78,23 +89,19 @@ class FirefoxHistory(unittest.TestCase):
         self.assertEqual(self.pages(), {"kept.html", "visited.html"})
         bookmarks = self.ask("SELECT * FROM moz_bookmarks ORDER BY id")
 
-        with subprocess.Popen(["firefox-esr", "--headless", f"{self.address}/visited.html"],
+        with subprocess.Popen(["firefox-esr", "--headless", f"{self.address}/open.html"],
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as firefox:
-            lock = self.profile() / "lock"
-            until = time.monotonic() + 60
-            while not (lock.is_symlink() and lock.readlink().name.endswith(str(firefox.pid))):
-                self.assertLess(time.monotonic(), until, "Firefox has not started")
-                time.sleep(0.1)
+            self.assertTrue(WatchedSite.is_open.wait(60), "Firefox has not started")
             told = self.privacy("clear")
             self.assertEqual([each["closeFirst"] for each in told], ["Firefox"])
             firefox.terminate()
-        self.assertEqual(self.pages(), {"kept.html", "visited.html"})
+        self.assertLessEqual({"kept.html", "visited.html"}, self.pages())
 
         before = self.picture()
         self.assertIn("key4.db", {path.name for path in before})
         found = self.privacy("clear")
         self.assertEqual([(each["closeFirst"], each["told"]) for each in found], [("", "")])
-        self.assertEqual(found[0]["count"], 2)
+        self.assertGreaterEqual(found[0]["count"], 2)
         self.assertEqual(self.picture(), before)
         self.assertEqual(self.ask("SELECT * FROM moz_bookmarks ORDER BY id"), bookmarks)
         self.assertEqual(self.ask("SELECT * FROM moz_historyvisits"), [])

@@ -124,9 +124,9 @@ class Site(http.server.SimpleHTTPRequestHandler):
 
 
 @contextlib.contextmanager
-def site(folder):
+def site(folder, kind=Site):
     """The address that `folder` is served at."""
-    handler = functools.partial(Site, directory=folder)
+    handler = functools.partial(kind, directory=folder)
     with http.server.ThreadingHTTPServer(("127.0.0.1", 0), handler) as server:
         thread = threading.Thread(target=server.serve_forever)
         thread.start()

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <utility>
 
+#include "support/firefox_places.h"
+
 namespace klarvik {
 namespace {
 
@@ -749,7 +751,11 @@ class LinuxSampleDiskBuilder {
 
   /// A file that stays.
   void own(const Path& path, std::int64_t bytes = 2 * kilobyte) {
-    _writer.file(place(path), bytes);
+    if (path.filename() == "places.sqlite") {
+      _writer.text(place(path), firefoxPlaces());
+    } else {
+      _writer.file(place(path), bytes);
+    }
     _disk.keep.push_back(place(path));
   }
 

@@ -142,7 +142,7 @@ TEST_F(LinuxTrails, OfAFirefoxThatRunsOrHasItsDatabaseOpenStay) {
   EXPECT_EQ(disk.contentOf(firefox / "places.sqlite"), before);
   const BrowserDatabase open(places);
   open.run("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE; COMMIT");
-  EXPECT_EQ(scanner.clear(found).stayed.size(), 1U);
+  EXPECT_EQ(scanner.clear(found).stayed, (std::vector<StayedTrail>{{found.front().id, "Firefox"}}));
   EXPECT_EQ(open.rows("SELECT * FROM moz_historyvisits").size(), 4U);
 }
 

@@ -95,7 +95,9 @@ std::vector<TrailListModel::ShownRow> TrailListModel::shownRows() const {
 
 TrailListModel::ShownRow TrailListModel::row(const PrivacyItem& item) const {
   const QString name = privacy::name(item, _words);
-  const QString size = byteText(item.size, _formatting);
+  // What is taken out of a file that stays gives nothing back.
+  const bool givesNothing = item.size == 0 && !item.parts.empty();
+  const QString size = givesNothing ? QStringLiteral("—") : byteText(item.size, _formatting);
   const QString note = item.canBeCleared() ? privacy::cost(item.category) : privacy::obstacle(item);
   const Path path = item.path.value_or(Path());
   return {.item = item.id,

@@ -7,6 +7,7 @@
 #include <sys/vfs.h>
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstring>
 
@@ -36,7 +37,7 @@ std::int64_t sharedBytesOf(int file) {
   std::int64_t shared = 0;
   std::uint64_t next = 0;
   for (int turn = 0; turn < mostTurns; ++turn) {
-    fiemap request{};
+    auto request = std::bit_cast<fiemap>(std::array<std::byte, sizeof(fiemap)>{});
     request.fm_start = next;
     request.fm_length = FIEMAP_MAX_OFFSET - next;
     request.fm_extent_count = extentsAtOnce;

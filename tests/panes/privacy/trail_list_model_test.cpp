@@ -72,6 +72,14 @@ TEST_F(TrailListRows, OfWhatCannotBeClearedNowSayWhyAndCannotBeSelected) {
   EXPECT_TRUE(list.selected().empty());
 }
 
+TEST_F(TrailListRows, OfWhatGivesNoSpaceBackHaveNoSize) {
+  PrivacyItem history = trail(browserHistory, 0);
+  history.parts = {{.path = "/home/ann/places.sqlite"}};
+  list.show({history, trail(clipboard, 0)});
+  EXPECT_EQ(list.index(1).data(TrailListModel::SizeRole), "—");
+  EXPECT_EQ(list.index(3).data(TrailListModel::SizeRole), "Zero KB");
+}
+
 TEST_F(TrailListRows, StandBySizeInTheirSection) {
   list.show({trail(browserHistory, 5), trail(browserCache, 50), trail(browserCookies, 20)});
   EXPECT_EQ(names(), (QStringList{"SAFARI, CHROME, FIREFOX", "Browser Cache", "Browser Cookies",
