@@ -28,7 +28,7 @@ def against(name, command, goal):
     def benchmark(workshop):
         tree = tree_of(workshop)
         ours, theirs = take_turns(lambda: scan(tree), lambda: run([*command, tree]), ROUNDS)
-        report(name, ours, theirs, goal)
+        report(name, command[0], ours, theirs, goal)
 
     return benchmark
 

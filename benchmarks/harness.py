@@ -1,11 +1,17 @@
 """What every comparison needs: runs of programs with their time and peak memory, and rounds in which
 ours and theirs take turns."""
 
+import datetime
+import json
+import os
+import pathlib
 import statistics
 import subprocess
 import tempfile
 import time
 from dataclasses import dataclass
+
+RESULTS = pathlib.Path(__file__).resolve().parents[1] / "build/benchmarks.json"
 
 
 @dataclass
@@ -55,9 +61,28 @@ def peak_megabytes(runs):
     return max(run.peak_bytes for run in runs) / 1e6
 
 
-def report(name, ours, theirs, goal):
+def results():
+    """The latest figures of each comparison that has been run on this machine."""
+    return json.loads(RESULTS.read_text(encoding="utf-8")) if RESULTS.exists() else {}
+
+
+def keep(name, figures):
+    about = {
+        "day": datetime.date.today().isoformat(),
+        "processors": len(os.sched_getaffinity(0)),
+        "load": round(os.getloadavg()[0], 1),
+    }
+    RESULTS.parent.mkdir(exist_ok=True)
+    text = json.dumps({**results(), name: {**figures, **about}}, indent=2, sort_keys=True)
+    RESULTS.write_text(text + "\n", encoding="utf-8")
+
+
+def report(name, against, ours, theirs, goal):
+    """Tells of a comparison with `against`, and keeps it for the plot of the ratios."""
     our_seconds, their_seconds = median_seconds(ours), median_seconds(theirs)
     ratio = our_seconds / their_seconds
+    keep(name, {"against": against, "ours": our_seconds, "theirs": their_seconds, "goal": goal,
+                "rounds": len(ours)})  # fmt: skip
     print(
         f"{name} ours {our_seconds:.3f} theirs {their_seconds:.3f} ratio {ratio:.2f} goal {goal}",
         flush=True,

@@ -101,7 +101,7 @@ def large_find(workshop):
         lambda: run(["find", *(home / root for root in ROOTS), "-type", "f", "-size", "+100M"]),
         15,
     )
-    report("large-find", ours, theirs, 0.9)
+    report("large-find", "find", ours, theirs, 0.9)
     check_same_files(home)
 
 

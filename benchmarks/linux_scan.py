@@ -66,7 +66,7 @@ def compare(name, disk, folders, goal):
         lambda: run([BUILD / "bare_loop", *(disk / HOME / folder for folder in folders)]),
         9,
     )
-    report(name, ours, theirs, goal)
+    report(name, "a bare walk", ours, theirs, goal)
 
 
 def linux_scan(workshop):

@@ -78,7 +78,7 @@ def against_loop(name, command, places):
             lambda: run([BUILD / "bare_loop", *folders]),
             15,
         )
-        report(name, ours, theirs, 1.1)
+        report(name, "a bare walk", ours, theirs, 1.1)
 
     return benchmark
 

@@ -70,11 +70,9 @@ def first_picture(desktop, screen, program):
     return Run(seconds, 0)
 
 
-def idle_memory(klarvik):
-    """Resident bytes of the program once its scans are over and it has nothing to do."""
-
+def wait_until_quiet(process):
     def busy_ticks():
-        with open(f"/proc/{klarvik.process.pid}/stat", encoding="ascii") as stat:
+        with open(f"/proc/{process.pid}/stat", encoding="ascii") as stat:
             return sum(map(int, stat.read().rsplit(")", 1)[1].split()[11:13]))
 
     def quiet():
@@ -83,6 +81,11 @@ def idle_memory(klarvik):
         return busy_ticks() - before <= 10
 
     wait_until(quiet, "An idle program", 120)
+
+
+def idle_memory(klarvik):
+    """Resident bytes of the program once its scans are over and it has nothing to do."""
+    wait_until_quiet(klarvik.process)
     with open(f"/proc/{klarvik.process.pid}/status", encoding="ascii") as status:
         kilobytes = next(line.split()[1] for line in status if line.startswith("VmRSS"))
     return int(kilobytes) * 1024

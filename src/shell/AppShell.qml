@@ -4,7 +4,7 @@ import QtQuick
 import Klarvik.Kit
 import Klarvik.Shell
 
-/// The sidebar, and beside it every pane that exists: all alive at once, one of them to be seen.
+/// The sidebar, and beside it every pane that was looked at: all alive at once, one of them to be seen.
 Item {
     id: root
 
@@ -49,7 +49,19 @@ Item {
                 enabled: isSelected
                 visible: isSelected
 
-                Component.onCompleted: setSource(view, { model: paneModel })
+                property bool isComplete: false
+
+                // What is never looked at is never made.
+                function makeWhenSeen() {
+                    if (isComplete && isSelected && status === Loader.Null)
+                        setSource(view, { model: paneModel });
+                }
+
+                Component.onCompleted: {
+                    isComplete = true;
+                    makeWhenSeen();
+                }
+                onIsSelectedChanged: makeWhenSeen()
             }
         }
     }

@@ -1,7 +1,9 @@
 #include "shell/klarvik_app.h"
 
 #include <QGuiApplication>
+#include <QQmlComponent>
 #include <algorithm>
+#include <utility>
 
 #include "shell/menu_bar/quick_popover.h"
 #include "shell/menu_bar/window_activation.h"
@@ -90,8 +92,16 @@ QQuickWindow* KlarvikApp::makeMainWindow() {
   QQuickWindow* const window =
       _windows.make(mainWindowId, QUrl("qrc:/Klarvik/Shell/MainWindow.qml"),
                     {{"model", QVariant::fromValue(&_mainWindow)}}, _mainWindow.frame());
-  if (window != nullptr) QMetaObject::invokeMethod(this, &KlarvikApp::launch, Qt::QueuedConnection);
+  if (window != nullptr) launchOnceShown(*window);
   return window;
+}
+
+/// Scans, the tray and the updater would compete with the first picture. A window that starts
+/// hidden may have none for long.
+void KlarvikApp::launchOnceShown(QQuickWindow& window) {
+  connect(&window, &QQuickWindow::frameSwapped, this, &KlarvikApp::launch,
+          static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+  _latestLaunch = _desktop.clock.wakeAfter(std::chrono::seconds(1), [this] { launch(); });
 }
 
 /// Made anew each time it is opened, so that it begins on its first tab and with what holds then.
@@ -139,6 +149,8 @@ std::vector<SettingsTab> KlarvikApp::settingsTabs() {
 
 /// What happens unasked, once the main window is on the screen for the first time.
 void KlarvikApp::launch() {
+  if (std::exchange(_isLaunched, true)) return;
+  readViews();
   MenuBarController::openWindowHandler = [this](const QString& id) { openWindow(id); };
   _menuBar.setup(appState());
   _shared.updateManager();
@@ -148,10 +160,19 @@ void KlarvikApp::launch() {
   letPanesAppear();
 }
 
+/// Each is made when its pane is first looked at; by then it is compiled.
+void KlarvikApp::readViews() {
+  for (const PaneEntry& pane : _panes) {
+    _views.push_back(std::make_unique<QQmlComponent>(&_windows.engine(), pane.view,
+                                                     QQmlComponent::Asynchronous));
+  }
+}
+
 /// A user who puts the first scan off has nothing scanned at all before the next start.
 void KlarvikApp::finishOnboarding(bool scans) {
   _onboardingComplete = true;
   makeShell();
+  readViews();
   fit(*window(mainWindowId), _mainWindow.frame());
   if (!scans) return;
   appState().startScan();

@@ -22,6 +22,8 @@
 #include "state/app_state.h"
 #include "state/shared_state.h"
 
+class QQmlComponent;
+
 namespace klarvik {
 
 /// The program: owns the one `AppState` and the windows, and runs what happens unasked after a
@@ -59,9 +61,11 @@ class KlarvikApp : public QObject {
   void showUpdates();
   [[nodiscard]] std::vector<SettingsTab> settingsTabs();
 
+  void launchOnceShown(QQuickWindow& window);
   void launch();
   void finishOnboarding(bool scans);
   void makeShell();
+  void readViews();
   void letPanesAppear();
 
   const Desktop& _desktop;
@@ -80,8 +84,11 @@ class KlarvikApp : public QObject {
   std::unique_ptr<SettingsModel> _settings;
   UpdateWindowModel _updateWindow;
   Windows _windows;
+  std::vector<std::unique_ptr<QQmlComponent>> _views;  ///< keep the panes' types
   MenuBarController _menuBar;
   QuitPolicy _backgroundLife{_menuBar};
+  bool _isLaunched = false;
+  std::unique_ptr<Clock::Alarm> _latestLaunch;
 };
 
 }  // namespace klarvik

@@ -9,8 +9,9 @@
 
 namespace klarvik {
 
-/// The landed panes in section order, all alive at once; selecting a section only changes which one
-/// can be seen and reached. Main thread only.
+/// The landed panes in section order, their models all alive at once; selecting a section only
+/// changes which one can be seen and reached. A view is made when it is first selected, and stays.
+/// Main thread only.
 class PaneStackModel : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT

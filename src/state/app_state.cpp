@@ -35,7 +35,11 @@ AppState::AppState(const Desktop& desktop, ToolActivity& activity, ScanCoordinat
       _history(history),
       _notice(notice),
       _scan(scan ? std::move(scan) : scanWithFreshEngine(desktop)),
-      _session(Section::smartScan, activity, coordinator, desktop.clock) {}
+      _session(Section::smartScan, activity, coordinator, desktop.clock) {
+  const auto tell = [this] { std::exchange(_somethingElseToShow, {}).request_stop(); };
+  connect(this, &AppState::scanStateChanged, this, tell);
+  connect(this, &AppState::scanResultsChanged, this, tell);
+}
 
 AppState::~AppState() {
   blockSignals(true);
@@ -148,7 +152,8 @@ QCoro::Task<> AppState::autoScanIfNeeded(std::stop_token stop) {
   // A scan that ends with results does not give the turn up before its 900 seconds are over: the
   // other tools do not start by themselves while the user looks at what was found.
   const auto over = [this] { return hasNothingToShow(); };
-  co_await holdTurn(_coordinator, _desktop.clock, over, either.token());
+  co_await holdTurn(_coordinator, _desktop.clock, over, either.token(),
+                    [this] { return _somethingElseToShow.get_token(); });
 }
 
 bool AppState::hasNothingToShow() const {

@@ -224,6 +224,7 @@ class AppState : public QObject {
   std::optional<DeletionProgress> _cleanProgress;
   std::stop_source _cleanTask{std::nostopstate};
   std::stop_source _lifetime;
+  std::stop_source _somethingElseToShow;  ///< another one after each change
   ScanSession _session;
   BackgroundTasks _removalWork;
 };

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/user_defaults.h"
+#include "state/engine_run.h"
 #include "state/section.h"
 #include "state/timers.h"
 
@@ -76,9 +77,15 @@ void ScanCoordinator::finishTurn() {
 }
 
 QCoro::Task<> holdTurn(ScanCoordinator& coordinator, Clock& clock, std::function<bool()> over,
-                       std::stop_token stop) {
+                       std::stop_token stop, std::function<std::stop_token()> change) {
   const Date deadline = clock.now() + 900s;
   while (!stop.stop_requested() && !over() && clock.now() < deadline) {
+    if (change) {
+      const CombinedStopToken either(stop, change());
+      const auto rest = std::chrono::ceil<std::chrono::nanoseconds>(deadline - clock.now());
+      co_await sleepFor(clock, rest, either.token());
+      if (stop.stop_requested() || clock.now() >= deadline) break;
+    }
     co_await sleepFor(clock, 250ms, stop);
   }
   coordinator.finishTurn();

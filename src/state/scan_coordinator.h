@@ -73,8 +73,11 @@ class ScanCoordinator : public QObject {
 /// Keeps the turn that the caller holds until `over` answers true, which is asked every 250
 /// milliseconds, until 900 seconds have passed or until a stop is requested; then gives it up. Once
 /// a stop has been requested, neither `over` nor the clock is touched any more.
+///
+/// What may last for minutes hands in `change`: a token that is stopped when `over` may answer
+/// something else. It is asked for one each time, and nothing happens until that is stopped.
 QCoro::Task<> holdTurn(ScanCoordinator& coordinator, Clock& clock, std::function<bool()> over,
-                       std::stop_token stop);
+                       std::stop_token stop, std::function<std::stop_token()> change = {});
 
 /// The scan that a tool makes by itself, once, when its turn comes.
 struct AutoScan {

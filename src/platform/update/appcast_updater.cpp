@@ -204,7 +204,7 @@ void AppcastUpdater::check(std::optional<UpdateOffer> standing) {
       HttpsFetch::Request{
           QUrl(QString::fromStdString(*address), QUrl::StrictMode), _options.feed,
           unusableFeed(url_code::badResponse, QT_TRANSLATE_NOOP("Engine", "The feed is too long.")),
-          _options.tls},
+          tls()},
       [this](std::string_view bytes) {
         _feed += bytes;
         return std::nullopt;
@@ -240,6 +240,10 @@ void AppcastUpdater::judgeFeed(const std::optional<UpdaterError>& error) {
 /// An offer that waits does not go because of a bad connection.
 void AppcastUpdater::failCheck(const UpdaterError& error) {
   return _standing ? returnToStandingOffer() : fail(error);
+}
+
+QSslConfiguration AppcastUpdater::tls() const {
+  return _options.tls ? *_options.tls : QSslConfiguration::defaultConfiguration();
 }
 
 RunningProgram AppcastUpdater::runningProgram() const {
@@ -288,7 +292,7 @@ void AppcastUpdater::download() {
           notAcceptable(QT_TRANSLATE_NOOP("Engine",
                                           "The update is longer than announced, so Klarvik has "
                                           "thrown it away.")),
-          _options.tls},
+          tls()},
       [this](std::string_view bytes) { return store(bytes); },
       [this](const auto& error) { judgeArchive(error); });
   show(update_stage::Downloading{_offer.version, 0, _offer.length});

@@ -29,7 +29,8 @@ struct UpdaterOptions {
   std::string systemVersion;  ///< what an item's minimum is compared with
   FetchLimits feed{1'048'576, std::chrono::seconds(20), std::chrono::seconds(60)};
   FetchLimits archive{536'870'912, std::chrono::seconds(30), std::chrono::hours(2)};
-  QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+  /// Absent: the usual one, which takes long to load and is loaded when something is fetched.
+  std::optional<QSslConfiguration> tls = std::nullopt;
 };
 
 /// Finds updates in the feed that the application's information names under "SUFeedURL", and
@@ -91,6 +92,7 @@ class AppcastUpdater final : public QObject, public Updater {
   void abandon();
   void show(const UpdateStage& stage) const;
   [[nodiscard]] RunningProgram runningProgram() const;
+  [[nodiscard]] QSslConfiguration tls() const;
 
   const Surroundings _around;
   const UpdaterOptions _options;
