@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -48,12 +47,9 @@ class ContentHasher {
   /// Nothing where there is no file. When reading fails on the way, what was read until
   /// then is all that counts.
   [[nodiscard]] std::optional<Digest> digest(std::unique_ptr<FileReader> file);
-  /// Of all files so far.
-  [[nodiscard]] std::int64_t bytesRead() const { return _bytesRead; }
 
  private:
   Sha256 _sha256;
-  std::int64_t _bytesRead = 0;
   std::unique_ptr<std::byte[]> _chunk = std::make_unique_for_overwrite<std::byte[]>(chunkBytes);
 };
 

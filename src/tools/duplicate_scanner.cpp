@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cstring>
 #include <functional>
 #include <iterator>
@@ -11,7 +10,6 @@
 #include <unordered_map>
 #include <utility>
 
-#include "base/bytes.h"
 #include "base/parallel_for.h"
 #include "engine/allocated_size.h"
 #include "platform/file_system.h"
@@ -122,7 +120,12 @@ FoundFiles collected(const FileSystem& files, const std::vector<Path>& directori
 /// The files whose content decides.
 struct ToRead {
   FileNumbers numbers;
-  std::int64_t bytes = 0;
+  /// Files of one size, one after the other: up to which place among the numbers.
+  struct Run {
+    std::size_t end;
+    std::int64_t size;
+  };
+  std::vector<Run> runs{};
 };
 
 /// Those whose size others have as well: the largest first, so that at the end no core is left
@@ -146,8 +149,7 @@ ToRead sameSized(const FileSystem& files, const FoundFiles& found) {
                                   [&](const Sized& other) { return other.size != first->size; });
     if (end - first > 1) {
       std::transform(first, end, std::back_inserter(toRead.numbers), std::mem_fn(&Sized::number));
-      for (auto each = first; each != end; ++each)
-        toRead.bytes = addBytes(toRead.bytes, each->size);
+      toRead.runs.push_back({toRead.numbers.size(), first->size});
     }
     first = end;
   }
@@ -157,6 +159,34 @@ ToRead sameSized(const FileSystem& files, const FoundFiles& found) {
 using Report =
     std::function<void(double fraction, std::int64_t groupsFound, Message line, double readShare)>;
 
+/// Counts the files that have been read, in their order.
+class ReadShare {
+ public:
+  explicit ReadShare(const std::vector<ToRead::Run>& runs) : _run(runs.begin()) {
+    std::size_t start = 0;
+    for (const ToRead::Run& run : runs) {
+      _all += static_cast<double>(run.end - std::exchange(start, run.end)) * bytesOf(run);
+    }
+  }
+
+  void add(std::size_t at) {
+    if (at == _run->end) ++_run;
+    _read += bytesOf(*_run);
+  }
+  /// 0 to 1, of the bytes.
+  [[nodiscard]] double get() const { return std::min(_read / _all, 1.0); }
+
+ private:
+  /// To read nothing takes a moment as well.
+  static double bytesOf(const ToRead::Run& run) {
+    return static_cast<double>(std::max<std::int64_t>(run.size, 1));
+  }
+
+  std::vector<ToRead::Run>::const_iterator _run;
+  double _all = 0;
+  double _read = 0;
+};
+
 /// What one thread hashes found files with.
 class FileHashing {
  public:
@@ -165,7 +195,6 @@ class FileHashing {
   [[nodiscard]] std::optional<Digest> digest(std::size_t number) {
     return _hasher.digest(_access.openForReading(number));
   }
-  [[nodiscard]] std::int64_t bytesRead() const { return _hasher.bytesRead(); }
 
  private:
   FoundFileAccess _access;
@@ -176,15 +205,11 @@ Contents hashed(const FileSystem& files, const FoundFiles& found, const ToRead& 
                 std::size_t width, const Report& report) {
   Contents contents;
   const FileNumbers& numbers = toRead.numbers;
-  std::atomic<std::int64_t> bytesRead = 0;
+  ReadShare readShare(toRead.runs);
   const auto reportBefore = [&](std::size_t at) {
     if (at % filesAReport != 0 || at == numbers.size()) return;
     const double part = static_cast<double>(at) / static_cast<double>(numbers.size());
-    // A file may have grown since it was asked for its size.
-    const double read = std::min(static_cast<double>(bytesRead) /
-                                     static_cast<double>(std::max<std::int64_t>(toRead.bytes, 1)),
-                                 1.0);
-    report(0.15 + part * 0.8, contents.shared(), found.name(numbers[at]), read);
+    report(0.15 + part * 0.8, contents.shared(), found.name(numbers[at]), readShare.get());
   };
   std::vector<std::unique_ptr<FileHashing>> threads(width);
   std::vector<std::optional<Digest>> digests(numbers.size());
@@ -194,11 +219,10 @@ Contents hashed(const FileSystem& files, const FoundFiles& found, const ToRead& 
       [&](std::size_t at, std::size_t number) {
         auto& thread = threads[number];
         if (!thread) thread = std::make_unique<FileHashing>(files, found);
-        const std::int64_t before = thread->bytesRead();
         digests[at] = thread->digest(numbers[at]);
-        bytesRead += thread->bytesRead() - before;
       },
       [&](std::size_t at) {
+        readShare.add(at);
         if (digests[at]) contents.add(*digests[at], numbers[at]);
         reportBefore(at + 1);
       });

@@ -120,10 +120,9 @@ TEST_F(DuplicateScannerTest, ReportsHowMuchOfTheBytesIsRead) {
   ASSERT_GE(reports.size(), 7U);
   EXPECT_EQ(reports[0].readShare, 0);
   EXPECT_EQ(reports[1].readShare, 0);
-  // After ten files, the two large ones among them: at least 196,400 of 200,000 bytes.
-  EXPECT_GE(reports[3].readShare, 0.982);
-  EXPECT_LE(reports[3].readShare, 1);
-  EXPECT_GE(reports[4].readShare, 0.997);
+  EXPECT_EQ(reports[2].readShare, 0);
+  EXPECT_DOUBLE_EQ(reports[3].readShare, 0.982) << "after the two large ones and eight others";
+  EXPECT_DOUBLE_EQ(reports[4].readShare, 0.997);
   EXPECT_EQ(reports.back().readShare, 1);
 }
 
