@@ -93,7 +93,7 @@ T.Popup {
                     anchors.verticalCenter: parent.verticalCenter
                     text: root.hints[entry.index] ?? ""
                     size: 12
-                    color: entry.ListView.isCurrentItem ? Theme.onAccent : Theme.textTertiary
+                    color: entry.ListView.isCurrentItem ? Theme.onAccent : Theme.textSecondary
                 }
             }
         }

@@ -14,5 +14,15 @@ ListView {
     // what is seen would be made at once, in the frame that shows the others.
     reuseItems: true
     cacheBuffer: 0
+    // What is below rows that go moves up, instead of being somewhere else at once.
+    removeDisplaced: Transition {
+        enabled: !Kit.reduceMotion
+
+        NumberAnimation {
+            property: "y"
+            duration: 280
+            easing.type: Easing.OutCubic
+        }
+    }
     T.ScrollBar.vertical: KitScrollBar {}
 }

@@ -1,5 +1,7 @@
 #include "panes/kit/palette.h"
 
+#include <algorithm>
+#include <cmath>
 #include <set>
 
 #include "kit_window.h"
@@ -9,12 +11,43 @@ namespace {
 
 class PaletteOfTheKit : public KitWindow {};
 
+double luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+/// 1 for two equal colours, 21 for white on black.
+double contrast(const QColor& one, const QColor& other) {
+  const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
 TEST_F(PaletteOfTheKit, HoldsTheColoursOfTheDarkWindow) {
   const Palette palette;
   EXPECT_EQ(palette.canvas, QColor::fromRgbF(0.11F, 0.11F, 0.118F));
   EXPECT_EQ(palette.accent, QColor::fromRgbF(0.039F, 0.518F, 1.0F));
   EXPECT_EQ(palette.review, QColor::fromRgbF(1.0F, 0.624F, 0.039F));
   EXPECT_EQ(palette.hairline, QColor::fromRgbF(1, 1, 1, 0.06F));
+}
+
+TEST_F(PaletteOfTheKit, HasTextsThatAreReadOnTheirGrounds) {
+  const Palette palette;
+  EXPECT_NEAR(contrast(Qt::white, Qt::black), 21, 0.01);
+  for (const QColor& ground : {palette.canvas, palette.raised}) {
+    for (const QColor& text : {palette.textPrimary, palette.textMuted, palette.textSecondary,
+                               palette.textTertiary, palette.safe, palette.review}) {
+      EXPECT_GE(contrast(text, ground), 4.5) << text.name().toStdString();
+    }
+    EXPECT_GE(contrast(palette.accent, ground), 3);
+    EXPECT_GE(contrast(palette.destructive, ground), 3);
+  }
+  for (const QColor& text : {palette.textPrimary, palette.textMuted, palette.textSecondary}) {
+    EXPECT_GE(contrast(text, palette.floating), 4.5) << text.name().toStdString();
+  }
+  EXPECT_GE(contrast(palette.onAccent, palette.accent), 3);
 }
 
 TEST_F(PaletteOfTheKit, NamesElevenDifferentSystemColours) {
