@@ -26,6 +26,7 @@ FILES = {
     "usr/share/applications/klarvik.desktop",
     "usr/share/doc/klarvik/changelog.Debian.gz",
     "usr/share/doc/klarvik/copyright",
+    "usr/share/icons/hicolor/scalable/apps/klarvik-symbolic.svg",
     "usr/share/icons/hicolor/scalable/apps/klarvik.svg",
     "usr/share/man/man1/klarvik.1.gz",
     METAINFO,

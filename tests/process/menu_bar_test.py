@@ -3,6 +3,7 @@ window."""
 
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -194,6 +195,23 @@ class OnAPanelThatShowsNotifiers(MenuBarTest):
     def first_registered(self):
         self.registered.seek(0)
         return self.registered.readline().strip()
+
+    def test_a_panel_colours_the_icon_where_the_theme_has_it(self):
+        icons = self.home.path / ".local/share/icons/hicolor"
+        apps = icons / "scalable/apps"
+        apps.mkdir(parents=True, exist_ok=True)
+        shutil.copy("/usr/share/icons/hicolor/index.theme", icons)
+        shutil.copy(HERE.parents[1] / "packaging/klarvik-symbolic.svg", apps)
+        self.start_panel()
+        klarvik = self.start()
+        self.assertEqual(self.property(self.item(klarvik), "IconName"), "klarvik-symbolic")
+
+    def property(self, item, name):
+        told = self.call(
+            item, "/StatusNotifierItem", "org.freedesktop.DBus.Properties.Get",
+            "org.kde.StatusNotifierItem", name,
+        )
+        return re.search(r"'(.*)'", told).group(1)
 
     def call(self, item, path, method, *arguments):
         target = ["--dest", item, "--object-path", path, "--method", method]

@@ -140,9 +140,17 @@ void QtStatusItem::dropIcon() {
 
 void QtStatusItem::update() {
   const QString toolTip = QString::fromStdString(_look->toolTip + _look->title);
-  _icon->setIcon(pillIcon(_look->icon, indicatorColor()));
+  _icon->setIcon(icon());
   _icon->setToolTip(toolTip);
   updateMenu(_look->title.empty() ? QString() : toolTip);
+}
+
+/// A panel that is told of the item by name draws it as it likes; a window that embeds it shows
+/// what Klarvik draws.
+QIcon QtStatusItem::icon() const {
+  const QString name = QString::fromStdString(_look->themeIcon);
+  if (_tray.isHost() && QIcon::hasThemeIcon(name)) return QIcon::fromTheme(name);
+  return pillIcon(_look->icon, indicatorColor());
 }
 
 /// In place, for an open menu must not lose the entry that the pointer is on.

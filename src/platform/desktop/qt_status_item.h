@@ -36,6 +36,7 @@ class QtStatusItem final : public QObject, public StatusItem {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  [[nodiscard]] QIcon icon() const;
   struct Entry {
     QAction* line;  ///< before the entry, where it starts a group
     QAction* action;

@@ -45,6 +45,8 @@ class TrayWatch : public QObject {
   explicit TrayWatch(std::function<void()> changed);
 
   [[nodiscard]] bool isPresent() const { return _isPresent; }
+  /// Whether it is a host of status notifiers.
+  [[nodiscard]] bool isHost() const { return _hasHost; }
 
  private slots:
   void askForHost();

@@ -86,8 +86,11 @@ void MenuBarController::updateItem() {
 }
 
 StatusItem::Look MenuBarController::look() const {
-  StatusItem::Look look{
-      .icon = menu_bar::statusIcon, .title = {}, .toolTip = "Klarvik", .menu = {}};
+  StatusItem::Look look{.icon = menu_bar::statusIcon,
+                        .themeIcon = "klarvik-symbolic",
+                        .title = {},
+                        .toolTip = "Klarvik",
+                        .menu = {}};
   if (_appState == nullptr) return look;
   look.title = menu_bar::title(_appState->scanState(), _desktop.formatting);
   for (const MenuBarAction& action : _view->actions()) {
