@@ -43,13 +43,16 @@ def svg(figures):
     for number, ((name, row), ratio) in enumerate(zip(rows, ratios)):
         top = TOP + number * ROW
         color = REACHED if ratio <= row["goal"] else MISSED
+        # Beside the bar, or behind the mark where that is in the way.
+        in_the_way = 0 <= x(row["goal"]) - x(ratio) < 46
+        figure = x(row["goal"]) if in_the_way else x(ratio)
         parts += [
             text(18, top + 17, name),
             text(LEFT - 12, top + 17, row["against"], MUTED, "end"),
             f'<rect x="{LEFT}" y="{top + 5}" width="{x(ratio) - LEFT:.1f}" height="{ROW - 10}" '
             f'rx="3" fill="{color}"/>',
             line(x(row["goal"]), top + 2, top + ROW - 2, GOAL, 2),
-            text(max(x(ratio), x(row["goal"])) + 8, top + 17, f"{ratio:.2f}"),
+            text(figure + 8, top + 17, f"{ratio:.2f}"),
         ]
     days = sorted({row["day"] for _, row in rows})
     processors = " or ".join(sorted({str(row["processors"]) for _, row in rows}))

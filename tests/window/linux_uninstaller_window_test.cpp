@@ -59,6 +59,7 @@ TEST_F(UninstallerWindowOfALinuxDisk, MovesAnAppImageToTheTrashByClicksAndPutsIt
   settle();
   picture("uninstaller-appimage");
   clickMainButton("Uninstall ");
+  ASSERT_NE(waitFor("Restore"), nullptr);
   ASSERT_TRUE(turnUntil([this] { return !shows("Inkwell, "); }));
   settle();
   for (const std::string& gone : {image, entry, std::string(".config/inkwell/settings")}) {
