@@ -37,7 +37,7 @@ def against_rdfind(workshop):
     for folder in (tree_of(workshop), pathlib.Path("/usr/share")):
         show_same_groups(str(folder))
     command = ["rdfind", "-checksum", "sha256", "-dryrun", "true", "-makeresultsfile", "false"]
-    against("duplicates-rdfind", command, 0.55)(workshop)
+    against("duplicates-rdfind", command, 0.5)(workshop)
 
 
 def hashed_bytes(tree):
@@ -72,8 +72,8 @@ def hash_rate(workshop):
 BENCHMARKS = {
     "duplicates-rdfind": against_rdfind,
     "duplicates-rmlint": against(
-        "duplicates-rmlint", ["rmlint", "-T", "duplicates", "-a", "sha256", "-o", "fdupes"], 0.25
+        "duplicates-rmlint", ["rmlint", "-T", "duplicates", "-a", "sha256", "-o", "fdupes"], 0.15
     ),
-    "duplicates-fdupes": against("duplicates-fdupes", ["fdupes", "-r", "-q"], 0.35),
+    "duplicates-fdupes": against("duplicates-fdupes", ["fdupes", "-r", "-q"], 0.3),
     "duplicates-hash-rate": hash_rate,
 }
