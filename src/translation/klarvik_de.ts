@@ -4099,6 +4099,26 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <source>Too large to clear from here</source>
         <translation>Zu groß, um es von hier zu löschen</translation>
     </message>
+    <message>
+        <source>In Clipman: Clear history</source>
+        <translation>In Clipman: Verlauf löschen</translation>
+    </message>
+    <message>
+        <source>In CopyQ, entry by entry</source>
+        <translation>In CopyQ, Eintrag für Eintrag</translation>
+    </message>
+    <message>
+        <source>In System Settings: Recent Files</source>
+        <translation>In den Systemeinstellungen: Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>In the top bar: Clear history</source>
+        <translation>In der oberen Leiste: Verlauf löschen</translation>
+    </message>
+    <message>
+        <source>In the tray: Clear Clipboard History</source>
+        <translation>In der Leiste: Verlauf löschen</translation>
+    </message>
 </context>
 <context>
     <name>FolderBrowserRow</name>

@@ -103,6 +103,30 @@ TEST_F(LinuxTrails, OfABrowserAreClearedInEveryProfileAndNothingElseOfIt) {
   }
 }
 
+TEST_F(LinuxTrails, OfClipboardManagersAreToldWhereTheDesktopHoldsThemOrPeopleKeepThings) {
+  const Path home = "/home/ann";
+  const std::vector<Path> kept{home / ".local/share/klipper/history3.sqlite",
+                               home / ".local/share/clipman.json",
+                               home / ".cache/clipboard-indicator@tudmotu.com/registry.txt",
+                               home / ".config/copyq/copyq_tab_a.dat",
+                               home / ".local/share/kactivitymanagerd/resources/database"};
+  for (const Path& file : kept) disk.makeFile(file, 3'000);
+  const Path gpaste = home / ".local/share/gpaste/history.xml";
+  disk.makeFile(gpaste, 3'000);
+  const auto found = scan();
+  EXPECT_EQ(
+      std::ranges::count_if(found, [](const PrivacyItem& item) { return !item.told.empty(); }), 5);
+  for (const PrivacyItem& item : found) {
+    EXPECT_EQ(item.canBeCleared(), item.program == "GPaste") << item.name;
+  }
+  programs.running = {"gpaste-daemon"};
+  EXPECT_EQ(scanner.clear(found).cleaned, 0) << "it would be written again";
+  programs.running = {};
+  EXPECT_EQ(scanner.clear(found).cleaned, 1);
+  EXPECT_FALSE(isThere(gpaste));
+  for (const Path& file : kept) EXPECT_TRUE(isThere(file)) << file;
+}
+
 TEST_F(LinuxTrails, OfFirefoxAreTakenOutOfTheFileThatHoldsTheBookmarksToo) {
   disk.makeFolder(firefox);
   makePlaces(disk.onDisk(firefox / "places.sqlite"));

@@ -62,6 +62,12 @@ constexpr std::array<std::string_view, 1> usedApplications{"application_state"};
 constexpr std::array<std::string_view, 1> activities{"activity.sqlite*"};
 constexpr std::array<std::string_view, 1> downloadedSites{".wget-hsts"};
 constexpr std::array<std::string_view, 1> clipboardDatabase{"db"};
+constexpr std::array<std::string_view, 1> gpasteHistory{"*.xml"};
+constexpr std::array<std::string_view, 1> clipmanHistory{"clipman.json"};
+constexpr std::array<std::string_view, 1> klipperHistory{"history*"};
+constexpr std::array<std::string_view, 1> indicatorHistory{"registry.txt"};
+constexpr std::array<std::string_view, 1> copyqTabs{"*.dat"};
+constexpr std::array<std::string_view, 1> plasmaActivities{"database"};
 constexpr std::array<std::string_view, 1> trashRecords{"*.trashinfo"};
 constexpr std::array<std::string_view, 4> cachedMaps{"shumate", "champlain", "libchamplain",
                                                      "gnome-maps"};
@@ -74,7 +80,24 @@ constexpr std::array<std::string_view, 1> fishHistory{"fish_history"};
 constexpr std::array<std::string_view, 1> editorHistory{"*.shada"};
 constexpr std::array<std::string_view, 1> previews{"*"};
 
-constexpr std::array<Trail, 14> others{{
+constexpr Trail toldTrail(PrivacyCategory category, std::string_view program, Base base,
+                          std::string_view folder, Patterns files, std::string_view how) {
+  return {category, program, base, folder, files, told, TrailCount::none, {}, how};
+}
+
+/// What a desktop's own parts hold in memory, and would write again; and where people keep things.
+constexpr std::array<Trail, 5> toldOnes{{
+    toldTrail(recentFiles, "Plasma", Base::data, "kactivitymanagerd/resources", plasmaActivities,
+              "In System Settings: Recent Files"),
+    toldTrail(clipboard, "Klipper", Base::data, "klipper", klipperHistory,
+              "In the tray: Clear Clipboard History"),
+    toldTrail(clipboard, "Clipman", Base::data, "", clipmanHistory, "In Clipman: Clear history"),
+    toldTrail(clipboard, "Clipboard Indicator", Base::cache, "clipboard-indicator@tudmotu.com",
+              indicatorHistory, "In the top bar: Clear history"),
+    toldTrail(clipboard, "CopyQ", Base::config, "copyq", copyqTabs, "In CopyQ, entry by entry"),
+}};
+
+constexpr std::array<Trail, 15> others{{
     {recentFiles, "", Base::data, "", recentList, asList, TrailCount::bookmarks},
     {recentFiles, "", Base::home, ".var/app", sandboxedRecentLists, removed, TrailCount::bookmarks},
     {recentFiles, "", Base::home, "snap", snapsRecentLists, removed, TrailCount::bookmarks},
@@ -84,6 +107,8 @@ constexpr std::array<Trail, 14> others{{
      "zeitgeist-daemon"},
     {downloadsList, "wget", Base::home, "", downloadedSites, removed, TrailCount::lines},
     {clipboard, "cliphist", Base::cache, "cliphist", clipboardDatabase},
+    {clipboard, "GPaste", Base::data, "gpaste", gpasteHistory, removed, TrailCount::none,
+     "gpaste-daemon"},
     {trashHistory, "", Base::data, "Trash/info", trashRecords, orphansRemoved, TrailCount::files},
     {locationHistory, "", Base::cache, "", cachedMaps, removed, TrailCount::none, "gnome-maps"},
     {locationHistory, "", Base::data, "", ownMaps, removed, TrailCount::none, "marble"},
@@ -109,8 +134,8 @@ constexpr Trail historyTrailOf(const Browser& browser) {
 }
 
 constexpr auto allTrails = [] {
-  std::array<Trail, 2 * (chromiumBrowsers.size() + firefoxBrowsers.size()) + others.size() +
-                        pictures.size()>
+  std::array<Trail, 2 * (chromiumBrowsers.size() + firefoxBrowsers.size()) + toldOnes.size() +
+                        others.size() + pictures.size()>
       all{};
   auto next = all.begin();
   for (const Browser& browser : chromiumBrowsers) {
@@ -121,6 +146,7 @@ constexpr auto allTrails = [] {
     *next++ = historyTrailOf(browser);
     *next++ = trailOf(browser, browserCookies, firefoxCookies);
   }
+  next = std::ranges::copy(toldOnes, next).out;
   next = std::ranges::copy(others, next).out;
   std::ranges::copy(pictures, next);
   return all;
