@@ -62,6 +62,7 @@ struct DiskLayout {
   bool sizesAreWhole;
   /// Whether it is told how much of a selection goes for good, where some of it does.
   bool tellsWhatGoesForGood;
+  bool marksSelectedCopiesOnly;  ///< as ones that go; else every copy but the one that stays
   bool desktopNamesFolders;  ///< whether the user's desktop says which folders are shown, and how
   /// Below the home: where else than in the shown folders large files are looked for.
   std::span<const std::string_view> moreLargeFileFolders;

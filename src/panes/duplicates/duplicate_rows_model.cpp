@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "panes/duplicates/duplicates_texts.h"
-#include "panes/kit/kit_enums.h"
 #include "panes/kit/row_ranges.h"
 #include "panes/kit/row_text.h"
+#include "places/disk_layout.h"
 #include "platform/file_system.h"
 
 namespace klarvik {
@@ -210,6 +210,13 @@ QVariant DuplicateRowsModel::dataOfGroup(const ChosenGroup& group, int role) con
   }
 }
 
+KeepOrDelete::Value DuplicateRowsModel::fate(const ChosenGroup& group, std::size_t file) const {
+  if (file == group.keeper) return KeepOrDelete::Keep;
+  const bool isMarked =
+      !layoutFor(_desktop.files.home()).marksSelectedCopiesOnly || _choice.isSelected(group, file);
+  return isMarked ? KeepOrDelete::Delete : KeepOrDelete::Neither;
+}
+
 QVariant DuplicateRowsModel::dataOfCopy(const ChosenGroup& group, std::size_t file,
                                         int role) const {
   const DuplicateFile& copy = group.group.files[file];
@@ -229,7 +236,7 @@ QVariant DuplicateRowsModel::dataOfCopy(const ChosenGroup& group, std::size_t fi
     case CanToggleRole:
       return !isKeeper;
     case FateRole:
-      return static_cast<int>(isKeeper ? KeepOrDelete::Keep : KeepOrDelete::Delete);
+      return static_cast<int>(fate(group, file));
     case DateRole:
       return copy.modifiedDate
                  ? QString::fromStdString(_desktop.formatting.dateAndTime(*copy.modifiedDate))
@@ -237,7 +244,7 @@ QVariant DuplicateRowsModel::dataOfCopy(const ChosenGroup& group, std::size_t fi
     case MenuEntryRole:
       return duplicates::menuEntry(isKeeper);
     case DescriptionRole:
-      return duplicates::copyDescription(copy, isKeeper, _desktop.files.home(),
+      return duplicates::copyDescription(copy, fate(group, file), _desktop.files.home(),
                                          _desktop.formatting);
     default:
       return nothing(role);

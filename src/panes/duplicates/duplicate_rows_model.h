@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "panes/duplicates/duplicate_choice.h"
+#include "panes/kit/kit_enums.h"
 #include "platform/platform.h"
 
 namespace klarvik {
@@ -84,6 +85,7 @@ class DuplicateRowsModel : public QAbstractListModel {
   void removeWithin(std::size_t first, std::size_t last, const IsGone& isGone);
   [[nodiscard]] std::size_t rowsBelow(std::size_t groupRow) const;
   [[nodiscard]] QVariant dataOfGroup(const ChosenGroup& group, int role) const;
+  [[nodiscard]] KeepOrDelete::Value fate(const ChosenGroup& group, std::size_t file) const;
   [[nodiscard]] QVariant dataOfCopy(const ChosenGroup& group, std::size_t file, int role) const;
 
   const DuplicateChoice& _choice;

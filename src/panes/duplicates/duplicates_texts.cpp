@@ -148,12 +148,15 @@ QString groupDescription(const ChosenGroup& group, const Formatting& formatting)
       .arg(groupName(group.group), byteText(group.removableBytes, formatting));
 }
 
-QString copyDescription(const DuplicateFile& file, bool isKeeper, const Path& home,
+QString copyDescription(const DuplicateFile& file, KeepOrDelete::Value fate, const Path& home,
                         const Formatting& formatting) {
-  return QStringList{lastComponent(file.url), byteText(file.size, formatting),
-                     isKeeper ? translate("Duplicates", "keep") : translate("Duplicates", "delete"),
-                     folderLine(file.url, home)}
-      .join(QStringLiteral(", "));
+  QStringList parts{lastComponent(file.url), byteText(file.size, formatting)};
+  if (fate != KeepOrDelete::Neither) {
+    parts << (fate == KeepOrDelete::Keep ? translate("Duplicates", "keep")
+                                         : translate("Duplicates", "delete"));
+  }
+  parts << folderLine(file.url, home);
+  return parts.join(QStringLiteral(", "));
 }
 
 }  // namespace klarvik::duplicates

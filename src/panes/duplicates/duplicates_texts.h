@@ -12,6 +12,7 @@
 
 #include "base/message.h"
 #include "panes/duplicates/duplicate_choice.h"
+#include "panes/kit/kit_enums.h"
 #include "panes/kit/placeholder.h"
 #include "platform/formatting.h"
 
@@ -54,7 +55,7 @@ namespace klarvik::duplicates {
 [[nodiscard]] QString menuEntry(bool isKeeper);
 /// What a screen reader says of a row.
 [[nodiscard]] QString groupDescription(const ChosenGroup& group, const Formatting& formatting);
-[[nodiscard]] QString copyDescription(const DuplicateFile& file, bool isKeeper, const Path& home,
-                                      const Formatting& formatting);
+[[nodiscard]] QString copyDescription(const DuplicateFile& file, KeepOrDelete::Value fate,
+                                      const Path& home, const Formatting& formatting);
 
 }  // namespace klarvik::duplicates

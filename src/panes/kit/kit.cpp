@@ -133,6 +133,7 @@ QString Kit::safetyText(int level) const {
 }
 
 QString Kit::fateText(int fate) const {
+  if (fate == KeepOrDelete::Neither) return {};
   return fate == KeepOrDelete::Keep ? translate("Kit", "KEEP") : translate("Kit", "DELETE");
 }
 

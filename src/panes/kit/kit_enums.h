@@ -26,7 +26,7 @@ static_assert(Caution == static_cast<int>(SafetyLevel::caution));
 namespace klarvik::KeepOrDelete {
 Q_NAMESPACE
 QML_ELEMENT
-enum Value { Keep, Delete };
+enum Value { Keep, Delete, Neither };
 Q_ENUM_NS(Value)
 }  // namespace klarvik::KeepOrDelete
 

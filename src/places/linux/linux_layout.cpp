@@ -116,6 +116,7 @@ const DiskLayout& layout() {
       .programLocks = programLocks,
       .sizesAreWhole = true,
       .tellsWhatGoesForGood = true,
+      .marksSelectedCopiesOnly = true,
       .desktopNamesFolders = true,
       .moreLargeFileFolders = {},
       .fileKinds = fileKinds,

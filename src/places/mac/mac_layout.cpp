@@ -61,6 +61,7 @@ const DiskLayout& layout() {
       .programLocks = {},
       .sizesAreWhole = false,
       .tellsWhatGoesForGood = false,
+      .marksSelectedCopiesOnly = false,
       .desktopNamesFolders = false,
       .moreLargeFileFolders = moreLargeFileFolders,
       .fileKinds = fileKinds,

@@ -64,6 +64,21 @@ class DuplicateRowsTest : public testing::Test {
   QSignalSpy reset{&rows, &QAbstractItemModel::modelReset};
 };
 
+TEST_F(DuplicateRowsTest, ACopyThatIsNotSelectedIsMarkedAsOneThatGoesOnAMacsDiskOnly) {
+  const FakeDesktopOnDisk linux(std::nullopt, linuxHome);
+  show(1, 2);
+  DuplicateRowsModel other{choice, linux.desktop};
+  other.insertAll();
+  const auto fate = [](const DuplicateRowsModel& model) {
+    return model.index(2).data(DuplicateRowsModel::FateRole);
+  };
+  EXPECT_EQ(fate(other), static_cast<int>(KeepOrDelete::Delete));
+  choice.toggle(*choice.groups().front(), 1);
+  EXPECT_EQ(fate(other), static_cast<int>(KeepOrDelete::Neither));
+  EXPECT_EQ(fate(rows), static_cast<int>(KeepOrDelete::Delete));
+  EXPECT_EQ(other.index(2).data(DuplicateRowsModel::DescriptionRole), "1, 1 KB, /0/");
+}
+
 TEST_F(DuplicateRowsTest, TheFirstGroupStandsOpen) {
   show(2, 2);
   EXPECT_EQ(rows.rowCount(), 4);

@@ -90,10 +90,14 @@ TEST(DuplicatesTexts, ARowSaysWhatItIsItsSizeAndItsVerdict) {
   group.removableBytes = 2'000'000;
   EXPECT_EQ(duplicates::groupName(group.group), "a.pdf");
   EXPECT_EQ(duplicates::groupDescription(group, formatting), "a.pdf, 2 copies, 2 MB reclaimable");
-  EXPECT_EQ(duplicates::copyDescription(group.group.files[0], true, home, formatting),
+  EXPECT_EQ(duplicates::copyDescription(group.group.files[0], KeepOrDelete::Keep, home, formatting),
             "a.pdf, 2 MB, keep, ~/Documents/");
-  EXPECT_EQ(duplicates::copyDescription(group.group.files[1], false, home, formatting),
-            "b.pdf, 2 MB, delete, ~/");
+  EXPECT_EQ(
+      duplicates::copyDescription(group.group.files[1], KeepOrDelete::Delete, home, formatting),
+      "b.pdf, 2 MB, delete, ~/");
+  EXPECT_EQ(
+      duplicates::copyDescription(group.group.files[1], KeepOrDelete::Neither, home, formatting),
+      "b.pdf, 2 MB, ~/");
   EXPECT_EQ(duplicates::menuEntry(true), "This copy stays");
   EXPECT_EQ(duplicates::menuEntry(false), "Keep this copy instead");
 }
