@@ -35,7 +35,7 @@ class StatusItem {
   struct Look {
     Icon icon = nullptr;
     std::string themeIcon;  ///< the same in the icon theme, which a panel gives its own colour
-    std::string title;  ///< beside the icon; empty for none
+    std::string title;      ///< beside the icon; empty for none
     std::string toolTip;
     std::vector<MenuEntry> menu;
     bool operator==(const Look&) const = default;

@@ -32,9 +32,8 @@ KlarvikApp::KlarvikApp(const Desktop& desktop, SharedState& shared, LoginItem& l
       _mainWindow(_onboarding, _commands),
       _updateWindow(desktop),
       _windows(desktop),
-      _menuBar(desktop, shared.trashMonitor(), [this] {
-        return std::make_unique<QuickPopover>(_windows.engine(), _desktop);
-      }) {
+      _menuBar(desktop, shared.trashMonitor(),
+               [this] { return std::make_unique<QuickPopover>(_windows.engine(), _desktop); }) {
   removeLeftoverKeys();
   connect(&_onboarding, &OnboardingModel::finished, this, &KlarvikApp::finishOnboarding);
   connect(&_updateWindow, &UpdateWindowModel::isShownChanged, this, &KlarvikApp::showUpdates);
