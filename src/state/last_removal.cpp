@@ -57,12 +57,14 @@ QCoro::Task<> LastRemoval::restore() {
   auto restore = [&engine, items = std::exchange(_items, {}), stop = _lifetime.get_token()] {
     return engine.restoreItems(items, stop);
   };
-  _summary->restoredCount = co_await runInBackground(_work, std::move(restore));
+  const std::int64_t count = co_await runInBackground(_work, std::move(restore));
+  _summary->restoredCount = count;
   _isRestoring = false;
   _notice.tell(leftAlone);
   emit changed();
   _desktop.notifications.post(diskChangedNotification);
-  if (_summary->restoredCount > 0 && _whenRestored) _whenRestored();
+  // Who was told may have dismissed it by now.
+  if (const auto whenRestored = _whenRestored; count > 0 && whenRestored) whenRestored();
 }
 
 }  // namespace klarvik

@@ -518,12 +518,15 @@ TEST_F(UninstallerOfALinuxHome, TotalsWhatIsLeftAfterARemoval) {
 
 TEST_F(UninstallerRemoval, ThatIsPutBackWhileTheListIsReadIsInTheList) {
   ASSERT_TRUE(openWriter());
-  ASSERT_TRUE(uninstall());
-  holdAt("/Applications");
+  gate.close();
+  for (const char* app : {"/Applications/Writer.app", "/Applications/Note.app"}) {
+    files.before(Operation::walk, app, [this] { gate.pass(); });
+  }
   desk.clock.advance(301s);
-  navigateTo(Section::storage);
-  navigateTo(Section::uninstaller);
+  comeBack();
   ASSERT_TRUE(isHeld());
+  ASSERT_TRUE(uninstall());
+  ASSERT_TRUE(view->isLoading());
   shared.lastRemoval().restore();
   ASSERT_TRUE(turnUntil([this] { return shared.lastRemoval().summary()->restoredCount == 1; }));
   gate.open();
