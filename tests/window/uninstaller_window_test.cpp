@@ -5,10 +5,16 @@ namespace {
 
 class UninstallerWindow : public WindowFixture {
  protected:
+  /// Until the row is there, and the others that come with it.
+  [[nodiscard]] bool waitForRows(const QString& row) {
+    if (waitFor(row) == nullptr) return false;
+    settle();
+    return true;
+  }
   [[nodiscard]] bool openPane() {
     openWindow();
     click("Uninstaller");
-    return waitFor("Acme Writer, ") != nullptr;
+    return waitForRows("Acme Writer, ");
   }
   [[nodiscard]] QString appsAfterwards() const {
     return QString("%1 apps · ").arg(desk->sample->applications - 1);
@@ -16,7 +22,7 @@ class UninstallerWindow : public WindowFixture {
   [[nodiscard]] bool openAcmeWriter() {
     if (!openPane()) return false;
     click("Acme Writer, ");
-    return waitFor("com.acme.writer.plist, ") != nullptr;
+    return waitForRows("com.acme.writer.plist, ");
   }
   void clickUninstall() {
     settle();

@@ -122,11 +122,14 @@ bool WindowFixture::turnUntil(const std::function<bool()>& reached) {
 }
 
 bool WindowFixture::turnUntilItsTurn(const std::function<bool()>& reached) {
-  return turnMainLoopUntil(reached, [this] { desk->clock.advance(1min); });
+  return turnMainLoopUntil(reached, [this] {
+    motion->moveOn(20ms);
+    desk->clock.advance(1min);
+  });
 }
 
 void WindowFixture::settle() {
-  constexpr int steps = 4;
+  constexpr int steps = 6;
   FakeMotion::turnUntilStill();
   for (int step = 0; step < steps; ++step) {
     desk->clock.advance(clockTime / steps);

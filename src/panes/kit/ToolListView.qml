@@ -7,7 +7,12 @@ import Klarvik.Kit
 ListView {
     id: root
 
+    // How far the list is filled with rows, in points from its top. Rows that come all at once are made
+    // a few in each frame, so that no frame has to wait for all of them.
+    property real filledHeight: 0
+
     anchors.fill: parent
+    displayMarginEnd: Math.min(0, root.filledHeight - root.height)
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     // Rows that come into sight take over what others leave behind. Those that a model inserts beyond
@@ -25,4 +30,22 @@ ListView {
         }
     }
     T.ScrollBar.vertical: KitScrollBar {}
+    onCountChanged: {
+        if (root.count === 0)
+            root.filledHeight = 0;
+    }
+
+    FrameAnimation {
+        running: root.count > 0 && root.filledHeight < root.height
+        onTriggered: root.filledHeight += 4 * Measures.rowHeight
+    }
+
+    Connections {
+        target: root.model
+        ignoreUnknownSignals: true
+
+        function onModelReset() {
+            root.filledHeight = 0;
+        }
+    }
 }
