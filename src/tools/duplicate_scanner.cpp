@@ -5,6 +5,7 @@
 #include <cstring>
 #include <functional>
 #include <iterator>
+#include <map>
 #include <set>
 #include <thread>
 #include <unordered_map>
@@ -120,6 +121,9 @@ FoundFiles collected(const FileSystem& files, const std::vector<Path>& directori
 /// The files whose content decides.
 struct ToRead {
   FileNumbers numbers;
+  /// By its place among the numbers, another name of a file: the place of its first one. The file
+  /// is read once.
+  std::unordered_map<std::size_t, std::size_t> firstNames{};
   /// Files of one size, one after the other: up to which place among the numbers.
   struct Run {
     std::size_t end;
@@ -127,6 +131,20 @@ struct ToRead {
   };
   std::vector<Run> runs{};
 };
+
+std::unordered_map<std::size_t, std::size_t> firstNames(
+    const FileNumbers& numbers, const std::unordered_map<std::size_t, FileIdentity>& severalNames) {
+  std::unordered_map<std::size_t, std::size_t> firsts;
+  if (severalNames.empty()) return firsts;
+  std::map<FileIdentity, std::size_t> places;
+  for (std::size_t at = 0; at < numbers.size(); ++at) {
+    const auto file = severalNames.find(numbers[at]);
+    if (file == severalNames.end()) continue;
+    const auto [place, isFirst] = places.try_emplace(file->second, at);
+    if (!isFirst) firsts.emplace(at, place->second);
+  }
+  return firsts;
+}
 
 /// Those whose size others have as well: the largest first, so that at the end no core is left
 /// alone with a huge file.
@@ -136,10 +154,13 @@ ToRead sameSized(const FileSystem& files, const FoundFiles& found) {
     std::size_t number;
   };
   std::vector<Sized> sized;
+  std::unordered_map<std::size_t, FileIdentity> severalNames;
   FoundFileAccess access(files, found);
   for (std::size_t number = 0; number < found.size(); ++number) {
     const auto now = access.attributes(number);
-    if (now && now->kind != FileKind::directory) sized.push_back({now->logicalBytes, number});
+    if (!now || now->kind == FileKind::directory) continue;
+    sized.push_back({now->logicalBytes, number});
+    if (now->names > 1 && now->identity) severalNames.emplace(number, *now->identity);
   }
   std::ranges::stable_sort(sized, std::ranges::greater(), &Sized::size);
 
@@ -153,6 +174,7 @@ ToRead sameSized(const FileSystem& files, const FoundFiles& found) {
     }
     first = end;
   }
+  toRead.firstNames = firstNames(toRead.numbers, severalNames);
   return toRead;
 }
 
@@ -217,21 +239,30 @@ Contents hashed(const FileSystem& files, const FoundFiles& found, const ToRead& 
   parallelFor(
       {.count = numbers.size(), .width = width, .order = ParallelOrder::byNumber},
       [&](std::size_t at, std::size_t number) {
+        if (toRead.firstNames.contains(at)) return;
         auto& thread = threads[number];
         if (!thread) thread = std::make_unique<FileHashing>(files, found);
         digests[at] = thread->digest(numbers[at]);
       },
       [&](std::size_t at) {
         readShare.add(at);
-        if (digests[at]) contents.add(*digests[at], numbers[at]);
+        const auto firstName = toRead.firstNames.find(at);
+        const auto& digest = digests[firstName == toRead.firstNames.end() ? at : firstName->second];
+        if (digest) contents.add(*digest, numbers[at]);
         reportBefore(at + 1);
       });
   return contents;
 }
 
-DuplicateFile duplicateFile(FoundFileAccess& access, const FoundFiles& found, std::size_t number) {
-  const auto now = access.attributes(number);
-  DuplicateFile file{.url = found.path(number)};
+/// What found files are told as.
+struct FoundCopies {
+  FoundFileAccess access;
+  FoundFilePaths paths;
+};
+
+DuplicateFile duplicateFile(FoundCopies& copies, std::size_t number) {
+  const auto now = copies.access.attributes(number);
+  DuplicateFile file{.url = copies.paths.path(number)};
   if (!now) return file;
   file.size = now->kind == FileKind::directory ? 0 : now->logicalBytes;
   file.modifiedDate = now->modified;
@@ -239,12 +270,12 @@ DuplicateFile duplicateFile(FoundFileAccess& access, const FoundFiles& found, st
   return file;
 }
 
-DuplicateGroup duplicateGroup(FoundFileAccess& access, const FoundFiles& found,
-                              const Digest& digest, const FileNumbers& holders) {
+DuplicateGroup duplicateGroup(FoundCopies& copies, const Digest& digest,
+                              const FileNumbers& holders) {
   DuplicateGroup group{.hash = hexadecimal(digest), .files = {}};
   group.files.reserve(holders.size());
   for (const std::size_t number : holders) {
-    group.files.push_back(duplicateFile(access, found, number));
+    group.files.push_back(duplicateFile(copies, number));
   }
   std::ranges::stable_sort(group.files, std::ranges::greater(), [](const DuplicateFile& file) {
     return file.modifiedDate.value_or(Date::min());
@@ -286,9 +317,9 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
   report(0.97, 0, QT_TRANSLATE_NOOP("Engine", "Building results..."), 1);
   std::vector<DuplicateGroup> groups;
   groups.reserve(static_cast<std::size_t>(contents.shared()));
-  FoundFileAccess access(_files, found);
+  FoundCopies copies{FoundFileAccess(_files, found), FoundFilePaths(found)};
   contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
-    groups.push_back(duplicateGroup(access, found, digest, holders));
+    groups.push_back(duplicateGroup(copies, digest, holders));
   });
   report(1.0, static_cast<std::int64_t>(groups.size()), QT_TRANSLATE_NOOP("Engine", "Done"), 1);
   std::ranges::stable_sort(groups, std::ranges::greater(), &DuplicateGroup::reclaimableBytes);

@@ -51,16 +51,18 @@ std::string FoundFiles::pathOfFolder(std::size_t folder) const {
   return text;
 }
 
-std::string FoundFiles::path(std::size_t number) const {
-  std::string text = pathOfFolder(_files[number].folder);
-  if (text.back() != '/') text.push_back('/');
-  text.append(_names.data() + _files[number].name);
-  text.shrink_to_fit();
-  return text;
-}
-
 std::string FoundFiles::name(std::size_t number) const {
   return _names.data() + _files[number].name;
+}
+
+PathText FoundFilePaths::path(std::size_t number) {
+  PathText::Folder& folder = _folders[_found._files[number].folder];
+  if (!folder) {
+    std::string text = _found.pathOfFolder(_found._files[number].folder);
+    if (text.back() != '/') text.push_back('/');
+    folder = std::make_shared<const std::string>(text);
+  }
+  return {folder, _found.name(number)};
 }
 
 std::optional<FileAttributes> FoundFileAccess::attributes(std::size_t number) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/file_system.h"
+#include "tools/path_text.h"
 
 namespace klarvik {
 
@@ -20,12 +21,12 @@ class FoundFiles {
   void add(const WalkEntry& entry);
 
   [[nodiscard]] std::size_t size() const { return _files.size(); }
-  [[nodiscard]] std::string path(std::size_t number) const;
   /// Bytes of the last path component.
   [[nodiscard]] std::string name(std::size_t number) const;
 
  private:
   friend class FoundFileAccess;
+  friend class FoundFilePaths;
   static constexpr std::size_t none = std::numeric_limits<std::size_t>::max();
 
   struct Folder {
@@ -45,6 +46,20 @@ class FoundFiles {
   std::vector<File> _files;
   std::size_t _current = none;  // the folder that the last entry lies in
   std::string _currentText;     // of it, as the walk tells it
+};
+
+/// The paths of found files, of which those in one folder share its text. One thread; must not
+/// outlive what it is given.
+class FoundFilePaths {
+ public:
+  explicit FoundFilePaths(const FoundFiles& found)
+      : _found(found), _folders(found._folders.size()) {}
+
+  [[nodiscard]] PathText path(std::size_t number);
+
+ private:
+  const FoundFiles& _found;
+  std::vector<PathText::Folder> _folders;  // null: not asked for yet
 };
 
 /// Asks for found files one after the other. The folder of the last one stays open, so that the way

@@ -149,6 +149,23 @@ TEST_F(DuplicateScannerTest, FilesOfEqualSizeAndDifferentContentYieldNoGroupAndA
   EXPECT_EQ(opened, 2);
 }
 
+TEST_F(DuplicateScannerTest, AFileWithSeveralNamesIsReadOnce) {
+  disk.makeFile("/copy", "content");
+  const Path first = disk.makeFile("/first", "content");
+  for (const Path name : {"/second", "/third"}) {
+    std::filesystem::create_hard_link(first, disk.onDisk(name));
+  }
+  std::vector<Path> opened;
+  for (const Path path : {"/copy", "/first", "/second", "/third"}) {
+    files.before(Operation::openForReading, path, [path, &opened] { opened.push_back(path); });
+  }
+  const auto groups = DuplicateScanner(files, 1).scan({"/"}, 1, {});
+  ASSERT_EQ(groups.size(), 1U);
+  EXPECT_EQ(groups[0].files.size(), 4U);
+  ASSERT_EQ(opened.size(), 2U);
+  EXPECT_THAT(opened, testing::Contains("/copy"));
+}
+
 TEST_F(DuplicateScannerTest, AFileWhoseSizeIsUniqueIsNeverOpened) {
   disk.makeFile("/a", "one");
   disk.makeFile("/b", "one");

@@ -22,7 +22,8 @@ class FoundFilesTest : public testing::Test {
 
   [[nodiscard]] std::vector<Path> paths() const {
     std::vector<Path> all;
-    for (std::size_t number = 0; number < found.size(); ++number) all.push_back(found.path(number));
+    FoundFilePaths paths(found);
+    for (std::size_t number = 0; number < found.size(); ++number) all.push_back(paths.path(number));
     std::ranges::sort(all);
     return all;
   }
@@ -30,10 +31,11 @@ class FoundFilesTest : public testing::Test {
   /// Also in an order in which nobody found them.
   void expectEachIsReadAsItIs() {
     FoundFileAccess access(files, found);
+    FoundFilePaths paths(found);
     for (const std::size_t step : {1U, 7U, 13U}) {
       for (std::size_t at = 0; at < found.size(); ++at) {
         const std::size_t number = at * step % found.size();
-        const Path path = found.path(number);
+        const Path path = paths.path(number);
         EXPECT_EQ(found.name(number), path.filename().native());
         const auto attributes = access.attributes(number);
         ASSERT_TRUE(attributes) << path;

@@ -95,7 +95,7 @@ DuplicateChoice::GroupSet DuplicateChoice::dissolvedBy(const Paths& gone) const 
   GroupSet dissolved;
   for (const auto& group : _groups) {
     const auto left = std::ranges::count_if(group->group.files, [&](const DuplicateFile& file) {
-      return !gone.contains(file.url.native());
+      return !gone.contains(file.url);
     });
     if (left < 2) dissolved.insert(group.get());
   }
@@ -111,7 +111,7 @@ ChosenGroups DuplicateChoice::remove(const Paths& gone, const GroupSet& dissolve
   _groups.erase(stay, _groups.end());
   for (const auto& group : _groups) {
     std::erase_if(group->group.files,
-                  [&](const DuplicateFile& file) { return gone.contains(file.url.native()); });
+                  [&](const DuplicateFile& file) { return gone.contains(file.url); });
   }
   _deselected.clear();
   _keepOverrides.clear();

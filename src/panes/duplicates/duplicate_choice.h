@@ -58,7 +58,7 @@ class CopySelection {
 class DuplicateChoice {
  public:
   using KeepRule = DuplicateSelection::KeepRule;
-  using Paths = std::unordered_set<std::string_view>;
+  using Paths = std::unordered_set<PathText>;
   using GroupSet = std::unordered_set<const ChosenGroup*>;
 
   struct Totals {

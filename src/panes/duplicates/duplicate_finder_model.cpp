@@ -296,7 +296,7 @@ QCoro::Task<> DuplicateFinderModel::moveSelectedToTrash() {
 
 void DuplicateFinderModel::forget(const std::set<Path>& trashed) {
   DuplicateChoice::Paths gone;
-  for (const Path& url : trashed) gone.insert(url.native());
+  for (const Path& url : trashed) gone.insert(url);
   const Placeholder before = placeholder();
   const DuplicateChoice::GroupSet dissolved = _choice.dissolvedBy(gone);
   _rows.removeFiles(gone, dissolved);

@@ -122,7 +122,7 @@ void DuplicateRowsModel::removeFiles(const DuplicateChoice::Paths& gone,
                                      const DuplicateChoice::GroupSet& dissolved) {
   const IsGone isGone = [&](const Row& row) {
     if (dissolved.contains(row.group)) return true;
-    return !row.isGroup() && gone.contains(row.group->group.files[row.file].url.native());
+    return !row.isGroup() && gone.contains(row.group->group.files[row.file].url);
   };
   for (const ChosenGroup* group : dissolved) _expanded.erase(group->group.id);
 

@@ -1,0 +1,32 @@
+#include "tools/path_text.h"
+
+#include <gtest/gtest.h>
+
+#include <unordered_set>
+
+namespace klarvik {
+namespace {
+
+TEST(PathTextTest, IsTheVeryBytesOfThePath) {
+  for (const char* text :
+       {"/", "/a", "/a/b", "/a/b/", "a", "a/b", "", "//a", "/a//b", "/a/\xff\n"}) {
+    const PathText path = text;
+    EXPECT_EQ(path.native(), text);
+    EXPECT_EQ(path, text);
+    EXPECT_EQ(Path(path).native(), text);
+  }
+}
+
+TEST(PathTextTest, IsEqualWhoeverKeepsTheFolder) {
+  const auto folder = std::make_shared<const std::string>("/a/");
+  const PathText shared(folder, "b");
+  EXPECT_EQ(shared, PathText(folder, "b"));
+  EXPECT_EQ(shared, PathText("/a/b"));
+  EXPECT_EQ(shared.filename(), "b");
+  EXPECT_NE(shared, PathText(folder, "c"));
+  EXPECT_NE(shared, PathText("/c/b"));
+  EXPECT_TRUE(std::unordered_set<PathText>{shared}.contains(PathText("/a/b")));
+}
+
+}  // namespace
+}  // namespace klarvik
