@@ -4,7 +4,7 @@
 
 #include "core/deletion_guard.h"
 #include "core/left_alone.h"
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/file_system.h"
 
 namespace klarvik {

@@ -7,7 +7,7 @@
 
 #include "core/catalogue.h"
 #include "places/place.h"
-#include "platform/date.h"
+#include "platform/clock.h"
 #include "platform/path.h"
 #include "platform/platform.h"
 

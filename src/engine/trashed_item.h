@@ -4,7 +4,7 @@
 #include <functional>
 #include <optional>
 
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {

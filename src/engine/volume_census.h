@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "places/ledger_place.h"
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {

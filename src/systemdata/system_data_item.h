@@ -11,7 +11,7 @@
 
 #include "base/message.h"
 #include "core/uuid.h"
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 #include "systemdata/system_data_sub_category.h"
 

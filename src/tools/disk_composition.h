@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "places/rgb_color.h"
-#include "platform/date.h"
+#include "platform/clock.h"
 #include "platform/path.h"
 
 namespace klarvik {

@@ -19,7 +19,6 @@
 #include "places/words.h"
 #include "platform/desktop_entry.h"
 #include "platform/file_system.h"
-#include "platform/text_of_file.h"
 #include "tools/debian_packages.h"
 
 namespace klarvik {

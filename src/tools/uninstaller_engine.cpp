@@ -10,7 +10,7 @@
 #include "places/disk_layout.h"
 #include "places/words.h"
 #include "platform/application_bundle.h"
-#include "platform/current_desktop.h"
+#include "platform/desktop_entry.h"
 #include "platform/file_system.h"
 #include "platform/running_programs.h"
 #include "platform/trash.h"

@@ -5,11 +5,21 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/command_runners.h"
 #include "platform/path.h"
-#include "platform/tool_runner.h"
 #include "platform/user_folders.h"
 
 namespace klarvik {
+
+/// Runs command lines through `/bin/zsh` where there is one, else `/bin/sh`. The command reads
+/// nothing, and inherits the environment and the working directory but no open file, no blocked
+/// signal and no signal handling.
+///
+/// Standard error goes to a pipe that nobody reads.
+class ShellCommandRunner final : public CommandRunner {
+ public:
+  [[nodiscard]] std::optional<std::string> run(const std::string& commandLine) override;
+};
 
 /// Runs the tools that are installed on one disk. May be used from any thread.
 ///

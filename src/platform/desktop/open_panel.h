@@ -3,17 +3,18 @@
 #include <QDBusConnection>
 #include <QDBusPendingCall>
 #include <QDBusServiceWatcher>
+#include <QFileDialog>
 #include <QObject>
 #include <QString>
 #include <QVariantMap>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "platform/desktop_services.h"
+#include "platform/file_system.h"
 
 namespace klarvik {
-
-class FileSystem;
 
 /// The folder dialog of the user's desktop, asked for through its portal. Where there is none, or
 /// one that cannot choose folders, `fallback` is asked instead. Main thread only.
@@ -47,6 +48,22 @@ class PortalOpenPanel final : public QObject, public OpenPanel {
   Answer _answer;   // empty while no dialog is open
   QString _dialog;  // the path on the bus of what will tell what was chosen
   int _dialogs = 0;
+};
+
+/// The folder panel that Qt draws itself, for desktops without a portal: those of Qt's that ask the
+/// desktop let choose a single folder.
+/// Needs a `QApplication` as long as it is in use.
+class QtOpenPanel final : public OpenPanel {
+ public:
+  explicit QtOpenPanel(const FileSystem& files);
+
+  void chooseFolders(const Request& request, Answer answer) override;
+
+ private:
+  [[nodiscard]] std::vector<Path> chosen() const;
+
+  const FileSystem& _files;
+  std::unique_ptr<QFileDialog> _dialog;
 };
 
 }  // namespace klarvik

@@ -1,4 +1,4 @@
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 
 #include "platform/file_system.h"
 

@@ -1,9 +1,7 @@
-#include "platform/text_of_file.h"
+#include "platform/file_system.h"
 
 #include <array>
 #include <cstddef>
-
-#include "platform/file_system.h"
 
 namespace klarvik {
 
