@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "places/ledger_place.h"
+#include "places/system_data_places.h"
 #include "platform/file_attributes.h"
 #include "platform/path.h"
 

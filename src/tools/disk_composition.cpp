@@ -5,7 +5,7 @@
 
 #include "base/bytes.h"
 #include "base/message.h"
-#include "places/storage_palette.h"
+#include "places/colors.h"
 
 namespace klarvik {
 

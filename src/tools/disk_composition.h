@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "places/rgb_color.h"
+#include "places/colors.h"
 #include "platform/clock.h"
 #include "platform/path.h"
 

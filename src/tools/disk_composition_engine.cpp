@@ -14,8 +14,8 @@
 #include "engine/allocated_size.h"
 #include "engine/project_walk.h"
 #include "engine/volume_census.h"
+#include "places/colors.h"
 #include "places/disk_layout.h"
-#include "places/storage_palette.h"
 #include "platform/file_system.h"
 #include "platform/volume.h"
 

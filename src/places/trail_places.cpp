@@ -1,4 +1,4 @@
-#include "places/privacy_category.h"
+#include "places/trail_places.h"
 
 namespace klarvik {
 

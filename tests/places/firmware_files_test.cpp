@@ -1,4 +1,4 @@
-#include "engine/firmware_files.h"
+#include "places/mac/scan_places.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +7,10 @@ namespace {
 
 TEST(FirmwareFiles, AreToldByTheirExtension) {
   for (const char* name : {"a.ipsw", "a.ipa", "folder/a.b.ipsw"}) {
-    EXPECT_TRUE(isFirmware(name)) << name;
+    EXPECT_TRUE(mac::isFirmware(name)) << name;
   }
   for (const char* name : {"a.IPSW", "a.ipsw.zip", "ipsw", ".ipa", "a.ipsw/part"}) {
-    EXPECT_FALSE(isFirmware(name)) << name;
+    EXPECT_FALSE(mac::isFirmware(name)) << name;
   }
 }
 

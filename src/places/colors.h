@@ -1,6 +1,17 @@
 #pragma once
 
-#include "places/rgb_color.h"
+namespace klarvik {
+
+/// An opaque colour in sRGB. Each part runs from 0 to 1.
+struct RgbColor {
+  double red = 0;
+  double green = 0;
+  double blue = 0;
+
+  bool operator==(const RgbColor&) const = default;
+};
+
+}  // namespace klarvik
 
 /// The colours of the kinds of things in the charts of Storage and System Data.
 namespace klarvik::storage_palette {
