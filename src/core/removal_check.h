@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "core/deletion_guard.h"
-#include "core/left_alone.h"
+#include "core/removal_outcome.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <stop_token>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,6 +13,11 @@
 #include "platform/platform.h"
 
 namespace klarvik {
+
+/// How the user calls `program`, while a process of theirs is it or holds the lock of one of its
+/// profiles; empty while it does not run. Looks anew at each call; any thread.
+[[nodiscard]] std::string nameIfRunning(const Platform& platform, const Catalogue& catalogue,
+                                        std::string_view program);
 
 /// What a walk through a thing tells of it.
 struct Measure {

@@ -7,15 +7,14 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/removal_check.h"
-#include "engine/allocated_size.h"
 #include "engine/local_snapshots.h"
 #include "engine/place_scanner.h"
 #include "engine/shell.h"
+#include "engine/sizes.h"
 #include "places/mac/scan_places.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"
-#include "systemdata/friendly_name.h"
-#include "systemdata/snapshot_listing.h"
+#include "systemdata/system_data_item.h"
 
 namespace klarvik {
 

@@ -13,7 +13,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/catalogue.h"
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
 #include "places/words.h"

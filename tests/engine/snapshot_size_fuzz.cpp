@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "systemdata/snapshot_listing.h"
+#include "engine/local_snapshots.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view output(reinterpret_cast<const char*>(data), size);

@@ -1,14 +1,12 @@
 // Whatever `tmutil` prints, nothing that a shell acts on reaches a command line, and every snapshot
 // stands below the folder of snapshots.
 
-#include "systemdata/snapshot_listing.h"
+#include "engine/local_snapshots.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
-
-#include "engine/local_snapshots.h"
 
 namespace {
 

@@ -28,4 +28,21 @@ struct WalkOptions;
 [[nodiscard]] std::int64_t wholeAllocatedSize(const FileSystem& files, const Path& path,
                                               const std::stop_token& stop = {});
 
+/// How many bytes of the thing at `path` stay on the disk when it goes, because copies elsewhere
+/// have the same content. Only large files are asked, and files that share content with each other
+/// count as well, so it is no exact figure; 0 where the file system does not tell, at no cost. May
+/// be called from any thread; ends early at a stop, with what it has.
+[[nodiscard]] std::int64_t sharedBytes(const FileSystem& files, const Path& path,
+                                       const std::stop_token& stop);
+
+// Sizes by the length of the content, in bytes: what the tools show for things that they list. What
+// the disk gives for them is another measure, `allocatedSize`. May be called from any thread.
+
+/// Length of one file, or of a link itself. 0 for a folder, and where the path cannot be asked.
+[[nodiscard]] std::int64_t fileSize(const FileSystem& files, const Path& path);
+
+/// Sum over everything in a folder, hidden things left out and packages entered. For what cannot be
+/// walked, its own `fileSize`.
+[[nodiscard]] std::int64_t contentSize(const FileSystem& files, const Path& path);
+
 }  // namespace klarvik
