@@ -4,7 +4,7 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/tool_runner.h"
+#include "platform/command_runners.h"
 
 namespace klarvik {
 namespace {

@@ -12,7 +12,7 @@
 #include "base/message.h"
 #include "core/uuid.h"
 #include "places/application_places.h"
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {

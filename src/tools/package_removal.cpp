@@ -9,8 +9,8 @@
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
 #include "places/words.h"
+#include "platform/command_runners.h"
 #include "platform/file_system.h"
-#include "platform/tool_runner.h"
 #include "tools/installed_applications.h"
 
 namespace klarvik {

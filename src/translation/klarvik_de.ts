@@ -4883,17 +4883,6 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
 </context>
 <context>
-    <name>RemovalBanner</name>
-    <message>
-        <source>Empty Trash</source>
-        <translation>Papierkorb leeren</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Schließen</translation>
-    </message>
-</context>
-<context>
     <name>ReviewTable</name>
     <message>
         <source>CATEGORY</source>
@@ -5667,6 +5656,14 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>Move to Trash</source>
         <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>Empty Trash</source>
+        <translation>Papierkorb leeren</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
