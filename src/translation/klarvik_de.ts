@@ -4642,11 +4642,11 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
     <message>
         <source>Recent menus empty out</source>
-        <translation>Listen zuletzt benutzter Dateien leeren sich</translation>
+        <translation>Listen letzter Dateien leeren sich</translation>
     </message>
     <message>
         <source>Recent apps list empties</source>
-        <translation>Liste zuletzt benutzter Apps leert sich</translation>
+        <translation>Liste letzter Apps leert sich</translation>
     </message>
     <message>
         <source>Download history forgotten</source>

@@ -25,6 +25,11 @@ QtObject {
     /// In a wider window nothing but the space on both sides grows.
     readonly property int contentWidth: 1120
 
+    /// A column of figures of this width gives some of it to the names where the pane is narrow.
+    function figures(width: int, paneWidth: real): int {
+        return paneWidth < 760 ? Math.round(width * 0.75) : width;
+    }
+
     /// The space on each side of what a pane of this width shows.
     function side(paneWidth: real): real {
         return Math.max(Theme.sidePadding, Math.floor((paneWidth - contentWidth) / 2));

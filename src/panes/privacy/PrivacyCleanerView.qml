@@ -28,12 +28,12 @@ ToolPane {
         },
         ColumnSpec {
             title: qsTr("ITEMS")
-            width: Measures.countWidth
+            width: Measures.figures(Measures.countWidth, root.width)
             alignment: Qt.AlignRight
         },
         ColumnSpec {
             title: qsTr("SIZE")
-            width: Measures.sizeWidth
+            width: Measures.figures(Measures.sizeWidth, root.width)
             alignment: Qt.AlignRight
         }
     ]

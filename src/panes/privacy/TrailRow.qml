@@ -61,12 +61,12 @@ ToolDetailRow {
     }
 
     NumberCell {
-        Layout.preferredWidth: Measures.countWidth
+        Layout.preferredWidth: Measures.figures(Measures.countWidth, root.width)
         text: root.count
     }
 
     NumberCell {
-        Layout.preferredWidth: Measures.sizeWidth
+        Layout.preferredWidth: Measures.figures(Measures.sizeWidth, root.width)
         text: root.size
         isStrong: true
     }

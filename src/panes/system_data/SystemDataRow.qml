@@ -58,7 +58,7 @@ RowFrame {
         anchors.leftMargin: Measures.side(root.width) + Measures.indent
         anchors.rightMargin: Measures.side(root.width)
         visible: root.isHeader
-        spacing: 8
+        spacing: 12
 
         Label {
             Layout.fillWidth: true
