@@ -80,6 +80,9 @@ constexpr std::array<std::string_view, 1> fishHistory{"fish_history"};
 constexpr std::array<std::string_view, 1> editorHistory{"*.shada"};
 constexpr std::array<std::string_view, 1> previews{"*"};
 
+constexpr std::array<std::string_view, 2> originAttributes{"user.xdg.origin.url",
+                                                           "user.xdg.referrer.url"};
+
 constexpr Trail toldTrail(PrivacyCategory category, std::string_view program, Base base,
                           std::string_view folder, Patterns files, std::string_view how) {
   return {category, program, base, folder, files, told, TrailCount::none, {}, how};
@@ -164,6 +167,7 @@ const TrailPlaces trailPlaces{
     .recentApplications = {},
     .downloadOrigins = {},
     .trails = allTrails,
+    .originAttributes = originAttributes,
 };
 
 }  // namespace klarvik::linux_disk
