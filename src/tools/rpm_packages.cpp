@@ -180,8 +180,11 @@ PackageOwners rpmOwners(const Platform& platform, const PackageManager& manager,
 std::optional<PackageNames> rpmNames(const Platform& platform, const PackageManager& manager) {
   Command all = query(platform, manager, "%{NAME}\\n");
   all.push_back("--all");
-  const auto output = answered(platform, all);
-  return output ? std::optional(namesIn(*output)) : std::nullopt;
+  const ToolResult answer =
+      platform.tools.run(all, {.time = mostTimeForAnAnswer, .output = longestAnswer});
+  // Some packages it may not have been able to read.
+  if (!answer.isWhole() || answer.errors.find("error: ") != std::string::npos) return std::nullopt;
+  return namesIn(answer.output);
 }
 
 }  // namespace klarvik

@@ -225,6 +225,12 @@ TEST_F(ForeignPackages, ThatNobodyCanBeAskedAboutAreNotOffered) {
   const std::string all = "rpm --query --queryformat %{NAME}\\n --dbpath " + rpmDatabase + " --all";
   world.tools.answer(all, "acme-writer\nwriter\n");
   EXPECT_THAT(leftoversOf(appCalled("Writer")), IsEmpty()) << "another package is called so";
+  for (const int exitStatus : {0, 1}) {
+    refuse(all, exitStatus, "acme-writer\n", "error: rpmdb: a header is damaged\n");
+    EXPECT_THAT(leftoversOf(appCalled("Writer")), IsEmpty()) << "not all were read";
+  }
+  refuse(all, 0, "acme-writer\n", "warning: another kind of database\n");
+  EXPECT_THAT(leftoversOf(appCalled("Writer")), ElementsAre(".config/writer"));
   world.tools.end(all, ToolResult::End::timedOut);
   EXPECT_THAT(leftoversOf(appCalled("Writer")), IsEmpty());
 

@@ -221,7 +221,7 @@ TEST_F(PrivacyWindowOfALinuxDisk, TakesFromDownloadsWhereTheyCameFrom) {
     }
   }
   ASSERT_TRUE(openAndScan());
-  ASSERT_TRUE(shows("Origin of downloads, "));
+  ASSERT_NE(waitFor("Origin of downloads, "), nullptr);
   settle();
   EXPECT_TRUE(shows("Downloaded-from records go"));
   picture("privacy-origins");
