@@ -4,6 +4,7 @@
 #include <sys/types.h>
 #include <sys/xattr.h>
 
+#include <algorithm>
 #include <string_view>
 
 #include "base/posix_io.h"
