@@ -288,8 +288,8 @@ TEST_F(RealPackages, RpmTellsItsPackagesAndWhatWouldGo) {
     const std::string top = disk.onDisk("/build").native();
     disk.makeFile("/build/" + name + ".spec", spec);
     disk.makeFolder("/var/lib/rpm");
-    const std::string line = "(rpmbuild -bb --define '_topdir " + top + "' " + top + "/" + name +
-                             ".spec && rpm --dbpath " + rpmDatabase +
+    const std::string line = "(rpmbuild --dbpath " + rpmDatabase + " -bb --define '_topdir " + top +
+                             "' " + top + "/" + name + ".spec && rpm --dbpath " + rpmDatabase +
                              " --justdb --nodeps --install " + top + "/RPMS/noarch/" + name +
                              "-1-1.noarch.rpm) >/dev/null 2>&1";
     return std::system(line.c_str()) == 0;
