@@ -9,8 +9,8 @@
 #include "base/message.h"
 #include "core/uuid.h"
 #include "places/category_type.h"
-#include "platform/date.h"
-#include "platform/entry_identity.h"
+#include "platform/clock.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {

@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "core/deletion_guard.h"
-#include "core/left_alone.h"
-#include "platform/entry_identity.h"
+#include "core/removal_outcome.h"
+#include "platform/file_attributes.h"
 #include "platform/file_system.h"
 
 namespace klarvik {

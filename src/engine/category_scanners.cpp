@@ -2,7 +2,7 @@
 
 #include "engine/category_scanners.h"
 
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "platform/file_system.h"
 
 namespace klarvik {

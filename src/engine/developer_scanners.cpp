@@ -3,9 +3,8 @@
 #include "engine/category_scanners.h"
 
 #include "base/message.h"
-#include "engine/docker_table.h"
+#include "engine/developer_tool_answers.h"
 #include "engine/shell.h"
-#include "engine/simulator_devices.h"
 #include "places/mac/scan_places.h"
 
 namespace klarvik {

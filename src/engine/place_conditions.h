@@ -2,16 +2,22 @@
 
 #include <optional>
 #include <stop_token>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/catalogue.h"
 #include "places/place.h"
-#include "platform/date.h"
+#include "platform/clock.h"
 #include "platform/path.h"
 #include "platform/platform.h"
 
 namespace klarvik {
+
+/// How the user calls `program`, while a process of theirs is it or holds the lock of one of its
+/// profiles; empty while it does not run. Looks anew at each call; any thread.
+[[nodiscard]] std::string nameIfRunning(const Platform& platform, const Catalogue& catalogue,
+                                        std::string_view program);
 
 /// What a walk through a thing tells of it.
 struct Measure {

@@ -6,11 +6,11 @@
 
 #include "base/paths.h"
 #include "core/removal_check.h"
-#include "engine/program_use.h"
+#include "engine/place_conditions.h"
 #include "engine/project_walk.h"
 #include "engine/root_command.h"
 #include "engine/scanner_engine.h"
-#include "engine/shared_content.h"
+#include "engine/sizes.h"
 #include "engine/tool_removal.h"
 #include "places/path_pattern.h"
 #include "platform/file_system.h"

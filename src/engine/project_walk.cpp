@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "places/path_pattern.h"
 #include "platform/file_system.h"
 

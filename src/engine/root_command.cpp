@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/text.h"
-#include "platform/tool_runner.h"
+#include "platform/command_runners.h"
 
 namespace klarvik {
 namespace {

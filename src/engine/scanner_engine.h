@@ -10,8 +10,7 @@
 #include <vector>
 
 #include "core/junk_model.h"
-#include "core/left_alone.h"
-#include "engine/trashed_item.h"
+#include "core/removal_outcome.h"
 #include "platform/platform.h"
 
 namespace klarvik {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "platform/command_runner.h"
+#include "platform/command_runners.h"
 
 namespace klarvik {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "base/bytes.h"
 #include "base/text.h"
-#include "engine/docker_table.h"
+#include "engine/developer_tool_answers.h"
 
 namespace klarvik::tool_answers {
 namespace {

@@ -9,8 +9,8 @@
 #include "engine/place_conditions.h"
 #include "engine/tool_answers.h"
 #include "places/disk_layout.h"
+#include "platform/command_runners.h"
 #include "platform/file_system.h"
-#include "platform/tool_runner.h"
 
 namespace klarvik {
 namespace {

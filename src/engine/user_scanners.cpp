@@ -6,7 +6,6 @@
 
 #include "base/message.h"
 #include "engine/category_scanners.h"
-#include "engine/firmware_files.h"
 #include "engine/local_snapshots.h"
 #include "engine/scanner_engine.h"
 #include "engine/shell.h"
@@ -103,13 +102,13 @@ CategoryScanners::Items CategoryScanners::firmware() const {
   Items items;
   const auto lookInto = [&](std::string_view folder) {
     for (const Path& child : children(folder)) {
-      if (!isFirmware(child)) continue;
+      if (!mac::isFirmware(child)) continue;
       JunkItem file = datedItem(
           {QT_TRANSLATE_NOOP("Engine", "📱 Firmware: %1"), {child.filename().native()}}, child);
       if (file.size > mac::largestIgnoredFirmware) items.push_back(std::move(file));
     }
   };
-  for (const std::string_view folder : softwareUpdateFolders) lookInto(folder);
+  for (const std::string_view folder : mac::softwareUpdateFolders) lookInto(folder);
   lookInto(mac::mobileSyncFolder);
   return items;
 }

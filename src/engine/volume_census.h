@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "places/ledger_place.h"
-#include "platform/entry_identity.h"
+#include "places/system_data_places.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {

@@ -4,14 +4,12 @@
 #include <span>
 #include <string_view>
 
-#include "places/analysis_pass.h"
 #include "places/application_places.h"
 #include "places/category_type.h"
 #include "places/guard_rules.h"
-#include "places/ledger_place.h"
 #include "places/place.h"
 #include "places/storage_share.h"
-#include "places/system_data_sub_category.h"
+#include "places/system_data_places.h"
 #include "places/tool.h"
 #include "places/trail_places.h"
 #include "places/words.h"

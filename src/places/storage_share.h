@@ -3,8 +3,8 @@
 #include <span>
 #include <string_view>
 
+#include "places/colors.h"
 #include "places/guard_rules.h"
-#include "places/rgb_color.h"
 #include "platform/user_folders.h"
 
 namespace klarvik {

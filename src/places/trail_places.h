@@ -1,12 +1,36 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <span>
 #include <string_view>
 
 #include "places/place.h"
-#include "places/privacy_category.h"
 
 namespace klarvik {
+
+/// The kinds of trails that a machine keeps of what its user did.
+enum class PrivacyCategory {
+  browserHistory,
+  browserCookies,
+  browserCache,
+  recentFiles,
+  recentApps,
+  downloadsList,
+  clipboard,
+  quarantine,
+  trashHistory,
+  locationHistory,
+  // On a Linux disk only.
+  shellHistory,
+  thumbnails,
+};
+
+inline constexpr std::size_t privacyCategoryCount = 12;
+[[nodiscard]] const std::array<PrivacyCategory, privacyCategoryCount>& allPrivacyCategories();
+
+/// "Browser History": the name of the kind, which is also its label.
+[[nodiscard]] std::string_view rawValue(PrivacyCategory category);
 
 /// What of a trail is counted for the user.
 enum class TrailCount {

@@ -1,4 +1,4 @@
-#include "platform/binary_property_list.h"
+#include "platform/property_list.h"
 
 #include <cstdint>
 #include <optional>

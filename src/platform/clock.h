@@ -4,9 +4,10 @@
 #include <functional>
 #include <memory>
 
-#include "platform/date.h"
-
 namespace klarvik {
+
+/// A moment in time, to the nanosecond where the file system keeps it that finely.
+using Date = std::chrono::system_clock::time_point;
 
 /// Time, and waking up later. Main thread only.
 class Clock {

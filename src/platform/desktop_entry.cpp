@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <utility>
+#include <cstdlib>
 
 #include "base/text.h"
 
@@ -202,6 +203,13 @@ std::vector<std::string> splitDesktopList(std::string_view list) {
     list.remove_prefix(std::min(end + 1, list.size()));
   }
   return pieces;
+}
+
+std::vector<std::string> currentDesktops() {
+  const char* const names = std::getenv("XDG_CURRENT_DESKTOP");
+  std::string list = names != nullptr ? names : "";
+  std::ranges::replace(list, ':', ';');
+  return splitDesktopList(list);
 }
 
 }  // namespace klarvik

@@ -52,4 +52,8 @@ struct DesktopEntry {
 /// The pieces between semicolons, without the empty ones.
 [[nodiscard]] std::vector<std::string> splitDesktopList(std::string_view list);
 
+/// The names that the desktop around this program goes by; none where there is no desktop. Reads
+/// the environment: while no thread changes it.
+[[nodiscard]] std::vector<std::string> currentDesktops();
+
 }  // namespace klarvik

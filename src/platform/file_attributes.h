@@ -4,9 +4,12 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/date.h"
+#include "platform/clock.h"
+#include "platform/path.h"
 
 namespace klarvik {
+
+class FileSystem;
 
 enum class FileKind { directory, regular, symbolicLink, other };
 
@@ -33,5 +36,23 @@ struct FileAttributes {
   bool isReadOnly = false;    ///< even its owner may not change it as it stands
   bool isMountPoint = false;  ///< another volume begins here
 };
+
+/// What tells an entry of the disk from another one that has come to the same name since. The file
+/// system may give the number of a file that is gone to a new one, so the date counts as well. What
+/// is written into an entry, or changed about it, leaves it the one it was.
+struct EntryIdentity {
+  FileIdentity file;
+  std::optional<Date> created;  ///< nothing where the file system does not tell
+  FileKind kind = FileKind::other;
+
+  bool operator==(const EntryIdentity&) const = default;
+};
+
+/// Nothing where files have no identity.
+[[nodiscard]] std::optional<EntryIdentity> entryIdentity(const FileAttributes& attributes);
+
+/// Of what stands at `path` itself: links above it are followed, one in its place is not. Nothing
+/// when it is gone, or where files have no identity. May be called from any thread.
+[[nodiscard]] std::optional<EntryIdentity> entryIdentity(const FileSystem& files, const Path& path);
 
 }  // namespace klarvik

@@ -156,4 +156,9 @@ class FileSystem {
   virtual bool remove(const Path& item, const ItemCheck& mayRemove) = 0;
 };
 
+/// All that a regular file holds; nothing where it cannot be read to its end, or holds more than
+/// `mostBytes`. Any thread.
+[[nodiscard]] std::optional<std::string> textOfFile(const FileSystem& files, const Path& path,
+                                                    std::size_t mostBytes);
+
 }  // namespace klarvik

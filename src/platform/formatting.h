@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "base/text.h"
-#include "platform/date.h"
+#include "platform/clock.h"
 
 namespace klarvik {
 

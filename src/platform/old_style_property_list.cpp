@@ -1,4 +1,4 @@
-#include "platform/old_style_property_list.h"
+#include "platform/property_list.h"
 
 #include <unicode/unistr.h>
 #include <unicode/utf16.h>

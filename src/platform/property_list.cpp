@@ -10,8 +10,6 @@
 #include <memory>
 
 #include "base/text.h"
-#include "platform/binary_property_list.h"
-#include "platform/old_style_property_list.h"
 
 namespace klarvik {
 namespace {

@@ -28,4 +28,18 @@ class PropertyList {
   Texts _texts;
 };
 
+/// The texts of a property list as they were written before XML: `{ key = "value"; }`, with lists
+/// in parentheses, data in angle brackets, and comments. Nothing when `content` is no such
+/// dictionary from its first to its last brace. Any thread.
+[[nodiscard]] std::optional<PropertyList::Texts> readOldStylePropertyList(std::string_view content);
+
+/// Whether the bytes say of themselves that they are a binary property list.
+[[nodiscard]] bool isBinaryPropertyList(std::string_view content);
+
+/// Whether every object that the list holds lies within its bytes, and all of them together are as
+/// much as a parser that copies an object for each reference to it can take: a list may name itself
+/// as a part of itself, or name one part twice, that again names one part twice, and so on. To be
+/// asked before such a parser is let loose on it.
+[[nodiscard]] bool isBoundedBinaryPropertyList(std::string_view content);
+
 }  // namespace klarvik

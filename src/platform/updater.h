@@ -9,7 +9,7 @@
 #include <variant>
 
 #include "base/message.h"
-#include "platform/date.h"
+#include "platform/clock.h"
 
 namespace klarvik {
 

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "core/deletion_guard.h"
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "probe/command.h"

@@ -5,7 +5,7 @@
 #include "probe/command.h"
 #include "probe/report.h"
 #include "systemdata/system_data_engine.h"
-#include "tools/disk_composition_engine.h"
+#include "tools/disk_composition.h"
 #include "tools/folder_sizes.h"
 
 namespace klarvik::probe {

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQml
 import QtQuick.Window
 import Klarvik.Kit
 import Klarvik.Shell
@@ -15,8 +16,19 @@ Window {
     title: "Klarvik"
     color: Theme.canvas
 
-    CommandShortcuts {
-        commands: root.model.commands
+    /// The keys of the application menu, heard in every window.
+    Instantiator {
+        model: root.model.commands.shortcuts
+
+        delegate: Shortcut {
+            required property int index
+            required property string modelData
+
+            sequences: [modelData]
+            enabled: modelData !== ""
+            context: Qt.ApplicationShortcut
+            onActivated: root.model.commands.run(index)
+        }
     }
 
     Loader {

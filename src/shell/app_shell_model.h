@@ -10,7 +10,6 @@
 #include "shell/app_commands_model.h"
 #include "shell/disk_block_model.h"
 #include "shell/full_disk_access_model.h"
-#include "shell/pane_stack_model.h"
 #include "shell/sidebar_model.h"
 #include "shell/tool_panes.h"
 #include "shell/trash_block_model.h"

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "shell/menu_bar/quick_popover.h"
+#include "shell/menu_bar/menu_bar_popover.h"
 #include "shell/menu_bar/window_activation.h"
 
 #include "translation/translation.h"

@@ -11,7 +11,6 @@
 #include "shell/app_shell_model.h"
 #include "shell/main_window_model.h"
 #include "shell/menu_bar/menu_bar_controller.h"
-#include "shell/menu_bar/quit_policy.h"
 #include "shell/onboarding/onboarding_model.h"
 #include "shell/settings/general_settings_model.h"
 #include "shell/settings/settings_model.h"

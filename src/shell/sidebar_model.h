@@ -7,8 +7,8 @@
 
 #include "shell/tool_panes.h"
 #include "state/app_state.h"
-#include "state/navigator.h"
 #include "state/scan_coordinator.h"
+#include "state/section.h"
 #include "state/tool_activity.h"
 
 namespace klarvik {

@@ -7,7 +7,7 @@
 
 #include "base/text.h"
 #include "places/disk_layout.h"
-#include "places/privacy_category.h"
+#include "places/trail_places.h"
 #include "places/words.h"
 #include "systemdata/system_data_sub_category.h"
 #include "tools/app_info.h"

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/bytes.h"
-#include "core/left_alone.h"
+#include "core/removal_outcome.h"
 #include "engine/scanner_engine.h"
 #include "platform/notification_center.h"
 #include "platform/platform.h"

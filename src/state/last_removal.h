@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/trashed_item.h"
+#include "core/removal_outcome.h"
 #include "platform/main_loop/background_tasks.h"
 
 namespace klarvik {

@@ -4,7 +4,7 @@
 #include <deque>
 #include <optional>
 
-#include "platform/date.h"
+#include "platform/clock.h"
 
 namespace klarvik {
 

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <string>
 
-#include "core/left_alone.h"
+#include "core/removal_outcome.h"
 
 namespace klarvik {
 

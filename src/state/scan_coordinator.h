@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/date.h"
+#include "platform/clock.h"
 #include "state/permissions_manager.h"
 
 namespace klarvik {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/uuid.h"
-#include "platform/date.h"
+#include "platform/clock.h"
 
 namespace klarvik {
 

@@ -4,10 +4,10 @@
 #include <array>
 
 #include "places/words.h"
+#include "state/set_if_changed.h"
 #include "translation/translation.h"
 
 namespace klarvik {
-
 namespace {
 
 constexpr std::string_view storageGroup = QT_TRANSLATE_NOOP("Engine", "STORAGE");
@@ -124,6 +124,10 @@ const Tool* toolOf(std::string_view key) {
 
 std::string toolKey(Section section) {
   return std::string(tool(section).key);
+}
+
+void Navigator::setSection(Section section) {
+  if (setIfChanged(_section, section)) emit sectionChanged();
 }
 
 }  // namespace klarvik

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <span>
 #include <string>
 #include <string_view>
@@ -56,5 +57,20 @@ struct Tool {
 inline constexpr const char* diskChangedNotification = "klarvik.diskChanged";
 /// Posted by the shell when the application comes to the front.
 inline constexpr const char* applicationActiveNotification = "klarvik.applicationActive";
+
+/// Which section of the main window is selected. Not kept across restarts. Main thread only.
+class Navigator : public QObject {
+  Q_OBJECT
+ public:
+  using QObject::QObject;
+  [[nodiscard]] Section section() const { return _section; }
+  void setSection(Section section);
+
+ signals:
+  void sectionChanged();
+
+ private:
+  Section _section = Section::smartScan;
+};
 
 }  // namespace klarvik

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/bytes.h"
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "places/disk_layout.h"
 #include "platform/main_loop/coalescing_queue.h"
 #include "platform/notification_center.h"

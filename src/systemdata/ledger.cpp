@@ -16,7 +16,7 @@
 #include "platform/file_system.h"
 #include "platform/running_programs.h"
 #include "platform/volume.h"
-#include "systemdata/friendly_name.h"
+#include "systemdata/system_data_item.h"
 #include "systemdata/system_data_search.h"
 
 namespace klarvik {

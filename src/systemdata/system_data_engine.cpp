@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "base/message.h"
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "platform/volume.h"
 #include "systemdata/ledger.h"
-#include "systemdata/overlaps.h"
+#include "systemdata/system_data_item.h"
 #include "systemdata/system_data_search.h"
 
 namespace klarvik {

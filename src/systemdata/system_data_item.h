@@ -11,7 +11,7 @@
 
 #include "base/message.h"
 #include "core/uuid.h"
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 #include "systemdata/system_data_sub_category.h"
 
@@ -78,6 +78,16 @@ class SystemDataResult {
  private:
   std::vector<SystemDataItem> _items;
 };
+
+/// What a folder that is named after a bundle identifier is called on the screen: "com.apple.mail"
+/// reads "Mail". Only one vendor's prefix is ever taken off, so "group.com.apple.notes" reads
+/// "Apple.notes".
+[[nodiscard]] std::string friendlyName(std::string_view text);
+
+/// Without the items that lie inside another one, or where an earlier one lies, so that nothing is
+/// counted twice. The items with the fewest characters in their path come first; those with as many
+/// keep their order.
+[[nodiscard]] std::vector<SystemDataItem> withoutOverlaps(std::vector<SystemDataItem> items);
 
 }  // namespace klarvik
 

@@ -7,15 +7,14 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/removal_check.h"
-#include "engine/allocated_size.h"
-#include "engine/firmware_files.h"
 #include "engine/local_snapshots.h"
 #include "engine/place_scanner.h"
 #include "engine/shell.h"
+#include "engine/sizes.h"
+#include "places/mac/scan_places.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"
-#include "systemdata/friendly_name.h"
-#include "systemdata/snapshot_listing.h"
+#include "systemdata/system_data_item.h"
 
 namespace klarvik {
 
@@ -163,9 +162,9 @@ SystemDataSearch::Items SystemDataSearch::swapFiles(SystemDataSubCategory kind) 
 
 SystemDataSearch::Items SystemDataSearch::firmware(SystemDataSubCategory kind) const {
   Items items;
-  for (const std::string_view folder : softwareUpdateFolders) {
+  for (const std::string_view folder : mac::softwareUpdateFolders) {
     for (const Path& file : list(inHome(folder))) {
-      if (!isFirmware(file)) continue;
+      if (!mac::isFirmware(file)) continue;
       Message name(QT_TRANSLATE_NOOP("Engine", "Firmware: %1"), {file.filename().native()});
       SystemDataItem found = item(name.english(), file, kind);
       found.nameText = std::move(name);

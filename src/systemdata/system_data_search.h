@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/catalogue.h"
-#include "places/analysis_pass.h"
+#include "places/system_data_places.h"
 #include "platform/platform.h"
 #include "systemdata/system_data_item.h"
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "places/colors.h"
 #include "places/disk_layout.h"
-#include "places/storage_palette.h"
 
 namespace klarvik {
 namespace {

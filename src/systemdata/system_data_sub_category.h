@@ -5,8 +5,8 @@
 #include <optional>
 #include <string_view>
 
-#include "places/rgb_color.h"
-#include "places/system_data_sub_category.h"
+#include "places/colors.h"
+#include "places/system_data_places.h"
 
 namespace klarvik {
 

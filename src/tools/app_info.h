@@ -13,7 +13,7 @@
 #include "core/uuid.h"
 #include "places/application_places.h"
 #include "places/package_manager.h"
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {

@@ -5,7 +5,6 @@
 
 #include "base/text.h"
 #include "platform/file_system.h"
-#include "platform/text_of_file.h"
 
 namespace klarvik {
 namespace {

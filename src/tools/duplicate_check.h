@@ -4,7 +4,7 @@
 #include <stop_token>
 #include <string_view>
 
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {

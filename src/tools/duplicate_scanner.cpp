@@ -12,7 +12,7 @@
 #include <utility>
 
 #include "base/parallel_for.h"
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "platform/file_system.h"
 #include "platform/packages.h"
 #include "tools/content_digest.h"

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/bytes.h"
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "platform/file_system.h"
 
 namespace klarvik {

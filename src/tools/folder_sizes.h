@@ -11,7 +11,6 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/entry_identity.h"
 #include "platform/file_attributes.h"
 #include "platform/path.h"
 

@@ -13,13 +13,12 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "core/catalogue.h"
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
 #include "places/words.h"
 #include "platform/desktop_entry.h"
 #include "platform/file_system.h"
-#include "platform/text_of_file.h"
 #include "tools/system_packages.h"
 
 namespace klarvik {

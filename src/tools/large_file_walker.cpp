@@ -8,7 +8,7 @@
 #include "base/text.h"
 #include "core/catalogue.h"
 #include "core/shown_folders.h"
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "places/disk_layout.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"

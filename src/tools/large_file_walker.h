@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "core/uuid.h"
-#include "platform/date.h"
-#include "platform/entry_identity.h"
+#include "platform/clock.h"
+#include "platform/file_attributes.h"
 #include "platform/file_system.h"
 #include "platform/path.h"
 

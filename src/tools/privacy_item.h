@@ -8,7 +8,7 @@
 
 #include "core/uuid.h"
 #include "places/trail_places.h"
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/path.h"
 
 namespace klarvik {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/left_alone.h"
+#include "core/removal_outcome.h"
 #include "platform/platform.h"
 #include "tools/privacy_item.h"
 

@@ -8,9 +8,8 @@
 #include "base/bytes.h"
 #include "base/text.h"
 #include "places/path_pattern.h"
+#include "platform/command_runners.h"
 #include "platform/file_system.h"
-#include "platform/text_of_file.h"
-#include "platform/tool_runner.h"
 #include "tools/plain_name.h"
 
 namespace klarvik {

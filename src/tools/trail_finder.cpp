@@ -9,10 +9,10 @@
 #include "base/message.h"
 #include "core/catalogue.h"
 #include "core/removal_check.h"
-#include "engine/allocated_size.h"
+#include "engine/place_conditions.h"
 #include "engine/place_matches.h"
 #include "engine/place_scanner.h"
-#include "engine/program_use.h"
+#include "engine/sizes.h"
 #include "platform/file_system.h"
 
 namespace klarvik {

@@ -8,8 +8,7 @@
 
 #include "base/message.h"
 #include "core/deletion_guard.h"
-#include "core/left_alone.h"
-#include "engine/trashed_item.h"
+#include "core/removal_outcome.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
 #include "tools/app_info.h"

@@ -4891,17 +4891,6 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     </message>
 </context>
 <context>
-    <name>RemovalBanner</name>
-    <message>
-        <source>Empty Trash</source>
-        <translation>Papierkorb leeren</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Schließen</translation>
-    </message>
-</context>
-<context>
     <name>ReviewTable</name>
     <message>
         <source>CATEGORY</source>
@@ -5687,6 +5676,14 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>Move to Trash</source>
         <translation>In den Papierkorb</translation>
+    </message>
+    <message>
+        <source>Empty Trash</source>
+        <translation>Papierkorb leeren</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>

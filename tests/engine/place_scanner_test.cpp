@@ -12,7 +12,7 @@
 #include <string>
 
 #include "engine/scanner_engine.h"
-#include "engine/shared_content.h"
+#include "engine/sizes.h"
 #include "platform/system_platform.h"
 #include "support/fake_running_programs.h"
 #include "support/fake_tool_runner.h"

@@ -6,8 +6,8 @@
 #include <functional>
 #include <set>
 
-#include "engine/allocated_size.h"
 #include "engine/scanner_engine.h"
+#include "engine/sizes.h"
 #include "support/disk_snapshot.h"
 #include "support/fake_desktop.h"
 #include "support/private_mounts.h"

@@ -12,7 +12,7 @@
 #include <thread>
 
 #include "places/disk_layout.h"
-#include "platform/linux/system_tools.h"
+#include "platform/linux/command_runners.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {

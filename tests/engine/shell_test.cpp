@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/shell_command_runner.h"
+#include "platform/linux/command_runners.h"
 #include "support/fake_command_runner.h"
 
 namespace klarvik {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "base/paths.h"
-#include "engine/simulator_devices.h"
+#include "engine/developer_tool_answers.h"
 #include "platform/path.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,4 +1,4 @@
-#include "platform/binary_property_list.h"
+#include "platform/property_list.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "platform/property_list.h"
 #include "support/property_lists.h"
 
 namespace klarvik {

@@ -5,7 +5,7 @@
 #include <cerrno>
 
 #include "deep_tree.h"
-#include "platform/entry_identity.h"
+#include "platform/file_attributes.h"
 #include "platform/linux/linux_file_system.h"
 #include "support/disk_snapshot.h"
 #include "support/system_call_faults.h"

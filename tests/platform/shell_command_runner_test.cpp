@@ -1,4 +1,4 @@
-#include "platform/linux/shell_command_runner.h"
+#include "platform/linux/command_runners.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

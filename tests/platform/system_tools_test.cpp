@@ -1,4 +1,4 @@
-#include "platform/linux/system_tools.h"
+#include "platform/linux/command_runners.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/volume_tops.h"
+#include "platform/linux/mounts.h"
 
 #include <gmock/gmock.h>
 

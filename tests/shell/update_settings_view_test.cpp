@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QSignalSpy>
 
-#include "panes/kit/symbol_table.h"
+#include "panes/kit/symbol.h"
 #include "support/desktop_fakes.h"
 #include "support/fake_desktop.h"
 

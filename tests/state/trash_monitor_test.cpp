@@ -5,7 +5,7 @@
 #include <optional>
 #include <semaphore>
 
-#include "engine/allocated_size.h"
+#include "engine/sizes.h"
 #include "signal_count.h"
 #include "state/section.h"
 #include "support/application/main_loop.h"

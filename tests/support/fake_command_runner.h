@@ -4,7 +4,7 @@
 #include <mutex>
 #include <vector>
 
-#include "platform/command_runner.h"
+#include "platform/command_runners.h"
 #include "support/gate.h"
 
 namespace klarvik {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/tool_runner.h"
+#include "platform/command_runners.h"
 
 namespace klarvik {
 

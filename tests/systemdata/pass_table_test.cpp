@@ -1,4 +1,4 @@
-#include "places/analysis_pass.h"
+#include "places/system_data_places.h"
 
 #include <gtest/gtest.h>
 

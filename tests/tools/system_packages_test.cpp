@@ -7,7 +7,7 @@
 
 #include "linux_applications_fixture.h"
 #include "places/disk_layout.h"
-#include "platform/linux/system_tools.h"
+#include "platform/linux/command_runners.h"
 #include "tools/package_removal.h"
 #include "tools/pacman_packages.h"
 #include "tools/rpm_packages.h"

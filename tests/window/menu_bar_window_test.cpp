@@ -6,7 +6,7 @@
 #include "fake_app_state.h"
 #include "panes/kit/kit.h"
 #include "shell/menu_bar/menu_bar_controller.h"
-#include "shell/menu_bar/quick_popover.h"
+#include "shell/menu_bar/menu_bar_popover.h"
 #include "window_fixture.h"
 
 namespace klarvik {

@@ -13,7 +13,7 @@
 #include "base/message.h"
 #include "panes/duplicates/duplicate_choice.h"
 #include "panes/kit/kit_enums.h"
-#include "panes/kit/placeholder.h"
+#include "panes/kit/tool_rules.h"
 #include "platform/formatting.h"
 
 /// Every text of the Duplicates pane that follows a rule.

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Shapes
 import Klarvik.Kit
 
 Item {
@@ -25,7 +24,7 @@ Item {
     Repeater {
         model: Kit.donutArcs(root.slices)
 
-        Shape {
+        Arc {
             id: piece
 
             required property donutArc modelData
@@ -36,30 +35,16 @@ Item {
             height: root.size
             visible: piece.to > piece.from
             opacity: Kit.donutOpacity(piece.modelData.id, root.highlighted)
-            layer.enabled: true
-            layer.samples: 4
+            color: piece.modelData.color
+            thickness: root.thickness
+            startAngle: piece.from
+            sweepAngle: piece.to - piece.from
 
             Behavior on opacity {
                 enabled: !Kit.reduceMotion
                 NumberAnimation {
                     duration: 1600
                     easing.type: Easing.OutCubic
-                }
-            }
-
-            ShapePath {
-                strokeColor: piece.modelData.color
-                strokeWidth: root.thickness
-                fillColor: Theme.clear
-                capStyle: ShapePath.FlatCap
-
-                PathAngleArc {
-                    centerX: root.size / 2
-                    centerY: root.size / 2
-                    radiusX: (root.size - root.thickness) / 2
-                    radiusY: radiusX
-                    startAngle: piece.from
-                    sweepAngle: piece.to - piece.from
                 }
             }
         }

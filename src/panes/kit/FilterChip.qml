@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Shapes
 import Klarvik.Kit
 
 Pressable {
@@ -29,28 +28,10 @@ Pressable {
         color: root.isDashed ? (root.hovered ? Theme.white(0.04) : Theme.clear)
                              : Theme.white((root.isSelected ? 0.1 : 0.04) + (root.hovered ? 0.03 : 0) + (root.down ? 0.03 : 0))
 
-        Shape {
-            id: edge
-
-            readonly property real r: height / 2
-
+        DashedCapsule {
             anchors.fill: parent
-            anchors.margins: 0.5
             visible: root.isDashed
-
-            ShapePath {
-                strokeColor: Theme.white(0.25)
-                strokeWidth: 1
-                strokeStyle: ShapePath.DashLine
-                dashPattern: [3, 3]
-                fillColor: Theme.clear
-                startX: edge.r
-                startY: 0
-                PathLine { x: edge.width - edge.r; y: 0 }
-                PathArc { x: edge.width - edge.r; y: edge.height; radiusX: edge.r; radiusY: edge.r }
-                PathLine { x: edge.r; y: edge.height }
-                PathArc { x: edge.r; y: 0; radiusX: edge.r; radiusY: edge.r }
-            }
+            color: Theme.white(0.25)
         }
     }
 

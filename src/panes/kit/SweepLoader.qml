@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Shapes
 import Klarvik.Kit
 
 // A beam that goes round a platter, and the tracks it has just read fading behind it.
@@ -39,38 +38,20 @@ Item {
         color: Theme.white(0.14)
     }
 
-    Item {
-        anchors.fill: parent
-        rotation: root.turn % 360
+    Repeater {
+        model: root.steps
 
-        Repeater {
-            model: root.steps
+        Arc {
+            required property int index
+            readonly property real length: 150 / root.steps
 
-            Shape {
-                id: piece
-
-                required property int index
-                readonly property real length: 150 / root.steps
-
-                anchors.fill: parent
-                opacity: Math.pow((piece.index + 1) / root.steps, 1.6)
-
-                ShapePath {
-                    strokeColor: Theme.accent
-                    strokeWidth: root.stroke
-                    fillColor: Theme.clear
-                    capStyle: piece.index === root.steps - 1 ? ShapePath.RoundCap : ShapePath.FlatCap
-
-                    PathAngleArc {
-                        centerX: root.size / 2
-                        centerY: root.size / 2
-                        radiusX: (root.size - root.stroke) / 2
-                        radiusY: radiusX
-                        startAngle: -240 + piece.index * piece.length
-                        sweepAngle: piece.length
-                    }
-                }
-            }
+            anchors.fill: parent
+            opacity: Math.pow((index + 1) / root.steps, 1.6)
+            color: Theme.accent
+            thickness: root.stroke
+            hasRoundEnds: index === root.steps - 1
+            startAngle: root.turn % 360 - 240 + index * length
+            sweepAngle: length
         }
     }
 }

@@ -9,7 +9,8 @@ ListView {
 
     // How far the list is filled with rows, in points from its top. Rows that come all at once are made
     // a few in each frame, so that no frame has to wait for all of them.
-    property real filledHeight: 0
+    property real filledHeight: root.filledAtOnce
+    readonly property real filledAtOnce: 4 * Measures.rowHeight
 
     anchors.fill: parent
     displayMarginEnd: Math.min(0, root.filledHeight - root.height)
@@ -32,20 +33,20 @@ ListView {
     T.ScrollBar.vertical: KitScrollBar {}
     onCountChanged: {
         if (root.count === 0)
-            root.filledHeight = 0;
+            root.filledHeight = root.filledAtOnce;
     }
 
     FrameAnimation {
         running: root.count > 0 && root.filledHeight < root.height
-        onTriggered: root.filledHeight += 4 * Measures.rowHeight
+        onTriggered: root.filledHeight += root.filledAtOnce
     }
 
     Connections {
-        target: root.model
+        target: typeof root.model === "object" ? root.model : null
         ignoreUnknownSignals: true
 
         function onModelReset() {
-            root.filledHeight = 0;
+            root.filledHeight = root.filledAtOnce;
         }
     }
 }

@@ -9,10 +9,10 @@
 #include <utility>
 
 #include "panes/kit/kit_enums.h"
-#include "panes/kit/list_keys.h"
 #include "panes/kit/loader_timeline.h"
 #include "panes/kit/palette.h"
 #include "panes/kit/row_text.h"
+#include "panes/kit/tool_rules.h"
 #include "places/disk_layout.h"
 #include "platform/desktop_services.h"
 #include "platform/formatting.h"

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <tuple>
 
-#include "panes/kit/symbol_table.h"
+#include "panes/kit/symbol.h"
 
 namespace klarvik {
 namespace {

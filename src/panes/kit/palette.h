@@ -7,7 +7,7 @@
 #include <QString>
 
 #include "places/category_type.h"
-#include "places/rgb_color.h"
+#include "places/colors.h"
 
 namespace klarvik {
 

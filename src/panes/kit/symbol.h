@@ -3,10 +3,24 @@
 #include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QString>
+#include <span>
+#include <string_view>
 
 #include "panes/kit/pixel_exact_item.h"
 
 namespace klarvik {
+
+/// A symbol as the models name it, and the ligature of the symbol font that draws it.
+struct SymbolGlyph {
+  std::string_view symbol;
+  std::string_view glyph;
+};
+
+/// Every symbol that the interface uses.
+[[nodiscard]] std::span<const SymbolGlyph> symbolTable();
+
+/// Empty for a name that is not in the table.
+[[nodiscard]] std::string_view glyphOfSymbol(std::string_view symbol);
 
 /// A symbol in the middle of its place, which is a quarter larger than its size. Rows are made of
 /// many, so it is one item that draws a glyph. Main thread.

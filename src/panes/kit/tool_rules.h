@@ -12,6 +12,48 @@ namespace klarvik {
 
 class Formatting;
 
+/// What a pane that has nothing to list shows in place of its rows.
+struct Placeholder {
+  Q_GADGET
+  QML_VALUE_TYPE(placeholder)
+  Q_PROPERTY(bool isShown MEMBER isShown)
+  Q_PROPERTY(bool isBusy MEMBER isBusy)
+  Q_PROPERTY(QString icon MEMBER icon)
+  Q_PROPERTY(QString title MEMBER title)
+  Q_PROPERTY(QString detail MEMBER detail)
+  Q_PROPERTY(QString actionTitle MEMBER actionTitle)
+
+ public:
+  /// With a loader on top.
+  [[nodiscard]] static Placeholder busy(const QString& title, const QString& detail) {
+    return {true, true, {}, title, detail, {}};
+  }
+  [[nodiscard]] static Placeholder idle(const QString& icon, const QString& title,
+                                        const QString& detail, const QString& actionTitle = {}) {
+    return {true, false, icon, title, detail, actionTitle};
+  }
+
+  bool isShown = false;
+  bool isBusy = false;
+  QString icon;
+  QString title;
+  QString detail;
+  QString actionTitle;  ///< empty where there is no button
+
+  bool operator==(const Placeholder&) const = default;
+};
+
+/// A list as its keys know it.
+struct ListPlace {
+  int row = -1;  ///< the current one; -1: none
+  int rowCount = 0;
+  int rowsInSight = 0;
+};
+
+/// The row that `key` (a `Qt::Key`) leads to, for those that move by more than one row. Absent for
+/// other keys, and in a list without rows. Any thread.
+[[nodiscard]] std::optional<int> rowReachedBy(int key, const ListPlace& place);
+
 /// A removal's progress on its way through QML, and whether there is one at all.
 struct RemovalProgress {
   Q_GADGET

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "panes/kit/placeholder.h"
+#include "panes/kit/tool_rules.h"
 #include "places/words.h"
 #include "platform/formatting.h"
 #include "tools/large_file_walker.h"

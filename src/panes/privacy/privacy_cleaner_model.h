@@ -8,7 +8,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "panes/kit/placeholder.h"
+#include "panes/kit/tool_rules.h"
 #include "panes/privacy/trail_list_model.h"
 #include "panes/tool_pane.h"
 #include "platform/main_loop/background_tasks.h"

@@ -5,7 +5,6 @@
 #include <QString>
 #include <vector>
 
-#include "state/navigator.h"
 #include "state/scan_coordinator.h"
 #include "state/section.h"
 #include "state/tool_activity.h"

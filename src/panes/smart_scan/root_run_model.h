@@ -9,8 +9,8 @@
 #include <stop_token>
 
 #include "engine/root_command.h"
+#include "platform/command_runners.h"
 #include "platform/main_loop/background_tasks.h"
-#include "platform/tool_runner.h"
 
 namespace klarvik {
 

@@ -10,6 +10,50 @@ ToolPane {
 
     required property StorageAnalyticsModel model
 
+    /// A heading over a raised panel.
+    component Card: Item {
+        id: card
+
+        required property string heading
+        default property alias content: panel.content
+
+        width: parent ? parent.width : implicitWidth
+        implicitHeight: parts.implicitHeight + 24
+
+        Column {
+            id: parts
+
+            x: Measures.side(card.width)
+            width: card.width - 2 * x
+            spacing: 10
+
+            SectionHeading {
+                text: card.heading
+            }
+
+            Panel {
+                id: panel
+
+                width: parent.width
+                verticalPadding: 18
+                spacing: 14
+            }
+        }
+    }
+
+    /// The line that stands where there is nothing to draw.
+    component Note: Label {
+        width: Math.min(640, parent ? parent.width : implicitWidth)
+        size: 12
+        color: Theme.textTertiary
+        lineHeight: 1.3
+        elide: Text.ElideNone
+        maximumLineCount: 4
+        wrapMode: Text.WordWrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+
     function tellThatChartsAppeared() {
         if (root.enabled)
             root.model.chartsAppeared();
@@ -33,10 +77,10 @@ ToolPane {
         visible: !root.model.browser.isOpen
         topMargin: 12
 
-        StorageCard {
+        Card {
             heading: qsTr("WHAT FILLS THE DISK")
 
-            StorageNote {
+            Note {
                 visible: !root.model.isMeasured
                 text: root.model.nothingMeasured
             }
@@ -54,10 +98,10 @@ ToolPane {
             }
         }
 
-        StorageCard {
+        Card {
             heading: qsTr("GROWING FASTEST")
 
-            StorageNote {
+            Note {
                 visible: text !== ""
                 text: root.model.noGrowth
             }
@@ -99,10 +143,10 @@ ToolPane {
             }
         }
 
-        StorageCard {
+        Card {
             heading: qsTr("RECLAIMED PER CLEAN")
 
-            StorageNote {
+            Note {
                 visible: text !== ""
                 text: root.model.noTrend
             }

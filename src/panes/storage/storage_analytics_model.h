@@ -15,7 +15,7 @@
 #include "platform/platform.h"
 #include "state/engine_run.h"
 #include "state/shared_state.h"
-#include "tools/disk_composition_engine.h"
+#include "tools/disk_composition.h"
 
 namespace klarvik {
 

@@ -11,6 +11,32 @@ Item {
 
     required property SystemDataModel model
 
+    /// What a line is about, and a word about it.
+    component StateRow: RowLayout {
+        id: row
+
+        required property string name
+        required property string word
+        property color wordColor: Theme.textTertiary
+        readonly property string description: row.name + ", " + row.word
+
+        Layout.preferredHeight: 38
+        spacing: Theme.partSpacing
+        Accessible.role: Accessible.ListItem
+        Accessible.name: row.description
+
+        Label {
+            Layout.fillWidth: true
+            text: row.name
+        }
+
+        Label {
+            text: row.word
+            size: 11
+            color: row.wordColor
+        }
+    }
+
     ColumnLayout {
         anchors.left: parent.left
         anchors.right: parent.right
@@ -31,21 +57,21 @@ Item {
                 width: parent.width
                 spacing: 0
 
-                EmptyStateRow {
+                StateRow {
                     Layout.fillWidth: true
                     name: Words.analysisFindsSafe
                     word: root.model.safetyText(SystemDataModel.Safe)
                     wordColor: Theme.safe
                 }
 
-                EmptyStateRow {
+                StateRow {
                     Layout.fillWidth: true
                     name: Words.analysisFindsSnapshots
                     word: root.model.safetyText(SystemDataModel.Review)
                     wordColor: Theme.review
                 }
 
-                EmptyStateRow {
+                StateRow {
                     Layout.fillWidth: true
                     name: Words.analysisFindsProtected
                     word: root.model.safetyText(SystemDataModel.Protected)
@@ -73,13 +99,13 @@ Item {
                 width: parent.width
                 spacing: 0
 
-                EmptyStateRow {
+                StateRow {
                     Layout.fillWidth: true
                     name: qsTr("System Data · after analysis")
                     word: qsTr("Unknown until it is measured")
                 }
 
-                EmptyStateRow {
+                StateRow {
                     Layout.fillWidth: true
                     visible: !root.model.hasFullDiskAccess
                     name: qsTr("Needs Full Disk Access")

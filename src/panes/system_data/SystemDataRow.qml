@@ -176,10 +176,11 @@ RowFrame {
         url: root.url
     }
 
-    SafetyText {
+    Label {
         Layout.preferredWidth: Measures.statusWidth
-        safety: root.safety
         text: root.safetyText
+        size: 11
+        color: root.safety === SystemDataModel.Safe ? Theme.safe : root.safety === SystemDataModel.Review ? Theme.review : Theme.textTertiary
     }
 
     NumberCell {

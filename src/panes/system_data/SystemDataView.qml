@@ -21,15 +21,56 @@ ToolPane {
     rowsShowLoader: true
     onAction: model.performAction()
 
-    banner: RemovalBanner {
+    // What the last removal moved, and whether its space is back.
+    banner: ResultBanner {
         visible: root.model.isBannerShown
-        model: root.model
+        symbol: root.model.trashHoldsIt ? "trash.fill" : "checkmark.circle.fill"
+        symbolColor: root.model.trashHoldsIt ? Theme.textMuted : Theme.safe
+        headline: root.model.bannerHeadline
+        detail: root.model.bannerDetail
+        help: root.model.bannerHelp
+
+        SecondaryButton {
+            visible: root.model.trashHoldsIt
+            isEnabled: root.model.canEmptyTrash
+            title: qsTr("Empty Trash")
+            onAction: root.model.emptyTrash()
+        }
+
+        SymbolButton {
+            symbol: "xmark"
+            title: qsTr("Dismiss")
+            onAction: root.model.dismissBanner()
+        }
     }
 
-    filters: AnalysisProgress {
+    // How far an analysis is that runs while an earlier one is still shown.
+    filters: Item {
+        id: analysis
+
         visible: root.hasResult && root.model.isScanning
-        label: root.model.scanLabel
-        progress: root.model.scanProgress
+        width: parent ? parent.width : implicitWidth
+        implicitHeight: 34
+
+        ProgressLine {
+            id: line
+
+            anchors.left: parent.left
+            anchors.leftMargin: Measures.side(analysis.width)
+            anchors.verticalCenter: parent.verticalCenter
+            value: root.model.scanProgress
+        }
+
+        Label {
+            anchors.left: line.right
+            anchors.right: parent.right
+            anchors.leftMargin: Theme.partSpacing
+            anchors.rightMargin: Measures.side(analysis.width)
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.model.scanLabel
+            size: 12
+            color: Theme.textTertiary
+        }
     }
 
     SystemDataEmptyState {

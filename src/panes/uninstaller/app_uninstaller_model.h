@@ -10,7 +10,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "panes/kit/placeholder.h"
+#include "panes/kit/tool_rules.h"
 #include "panes/tool_pane.h"
 #include "panes/uninstaller/app_list_model.h"
 #include "panes/uninstaller/leftover_list_model.h"

@@ -8,7 +8,6 @@
 #include <algorithm>
 
 #include "platform/file_system.h"
-#include "platform/text_of_file.h"
 
 namespace klarvik {
 namespace {

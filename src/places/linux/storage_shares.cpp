@@ -1,5 +1,5 @@
+#include "places/colors.h"
 #include "places/linux/linux_layout.h"
-#include "places/storage_palette.h"
 
 namespace klarvik::linux_disk {
 namespace {

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/path.h"
+
 /// Where a Smart Scan looks on a Mac's disk. Paths are below the home unless absolute, sizes are
 /// bytes.
 namespace klarvik::mac {
@@ -43,6 +45,17 @@ inline constexpr std::array<std::string_view, 6> browserCaches{
     "Library/Caches/com.apple.Safari",  "Library/Caches/Firefox",
     "Library/Caches/com.brave.Browser", "Library/Caches/com.microsoft.edgemac"};
 
+/// Where iTunes keeps what it has downloaded to update devices with.
+inline constexpr std::array<std::string_view, 3> softwareUpdateFolders{
+    "Library/iTunes/iPhone Software Updates",
+    "Library/iTunes/iPad Software Updates",
+    "Library/iTunes/iPod Software Updates",
+};
+/// By its name alone.
+[[nodiscard]] inline bool isFirmware(const Path& file) {
+  const Path extension = file.extension();
+  return extension == ".ipsw" || extension == ".ipa";
+}
 inline constexpr std::int64_t largestIgnoredFirmware = 100'000'000;
 /// Holds firmware beside backups of devices.
 inline constexpr std::string_view mobileSyncFolder = "Library/Apple/MobileSync/Backup";

@@ -1,5 +1,5 @@
+#include "places/colors.h"
 #include "places/mac/mac_layout.h"
-#include "places/storage_palette.h"
 
 namespace klarvik::mac {
 namespace {

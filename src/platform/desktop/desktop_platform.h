@@ -3,9 +3,8 @@
 #include <memory>
 
 #include "platform/desktop/observed_user_defaults.h"
-#include "platform/desktop/portal_open_panel.h"
+#include "platform/desktop/open_panel.h"
 #include "platform/desktop/qt_clock.h"
-#include "platform/desktop/qt_open_panel.h"
 #include "platform/desktop/qt_pasteboard.h"
 #include "platform/desktop/qt_status_item.h"
 #include "platform/desktop/xdg_login_item.h"

@@ -10,7 +10,7 @@
 #include <array>
 #include <utility>
 
-#include "platform/desktop/x11_selection.h"
+#include "platform/desktop/tray_watch.h"
 
 namespace klarvik {
 namespace {

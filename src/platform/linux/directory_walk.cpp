@@ -10,7 +10,6 @@
 #include "platform/linux/file_status.h"
 #include "platform/linux/folder_listing.h"
 #include "platform/linux/read_ahead.h"
-#include "platform/linux/walk_threads.h"
 #include "platform/packages.h"
 
 namespace klarvik {

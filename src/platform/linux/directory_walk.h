@@ -5,7 +5,7 @@
 
 #include "base/posix_io.h"
 #include "platform/file_system.h"
-#include "platform/linux/walk_threads.h"
+#include "platform/linux/read_ahead.h"
 
 namespace klarvik {
 

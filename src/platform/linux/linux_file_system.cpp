@@ -16,10 +16,8 @@
 #include "platform/linux/directory_walk.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/mounts.h"
-#include "platform/linux/shared_extents.h"
 #include "platform/linux/tree_removal.h"
 #include "platform/linux/user_attributes.h"
-#include "platform/linux/volume_tops.h"
 
 namespace klarvik {
 namespace {

@@ -1,7 +1,6 @@
 #include "platform/linux/linux_trash.h"
 
 #include <fcntl.h>
-
 #include <algorithm>
 #include <chrono>
 #include <ctime>
@@ -16,7 +15,6 @@
 #include "platform/linux/mounts.h"
 #include "platform/linux/trash_folder.h"
 #include "platform/linux/tree_removal.h"
-#include "platform/linux/volume_trash.h"
 
 namespace klarvik {
 namespace {

@@ -1,16 +1,48 @@
 #pragma once
 
 #include <cstdint>
+#include <mutex>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "platform/linux/parent_handle.h"
-#include "platform/linux/path_locks.h"
 #include "platform/linux/trash_folder.h"
+#include "platform/path.h"
 #include "platform/trash.h"
 
 namespace klarvik {
+
+/// The things that somebody is busy with: each has one user at a time. Any thread.
+class PathLocks {
+ public:
+  /// For as long as it lives, its owner has `thing` alone, unless somebody had it already.
+  class Hold {
+   public:
+    Hold(PathLocks& all, Path thing) : _all(all), _thing(std::move(thing)) {
+      const std::scoped_lock lock(_all._mutex);
+      _isHeld = _all._things.insert(_thing).second;
+    }
+    ~Hold() {
+      const std::scoped_lock lock(_all._mutex);
+      if (_isHeld) _all._things.erase(_thing);
+    }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+    explicit operator bool() const { return _isHeld; }
+
+   private:
+    PathLocks& _all;
+    const Path _thing;
+    bool _isHeld = false;
+  };
+
+ private:
+  std::mutex _mutex;
+  std::set<Path> _things;
+};
 
 /// The freedesktop Trash, version 1.0: `Trash` in the user's data folder for what lies on the same
 /// mount, and `.Trash/$uid` or `.Trash-$uid` at the top of any other. A thing never leaves its

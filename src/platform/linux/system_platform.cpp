@@ -6,14 +6,13 @@
 #include "base/posix_io.h"
 #include "platform/application_info.h"
 #include "platform/formatting.h"
+#include "platform/linux/command_runners.h"
 #include "platform/linux/json_user_defaults.h"
 #include "platform/linux/linux_file_system.h"
 #include "platform/linux/linux_trash.h"
 #include "platform/linux/mounts.h"
 #include "platform/linux/process_table.h"
 #include "platform/linux/recently_used_list.h"
-#include "platform/linux/shell_command_runner.h"
-#include "platform/linux/system_tools.h"
 
 namespace klarvik {
 namespace {

@@ -1,9 +1,11 @@
 #include "shell/menu_bar/menu_bar_controller.h"
 
+#include <QGuiApplication>
 #include <utility>
 
 #include "platform/user_defaults.h"
 #include "shell/menu_bar/menu_bar_rules.h"
+#include "shell/menu_bar/window_activation.h"
 #include "state/set_if_changed.h"
 
 namespace klarvik {
@@ -119,6 +121,17 @@ void MenuBarController::togglePopover(const StatusItem::Place& icon) {
 
 void MenuBarController::closePopover() {
   if (_popover) _popover->close();
+}
+
+QuitPolicy::QuitPolicy(MenuBarController& menuBar, QObject* parent)
+    : QObject(parent), _menuBar(menuBar) {
+  connect(&_menuBar, &MenuBarController::isReachableChanged, this, &QuitPolicy::follow);
+  QGuiApplication::setQuitOnLastWindowClosed(!_menuBar.isReachable());
+}
+
+void QuitPolicy::follow() {
+  QGuiApplication::setQuitOnLastWindowClosed(!_menuBar.isReachable());
+  if (!_menuBar.isReachable() && !hasOpenWindow()) activateWindow("main");
 }
 
 }  // namespace klarvik

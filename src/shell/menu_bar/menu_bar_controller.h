@@ -67,4 +67,17 @@ class MenuBarController : public QObject {
   bool _isReachable = false;
 };
 
+/// Closing the last window ends the program, unless the status item can bring the window back. When
+/// the item goes while no window is open, the main window comes back by itself: nothing ever runs
+/// on without a way to it. Main thread only.
+class QuitPolicy : public QObject {
+ public:
+  explicit QuitPolicy(MenuBarController& menuBar, QObject* parent = nullptr);
+
+ private:
+  void follow();
+
+  MenuBarController& _menuBar;
+};
+
 }  // namespace klarvik

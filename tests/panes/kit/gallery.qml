@@ -76,7 +76,7 @@ Rectangle {
 
                         SafetyBadge { level: entry.modelData.level; Layout.preferredWidth: 70 }
                         MonospacedDigits { text: entry.modelData.items; Layout.preferredWidth: 60; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
-                        ByteText { bytes: entry.modelData.bytes; Layout.preferredWidth: 90; alignment: Qt.AlignRight }
+                        MonospacedDigits { text: Kit.byteText(entry.modelData.bytes); color: Theme.textPrimary; Layout.preferredWidth: 90; alignment: Qt.AlignRight }
                     }
 
                     Repeater {
@@ -91,7 +91,7 @@ Rectangle {
                             leading: SelectionBox { selection: SelectionState.All; size: 14; label: "item" }
 
                             KeepDeleteBadge { Layout.preferredWidth: width; fate: parent && index === 0 ? KeepOrDelete.Keep : KeepOrDelete.Delete }
-                            ByteText { bytes: 411111111; Layout.preferredWidth: 90; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
+                            MonospacedDigits { text: Kit.byteText(411111111); Layout.preferredWidth: 90; size: 12; color: Theme.textSecondary; alignment: Qt.AlignRight }
                         }
                     }
                 }

@@ -1,4 +1,4 @@
-#include "panes/kit/symbol_table.h"
+#include "panes/kit/symbol.h"
 
 #include <QFont>
 #include <QGlyphRun>

@@ -1,10 +1,9 @@
-#include "panes/storage/growth.h"
+#include "panes/storage/storage_rows.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "panes/storage/storage_rows.h"
 #include "platform/formatting.h"
 
 namespace klarvik {

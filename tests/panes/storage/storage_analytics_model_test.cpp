@@ -5,7 +5,7 @@
 #include <QSignalSpy>
 
 #include "../pane_fixture.h"
-#include "places/storage_palette.h"
+#include "places/colors.h"
 
 namespace klarvik {
 namespace {

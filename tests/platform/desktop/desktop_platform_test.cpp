@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "platform/application_info.h"
-#include "platform/command_runner.h"
+#include "platform/command_runners.h"
 #include "platform/desktop_services.h"
 #include "platform/trash.h"
 #include "platform/volume.h"

@@ -1,4 +1,4 @@
-#include "platform/desktop/portal_open_panel.h"
+#include "platform/desktop/open_panel.h"
 
 #include <gmock/gmock.h>
 

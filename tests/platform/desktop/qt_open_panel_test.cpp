@@ -1,4 +1,4 @@
-#include "platform/desktop/qt_open_panel.h"
+#include "platform/desktop/open_panel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/update/plain_text.h"
+#include "platform/update/appcast.h"
 
 #include <gtest/gtest.h>
 

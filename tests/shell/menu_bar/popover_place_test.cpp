@@ -1,4 +1,4 @@
-#include "shell/menu_bar/quick_popover.h"
+#include "shell/menu_bar/menu_bar_popover.h"
 
 #include <gtest/gtest.h>
 

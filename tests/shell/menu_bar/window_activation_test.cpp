@@ -4,7 +4,7 @@
 #include <QWindow>
 
 #include "menu_bar_fixture.h"
-#include "shell/menu_bar/quit_policy.h"
+#include "shell/menu_bar/menu_bar_controller.h"
 #include "support/desktop_fakes.h"
 
 namespace klarvik {
