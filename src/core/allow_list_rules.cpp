@@ -95,6 +95,12 @@ Refusal applicationRefusal(const Pieces& path, std::string_view relative,
   return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no app that Klarvik removes."), relative);
 }
 
+/// Lies in a download folder of its own; a home in which all downloads lie is none.
+bool isDownloaded(const DeletionQuestion& question) {
+  const std::string& downloads = question.folders.downloads.native();
+  return isBelow(downloads, question.home) && isBelow(question.path, downloads);
+}
+
 Refusal refusalInHome(std::string_view relative, const DeletionQuestion& question) {
   const Pieces path = splitPath(relative);
   const Catalogue catalogue(question.layout, question.folders);
@@ -107,8 +113,13 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
     return applicationRefusal(path, relative, catalogue, question);
   }
 
-  if (question.scope.kind == DeletionScope::Kind::database) {
-    if (catalogue.isDatabaseOfTrails(path)) return allowed;
+  const bool staysInPlace = question.scope.kind == DeletionScope::Kind::database ||
+                            question.scope.kind == DeletionScope::Kind::origin;
+  if (staysInPlace) {
+    const bool isMeant = question.scope.kind == DeletionScope::Kind::database
+                             ? catalogue.isDatabaseOfTrails(path)
+                             : isDownloaded(question);
+    if (isMeant) return allowed;
     return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no trail that Klarvik clears."), relative);
   }
   if (!catalogue.placesOf(path, /*inHome=*/true).empty()) return allowed;
@@ -152,9 +163,10 @@ Refusal refusalOutsideHome(const DeletionQuestion& question) {
   const Catalogue catalogue(question.layout, question.folders);
   const bool isOfAnApplication = question.scope.kind == DeletionScope::Kind::residual ||
                                  question.scope.kind == DeletionScope::Kind::application;
-  const bool isDatabase = question.scope.kind == DeletionScope::Kind::database;
+  const bool staysInPlace = question.scope.kind == DeletionScope::Kind::database ||
+                            question.scope.kind == DeletionScope::Kind::origin;
   const bool isListed =
-      !isOfAnApplication && !isDatabase && !catalogue.placesOf(pieces, /*inHome=*/false).empty();
+      !isOfAnApplication && !staysInPlace && !catalogue.placesOf(pieces, /*inHome=*/false).empty();
   if (isListed) return allowed;
   if (const auto* entry = firstPrefixOf(path, question.layout.guard.protectedPrefixes)) {
     return refuse(question.layout.guard.protectedReason, *entry);

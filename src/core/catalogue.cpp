@@ -156,7 +156,8 @@ bool Catalogue::isNamedLikeArtifact(std::span<const std::string_view> path) cons
 
 bool Catalogue::isTrail(std::span<const std::string_view> path) const {
   return isNamedByTrail(path, [](TrailClearing clearing) {
-    return clearing != TrailClearing::told && clearing != TrailClearing::firefoxHistory;
+    return clearing != TrailClearing::told && clearing != TrailClearing::firefoxHistory &&
+           clearing != TrailClearing::originRemoved;
   });
 }
 

@@ -20,6 +20,7 @@ struct DeletionScope {
     residual,     ///< a file left behind by an application that is being uninstalled
     trail,        ///< a trail of what the user did
     database,     ///< a file from which entries are taken, and which stays
+    origin,       ///< a file that says where it came from, and which stays
     application,  ///< what the user has installed by hand, and what goes along with it
     trashed,      ///< an entry of the user's Trash, on whatever volume
   };
@@ -30,6 +31,7 @@ struct DeletionScope {
   static DeletionScope pickedFile() { return {Kind::pickedFile, {}}; }
   static DeletionScope trail() { return {Kind::trail, {}}; }
   static DeletionScope database() { return {Kind::database, {}}; }
+  static DeletionScope origin() { return {Kind::origin, {}}; }
   static DeletionScope application() { return {Kind::application, {}}; }
   static DeletionScope trashed() { return {Kind::trashed, {}}; }
   static DeletionScope residual(std::vector<std::string> identifiers) {

@@ -44,6 +44,7 @@ Refusal refusalInHome(std::string_view relative, const DeletionQuestion& questio
       return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is a whole folder, not a file you picked."),
                     relative);
     case DeletionScope::Kind::database:
+    case DeletionScope::Kind::origin:
       return refuse(QT_TRANSLATE_NOOP("Engine", "~/%1 is no trail that Klarvik clears."), relative);
     case DeletionScope::Kind::general:
     case DeletionScope::Kind::trail:

@@ -2,8 +2,10 @@
 
 #include <array>
 #include <chrono>
+#include <string_view>
 #include <utility>
 
+#include "base/text.h"
 #include "platform/command_runners.h"
 
 namespace klarvik {
@@ -16,17 +18,46 @@ constexpr auto timeToRun = 10min;
 constexpr auto timeToAnswer = 5s;
 constexpr std::size_t mostOutput = 64UL * 1024;
 
-// What pkexec ends with when it has run nothing.
-constexpr int dismissedStatus = 126;
-constexpr int notAllowedStatus = 127;
+/// How pkexec says that it has run nothing, and why. A command that was run may end with the same
+/// status, and prints none of this.
+struct Refusal {
+  int status;
+  std::string_view said;  ///< how what it prints begins
+  RootRun::End end;
+};
+constexpr std::array<Refusal, 7> refusals{{
+    {126, "Error executing command as another user: ", RootRun::End::dismissed},
+    {127, "Error executing command as another user: No authentication agent found",
+     RootRun::End::noAgent},
+    {127, "Error executing command as another user: ", RootRun::End::notAllowed},
+    {127, "Error getting authority: ", RootRun::End::noService},
+    {127, "Error checking for authorization ", RootRun::End::noService},
+    {127, "Error accessing ", RootRun::End::notFound},
+    {127, "pkexec must be setuid root", RootRun::End::notThere},
+}};
+
+/// Also where a line of somebody else's stands before.
+bool hasLineThatBegins(std::string_view text, std::string_view start) {
+  while (!text.empty()) {
+    if (takeLine(text).starts_with(start)) return true;
+  }
+  return false;
+}
+
+RootRun::End endOfExited(const ToolResult& result) {
+  if (result.status == 0) return RootRun::End::done;
+  for (const Refusal& each : refusals) {
+    if (each.status == result.status && hasLineThatBegins(result.errors, each.said)) {
+      return each.end;
+    }
+  }
+  return RootRun::End::failed;
+}
 
 RootRun::End endOf(const ToolResult& result) {
   switch (result.end) {
     case ToolResult::End::exited:
-      if (result.status == 0) return RootRun::End::done;
-      if (result.status == dismissedStatus) return RootRun::End::dismissed;
-      if (result.status == notAllowedStatus) return RootRun::End::notAllowed;
-      return RootRun::End::failed;
+      return endOfExited(result);
     case ToolResult::End::signalled:
       return RootRun::End::killed;
     case ToolResult::End::timedOut:

@@ -25,7 +25,10 @@ struct RootRun {
     done,
     failed,      ///< with `status`
     dismissed,   ///< the user gave no password: nothing was run
-    notAllowed,  ///< nobody could ask for it, or it was refused: nothing was run
+    notAllowed,  ///< it was wrong, or the system refuses anyhow: nothing was run
+    noAgent,     ///< no program of the desktop could ask for it: nothing was run
+    noService,   ///< the system's service that decides does not answer: nothing was run
+    notFound,    ///< the command is not there: nothing was run
     notThere,    ///< the program that runs it could not be started
     killed,      ///< by the signal `status`
     leftAlone,   ///< it took too long, or was stopped, and may go on by itself

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "places/guard_rules.h"
+#include "places/package_manager.h"
 
 namespace klarvik {
 
@@ -60,8 +61,8 @@ struct DesktopApplications {
   std::span<const KnownLeftover> knownLeftovers;
   std::span<const std::string_view> sharedNames;  ///< patterns, in lower case; of folders of many
   std::span<const std::string_view> commonWords;  ///< in lower case; identify nobody
-  /// Patterns; a removal that would take such a package along is not offered.
-  std::span<const std::string_view> neededPackages;
+  /// The first one that has a thing counts.
+  std::span<const PackageManager> packageManagers;
   std::string_view snapFiles;  ///< the folder of the files that snaps are installed as
   /// What lies there without a package of its owner's was installed for all users by hand.
   std::string_view addOns;

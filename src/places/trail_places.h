@@ -48,6 +48,7 @@ enum class TrailClearing {
   orphansRemoved,  ///< records in a Trash without the thing that they are of
   told,            ///< by the user, in the program itself
   firefoxHistory,  ///< in a database of Firefox's, where the bookmarks stay
+  originRemoved,   ///< the file stays; what it says about where it came from goes
 };
 
 /// Where one program keeps one kind of trail. Its texts live as long as the program.
@@ -76,6 +77,8 @@ struct TrailPlaces {
   std::string_view downloadOrigins;                 ///< a file
   /// Trails that consist of many things each; the lists above are empty where there are any.
   std::span<const Trail> trails{};
+  /// Extended attributes by which a file in the download folder says where it came from.
+  std::span<const std::string_view> originAttributes{};
 };
 
 }  // namespace klarvik

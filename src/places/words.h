@@ -31,6 +31,7 @@ struct Words {
   std::string_view appHasNoFolderOfItsOwn{};
   std::string_view appIsWorkedOn{};
   std::string_view removalTakesNeeded{};
+  std::string_view packageIsNeededBy{};  ///< "%2": another package
   std::string_view appIsNotRemoved{};
   std::string_view serviceIsNotRunning{};
   std::string_view toolNotStarted{};

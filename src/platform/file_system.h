@@ -118,6 +118,9 @@ class FileSystem {
   [[nodiscard]] virtual std::optional<FileAttributes> attributes(const Path& path) const = 0;
   /// What the symbolic link at `path` says, as it stands there; nothing where there is none.
   [[nodiscard]] virtual std::optional<Path> linkTarget(const Path&) const { return std::nullopt; }
+  /// The names of the extended attributes of the file at `path` that are the user's own ("user.…").
+  /// Never of what a link in the last component leads to. None where it cannot be asked.
+  [[nodiscard]] virtual std::vector<std::string> userAttributes(const Path&) const { return {}; }
   /// Whether another volume begins at `path`. Waits for no server.
   [[nodiscard]] virtual bool isMountPoint(const Path& path) const = 0;
   /// Whether files at or below `path` may share content with copies of them, and tell of it.
@@ -144,6 +147,10 @@ class FileSystem {
   /// Takes all content out of a regular file that has no other name; the file itself stays. Never
   /// through a link. False when it stays as it is.
   virtual bool empty(const Path& file, const ItemCheck& mayEmpty) = 0;
+  /// Takes these extended attributes off a regular file, whose content, times of change and rights
+  /// stay. Never through a link. True only when it has none of them any more.
+  virtual bool removeUserAttributes(const Path& file, std::span<const std::string_view> names,
+                                    const ItemCheck& mayChange) = 0;
   /// Removes for good an item and all it holds: through directory handles, never through a symbolic
   /// link, never across a mount point. True only when nothing of the item is left.
   virtual bool remove(const Path& item, const ItemCheck& mayRemove) = 0;

@@ -78,6 +78,7 @@ class Texts {
       add(rawValue(category));
       add("Scanning " + lowercased(rawValue(category)) + "...");
     }
+    add("Scanning " + lowercased(layout.words.downloadOrigins) + "...");
     for (const Trail& trail : layout.trails.trails) add(trail.told);
     for (const ResidualCategory category : allResidualCategories()) add(rawValue(category));
   }

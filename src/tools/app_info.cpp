@@ -32,8 +32,8 @@ std::string AppInfo::removalCommand() const {
       return std::string("flatpak uninstall ") + (isForAllUsers ? "" : "--user ") + package;
     case AppKind::snap:
       return "snap remove " + package;
-    case AppKind::debianPackage:
-      return "sudo apt remove " + package;
+    case AppKind::systemPackage:
+      return removedWith;
     case AppKind::bundle:
     case AppKind::appImage:
     case AppKind::byHand:

@@ -12,6 +12,7 @@
 #include "base/message.h"
 #include "core/uuid.h"
 #include "places/application_places.h"
+#include "places/package_manager.h"
 #include "platform/file_attributes.h"
 #include "platform/path.h"
 
@@ -42,8 +43,8 @@ enum class AppKind {
   byHand,    ///< by the user: a folder or a file in the home
   flatpak,
   snap,
-  debianPackage,
-  foreign,  ///< by root, or by a package manager that is not asked
+  systemPackage,  ///< by a package manager of the system, which is asked and told
+  foreign,        ///< by root, or by a package manager that is not asked
 };
 
 /// A thing that goes to the Trash together with an application.
@@ -68,8 +69,10 @@ struct AppInfo {
 
   // Of what is told by a desktop entry.
   AppKind kind = AppKind::bundle;
-  std::string package{};       ///< as its package manager calls it; a Flatpak's whole reference
-  bool isForAllUsers = false;  ///< of a Flatpak
+  std::string package{};  ///< as its package manager calls it; a Flatpak's whole reference
+  const PackageManager* manager = nullptr;  ///< of a package of the system: whose it is
+  std::string removedWith{};               ///< the command that the user may run, of such a package
+  bool isForAllUsers = false;              ///< of a Flatpak
   std::vector<std::string> identifiers{};  ///< in lower case; what its leftovers are called
   std::vector<AppPart> parts{};            ///< its entry and icons, where they go with it
   std::string icon{};     ///< of an icon theme, or an absolute path; empty for none

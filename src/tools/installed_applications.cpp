@@ -19,7 +19,7 @@
 #include "places/words.h"
 #include "platform/desktop_entry.h"
 #include "platform/file_system.h"
-#include "tools/debian_packages.h"
+#include "tools/system_packages.h"
 
 namespace klarvik {
 namespace {
@@ -91,7 +91,8 @@ bool isVersionMark(std::string_view word) {
 class Search {
  public:
   explicit Search(const Platform& platform)
-      : _files(platform.files),
+      : _platform(platform),
+        _files(platform.files),
         _layout(layoutFor(platform.files.home())),
         _places(*_layout.applications.desktop),
         _catalogue(_layout, platform.files.folders()) {}
@@ -123,7 +124,7 @@ class Search {
           app.appSize = wholeAllocatedSize(_files, *program);
         }
         break;
-      case AppKind::debianPackage:
+      case AppKind::systemPackage:
       case AppKind::bundle:
         break;
     }
@@ -191,8 +192,6 @@ class Search {
   }
 
   void findOwners() {
-    _packages = installedDebianPackages(_files);
-    if (_packages.empty()) return;
     std::set<Path> wanted;
     for (const FoundEntry& each : _entries) {
       if (each.isOwn || !each.flatpak.empty()) continue;
@@ -202,12 +201,13 @@ class Search {
     for (const FoundEntry& each : _entries) {
       if (const auto program = programOf(each.entry)) wanted.insert(*program);
     }
-    _owners = debianOwners(_files, wanted);
+    _owners = packageOwners(_platform, wanted);
   }
 
-  [[nodiscard]] std::string ownerOf(const Path& path) const {
+  /// The package that `path` belongs to; null where it is of none.
+  [[nodiscard]] const SystemPackage* ownerOf(const Path& path) const {
     const auto owner = _owners.find(path);
-    return owner != _owners.end() && _packages.contains(owner->second) ? owner->second : "";
+    return owner != _owners.end() ? &owner->second : nullptr;
   }
 
   /// The program that an entry starts, where it really lies.
@@ -326,8 +326,8 @@ class Search {
     const auto program = programOf(source.entry);
     if (!source.isOwn) {
       for (const Path& path : {source.path, source.real, program.value_or(source.path)}) {
-        const std::string package = ownerOf(path);
-        if (!package.empty()) return debianApp(source, package, program);
+        const SystemPackage* package = ownerOf(path);
+        if (package != nullptr) return packagedApp(source, *package, program);
       }
     }
     if (!program) return std::nullopt;
@@ -338,7 +338,7 @@ class Search {
     if (isInHome && source.isOwn) return byHandAt(*program, source);
     // An entry of the user's own for a program of others is a start of it, and no application.
     const bool isElsewhere =
-        isBelow(program->native(), _places.addOns) && ownerOf(*program).empty();
+        isBelow(program->native(), _places.addOns) && ownerOf(*program) == nullptr;
     if (source.isOwn && !isElsewhere) return std::nullopt;
     AppInfo app = appAt(AppKind::foreign, *program, *program);
     app.keptBecause = _layout.words.appOfNoAskedManager;
@@ -351,15 +351,16 @@ class Search {
     return app;
   }
 
-  [[nodiscard]] AppInfo debianApp(const FoundEntry& source, const std::string& package,
-                                  const std::optional<Path>& program) const {
-    AppInfo app = appAt(AppKind::debianPackage, source.path, program.value_or(""));
-    const DebianPackage& installed = _packages.find(package)->second;
-    app.package = package;
-    app.appSize = installed.bytes;
+  [[nodiscard]] AppInfo packagedApp(const FoundEntry& source, const SystemPackage& package,
+                                    const std::optional<Path>& program) const {
+    AppInfo app = appAt(AppKind::systemPackage, source.path, program.value_or(""));
+    app.package = package.name;
+    app.manager = package.manager;
+    app.removedWith = removalCommand(_platform, *package.manager, package.name);
+    app.appSize = package.bytes;
     app.isForAllUsers = true;
-    if (installed.isNeeded) {
-      app.keptBecause = {_layout.words.packageIsOfSystem, {package}};
+    if (package.isNeeded) {
+      app.keptBecause = {_layout.words.packageIsOfSystem, {package.name}};
     }
     return app;
   }
@@ -519,14 +520,14 @@ class Search {
     }
   }
 
+  const Platform& _platform;
   const FileSystem& _files;
   const DiskLayout& _layout;
   const DesktopApplications& _places;
   const Catalogue _catalogue;
   std::vector<FoundEntry> _entries;
   std::map<std::string, Entries> _byId;
-  DebianPackageTable _packages;
-  std::map<Path, std::string> _owners;
+  PackageOwners _owners;
   std::vector<std::pair<AppInfo, bool>> _found;
 };
 
@@ -554,8 +555,9 @@ bool isSameApplication(const AppInfo& one, const AppInfo& other) {
   if (one.kind != other.kind) return false;
   switch (one.kind) {
     case AppKind::snap:
-    case AppKind::debianPackage:
       return one.package == other.package;
+    case AppKind::systemPackage:
+      return one.package == other.package && one.manager == other.manager;
     case AppKind::bundle:
     case AppKind::appImage:
     case AppKind::byHand:

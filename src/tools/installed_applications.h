@@ -10,8 +10,9 @@
 namespace klarvik {
 
 /// The installed applications of a disk that tells them by desktop entries, and AppImages without
-/// one. Several entries of one package are one application. Reads, and asks no other program;
-/// nothing throws; what cannot be read is not listed. Any thread.
+/// one. Several entries of one package are one application. Reads, and asks no other program than
+/// "rpm", where that has installed something; nothing throws; what cannot be read is not listed.
+/// Any thread.
 class InstalledApplications {
  public:
   explicit InstalledApplications(const Platform& platform) : _platform(platform) {}

@@ -14,8 +14,8 @@
 #include "places/disk_layout.h"
 #include "places/path_pattern.h"
 #include "platform/file_system.h"
-#include "tools/debian_packages.h"
 #include "tools/installed_applications.h"
+#include "tools/system_packages.h"
 
 namespace klarvik {
 namespace {
@@ -39,7 +39,7 @@ class Search {
         _layout(layoutFor(platform.files.home())),
         _catalogue(_layout, platform.files.folders()),
         _app(app),
-        _identifiers(ownIdentifiers(platform.files, app, installed)) {}
+        _identifiers(ownIdentifiers(platform, app, installed)) {}
 
   std::vector<ResidualFile> run() {
     if (_identifiers.empty()) return {};
@@ -133,9 +133,9 @@ bool shareAPlace(std::span<const KnownLeftover> known, const std::string& one,
 
 }  // namespace
 
-std::vector<std::string> ownIdentifiers(const FileSystem& files, const AppInfo& app,
+std::vector<std::string> ownIdentifiers(const Platform& platform, const AppInfo& app,
                                         const std::vector<AppInfo>& installed) {
-  const auto known = layoutFor(files.home()).applications.desktop->knownLeftovers;
+  const auto known = layoutFor(platform.files.home()).applications.desktop->knownLeftovers;
   std::vector<std::string> own = app.identifiers;
   for (const AppInfo& other : installed) {
     if (isSameApplication(other, app)) continue;
@@ -146,10 +146,11 @@ std::vector<std::string> ownIdentifiers(const FileSystem& files, const AppInfo& 
     });
   }
   // Programs of the terminal are packages too.
-  const DebianPackageTable packages = installedDebianPackages(files);
+  const auto packages = installedPackageNames(platform);
+  if (!packages) return {};
   std::erase_if(own, [&](const std::string& identifier) {
-    const bool isOwn = app.kind == AppKind::debianPackage && app.package == identifier;
-    return !isOwn && packages.contains(identifier);
+    const bool isOwn = app.kind == AppKind::systemPackage && app.package == identifier;
+    return !isOwn && packages->contains(identifier);
   });
   return own;
 }

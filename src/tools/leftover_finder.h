@@ -15,8 +15,9 @@ namespace klarvik {
 [[nodiscard]] std::vector<ResidualFile> findLeftovers(const Platform& platform, const AppInfo& app,
                                                       const std::vector<AppInfo>& installed);
 
-/// The identifiers of `app` that no other installed application has.
-[[nodiscard]] std::vector<std::string> ownIdentifiers(const FileSystem& files, const AppInfo& app,
+/// The identifiers of `app` that no other installed application has, nor a package of the system.
+/// None where a package manager cannot be asked.
+[[nodiscard]] std::vector<std::string> ownIdentifiers(const Platform& platform, const AppInfo& app,
                                                       const std::vector<AppInfo>& installed);
 
 }  // namespace klarvik

@@ -1,17 +1,22 @@
 #include "tools/package_removal.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <optional>
 
 #include "base/message.h"
 #include "base/text.h"
 #include "places/disk_layout.h"
+#include "places/package_manager.h"
 #include "places/path_pattern.h"
 #include "places/words.h"
 #include "platform/command_runners.h"
 #include "platform/file_system.h"
 #include "tools/installed_applications.h"
+#include "tools/plain_name.h"
+#include "tools/rpm_packages.h"
+#include "tools/system_packages.h"
 
 namespace klarvik {
 namespace {
@@ -24,19 +29,7 @@ constexpr auto mostTimeForAnAnswer = 20s;
 constexpr auto mostTimeForARemoval = 10min;
 constexpr std::size_t longestMessage = 160;  // characters
 constexpr std::string_view removalMark = "Remv ";
-
-/// The names that a package manager takes hold no other characters, and a tool takes what begins
-/// with "-" for an option.
-bool isPlainName(std::string_view name, std::string_view others) {
-  const auto isLetterOrDigit = [](char each) {
-    return (each >= 'a' && each <= 'z') || (each >= 'A' && each <= 'Z') ||
-           (each >= '0' && each <= '9');
-  };
-  return !name.empty() && isLetterOrDigit(name.front()) &&
-         std::ranges::all_of(name, [&](char each) {
-           return isLetterOrDigit(each) || others.find(each) != std::string_view::npos;
-         });
-}
+constexpr std::string_view neederMark = "' required by ";
 
 bool hasPlainName(const AppInfo& app) {
   switch (app.kind) {
@@ -44,8 +37,8 @@ bool hasPlainName(const AppInfo& app) {
       return isPlainName(app.package, "._-/") && app.package.starts_with("app/");
     case AppKind::snap:
       return isPlainName(app.package, "-_");
-    case AppKind::debianPackage:
-      return isPlainName(app.package, "+-.");
+    case AppKind::systemPackage:
+      return app.manager != nullptr && isPackageName(app.package, *app.manager);
     case AppKind::bundle:
     case AppKind::appImage:
     case AppKind::byHand:
@@ -59,26 +52,91 @@ const Words& wordsOf(const Platform& platform) {
   return layoutFor(platform.files.home()).words;
 }
 
-void askApt(const Platform& platform, const AppInfo& app, RemovalPlan& plan) {
-  const Command command{"apt-get", "--simulate", "remove", app.package};
-  const ToolResult answer = platform.tools.run(command, {.time = mostTimeForAnAnswer});
-  if (!answer.isWhole()) return;
-  std::vector<std::string> removed = simulatedRemovals(answer.output);
-  const auto own = std::ranges::find(removed, app.package);
-  if (own == removed.end()) return;
-  removed.erase(own);
-  plan.isSimulated = true;
-  const auto isNeeded = [&](const std::string& each) {
-    const auto* places = layoutFor(platform.files.home()).applications.desktop;
-    return places != nullptr && nameMatchesAny(places->neededPackages, each);
-  };
-  const auto needed = std::ranges::find_if(removed, isNeeded);
-  if (needed != removed.end() || isNeeded(app.package)) {
-    const std::string& which = needed != removed.end() ? *needed : app.package;
-    plan.command.clear();
-    plan.keptBecause = {wordsOf(platform).removalTakesNeeded, {which}};
+ToolResult ask(const Platform& platform, const AppInfo& app) {
+  Command command = removalQuestion(platform, *app.manager);
+  command.push_back(app.package);
+  return platform.tools.run(command, {.time = mostTimeForAnAnswer});
+}
+
+/// What the package manager says would go, and why it would refuse.
+struct Answer {
+  bool isKnown = false;
+  std::vector<std::string> removed{};  ///< with the package itself or without
+  std::vector<std::string> needers{};  ///< for whose sake it is refused
+  bool isHeld = false;                 ///< refused for what the user or the system has said
+};
+
+Answer askByMarks(const Platform& platform, const AppInfo& app) {
+  const ToolResult result = ask(platform, app);
+  if (!result.isWhole()) return {};
+  return {.isKnown = true, .removed = simulatedRemovals(result.output)};
+}
+
+Answer askForNames(const Platform& platform, const AppInfo& app) {
+  const ToolResult result = ask(platform, app);
+  if (result.end != ToolResult::End::exited || result.isCut) return {};
+  if (result.status == 0) {
+    return {.isKnown = true, .removed = namedRemovals(result.output, *app.manager)};
   }
-  plan.alsoRemoved = std::move(removed);
+  std::string said = result.output;
+  said.append("\n").append(result.errors);
+  return {.needers = needersOf(said, *app.manager),
+          .isHeld = said.find("HoldPkg") != std::string::npos};
+}
+
+Answer askForDependents(const Platform& platform, const AppInfo& app) {
+  const auto dependents = rpmDependentsOf(platform, *app.manager, app.package);
+  if (!dependents) return {};
+  Answer answer{.isKnown = true, .removed = {dependents->begin(), dependents->end()}};
+  answer.removed.push_back(app.package);
+  return answer;
+}
+
+/// How each kind of answer is asked for.
+struct Question {
+  RemovalAnswer answer;
+  Answer (*ask)(const Platform&, const AppInfo&);
+};
+constexpr std::array<Question, 3> questions{{
+    {RemovalAnswer::marked, askByMarks},
+    {RemovalAnswer::names, askForNames},
+    {RemovalAnswer::dependents, askForDependents},
+}};
+
+void keep(RemovalPlan& plan, Message because) {
+  plan.command.clear();
+  plan.keptBecause = std::move(because);
+}
+
+void askManager(const Platform& platform, const AppInfo& app, RemovalPlan& plan) {
+  const Words& words = wordsOf(platform);
+  const auto isNeeded = [&](const std::string& each) {
+    return nameMatchesAny(app.manager->needed, each);
+  };
+  Answer answer =
+      std::ranges::find(questions, app.manager->answer, &Question::answer)->ask(platform, app);
+  if (!answer.needers.empty()) {
+    keep(plan, {words.packageIsNeededBy, {app.package, answer.needers.front()}});
+    return;
+  }
+  if (answer.isHeld) {
+    keep(plan, {words.packageIsOfSystem, {app.package}});
+    return;
+  }
+  const auto own = std::ranges::find(answer.removed, app.package);
+  plan.isSimulated = answer.isKnown && own != answer.removed.end();
+  if (!plan.isSimulated) {
+    if (isNeeded(app.package)) keep(plan, {words.removalTakesNeeded, {app.package}});
+    return;
+  }
+  answer.removed.erase(own);
+  plan.mayTakeMore = app.manager->mayTakeMore;
+  const auto needed = std::ranges::find_if(answer.removed, isNeeded);
+  if (needed != answer.removed.end() || isNeeded(app.package)) {
+    const std::string& which = needed != answer.removed.end() ? *needed : app.package;
+    keep(plan, {words.removalTakesNeeded, {which}});
+  }
+  plan.alsoRemoved = std::move(answer.removed);
 }
 
 std::optional<Command> removalBy(const AppInfo& app) {
@@ -133,7 +191,7 @@ RemovalPlan planRemoval(const Platform& platform, const AppInfo& app) {
   RemovalPlan plan{.keptBecause = app.keptBecause};
   if (!hasPlainName(app) || !app.keptBecause.empty()) return plan;
   plan.command = app.removalCommand();
-  if (app.kind == AppKind::debianPackage) askApt(platform, app, plan);
+  if (app.kind == AppKind::systemPackage) askManager(platform, app, plan);
   return plan;
 }
 
@@ -146,6 +204,27 @@ std::vector<std::string> simulatedRemovals(std::string_view output) {
     std::string_view name = line.substr(0, line.find(' '));
     name = name.substr(0, name.find(':'));
     if (isPlainName(name, "+-.")) packages.emplace_back(name);
+  }
+  return packages;
+}
+
+std::vector<std::string> namedRemovals(std::string_view output, const PackageManager& manager) {
+  std::vector<std::string> packages;
+  while (!output.empty()) {
+    const std::string_view line = takeLine(output);
+    if (isPackageName(line, manager)) packages.emplace_back(line);
+  }
+  return packages;
+}
+
+std::vector<std::string> needersOf(std::string_view output, const PackageManager& manager) {
+  std::vector<std::string> packages;
+  while (!output.empty()) {
+    std::string_view line = takeLine(output);
+    const auto mark = line.find(neederMark);
+    if (mark == std::string_view::npos) continue;
+    line.remove_prefix(mark + neederMark.size());
+    if (isPackageName(line, manager)) packages.emplace_back(line);
   }
   return packages;
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/message.h"
+#include "places/package_manager.h"
 #include "platform/platform.h"
 #include "tools/app_info.h"
 
@@ -17,7 +18,9 @@ struct RemovalPlan {
   std::string command{};
   std::vector<std::string> alsoRemoved{};  ///< packages that would go with it
   bool isSimulated = false;                ///< the package manager was asked
-  Message keptBecause{};                   ///< why nothing is offered, as a sentence
+  /// More than these may go: what nothing else needs.
+  bool mayTakeMore = false;
+  Message keptBecause{};  ///< why nothing is offered, as a sentence
 
   bool operator==(const RemovalPlan&) const = default;
 };
@@ -28,6 +31,14 @@ struct RemovalPlan {
 
 /// The packages that a simulated removal names, by the output of "apt-get --simulate".
 [[nodiscard]] std::vector<std::string> simulatedRemovals(std::string_view output);
+
+/// The same by the output of "pacman --print", a name in each line.
+[[nodiscard]] std::vector<std::string> namedRemovals(std::string_view output,
+                                                     const PackageManager& manager);
+
+/// The packages for whose sake "pacman" refuses a removal, by what it says.
+[[nodiscard]] std::vector<std::string> needersOf(std::string_view output,
+                                                 const PackageManager& manager);
 
 /// Whether Klarvik asks the application's own package manager to remove it.
 [[nodiscard]] bool isRemovedByTool(const AppInfo& app);

@@ -156,7 +156,10 @@ std::vector<PrivacyItem> PrivacyScanner::scanTable(const ProgressSink& progress)
   std::vector<PrivacyItem> items = TrailFinder(_platform).find([&](PrivacyCategory category) {
     if (!progress) return;
     const auto step = static_cast<double>(category) + 1;
-    const std::string line = "Scanning " + lowercased(rawValue(category)) + "...";
+    const std::string_view kind = category == PrivacyCategory::quarantine
+                                      ? layoutFor(_files.home()).words.downloadOrigins
+                                      : rawValue(category);
+    const std::string line = "Scanning " + lowercased(kind) + "...";
     progress(step / (privacyCategoryCount + 1), line);
   });
   if (auto copied = clipboard(_files, _pasteboard)) items.push_back(std::move(*copied));
@@ -232,6 +235,13 @@ PrivacyScanner::PartEnd PrivacyScanner::clearPart(const TrailPart& part) {
       return endOf(_platform.recentDocuments.clear());
     case TrailClearing::firefoxHistory:
       return clearHistory(part);
+    case TrailClearing::originRemoved: {
+      const auto origin = DeletionScope::origin();
+      return endOf(
+          mayRemove(_files, part.path, origin) &&
+          _files.removeUserAttributes(part.path, trails(_files).originAttributes,
+                                      itemCheck(_files, part.path, origin, part.identity)));
+    }
     case TrailClearing::told:
       break;
   }

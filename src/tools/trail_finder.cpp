@@ -102,6 +102,7 @@ class Search {
 
   void look(PrivacyCategory category) {
     if (category == PrivacyCategory::browserCache) addBrowserCaches();
+    if (category == PrivacyCategory::quarantine) addOrigins();
     for (const Trail& trail : _layout.trails.trails) {
       if (trail.category == category) add(trail);
     }
@@ -145,7 +146,7 @@ class Search {
     if (staysAsFile && (!isFile || isEmpty)) return;
     const std::int64_t count = isFile ? countOf(_files, path, trail.count) : 0;
     if (trail.clearing == TrailClearing::asList && count == 0) return;
-    if (trail.clearing != TrailClearing::told && !isAllowed(path)) return;
+    if (trail.clearing != TrailClearing::told && !isAllowed(path, DeletionScope::trail())) return;
     PrivacyItem& item = itemOf(_items, trail, trail.told);
     append(item, {.path = path,
                   .size = wholeAllocatedSize(_files, path),
@@ -171,11 +172,39 @@ class Search {
     item.parts.push_back(std::move(part));
   }
 
-  [[nodiscard]] bool isAllowed(const Path& path) const {
+  [[nodiscard]] bool isAllowed(const Path& path, const DeletionScope& scope) const {
     const auto real = _files.realPath(path);
-    const auto scope = DeletionScope::trail();
     return mayRemove(_files, path, scope) && real &&
            (*real == path || mayRemoveReal(_files, *real, scope));
+  }
+
+  [[nodiscard]] bool saysOrigin(const Path& file) const {
+    return std::ranges::any_of(_files.userAttributes(file), [&](const std::string& attribute) {
+      return std::ranges::find(_layout.trails.originAttributes, attribute) !=
+             _layout.trails.originAttributes.end();
+    });
+  }
+
+  /// The downloads that say where they came from, also in folders of the download folder.
+  void addOrigins() {
+    const Path downloads = _files.folders().downloads;
+    // Where all of the home counts as the download folder, nobody has one.
+    if (_layout.trails.originAttributes.empty() || downloads == _files.home()) return;
+    if (isElsewhere(_files, downloads)) return;
+    PrivacyItem item{.category = PrivacyCategory::quarantine,
+                     .name = std::string(_layout.words.downloadOrigins)};
+    _files.walk(downloads, {.stayOnMount = true}, [&](WalkEntry& entry) {
+      if (entry.kind() != FileKind::regular) return WalkStep::proceed;
+      const Path path = entry.path();
+      const auto attributes = saysOrigin(path) ? entry.attributes() : std::nullopt;
+      if (!attributes || !isAllowed(path, DeletionScope::origin())) return WalkStep::proceed;
+      append(item, {.path = path,
+                    .identity = entryIdentity(*attributes),
+                    .clearing = TrailClearing::originRemoved});
+      ++item.count;
+      return WalkStep::proceed;
+    });
+    if (!item.parts.empty()) _items.push_back(std::move(item));
   }
 
   /// Those of a browser that runs are an item of their own, to be cleared when it is closed.

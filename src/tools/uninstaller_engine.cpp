@@ -74,7 +74,7 @@ bool isRunning(const RunningPrograms& programs, const AppInfo& app) {
     case AppKind::bundle:
     case AppKind::appImage:
     case AppKind::byHand:
-    case AppKind::debianPackage:
+    case AppKind::systemPackage:
     case AppKind::foreign:
       return !app.program.empty() && programs.isRunning(app.program);
   }
@@ -183,7 +183,7 @@ UninstallOutcome UninstallerEngine::removeProgram(const AppInfo& app,
     }
   }
   // Another application may have been installed since they were found.
-  const auto identifiers = ownIdentifiers(files, app, InstalledApplications(_platform).all());
+  const auto identifiers = ownIdentifiers(_platform, app, InstalledApplications(_platform).all());
   const auto scope = DeletionScope::residual(identifiers);
   for (const ResidualFile& residual : residuals) {
     if (stop.stop_requested()) break;

@@ -4119,6 +4119,14 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <source>In the tray: Clear Clipboard History</source>
         <translation>In der Leiste: Verlauf löschen</translation>
     </message>
+    <message>
+        <source>Scanning origin of downloads...</source>
+        <translation>Scannen: Herkunft von Downloads …</translation>
+    </message>
+    <message>
+        <source>The package %2 needs %1, and has to be removed first.</source>
+        <translation>Das Paket %2 braucht %1 und muss zuerst entfernt werden.</translation>
+    </message>
 </context>
 <context>
     <name>FolderBrowserRow</name>
@@ -5344,10 +5352,6 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <translation>Die Frage nach dem Passwort wurde abgebrochen.</translation>
     </message>
     <message>
-        <source>The system refused, or this desktop has no program that asks for the password. The command can still be run in a terminal.</source>
-        <translation>Das System hat abgelehnt, oder dieser Desktop hat kein Programm, das nach dem Passwort fragt. Der Befehl lässt sich weiterhin in einem Terminal ausführen.</translation>
-    </message>
-    <message>
         <source>The program that asks for the password, pkexec, could not be started.</source>
         <translation>Das Programm pkexec, das nach dem Passwort fragt, ließ sich nicht starten.</translation>
     </message>
@@ -5358,6 +5362,22 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>It printed more than is shown here.</source>
         <translation>Die Ausgabe ist länger, als hier gezeigt wird.</translation>
+    </message>
+    <message>
+        <source>The password was wrong, or the system allows it to nobody from here. The command can still be run in a terminal.</source>
+        <translation>Das Passwort war falsch, oder das System erlaubt es von hier aus niemandem. Der Befehl lässt sich weiterhin in einem Terminal ausführen.</translation>
+    </message>
+    <message>
+        <source>No program that asks for the password runs on this desktop. The command can still be run in a terminal.</source>
+        <translation>Auf diesem Desktop läuft kein Programm, das nach dem Passwort fragt. Der Befehl lässt sich weiterhin in einem Terminal ausführen.</translation>
+    </message>
+    <message>
+        <source>The service that decides about it, polkit, does not answer. The command can still be run in a terminal.</source>
+        <translation>Der Dienst, der darüber entscheidet, polkit, antwortet nicht. Der Befehl lässt sich weiterhin in einem Terminal ausführen.</translation>
+    </message>
+    <message>
+        <source>The command is not installed on this computer.</source>
+        <translation>Der Befehl ist auf diesem Computer nicht installiert.</translation>
     </message>
 </context>
 <context>
@@ -5942,6 +5962,14 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
             <numerusform>Es entfernt auch %n Paket: %1.</numerusform>
             <numerusform>Es entfernt auch %n Pakete: %1.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No other package needs it.</source>
+        <translation>Kein anderes Paket braucht es.</translation>
+    </message>
+    <message>
+        <source>What no package needs then may go as well.</source>
+        <translation>Was danach kein Paket mehr braucht, wird womöglich mit entfernt.</translation>
     </message>
 </context>
 <context>

@@ -2,10 +2,13 @@
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include "places/disk_layout.h"
@@ -52,16 +55,50 @@ TEST_F(RootCommand, IsOfferedOnlyWhereTheSystemCanAskForThePassword) {
   EXPECT_EQ(run().end, End::notThere);
 }
 
+// What pkexec 122 printed, and how it ended.
 TEST_F(RootCommand, TellsACancelledPasswordFromARefusalAndFromAnError) {
-  install("echo 'Request dismissed' >&2; exit 126\n");
-  EXPECT_EQ(run(),
-            (RootRun{.end = End::dismissed, .status = 126, .output = "Request dismissed\n"}));
-  install("echo 'No authentication agent found.' >&2; exit 127\n");
-  EXPECT_EQ(run().end, End::notAllowed);
+  const std::string start = "Error executing command as another user: ";
+  const auto endAfter = [&](const std::string& said, int status) {
+    install("printf '" + said + "\\n' >&2; exit " + std::to_string(status) + "\n");
+    return run().end;
+  };
+  install("echo '" + start + "Request dismissed' >&2; exit 126\n");
+  EXPECT_EQ(
+      run(),
+      (RootRun{.end = End::dismissed, .status = 126, .output = start + "Request dismissed\n"}));
+  EXPECT_EQ(endAfter(start + "Not authorized\\n\\nThis incident has been reported.", 127),
+            End::notAllowed);
+  EXPECT_EQ(endAfter(start + "No authentication agent found.", 127), End::noAgent);
+  EXPECT_EQ(endAfter("a warning\\n" + start + "No authentication agent found.", 127), End::noAgent);
+  EXPECT_EQ(endAfter("Error getting authority: Error initializing authority: Could not connect: "
+                     "Connection refused",
+                     127),
+            End::noService);
+  EXPECT_EQ(endAfter("Error accessing /usr/bin/apt-get: No such file or directory", 127),
+            End::notFound);
   install("printf half; echo 'E: broken' >&2; exit 100\n");
   EXPECT_EQ(run(), (RootRun{.end = End::failed, .status = 100, .output = "half\nE: broken\n"}));
   install("kill -9 $$\n");
   EXPECT_EQ(run(), (RootRun{.end = End::killed, .status = 9}));
+}
+
+TEST_F(RootCommand, ThatWasRunAndEndsAsPkexecDoesIsNotCalledRefused) {
+  for (const int status : {126, 127}) {
+    install("echo 'sh: dnf: not found' >&2; exit " + std::to_string(status) + "\n");
+    EXPECT_EQ(run(),
+              (RootRun{.end = End::failed, .status = status, .output = "sh: dnf: not found\n"}));
+  }
+}
+
+TEST(RealPkexec, SaysThatACommandIsNotThere) {
+  if (::access("/usr/bin/pkexec", X_OK) != 0) GTEST_SKIP() << "there is no pkexec";
+  SystemTools tools("/", UserFolders::in("/"));
+  const std::array<std::string_view, 1> missing{"/usr/bin/klarvik-is-no-such-program"};
+  const CleaningTool tool{.id = "missing", .name = "missing", .asRoot = missing};
+  EXPECT_TRUE(canRunAsRoot(tools, {}));
+  const RootRun run = runAsRoot(tools, tool, {});
+  EXPECT_EQ(run.end, End::notFound) << run.output;
+  EXPECT_EQ(run.status, 127);
 }
 
 TEST_F(RootCommand, ThatHangsIsNotWaitedForAfterAStop) {

@@ -65,6 +65,45 @@ TEST(ProcessTable, ALockIsHeldWhileItsProcessRunsOrWhileNobodyCanTell) {
   EXPECT_FALSE(programs.isLockHeld(folder.onDisk("/missing")));
 }
 
+TEST(ProcessTable, AProcessThatHasEndedRunsNoMoreWhileItsEntryStands) {
+  const TemporaryFolder folder;
+  const auto add = [&](const std::string& number, const std::string& name, const std::string& state,
+                       const std::string& threads) {
+    const Path process = Path("/proc") / number;
+    folder.makeFile(process / "comm", name + "\n");
+    folder.makeFile(process / "cmdline", std::string_view(name));
+    folder.makeFile(process / "cgroup", "0::/user.slice/snap." + name + ".x-1.scope\n");
+    folder.makeFile(process / "status", "Name:\t" + name + "\nUmask:\t0022\nState:\t" + state +
+                                            "\nTgid:\t1\nThreads:\t" + threads + "\nSigQ:\t1\n");
+  };
+  add("10", "chromium", "Z (zombie)", "1");
+  add("11", "firefox", "S (sleeping)", "1");
+  add("12", "writer", "Z (zombie)", "12");
+  const ProcessTable programs(folder.onDisk("/proc"));
+  EXPECT_FALSE(programs.isRunning("chromium"));
+  EXPECT_FALSE(programs.isSandboxRunning("chromium"));
+  for (const char* name : {"firefox", "writer"}) {
+    EXPECT_TRUE(programs.isRunning(name)) << name;
+    EXPECT_TRUE(programs.isSandboxRunning(name)) << name;
+  }
+  folder.makeLink("/ended", "127.0.1.1:+10");
+  folder.makeLink("/goes on", "127.0.1.1:+12");
+  EXPECT_FALSE(programs.isLockHeld(folder.onDisk("/ended")));
+  EXPECT_TRUE(programs.isLockHeld(folder.onDisk("/goes on")));
+}
+
+TEST(ProcessTable, ARealProcessThatHasEndedRunsNoMore) {
+  const ::pid_t child = ::fork();
+  if (child == 0) ::_exit(0);
+  ::siginfo_t ended{};
+  ASSERT_EQ(::waitid(P_PID, static_cast<::id_t>(child), &ended, WEXITED | WNOWAIT), 0);
+  const TemporaryFolder folder;
+  folder.makeLink("/lock", "127.0.1.1:+" + std::to_string(child));
+  EXPECT_TRUE(std::filesystem::exists("/proc/" + std::to_string(child)));
+  EXPECT_FALSE(ProcessTable().isLockHeld(folder.onDisk("/lock")));
+  EXPECT_EQ(::waitpid(child, nullptr, 0), child);
+}
+
 TEST(ProcessTable, KnowsAnApplicationInItsSandbox) {
   const TemporaryFolder table;
   addProcess(table, "10", "writer", "writer",

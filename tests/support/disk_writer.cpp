@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -106,6 +107,11 @@ void DiskWriter::link(const Path& place, const Path& target) {
 void DiskWriter::hardLink(const Path& place, const Path& existing) {
   folder(place.parent_path());
   std::filesystem::create_hard_link(onDisk(existing), onDisk(place));
+}
+
+void DiskWriter::attribute(const Path& place, const char* name, std::string_view content) const {
+  static_cast<void>(
+      ::setxattr(onDisk(place).c_str(), name, content.data(), content.size(), /*flags=*/0));
 }
 
 void DiskWriter::socket(const Path& place) {

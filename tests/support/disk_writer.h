@@ -41,6 +41,9 @@ class DiskWriter {
   void hardLink(const Path& place, const Path& existing);
   void socket(const Path& place);
 
+  /// An extended attribute of a file that is there, where the file system has such a thing.
+  void attribute(const Path& place, const char* name, std::string_view content) const;
+
   /// For what is made at and below `place`, in place of a date of the writer's choice.
   void date(const Path& place, std::int64_t second);
   /// For the one thing at `place`.

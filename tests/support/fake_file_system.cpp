@@ -188,6 +188,11 @@ bool FakeFileSystem::empty(const Path& file, const ItemCheck& mayEmpty) {
   return true;
 }
 
+bool FakeFileSystem::removeUserAttributes(const Path& file, std::span<const std::string_view>,
+                                          const ItemCheck& mayChange) {
+  return isAllowed(file, mayChange);
+}
+
 bool FakeFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   if (!isAllowed(item, mayRemove)) return false;
   const std::scoped_lock lock(_mutex);

@@ -52,6 +52,9 @@ class FakeFileSystem final : public FileSystem {
   bool createDirectories(const Path& folder) override;
   bool move(const Path& from, const Path& to) override;
   bool empty(const Path& file, const ItemCheck& mayEmpty) override;
+  /// No file has any.
+  bool removeUserAttributes(const Path& file, std::span<const std::string_view> names,
+                            const ItemCheck& mayChange) override;
   bool remove(const Path& item, const ItemCheck& mayRemove) override;
 
   /// A move that asks for leave first, as a removal does.

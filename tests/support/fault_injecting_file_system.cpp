@@ -208,6 +208,12 @@ bool FaultInjectingFileSystem::empty(const Path& file, const ItemCheck& mayEmpty
   return goesAhead(Operation::remove, file) && _files.empty(file, mayEmpty);
 }
 
+bool FaultInjectingFileSystem::removeUserAttributes(const Path& file,
+                                                    std::span<const std::string_view> names,
+                                                    const ItemCheck& mayChange) {
+  return goesAhead(Operation::remove, file) && _files.removeUserAttributes(file, names, mayChange);
+}
+
 bool FaultInjectingFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {
   const bool done = goesAhead(Operation::remove, item) && _files.remove(item, mayRemove);
   const std::scoped_lock lock(_mutex);

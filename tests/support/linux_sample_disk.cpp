@@ -1011,6 +1011,10 @@ class LinuxSampleDiskBuilder {
     large("Videos/urlaub.mkv", 700 * mebibyte);
     large("Téléchargements/debian.iso", 1'024 * mebibyte);
     large("Dokumente/Archiv/2019.zip", 150 * mebibyte);
+    for (const char* const name : {"writer_2.1_amd64.deb", "debian.iso", "Handbuch.pdf"}) {
+      _writer.attribute(place(Path("Téléchargements") / name), "user.xdg.origin.url",
+                        "https://acme.example/downloads");
+    }
   }
 
   void trashed(std::string_view name, const Path& original) {

@@ -18,7 +18,7 @@ TEST_F(LinuxApplications, OfADiskWithoutAnyAreNone) {
 TEST_F(LinuxApplications, OfADebianPackageTakeItsSizeAndGoByACommand) {
   installDebian("writer");
   const AppInfo app = appCalled("writer");
-  EXPECT_EQ(app.kind, AppKind::debianPackage);
+  EXPECT_EQ(app.kind, AppKind::systemPackage);
   EXPECT_EQ(app.bundleID, "writer");
   EXPECT_EQ(app.package, "writer");
   EXPECT_EQ(app.appSize, 70 * 1024);
@@ -148,7 +148,7 @@ TEST_F(LinuxApplications, AreCalledAsTheFirstEntryOfAnIdentifierSays) {
   entry(ownEntries / "writer.desktop", "Name=My Writer\nExec=writer --fast\n");
   entry(ownEntries / "painter.desktop", "Hidden=true\n");
   EXPECT_THAT(names(), ElementsAre("My Writer"));
-  EXPECT_EQ(appCalled("My Writer").kind, AppKind::debianPackage);
+  EXPECT_EQ(appCalled("My Writer").kind, AppKind::systemPackage);
 }
 
 TEST_F(LinuxApplications, OfOnePackageAreOne) {
@@ -248,7 +248,7 @@ TEST(ApplicationsOfTheLinuxSampleDisk, AreOfEveryKindAndLeaveOnlyTheirOwn) {
   EXPECT_EQ(kinds[AppKind::snap], 5U);
   EXPECT_EQ(kinds[AppKind::appImage], 1U);
   EXPECT_EQ(kinds[AppKind::byHand], 1U);
-  EXPECT_EQ(kinds[AppKind::debianPackage], 2U);
+  EXPECT_EQ(kinds[AppKind::systemPackage], 2U);
   EXPECT_EQ(leftovers["Inkpot"], 4U);
   EXPECT_EQ(leftovers["Typesetter"], 4U);
   EXPECT_EQ(leftovers["Sheets"], 4U);

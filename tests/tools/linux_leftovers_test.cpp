@@ -1,4 +1,5 @@
 #include "linux_applications_fixture.h"
+#include "places/disk_layout.h"
 
 namespace klarvik {
 namespace {
@@ -283,11 +284,15 @@ TEST_F(LinuxUninstalling, AsksSnapdOnlyWhereItRuns) {
 TEST_F(LinuxUninstalling, HandsNoToolANameThatItMightTakeForMore) {
   for (const char* const name :
        {"-y", "--purge", "a b", "a;b", "../x", "", "app/-x", "a\nb", "$(x)"}) {
-    for (const AppKind kind : {AppKind::flatpak, AppKind::snap, AppKind::debianPackage}) {
+    for (const AppKind kind : {AppKind::flatpak, AppKind::snap, AppKind::systemPackage}) {
       const AppInfo app{.name = "Odd", .bundleID = "odd", .kind = kind, .package = name};
       if (kind == AppKind::flatpak && std::string_view(name) == "app/-x") continue;
       EXPECT_EQ(engine.plan(app).command, "");
       EXPECT_FALSE(engine.remove(app, {}).isGone);
+    }
+    for (const PackageManager& manager : layoutFor(home).applications.desktop->packageManagers) {
+      const AppInfo app{.kind = AppKind::systemPackage, .package = name, .manager = &manager};
+      EXPECT_EQ(engine.plan(app), RemovalPlan{});
     }
   }
   EXPECT_THAT(world.tools.commandsRun(), IsEmpty());

@@ -86,5 +86,26 @@ TEST_F(UninstallerWindowOfALinuxDisk, TellsTheCommandOfAPackage) {
   EXPECT_TRUE(shows("Copied"));
 }
 
+TEST_F(UninstallerWindowOfALinuxDisk, TellsTheCommandOfAPackageOfPacman) {
+  const std::string place = "usr/share/applications/quill.desktop";
+  desk->disk.makeFile("/usr/bin/quill", 5'000);
+  desk->disk.makeFile("/" + place,
+                      "[Desktop Entry]\nType=Application\nName=Quill\nExec=quill %U\n");
+  const Path record = "/var/lib/pacman/local/quill-2.0-1";
+  desk->disk.makeFile(record / "desc", "%NAME%\nquill\n\n%SIZE%\n82000000\n\n");
+  desk->disk.makeFile(record / "files", "%FILES%\nusr/\n" + place + "\n\n");
+  desk->tools.answer("pacman -Rs --print --print-format %n --dbpath " +
+                         desk->disk.onDisk("/var/lib/pacman").native() + " quill",
+                     "libquill\nquill\n");
+  ASSERT_TRUE(openApp("Quill"));
+  ASSERT_NE(waitFor("sudo pacman -Rs quill"), nullptr);
+  settle();
+  EXPECT_TRUE(shows("Klarvik does not remove packages."));
+  picture("uninstaller-pacman");
+  window().resize(920, 640);
+  settle();
+  picture("uninstaller-pacman_920x640");
+}
+
 }  // namespace
 }  // namespace klarvik

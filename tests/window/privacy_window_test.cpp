@@ -1,3 +1,7 @@
+#include <sys/xattr.h>
+
+#include <filesystem>
+
 #include "window_fixture.h"
 
 namespace klarvik {
@@ -205,6 +209,32 @@ TEST_F(PrivacyWindowOfALinuxDisk, AsksOnceMoreBeforeItSignsAnybodyOut) {
   ASSERT_NE(waitFor("Cleared 2 trails"), nullptr);
   EXPECT_FALSE(homeHolds(".mozilla/firefox/ab.default/cookies.sqlite"));
   EXPECT_TRUE(homeHolds(".config/chromium/Default/Cookies"));
+}
+
+TEST_F(PrivacyWindowOfALinuxDisk, TakesFromDownloadsWhereTheyCameFrom) {
+  const char* attribute = "user.xdg.origin.url";
+  std::vector<Path> downloads;
+  for (const char* name : {"report.pdf", "setup.AppImage", "photos/beach.jpg"}) {
+    downloads.push_back(desk->disk.makeFile(home / "Downloads" / name, 40'000));
+    if (::setxattr(downloads.back().c_str(), attribute, "x", 1, 0) != 0) {
+      GTEST_SKIP() << "this file system has no extended attributes";
+    }
+  }
+  ASSERT_TRUE(openAndScan());
+  ASSERT_NE(waitFor("Origin of downloads, "), nullptr);
+  settle();
+  EXPECT_TRUE(shows("Downloaded-from records go"));
+  picture("privacy-origins");
+  window().resize(920, 640);
+  settle();
+  picture("privacy-origins_920x640");
+  click("Clear 2 trails");
+  ASSERT_NE(waitFor("Cleared 2 trails"), nullptr);
+  EXPECT_FALSE(shows("Origin of downloads, "));
+  for (const Path& each : downloads) {
+    EXPECT_LT(::getxattr(each.c_str(), attribute, nullptr, 0), 0) << each;
+    EXPECT_EQ(std::filesystem::file_size(each), 40'000U);
+  }
 }
 
 TEST_F(PrivacyWindowOverAnEmptyHome, SaysThatThereIsNothingToClear) {

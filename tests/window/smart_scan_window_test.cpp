@@ -331,7 +331,11 @@ TEST_F(SmartScanWindowOfALinuxDisk, ShowsWhatItWouldRunAsRootAndWhatThatPrinted)
   desk->disk.makeFile("/var/cache/apt/archives/a.deb", 60'000'000);
   desk->disk.makeFile("/usr/bin/apt-get", 1);
   desk->tools.answer("pkexec --version", "pkexec version 122\n");
-  desk->tools.end(line, ToolResult::End::exited, 126);
+  desk->tools.act(line, [] {
+    return ToolResult{.end = ToolResult::End::exited,
+                      .status = 126,
+                      .errors = "Error executing command as another user: Request dismissed\n"};
+  });
   openWindow();
   ASSERT_TRUE(scanToTheEnd());
   click("Installed Packages");

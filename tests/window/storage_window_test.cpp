@@ -188,7 +188,8 @@ TEST_F(StorageWindowOfALinuxHome, OpensAShareDownToItsFilesAndMovesOneToTheTrash
   picture("storage-drill-after");
   click("Restore");
   ASSERT_TRUE(turnUntil([this] { return homeHolds("Videos/films/longest"); }));
-  EXPECT_TRUE(turnUntil([this] { return shows("clip"); }));
+  EXPECT_TRUE(turnUntil([this] { return shows("longest"); })) << "in the folder that was open";
+  EXPECT_FALSE(shows("clip"));
 }
 
 TEST_F(StorageWindow, CanBeClosedInMidMeasurement) {

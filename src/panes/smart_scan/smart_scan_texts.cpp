@@ -131,6 +131,9 @@ std::string rootRunTitle(const RootRun& run) {
         return translate("SmartScan", "The command is not waited for any more");
       case RootRun::End::dismissed:
       case RootRun::End::notAllowed:
+      case RootRun::End::noAgent:
+      case RootRun::End::noService:
+      case RootRun::End::notFound:
       case RootRun::End::notThere:
         break;
     }
@@ -152,8 +155,18 @@ std::string rootRunSentence(const RootRun& run) {
         return translate("SmartScan", "The question for the password was cancelled.");
       case RootRun::End::notAllowed:
         return translate("SmartScan",
-                         "The system refused, or this desktop has no program that asks for the "
-                         "password. The command can still be run in a terminal.");
+                         "The password was wrong, or the system allows it to nobody from here. The "
+                         "command can still be run in a terminal.");
+      case RootRun::End::noAgent:
+        return translate("SmartScan",
+                         "No program that asks for the password runs on this desktop. The command "
+                         "can still be run in a terminal.");
+      case RootRun::End::noService:
+        return translate("SmartScan",
+                         "The service that decides about it, polkit, does not answer. The command "
+                         "can still be run in a terminal.");
+      case RootRun::End::notFound:
+        return translate("SmartScan", "The command is not installed on this computer.");
       case RootRun::End::notThere:
         return translate("SmartScan",
                          "The program that asks for the password, pkexec, could not be started.");

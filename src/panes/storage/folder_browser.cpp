@@ -54,7 +54,7 @@ FolderBrowser::FolderBrowser(SharedState& shared, const Desktop& desktop, QObjec
       _measurement(desktop.clock) {
   connect(&_removal, &PickedFilesRemoval::changed, this, &FolderBrowser::removalChanged);
   connect(&_removal, &PickedFilesRemoval::restored, this, [this] {
-    if (_isOpen) open(_area);
+    if (_isOpen) measureAgain();
   });
 }
 
@@ -121,8 +121,19 @@ QHash<int, QByteArray> FolderBrowser::roleNames() const {
 }
 
 void FolderBrowser::open(Area area) {
-  cancelTrash();
   _area = std::move(area);
+  _shownNext.clear();
+  measure();
+}
+
+void FolderBrowser::measureAgain() {
+  // While it measures nothing is shown.
+  if (!isMeasuring()) _shownNext = _sizes.path(_folder);
+  measure();
+}
+
+void FolderBrowser::measure() {
+  cancelTrash();
   _isOpen = true;
   ++_openings;
   _counted = 0;
@@ -145,8 +156,21 @@ void FolderBrowser::open(Area area) {
 
 void FolderBrowser::finishMeasuring(FolderSizes sizes) {
   _sizes = std::move(sizes);
-  show(topLevel());
+  show(levelAt(_shownNext));
   emit stateChanged();
+}
+
+FolderSizes::Id FolderBrowser::levelAt(const Path& place) const {
+  FolderSizes::Id level = topLevel();
+  for (bool goesDown = true; goesDown;) {
+    const auto rows = _sizes.rows(level, _sizes.folderCount() + FolderSizes::keptFiles);
+    const auto next = std::ranges::find_if(rows, [&](const FolderSizes::Row& row) {
+      return row.folder && (row.path == place || isBelow(place.native(), row.path.native()));
+    });
+    goesDown = next != rows.end();
+    if (goesDown) level = *next->folder;
+  }
+  return level;
 }
 
 /// An area of one folder begins with what lies in it.

@@ -117,7 +117,11 @@ class FolderBrowser : public QAbstractListModel {
     FolderSizes::Row row;
   };
 
+  void measure();
   void finishMeasuring(FolderSizes sizes);
+  /// The same area again, in the folder that is shown, or the nearest above it that is there.
+  void measureAgain();
+  [[nodiscard]] FolderSizes::Id levelAt(const Path& place) const;
   [[nodiscard]] std::vector<FolderSizes::Row> rowsOf(FolderSizes::Id folder) const;
   void show(FolderSizes::Id folder);
   void showWithout(const Path& gone);
@@ -133,6 +137,7 @@ class FolderBrowser : public QAbstractListModel {
   std::int64_t _counted = 0;
   FolderSizes _sizes;
   FolderSizes::Id _folder = FolderSizes::top;
+  Path _shownNext;  ///< once it is measured; empty for the top of the area
   std::vector<FolderSizes::Row> _rows;
   std::optional<Asked> _asked;
   PickedFilesRemoval _removal;

@@ -6,6 +6,33 @@
 #include "translation/translation.h"
 
 namespace klarvik::uninstaller {
+namespace {
+
+/// A sentence about the packages that would go together with it.
+QString whatElseGoes(const RemovalPlan& plan) {
+  const std::size_t count = plan.alsoRemoved.size();
+  if (count == 0) {
+    return plan.mayTakeMore ? translate("Uninstaller", "No other package needs it.")
+                            : translate("Uninstaller", "It removes no other package.");
+  }
+  if (count == 1) {
+    return translate("Uninstaller", "It also removes %1.")
+        .arg(printableText(plan.alsoRemoved.front()));
+  }
+  constexpr std::size_t mostNamed = 4;
+  QStringList named;
+  for (const std::string& each : plan.alsoRemoved) {
+    if (named.size() < static_cast<qsizetype>(mostNamed)) named << printableText(each);
+  }
+  QString also = named.join(QStringLiteral(", "));
+  if (count > mostNamed) {
+    also = translate("Uninstaller", "%1 and %n more", nullptr, plural(count - mostNamed)).arg(also);
+  }
+  return translate("Uninstaller", "It also removes %n packages: %1.", nullptr, plural(count))
+      .arg(also);
+}
+
+}  // namespace
 
 QString listSubtitle(bool isWaitingForTurn, bool isLoading, std::size_t appCount,
                      const Words& words) {
@@ -87,7 +114,7 @@ QString origin(const AppInfo& app) {
       return installed(QLatin1String("Flatpak"));
     case AppKind::snap:
       return installed(QLatin1String("Snap"));
-    case AppKind::debianPackage:
+    case AppKind::systemPackage:
       return installed(translate("Uninstaller", "Package"));
     case AppKind::foreign:
       return installed(translate("Uninstaller", "For all users"));
@@ -124,28 +151,12 @@ QString planExplanation(const AppInfo& app, const RemovalPlan& plan) {
   const QString how =
       translate("Uninstaller",
                 "Klarvik does not remove packages. Run this in a terminal if you agree with it.");
-  if (app.kind != AppKind::debianPackage) return how;
+  if (app.kind != AppKind::systemPackage) return how;
   if (!plan.isSimulated)
     return how + ' ' + translate("Uninstaller", "What else it removes is not known.");
-  const std::size_t count = plan.alsoRemoved.size();
-  if (count == 0) return how + ' ' + translate("Uninstaller", "It removes no other package.");
-  if (count == 1) {
-    return how + ' ' +
-           translate("Uninstaller", "It also removes %1.")
-               .arg(printableText(plan.alsoRemoved.front()));
-  }
-  constexpr std::size_t mostNamed = 4;
-  QStringList named;
-  for (const std::string& each : plan.alsoRemoved) {
-    if (named.size() < static_cast<qsizetype>(mostNamed)) named << printableText(each);
-  }
-  QString also = named.join(QStringLiteral(", "));
-  if (count > mostNamed) {
-    also = translate("Uninstaller", "%1 and %n more", nullptr, plural(count - mostNamed)).arg(also);
-  }
-  return how + ' ' +
-         translate("Uninstaller", "It also removes %n packages: %1.", nullptr, plural(count))
-             .arg(also);
+  const QString told = how + ' ' + whatElseGoes(plan);
+  if (!plan.mayTakeMore) return told;
+  return told + ' ' + translate("Uninstaller", "What no package needs then may go as well.");
 }
 
 QString alsoRemoved(const RemovalPlan& plan) {

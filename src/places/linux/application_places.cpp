@@ -173,16 +173,6 @@ constexpr auto commonWords = std::to_array<std::string_view>({
     "dbus-launch",
 });
 
-/// Without these there is no desktop, no start or no network.
-constexpr auto neededPackages = std::to_array<std::string_view>({
-    "*-desktop",      "task-*",        "linux-image-*", "gnome-shell",
-    "plasma-desktop", "xorg",          "xserver-xorg*", "network-manager",
-    "systemd",        "systemd-sysv",  "grub-*",        "sudo",
-    "gdm3",           "sddm",          "lightdm",       "xfce4",
-    "cinnamon",       "mate-desktop*", "lxqt*",         "apt",
-    "dpkg",
-});
-
 constexpr DesktopApplications desktopApplications{
     .entryFolders = entryFolders,
     .flatpaks = flatpaks,
@@ -194,7 +184,7 @@ constexpr DesktopApplications desktopApplications{
     .knownLeftovers = knownLeftovers,
     .sharedNames = sharedNames,
     .commonWords = commonWords,
-    .neededPackages = neededPackages,
+    .packageManagers = packageManagers,
     .snapFiles = "/var/lib/snapd/snaps",
     .addOns = "/opt",
 };

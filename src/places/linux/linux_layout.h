@@ -16,6 +16,7 @@ namespace klarvik::linux_disk {
 [[nodiscard]] std::span<const StorageShare> storageShares();
 extern const TrailPlaces trailPlaces;
 extern const ApplicationPlaces applicationPlaces;
+extern const std::array<PackageManager, 3> packageManagers;
 extern const GuardRules guardRules;
 extern const Words words;
 [[nodiscard]] std::span<const SystemDataWords> systemDataWords();

@@ -32,10 +32,24 @@ constexpr std::array<Browser, 13> chromiumBrowsers{{
     {"Vivaldi", "vivaldi-bin", Base::config, "vivaldi"},
     {"Opera", "opera", Base::config, "opera"},
 }};
-constexpr std::array<std::string_view, 9> chromiumHistories{
-    "*/History",           "*/History-journal",          "*/Visited Links",
-    "*/Top Sites",         "*/Top Sites-journal",        "*/Shortcuts",
-    "*/Shortcuts-journal", "*/Network Action Predictor", "*/Network Action Predictor-journal",
+// The pages that were opened stand in the databases of icons and of what is measured, too. Icons of
+// bookmarks come back with the next visit.
+constexpr std::array<std::string_view, 15> chromiumHistories{
+    "*/History",
+    "*/History-journal",
+    "*/Visited Links",
+    "*/Top Sites",
+    "*/Top Sites-journal",
+    "*/Shortcuts",
+    "*/Shortcuts-journal",
+    "*/Network Action Predictor",
+    "*/Network Action Predictor-journal",
+    "*/Favicons",
+    "*/Favicons-journal",
+    "segmentation_platform/ukm_db",
+    "segmentation_platform/ukm_db-journal",
+    "segmentation_platform/ukm_db-wal",
+    "segmentation_platform/ukm_db-shm",
 };
 constexpr std::array<std::string_view, 4> chromiumCookies{
     "*/Cookies", "*/Cookies-journal", "*/Network/Cookies", "*/Network/Cookies-journal"};
@@ -79,6 +93,9 @@ constexpr std::array<std::string_view, 9> shellHistories{
 constexpr std::array<std::string_view, 1> fishHistory{"fish_history"};
 constexpr std::array<std::string_view, 1> editorHistory{"*.shada"};
 constexpr std::array<std::string_view, 1> previews{"*"};
+
+constexpr std::array<std::string_view, 2> originAttributes{"user.xdg.origin.url",
+                                                           "user.xdg.referrer.url"};
 
 constexpr Trail toldTrail(PrivacyCategory category, std::string_view program, Base base,
                           std::string_view folder, Patterns files, std::string_view how) {
@@ -164,6 +181,7 @@ const TrailPlaces trailPlaces{
     .recentApplications = {},
     .downloadOrigins = {},
     .trails = allTrails,
+    .originAttributes = originAttributes,
 };
 
 }  // namespace klarvik::linux_disk

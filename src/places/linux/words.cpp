@@ -25,6 +25,7 @@ const Words words{
     .appHasNoFolderOfItsOwn = "Klarvik cannot tell which folder is its own: its program is %1.",
     .appIsWorkedOn = "Its folder is one that somebody works in: it holds a Git repository.",
     .removalTakesNeeded = "Removing it would remove %1, which this computer needs.",
+    .packageIsNeededBy = "The package %2 needs %1, and has to be removed first.",
     .appIsNotRemoved = "Klarvik does not remove it.",
     .serviceIsNotRunning = "%1 does not run on this computer.",
     .toolNotStarted = "%1 could not be started.",

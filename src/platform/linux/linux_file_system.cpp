@@ -17,6 +17,7 @@
 #include "platform/linux/file_status.h"
 #include "platform/linux/mounts.h"
 #include "platform/linux/tree_removal.h"
+#include "platform/linux/user_attributes.h"
 
 namespace klarvik {
 namespace {
@@ -191,6 +192,11 @@ std::optional<Path> LinuxFileSystem::linkTarget(const Path& path) const {
   return Path(std::move(target));
 }
 
+std::vector<std::string> LinuxFileSystem::userAttributes(const Path& path) const {
+  const UniqueFd file = open(path, O_PATH | O_NOFOLLOW);
+  return file ? userAttributesOf(file.get()) : std::vector<std::string>{};
+}
+
 bool LinuxFileSystem::isMountPoint(const Path& path) const {
   const auto location = locate(path);
   const auto mount = location ? mountOf(location->at(), location->name.c_str()) : std::nullopt;
@@ -272,6 +278,25 @@ bool LinuxFileSystem::empty(const Path& file, const ItemCheck& mayEmpty) {
   return seen && kindOf(*seen) == FileKind::regular && seen->stx_nlink == 1 && mayEmpty &&
          mayEmpty(place->realPath, attributesOf(*seen)) &&
          retryOnEintr([&] { return ::ftruncate(opened.get(), 0); }) == 0;
+}
+
+bool LinuxFileSystem::removeUserAttributes(const Path& file,
+                                           std::span<const std::string_view> names,
+                                           const ItemCheck& mayChange) {
+  const auto place = openParent(_root, file);
+  if (!place) return false;
+  constexpr int flags = O_PATH | O_NOFOLLOW | O_CLOEXEC;
+  const UniqueFd opened(
+      retryOnEintr([&] { return ::openat(place->folder.get(), place->name.c_str(), flags); }));
+  const auto seen = opened ? statusOf(opened.get(), "") : std::nullopt;
+  const bool isAllowed = seen && kindOf(*seen) == FileKind::regular && mayChange &&
+                         mayChange(place->realPath, attributesOf(*seen));
+  if (!isAllowed) return false;
+  bool areGone = true;
+  for (const std::string_view name : names) {
+    if (!removeUserAttribute(opened.get(), std::string(name))) areGone = false;
+  }
+  return areGone;
 }
 
 bool LinuxFileSystem::remove(const Path& item, const ItemCheck& mayRemove) {

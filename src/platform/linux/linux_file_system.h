@@ -27,6 +27,7 @@ class LinuxFileSystem : public FileSystem {
   [[nodiscard]] bool exists(const Path& path) const override;
   [[nodiscard]] std::optional<FileAttributes> attributes(const Path& path) const override;
   [[nodiscard]] std::optional<Path> linkTarget(const Path& path) const override;
+  [[nodiscard]] std::vector<std::string> userAttributes(const Path& path) const override;
   [[nodiscard]] bool isMountPoint(const Path& path) const override;
   [[nodiscard]] bool mayShareContent(const Path& path) const override;
   [[nodiscard]] VolumeTops volumeTops() const override;
@@ -39,6 +40,8 @@ class LinuxFileSystem : public FileSystem {
   bool createDirectories(const Path& folder) override;
   bool move(const Path& from, const Path& to) override;
   bool empty(const Path& file, const ItemCheck& mayEmpty) override;
+  bool removeUserAttributes(const Path& file, std::span<const std::string_view> names,
+                            const ItemCheck& mayChange) override;
   bool remove(const Path& item, const ItemCheck& mayRemove) override;
 
  private:

@@ -67,7 +67,16 @@ std::string nameOf(const Path& process) {
   return name;
 }
 
-bool isProgram(const Path& process, std::string_view program) {
+/// Whether nothing is left of it but its entry, which stands until the process that has started it
+/// asks: such a one has no file open and writes nothing. Of one that goes on in another thread
+/// there is more.
+bool hasEnded(const Path& process) {
+  const std::string status = contentOf(process / "status");
+  const auto says = [&](std::string_view line) { return status.find(line) != std::string::npos; };
+  return says("\nState:\tZ") && says("\nThreads:\t1\n");
+}
+
+bool isCalledSo(const Path& process, std::string_view program) {
   // The kernel keeps so much of a name, and a process may give itself another one.
   constexpr std::size_t keptCharacters = 15;
   if (nameOf(process) == program.substr(0, keptCharacters)) return true;
@@ -80,6 +89,10 @@ bool isProgram(const Path& process, std::string_view program) {
     start += word.size() + 1;
   }
   return false;
+}
+
+bool isProgram(const Path& process, std::string_view program) {
+  return isCalledSo(process, program) && !hasEnded(process);
 }
 
 /// The number of the file system that something open lies on. A program in a sandbox has mounts of
@@ -157,7 +170,9 @@ bool ProcessTable::isSandboxRunning(std::string_view application) const {
   const std::string snap = "snap." + std::string(application) + ".";
   return anyProcess(_folder, [&](const Path& process) {
     const std::string groups = contentOf(process / "cgroup");
-    return groups.find(flatpak) != std::string::npos || groups.find(snap) != std::string::npos;
+    const bool isInside =
+        groups.find(flatpak) != std::string::npos || groups.find(snap) != std::string::npos;
+    return isInside && !hasEnded(process);
   });
 }
 
@@ -169,7 +184,8 @@ bool ProcessTable::isLockHeld(const Path& link) const {
   // "machine-123", or the machine's address in front of ":+123".
   const bool namesMachine = text[end] == '-';
   if (namesMachine && text.substr(0, end) != machineName()) return true;
-  return std::filesystem::exists(_folder / text.substr(end + 1), error);
+  const Path process = _folder / text.substr(end + 1);
+  return std::filesystem::exists(process, error) && !hasEnded(process);
 }
 
 bool ProcessTable::hasOpen(const Path& path) const {

@@ -82,8 +82,18 @@ TEST(RootRunTexts, SayInOneSentenceWhatHasHappened) {
   EXPECT_EQ(rootRunTitle({.end = dismissed}), "Nothing was run");
   EXPECT_EQ(rootRunSentence({.end = dismissed}), "The question for the password was cancelled.");
   EXPECT_EQ(rootRunSentence({.end = notAllowed}),
-            "The system refused, or this desktop has no program that asks for the password. The "
-            "command can still be run in a terminal.");
+            "The password was wrong, or the system allows it to nobody from here. The command can "
+            "still be run in a terminal.");
+  for (const RootRun::End end : {noAgent, noService, notFound}) {
+    EXPECT_EQ(rootRunTitle({.end = end}), "Nothing was run");
+  }
+  EXPECT_EQ(rootRunSentence({.end = noAgent}),
+            "No program that asks for the password runs on this desktop. The command can still be "
+            "run in a terminal.");
+  EXPECT_EQ(rootRunSentence({.end = noService}),
+            "The service that decides about it, polkit, does not answer. The command can still be "
+            "run in a terminal.");
+  EXPECT_EQ(rootRunSentence({.end = notFound}), "The command is not installed on this computer.");
   EXPECT_EQ(rootRunSentence({.end = notThere}),
             "The program that asks for the password, pkexec, could not be started.");
   EXPECT_EQ(rootRunTitle({.end = failed}), "The command failed");

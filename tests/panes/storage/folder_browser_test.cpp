@@ -120,6 +120,42 @@ TEST_F(FolderBrowserTest, MovesARowToTheTrashOnceItIsConfirmed) {
   EXPECT_EQ(names().first(), "music");
 }
 
+TEST_F(FolderBrowserTest, StaysInTheFolderThatIsOpenWhenSomethingIsPutBack) {
+  makeFile("Documents/films/old/a", 1);
+  ASSERT_TRUE(openDocuments());
+  browser.activate(0);
+  const auto putBack = [&] {
+    shared.lastRemoval().restore();
+    return turnUntil([this] {
+      const auto& told = shared.lastRemoval().summary();
+      return told && told->restoredCount == 1 && !browser.isMeasuring();
+    });
+  };
+  const auto trashFirst = [&] {
+    browser.requestTrash(0);
+    browser.confirmTrash();
+    return turnUntil([this] { return !browser.isDeleting() && shared.lastRemoval().canRestore(); });
+  };
+  ASSERT_TRUE(trashFirst());
+  browser.activate(1);
+  EXPECT_EQ(browser.crumbs(), (QStringList{"Documents", "films", "old"}));
+  ASSERT_TRUE(putBack());
+  EXPECT_EQ(browser.crumbs(), (QStringList{"Documents", "films", "old"}));
+  EXPECT_EQ(names(), QStringList{"a"});
+  browser.goUp();
+  EXPECT_EQ(names(), (QStringList{"long", "short", "old"}));
+
+  // The folder is gone by then: the nearest above it is shown.
+  ASSERT_TRUE(trashFirst());
+  browser.activate(1);
+  std::filesystem::remove_all(desk.disk.onDisk(linuxHome / "Documents/films/old"));
+  ASSERT_TRUE(putBack());
+  EXPECT_EQ(browser.crumbs(), (QStringList{"Documents", "films"}));
+
+  ASSERT_TRUE(openDocuments());
+  EXPECT_EQ(browser.crumbs(), QStringList{"Documents"}) << "opened anew";
+}
+
 TEST_F(FolderBrowserTest, AnotherThingUnderTheNameStays) {
   ASSERT_TRUE(openDocuments());
   browser.activate(0);

@@ -82,7 +82,7 @@ TEST(UninstallerTexts, TellHowAnApplicationWasInstalledAndHowItGoes) {
   app.kind = AppKind::appImage;
   EXPECT_EQ(origin(app), "AppImage · org.acme.Ink");
   EXPECT_EQ(removalHint(app), "The app and what is selected go to the Trash, and can be put back.");
-  app.kind = AppKind::debianPackage;
+  app.kind = AppKind::systemPackage;
   EXPECT_EQ(origin(app), "Package · org.acme.Ink");
   EXPECT_EQ(actionTitle(app), "Move Leftovers to Trash");
   EXPECT_EQ(removalHint(app),
@@ -92,7 +92,7 @@ TEST(UninstallerTexts, TellHowAnApplicationWasInstalledAndHowItGoes) {
 }
 
 TEST(UninstallerTexts, TellWhatElseACommandRemoves) {
-  const AppInfo app{.name = "Ink", .kind = AppKind::debianPackage};
+  const AppInfo app{.name = "Ink", .kind = AppKind::systemPackage};
   const QString how =
       "Klarvik does not remove packages. Run this in a terminal if you agree with it.";
   RemovalPlan plan{.command = "sudo apt remove ink"};
@@ -105,6 +105,13 @@ TEST(UninstallerTexts, TellWhatElseACommandRemoves) {
   EXPECT_EQ(planExplanation(app, plan),
             how + " It also removes 6 packages: a, b, c, d and 2 more.");
   EXPECT_EQ(alsoRemoved(plan), "a, b, c, d, e, f");
+  plan.mayTakeMore = true;
+  plan.alsoRemoved = {"a"};
+  EXPECT_EQ(planExplanation(app, plan),
+            how + " It also removes a. What no package needs then may go as well.");
+  plan.alsoRemoved = {};
+  EXPECT_EQ(planExplanation(app, plan),
+            how + " No other package needs it. What no package needs then may go as well.");
   EXPECT_EQ(planExplanation(app, {.keptBecause = "It is needed."}), "It is needed.");
 }
 
