@@ -1,9 +1,9 @@
 #include "platform/desktop_entry.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <utility>
-#include <cstdlib>
 
 #include "base/text.h"
 

@@ -94,9 +94,8 @@ void DuplicateChoice::toggle(const ChosenGroup& group, std::size_t file) {
 DuplicateChoice::GroupSet DuplicateChoice::dissolvedBy(const Paths& gone) const {
   GroupSet dissolved;
   for (const auto& group : _groups) {
-    const auto left = std::ranges::count_if(group->group.files, [&](const DuplicateFile& file) {
-      return !gone.contains(file.url);
-    });
+    const auto left = std::ranges::count_if(
+        group->group.files, [&](const DuplicateFile& file) { return !gone.contains(file.url); });
     if (left < 2) dissolved.insert(group.get());
   }
   return dissolved;

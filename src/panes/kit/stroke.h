@@ -10,7 +10,7 @@ namespace klarvik {
 
 /// A line of this colour and thickness, in points, along the inner edge of the item. Shapes of
 /// Qt 6.4 are misplaced by its software renderer where a point is more than a pixel.
-class Stroke : public PixelExactItem {
+class Stroke : public klarvik::PixelExactItem {
   Q_OBJECT
   QML_ANONYMOUS
   Q_PROPERTY(QColor color MEMBER _color NOTIFY changed)
@@ -32,7 +32,7 @@ class Stroke : public PixelExactItem {
 };
 
 /// A part of a circle. Angles in degrees, clockwise, 0 at the right.
-class Arc : public Stroke {
+class Arc : public klarvik::Stroke {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(qreal startAngle MEMBER _startAngle NOTIFY changed)
@@ -50,7 +50,7 @@ class Arc : public Stroke {
 };
 
 /// A dashed line around a shape whose short sides are half circles.
-class DashedCapsule : public Stroke {
+class DashedCapsule : public klarvik::Stroke {
   Q_OBJECT
   QML_ELEMENT
  public:
