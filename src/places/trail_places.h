@@ -38,6 +38,7 @@ enum class TrailCount {
   files,
   lines,
   bookmarks,  ///< of a list of recent files
+  rows,       ///< of the tables named in `TrailPlaces::countedTables`
 };
 
 /// How a trail is cleared.
@@ -64,6 +65,12 @@ struct Trail {
   std::string_view told{};         ///< how the user clears it, where Klarvik cannot
 };
 
+/// What is counted of a database: the rows of one of its tables.
+struct CountedTable {
+  std::string_view file;  ///< the database's name, without its folders
+  std::string_view table;
+};
+
 /// Where a system's programs keep trails of what their user did, below the home. Empty where the
 /// trails of a kind are not looked for.
 struct TrailPlaces {
@@ -77,6 +84,7 @@ struct TrailPlaces {
   std::string_view downloadOrigins;                 ///< a file
   /// Trails that consist of many things each; the lists above are empty where there are any.
   std::span<const Trail> trails{};
+  std::span<const CountedTable> countedTables{};
   /// Extended attributes by which a file in the download folder says where it came from.
   std::span<const std::string_view> originAttributes{};
 };

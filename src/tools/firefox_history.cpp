@@ -12,13 +12,12 @@
 #include <string_view>
 #include <system_error>
 
-#include "base/text.h"
+#include "tools/foreign_database.h"
 
 namespace klarvik {
 namespace {
 
 using enum HistoryOutcome;
-using Clock = std::chrono::steady_clock;
 
 constexpr std::int64_t mostBytes = 1LL << 30;
 constexpr std::chrono::seconds longestReading{10};
@@ -50,101 +49,7 @@ HistoryOutcome outcomeOf(int code) {
   }
 }
 
-/// An address of SQLite's for a file that is not changed by anybody, or is read as if it were not.
-std::string addressOfUnchanging(const Path& file) {
-  constexpr std::string_view digits = "0123456789ABCDEF";
-  std::string address = "file:";
-  for (const char byte : file.native()) {
-    const auto value = static_cast<unsigned char>(byte);
-    const bool isPlain = (value >= 'a' && value <= 'z') || (value >= 'A' && value <= 'Z') ||
-                         (value >= '0' && value <= '9') || value == '/';
-    if (isPlain) {
-      address += byte;
-    } else {
-      address.append({'%', digits[value >> 4], digits[value & 15]});
-    }
-  }
-  return address + "?immutable=1";
-}
-
-/// One connection to a database that another program has written, and may have written to do harm.
-class Connection {
- public:
-  Connection(const std::string& name, int flags, std::chrono::seconds longest)
-      : _deadline(Clock::now() + longest) {
-    sqlite3* opened = nullptr;
-    _code = sqlite3_open_v2(name.c_str(), &opened, flags | SQLITE_OPEN_NOFOLLOW, nullptr);
-    _database.reset(opened);
-    if (_code != SQLITE_OK) return;
-    constexpr int stepsBetweenLooks = 10'000;
-    sqlite3_progress_handler(opened, stepsBetweenLooks, &Connection::isOverdue, this);
-    sqlite3_db_config(opened, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_db_config(opened, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    sqlite3_db_config(opened, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
-    run("PRAGMA mmap_size = 0; PRAGMA cell_size_check = 1; PRAGMA temp_store = MEMORY");
-  }
-  Connection(const Connection&) = delete;
-  Connection& operator=(const Connection&) = delete;
-  ~Connection() = default;
-
-  /// After the first failure nothing is run any more.
-  Connection& run(const std::string& statements) {
-    if (_code == SQLITE_OK) {
-      _code = sqlite3_exec(_database.get(), statements.c_str(), nullptr, nullptr, nullptr);
-    }
-    return *this;
-  }
-
-  /// The first value of the first row; empty where there is none.
-  std::string text(const std::string& question, std::string_view value = {}) {
-    if (_code != SQLITE_OK) return {};
-    sqlite3_stmt* prepared = nullptr;
-    _code = sqlite3_prepare_v2(_database.get(), question.c_str(), -1, &prepared, nullptr);
-    const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> statement(prepared,
-                                                                               sqlite3_finalize);
-    if (_code != SQLITE_OK) return {};
-    if (sqlite3_bind_parameter_count(prepared) > 0) {
-      sqlite3_bind_text(prepared, 1, value.data(), static_cast<int>(value.size()),
-                        SQLITE_TRANSIENT);
-    }
-    const int step = sqlite3_step(prepared);
-    if (step != SQLITE_ROW) {
-      if (step != SQLITE_DONE) _code = step;
-      return {};
-    }
-    const unsigned char* answer = sqlite3_column_text(prepared, 0);
-    const auto length = static_cast<std::size_t>(sqlite3_column_bytes(prepared, 0));
-    std::string copy;
-    for (std::size_t at = 0; answer != nullptr && at < length; ++at) {
-      copy += static_cast<char>(answer[at]);
-    }
-    return copy;
-  }
-
-  std::int64_t number(const std::string& question, std::string_view value = {}) {
-    return decimalInteger(text(question, value)).value_or(0);
-  }
-
-  [[nodiscard]] bool hasMoved() const {
-    int moved = 1;
-    sqlite3_file_control(_database.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
-    return moved != 0;
-  }
-
-  [[nodiscard]] bool isFine() const { return _code == SQLITE_OK; }
-  [[nodiscard]] HistoryOutcome outcome() const { return outcomeOf(_code); }
-
- private:
-  static int isOverdue(void* connection) {
-    return Clock::now() > static_cast<Connection*>(connection)->_deadline ? 1 : 0;
-  }
-
-  Clock::time_point _deadline;
-  std::unique_ptr<sqlite3, decltype(&sqlite3_close)> _database{nullptr, sqlite3_close};
-  int _code = SQLITE_OK;
-};
-
-bool hasColumns(Connection& database, std::string_view schema, std::string_view table,
+bool hasColumns(ForeignDatabase& database, std::string_view schema, std::string_view table,
                 std::string_view names) {
   // The names are constants of this file.
   const std::string question = "SELECT count(*) FROM pragma_table_info(?1, '" +
@@ -166,12 +71,12 @@ struct Tables {
   bool hasOtherRanks = false;
 };
 
-bool isThere(Connection& database, std::string_view table) {
+bool isThere(ForeignDatabase& database, std::string_view table) {
   return database.number("SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name = ?1",
                          table) == 1;
 }
 
-Tables tablesOf(Connection& database) {
+Tables tablesOf(ForeignDatabase& database) {
   const auto has = [&](std::string_view table, std::string_view columns) {
     return hasColumns(database, "main", table, columns);
   };
@@ -224,13 +129,13 @@ std::string isKept(const Tables& tables) {
 }
 
 /// Bookmarks whose page is missing. As many as before is none that lost its page.
-std::int64_t strayBookmarks(Connection& database) {
+std::int64_t strayBookmarks(ForeignDatabase& database) {
   return database.number(
       "SELECT count(*) FROM moz_bookmarks WHERE fk IS NOT NULL AND fk NOT IN "
       "(SELECT id FROM moz_places)");
 }
 
-void deleteVisits(Connection& database, const Tables& tables) {
+void deleteVisits(ForeignDatabase& database, const Tables& tables) {
   constexpr std::array<std::string_view, 5> wholeTables{
       "moz_historyvisits_extra", "moz_historyvisits", "moz_inputhistory", "moz_places_metadata",
       "moz_places_metadata_search_queries"};
@@ -242,7 +147,7 @@ void deleteVisits(Connection& database, const Tables& tables) {
   }
 }
 
-void deletePages(Connection& database, const Tables& tables) {
+void deletePages(ForeignDatabase& database, const Tables& tables) {
   database.run("DELETE FROM moz_places WHERE NOT " + isKept(tables));
   std::string ranks = "frecency = CASE WHEN url LIKE 'place:%' THEN 0 ELSE -1 END";
   if (tables.hasAutomaticRanks) ranks += ", recalc_frecency = (url NOT LIKE 'place:%')";
@@ -257,7 +162,7 @@ void deletePages(Connection& database, const Tables& tables) {
 }
 
 /// An icon that every page of a site shares is known by the name of the site.
-void deleteIcons(Connection& database, const Tables& tables) {
+void deleteIcons(ForeignDatabase& database, const Tables& tables) {
   const bool isKnown =
       hasColumns(database, "icons", "moz_pages_w_icons", "'id', 'page_url'") &&
       hasColumns(database, "icons", "moz_icons", "'id', 'icon_url', 'root'") &&
@@ -313,7 +218,7 @@ bool hasOnlyOwnFilesBeside(const Path& database) {
   return true;
 }
 
-HistoryOutcome clearIn(Connection& database, const FirefoxDatabases& databases,
+HistoryOutcome clearIn(ForeignDatabase& database, const FirefoxDatabases& databases,
                        const std::function<bool()>& isStillIt) {
   // What is deleted is overwritten, and nobody else opens the database until it is closed.
   database.run(
@@ -321,23 +226,23 @@ HistoryOutcome clearIn(Connection& database, const FirefoxDatabases& databases,
   const bool takesIcons = databases.icons.has_value();
   if (takesIcons) database.text("ATTACH ?1 AS icons", databases.icons->native());
   database.run("BEGIN EXCLUSIVE");
-  if (!database.isFine()) return database.outcome();
+  if (!database.isFine()) return outcomeOf(database.code());
   if (database.hasMoved() || !isStillIt()) return replaced;
   if (database.text("PRAGMA main.quick_check(1)") != "ok") {
-    return database.isFine() ? damaged : database.outcome();
+    return database.isFine() ? damaged : outcomeOf(database.code());
   }
   const Tables tables = tablesOf(database);
-  if (!tables.isHistory) return database.isFine() ? unknown : database.outcome();
+  if (!tables.isHistory) return database.isFine() ? unknown : outcomeOf(database.code());
 
   const std::int64_t strayBefore = strayBookmarks(database);
   deleteVisits(database, tables);
   deletePages(database, tables);
   if (takesIcons) deleteIcons(database, tables);
   const bool keptBookmarks = strayBookmarks(database) == strayBefore;
-  if (!database.isFine()) return database.outcome();
+  if (!database.isFine()) return outcomeOf(database.code());
   if (!keptBookmarks) return unknown;
   database.run("COMMIT");
-  if (!database.isFine()) return database.outcome();
+  if (!database.isFine()) return outcomeOf(database.code());
   // It has gone by now, whether or not it can be written from the log into the database at once.
   database.text("PRAGMA wal_checkpoint(TRUNCATE)");
   return done;
@@ -347,17 +252,17 @@ HistoryOutcome clearIn(Connection& database, const FirefoxDatabases& databases,
 
 FirefoxHistory readFirefoxHistory(const FirefoxDatabases& databases) {
   if (isTooLarge(databases.places)) return {.outcome = tooLarge};
-  Connection database(addressOfUnchanging(databases.places), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI,
-                      longestReading);
+  ForeignDatabase database(ForeignDatabase::unchanging(databases.places),
+                           SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, longestReading);
   const Tables tables = tablesOf(database);
-  if (!database.isFine()) return {.outcome = database.outcome()};
+  if (!database.isFine()) return {.outcome = outcomeOf(database.code())};
   if (!tables.isHistory) return {.outcome = unknown};
   FirefoxHistory history;
   history.pages = database.number(
       "SELECT count(*) FROM moz_places WHERE id IN (SELECT place_id FROM moz_historyvisits) "
       "OR NOT " +
       isKept(tables));
-  history.outcome = database.outcome();
+  history.outcome = outcomeOf(database.code());
   history.mayHoldMore = bytesAt(beside(databases.places, "-wal")) > 0;
   return history;
 }
@@ -367,7 +272,7 @@ HistoryOutcome clearFirefoxHistory(const FirefoxDatabases& databases,
   if (isTooLarge(databases.places)) return tooLarge;
   if (!hasOnlyOwnFilesBeside(databases.places)) return replaced;
   const auto clear = [&](const FirefoxDatabases& taken) {
-    Connection database(taken.places.native(), SQLITE_OPEN_READWRITE, longestClearing);
+    ForeignDatabase database(taken.places.native(), SQLITE_OPEN_READWRITE, longestClearing);
     // Closing the connection takes back what has not been committed.
     return clearIn(database, taken, isStillIt);
   };

@@ -14,6 +14,7 @@
 #include "engine/place_scanner.h"
 #include "engine/sizes.h"
 #include "platform/file_system.h"
+#include "tools/foreign_database.h"
 
 namespace klarvik {
 namespace {
@@ -44,7 +45,16 @@ std::int64_t occurrences(const FileSystem& files, const Path& path, std::string_
   return count;
 }
 
-std::int64_t countOf(const FileSystem& files, const Path& path, TrailCount count) {
+/// Of a database, none where they cannot be told.
+std::int64_t rowsOf(const FileSystem& files, const Path& path,
+                    std::span<const CountedTable> tables) {
+  const auto counted = std::ranges::find(tables, path.filename().native(), &CountedTable::file);
+  const auto real = counted != tables.end() ? files.realPath(path) : std::nullopt;
+  return real ? rowCount(files.diskPath(*real), counted->table).value_or(0) : 0;
+}
+
+std::int64_t countOf(const FileSystem& files, const Path& path, TrailCount count,
+                     std::span<const CountedTable> tables) {
   switch (count) {
     case TrailCount::none:
       return 0;
@@ -54,6 +64,8 @@ std::int64_t countOf(const FileSystem& files, const Path& path, TrailCount count
       return occurrences(files, path, "\n");
     case TrailCount::bookmarks:
       return occurrences(files, path, "<bookmark ");
+    case TrailCount::rows:
+      return rowsOf(files, path, tables);
   }
   return 0;
 }
@@ -144,7 +156,8 @@ class Search {
         trail.clearing == TrailClearing::emptied || trail.clearing == TrailClearing::asList;
     const bool isEmpty = isFile && attributes->logicalBytes == 0;
     if (staysAsFile && (!isFile || isEmpty)) return;
-    const std::int64_t count = isFile ? countOf(_files, path, trail.count) : 0;
+    const std::int64_t count =
+        isFile ? countOf(_files, path, trail.count, _layout.trails.countedTables) : 0;
     if (trail.clearing == TrailClearing::asList && count == 0) return;
     if (trail.clearing != TrailClearing::told && !isAllowed(path, DeletionScope::trail())) return;
     PrivacyItem& item = itemOf(_items, trail, trail.told);
@@ -152,7 +165,7 @@ class Search {
                   .size = wholeAllocatedSize(_files, path),
                   .identity = entryIdentity(*attributes),
                   .clearing = trail.clearing});
-    item.count += count;
+    item.count = addBytes(item.count, count);
   }
 
   /// The database stays, and as large as it is: Firefox uses the space again.

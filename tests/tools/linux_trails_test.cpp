@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
 
 #include "core/deletion_guard.h"
 #include "firefox_profile.h"
@@ -83,6 +84,28 @@ TEST_F(LinuxTrails, AreOneItemForEachKindAndProgram) {
   EXPECT_THAT(names(), ElementsAre("Browser History — Google Chrome", "Browser History — Firefox",
                                    "Browser Cookies — Google Chrome", "Browser Cookies — Firefox",
                                    "Shell History", "Thumbnails"));
+}
+
+TEST_F(LinuxTrails, OfABrowserAreCountedByTheRowsOfItsDatabases) {
+  makeProfiles();
+  const auto fill = [&](const Path& file, const std::string& table) {
+    std::filesystem::remove(disk.onDisk(file));
+    BrowserDatabase(disk.onDisk(file))
+        .run("CREATE TABLE " + table +
+             " (id INTEGER PRIMARY KEY);"
+             "INSERT INTO " +
+             table + " VALUES (1), (2), (3)");
+  };
+  for (const char* profile : {"Default", "Profile 2"}) {
+    fill(chrome / profile / "History", "urls");
+    fill(chrome / profile / "Network/Cookies", "cookies");
+  }
+  fill(firefox / "cookies.sqlite", "moz_cookies");
+  std::map<std::string, std::int64_t> counts;
+  for (const PrivacyItem& item : scan()) counts[item.name] = item.count;
+  EXPECT_EQ(counts["Browser History — Google Chrome"], 6);
+  EXPECT_EQ(counts["Browser Cookies — Google Chrome"], 6);
+  EXPECT_EQ(counts["Browser Cookies — Firefox"], 3);
 }
 
 TEST_F(LinuxTrails, OfABrowserAreClearedInEveryProfileAndNothingElseOfIt) {

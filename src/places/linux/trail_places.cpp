@@ -68,6 +68,9 @@ constexpr std::array<std::string_view, 1> firefoxHistories{"*/places.sqlite"};
 constexpr std::array<std::string_view, 3> firefoxCookies{"*/cookies.sqlite", "*/cookies.sqlite-wal",
                                                          "*/cookies.sqlite-shm"};
 
+constexpr std::array<CountedTable, 3> countedTables{
+    {{"History", "urls"}, {"Cookies", "cookies"}, {"cookies.sqlite", "moz_cookies"}}};
+
 constexpr std::array<std::string_view, 1> recentList{"recently-used.xbel"};
 constexpr std::array<std::string_view, 1> sandboxedRecentLists{"*/data/recently-used.xbel"};
 constexpr std::array<std::string_view, 1> snapsRecentLists{"*/*/.local/share/recently-used.xbel"};
@@ -141,7 +144,7 @@ constexpr std::array<Trail, 2> pictures{{
 
 constexpr Trail trailOf(const Browser& browser, PrivacyCategory category, Patterns files) {
   return {category, browser.name, browser.base,     browser.folder,
-          files,    removed,      TrailCount::none, browser.program};
+          files,    removed,      TrailCount::rows, browser.program};
 }
 
 constexpr Trail historyTrailOf(const Browser& browser) {
@@ -181,6 +184,7 @@ const TrailPlaces trailPlaces{
     .recentApplications = {},
     .downloadOrigins = {},
     .trails = allTrails,
+    .countedTables = countedTables,
     .originAttributes = originAttributes,
 };
 
