@@ -155,23 +155,44 @@ std::string textOf(const FileSystem& files, const Path& path) {
   return text;
 }
 
-/// Only what names its program by an absolute path can be told to have lost it. One that is on a
-/// volume which is not mounted just now cannot be told from one that is gone, so only the places
-/// of this disk count.
+/// By an absolute path; nothing where the entry names it otherwise, or the path cannot be told.
+std::optional<Path> programOfEntry(std::string_view entry) {
+  auto program = valueInDesktopEntry(entry, "TryExec");  // a path, which may hold blanks
+  if (!program) {
+    program = valueInDesktopEntry(entry, "Exec");  // a command
+    if (program) program = program->substr(0, program->find_first_of(" \t"));
+  }
+  const bool isPlain = program && program->starts_with('/') &&
+                       program->find_first_of("\"'\\%$`") == std::string_view::npos;
+  return isPlain ? std::optional(Path(*program)) : std::nullopt;
+}
+
+/// Looks for the first name on the way to `path` that is not there. One that lies on a volume which
+/// is not mounted just now, or in a folder that may not be looked into, cannot be told from one
+/// that is gone.
+bool isSurelyGone(const FileSystem& files, const Path& path) {
+  constexpr std::array<std::string_view, 4> otherVolumes{"/media/", "/mnt/", "/run/", "/net/"};
+  const bool mayBeElsewhere = std::ranges::any_of(
+      otherVolumes, [&](std::string_view volumes) { return path.native().starts_with(volumes); });
+  if (mayBeElsewhere || files.exists(path) || files.attributes(path)) return false;
+  Path missing = path;
+  while (missing.has_relative_path() && !files.attributes(missing.parent_path())) {
+    missing = missing.parent_path();
+  }
+  // A link to nothing cannot be listed, and an empty folder may be the place of a volume.
+  const auto sisters = files.list(missing.parent_path());
+  return sisters && !sisters->empty() && std::ranges::none_of(*sisters, [&](const Path& each) {
+           return each.filename() == missing.filename();
+         });
+}
+
 bool isProgramOfEntryGone(const Question& asked) {
   const std::string entry = textOf(asked.files(), asked.path);
   if (valueInDesktopEntry(entry, "X-Flatpak") || valueInDesktopEntry(entry, "X-SnapInstanceName")) {
     return false;
   }
-  auto command = valueInDesktopEntry(entry, "TryExec");
-  if (!command) command = valueInDesktopEntry(entry, "Exec");
-  if (!command || !command->starts_with('/')) return false;
-  const std::string program(command->substr(0, command->find(' ')));
-  constexpr std::array<std::string_view, 4> otherVolumes{"/media/", "/mnt/", "/run/", "/net/"};
-  const bool mayBeElsewhere = std::ranges::any_of(
-      otherVolumes, [&](std::string_view volumes) { return program.starts_with(volumes); });
-  return !mayBeElsewhere && program.find_first_of("\"\\%") == std::string::npos &&
-         !asked.files().exists(program);
+  const auto program = programOfEntry(entry);
+  return program && isSurelyGone(asked.files(), *program);
 }
 
 }  // namespace

@@ -452,6 +452,24 @@ TEST_F(LinuxDiskTest, OffersAMenuEntryWhoseProgramIsGone) {
   EXPECT_EQ(paths(CategoryType::systemData), Names{".local/share/applications/gone.desktop"});
 }
 
+TEST_F(LinuxDiskTest, KeepsAMenuEntryWhoseProgramMayBeThere) {
+  const auto entry = [&](const Path& name, const std::string& text) {
+    file(Path(".local/share/applications") / name, 0);
+    std::ofstream(onDisk(Path(".local/share/applications") / name))
+        << "[Desktop Entry]\nType=Application\n"
+        << text;
+  };
+  file("/opt/My App/run", 1);
+  entry("blank.desktop", "TryExec=/opt/My App/run\nExec=\"/opt/My App/run\" %U\n");
+  std::filesystem::create_symlink("/media/ann/disk/games", onDisk("Games"));
+  entry("behind a link.desktop", "Exec=" + (home / "Games/chess/run").native() + "\n");
+  std::filesystem::create_directories(onDisk("Disk"));
+  entry("not mounted.desktop", "Exec=" + (home / "Disk/chess/run").native() + "\n");
+  entry("tab.desktop", "Exec=/opt/tab\t%U\n");
+  file("/opt/tab", 1);
+  EXPECT_EQ(paths(CategoryType::systemData), Names{});
+}
+
 TEST_F(LinuxDiskTest, FindsNothingInAHomeOfSecretsAndOwnThings) {
   const DiskLayout& layout = layoutFor(home);
   const Catalogue catalogue(layout, UserFolders::in(home));
