@@ -190,6 +190,14 @@ void deleteIcons(ForeignDatabase& database, const Tables& tables) {
       "host NOT IN (SELECT 'www.' || host FROM main.moz_origins))");
 }
 
+/// Pages that were visited, or that nothing but the history keeps.
+std::int64_t countPages(ForeignDatabase& database, const Tables& tables) {
+  return database.number(
+      "SELECT count(*) FROM moz_places WHERE id IN (SELECT place_id FROM moz_historyvisits) "
+      "OR NOT " +
+      isKept(tables));
+}
+
 std::int64_t bytesAt(const Path& file) {
   std::error_code error;
   const auto bytes = std::filesystem::file_size(file, error);
@@ -248,23 +256,29 @@ HistoryOutcome clearIn(ForeignDatabase& database, const FirefoxDatabases& databa
   return done;
 }
 
+/// A transaction may be whole on the disk although the system has refused something at its end.
+bool isCleared(const Path& places) {
+  ForeignDatabase database(places.native(), SQLITE_OPEN_READWRITE, longestReading);
+  const Tables tables = tablesOf(database);
+  return tables.isHistory && countPages(database, tables) == 0 && database.isFine();
+}
+
 }  // namespace
 
 FirefoxHistory readFirefoxHistory(const FirefoxDatabases& databases) {
   if (isTooLarge(databases.places)) return {.outcome = tooLarge};
+  FirefoxHistory history;
+  history.mayHoldMore = bytesAt(beside(databases.places, "-wal")) > 0;
   ForeignDatabase database(ForeignDatabase::unchanging(databases.places),
                            SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, longestReading);
   const Tables tables = tablesOf(database);
-  if (!database.isFine()) return {.outcome = outcomeOf(database.code())};
-  if (!tables.isHistory) return {.outcome = unknown};
-  FirefoxHistory history;
-  history.pages = database.number(
-      "SELECT count(*) FROM moz_places WHERE id IN (SELECT place_id FROM moz_historyvisits) "
-      "OR NOT " +
-      isKept(tables));
+  if (tables.isHistory) history.pages = countPages(database, tables);
   history.outcome = outcomeOf(database.code());
-  history.mayHoldMore = bytesAt(beside(databases.places, "-wal")) > 0;
-  return history;
+  if (history.outcome == done && !tables.isHistory) history.outcome = unknown;
+  // What is torn in the file may be whole in the log.
+  if (history.outcome == damaged && history.mayHoldMore)
+    return {.outcome = done, .mayHoldMore = true};
+  return history.outcome == done ? history : FirefoxHistory{.outcome = history.outcome};
 }
 
 HistoryOutcome clearFirefoxHistory(const FirefoxDatabases& databases,
@@ -282,7 +296,7 @@ HistoryOutcome clearFirefoxHistory(const FirefoxDatabases& databases,
   // Icons that cannot be read keep no history.
   const bool mayBeOfTheIcons = outcome == damaged || outcome == unknown;
   if (takesIcons && mayBeOfTheIcons) outcome = clear({databases.places});
-  return outcome;
+  return outcome == failed && isCleared(databases.places) ? done : outcome;
 }
 
 }  // namespace klarvik

@@ -9,7 +9,8 @@
 namespace klarvik {
 
 /// What became of a question or of a change to the databases of a Firefox profile. Unless it is
-/// `done`, nothing has been changed.
+/// `done`, nothing has been changed; only after `failed` may all of a change be on the disk, where
+/// it could not be asked any more.
 enum class HistoryOutcome {
   done,
   inUse,     ///< a program has the database open
@@ -29,7 +30,7 @@ struct FirefoxDatabases {
 struct FirefoxHistory {
   HistoryOutcome outcome = HistoryOutcome::failed;
   std::int64_t pages = 0;    ///< that were visited, or that nothing but the history keeps
-  bool mayHoldMore = false;  ///< Firefox has ended without writing all of them to the file
+  bool mayHoldMore = false;  ///< Firefox has ended, or goes on, without writing all to the file
 };
 
 /// Counts what a history holds. Changes nothing, not even the files beside the database, and waits
@@ -41,7 +42,8 @@ struct FirefoxHistory {
 /// taken out is overwritten in the file. Bookmarks and the pages that they lead to stay.
 ///
 /// `isStillIt` is asked once nobody else can open the database any more, and before anything is
-/// changed; false leaves everything as it is. Whatever fails on the way, the database is as it was.
+/// changed; false leaves everything as it is. Whatever fails on the way, the database is as it was,
+/// or the whole history is gone.
 /// Nothing throws; any thread.
 [[nodiscard]] HistoryOutcome clearFirefoxHistory(const FirefoxDatabases& databases,
                                                  const std::function<bool()>& isStillIt);

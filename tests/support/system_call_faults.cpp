@@ -33,6 +33,7 @@ constexpr auto kWatchedCalls = std::to_array<unsigned>(
      SYS_newfstatat, SYS_fstat,     SYS_getdents64, SYS_mkdirat,    SYS_unlinkat,  SYS_renameat2,
      SYS_renameat,   SYS_linkat,    SYS_symlinkat,  SYS_readlinkat, SYS_fchmodat,  SYS_fchmod,
      SYS_ftruncate,  SYS_fallocate, SYS_fsync,      SYS_fdatasync,  SYS_listxattr, SYS_removexattr,
+     SYS_pread64,    SYS_pwrite64,
 #ifdef SYS_open
      SYS_open,       SYS_stat,      SYS_lstat,      SYS_mkdir,      SYS_rmdir,     SYS_unlink,
      SYS_rename,     SYS_link,      SYS_symlink,    SYS_readlink,   SYS_access,    SYS_chmod,

@@ -118,6 +118,28 @@ TEST_F(FirefoxHistoryTest, ThatACrashLeftInTheLogGoesAsWell) {
   EXPECT_THAT(crashed.contentOf("places.sqlite"), Not(HasSubstr("late.example")));
 }
 
+TEST_F(FirefoxHistoryTest, OfWhichOnlyTheLogIsWholeIsNotCalledDamaged) {
+  const BrowserDatabase open(places);
+  open.run("PRAGMA wal_autocheckpoint = 0; VACUUM");
+  const TemporaryFolder crashed;
+  for (const char* name : {"places.sqlite", "places.sqlite-wal"}) {
+    std::filesystem::copy_file(profile.onDisk(name), crashed.onDisk(name));
+  }
+  const FirefoxDatabases databases{crashed.onDisk("places.sqlite")};
+  // The power failed while the pages of the log were being written into the database.
+  {
+    std::fstream file(databases.places, std::ios::binary | std::ios::in | std::ios::out);
+    file.seekp(4096);
+    file << std::string(60'000, '\x5a');
+  }
+  const FirefoxHistory history = readFirefoxHistory(databases);
+  EXPECT_NE(history.outcome, HistoryOutcome::damaged);
+  EXPECT_TRUE(history.mayHoldMore);
+  EXPECT_EQ(clear(databases), HistoryOutcome::done);
+  EXPECT_THAT(BrowserDatabase(databases.places).rows("SELECT id FROM moz_places"),
+              ElementsAre("3", "4", "5"));
+}
+
 TEST_F(FirefoxHistoryTest, OfAnOpenBrowserIsLeftAlone) {
   const BrowserDatabase open(places);
   for (const char* use :
