@@ -142,8 +142,8 @@ constexpr std::array<std::string_view, 4> homeFolders{
 };
 
 /// What would have a tool act on another machine, or load code that is not its own.
-constexpr std::array<std::string_view, 6> droppedVariables{
-    "DOCKER_HOST",          "DOCKER_CONTEXT", "CONTAINER_HOST",
+constexpr std::array<std::string_view, 7> droppedVariables{
+    "DOCKER_HOST",          "DOCKER_CONTEXT", "BUILDX_BUILDER",  "CONTAINER_HOST",
     "CONTAINER_CONNECTION", "LD_PRELOAD",     "LD_LIBRARY_PATH",
 };
 
