@@ -79,6 +79,23 @@ bool isFlatpakInstalled(const Question& asked) {
          asked.isThere(asked.inBase(Base::data, "flatpak/app") / name);
 }
 
+/// Whether a Flatpak that is in none of its places is installed nowhere. A place that is a link to
+/// nothing, or empty, may be on a volume that is not mounted just now; where there is none at all,
+/// another system that shares the home may have installed it.
+bool knowsAllFlatpaks(const Question& asked) {
+  bool isAny = false;
+  for (const Path& place : {Path("/var/lib/flatpak"), asked.inBase(Base::data, "flatpak")}) {
+    if (!asked.isThere(place)) continue;
+    const auto content = asked.files().list(place);
+    const Path applications = place / "app";
+    const bool isSeen = content && !content->empty() &&
+                        (!asked.isThere(applications) || asked.files().list(applications));
+    if (!isSeen) return false;
+    isAny = true;
+  }
+  return isAny;
+}
+
 /// An administrator may have set up further places of installed applications, which are not known
 /// here.
 bool mayBeInstalledElsewhere(const Question& asked) {
@@ -86,9 +103,11 @@ bool mayBeInstalledElsewhere(const Question& asked) {
   return others && !others->empty();
 }
 
-/// The files of installed snaps, "name_revision.snap"; nothing when they cannot be listed.
+/// The files of installed snaps, "name_revision.snap"; nothing when they cannot be listed. An empty
+/// folder may be the place of a volume that is not mounted just now.
 std::optional<std::vector<Path>> snapFiles(const Question& asked) {
-  return asked.files().list("/var/lib/snapd/snaps");
+  auto files = asked.files().list("/var/lib/snapd/snaps");
+  return files && !files->empty() ? std::move(files) : std::nullopt;
 }
 
 bool isSnapInstalled(const Question& asked) {
@@ -136,12 +155,20 @@ struct VersionedName {
   }
 };
 
+/// A link, or a file that is still empty, takes nobody's place.
+bool mayTakeThePlace(const std::optional<FileAttributes>& sister, const FileAttributes& own) {
+  const bool isSameKind = sister && sister->kind == own.kind;
+  return isSameKind && (own.kind != FileKind::regular || sister->logicalBytes > 0);
+}
+
 bool hasNewerSister(const Question& asked) {
   const VersionedName own(asked.path.filename().native());
+  const auto self = asked.files().attributes(asked.path);
   const auto sisters = asked.files().list(asked.path.parent_path()).value_or(std::vector<Path>{});
   return std::ranges::any_of(sisters, [&](const Path& each) {
     const VersionedName other(each.filename().native());
-    return other.text == own.text && other.numbers > own.numbers;
+    return self && other.text == own.text && other.numbers > own.numbers &&
+           mayTakeThePlace(asked.files().attributes(each), *self);
   });
 }
 
@@ -245,7 +272,8 @@ bool conditionHolds(const Platform& platform, const Catalogue& catalogue, const 
     case Condition::flatpakInstalled:
       return isFlatpakInstalled(asked) || mayBeInstalledElsewhere(asked);
     case Condition::flatpakGone:
-      return !isFlatpakInstalled(asked) && !mayBeInstalledElsewhere(asked);
+      return !isFlatpakInstalled(asked) && knowsAllFlatpaks(asked) &&
+             !mayBeInstalledElsewhere(asked);
     case Condition::snapInstalled:
       return isSnapInstalled(asked);
     case Condition::snapGone:

@@ -179,6 +179,31 @@ TEST_F(LinuxDiskTest, TakesTheDataOfASnapForALeftoverOnlyWhenItIsKnownToBeGone) 
   EXPECT_EQ(paths(CategoryType::systemData), (Names{"snap/gone", "snap/there/12"}));
 }
 
+TEST_F(LinuxDiskTest, TakesNoDataForALeftoverWhereWhatIsInstalledMayBeOnAVolumeThatIsNotThere) {
+  file(".var/app/org.acme.Writer/data/x", big);
+  file("snap/ink/common/x", big);
+  EXPECT_EQ(paths(CategoryType::systemData), Names{}) << "a home that two systems share";
+  folder("/var/lib/flatpak");
+  folder("/var/lib/snapd/snaps");
+  EXPECT_EQ(paths(CategoryType::systemData), Names{}) << "places to mount on";
+  folder("/var/lib/flatpak/app/org.acme.Reader");
+  file("/var/lib/snapd/snaps/core_1.snap", 1);
+  link(".local/share/flatpak", "/media/ann/disk/flatpak");
+  EXPECT_EQ(paths(CategoryType::systemData), Names{"snap/ink"}) << "a link to what is unplugged";
+  std::filesystem::remove(onDisk(".local/share/flatpak"));
+  EXPECT_EQ(paths(CategoryType::systemData), (Names{".var/app/org.acme.Writer", "snap/ink"}));
+}
+
+TEST_F(LinuxDiskTest, TakesNothingForOlderThanWhatCannotTakeItsPlace) {
+  file("Applications/Ink-1.2.AppImage", big);
+  link("Applications/Ink-1.3.AppImage", "gone");
+  file("Applications/Ink-1.4.AppImage", 0);
+  folder("Applications/Ink-1.5.AppImage");
+  EXPECT_EQ(paths(CategoryType::installedPackages), Names{});
+  file("Applications/Ink-1.6.AppImage", big);
+  EXPECT_EQ(paths(CategoryType::installedPackages), Names{"Applications/Ink-1.2.AppImage"});
+}
+
 TEST_F(LinuxDiskTest, TellsWhatOnlyItsOwnToolCanRemove) {
   file("go/pkg/mod/x/file", big);
   const CleanCategory found = find(CategoryType::packageCaches);
