@@ -47,6 +47,10 @@ std::string textOf(const LeftAlone& leftAlone) {
                QT_TRANSLATE_N_NOOP("Removal",
                                    "%n items are still there: the tools that remove them failed, "
                                    "were refused, or found nothing to remove.")),
+      sentence(leftAlone.notMoved,
+               QT_TRANSLATE_NOOP("Removal", "1 item was not moved: the Trash could not take it."),
+               QT_TRANSLATE_N_NOOP("Removal",
+                                   "%n items were not moved: the Trash could not take them.")),
   };
   std::string text;
   for (const std::string& next : sentences) {

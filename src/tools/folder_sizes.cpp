@@ -52,6 +52,7 @@ class FolderMeasurement {
     for (Id folder = static_cast<Id>(_sizes._folders.size()) - 1; folder > 0; --folder) {
       Folder& above = _sizes._folders[_sizes._folders[folder].above];
       above.bytes = addBytes(above.bytes, _sizes._folders[folder].bytes);
+      above.hasOtherNames = above.hasOtherNames || _sizes._folders[folder].hasOtherNames;
     }
     return std::move(_sizes);
   }
@@ -135,6 +136,7 @@ class FolderMeasurement {
     const std::int64_t bytes = isAnotherName(attributes) ? 0 : attributes.allocatedBytes;
     Folder& folder = _sizes._folders[_listed];
     folder.bytes = addBytes(folder.bytes, bytes);
+    folder.hasOtherNames = folder.hasOtherNames || attributes.names > 1;
     _counted = addBytes(_counted, bytes);
     ++folder.smallerFiles;
     folder.smallerBytes = addBytes(folder.smallerBytes, bytes);
@@ -151,6 +153,7 @@ class FolderMeasurement {
 
   static Entry entryOf(const FileAttributes& attributes, std::int64_t bytes) {
     Entry entry{.kind = attributes.kind, .created = untold, .bytes = bytes};
+    entry.hasOtherNames = attributes.kind != FileKind::directory && attributes.names > 1;
     if (attributes.identity) {
       entry.device = attributes.identity->device;
       entry.inode = attributes.identity->inode;
@@ -228,7 +231,9 @@ Path FolderSizes::path(Id folder) const {
 }
 
 FolderSizes::Row FolderSizes::rowOf(Id holds, const Entry& entry) const {
-  Row row{.name = std::string(nameOf(entry)), .bytes = entry.bytes};
+  Row row{.name = std::string(nameOf(entry)),
+          .bytes = entry.bytes,
+          .hasOtherNames = entry.hasOtherNames};
   row.path = holds == top ? Path(row.name) : path(holds) / row.name;
   row.identity = EntryIdentity{.file = {.device = entry.device, .inode = entry.inode},
                                .created = entry.created == untold

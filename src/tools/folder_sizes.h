@@ -38,6 +38,8 @@ class FolderSizes {
     std::size_t things = 1;      ///< how many are told together
     /// As it was met, before it was measured.
     std::optional<EntryIdentity> identity{};
+    /// It is a file that has another name, or holds one: its space may not come back with it.
+    bool hasOtherNames = false;
   };
 
   /// Sees the bytes that were counted so far.
@@ -73,6 +75,7 @@ class FolderSizes {
     std::uint16_t nameLength = 0;
     FileKind kind = FileKind::directory;
     bool isGone = false;
+    bool hasOtherNames = false;
     // The parts of an `EntryIdentity`, which has gaps.
     std::uint64_t device = 0;
     std::uint64_t inode = 0;

@@ -4870,6 +4870,17 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
             <numerusform>%n Objekte sind noch da: Die Werkzeuge, die sie entfernen, sind gescheitert, wurden abgewiesen oder fanden nichts zu entfernen.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>1 item was not moved: the Trash could not take it.</source>
+        <translation>1 Objekt wurde nicht verschoben: Der Papierkorb konnte es nicht aufnehmen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were not moved: the Trash could not take them.</source>
+        <translation>
+            <numerusform>%n Objekt wurde nicht verschoben: Der Papierkorb konnte es nicht aufnehmen.</numerusform>
+            <numerusform>%n Objekte wurden nicht verschoben: Der Papierkorb konnte sie nicht aufnehmen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RemovalAdvice</name>
@@ -5449,10 +5460,6 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
         <translation>Ordner werden gelesen: bisher %1</translation>
     </message>
     <message>
-        <source>Nothing in here that you may read.</source>
-        <translation>Hier ist nichts, was Sie lesen dürfen.</translation>
-    </message>
-    <message>
         <source>Move “%1” to Trash?</source>
         <translation>„%1“ in den Papierkorb verschieben?</translation>
     </message>
@@ -5491,6 +5498,14 @@ Abschalten lässt sich diese Warnung unter „Einstellungen → Allgemein“.</t
     <message>
         <source>Two cleans are needed before a trend means anything.</source>
         <translation>Um einen Verlauf zu zeigen, braucht es zwei Bereinigungen.</translation>
+    </message>
+    <message>
+        <source>Nothing in here takes space, as far as you may look.</source>
+        <translation>Hier belegt nichts Platz, soweit Sie hineinsehen dürfen.</translation>
+    </message>
+    <message>
+        <source>This frees up to %1 once the Trash is emptied: some of it has another name, which may be elsewhere. Nothing is removed permanently.</source>
+        <translation>Das gibt bis zu %1 frei, sobald der Papierkorb geleert wird: Manches davon hat einen weiteren Namen, der anderswo liegen kann. Endgültig gelöscht wird nichts.</translation>
     </message>
 </context>
 <context>

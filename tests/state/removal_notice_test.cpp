@@ -46,6 +46,14 @@ TEST(RemovalNotice, SaysThatAToolHasNotRemovedWhatItShould) {
             "to remove.");
 }
 
+TEST(RemovalNotice, SaysThatTheTrashHasNotTakenWhatWasPicked) {
+  RemovalNotice notice;
+  LeftAlone two;
+  two.notMoved = 2;
+  notice.tell(two);
+  EXPECT_EQ(notice.text(), "2 items were not moved: the Trash could not take them.");
+}
+
 TEST(RemovalNotice, StaysUntilItIsDismissed) {
   RemovalNotice notice;
   LeftAlone one;

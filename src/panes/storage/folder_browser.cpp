@@ -50,7 +50,8 @@ FolderBrowser::FolderBrowser(SharedState& shared, const Desktop& desktop, QObjec
     : QAbstractListModel(parent),
       _desktop(desktop),
       _measure(measure ? std::move(measure) : measureTheDisk(desktop.files)),
-      _removal(desktop, shared.removalNotice(), &shared.lastRemoval()),
+      _notice(shared.removalNotice()),
+      _removal(desktop, _notice, &shared.lastRemoval()),
       _measurement(desktop.clock) {
   connect(&_removal, &PickedFilesRemoval::changed, this, &FolderBrowser::removalChanged);
   connect(&_removal, &PickedFilesRemoval::restored, this, [this] {
@@ -212,7 +213,8 @@ QString FolderBrowser::status() const {
     return translate("Storage", "Reading folders: %1 so far")
         .arg(byteText(_counted, _desktop.formatting));
   }
-  if (_rows.empty()) return translate("Storage", "Nothing in here that you may read.");
+  if (_rows.empty())
+    return translate("Storage", "Nothing in here takes space, as far as you may look.");
   return byteText(_sizes.bytes(_folder), _desktop.formatting);
 }
 
@@ -298,9 +300,14 @@ QString FolderBrowser::confirmationTitle() const {
 
 QString FolderBrowser::confirmationMessage() const {
   if (!_asked) return {};
-  return translate("Kit",
-                   "This frees %1 once the Trash is emptied. Nothing is removed permanently.")
-      .arg(byteText(_asked->row.bytes, _desktop.formatting));
+  const QString text =
+      _asked->row.hasOtherNames
+          ? translate("Storage",
+                      "This frees up to %1 once the Trash is emptied: some of it has another name, "
+                      "which may be elsewhere. Nothing is removed permanently.")
+          : translate("Kit",
+                      "This frees %1 once the Trash is emptied. Nothing is removed permanently.");
+  return text.arg(byteText(_asked->row.bytes, _desktop.formatting));
 }
 
 QCoro::Task<> FolderBrowser::trash(Asked asked) {
@@ -308,7 +315,14 @@ QCoro::Task<> FolderBrowser::trash(Asked asked) {
                         asked.row.identity};
   auto pick = [file](LeftAlone&) { return PickedFilesRemoval::Pick{{file}}; };
   const std::set<Path> moved = co_await _removal.trash(1, std::move(pick));
-  if (moved.empty()) co_return;
+  if (moved.empty()) {
+    LeftAlone leftAlone;
+    // Of another thing in its place the removal has told.
+    const bool isStillIt = entryIdentity(_desktop.files, asked.row.path) == asked.row.identity;
+    leftAlone.notMoved = isStillIt ? 1 : 0;
+    _notice.tell(leftAlone);
+    co_return;
+  }
   // Another area may have been opened meanwhile, whose folders have other numbers.
   if (_isOpen && !isMeasuring() && asked.opening == _openings) {
     _sizes.remove(asked.folder, asked.row.path);

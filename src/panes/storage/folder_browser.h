@@ -140,6 +140,7 @@ class FolderBrowser : public QAbstractListModel {
   Path _shownNext;  ///< once it is measured; empty for the top of the area
   std::vector<FolderSizes::Row> _rows;
   std::optional<Asked> _asked;
+  RemovalNotice& _notice;
   PickedFilesRemoval _removal;
   EngineRun _measurement;
 };

@@ -170,6 +170,46 @@ TEST_F(FolderBrowserTest, AnotherThingUnderTheNameStays) {
   EXPECT_EQ(browser.rowCount(), 2);
 }
 
+TEST_F(FolderBrowserTest, AFolderThatIsEmptyByNowIsNotCalledUnreadable) {
+  ASSERT_TRUE(openDocuments());
+  browser.activate(2);
+  ASSERT_EQ(names(), QStringList{"a"});
+  browser.requestTrash(0);
+  browser.confirmTrash();
+  ASSERT_TRUE(turnUntil([this] { return !browser.isDeleting() && browser.rowCount() == 0; }));
+  EXPECT_EQ(browser.status(), "Nothing in here takes space, as far as you may look.");
+}
+
+TEST_F(FolderBrowserTest, PromisesNoMoreThanUpToWhatHasNamesElsewhere) {
+  std::filesystem::create_hard_link(desk.disk.onDisk(linuxHome / "Documents/films/long"),
+                                    desk.disk.onDisk(linuxHome / "long"));
+  ASSERT_TRUE(openDocuments());
+  const auto promise = [this](int row) {
+    browser.requestTrash(row);
+    const QString text = browser.confirmationMessage();
+    browser.cancelTrash();
+    return text;
+  };
+  EXPECT_TRUE(promise(0).startsWith("This frees up to 10")) << promise(0).toStdString();
+  EXPECT_TRUE(promise(1).startsWith("This frees 4")) << promise(1).toStdString();
+  browser.activate(0);
+  EXPECT_TRUE(promise(0).startsWith("This frees up to 8"));
+  EXPECT_TRUE(promise(1).startsWith("This frees 2"));
+}
+
+TEST_F(FolderBrowserTest, WhatTheTrashCannotTakeStaysAndTheUserIsTold) {
+  const Path trash = linuxHome / ".local/share/Trash";
+  std::filesystem::remove_all(desk.disk.onDisk(trash));
+  desk.disk.makeFile(trash, 1);
+  ASSERT_TRUE(openDocuments());
+  browser.requestTrash(1);
+  browser.confirmTrash();
+  ASSERT_TRUE(turnUntil([this] { return !browser.isDeleting(); }));
+  EXPECT_TRUE(isThere("Documents/music/a"));
+  EXPECT_EQ(browser.rowCount(), 3);
+  EXPECT_EQ(shared.removalNotice().text(), "1 item was not moved: the Trash could not take it.");
+}
+
 TEST_F(FolderBrowserTest, OffersNothingThatTheRulesKeep) {
   makeFile(".ssh/id", 1);
   makeFile(".config/writer/a", 2);
