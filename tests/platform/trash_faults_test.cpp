@@ -480,6 +480,21 @@ TEST_F(TrashSwaps, AWriteCutShortWhileTheRecordIsWrittenTheOriginalStaysNoOrphan
   EXPECT_EQ(countIn(kInfo), 0u);
 }
 
+TEST_F(TrashSwaps, TheMoveFailsTheRecordGoesAgain) {
+  for (const int error : {EIO, EXDEV, EBUSY, EACCES, ENOSPC, EPERM}) {
+    SCOPED_TRACE(error);
+    makeHomeAnew();
+    const FaultyRun run = runWithFault({}, [&] {
+      for (const long call : {SYS_renameat2, SYS_renameat}) refuseSystemCall(call, error);
+      return !trash.moveToTrash(kItem, anywhere);
+    });
+    EXPECT_TRUE(run.answer);
+    EXPECT_TRUE(isWholeAt(kItem));
+    EXPECT_EQ(countIn(kInfo), 0u);
+    EXPECT_EQ(countIn(kFiles), 0u);
+  }
+}
+
 TEST_F(TrashSwaps, HandlesRunOutTheOriginalStaysNoOrphan) {
   for (rlim_t handles = 3; handles < 20; ++handles) {
     makeHomeAnew();

@@ -118,5 +118,35 @@ TEST_F(FirefoxHistorySweep, ABookmarkInTheLogOfACrashIsLostAtNoStep) {
   sweep(Log::leftByACrash, Kind::failsFromThere, ENOSPC);
 }
 
+TEST_F(FirefoxHistorySweep, AnotherDatabaseUnderTheNameAtEveryStepStaysAsItIs) {
+  int calls = 0;
+  for (bool reached = true; reached && !HasFailure(); ++calls) {
+    SCOPED_TRACE("at call " + std::to_string(calls + 1));
+    const Profile profile(Log::writtenBack);
+    const TemporaryFolder other{"/dev/shm"};
+    other.makeFile("places.sqlite", std::string_view(firefoxPlaces()));
+    const Path aside = profile.aside.onDisk("places.sqlite");
+    const auto swap = [&] {
+      std::filesystem::rename(profile.places, aside);
+      std::filesystem::rename(other.onDisk("places.sqlite"), profile.places);
+    };
+    const auto isMeant = [&] { return !std::filesystem::exists(aside); };
+    const FaultyRun run = runWithFault(
+        {.kind = Kind::disturbed, .at = calls + 1, .error = 0, .disturbance = swap}, [&] {
+          return clearFirefoxHistory({profile.places, profile.icons}, isMeant) ==
+                 HistoryOutcome::done;
+        });
+    reached = run.reached;
+    if (!reached) continue;
+    EXPECT_EQ(profile.folder.contentOf("places.sqlite"), firefoxPlaces());
+    const BrowserDatabase meant(aside);
+    EXPECT_THAT(meant.rows("PRAGMA integrity_check"), ElementsAre("ok"));
+    EXPECT_EQ(meant.rows("SELECT id FROM moz_historyvisits").size(), run.answer ? 0U : 4U);
+    EXPECT_EQ(meant.rows("SELECT count(*) FROM moz_bookmarks b JOIN moz_places p ON p.id = b.fk"),
+              Rows{"2"});
+  }
+  EXPECT_GT(calls, 50);
+}
+
 }  // namespace
 }  // namespace klarvik

@@ -101,6 +101,34 @@ TEST_F(FirefoxHistoryTest, OfABookmarkThatFirefoxForgotToCountLeavesItsPage) {
   EXPECT_THAT(rows("SELECT id FROM moz_places"), ElementsAre("3", "4", "5"));
 }
 
+TEST_F(FirefoxHistoryTest, OfAPageThatOnlyANoteKeepsLeavesThePage) {
+  BrowserDatabase(places).run(
+      "INSERT INTO moz_annos VALUES (3, 1, 2, 'a note of a page without a bookmark')");
+  EXPECT_EQ(clear(), HistoryOutcome::done);
+  EXPECT_THAT(rows("SELECT id FROM moz_places"), ElementsAre("1", "3", "4", "5"));
+  EXPECT_THAT(rows("SELECT id FROM moz_annos"), ElementsAre("2", "3"));
+}
+
+TEST_F(FirefoxHistoryTest, IsLockedAgainstOthersBeforeItIsAskedAbout) {
+  const auto isLocked = [&](const Path& file) {
+    sqlite3* opened = nullptr;
+    EXPECT_EQ(sqlite3_open(file.c_str(), &opened), SQLITE_OK);
+    const int code = sqlite3_exec(opened, "SELECT * FROM sqlite_master", nullptr, nullptr, nullptr);
+    sqlite3_close(opened);
+    return code == SQLITE_BUSY;
+  };
+  makeIcons(icons);
+  int asked = 0;
+  const auto outcome = clearFirefoxHistory({places, icons}, [&] {
+    ++asked;
+    EXPECT_TRUE(isLocked(places));
+    EXPECT_TRUE(isLocked(icons));
+    return true;
+  });
+  EXPECT_EQ(outcome, HistoryOutcome::done);
+  EXPECT_EQ(asked, 1);
+}
+
 TEST_F(FirefoxHistoryTest, ThatACrashLeftInTheLogGoesAsWell) {
   const BrowserDatabase open(places);
   open.run("PRAGMA wal_autocheckpoint = 0");
@@ -191,6 +219,17 @@ TEST_F(FirefoxHistoryTest, ThatIsCutOffOrOverwrittenIsLeftAlone) {
   makePlaces(profile.onDisk("other.sqlite"));
   std::filesystem::rename(profile.onDisk("other.sqlite"), places);
   std::filesystem::resize_file(places, static_cast<std::uintmax_t>(whole / 2));
+  expectUntouched(HistoryOutcome::damaged);
+}
+
+TEST_F(FirefoxHistoryTest, IsLeftAloneWhereAnyOtherTableIsDamaged) {
+  BrowserDatabase(places).run(
+      "CREATE TABLE moz_other (text TEXT);"
+      "WITH RECURSIVE numbers(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM numbers WHERE n < 2000) "
+      "INSERT INTO moz_other SELECT 'marker' || n FROM numbers");
+  const std::size_t at = profile.contentOf("places.sqlite").find("marker1000");
+  ASSERT_NE(at, std::string::npos);
+  damage(static_cast<std::int64_t>(at / 4096 * 4096), 100);
   expectUntouched(HistoryOutcome::damaged);
 }
 
