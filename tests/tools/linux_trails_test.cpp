@@ -135,7 +135,9 @@ TEST_F(LinuxTrails, OfClipboardManagersAreToldWhereTheDesktopHoldsThemOrPeopleKe
                                home / ".local/share/kactivitymanagerd/resources/database"};
   for (const Path& file : kept) disk.makeFile(file, 3'000);
   const Path gpaste = home / ".local/share/gpaste/history.xml";
+  const Path named = home / ".local/share/gpaste/recipes.xml";
   disk.makeFile(gpaste, 3'000);
+  disk.makeFile(named, 3'000);
   const auto found = scan();
   EXPECT_EQ(
       std::ranges::count_if(found, [](const PrivacyItem& item) { return !item.told.empty(); }), 5);
@@ -147,6 +149,7 @@ TEST_F(LinuxTrails, OfClipboardManagersAreToldWhereTheDesktopHoldsThemOrPeopleKe
   programs.running = {};
   EXPECT_EQ(scanner.clear(found).cleaned, 1);
   EXPECT_FALSE(isThere(gpaste));
+  EXPECT_TRUE(isThere(named));
   for (const Path& file : kept) EXPECT_TRUE(isThere(file)) << file;
 }
 

@@ -79,7 +79,8 @@ constexpr std::array<std::string_view, 1> usedApplications{"application_state"};
 constexpr std::array<std::string_view, 1> activities{"activity.sqlite*"};
 constexpr std::array<std::string_view, 1> downloadedSites{".wget-hsts"};
 constexpr std::array<std::string_view, 1> clipboardDatabase{"db"};
-constexpr std::array<std::string_view, 1> gpasteHistory{"*.xml"};
+// Histories with other names are those that somebody keeps.
+constexpr std::array<std::string_view, 1> gpasteHistory{"history.xml"};
 constexpr std::array<std::string_view, 1> clipmanHistory{"clipman.json"};
 constexpr std::array<std::string_view, 1> klipperHistory{"history*"};
 constexpr std::array<std::string_view, 1> indicatorHistory{"registry.txt"};
