@@ -279,6 +279,26 @@ TEST_F(Lists, AnswerEveryKeyThatMovesThroughThem) {
   }
 }
 
+TEST_F(Lists, MakeRowsThatComeAtOnceAFewInEachFrame) {
+  QQuickItem* list = showList();
+  const auto rowsMade = [&] {
+    const auto rows = list->property("contentItem").value<QQuickItem*>()->childItems();
+    return std::ranges::count_if(
+        rows, [](QQuickItem* row) { return row->property("isMarked").isValid(); });
+  };
+  const auto inSight = static_cast<int>(list->height() / currentRow(list)->height());
+  ASSERT_GT(inSight, 5);
+  EXPECT_GT(rowsMade(), 0);
+  EXPECT_LE(rowsMade(), 5);
+  for (int frame = 0; frame < inSight && rowsMade() < inSight; ++frame) {
+    const auto before = rowsMade();
+    motion.moveOn(std::chrono::milliseconds(16));
+    settle();
+    EXPECT_LE(rowsMade(), before + 5);
+  }
+  EXPECT_GE(rowsMade(), inSight);
+}
+
 TEST_F(Lists, TakeAHeldKeyForOnePress) {
   QQuickItem* list = showList();
   QSignalSpy activations(list, SIGNAL(activated(int)));
