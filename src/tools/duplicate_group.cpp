@@ -31,13 +31,8 @@ bool isOlder(const DuplicateFile& candidate, const DuplicateFile& best) {
   return candidate.modifiedDate.value_or(Date::max()) < best.modifiedDate.value_or(Date::max());
 }
 
-auto depth(const DuplicateFile& file) {
-  const Path path = file.url;
-  return std::distance(path.begin(), path.end());
-}
-
 bool isShallower(const DuplicateFile& candidate, const DuplicateFile& best) {
-  return depth(candidate) < depth(best);
+  return candidate.url.partCount() < best.url.partCount();
 }
 
 struct Rule {

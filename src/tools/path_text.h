@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -31,6 +33,17 @@ class PathText {
 
   [[nodiscard]] std::string native() const { return folder() + _name; }
   [[nodiscard]] Path filename() const { return _name; }
+  /// How many parts a `Path` of this text has: the root, and each name.
+  [[nodiscard]] std::size_t partCount() const {
+    std::size_t count = folder().starts_with('/') ? 1 : 0;
+    char before = '/';
+    for (const char each : folder()) {
+      if (each != '/' && before == '/') ++count;
+      before = each;
+    }
+    // What ends with a slash has an empty name at its end, unless it is the root.
+    return count + (!_name.empty() || count > 1 ? 1 : 0);
+  }
 
   bool operator==(const PathText& other) const {
     return _name == other._name && (_folder == other._folder || folder() == other.folder());

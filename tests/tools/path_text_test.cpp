@@ -2,18 +2,21 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <unordered_set>
 
 namespace klarvik {
 namespace {
 
 TEST(PathTextTest, IsTheVeryBytesOfThePath) {
-  for (const char* text :
-       {"/", "/a", "/a/b", "/a/b/", "a", "a/b", "", "//a", "/a//b", "/a/\xff\n"}) {
+  for (const char* text : {"/", "/a", "/a/b", "/a/b/", "a", "a/b", "", "//a", "/a//b", "/a/b/c d/e",
+                           "b/c/", "/a/\xff\n"}) {
     const PathText path = text;
     EXPECT_EQ(path.native(), text);
     EXPECT_EQ(path, text);
     EXPECT_EQ(Path(path).native(), text);
+    const Path parts = text;
+    EXPECT_EQ(path.partCount(), std::distance(parts.begin(), parts.end())) << text;
   }
 }
 
