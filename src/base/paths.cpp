@@ -25,7 +25,7 @@ bool isBelow(std::string_view path, std::string_view folder) {
   return path.size() > above.size() + 1 && path.starts_with(above) && path[above.size()] == '/';
 }
 
-std::filesystem::path standardizedPath(const std::filesystem::path& path) {
+Path standardizedPath(const Path& path) {
   const bool absolute = path.native().starts_with('/');
   std::vector<std::string_view> kept;
   for (const std::string_view piece : splitPath(path.native())) {

@@ -6,6 +6,9 @@
 
 namespace klarvik {
 
+/// A path holds the bytes of the names as the disk has them; they need not be UTF-8.
+using Path = std::filesystem::path;
+
 // The text of paths. No file is touched, and no link is followed.
 
 /// Takes the first component off `text`; an empty one when there is none.
@@ -16,6 +19,6 @@ namespace klarvik {
 [[nodiscard]] bool isBelow(std::string_view path, std::string_view folder);
 /// `path` made absolute in form only: "." and ".." resolved, doubled and trailing slashes dropped.
 /// A relative path stays relative.
-[[nodiscard]] std::filesystem::path standardizedPath(const std::filesystem::path& path);
+[[nodiscard]] Path standardizedPath(const Path& path);
 
 }  // namespace klarvik

@@ -244,6 +244,17 @@ bool isUtf8(std::string_view bytes) {
   return sound;
 }
 
+bool isPlainName(std::string_view name, std::string_view marks) {
+  const auto isLetterOrDigit = [](char each) {
+    return (each >= 'a' && each <= 'z') || (each >= 'A' && each <= 'Z') ||
+           (each >= '0' && each <= '9');
+  };
+  return !name.empty() && isLetterOrDigit(name.front()) &&
+         std::ranges::all_of(name, [&](char each) {
+           return isLetterOrDigit(each) || marks.find(each) != std::string_view::npos;
+         });
+}
+
 std::string printable(std::string_view bytes) {
   std::string result;
   std::size_t next = 0;

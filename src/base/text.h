@@ -59,6 +59,10 @@ template <std::integral Number>
 
 [[nodiscard]] bool isUtf8(std::string_view bytes);
 
+/// Whether `name` holds letters, digits and `marks` alone, and begins with a letter or a digit: a
+/// program takes what begins with "-" for an option.
+[[nodiscard]] bool isPlainName(std::string_view name, std::string_view marks);
+
 /// How a name of the disk is made fit for the screen: U+FFFD stands for every sequence that is not
 /// UTF-8, and for every character that would break the line in two or turn the text around it the
 /// other way.

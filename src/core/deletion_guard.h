@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/message.h"
-#include "platform/path.h"
+#include "base/paths.h"
 #include "platform/user_folders.h"
 
 namespace klarvik {

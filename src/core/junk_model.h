@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "base/message.h"
+#include "base/paths.h"
 #include "core/uuid.h"
 #include "places/category_type.h"
 #include "platform/clock.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

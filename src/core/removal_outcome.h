@@ -5,8 +5,8 @@
 #include <functional>
 #include <optional>
 
+#include "base/paths.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

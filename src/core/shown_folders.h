@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/path.h"
+#include "base/paths.h"
 #include "platform/user_folders.h"
 
 namespace klarvik {

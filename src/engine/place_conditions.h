@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "core/catalogue.h"
 #include "places/place.h"
 #include "platform/clock.h"
-#include "platform/path.h"
 #include "platform/platform.h"
 
 namespace klarvik {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 namespace klarvik {
 

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "core/catalogue.h"
 #include "places/place.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <stop_token>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 namespace klarvik {
 

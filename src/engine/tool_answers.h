@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 /// What tools print, when they are asked in English for what they would remove. Pure functions.
 /// What is not as expected is not there: nothing is ever taken for a name, a folder or a size that

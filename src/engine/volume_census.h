@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "base/paths.h"
 #include "places/system_data_places.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

@@ -4,16 +4,17 @@
 #include <span>
 #include <string_view>
 
+#include "base/paths.h"
 #include "places/application_places.h"
 #include "places/category_type.h"
+#include "places/colors.h"
 #include "places/guard_rules.h"
 #include "places/place.h"
-#include "places/storage_share.h"
 #include "places/system_data_places.h"
 #include "places/tool.h"
 #include "places/trail_places.h"
 #include "places/words.h"
-#include "platform/path.h"
+#include "platform/user_folders.h"
 
 namespace klarvik {
 
@@ -42,6 +43,20 @@ struct ProgramLock {
 struct FileKindName {
   std::string_view name;
   std::span<const std::string_view> extensions;  ///< lower case, without the dot
+};
+
+/// A share of the disk in the coarse terms that a person thinks in.
+struct StorageShare {
+  std::string_view id;
+  std::string_view label;
+  RgbColor color;
+  /// Below the home unless absolute. What several places take together has no folder to open.
+  std::span<const std::string_view> places{};
+  /// One of the folders that the user sees, in the place of `places`.
+  Path UserFolders::*shown = nullptr;
+  /// More places, by patterns. Of two shares, what lies deeper belongs to the place that is deeper.
+  std::span<const PlacePattern> patterns{};
+  bool holdsArtifacts = false;  ///< what builds left in the projects of the user
 };
 
 /// Everything that one system's disks have in common: what lies where, what may go, and how things

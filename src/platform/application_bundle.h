@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 namespace klarvik {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "base/paths.h"
 #include "platform/clock.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 #include "platform/user_folders.h"
 
 namespace klarvik {

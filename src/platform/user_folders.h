@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 namespace klarvik {
 

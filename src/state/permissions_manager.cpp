@@ -5,10 +5,10 @@
 #include <chrono>
 #include <utility>
 
+#include "base/paths.h"
 #include "places/disk_layout.h"
 #include "platform/desktop_services.h"
 #include "platform/file_system.h"
-#include "platform/path.h"
 #include "state/set_if_changed.h"
 #include "state/timers.h"
 

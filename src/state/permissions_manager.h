@@ -7,7 +7,7 @@
 #include <stop_token>
 #include <vector>
 
-#include "platform/path.h"
+#include "base/paths.h"
 #include "platform/platform.h"
 #include "state/timers.h"
 

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "base/message.h"
+#include "base/paths.h"
 #include "core/uuid.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 #include "systemdata/system_data_sub_category.h"
 
 namespace klarvik {

@@ -10,11 +10,11 @@
 #include <vector>
 
 #include "base/message.h"
+#include "base/paths.h"
 #include "core/uuid.h"
 #include "places/application_places.h"
 #include "places/package_manager.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 namespace klarvik {
 

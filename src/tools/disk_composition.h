@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "base/paths.h"
 #include "places/colors.h"
 #include "platform/clock.h"
-#include "platform/path.h"
 #include "platform/platform.h"
 
 namespace klarvik {

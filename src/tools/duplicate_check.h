@@ -4,8 +4,8 @@
 #include <stop_token>
 #include <string_view>
 
+#include "base/paths.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

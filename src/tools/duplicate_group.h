@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "core/uuid.h"
 #include "platform/clock.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 #include "tools/path_text.h"
 
 namespace klarvik {

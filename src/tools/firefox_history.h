@@ -4,7 +4,7 @@
 #include <functional>
 #include <optional>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 namespace klarvik {
 

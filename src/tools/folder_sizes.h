@@ -11,8 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

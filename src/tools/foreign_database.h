@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 struct sqlite3;
 

@@ -9,11 +9,11 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "core/uuid.h"
 #include "platform/clock.h"
 #include "platform/file_attributes.h"
 #include "platform/file_system.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

@@ -14,7 +14,6 @@
 #include "platform/command_runners.h"
 #include "platform/file_system.h"
 #include "tools/installed_applications.h"
-#include "tools/plain_name.h"
 #include "tools/rpm_packages.h"
 #include "tools/system_packages.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 namespace klarvik {
 

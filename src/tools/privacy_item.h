@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "core/uuid.h"
 #include "places/trail_places.h"
 #include "platform/file_attributes.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

@@ -10,7 +10,6 @@
 #include "places/path_pattern.h"
 #include "platform/command_runners.h"
 #include "platform/file_system.h"
-#include "tools/plain_name.h"
 
 namespace klarvik {
 namespace {

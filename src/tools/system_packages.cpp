@@ -4,11 +4,11 @@
 #include <array>
 #include <iterator>
 
+#include "base/text.h"
 #include "places/disk_layout.h"
 #include "platform/file_system.h"
 #include "tools/debian_packages.h"
 #include "tools/pacman_packages.h"
-#include "tools/plain_name.h"
 #include "tools/rpm_packages.h"
 
 namespace klarvik {

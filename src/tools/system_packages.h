@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "places/package_manager.h"
-#include "platform/path.h"
 #include "platform/platform.h"
 
 namespace klarvik {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/path.h"
+#include "base/paths.h"
 #include "platform/platform.h"
 #include "tools/firefox_history.h"
 #include "tools/privacy_item.h"

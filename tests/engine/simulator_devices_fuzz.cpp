@@ -7,7 +7,6 @@
 
 #include "base/paths.h"
 #include "engine/developer_tool_answers.h"
-#include "platform/path.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const klarvik::Path devices = "/devices";

@@ -13,9 +13,9 @@
 #include <tuple>
 #include <vector>
 
+#include "base/paths.h"
 #include "deep_tree.h"
 #include "platform/linux/directory_walk.h"
-#include "platform/path.h"
 #include "support/child_process.h"
 #include "support/private_mounts.h"
 #include "support/temporary_folder.h"

@@ -3,7 +3,7 @@
 #include <set>
 #include <string>
 
-#include "platform/path.h"
+#include "base/paths.h"
 #include "platform/running_programs.h"
 
 namespace klarvik {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/path.h"
+#include "base/paths.h"
 #include "support/firefox_places.h"
 
 namespace klarvik {

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/paths.h"
 #include "places/category_type.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

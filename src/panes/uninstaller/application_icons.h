@@ -4,7 +4,7 @@
 #include <QUrl>
 #include <string>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 namespace klarvik {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "platform/path.h"
+#include "base/paths.h"
 
 /// Where a Smart Scan looks on a Mac's disk. Paths are below the home unless absolute, sizes are
 /// bytes.

@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/path.h"
+#include "base/paths.h"
 #include "platform/user_defaults.h"
 
 namespace klarvik {

@@ -12,8 +12,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/paths.h"
 #include "platform/file_system.h"
-#include "platform/path.h"
 
 namespace klarvik {
 namespace {

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "base/paths.h"
 #include "platform/desktop_services.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "platform/command_runners.h"
-#include "platform/path.h"
 #include "platform/user_folders.h"
 
 namespace klarvik {

@@ -7,8 +7,8 @@
 #include <nlohmann/json_fwd.hpp>
 #include <optional>
 
+#include "base/paths.h"
 #include "base/posix_io.h"
-#include "platform/path.h"
 #include "platform/user_defaults.h"
 
 namespace klarvik {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
+#include "base/paths.h"
 #include "platform/linux/parent_handle.h"
 #include "platform/linux/trash_folder.h"
-#include "platform/path.h"
 #include "platform/trash.h"
 
 namespace klarvik {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "platform/file_system.h"
-#include "platform/path.h"
 #include "platform/volume.h"
 
 namespace klarvik {

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "base/paths.h"
 #include "base/posix_io.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

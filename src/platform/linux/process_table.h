@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/path.h"
+#include "base/paths.h"
 #include "platform/running_programs.h"
 
 namespace klarvik {

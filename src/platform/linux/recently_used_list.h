@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/paths.h"
 #include "platform/desktop_services.h"
-#include "platform/path.h"
 
 namespace klarvik {
 

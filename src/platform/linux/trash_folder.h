@@ -9,10 +9,10 @@
 #include <string_view>
 #include <vector>
 
+#include "base/paths.h"
 #include "base/posix_io.h"
 #include "platform/clock.h"
 #include "platform/linux/parent_handle.h"
-#include "platform/path.h"
 
 namespace klarvik {
 
