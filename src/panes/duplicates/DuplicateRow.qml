@@ -126,4 +126,36 @@ ToolDetailRow {
         text: root.reclaimable
         isStrong: true
     }
+
+    /// The entries of a row, opened by the secondary button, or by the Menu key where its owner asks.
+    component ContextMenu: Item {
+        id: contextMenu
+
+        required property list<string> entries
+        // Before the menu is there.
+        signal opening()
+        signal chosen(int index)
+
+        function popup(x: real, y: real) {
+            contextMenu.opening();
+            entriesMenu.x = x;
+            entriesMenu.y = y;
+            entriesMenu.open();
+        }
+
+        anchors.fill: parent
+
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            gesturePolicy: TapHandler.WithinBounds
+            onTapped: eventPoint => contextMenu.popup(eventPoint.position.x, eventPoint.position.y)
+        }
+
+        MenuPopup {
+            id: entriesMenu
+
+            entries: contextMenu.entries
+            onChosen: index => contextMenu.chosen(index)
+        }
+    }
 }
