@@ -1,6 +1,7 @@
 #include "base/parallel_for.h"
 
 #include <algorithm>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -13,6 +14,12 @@ namespace klarvik {
 namespace {
 
 using Perform = std::function<void(std::size_t, std::size_t)>;
+
+/// From `first` up to `end`, which is not one of them.
+struct Numbers {
+  std::size_t first = 0;
+  std::size_t end = 0;
+};
 
 /// What the threads and the caller share. Numbers below `_begun` have been begun, and `_finished`
 /// of them have been finished.
@@ -45,32 +52,46 @@ class Loop {
     const std::scoped_lock lock(_mutex);
     if (isByNumber()) {
       _hasEnded[number] = true;
-      if (number != _finished) return;
+      if (number != _finished || _callerRests) return;
     } else {
       _waiting.push_back(number);
     }
     _ended.notify_one();
   }
 
-  /// The next number for the caller to finish. Nothing once every thread has left and no number is
-  /// waiting.
-  [[nodiscard]] std::optional<std::size_t> nextToFinish() {
+  /// The next numbers for the caller to finish; all of them once every thread has left. None: there
+  /// are no more.
+  [[nodiscard]] Numbers nextToFinish() {
     std::unique_lock lock(_mutex);
+    if (isByNumber() && _finished > 0) rest(lock);
     _ended.wait(lock, [this] { return hasOneToFinish() || _threads == 0; });
-    if (!hasOneToFinish()) return std::nullopt;
-    if (isByNumber()) return _finished;
-    const std::size_t number = _waiting.front();
-    _waiting.pop_front();
-    return number;
+    if (!hasOneToFinish()) return {};
+    if (!isByNumber()) {
+      const std::size_t number = _waiting.front();
+      _waiting.pop_front();
+      return {number, number + 1};
+    }
+    Numbers numbers{_finished, _finished};
+    while (numbers.end < _plan.count && _hasEnded[numbers.end]) ++numbers.end;
+    return numbers;
   }
 
-  void wasFinished() {
+  void wereFinished(Numbers numbers) {
     const std::scoped_lock lock(_mutex);
-    ++_finished;
+    _finished += numbers.end - numbers.first;
     if (!isByNumber()) _mayBegin.notify_all();
   }
 
  private:
+  /// A caller that is woken for each of many short calls takes a processor from the threads as
+  /// often.
+  void rest(std::unique_lock<std::mutex>& lock) {
+    constexpr std::chrono::milliseconds restingTime{5};
+    _callerRests = true;
+    _ended.wait_for(lock, restingTime, [this] { return _threads == 0; });
+    _callerRests = false;
+  }
+
   [[nodiscard]] bool isByNumber() const { return _plan.order == ParallelOrder::byNumber; }
   [[nodiscard]] bool isOver() const { return _begun == _plan.count || _plan.stop.stop_requested(); }
   [[nodiscard]] bool hasRoom() const { return isByNumber() || _begun - _finished < _plan.width; }
@@ -85,6 +106,7 @@ class Loop {
   std::size_t _begun = 0;
   std::size_t _finished = 0;
   std::size_t _threads = 0;
+  bool _callerRests = false;
   std::deque<std::size_t> _waiting;  ///< in order of ending
   std::vector<bool> _hasEnded;       ///< by number
 };
@@ -122,12 +144,14 @@ void parallelFor(const ParallelPlan& plan, const Perform& perform,
     while (const auto number = loop.begin()) {
       perform(*number, 0);
       finished(*number);
-      loop.wasFinished();
+      loop.wereFinished({*number, *number + 1});
     }
   }
-  while (const auto number = loop.nextToFinish()) {
-    finished(*number);
-    loop.wasFinished();
+  for (;;) {
+    const Numbers numbers = loop.nextToFinish();
+    if (numbers.first == numbers.end) break;
+    for (std::size_t number = numbers.first; number < numbers.end; ++number) finished(number);
+    loop.wereFinished(numbers);
   }
 }
 

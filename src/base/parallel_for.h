@@ -10,7 +10,8 @@ namespace klarvik {
 enum class ParallelOrder {
   /// Whichever has ended is finished next, and only then is another one begun.
   asTheyEnd,
-  /// Finished by number, as if one thread did it all. A thread that is free begins the next one
+  /// Finished by number, as if one thread did it all, several at a time where they are short: each
+  /// within a few milliseconds after its turn has come. A thread that is free begins the next one
   /// without waiting for the caller.
   byNumber,
 };
