@@ -5,14 +5,38 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <span>
 
 namespace klarvik {
 
+namespace {
+
+/// Bytes of the library's generator. A scan makes an identifier for every item, and a call of the
+/// library takes as long for thousands of bytes as for a few: they are drawn in advance.
+class RandomBytes {
+ public:
+  void take(std::span<std::uint8_t> into) {
+    if (_bytes.size() - _taken < into.size()) draw();
+    std::memcpy(into.data(), _bytes.data() + _taken, into.size());
+    _taken += into.size();
+  }
+
+ private:
+  void draw() {
+    if (RAND_bytes(_bytes.data(), static_cast<int>(_bytes.size())) != 1) std::abort();
+    _taken = 0;
+  }
+
+  std::array<std::uint8_t, 4096> _bytes{};
+  std::size_t _taken = _bytes.size();
+};
+
+}  // namespace
+
 Uuid Uuid::random() {
-  // A scan makes one for every item: drawn from a generator in this process, and not with a call of
-  // the system each.
+  thread_local RandomBytes bytes;
   Uuid id;
-  if (RAND_bytes(id._bytes.data(), static_cast<int>(id._bytes.size())) != 1) std::abort();
+  bytes.take(id._bytes);
   id._bytes[6] = static_cast<std::uint8_t>((id._bytes[6] & 0x0F) | 0x40);  // version 4, random
   id._bytes[8] = static_cast<std::uint8_t>((id._bytes[8] & 0x3F) | 0x80);  // of the usual variant
   return id;
