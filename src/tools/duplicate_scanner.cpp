@@ -118,6 +118,13 @@ FoundFiles collected(const FileSystem& files, const std::vector<Path>& directori
   return collection.take();
 }
 
+/// What the walks came by, and how many threads may ask the disk about it at a time.
+struct FoundOnDisk {
+  const FileSystem& files;
+  const FoundFiles& list;
+  std::size_t width;
+};
+
 /// The files whose content decides.
 struct ToRead {
   FileNumbers numbers;
@@ -146,22 +153,42 @@ std::unordered_map<std::size_t, std::size_t> firstNames(
   return firsts;
 }
 
+/// Calls `each(access, number)` for every number below `count`, neighbours mostly on one thread.
+template <typename Each>
+void forEachAsked(const FoundOnDisk& found, std::size_t count, const Each& each) {
+  constexpr std::size_t numbersAtOnce = 64;
+  std::vector<std::optional<FoundFileAccess>> threads(found.width);
+  const auto perform = [&](std::size_t part, std::size_t thread) {
+    if (!threads[thread]) threads[thread].emplace(found.files, found.list);
+    const std::size_t end = std::min((part + 1) * numbersAtOnce, count);
+    for (std::size_t at = part * numbersAtOnce; at < end; ++at) each(*threads[thread], at);
+  };
+  parallelFor({.count = (count + numbersAtOnce - 1) / numbersAtOnce,
+               .width = found.width,
+               .order = ParallelOrder::byNumber},
+              perform, [](std::size_t) {});
+}
+
 /// Those whose size others have as well: the largest first, so that at the end no core is left
 /// alone with a huge file.
-ToRead sameSized(const FileSystem& files, const FoundFiles& found) {
+ToRead sameSized(const FoundOnDisk& found) {
+  constexpr std::int64_t notThere = -1;
   struct Sized {
-    std::int64_t size;
-    std::size_t number;
+    std::int64_t size = notThere;
+    std::size_t number = 0;
   };
-  std::vector<Sized> sized;
+  std::vector<Sized> sized(found.list.size());
+  std::mutex mutex;  // guards those with several names
   std::unordered_map<std::size_t, FileIdentity> severalNames;
-  FoundFileAccess access(files, found);
-  for (std::size_t number = 0; number < found.size(); ++number) {
+  forEachAsked(found, sized.size(), [&](FoundFileAccess& access, std::size_t number) {
     const auto now = access.attributes(number);
-    if (!now || now->kind == FileKind::directory) continue;
-    sized.push_back({now->logicalBytes, number});
-    if (now->names > 1 && now->identity) severalNames.emplace(number, *now->identity);
-  }
+    if (!now || now->kind == FileKind::directory) return;
+    sized[number] = {now->logicalBytes, number};
+    if (now->names < 2 || !now->identity) return;
+    const std::scoped_lock lock(mutex);
+    severalNames.emplace(number, *now->identity);
+  });
+  std::erase_if(sized, [](const Sized& file) { return file.size == notThere; });
   std::ranges::stable_sort(sized, std::ranges::greater(), &Sized::size);
 
   ToRead toRead;
@@ -212,7 +239,7 @@ class ReadShare {
 /// What one thread hashes found files with.
 class FileHashing {
  public:
-  FileHashing(const FileSystem& files, const FoundFiles& found) : _access(files, found) {}
+  explicit FileHashing(const FoundOnDisk& found) : _access(found.files, found.list) {}
 
   [[nodiscard]] std::optional<Digest> digest(std::size_t number) {
     return _hasher.digest(_access.openForReading(number));
@@ -223,25 +250,24 @@ class FileHashing {
   ContentHasher _hasher;
 };
 
-Contents hashed(const FileSystem& files, const FoundFiles& found, const ToRead& toRead,
-                std::size_t width, const Report& report) {
+Contents hashed(const FoundOnDisk& found, const ToRead& toRead, const Report& report) {
   Contents contents;
   const FileNumbers& numbers = toRead.numbers;
   ReadShare readShare(toRead.runs);
   const auto reportBefore = [&](std::size_t at) {
     if (at % filesAReport != 0 || at == numbers.size()) return;
     const double part = static_cast<double>(at) / static_cast<double>(numbers.size());
-    report(0.15 + part * 0.8, contents.shared(), found.name(numbers[at]), readShare.get());
+    report(0.15 + part * 0.8, contents.shared(), found.list.name(numbers[at]), readShare.get());
   };
-  std::vector<std::unique_ptr<FileHashing>> threads(width);
+  std::vector<std::unique_ptr<FileHashing>> threads(found.width);
   std::vector<std::optional<Digest>> digests(numbers.size());
   reportBefore(0);
   parallelFor(
-      {.count = numbers.size(), .width = width, .order = ParallelOrder::byNumber},
+      {.count = numbers.size(), .width = found.width, .order = ParallelOrder::byNumber},
       [&](std::size_t at, std::size_t number) {
         if (toRead.firstNames.contains(at)) return;
         auto& thread = threads[number];
-        if (!thread) thread = std::make_unique<FileHashing>(files, found);
+        if (!thread) thread = std::make_unique<FileHashing>(found);
         digests[at] = thread->digest(numbers[at]);
       },
       [&](std::size_t at) {
@@ -254,33 +280,37 @@ Contents hashed(const FileSystem& files, const FoundFiles& found, const ToRead& 
   return contents;
 }
 
-/// What found files are told as.
-struct FoundCopies {
-  FoundFileAccess access;
-  FoundFilePaths paths;
-};
-
-DuplicateFile duplicateFile(FoundCopies& copies, std::size_t number) {
-  const auto now = copies.access.attributes(number);
-  DuplicateFile file{.url = copies.paths.path(number)};
-  if (!now) return file;
+void tell(const std::optional<FileAttributes>& now, DuplicateFile& file) {
+  if (!now) return;
   file.size = now->kind == FileKind::directory ? 0 : now->logicalBytes;
   file.modifiedDate = now->modified;
   file.identity = entryIdentity(*now);
-  return file;
 }
 
-DuplicateGroup duplicateGroup(FoundCopies& copies, const Digest& digest,
-                              const FileNumbers& holders) {
-  DuplicateGroup group{.hash = hexadecimal(digest), .files = {}};
-  group.files.reserve(holders.size());
-  for (const std::size_t number : holders) {
-    group.files.push_back(duplicateFile(copies, number));
-  }
-  std::ranges::stable_sort(group.files, std::ranges::greater(), [](const DuplicateFile& file) {
-    return file.modifiedDate.value_or(Date::min());
+std::vector<DuplicateGroup> duplicateGroups(const FoundOnDisk& found, const Contents& contents) {
+  const auto count = static_cast<std::size_t>(contents.shared());
+  std::vector<DuplicateGroup> groups;
+  std::vector<const FileNumbers*> holdersOf;  // by the place of the group
+  groups.reserve(count);
+  holdersOf.reserve(count);
+  FoundFilePaths paths(found.list);
+  contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
+    DuplicateGroup& group =
+        groups.emplace_back(DuplicateGroup{.hash = hexadecimal(digest), .files = {}});
+    group.files.reserve(holders.size());
+    for (const std::size_t number : holders) group.files.push_back({.url = paths.path(number)});
+    holdersOf.push_back(&holders);
   });
-  return group;
+  forEachAsked(found, count, [&](FoundFileAccess& access, std::size_t at) {
+    std::vector<DuplicateFile>& files = groups[at].files;
+    for (std::size_t copy = 0; copy < files.size(); ++copy) {
+      tell(access.attributes((*holdersOf[at])[copy]), files[copy]);
+    }
+    std::ranges::stable_sort(files, std::ranges::greater(), [](const DuplicateFile& file) {
+      return file.modifiedDate.value_or(Date::min());
+    });
+  });
+  return groups;
 }
 
 }  // namespace
@@ -302,25 +332,21 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
   };
 
   report(0.05, 0, QT_TRANSLATE_NOOP("Engine", "Collecting files..."), 0);
-  const FoundFiles found = collected(_files, directories, minimumSize);
-  if (found.size() == 0) return {};
+  const FoundFiles list = collected(_files, directories, minimumSize);
+  if (list.size() == 0) return {};
 
   report(0.15, 0,
          Message::counted(QT_TRANSLATE_N_NOOP("Engine", "Grouping by size (%n files)..."),
-                          static_cast<int>(found.size())),
+                          static_cast<int>(list.size())),
          0);
-  const ToRead toRead = sameSized(_files, found);
+  const FoundOnDisk found{_files, list, _hashedAtOnce};
+  const ToRead toRead = sameSized(found);
   if (toRead.numbers.empty()) return {};
 
-  const Contents contents = hashed(_files, found, toRead, _hashedAtOnce, report);
+  const Contents contents = hashed(found, toRead, report);
 
   report(0.97, 0, QT_TRANSLATE_NOOP("Engine", "Building results..."), 1);
-  std::vector<DuplicateGroup> groups;
-  groups.reserve(static_cast<std::size_t>(contents.shared()));
-  FoundCopies copies{FoundFileAccess(_files, found), FoundFilePaths(found)};
-  contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
-    groups.push_back(duplicateGroup(copies, digest, holders));
-  });
+  std::vector<DuplicateGroup> groups = duplicateGroups(found, contents);
   report(1.0, static_cast<std::int64_t>(groups.size()), QT_TRANSLATE_NOOP("Engine", "Done"), 1);
   std::ranges::stable_sort(groups, std::ranges::greater(), &DuplicateGroup::reclaimableBytes);
   return groups;
