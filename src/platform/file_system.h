@@ -68,7 +68,8 @@ class FileReader {
   /// Of the file that is open, whatever stands under its name by now. Nothing when it cannot be
   /// asked.
   [[nodiscard]] virtual std::optional<FileAttributes> attributes() const = 0;
-  /// How many bytes were put into `buffer`: 0 at the end of the file, nothing when reading failed.
+  /// How many bytes were put into `buffer`: fewer than it takes at the end of the file alone, or
+  /// where reading failed on the way; nothing when it failed at once.
   [[nodiscard]] virtual std::optional<std::size_t> read(std::span<std::byte> buffer) = 0;
   /// How much of the file stays on the disk when it is removed, because copies of it have the same
   /// content there; 0 where the file system does not tell.
@@ -125,6 +126,9 @@ class FileSystem {
   [[nodiscard]] virtual bool isMountPoint(const Path& path) const = 0;
   /// Whether files at or below `path` may share content with copies of them, and tell of it.
   [[nodiscard]] virtual bool mayShareContent(const Path&) const { return false; }
+  /// How many files at or below `folder` are best read at a time: one where the disk has heads that
+  /// each further one would send to and fro, or where it cannot be asked.
+  [[nodiscard]] virtual std::size_t filesAtOnce(const Path&) const { return 1; }
   /// Waits for no server.
   [[nodiscard]] virtual VolumeTops volumeTops() const { return {{"/"}, {}}; }
   /// Full paths of the direct children, hidden ones included, in the order the disk gives them.

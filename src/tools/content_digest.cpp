@@ -37,7 +37,10 @@ std::optional<Digest> ContentHasher::digest(std::unique_ptr<FileReader> file) {
   if (!file) return std::nullopt;
   const std::span chunk(_chunk.get(), chunkBytes);
   _sha256.begin();
-  while (const std::size_t count = file->read(chunk).value_or(0)) _sha256.add(chunk.first(count));
+  for (std::size_t count = chunkBytes; count == chunkBytes;) {
+    count = file->read(chunk).value_or(0);
+    _sha256.add(chunk.first(count));
+  }
   return _sha256.finish();
 }
 

@@ -5,9 +5,9 @@
 #include <cstring>
 #include <functional>
 #include <iterator>
+#include <limits>
 #include <map>
 #include <set>
-#include <thread>
 #include <unordered_map>
 #include <utility>
 
@@ -25,7 +25,6 @@ namespace {
 constexpr std::array<std::string_view, 5> skippedNames{"node_modules", ".git", ".build", "Pods",
                                                        "__pycache__"};
 constexpr std::size_t filesAReport = 10;
-constexpr std::size_t greatestWidth = 12;  // each has a buffer of its own
 
 using FileNumbers = std::vector<std::size_t>;
 
@@ -116,6 +115,13 @@ FoundFiles collected(const FileSystem& files, const std::vector<Path>& directori
   Collection collection(files, minimumSize);
   for (const Path& folder : directories) collection.addFolder(folder);
   return collection.take();
+}
+
+/// As many as suit the slowest of the disks that the folders lie on.
+std::size_t filesAtOnce(const FileSystem& files, const std::vector<Path>& directories) {
+  std::size_t least = std::numeric_limits<std::size_t>::max();
+  for (const Path& folder : directories) least = std::min(least, files.filesAtOnce(folder));
+  return least;
 }
 
 /// What the walks came by, and how many threads may ask the disk about it at a time.
@@ -315,12 +321,8 @@ std::vector<DuplicateGroup> duplicateGroups(const FoundOnDisk& found, const Cont
 
 }  // namespace
 
-DuplicateScanner::DuplicateScanner(const FileSystem& files, std::size_t hashedAtOnce)
+DuplicateScanner::DuplicateScanner(const FileSystem& files, std::optional<std::size_t> hashedAtOnce)
     : _files(files), _hashedAtOnce(hashedAtOnce) {}
-
-std::size_t DuplicateScanner::usualWidth() {
-  return std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, greatestWidth);
-}
 
 std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& directories,
                                                    std::int64_t minimumSize,
@@ -339,7 +341,7 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
          Message::counted(QT_TRANSLATE_N_NOOP("Engine", "Grouping by size (%n files)..."),
                           static_cast<int>(list.size())),
          0);
-  const FoundOnDisk found{_files, list, _hashedAtOnce};
+  const FoundOnDisk found{_files, list, _hashedAtOnce.value_or(filesAtOnce(_files, directories))};
   const ToRead toRead = sameSized(found);
   if (toRead.numbers.empty()) return {};
 

@@ -34,12 +34,11 @@ class DuplicateScanner {
  public:
   using ProgressSink = std::function<void(const DuplicateProgress&)>;
 
-  /// `hashedAtOnce`: how many files are read at the same time. It decides how long a scan takes,
-  /// and neither what it answers nor what it reports.
-  explicit DuplicateScanner(const FileSystem& files, std::size_t hashedAtOnce = usualWidth());
-
-  /// One for each core, within a bound that holds the memory small.
-  [[nodiscard]] static std::size_t usualWidth();
+  /// `hashedAtOnce`: how many files are read at a time; nothing: as many as the disks of the
+  /// folders are best asked for. It decides how long a scan takes, and neither what it answers nor
+  /// what it reports.
+  explicit DuplicateScanner(const FileSystem& files,
+                            std::optional<std::size_t> hashedAtOnce = std::nullopt);
 
   /// All groups of two and more among the regular files of `minimumSize` bytes and more below the
   /// folders, the most reclaimable first; of equal ones the larger files first, then those that
@@ -54,7 +53,7 @@ class DuplicateScanner {
 
  private:
   const FileSystem& _files;
-  const std::size_t _hashedAtOnce;
+  const std::optional<std::size_t> _hashedAtOnce;
   std::mutex _scanning;
 };
 

@@ -63,6 +63,9 @@ class FaultInjectingFileSystem final : public FileSystem, public FaultInjection<
     return _files.userAttributes(path);
   }
   [[nodiscard]] bool isMountPoint(const Path& path) const override;
+  [[nodiscard]] std::size_t filesAtOnce(const Path& folder) const override {
+    return _files.filesAtOnce(folder);
+  }
   [[nodiscard]] bool mayShareContent(const Path& path) const override {
     return _files.mayShareContent(path);
   }

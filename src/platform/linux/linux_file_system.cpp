@@ -14,6 +14,7 @@
 #include "base/posix_io.h"
 #include "platform/linux/directory_stack.h"
 #include "platform/linux/directory_walk.h"
+#include "platform/linux/disk_threads.h"
 #include "platform/linux/file_status.h"
 #include "platform/linux/mounts.h"
 #include "platform/linux/tree_removal.h"
@@ -237,6 +238,11 @@ WalkOutcome LinuxFileSystem::walk(const Path& folder, WalkOptions options,
 bool LinuxFileSystem::mayShareContent(const Path& path) const {
   const UniqueFd opened = open(path, O_PATH | O_NOFOLLOW);
   return opened && klarvik::mayShareContent(opened.get());
+}
+
+std::size_t LinuxFileSystem::filesAtOnce(const Path& folder) const {
+  const UniqueFd opened = open(folder, O_PATH | O_DIRECTORY);
+  return opened ? filesReadAtOnce(opened.get()) : 1;
 }
 
 std::unique_ptr<FileReader> LinuxFileSystem::openForReading(const Path& path) const {

@@ -30,6 +30,7 @@ class LinuxFileSystem : public FileSystem {
   [[nodiscard]] std::vector<std::string> userAttributes(const Path& path) const override;
   [[nodiscard]] bool isMountPoint(const Path& path) const override;
   [[nodiscard]] bool mayShareContent(const Path& path) const override;
+  [[nodiscard]] std::size_t filesAtOnce(const Path& folder) const override;
   [[nodiscard]] VolumeTops volumeTops() const override;
   [[nodiscard]] std::optional<std::vector<Path>> list(const Path& folder) const override;
   WalkOutcome walk(const Path& folder, WalkOptions options,

@@ -13,19 +13,10 @@
 #include <thread>
 #include <vector>
 
+#include "platform/linux/disk_threads.h"
 #include "platform/linux/folder_listing.h"
 
 namespace klarvik {
-
-/// Threads that read folders for a walk, beside the one that called it.
-struct HelpfulThreads {
-  std::size_t helpers = 0;
-  std::size_t whileDiskIsRead = 0;  ///< more, that wait for the disk and hardly use a processor
-};
-
-/// How many help a walk that begins in the opened `folder`: none where the disk has heads that they
-/// would send to and fro, and none where this process has one processor; a few at most.
-[[nodiscard]] HelpfulThreads helpfulThreads(int folder);
 
 /// Reads folders that a walk is going to enter on threads of its own, while the walk is still
 /// elsewhere: those first that it comes to next, and no more than a few ahead of it, so that what

@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <mutex>
 #include <random>
+#include <set>
+#include <thread>
 
 #include "platform/linux/linux_file_system.h"
 #include "support/fault_injecting_file_system.h"
@@ -98,6 +101,46 @@ TEST_F(DuplicateHashing, WhileOneFileTakesLongTheOthersAreHashedAndNoReportComes
   EXPECT_EQ(groups.size(), 1U);
   EXPECT_EQ(reported, 8U);
   EXPECT_LE(reportedMeanwhile, 3U);
+}
+
+/// A file system of several disks, of which the one below "/usb" has heads.
+class DisksOfTwoKinds : public LinuxFileSystem {
+ public:
+  using LinuxFileSystem::LinuxFileSystem;
+  [[nodiscard]] std::size_t filesAtOnce(const Path& folder) const override {
+    return folder == "/usb" ? 1 : 4;
+  }
+};
+
+TEST_F(DuplicateHashing, AsManyFilesAreReadAtATimeAsTheSlowestOfTheDisksTakes) {
+  DisksOfTwoKinds disks(disk.path(), "/Users/ann");
+  FaultInjectingFileSystem watched(disks);
+  std::mutex guardsThreads;
+  std::set<std::thread::id> threads;
+  for (int number = 0; number < 20; ++number) {
+    const std::string name = std::to_string(number);
+    for (const char* folder : {"/home", "/usb"}) {
+      disk.makeFile(Path(folder) / name, "content " + std::to_string(10 + number));
+      watched.before(Operation::openForReading, Path(folder) / name, [&] {
+        const std::scoped_lock lock(guardsThreads);
+        threads.insert(std::this_thread::get_id());
+      });
+    }
+  }
+  EXPECT_EQ(DuplicateScanner(watched).scan({"/home", "/usb"}, 1, {}).size(), 20U);
+  EXPECT_EQ(threads.size(), 1U);
+}
+
+TEST_F(DuplicateHashing, WhereTheDiskTakesSeveralFilesOneIsReadWhileAnotherWaits) {
+  DisksOfTwoKinds disks(disk.path(), "/Users/ann");
+  FaultInjectingFileSystem watched(disks);
+  disk.makeFile("/home/a", "same");
+  disk.makeFile("/home/b", "same");
+  Gate gate;
+  gate.close();
+  watched.before(Operation::openForReading, "/home/a", [&] { gate.pass(); });
+  watched.before(Operation::openForReading, "/home/b", [&] { gate.open(); });
+  EXPECT_EQ(DuplicateScanner(watched).scan({"/home"}, 1, {}).size(), 1U);
 }
 
 TEST_F(DuplicateHashing, TheLargestFilesAreHashedFirst) {
