@@ -17,6 +17,8 @@ ToolListView {
     signal activated(int row)
     // Space, or a press on the box in the row.
     signal toggled(int row)
+    // The row that was activated last, until rows come below it.
+    property int pressedRow: -1
 
     function takePress(row: int) {
         root.currentIndex = row;
@@ -51,6 +53,14 @@ ToolListView {
             root.currentIndex = root.groupOf(root.currentIndex);
     }
 
+    // What was seen below a row that opens gives way to what it shows: those rows come as others
+    // that come all at once.
+    function fillAgainBelow(row: Item) {
+        if (row)
+            root.filledHeight = Math.min(root.filledHeight, row.y + row.height - root.contentY + root.filledAtOnce);
+    }
+
+    onActivated: row => root.pressedRow = row
     activeFocusOnTab: true
     highlightMoveDuration: 0
     Accessible.role: Accessible.List
@@ -72,4 +82,17 @@ ToolListView {
     Keys.onSpacePressed: event => root.toggleCurrent(event)
     Keys.onReturnPressed: event => root.activateCurrent(event)
     Keys.onEnterPressed: event => root.activateCurrent(event)
+
+    Connections {
+        target: typeof root.model === "object" ? root.model : null
+        ignoreUnknownSignals: true
+
+        function onRowsInserted(parent: var, first: int, last: int) {
+            if (first !== root.pressedRow + 1)
+                return;
+            root.pressedRow = -1;
+            if ((last - first) * Measures.rowHeight > root.filledAtOnce)
+                root.fillAgainBelow(root.itemAtIndex(first - 1));
+        }
+    }
 }

@@ -10,7 +10,7 @@ ListView {
     // How far the list is filled with rows, in points from its top. Rows that come all at once are made
     // a few in each frame, so that no frame has to wait for all of them.
     property real filledHeight: root.filledAtOnce
-    readonly property real filledAtOnce: 4 * Measures.rowHeight
+    readonly property real filledAtOnce: 2 * Measures.rowHeight
 
     anchors.fill: parent
     displayMarginEnd: Math.min(0, root.filledHeight - root.height)

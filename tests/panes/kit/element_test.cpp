@@ -263,6 +263,27 @@ class Lists : public Elements {
     return currentRow(list)->property("isMarked").toBool();
   }
   static QList<QVariantList> rowsOf(int row) { return {{row}}; }
+
+  static constexpr int fewRows = 3;
+
+  static std::ptrdiff_t rowsShown(const QQuickItem* list) {
+    const auto rows = list->property("contentItem").value<QQuickItem*>()->childItems();
+    return std::ranges::count_if(rows, [](QQuickItem* row) {
+      return row->property("isMarked").isValid() && row->isVisible();
+    });
+  }
+  /// A few more rows in each frame, until there are as many as are in sight.
+  void fillTheListInSight(const QQuickItem* list) {
+    const auto inSight = static_cast<int>(list->height() / currentRow(list)->height());
+    ASSERT_LT(rowsShown(list), inSight);
+    for (int frame = 0; frame < inSight && rowsShown(list) < inSight; ++frame) {
+      const auto before = rowsShown(list);
+      motion.moveOn(std::chrono::milliseconds(16));
+      settle();
+      EXPECT_LE(rowsShown(list), before + fewRows);
+    }
+    EXPECT_GE(rowsShown(list), inSight);
+  }
 };
 
 TEST_F(Lists, AnswerEveryKeyThatMovesThroughThem) {
@@ -281,22 +302,24 @@ TEST_F(Lists, AnswerEveryKeyThatMovesThroughThem) {
 
 TEST_F(Lists, MakeRowsThatComeAtOnceAFewInEachFrame) {
   QQuickItem* list = showList();
-  const auto rowsMade = [&] {
-    const auto rows = list->property("contentItem").value<QQuickItem*>()->childItems();
-    return std::ranges::count_if(
-        rows, [](QQuickItem* row) { return row->property("isMarked").isValid(); });
-  };
-  const auto inSight = static_cast<int>(list->height() / currentRow(list)->height());
-  ASSERT_GT(inSight, 5);
-  EXPECT_GT(rowsMade(), 0);
-  EXPECT_LE(rowsMade(), 5);
-  for (int frame = 0; frame < inSight && rowsMade() < inSight; ++frame) {
-    const auto before = rowsMade();
-    motion.moveOn(std::chrono::milliseconds(16));
-    settle();
-    EXPECT_LE(rowsMade(), before + 5);
-  }
-  EXPECT_GE(rowsMade(), inSight);
+  EXPECT_GT(rowsShown(list), 0);
+  EXPECT_LE(rowsShown(list), fewRows);
+  fillTheListInSight(list);
+}
+
+TEST_F(Lists, MakeTheManyRowsOfOneThatIsOpenedAFewInEachFrame) {
+  QQuickItem* list = showOne(
+      "RowList { id: it; objectName: 'it'; name: 'Things'; model: ListModel { id: things }"
+      " function add(row, count) {"
+      "   things.insert(row, Array.from({ length: count }, () => ({ name: '' }))) }"
+      " Component.onCompleted: it.add(0, 3);"
+      " onActivated: row => it.add(row + 1, 40);"
+      " delegate: RowFrame { required index; Accessible.role: Accessible.Button } }");
+  EXPECT_EQ(rowsShown(list), 3);
+  QMetaObject::invokeMethod(list, "activated", Q_ARG(int, 0));
+  settle();
+  EXPECT_LE(rowsShown(list), 1 + fewRows);
+  fillTheListInSight(list);
 }
 
 TEST_F(Lists, TakeAHeldKeyForOnePress) {
@@ -325,6 +348,7 @@ TEST_F(Lists, ThatAreNoLongerOnTheScreenAnswerNoKey) {
 
 TEST_F(Lists, TellAPressOnARowFromAPressOnItsBox) {
   QQuickItem* list = showList();
+  fillTheListInSight(list);
   QSignalSpy activations(list, SIGNAL(activated(int)));
   QSignalSpy toggles(list, SIGNAL(toggled(int)));
   click({200, 115});
