@@ -30,49 +30,59 @@ Sheet {
     description: root.message
     onCancelled: root.cancel()
 
-    Label {
-        objectName: "dialogTitle"
-        width: parent.width
-        text: Kit.withSizesUnbroken(root.title)
-        size: 15
-        weight: Font.DemiBold
-        wrapMode: Text.Wrap
-        maximumLineCount: 3
-        Accessible.role: Accessible.StaticText
-        Accessible.name: root.title
-    }
+    // Made when it is asked.
+    Repeater {
+        model: root.isPresented ? 1 : 0
 
-    Label {
-        objectName: "dialogMessage"
-        width: parent.width
-        text: Kit.withSizesUnbroken(root.message)
-        size: 12
-        color: Theme.textSecondary
-        wrapMode: Text.Wrap
-        maximumLineCount: 20
-        lineHeight: 1.15
-        Accessible.role: Accessible.StaticText
-        Accessible.name: root.message
-    }
+        Column {
+            width: parent.width
+            spacing: root.spacing
 
-    Row {
-        anchors.right: parent.right
-        topPadding: 10
-        spacing: 10
+            Label {
+                objectName: "dialogTitle"
+                width: parent.width
+                text: Kit.withSizesUnbroken(root.title)
+                size: 15
+                weight: Font.DemiBold
+                wrapMode: Text.Wrap
+                maximumLineCount: 3
+                Accessible.role: Accessible.StaticText
+                Accessible.name: root.title
+            }
 
-        Repeater {
-            model: root.buttonsInOrder
+            Label {
+                objectName: "dialogMessage"
+                width: parent.width
+                text: Kit.withSizesUnbroken(root.message)
+                size: 12
+                color: Theme.textSecondary
+                wrapMode: Text.Wrap
+                maximumLineCount: 20
+                lineHeight: 1.15
+                Accessible.role: Accessible.StaticText
+                Accessible.name: root.message
+            }
 
-            PrimaryButton {
-                id: choice
+            Row {
+                anchors.right: parent.right
+                topPadding: 10
+                spacing: 10
 
-                required property DialogButton modelData
+                Repeater {
+                    model: root.buttonsInOrder
 
-                title: choice.modelData.title
-                focus: choice.modelData.role === ButtonRole.Cancel
-                fill: choice.modelData.role === ButtonRole.Destructive ? Theme.destructive
-                    : choice.modelData.role === ButtonRole.Cancel ? Theme.white(0.12) : Theme.accent
-                onAction: choice.modelData.triggered()
+                    PrimaryButton {
+                        id: choice
+
+                        required property DialogButton modelData
+
+                        title: choice.modelData.title
+                        focus: choice.modelData.role === ButtonRole.Cancel
+                        fill: choice.modelData.role === ButtonRole.Destructive ? Theme.destructive
+                            : choice.modelData.role === ButtonRole.Cancel ? Theme.white(0.12) : Theme.accent
+                        onAction: choice.modelData.triggered()
+                    }
+                }
             }
         }
     }

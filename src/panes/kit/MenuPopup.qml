@@ -16,6 +16,8 @@ T.Popup {
     property real widestEntry: 120
     // What had the focus, and is given it back.
     property Item opener: null
+    // The entries are made when they are first asked for: a pane has more of them than of anything else.
+    property bool wasOpened: false
     signal chosen(int index)
 
     padding: 5
@@ -26,6 +28,8 @@ T.Popup {
     implicitWidth: root.widestEntry + 2 * root.padding
     implicitHeight: Math.min(320, list.contentHeight) + 2 * root.padding
     onAboutToShow: {
+        root.wasOpened = true;
+        list.forceLayout();
         root.opener = root.parent.Window.activeFocusItem;
         list.currentIndex = Math.max(0, root.currentIndex);
     }
@@ -39,7 +43,7 @@ T.Popup {
 
     contentItem: ListView {
         id: list
-        model: root.entries
+        model: root.wasOpened ? root.entries : []
         clip: true
         keyNavigationWraps: true
         boundsBehavior: Flickable.StopAtBounds

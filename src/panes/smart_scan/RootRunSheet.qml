@@ -20,62 +20,72 @@ Sheet {
     sheetWidth: 520
     onCancelled: model.close()
 
-    Label {
-        width: parent.width
-        text: root.model.title
-        size: 15
-        weight: Font.DemiBold
-        wrapMode: Text.Wrap
-        maximumLineCount: 3
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
-    }
+    // Made when it is asked.
+    Repeater {
+        model: root.isPresented ? 1 : 0
 
-    Label {
-        width: parent.width
-        text: root.model.message
-        size: 12
-        color: Theme.textSecondary
-        wrapMode: Text.Wrap
-        maximumLineCount: 6
-        lineHeight: 1.15
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
-    }
+        Column {
+            width: parent.width
+            spacing: root.spacing
 
-    CodeBox {
-        text: root.model.command
-        label: qsTr("Command")
-    }
+            Label {
+                width: parent.width
+                text: root.model.title
+                size: 15
+                weight: Font.DemiBold
+                wrapMode: Text.Wrap
+                maximumLineCount: 3
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
 
-    CodeBox {
-        visible: text.length > 0
-        text: root.model.output
-        label: qsTr("What it printed")
-    }
+            Label {
+                width: parent.width
+                text: root.model.message
+                size: 12
+                color: Theme.textSecondary
+                wrapMode: Text.Wrap
+                maximumLineCount: 6
+                lineHeight: 1.15
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
 
-    Row {
-        anchors.right: parent.right
-        topPadding: 10
-        spacing: 10
+            CodeBox {
+                text: root.model.command
+                label: qsTr("Command")
+            }
 
-        InlineLoader {
-            anchors.verticalCenter: parent.verticalCenter
-            visible: root.isRunning
-            size: 16
-        }
+            CodeBox {
+                visible: text.length > 0
+                text: root.model.output
+                label: qsTr("What it printed")
+            }
 
-        PrimaryButton {
-            title: root.isAsking ? qsTr("Cancel") : root.isRunning ? qsTr("Stop Waiting") : qsTr("Close")
-            focus: true
-            fill: Theme.white(0.12)
-            onAction: root.model.close()
-        }
+            Row {
+                anchors.right: parent.right
+                topPadding: 10
+                spacing: 10
 
-        PrimaryButton {
-            visible: root.isAsking
-            title: qsTr("Run")
-            onAction: root.model.run()
+                InlineLoader {
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: root.isRunning
+                    size: 16
+                }
+
+                PrimaryButton {
+                    title: root.isAsking ? qsTr("Cancel") : root.isRunning ? qsTr("Stop Waiting") : qsTr("Close")
+                    focus: true
+                    fill: Theme.white(0.12)
+                    onAction: root.model.close()
+                }
+
+                PrimaryButton {
+                    visible: root.isAsking
+                    title: qsTr("Run")
+                    onAction: root.model.run()
+                }
+            }
         }
     }
 

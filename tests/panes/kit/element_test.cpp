@@ -152,6 +152,20 @@ TEST_F(Elements, AMenuGivesTheFocusBackToWhatOpenedIt) {
   }
 }
 
+TEST_F(Elements, AMenuMakesItsEntriesWhenItIsOpened) {
+  QQuickItem* item = showOne("FilterMenu { objectName: 'it'; entries: ['Newest', 'Oldest'] }");
+  const auto entriesMade = [&] {
+    const auto parts = item->findChildren<QObject*>();
+    const auto list = std::ranges::find_if(
+        parts, [](QObject* part) { return part->property("keyNavigationWraps").isValid(); });
+    return list != parts.end() ? (*list)->property("count").toInt() : -1;
+  };
+  EXPECT_EQ(entriesMade(), 0);
+  press(Qt::Key_Tab);
+  press(Qt::Key_Return);
+  EXPECT_EQ(entriesMade(), 2);
+}
+
 TEST_F(Elements, ThatAreDisabledAnswerNothing) {
   QQuickItem* item =
       showOne("PrimaryButton { objectName: 'it'; title: 'Clean'; isEnabled: false }");
