@@ -5,7 +5,6 @@
 #include <cstring>
 #include <functional>
 #include <iterator>
-#include <limits>
 #include <map>
 #include <set>
 #include <unordered_map>
@@ -25,6 +24,7 @@ namespace {
 constexpr std::array<std::string_view, 5> skippedNames{"node_modules", ".git", ".build", "Pods",
                                                        "__pycache__"};
 constexpr std::size_t filesAReport = 10;
+constexpr std::size_t greatestWidth = 12;  // each has a buffer of its own
 
 using FileNumbers = std::vector<std::size_t>;
 
@@ -119,8 +119,10 @@ FoundFiles collected(const FileSystem& files, const std::vector<Path>& directori
 
 /// As many as suit the slowest of the disks that the folders lie on.
 std::size_t filesAtOnce(const FileSystem& files, const std::vector<Path>& directories) {
-  std::size_t least = std::numeric_limits<std::size_t>::max();
-  for (const Path& folder : directories) least = std::min(least, files.filesAtOnce(folder));
+  std::size_t least = greatestWidth;
+  for (const Path& folder : directories) {
+    if (files.exists(folder)) least = std::min(least, files.filesAtOnce(folder));
+  }
   return least;
 }
 

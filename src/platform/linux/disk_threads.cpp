@@ -20,7 +20,6 @@ namespace {
 
 // Beyond these, threads that wait for the disk gain nothing more.
 constexpr std::size_t kWaitingThreads = 8;
-constexpr std::size_t kMostFilesAtOnce = 12;  // each of which may need a buffer
 
 std::size_t processors() {
   cpu_set_t allowed;
@@ -72,7 +71,7 @@ HelpfulThreads helpfulThreads(int folder) {
 
 std::size_t filesReadAtOnce(int folder) {
   if (liesOnTurningDisk(folder)) return 1;
-  return std::clamp(processors(), kWaitingThreads, kMostFilesAtOnce);
+  return std::max(processors(), kWaitingThreads);
 }
 
 }  // namespace klarvik

@@ -15,7 +15,7 @@ struct HelpfulThreads {
 [[nodiscard]] HelpfulThreads helpfulThreads(int folder);
 
 /// How many files in the opened `folder` are best read at a time: one where the disk has heads;
-/// else one for each processor and more that wait for the disk meanwhile, a dozen at most.
+/// else one for each processor, and where these are few, more that wait for the disk meanwhile.
 [[nodiscard]] std::size_t filesReadAtOnce(int folder);
 
 }  // namespace klarvik
