@@ -11,7 +11,7 @@ import tempfile
 import time
 from dataclasses import dataclass
 
-RESULTS = pathlib.Path(__file__).resolve().parents[1] / "build/benchmarks.json"
+RESULTS = pathlib.Path(__file__).resolve().parents[1] / "docs/benchmarks.json"
 
 
 @dataclass
@@ -72,7 +72,6 @@ def keep(name, figures):
         "processors": len(os.sched_getaffinity(0)),
         "load": round(os.getloadavg()[0], 1),
     }
-    RESULTS.parent.mkdir(exist_ok=True)
     text = json.dumps({**results(), name: {**figures, **about}}, indent=2, sort_keys=True)
     RESULTS.write_text(text + "\n", encoding="utf-8")
 
@@ -81,8 +80,8 @@ def report(name, against, ours, theirs, goal):
     """Tells of a comparison with `against`, and keeps it for the plot of the ratios."""
     our_seconds, their_seconds = median_seconds(ours), median_seconds(theirs)
     ratio = our_seconds / their_seconds
-    keep(name, {"against": against, "ours": our_seconds, "theirs": their_seconds, "goal": goal,
-                "rounds": len(ours)})  # fmt: skip
+    keep(name, {"against": against, "ours": round(our_seconds, 3), "theirs": round(their_seconds, 3),
+                "goal": goal, "rounds": len(ours)})  # fmt: skip
     print(
         f"{name} ours {our_seconds:.3f} theirs {their_seconds:.3f} ratio {ratio:.2f} goal {goal}",
         flush=True,
