@@ -11,6 +11,7 @@ import threading
 import unittest
 
 from process_test import BUILD, picture_of
+from virtual_desktop import wait_until
 from real_tools_test import HOME, Site, become_an_ordinary_user, live_on, run, site
 
 DATABASES = {"places.sqlite", "favicons.sqlite"}
@@ -95,6 +96,8 @@ class FirefoxHistory(unittest.TestCase):
             told = self.privacy("clear")
             self.assertEqual([each["closeFirst"] for each in told], ["Firefox"])
             firefox.terminate()
+        # Its own processes end a moment after it.
+        wait_until(lambda: [each["closeFirst"] for each in self.privacy()] == [""], "The end of Firefox", 60)
         self.assertLessEqual({"kept.html", "visited.html"}, self.pages())
 
         before = self.picture()
