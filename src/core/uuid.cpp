@@ -1,8 +1,10 @@
 #include "core/uuid.h"
 
-#include <openssl/rand.h>
+#include <sys/random.h>
 #include <uuid/uuid.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <span>
@@ -11,8 +13,8 @@ namespace klarvik {
 
 namespace {
 
-/// Bytes of the library's generator. A scan makes an identifier for every item, and a call of the
-/// library takes as long for thousands of bytes as for a few: they are drawn in advance.
+/// Random bytes of the system. A scan makes an identifier for every item, and asking the system
+/// takes longer than all the rest: they are drawn in advance.
 class RandomBytes {
  public:
   void take(std::span<std::uint8_t> into) {
@@ -23,7 +25,11 @@ class RandomBytes {
 
  private:
   void draw() {
-    if (RAND_bytes(_bytes.data(), static_cast<int>(_bytes.size())) != 1) std::abort();
+    for (std::span<std::uint8_t> left = _bytes; !left.empty();) {
+      const ssize_t drawn = getrandom(left.data(), left.size(), 0);
+      if (drawn < 0 && errno != EINTR) std::abort();
+      left = left.subspan(static_cast<std::size_t>(std::max<ssize_t>(drawn, 0)));
+    }
     _taken = 0;
   }
 
