@@ -1,4 +1,4 @@
-# klarvik_qml_module(NAME URI uri [FOLDERS folder...] [DEPENDENCIES uri...] [RESOURCES file...])
+# klarvik_qml_module(NAME URI uri [FOLDERS folder...] [DEPENDENCIES uri...])
 #
 # Makes the layer NAME a QML module of every *.qml in FOLDERS, the current folder where none is named,
 # linked into the program: whoever installs it calls its qml_register_types_<URI>(). In the module all
@@ -7,7 +7,7 @@
 # would slow down the first start and leave a cache in the user's home. Only what is built for a
 # sanitizer, and has less time for it, does so. What Qt generates is not compiled with the project's warnings.
 function(klarvik_qml_module name)
-  cmake_parse_arguments(MODULE "" "URI" "FOLDERS;DEPENDENCIES;RESOURCES" ${ARGN})
+  cmake_parse_arguments(MODULE "" "URI" "FOLDERS;DEPENDENCIES" ${ARGN})
   if(NOT MODULE_FOLDERS)
     set(MODULE_FOLDERS .)
   endif()
@@ -33,8 +33,7 @@ function(klarvik_qml_module name)
     OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${module_folder}
     IMPORT_PATH ${CMAKE_BINARY_DIR}/qml
     DEPENDENCIES QtQuick ${MODULE_DEPENDENCIES}
-    QML_FILES ${qml_files}
-    RESOURCES ${MODULE_RESOURCES})
+    QML_FILES ${qml_files})
 
   # Bytecode is an array a file behind long includes: one compilation for all files of a module takes
   # little more time than one for each.

@@ -1,6 +1,7 @@
 #include "panes/kit/palette.h"
 
 #include <QFontDatabase>
+#include <QResource>
 #include <QStringList>
 #include <array>
 #include <map>
@@ -29,7 +30,12 @@ QFont makeInterfaceFont(int pixels, QFont::Weight weight, qreal tracking) {
 }  // namespace
 
 bool loadSymbolFont() {
-  static const int font = QFontDatabase::addApplicationFont(symbolFontFile);
+  static const int font = [] {
+    // A font that is loaded by its name is copied, once for each who reads it.
+    static const QResource file(symbolFontFile);
+    const auto* const bytes = reinterpret_cast<const char*>(file.data());
+    return QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(bytes, file.size()));
+  }();
   return font != -1;
 }
 
