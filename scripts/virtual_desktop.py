@@ -27,6 +27,14 @@ def wait_until(condition, what, seconds=120):
         time.sleep(0.1)
 
 
+def read_line(path):
+    """The line that a file of /proc holds; empty where it cannot be read."""
+    try:
+        return path.read_text(encoding="utf-8").strip()
+    except OSError:
+        return ""
+
+
 def end(process):
     """Asks a process that was started here to end, and makes sure that it does."""
     if process.poll() is None:
@@ -207,7 +215,16 @@ class Klarvik:
         return condition()
 
     def wait_until(self, condition, what):
-        return wait_until(lambda: self._while_it_runs(condition), what)
+        try:
+            return wait_until(lambda: self._while_it_runs(condition), what)
+        except Failure as failure:
+            raise Failure(f"{failure} {self._waits_for()}") from failure
+
+    def _waits_for(self):
+        """What the program has printed, and in which call of the kernel each of its threads is."""
+        threads = pathlib.Path(f"/proc/{self.process.pid}/task").glob("*")
+        calls = [f"{read_line(each / 'comm')}: {read_line(each / 'syscall')}" for each in threads]
+        return "; ".join([f"It said {self.said()!r}", *calls])
 
     def wait_for_window(self):
         return self.wait_until(lambda: self._desktop.windows_of(self.process), "A window")[-1]
