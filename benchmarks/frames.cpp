@@ -45,9 +45,11 @@ class Frames {
     const std::size_t enough = _gaps.size() + 5;
     while (_gaps.size() < enough) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     const double sum = std::accumulate(_gaps.begin(), _gaps.end(), 0.0);
-    std::printf("frames %-17s longest %5.1f mean %5.1f count %zu\n", name,
+    constexpr double goal = 16.7;
+    std::printf("frames %-17s longest %5.1f mean %5.1f count %zu over %.1f: %td\n", name,
                 *std::ranges::max_element(_gaps), sum / static_cast<double>(_gaps.size()),
-                _gaps.size());
+                _gaps.size(), goal,
+                std::ranges::count_if(_gaps, [](double gap) { return gap > goal; }));
     std::fflush(stdout);
   }
 

@@ -72,50 +72,56 @@ Item {
         anchors.left: divider.right
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        topPadding: removalBanner.visible || noticeBanner.visible ? 12 : 0
+        topPadding: removal.condition || notification.condition ? 12 : 0
 
-        ResultBanner {
-            id: removalBanner
+        Conditional {
+            id: removal
 
-            visible: root.shell.removalHeadline !== ""
-            symbol: root.shell.isRestored ? "checkmark.circle.fill" : "trash.fill"
-            symbolColor: root.shell.isRestored ? Theme.safe : Theme.textMuted
-            headline: root.shell.removalHeadline
-            detail: root.shell.removalDetail
+            condition: root.shell.removalHeadline !== ""
 
-            SecondaryButton {
-                visible: root.shell.canRestore
-                symbol: "arrow.uturn.backward"
-                title: qsTr("Restore")
-                onAction: root.shell.restoreRemoval()
-            }
+            ResultBanner {
+                symbol: root.shell.isRestored ? "checkmark.circle.fill" : "trash.fill"
+                symbolColor: root.shell.isRestored ? Theme.safe : Theme.textMuted
+                headline: root.shell.removalHeadline
+                detail: root.shell.removalDetail
 
-            SymbolButton {
-                symbol: "xmark"
-                title: qsTr("Dismiss")
-                onAction: root.shell.dismissRemoval()
+                SecondaryButton {
+                    visible: root.shell.canRestore
+                    symbol: "arrow.uturn.backward"
+                    title: qsTr("Restore")
+                    onAction: root.shell.restoreRemoval()
+                }
+
+                SymbolButton {
+                    symbol: "xmark"
+                    title: qsTr("Dismiss")
+                    onAction: root.shell.dismissRemoval()
+                }
             }
         }
 
-        ResultBanner {
-            id: noticeBanner
+        Conditional {
+            id: notification
 
-            visible: root.shell.notice !== ""
-            symbol: "exclamationmark.triangle.fill"
-            symbolColor: Theme.review
-            headline: root.shell.noticeHeadline
-            detail: root.shell.notice
+            condition: root.shell.notice !== ""
 
-            SymbolButton {
-                symbol: "xmark"
-                title: qsTr("Dismiss")
-                onAction: root.shell.dismissNotice()
+            ResultBanner {
+                symbol: "exclamationmark.triangle.fill"
+                symbolColor: Theme.review
+                headline: root.shell.noticeHeadline
+                detail: root.shell.notice
+
+                SymbolButton {
+                    symbol: "xmark"
+                    title: qsTr("Dismiss")
+                    onAction: root.shell.dismissNotice()
+                }
             }
         }
     }
 
-    Repeater {
-        model: Words.asksForFullDiskAccess ? 1 : 0
+    Conditional {
+        condition: Words.asksForFullDiskAccess
 
         FullDiskAccessView {
             model: root.shell.access

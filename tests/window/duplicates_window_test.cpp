@@ -113,6 +113,7 @@ TEST_F(DuplicatesWindowOverAnEmptyHome, KeepsTheCopyThatTheUserNames) {
   settle();
   EXPECT_TRUE(shows("report copy.pdf, 5.2 MB, keep, ~/Downloads/"));
   QQuickItem* row = find("report copy.pdf, 5.2 MB, keep");
+  ASSERT_NE(row, nullptr);
   EXPECT_TRUE(row->hasActiveFocus());
   EXPECT_FALSE(row->property("isMarked").toBool()) << "no key was used";
   press(Qt::Key_Down);

@@ -32,39 +32,51 @@ ToolPane {
         model: root.model
     }
 
-    DuplicateTable {
-        visible: !root.instead.isShown
-        pane: root.model
+    Conditional {
+        condition: !root.instead.isShown
+
+        DuplicateTable {
+            pane: root.model
+        }
     }
 
-    LoadingPane {
-        visible: root.instead.isShown && root.instead.isBusy
-        title: root.instead.title
-        detail: root.instead.detail
-        progress: root.model.progress
-        remaining: root.model.remaining
-        style: LoadingStyle.Reading
+    Conditional {
+        condition: root.instead.isShown && root.instead.isBusy
+
+        LoadingPane {
+            title: root.instead.title
+            detail: root.instead.detail
+            progress: root.model.progress
+            remaining: root.model.remaining
+            style: LoadingStyle.Reading
+        }
     }
 
-    ToolPlaceholder {
-        visible: root.instead.isShown && !root.instead.isBusy
-        icon: root.instead.icon
-        title: root.instead.title
-        detail: root.instead.detail
-        actionTitle: root.instead.actionTitle
-        onAction: root.model.chooseFolders()
+    Conditional {
+        condition: root.instead.isShown && !root.instead.isBusy
+
+        ToolPlaceholder {
+            icon: root.instead.icon
+            title: root.instead.title
+            detail: root.instead.detail
+            actionTitle: root.instead.actionTitle
+            onAction: root.model.chooseFolders()
+        }
     }
 
-    footer: ToolFooter {
-        visible: !root.instead.isShown
-        selectionSummary: root.model.selectionSummary
-        explanation: root.model.footerHint
-        buttonTitle: root.model.deleteButtonTitle
-        isEnabled: root.model.canDelete
-        isBusy: root.model.isDeleting
-        progress: root.model.deleteProgress
-        canStop: true
-        onAction: root.model.deleteSelected()
-        onStop: root.model.stopDeleting()
+    footer: Conditional {
+        condition: !root.instead.isShown
+
+        ToolFooter {
+            selectionSummary: root.model.selectionSummary
+            explanation: root.model.footerHint
+            buttonTitle: root.model.deleteButtonTitle
+            isEnabled: root.model.canDelete
+            isBusy: root.model.isDeleting
+            progress: root.model.deleteProgress
+            canStop: true
+            onAction: root.model.deleteSelected()
+            onStop: root.model.stopDeleting()
+        }
     }
 }

@@ -75,12 +75,15 @@ Item {
             }
         }
 
-        FilterChip {
-            visible: root.hiddenCount > 0
-            title: root.showsAll ? qsTr("Fewer") : qsTr("+%1 more").arg(root.hiddenCount)
-            help: root.showsAll ? "" : qsTr("Show all folders")
-            symbol: ""
-            onAction: root.showsAll = !root.showsAll
+        Conditional {
+            condition: root.hiddenCount > 0
+
+            FilterChip {
+                title: root.showsAll ? qsTr("Fewer") : qsTr("+%1 more").arg(root.hiddenCount)
+                help: root.showsAll ? "" : qsTr("Show all folders")
+                symbol: ""
+                onAction: root.showsAll = !root.showsAll
+            }
         }
     }
 
@@ -97,11 +100,14 @@ Item {
             onAction: root.model.chooseFolders()
         }
 
-        TextButton {
-            visible: root.model.removedFolder !== ""
-            title: qsTr("Undo")
-            help: qsTr("Put %1 back").arg(root.model.removedFolder)
-            onAction: root.model.putFolderBack()
+        Conditional {
+            condition: root.model.removedFolder !== ""
+
+            TextButton {
+                title: qsTr("Undo")
+                help: qsTr("Put %1 back").arg(root.model.removedFolder)
+                onAction: root.model.putFolderBack()
+            }
         }
     }
 

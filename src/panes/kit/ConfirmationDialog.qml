@@ -30,9 +30,8 @@ Sheet {
     description: root.message
     onCancelled: root.cancel()
 
-    // Made when it is asked.
-    Repeater {
-        model: root.isPresented ? 1 : 0
+    Conditional {
+        condition: root.isPresented
 
         Column {
             width: parent.width

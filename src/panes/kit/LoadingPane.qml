@@ -28,16 +28,22 @@ Item {
             width: parent.width
             height: 44 + parts.spacing
 
-            SweepLoader {
-                anchors.centerIn: parent
-                size: 44
-                visible: root.style === LoadingStyle.Reading
+            Conditional {
+                condition: root.style === LoadingStyle.Reading
+
+                SweepLoader {
+                    anchors.centerIn: parent
+                    size: 44
+                }
             }
 
-            LiftingLoader {
-                anchors.centerIn: parent
-                size: 44
-                visible: root.style === LoadingStyle.Working
+            Conditional {
+                condition: root.style === LoadingStyle.Working
+
+                LiftingLoader {
+                    anchors.centerIn: parent
+                    size: 44
+                }
             }
         }
 

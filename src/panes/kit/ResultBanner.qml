@@ -35,10 +35,9 @@ Item {
         id: over
     }
 
-    KitToolTip {
-        x: Measures.side(root.width)
-        shown: over.hovered && root.help !== ""
+    HelpTip {
         text: root.help
+        hovered: over.hovered
     }
 
     RowLayout {

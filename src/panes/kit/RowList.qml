@@ -57,7 +57,7 @@ ToolListView {
     // that come all at once.
     function fillAgainBelow(row: Item) {
         if (row)
-            root.filledHeight = Math.min(root.filledHeight, row.y + row.height - root.contentY + root.filledAtOnce);
+            root.filledHeight = Math.min(root.filledHeight, row.y + row.height - root.contentY + Measures.rowHeight);
     }
 
     onActivated: row => root.pressedRow = row

@@ -53,11 +53,14 @@ Rectangle {
                 Accessible.name: text
             }
 
-            ProgressLine {
-                objectName: "progressLine"
-                value: root.shown.fraction
-                visible: root.shown.showsProgress
-                Layout.preferredWidth: 320
+            Conditional {
+                condition: root.shown.showsProgress
+
+                ProgressLine {
+                    objectName: "progressLine"
+                    value: root.shown.fraction
+                    Layout.preferredWidth: 320
+                }
             }
 
             Label {
@@ -71,11 +74,14 @@ Rectangle {
             }
         }
 
-        SecondaryButton {
-            objectName: "stopButton"
-            title: qsTr("Stop")
-            visible: root.shown.showsStop
-            onAction: root.stop()
+        Conditional {
+            condition: root.shown.showsStop
+
+            SecondaryButton {
+                objectName: "stopButton"
+                title: qsTr("Stop")
+                onAction: root.stop()
+            }
         }
 
         PrimaryButton {

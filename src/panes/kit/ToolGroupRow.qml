@@ -50,8 +50,8 @@ RowFrame {
         onToggled: root.pressBox()
     }
 
-    Repeater {
-        model: root.canToggleExpanded ? 1 : 0
+    Conditional {
+        condition: root.canToggleExpanded
 
         Symbol {
             Layout.preferredWidth: 14
@@ -81,8 +81,8 @@ RowFrame {
             color: root.titleColor
         }
 
-        Repeater {
-            model: root.note.length > 0 ? 1 : 0
+        Conditional {
+            condition: root.note.length > 0
 
             ElidedText {
                 Layout.fillWidth: true

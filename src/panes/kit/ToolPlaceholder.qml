@@ -32,33 +32,42 @@ Item {
             width: parent.width
             height: 44 + parts.spacing
 
-            ProgressLine {
-                objectName: "progressLine"
-                anchors.centerIn: parent
-                width: 220
-                value: root.progress
-                visible: root.topElement === PlaceholderTop.Progress
-            }
+            Conditional {
+                condition: root.topElement === PlaceholderTop.Progress
 
-            DelayedAppearance {
-                anchors.centerIn: parent
-                width: 44
-                height: 44
-                visible: root.topElement === PlaceholderTop.Loader
-
-                SweepLoader {
-                    objectName: "loader"
-                    size: 44
+                ProgressLine {
+                    objectName: "progressLine"
+                    anchors.centerIn: parent
+                    width: 220
+                    value: root.progress
                 }
             }
 
-            Symbol {
-                objectName: "icon"
-                anchors.centerIn: parent
-                name: root.icon
-                size: 30
-                color: Theme.textTertiary
-                visible: root.topElement === PlaceholderTop.Icon
+            Conditional {
+                condition: root.topElement === PlaceholderTop.Loader
+
+                DelayedAppearance {
+                    anchors.centerIn: parent
+                    width: 44
+                    height: 44
+
+                    SweepLoader {
+                        objectName: "loader"
+                        size: 44
+                    }
+                }
+            }
+
+            Conditional {
+                condition: root.topElement === PlaceholderTop.Icon
+
+                Symbol {
+                    objectName: "icon"
+                    anchors.centerIn: parent
+                    name: root.icon
+                    size: 30
+                    color: Theme.textTertiary
+                }
             }
         }
 

@@ -48,13 +48,18 @@ ToolPane {
         Repeater {
             model: root.model.mostKinds
 
-            FilterChip {
+            Conditional {
+                id: place
+
                 required property int index
 
-                visible: index < root.model.kinds.length
-                title: root.model.kindNames[index] ?? ""
-                isSelected: visible && title === root.model.activeKind
-                onAction: root.model.toggleKind(title)
+                condition: index < root.model.kinds.length
+
+                FilterChip {
+                    title: root.model.kindNames[place.index] ?? ""
+                    isSelected: title === root.model.activeKind
+                    onAction: root.model.toggleKind(title)
+                }
             }
         }
 
@@ -67,36 +72,48 @@ ToolPane {
         }
     }
 
-    LargeFileTable {
-        visible: !root.instead.isShown
-        pane: root.model
+    Conditional {
+        condition: !root.instead.isShown
+
+        LargeFileTable {
+            pane: root.model
+        }
     }
 
-    LoadingPane {
-        visible: root.instead.isShown && root.instead.isBusy
-        title: root.instead.title
-        detail: root.instead.detail
-        progress: root.model.progress
-        style: LoadingStyle.Reading
+    Conditional {
+        condition: root.instead.isShown && root.instead.isBusy
+
+        LoadingPane {
+            title: root.instead.title
+            detail: root.instead.detail
+            progress: root.model.progress
+            style: LoadingStyle.Reading
+        }
     }
 
-    ToolPlaceholder {
-        visible: root.instead.isShown && !root.instead.isBusy
-        icon: root.instead.icon
-        title: root.instead.title
-        detail: root.instead.detail
+    Conditional {
+        condition: root.instead.isShown && !root.instead.isBusy
+
+        ToolPlaceholder {
+            icon: root.instead.icon
+            title: root.instead.title
+            detail: root.instead.detail
+        }
     }
 
-    footer: ToolFooter {
-        visible: !root.instead.isShown
-        selectionSummary: root.model.selectionSummary
-        explanation: root.model.footerHint
-        buttonTitle: root.model.trashButtonTitle
-        isEnabled: root.model.canTrash
-        isBusy: root.model.isDeleting
-        progress: root.model.deleteProgress
-        canStop: true
-        onAction: root.model.trashSelected()
-        onStop: root.model.stopTrashing()
+    footer: Conditional {
+        condition: !root.instead.isShown
+
+        ToolFooter {
+            selectionSummary: root.model.selectionSummary
+            explanation: root.model.footerHint
+            buttonTitle: root.model.trashButtonTitle
+            isEnabled: root.model.canTrash
+            isBusy: root.model.isDeleting
+            progress: root.model.deleteProgress
+            canStop: true
+            onAction: root.model.trashSelected()
+            onStop: root.model.stopTrashing()
+        }
     }
 }

@@ -39,27 +39,36 @@ ToolPane {
     ]
     onAction: model.performAction()
 
-    TrailTable {
-        visible: !root.instead.isShown
-        pane: root.model
+    Conditional {
+        condition: !root.instead.isShown
+
+        TrailTable {
+            pane: root.model
+        }
     }
 
-    ToolPlaceholder {
-        visible: root.instead.isShown
-        isBusy: root.instead.isBusy
-        icon: root.instead.icon
-        title: root.instead.title
-        detail: root.instead.detail
+    Conditional {
+        condition: root.instead.isShown
+
+        ToolPlaceholder {
+            isBusy: root.instead.isBusy
+            icon: root.instead.icon
+            title: root.instead.title
+            detail: root.instead.detail
+        }
     }
 
-    footer: ToolFooter {
-        visible: !root.instead.isShown
-        selectionSummary: root.model.selectionSummary
-        explanation: root.model.selectionHint
-        buttonTitle: root.model.clearTitle
-        isEnabled: root.model.canClear
-        isBusy: root.model.isCleaning
-        onAction: root.model.clear()
+    footer: Conditional {
+        condition: !root.instead.isShown
+
+        ToolFooter {
+            selectionSummary: root.model.selectionSummary
+            explanation: root.model.selectionHint
+            buttonTitle: root.model.clearTitle
+            isEnabled: root.model.canClear
+            isBusy: root.model.isCleaning
+            onAction: root.model.clear()
+        }
     }
 
     ConfirmationDialog {

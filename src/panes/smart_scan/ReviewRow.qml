@@ -56,8 +56,8 @@ ToolGroupRow {
     Accessible.checkStateMixed: selection === ReviewTableModel.Partial
 
     // What only some rows have is made for these alone: a table is drawn as fast as its rows are made.
-    whole: Repeater {
-        model: root.isCommand ? 1 : 0
+    whole: Conditional {
+        condition: root.isCommand
 
         CommandLine {
             anchors.fill: parent
@@ -86,8 +86,8 @@ ToolGroupRow {
         color: root.isCategory ? Theme.systemColor(root.color) : Theme.textTertiary
     }
 
-    Repeater {
-        model: root.isCategory ? 1 : 0
+    Conditional {
+        condition: root.isCategory
 
         Item {
             Layout.preferredWidth: Measures.safetyWidth
@@ -101,8 +101,8 @@ ToolGroupRow {
         }
     }
 
-    Repeater {
-        model: root.isCategory ? 1 : 0
+    Conditional {
+        condition: root.isCategory
 
         NumberCell {
             Layout.preferredWidth: Measures.countWidth
@@ -110,8 +110,8 @@ ToolGroupRow {
         }
     }
 
-    Repeater {
-        model: root.isItem || root.isHint ? 1 : 0
+    Conditional {
+        condition: root.isItem || root.isHint
 
         RevealButton {
             activeFocusOnTab: root.ListView.isCurrentItem

@@ -20,9 +20,8 @@ Sheet {
     sheetWidth: 520
     onCancelled: model.close()
 
-    // Made when it is asked.
-    Repeater {
-        model: root.isPresented ? 1 : 0
+    Conditional {
+        condition: root.isPresented
 
         Column {
             width: parent.width

@@ -38,10 +38,13 @@ ToolPane {
             Layout.fillWidth: true
             Layout.fillHeight: true
 
-            ScanPreview {
-                anchors.fill: parent
-                visible: root.body === SmartScanModel.Preview
-                model: root.model.preview
+            Conditional {
+                condition: root.body === SmartScanModel.Preview
+
+                ScanPreview {
+                    anchors.fill: parent
+                    model: root.model.preview
+                }
             }
 
             ScanningTable {
@@ -56,20 +59,26 @@ ToolPane {
                 model: root.model.reviewTable
             }
 
-            ToolPlaceholder {
-                anchors.fill: parent
-                visible: root.body === SmartScanModel.NothingFound
-                icon: "checkmark.circle"
-                title: qsTr("Nothing worth removing")
-                detail: qsTr("Klarvik found no junk in the places it looks.")
+            Conditional {
+                condition: root.body === SmartScanModel.NothingFound
+
+                ToolPlaceholder {
+                    anchors.fill: parent
+                    icon: "checkmark.circle"
+                    title: qsTr("Nothing worth removing")
+                    detail: qsTr("Klarvik found no junk in the places it looks.")
+                }
             }
         }
 
-        OtherToolsBar {
-            Layout.fillWidth: true
-            visible: root.model.elsewhere.isShown
-                     && (root.isReviewing || root.body === SmartScanModel.NothingFound)
-            model: root.model.elsewhere
+        Conditional {
+            condition: root.model.elsewhere.isShown
+                       && (root.isReviewing || root.body === SmartScanModel.NothingFound)
+
+            OtherToolsBar {
+                Layout.fillWidth: true
+                model: root.model.elsewhere
+            }
         }
     }
 

@@ -24,7 +24,7 @@ Item {
     DonutChart {
         id: chart
 
-        property real drawn: root.model.animateCharts && root.model.isMeasured ? 1 : 0
+        property real drawn: 0
 
         x: 6
         y: Math.floor((root.height - height) / 2)
@@ -36,6 +36,8 @@ Item {
         highlighted: root.model.highlighted
         sweep: chart.drawn
         onSelect: slice => root.model.openBucket(slice)
+        // The ring grows when it appears: what a property begins with is not animated.
+        Component.onCompleted: chart.drawn = Qt.binding(() => root.model.animateCharts ? 1 : 0)
 
         Behavior on drawn {
             enabled: !Kit.reduceMotion

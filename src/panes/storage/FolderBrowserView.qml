@@ -12,6 +12,11 @@ FocusScope {
 
     required property FolderBrowser browser
 
+    function focusRows() {
+        if (root.visible)
+            list.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
     anchors.fill: parent
     Keys.onEscapePressed: root.browser.goUp()
     Keys.onPressed: event => {
@@ -19,10 +24,8 @@ FocusScope {
         if (event.accepted && !event.isAutoRepeat)
             root.browser.goUp();
     }
-    onVisibleChanged: {
-        if (root.visible)
-            list.forceActiveFocus(Qt.OtherFocusReason);
-    }
+    onVisibleChanged: root.focusRows()
+    Component.onCompleted: root.focusRows()
 
     ColumnLayout {
         anchors.fill: parent
@@ -108,10 +111,13 @@ FocusScope {
             Layout.fillWidth: true
             Layout.fillHeight: true
 
-            ToolPlaceholder {
-                visible: root.browser.isMeasuring
-                title: root.browser.status
-                detail: ""
+            Conditional {
+                condition: root.browser.isMeasuring
+
+                ToolPlaceholder {
+                    title: root.browser.status
+                    detail: ""
+                }
             }
 
             RowList {

@@ -68,9 +68,12 @@ ToolPane {
     onEnabledChanged: tellThatChartsAppeared()
     Component.onCompleted: tellThatChartsAppeared()
 
-    FolderBrowserView {
-        visible: root.model.browser.isOpen
-        browser: root.model.browser
+    Conditional {
+        condition: root.model.browser.isOpen
+
+        FolderBrowserView {
+            browser: root.model.browser
+        }
     }
 
     ToolScrollView {
@@ -80,21 +83,30 @@ ToolPane {
         Card {
             heading: qsTr("WHAT FILLS THE DISK")
 
-            Note {
-                visible: !root.model.isMeasured
-                text: root.model.nothingMeasured
+            Conditional {
+                condition: !root.model.isMeasured
+
+                Note {
+                    text: root.model.nothingMeasured
+                }
             }
 
-            ProgressLine {
-                visible: root.model.isMeasuring
-                width: parent ? Math.min(parent.width, 420) : implicitWidth
-                value: root.model.measureProgress
+            Conditional {
+                condition: root.model.isMeasuring
+
+                ProgressLine {
+                    width: parent ? Math.min(parent.width, 420) : implicitWidth
+                    value: root.model.measureProgress
+                }
             }
 
-            CompositionChart {
-                visible: root.model.isMeasured
-                width: parent ? parent.width : implicitWidth
-                model: root.model
+            Conditional {
+                condition: root.model.isMeasured
+
+                CompositionChart {
+                    width: parent ? parent.width : implicitWidth
+                    model: root.model
+                }
             }
         }
 
@@ -151,10 +163,13 @@ ToolPane {
                 text: root.model.noTrend
             }
 
-            CleanBars {
-                visible: root.model.noTrend === ""
-                width: parent ? parent.width : implicitWidth
-                model: root.model
+            Conditional {
+                condition: root.model.noTrend === ""
+
+                CleanBars {
+                    width: parent ? parent.width : implicitWidth
+                    model: root.model
+                }
             }
         }
     }

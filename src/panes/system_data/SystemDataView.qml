@@ -22,25 +22,28 @@ ToolPane {
     onAction: model.performAction()
 
     // What the last removal moved, and whether its space is back.
-    banner: ResultBanner {
-        visible: root.model.isBannerShown
-        symbol: root.model.trashHoldsIt ? "trash.fill" : "checkmark.circle.fill"
-        symbolColor: root.model.trashHoldsIt ? Theme.textMuted : Theme.safe
-        headline: root.model.bannerHeadline
-        detail: root.model.bannerDetail
-        help: root.model.bannerHelp
+    banner: Conditional {
+        condition: root.model.isBannerShown
 
-        SecondaryButton {
-            visible: root.model.trashHoldsIt
-            isEnabled: root.model.canEmptyTrash
-            title: qsTr("Empty Trash")
-            onAction: root.model.emptyTrash()
-        }
+        ResultBanner {
+            symbol: root.model.trashHoldsIt ? "trash.fill" : "checkmark.circle.fill"
+            symbolColor: root.model.trashHoldsIt ? Theme.textMuted : Theme.safe
+            headline: root.model.bannerHeadline
+            detail: root.model.bannerDetail
+            help: root.model.bannerHelp
 
-        SymbolButton {
-            symbol: "xmark"
-            title: qsTr("Dismiss")
-            onAction: root.model.dismissBanner()
+            SecondaryButton {
+                visible: root.model.trashHoldsIt
+                isEnabled: root.model.canEmptyTrash
+                title: qsTr("Empty Trash")
+                onAction: root.model.emptyTrash()
+            }
+
+            SymbolButton {
+                symbol: "xmark"
+                title: qsTr("Dismiss")
+                onAction: root.model.dismissBanner()
+            }
         }
     }
 
@@ -73,35 +76,47 @@ ToolPane {
         }
     }
 
-    SystemDataEmptyState {
-        anchors.fill: parent
-        visible: root.body === SystemDataModel.Empty
-        model: root.model
+    Conditional {
+        condition: root.body === SystemDataModel.Empty
+
+        SystemDataEmptyState {
+            anchors.fill: parent
+            model: root.model
+        }
     }
 
-    ToolPlaceholder {
-        visible: root.body === SystemDataModel.Analysing
-        progress: root.model.scanProgress
-        title: root.model.scanLabel
-        detail: ""
+    Conditional {
+        condition: root.body === SystemDataModel.Analysing
+
+        ToolPlaceholder {
+            progress: root.model.scanProgress
+            title: root.model.scanLabel
+            detail: ""
+        }
     }
 
-    SystemDataFindings {
-        visible: root.hasResult
-        pane: root.model
+    Conditional {
+        condition: root.hasResult
+
+        SystemDataFindings {
+            pane: root.model
+        }
     }
 
-    footer: ToolFooter {
-        visible: root.hasResult
-        selectionSummary: root.model.selectionSummary
-        explanation: qsTr("Only rows marked Safe to remove or Review first can be selected. Everything goes to Trash.")
-        buttonTitle: root.model.removalTitle
-        isEnabled: root.model.canRemove
-        isBusy: root.model.isDeleting
-        progress: root.model.deleteProgress
-        canStop: true
-        onAction: root.model.requestRemoval()
-        onStop: root.model.stopRemoval()
+    footer: Conditional {
+        condition: root.hasResult
+
+        ToolFooter {
+            selectionSummary: root.model.selectionSummary
+            explanation: qsTr("Only rows marked Safe to remove or Review first can be selected. Everything goes to Trash.")
+            buttonTitle: root.model.removalTitle
+            isEnabled: root.model.canRemove
+            isBusy: root.model.isDeleting
+            progress: root.model.deleteProgress
+            canStop: true
+            onAction: root.model.requestRemoval()
+            onStop: root.model.stopRemoval()
+        }
     }
 
     ConfirmationDialog {

@@ -48,11 +48,14 @@ ToolPane {
     // The linter does not know that a list property takes another one's value.
     columns: model.isDetail ? leftoverColumns : appColumns // qmllint disable type
 
-    banner: RemovalAdvice {
-        visible: root.model.isDetail && explanation !== ""
-        command: root.model.removalCommand
-        explanation: root.model.removalExplanation
-        alsoRemoved: root.model.alsoRemoved
+    banner: Conditional {
+        condition: root.model.isDetail && root.model.removalExplanation !== ""
+
+        RemovalAdvice {
+            command: root.model.removalCommand
+            explanation: root.model.removalExplanation
+            alsoRemoved: root.model.alsoRemoved
+        }
     }
 
     filters: FilterBar {
@@ -93,26 +96,35 @@ ToolPane {
         onLeftWithFocus: backChip.forceActiveFocus(Qt.OtherFocusReason)
     }
 
-    LeftoverTable {
-        visible: root.model.isDetail && !root.instead.isShown
-        pane: root.model
+    Conditional {
+        condition: root.model.isDetail && !root.instead.isShown
+
+        LeftoverTable {
+            pane: root.model
+        }
     }
 
-    ToolPlaceholder {
-        visible: root.instead.isShown
-        isBusy: root.instead.isBusy
-        icon: root.instead.icon
-        title: root.instead.title
-        detail: root.instead.detail
+    Conditional {
+        condition: root.instead.isShown
+
+        ToolPlaceholder {
+            isBusy: root.instead.isBusy
+            icon: root.instead.icon
+            title: root.instead.title
+            detail: root.instead.detail
+        }
     }
 
-    footer: ToolFooter {
-        visible: root.model.isDetail
-        selectionSummary: root.model.selectionSummary
-        explanation: root.model.selectionHint
-        buttonTitle: root.model.actionTitle
-        isEnabled: root.model.canUninstall
-        isBusy: root.model.isUninstalling
-        onAction: root.model.uninstall()
+    footer: Conditional {
+        condition: root.model.isDetail
+
+        ToolFooter {
+            selectionSummary: root.model.selectionSummary
+            explanation: root.model.selectionHint
+            buttonTitle: root.model.actionTitle
+            isEnabled: root.model.canUninstall
+            isBusy: root.model.isUninstalling
+            onAction: root.model.uninstall()
+        }
     }
 }

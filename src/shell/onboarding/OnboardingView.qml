@@ -61,8 +61,8 @@ FocusScope {
         }
     }
 
-    Repeater {
-        model: Words.asksForFullDiskAccess ? 1 : 0
+    Conditional {
+        condition: Words.asksForFullDiskAccess
 
         Page {
             place: 1

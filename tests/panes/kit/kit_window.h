@@ -61,7 +61,7 @@ class KitWindow : public ::testing::Test {
 
   static void settle() { FakeMotion::turnUntilStill(); }
 
-  QQuickItem* part(const char* name) { return view.rootObject()->findChild<QQuickItem*>(name); }
+  QQuickItem* part(const char* name) { return partOf(*view.rootObject(), name); }
   static QString text(const QQuickItem* item) { return item->property("text").toString(); }
 
   void click(QPointF scenePoint) {
@@ -78,6 +78,15 @@ class KitWindow : public ::testing::Test {
     QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
     QCoreApplication::sendEvent(&view, &again);
     QTest::keyRelease(&view, key);
+  }
+
+  /// What stands in a Conditional is no child of the objects around it, but of the items.
+  static QQuickItem* partOf(const QQuickItem& item, const char* name) {
+    for (QQuickItem* child : item.childItems()) {
+      if (child->objectName() == name) return child;
+      if (QQuickItem* inside = partOf(*child, name)) return inside;
+    }
+    return nullptr;
   }
 
   static QAccessibleInterface* accessible(QQuickItem* item) {

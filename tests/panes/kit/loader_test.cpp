@@ -106,6 +106,17 @@ TEST_F(Loaders, OfAPaneThatIsRemovedAfterThreeHundredMillisecondsNeverAppear) {
   clock.advance(std::chrono::seconds(5));
 }
 
+/// What runs in `item`, by the names of its types.
+QStringList runningLoaders(const QQuickItem& item) {
+  QStringList running;
+  for (const auto* timeline :
+       item.findChildren<LoaderTimeline*>(QString(), Qt::FindDirectChildrenOnly)) {
+    if (timeline->isRunning()) running << item.metaObject()->className();
+  }
+  for (const QQuickItem* child : item.childItems()) running << runningLoaders(*child);
+  return running;
+}
+
 TEST_F(Loaders, OfALoadingPaneAreChosenByItsStyle) {
   const std::pair<const char*, const char*> styles[] = {{"Reading", "SweepLoader"},
                                                         {"Working", "LiftingLoader"}};
@@ -114,10 +125,7 @@ TEST_F(Loaders, OfALoadingPaneAreChosenByItsStyle) {
              "Item { width: 400; height: 300; LoadingPane { title: 'T'; style: LoadingStyle.") +
          style + " } }");
     clock.advance(std::chrono::milliseconds(400));
-    QStringList running;
-    for (const auto* timeline : view.rootObject()->findChildren<LoaderTimeline*>()) {
-      if (timeline->isRunning()) running << timeline->parent()->metaObject()->className();
-    }
+    const QStringList running = runningLoaders(*view.rootObject());
     ASSERT_EQ(running.size(), 1);
     EXPECT_TRUE(running[0].startsWith(element));
   }
