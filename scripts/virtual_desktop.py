@@ -221,10 +221,10 @@ class Klarvik:
             raise Failure(f"{failure} {self._waits_for()}") from failure
 
     def _waits_for(self):
-        """What the program has printed, and in which call of the kernel each of its threads is."""
+        """What the program has printed last, and in which call of the kernel each of its threads is."""
         threads = pathlib.Path(f"/proc/{self.process.pid}/task").glob("*")
         calls = [f"{read_line(each / 'comm')}: {read_line(each / 'syscall')}" for each in threads]
-        return "; ".join([f"It said {self.said()!r}", *calls])
+        return "; ".join([f"It said {self.said()[-1000:]!r}", *calls])
 
     def wait_for_window(self):
         return self.wait_until(lambda: self._desktop.windows_of(self.process), "A window")[-1]
