@@ -15,6 +15,7 @@ TEST(MountTable, TellsIdAndPlaceOfEachLine) {
   EXPECT_EQ(mounts[0].place, "/");
   EXPECT_EQ(mounts[1].id, 36u);
   EXPECT_EQ(mounts[1].place, "/media/USB stick\\\n");
+  EXPECT_EQ(mounts[1].source, "/dev/sdb1");
 }
 
 TEST(MountTable, TellsWhichFileSystemsNeedNoServer) {

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <unistd.h>
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -14,6 +15,7 @@
 #include <thread>
 
 #include "base/posix_io.h"
+#include "platform/linux/mounts.h"
 
 namespace klarvik {
 namespace {
@@ -47,12 +49,28 @@ bool isVirtual(const std::string& device) {
   return std::ranges::find(drivers, driver.substr(driver.rfind('/') + 1)) != drivers.end();
 }
 
+/// The number of the device that the opened folder lies on. Some file systems, such as btrfs, have
+/// a number that is no device's: theirs is the one that they were mounted from.
+std::optional<dev_t> deviceOf(int folder) {
+  struct stat status {};
+  if (::fstat(folder, &status) != 0) return std::nullopt;
+  if (major(status.st_dev) != 0) return status.st_dev;
+  const auto mount = mountOfEntry(folder, "");
+  const auto table = mount ? readMountTable() : std::nullopt;
+  if (!table) return std::nullopt;
+  const auto found = std::ranges::find(*table, mount->id, &MountPoint::id);
+  // Another path may lead to a server that does not answer.
+  if (found == table->end() || !found->source.native().starts_with("/dev/")) return std::nullopt;
+  if (::stat(found->source.c_str(), &status) != 0 || !S_ISBLK(status.st_mode)) return std::nullopt;
+  return status.st_rdev;
+}
+
 /// Whether the disk that the opened folder lies on turns, as far as the system tells.
 bool liesOnTurningDisk(int folder) {
-  struct stat status {};
-  if (::fstat(folder, &status) != 0) return false;
-  const std::string device = "/sys/dev/block/" + std::to_string(major(status.st_dev)) + ':' +
-                             std::to_string(minor(status.st_dev));
+  const auto number = deviceOf(folder);
+  if (!number) return false;
+  const std::string device =
+      "/sys/dev/block/" + std::to_string(major(*number)) + ':' + std::to_string(minor(*number));
   // What is asked of a whole disk is found above its partitions.
   for (const std::string& disk : {device, device + "/.."}) {
     const auto turns = textOf(disk + "/queue/rotational");

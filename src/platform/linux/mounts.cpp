@@ -34,20 +34,6 @@ std::optional<std::uint64_t> volumeFrom(std::string_view text) {
   return std::uint64_t{*major} << 32U | *minor;
 }
 
-// Behind the fields, whose number varies, a lone dash precedes the kind of file system.
-constexpr std::string_view kEndOfFields = " - ";
-
-constexpr std::array<std::string_view, 18> kLocalKinds{
-    "ext2",  "ext3", "ext4",  "xfs",  "btrfs", "f2fs",    "zfs", "bcachefs", "jfs",
-    "tmpfs", "vfat", "exfat", "ntfs", "ntfs3", "fuseblk", "hfs", "hfsplus",  "overlay"};
-
-bool isLocalKind(std::string_view line) {
-  const std::size_t end = line.find(kEndOfFields);
-  if (end == std::string_view::npos) return false;
-  const std::string_view kind = line.substr(end + kEndOfFields.size());
-  return std::ranges::find(kLocalKinds, kind.substr(0, kind.find(' '))) != kLocalKinds.end();
-}
-
 std::string_view fieldOf(std::string_view line, std::size_t index) {
   for (; index > 0; --index) {
     const std::size_t space = line.find(' ');
@@ -55,6 +41,25 @@ std::string_view fieldOf(std::string_view line, std::size_t index) {
     line.remove_prefix(space + 1);
   }
   return line.substr(0, line.find(' '));
+}
+
+// Behind the fields, whose number varies, a lone dash precedes the kind of file system and what was
+// mounted.
+constexpr std::string_view kEndOfFields = " - ";
+constexpr std::size_t kKindField = 0;
+constexpr std::size_t kSourceField = 1;
+
+std::string_view behindTheFields(std::string_view line) {
+  const std::size_t end = line.find(kEndOfFields);
+  return end != std::string_view::npos ? line.substr(end + kEndOfFields.size()) : "";
+}
+
+constexpr std::array<std::string_view, 18> kLocalKinds{
+    "ext2",  "ext3", "ext4",  "xfs",  "btrfs", "f2fs",    "zfs", "bcachefs", "jfs",
+    "tmpfs", "vfat", "exfat", "ntfs", "ntfs3", "fuseblk", "hfs", "hfsplus",  "overlay"};
+
+bool isLocalKind(std::string_view kind) {
+  return std::ranges::find(kLocalKinds, kind) != kLocalKinds.end();
 }
 
 // Blanks, line ends and backslashes stand as a backslash and three octal digits.
@@ -82,11 +87,13 @@ std::vector<MountPoint> mountTableFrom(std::string_view text) {
     const auto id = wholeNumber<std::uint64_t>(fieldOf(line, kIdField));
     const std::string_view place = fieldOf(line, kPlaceField);
     if (!id || !place.starts_with('/')) continue;
+    const std::string_view rest = behindTheFields(line);
     mounts.push_back({.id = *id,
                       .place = unescaped(place),
                       .volume = volumeFrom(fieldOf(line, kVolumeField)).value_or(0),
                       .top = unescaped(fieldOf(line, kTopField)),
-                      .isLocal = isLocalKind(line)});
+                      .source = unescaped(fieldOf(rest, kSourceField)),
+                      .isLocal = isLocalKind(fieldOf(rest, kKindField))});
   }
   return mounts;
 }

@@ -18,7 +18,8 @@ struct MountPoint {
   Path place;            ///< on the machine
   /// The same for all mounts of one file system; 0 where the line does not tell.
   std::uint64_t volume = 0;
-  Path top{};  ///< which folder of the file system is mounted, counted from its own top
+  Path top{};     ///< which folder of the file system is mounted, counted from its own top
+  Path source{};  ///< what was mounted: a device of the machine, or any word where there is none
   /// Whether its kind of file system keeps files on this machine, so that no server has to answer.
   bool isLocal = false;
 };
