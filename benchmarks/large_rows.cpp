@@ -130,7 +130,7 @@ bool measureWindow(const Desktop& desktop) {
   bool isMeasuring = false;
   QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [&] {
     if (isMeasuring) frames.moment();
-    window.requestUpdate();
+    window.update();
   });
   pane.performAction();
   isMeasuring = true;
