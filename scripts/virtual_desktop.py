@@ -114,8 +114,11 @@ class VirtualDesktop:
 
     def _start_window_manager(self, ending, runtime):
         own = {**self.environment, "HOME": runtime, "XDG_CACHE_HOME": runtime}
-        command = ["openbox", "--sm-disable"]
+        # A window that is opened while it starts may never come.
+        started = pathlib.Path(runtime, "window-manager-started")
+        command = ["openbox", "--sm-disable", "--startup", f"touch {started}"]
         self._start(ending, command, env=own, stdout=subprocess.DEVNULL)
+        wait_until(started.exists, "The start of the window manager")
 
     def run(self, *command):
         """What `command` prints, run on this desktop."""
