@@ -116,8 +116,8 @@ bool passesWithDeadServers(const std::vector<Path>& folders, const std::function
   });
 }
 
-void mountTmpfs(const Path& folder, const char* options) {
-  if (::mount("klarvik-test", folder.c_str(), "tmpfs", 0, options) != 0) giveUp("mount a tmpfs");
+void mountTmpfs(const Path& folder, const char* options, const char* source) {
+  if (::mount(source, folder.c_str(), "tmpfs", 0, options) != 0) giveUp("mount a tmpfs");
 }
 
 void mountBind(const Path& folder, const Path& at) {

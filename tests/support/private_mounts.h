@@ -29,8 +29,8 @@ namespace klarvik {
 [[nodiscard]] bool shareContent(const Path& file, const Path& copy);
 
 /// For use within: an empty file system in memory on `folder`. `options` are those of tmpfs, such
-/// as "size=64k".
-void mountTmpfs(const Path& folder, const char* options = "");
+/// as "size=64k", `source` is what the system says it was mounted from.
+void mountTmpfs(const Path& folder, const char* options = "", const char* source = "klarvik-test");
 /// `folder` seen at `at` as well.
 void mountBind(const Path& folder, const Path& at);
 

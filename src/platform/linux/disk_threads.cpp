@@ -61,7 +61,7 @@ std::optional<dev_t> deviceOf(int folder) {
   const auto found = std::ranges::find(*table, mount->id, &MountPoint::id);
   // Another path may lead to a server that does not answer.
   if (found == table->end() || !found->source.native().starts_with("/dev/")) return std::nullopt;
-  if (::stat(found->source.c_str(), &status) != 0 || !S_ISBLK(status.st_mode)) return std::nullopt;
+  if (::stat(found->source.c_str(), &status) != 0) return std::nullopt;
   return status.st_rdev;
 }
 
