@@ -32,6 +32,17 @@ TEST(MountTable, TellsWhichFileSystemsNeedNoServer) {
   }
 }
 
+TEST(MountTable, TellsWhereSomethingIsMountedOnceSomebodyEnters) {
+  const auto mounts = mountTableFrom(
+      "22 1 254:0 / / rw,relatime - ext4 /dev/vda rw\n"
+      "36 22 0:31 / /boot/efi rw shared:5 - autofs systemd-1 rw,fd=52,direct\n"
+      "37 22 0:32 / /autofs rw - tmpfs autofs rw\n");
+  ASSERT_EQ(mounts.size(), 3u);
+  for (const MountPoint& mount : mounts) {
+    EXPECT_EQ(mount.mountsOnEntry, mount.place == "/boot/efi") << mount.place;
+  }
+}
+
 TEST(MountTable, LeavesOutLinesOfAnotherForm) {
   EXPECT_TRUE(mountTableFrom("").empty());
   EXPECT_TRUE(mountTableFrom("\n\nx 1 0:1 / /mnt rw\n22 1 254:0 /\n22 1 254:0 / mnt\n").empty());

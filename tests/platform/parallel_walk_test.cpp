@@ -3,9 +3,12 @@
 #include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 
 #include <array>
 #include <atomic>
+#include <cerrno>
+#include <filesystem>
 #include <random>
 #include <set>
 #include <string>
@@ -16,8 +19,11 @@
 #include "base/paths.h"
 #include "deep_tree.h"
 #include "platform/linux/directory_walk.h"
+#include "platform/linux/file_status.h"
+#include "platform/linux/folder_listing.h"
 #include "support/child_process.h"
 #include "support/private_mounts.h"
+#include "support/system_call_faults.h"
 #include "support/temporary_folder.h"
 
 namespace klarvik {
@@ -307,6 +313,58 @@ TEST_F(ParallelWalkTest, AnotherVolumeIsNeverOpenedWhereTheWalkStays) {
     EXPECT_FALSE(opened.any());
     EXPECT_EQ(told(kHelped, {}), told(kAlone, {}));
   }));
+}
+
+TEST_F(ParallelWalkTest, AnAutomounterIsNeverAskedWhereTheWalkStays) {
+  if (!canMountAutomounters()) GTEST_SKIP() << "no automounter can be mounted here";
+  std::vector<Path> automounts;
+  for (int number = 0; number < 20; ++number) {
+    const std::string project = "start/" + std::to_string(number);
+    for (const char* name : {"a", "b", "c"}) disk.makeFile(project + "/" + name + "/deeper/file");
+    automounts.push_back(disk.makeFolder(project + "/b/server"));
+  }
+  EXPECT_TRUE(passesWithPrivateMounts([&] {
+    for (const Path& folder : automounts) mountAutomounter(folder);
+    for (int round = 0; round < 20; ++round) EXPECT_EQ(told(kHelped), told(kAlone));
+    EXPECT_FALSE(anyAutomounterWasAsked());
+    (void)std::filesystem::exists(automounts.front() / "far");
+    EXPECT_TRUE(anyAutomounterWasAsked());
+  }));
+}
+
+// A kernel before 6.15 lets the automounter mount something before it refuses.
+TEST_F(ParallelWalkTest, WhatHasTheNameOfAnAutomountIsAskedBeforeItIsOpened) {
+  disk.makeFolder("start/server");
+  disk.makeFolder("start/other");
+  EXPECT_TRUE(passesWithPrivateMounts([&] {
+    const UniqueFd start(::open(disk.onDisk("start").c_str(), O_RDONLY | O_DIRECTORY));
+    const WalkRules rules{.options = {.stayOnMount = true},
+                          .mount = mountOf(start.get(), ""),
+                          .automounts = std::vector<std::string>{"server"}};
+    EXPECT_TRUE(openOnTheMount(rules, start.get(), "other"));
+    refuseSystemCall(SYS_openat2, EIO);
+    EXPECT_FALSE(openOnTheMount(rules, start.get(), "other"));
+    EXPECT_TRUE(openOnTheMount(rules, start.get(), "server"));
+  }));
+}
+
+TEST_F(ParallelWalkTest, OneThatMayNotOpenFoldersOfOneMountOnlyAsksFirst) {
+  for (const char* name : {"a/b/file", "a/c/file", "d/file"}) {
+    disk.makeFile(std::string("start/") + name);
+  }
+  const Path mount = disk.makeFolder("start/a/mount");
+  for (const int error : {ENOSYS, EPERM}) {
+    EXPECT_TRUE(passesWithPrivateMounts([&] {
+      mountTmpfs(mount);
+      std::filesystem::create_directory(mount / "far");
+      const auto all = told(kHelped);
+      refuseSystemCall(SYS_openat2, error);
+      const OpenedFolders opened({mount});
+      EXPECT_EQ(told(kHelped), all);
+      EXPECT_EQ(told(kAlone), all);
+      EXPECT_FALSE(opened.any());
+    }));
+  }
 }
 
 TEST_F(ParallelWalkTest, WhatTheOptionsLeaveOutIsNeverOpened) {

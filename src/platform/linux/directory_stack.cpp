@@ -1,7 +1,10 @@
 #include "platform/linux/directory_stack.h"
 
 #include <fcntl.h>
+#include <linux/openat2.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -12,6 +15,7 @@ namespace klarvik {
 namespace {
 
 constexpr std::size_t kMostHandles = 32;
+constexpr int kForListing = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 bool isOutOfHandles() {
   return errno == EMFILE || errno == ENFILE;
@@ -20,8 +24,7 @@ bool isOutOfHandles() {
 }  // namespace
 
 UniqueFd openForListing(int folder, const char* name) {
-  constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-  return UniqueFd(retryOnEintr([&] { return ::openat(folder, name, flags); }));
+  return UniqueFd(retryOnEintr([&] { return ::openat(folder, name, kForListing); }));
 }
 
 void DirectoryStack::Level::closeHandle() {
@@ -39,8 +42,20 @@ bool DirectoryStack::Level::isThe(const UniqueFd& folder) const {
          status.st_ino == inode;
 }
 
-DirectoryStack::DirectoryStack(UniqueFd start, std::function<bool()> freeHandles)
-    : _freeHandles(std::move(freeHandles)) {
+UniqueFd openOnSameMount(int folder, const char* name) {
+  open_how how{};
+  how.flags = kForListing;
+  how.resolve = RESOLVE_NO_XDEV;
+  return UniqueFd(static_cast<int>(
+      retryOnEintr([&] { return ::syscall(SYS_openat2, folder, name, &how, sizeof how); })));
+}
+
+bool canOpenOnSameMount() {
+  return openOnSameMount(AT_FDCWD, "/").get() >= 0;
+}
+
+DirectoryStack::DirectoryStack(UniqueFd start, Open open, std::function<bool()> freeHandles)
+    : _open(std::move(open)), _freeHandles(std::move(freeHandles)) {
   _levels.push_back({.handle = std::make_shared<const UniqueFd>(std::move(start))});
 }
 
@@ -52,9 +67,9 @@ UniqueFd DirectoryStack::open(const char* name) {
 }
 
 UniqueFd DirectoryStack::openIn(int folder, const char* name) const {
-  UniqueFd opened = openForListing(folder, name);
+  UniqueFd opened = _open(folder, name);
   if (opened || !isOutOfHandles() || !_freeHandles || !_freeHandles()) return opened;
-  return openForListing(folder, name);
+  return _open(folder, name);
 }
 
 void DirectoryStack::enter(std::shared_ptr<const UniqueFd> folder, std::string_view name) {
@@ -69,12 +84,11 @@ void DirectoryStack::enterUnopened(std::string_view name) {
   _levels.push_back({.handle = nullptr, .pathLength = _path.size()});
 }
 
-void DirectoryStack::openCurrent(const std::function<bool(int above, const char* name)>& mayOpen) {
+void DirectoryStack::openCurrent() {
   if (_levels.back().handle) return;
   const auto above = _levels[depth() - 1].handle;
-  const std::string name(currentName());
-  if (!above || !mayOpen(above->get(), name.c_str())) return;
-  UniqueFd folder = openIn(above->get(), name.c_str());
+  if (!above) return;
+  UniqueFd folder = openIn(above->get(), std::string(currentName()).c_str());
   if (folder) _levels.back().handle = std::make_shared<const UniqueFd>(std::move(folder));
 }
 

@@ -107,6 +107,12 @@ class DirectoryReader {
 /// Holds -1 when `name` in the opened folder is no folder, or when it cannot be opened.
 [[nodiscard]] UniqueFd openForListing(int folder, const char* name);
 
+/// The same, but where another volume is mounted on `name` nothing is opened, and `errno` is EXDEV.
+/// The volume itself is not asked, except that an automounter may mount one first.
+[[nodiscard]] UniqueFd openOnSameMount(int folder, const char* name);
+/// Whether this system lets `openOnSameMount` open anything.
+[[nodiscard]] bool canOpenOnSameMount();
+
 /// Where a walk stands: the opened folders from its start down to the current one.
 ///
 /// 1. Every folder was opened by its name in the folder above, and is no symbolic link.
@@ -118,9 +124,13 @@ class DirectoryReader {
 /// Belongs to one thread.
 class DirectoryStack {
  public:
+  /// Opens the folder `name` in an opened one; sets `errno` when it cannot.
+  using Open = std::function<UniqueFd(int folder, const char* name)>;
+
   /// `freeHandles` is called when this process has no handle left and the stack cannot spare one of
   /// its own. It answers whether it has closed some.
-  explicit DirectoryStack(UniqueFd start, std::function<bool()> freeHandles = nullptr);
+  explicit DirectoryStack(UniqueFd start, Open open = openForListing,
+                          std::function<bool()> freeHandles = nullptr);
 
   /// 0 in the folder that it started at.
   [[nodiscard]] std::size_t depth() const { return _levels.size() - 1; }
@@ -147,9 +157,8 @@ class DirectoryStack {
   void enter(std::shared_ptr<const UniqueFd> folder, std::string_view name);
   /// Enters a folder in which nothing will be entered, without opening it.
   void enterUnopened(std::string_view name);
-  /// Opens the current folder if it is not and if `mayOpen`, asked with the folder above and its
-  /// name there, lets it.
-  void openCurrent(const std::function<bool(int above, const char* name)>& mayOpen);
+  /// Opens the current folder if it is not yet. It stays unopened when that fails.
+  void openCurrent();
   /// Goes back to the folder above. When folders have been moved meanwhile, so that it is not to be
   /// found, goes back as far as the last folder that still is where it was. Never called at the
   /// start.
@@ -175,6 +184,7 @@ class DirectoryStack {
   std::vector<Level> _levels;
   std::size_t _firstOpen = 1;  // levels from 1 to here have their handles closed, the others open
   std::string _path;
+  Open _open;
   std::function<bool()> _freeHandles;
 };
 

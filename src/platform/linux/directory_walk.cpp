@@ -22,16 +22,9 @@ class CurrentFolder {
 
   [[nodiscard]] const DirectoryStack& trail() const { return _trail; }
 
-  /// Whether the walk may go into the folder `name` in `above`.
-  [[nodiscard]] bool mayBeEntered(int above, const char* name) const {
-    return !_rules.options.stayOnMount || !_rules.mount || liesOnTheMount(_rules, above, name);
-  }
-
   [[nodiscard]] std::optional<struct statx> statusOf(const char* name) {
-    if (_trail.current() < 0) {
-      _trail.openCurrent([this](int above, const char* own) { return mayBeEntered(above, own); });
-      if (_trail.current() < 0) return std::nullopt;
-    }
+    _trail.openCurrent();
+    if (_trail.current() < 0) return std::nullopt;
     return klarvik::statusOf(_trail.current(), name, _rules.waiting);
   }
 
@@ -152,7 +145,9 @@ class Walk {
  public:
   Walk(UniqueFd start, const Path& startPath, WalkOptions options, const WalkVisitor& visit,
        WalkThreads threads)
-      : _trail(std::move(start), [this] { return goOnAlone(); }),
+      : _trail(
+            std::move(start), [this](int above, const char* name) { return open(above, name); },
+            [this] { return goOnAlone(); }),
         _visit(visit),
         _threads(threads),
         _rules({.options = options,
@@ -232,11 +227,15 @@ class Walk {
   }
 
   bool enter(const std::string& name) {
-    if (!_folder.mayBeEntered(_trail.current(), name.c_str())) return false;
     UniqueFd folder = _trail.open(name.c_str());
     if (!folder) return false;
     _trail.enter(std::move(folder), name);
     return true;
+  }
+
+  UniqueFd open(int above, const char* name) {
+    const bool staysOnMount = _rules.options.stayOnMount && _rules.mount;
+    return staysOnMount ? openOnTheMount(_rules, above, name) : openForListing(above, name);
   }
 
   /// What `visitFolder` does, with what was read ahead.
@@ -287,6 +286,7 @@ class Walk {
     _hasStarted = true;
     if (!_rules.mount) _rules.mount = mountOf(_trail.current(), "");
     if (!_rules.mount) return;
+    if (_rules.options.stayOnMount) _rules.automounts = namesOfAutomounts();
     const HelpfulThreads threads =
         _threads.helpful ? *_threads.helpful : helpfulThreads(_trail.current());
     if (threads.helpers == 0) return;

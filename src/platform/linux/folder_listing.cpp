@@ -1,9 +1,11 @@
 #include "platform/linux/folder_listing.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <utility>
 
+#include "platform/linux/mounts.h"
 #include "platform/packages.h"
 
 namespace klarvik {
@@ -26,9 +28,37 @@ bool isEntered(const WalkRules& rules, std::string_view name) {
   return !(rules.options.skipPackageContents && isPackageName(name));
 }
 
+namespace {
+
 bool liesOnTheMount(const WalkRules& rules, int above, const char* name) {
   const auto mount = mountOf(above, name);
   return mount && rules.mount && mount->number == rules.mount->number;
+}
+
+/// Whether the system itself refuses the folder `name` if it lies on another mount. Then one call
+/// for a folder is enough where two were needed.
+bool isRefusedElsewhere(const WalkRules& rules, const char* name) {
+  return rules.options.stayOnMount && rules.automounts &&
+         std::ranges::find(*rules.automounts, name) == rules.automounts->end();
+}
+
+}  // namespace
+
+UniqueFd openOnTheMount(const WalkRules& rules, int above, const char* name) {
+  if (isRefusedElsewhere(rules, name)) return openOnSameMount(above, name);
+  if (liesOnTheMount(rules, above, name)) return openForListing(above, name);
+  errno = EXDEV;
+  return {};
+}
+
+std::optional<std::vector<std::string>> namesOfAutomounts() {
+  const auto mounts = canOpenOnSameMount() ? readMountTable() : std::nullopt;
+  if (!mounts) return std::nullopt;
+  std::vector<std::string> names;
+  for (const MountPoint& mount : *mounts) {
+    if (mount.mountsOnEntry) names.push_back(mount.place.filename());
+  }
+  return names;
 }
 
 unsigned kindBit(unsigned char type) {
@@ -52,15 +82,14 @@ void FolderReader::read(int above, const char* name, unsigned kinds, FolderListi
   into._hasFolders = false;
   into._asked = kinds | kUntoldKinds;
   into.folder.reset();
-  into.state = _rules.options.stayOnMount && _rules.mount ? unopened : unread;
-  if (!liesOnTheMount(_rules, above, name)) return;
-  UniqueFd folder = openForListing(above, name);
+  UniqueFd folder = openOnTheMount(_rules, above, name);
   if (folder) {
     into.folder = std::make_shared<const UniqueFd>(std::move(folder));
     list(into);
     ask(into);
   } else {
-    into.state = errno == EMFILE || errno == ENFILE ? unread : unopened;
+    const bool isForTheWalk = errno == EXDEV && !_rules.options.stayOnMount;
+    into.state = isForTheWalk || errno == EMFILE || errno == ENFILE ? unread : unopened;
   }
 }
 

@@ -21,15 +21,21 @@ struct WalkRules {
   WalkOptions options{};
   Waiting waiting = Waiting::forServer;
   std::optional<MountOf> mount{};  ///< where the walk begins
+  /// The names of folders that an automounter mounts something on. Nothing where they are not
+  /// known, or where the system cannot open folders of one mount only.
+  std::optional<std::vector<std::string>> automounts{};
 };
 
 /// Whether the options leave out an entry of this name.
 [[nodiscard]] bool isLeftOut(const WalkRules& rules, std::string_view name);
 /// Whether they let the walk go into a folder of this name.
 [[nodiscard]] bool isEntered(const WalkRules& rules, std::string_view name);
-/// Whether the folder `name` in `above` lies on the mount where the walk begins. Asked before it is
-/// opened, which could wait for a server for ever.
-[[nodiscard]] bool liesOnTheMount(const WalkRules& rules, int above, const char* name);
+/// Opens the folder `name` in `above` if it lies on the mount where the walk begins. Holds -1
+/// otherwise, with EXDEV in `errno` when it lies on another: that one is never opened, which could
+/// wait for a server for ever.
+[[nodiscard]] UniqueFd openOnTheMount(const WalkRules& rules, int above, const char* name);
+/// For `WalkRules::automounts`.
+[[nodiscard]] std::optional<std::vector<std::string>> namesOfAutomounts();
 
 /// Kinds of entries as a folder tells them, each a bit.
 enum : unsigned { kRegularFiles = 1, kFolders = 2, kOtherKinds = 4, kUntoldKinds = 8 };

@@ -93,7 +93,8 @@ std::vector<MountPoint> mountTableFrom(std::string_view text) {
                       .volume = volumeFrom(fieldOf(line, kVolumeField)).value_or(0),
                       .top = unescaped(fieldOf(line, kTopField)),
                       .source = unescaped(fieldOf(rest, kSourceField)),
-                      .isLocal = isLocalKind(fieldOf(rest, kKindField))});
+                      .isLocal = isLocalKind(fieldOf(rest, kKindField)),
+                      .mountsOnEntry = fieldOf(rest, kKindField) == "autofs"});
   }
   return mounts;
 }

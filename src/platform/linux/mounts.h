@@ -22,6 +22,8 @@ struct MountPoint {
   Path source{};  ///< what was mounted: a device of the machine, or any word where there is none
   /// Whether its kind of file system keeps files on this machine, so that no server has to answer.
   bool isLocal = false;
+  /// Whether something is mounted here, or in here, once somebody enters ("autofs").
+  bool mountsOnEntry = false;
 };
 
 /// What is mounted just now, as this process sees it. Nothing when the system does not tell.
