@@ -13,8 +13,9 @@ void disableFastBins() {
 }
 
 void becomeBackgroundThread() {
-  constexpr int niceness = 10;
-  ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), niceness);
+  constexpr int behindTheOthers = 10;
+  const auto thread = static_cast<id_t>(::gettid());
+  ::setpriority(PRIO_PROCESS, thread, ::getpriority(PRIO_PROCESS, thread) + behindTheOthers);
 }
 
 }  // namespace klarvik
