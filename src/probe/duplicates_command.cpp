@@ -58,7 +58,7 @@ std::optional<DuplicateSelection::KeepRule> ruleNamed(std::string_view name) {
 int duplicates(const Invocation& call) {
   const auto groups = scan(call, call.arguments);
   if (!groups) return usageError;
-  for (const DuplicateGroup& group : *groups) print(reportOf(group));
+  for (const DuplicateGroup& group : *groups) std::cout << reportOf(group) << '\n';
   return 0;
 }
 

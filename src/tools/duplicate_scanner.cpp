@@ -296,28 +296,33 @@ void tell(const std::optional<FileAttributes>& now, DuplicateFile& file) {
 }
 
 std::vector<DuplicateGroup> duplicateGroups(const FoundOnDisk& found, const Contents& contents) {
-  const auto count = static_cast<std::size_t>(contents.shared());
   std::vector<DuplicateGroup> groups;
-  std::vector<const FileNumbers*> holdersOf;  // by the place of the group
-  groups.reserve(count);
-  holdersOf.reserve(count);
+  groups.reserve(static_cast<std::size_t>(contents.shared()));
+  struct Copy {
+    std::size_t number;
+    DuplicateFile* file;
+  };
+  std::vector<Copy> copies;
   FoundFilePaths paths(found.list);
   contents.forEachShared([&](const Digest& digest, const FileNumbers& holders) {
     DuplicateGroup& group =
         groups.emplace_back(DuplicateGroup{.hash = hexadecimal(digest), .files = {}});
     group.files.reserve(holders.size());
-    for (const std::size_t number : holders) group.files.push_back({.url = paths.path(number)});
-    holdersOf.push_back(&holders);
-  });
-  forEachAsked(found, count, [&](FoundFileAccess& access, std::size_t at) {
-    std::vector<DuplicateFile>& files = groups[at].files;
-    for (std::size_t copy = 0; copy < files.size(); ++copy) {
-      tell(access.attributes((*holdersOf[at])[copy]), files[copy]);
+    for (const std::size_t number : holders) {
+      group.files.push_back({.url = paths.path(number)});
+      copies.push_back({number, &group.files.back()});
     }
-    std::ranges::stable_sort(files, std::ranges::greater(), [](const DuplicateFile& file) {
+  });
+  // Folder by folder, so that each is opened once.
+  std::ranges::sort(copies, std::less(), &Copy::number);
+  forEachAsked(found, copies.size(), [&](FoundFileAccess& access, std::size_t at) {
+    tell(access.attributes(copies[at].number), *copies[at].file);
+  });
+  for (DuplicateGroup& group : groups) {
+    std::ranges::stable_sort(group.files, std::ranges::greater(), [](const DuplicateFile& file) {
       return file.modifiedDate.value_or(Date::min());
     });
-  });
+  }
   return groups;
 }
 
