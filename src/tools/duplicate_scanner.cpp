@@ -133,27 +133,28 @@ struct FoundOnDisk {
   std::size_t width;
 };
 
-/// The files whose content decides.
+/// A file as it is found once more after the walks.
+struct SizedFile {
+  std::int64_t size = 0;  // bytes; less than nothing: it is not there
+  std::size_t number = 0;
+};
+
+/// The files whose content decides, in the order in which they are read.
 struct ToRead {
-  FileNumbers numbers;
-  /// By its place among the numbers, another name of a file: the place of its first one. The file
-  /// is read once.
+  std::vector<SizedFile> files;
+  /// By its place among the files, another name of a file: the place of its first one. The file is
+  /// read once.
   std::unordered_map<std::size_t, std::size_t> firstNames{};
-  /// Files of one size, one after the other: up to which place among the numbers.
-  struct Run {
-    std::size_t end;
-    std::int64_t size;
-  };
-  std::vector<Run> runs{};
 };
 
 std::unordered_map<std::size_t, std::size_t> firstNames(
-    const FileNumbers& numbers, const std::unordered_map<std::size_t, FileIdentity>& severalNames) {
+    const std::vector<SizedFile>& files,
+    const std::unordered_map<std::size_t, FileIdentity>& severalNames) {
   std::unordered_map<std::size_t, std::size_t> firsts;
   if (severalNames.empty()) return firsts;
   std::map<FileIdentity, std::size_t> places;
-  for (std::size_t at = 0; at < numbers.size(); ++at) {
-    const auto file = severalNames.find(numbers[at]);
+  for (std::size_t at = 0; at < files.size(); ++at) {
+    const auto file = severalNames.find(files[at].number);
     if (file == severalNames.end()) continue;
     const auto [place, isFirst] = places.try_emplace(file->second, at);
     if (!isFirst) firsts.emplace(at, place->second);
@@ -177,15 +178,31 @@ void forEachAsked(const FoundOnDisk& found, std::size_t count, const Each& each)
               perform, [](std::size_t) {});
 }
 
-/// Those whose size others have as well: the largest first, so that at the end no core is left
-/// alone with a huge file.
+/// Leaves those whose size others have as well.
+void dropSingleSizes(std::vector<SizedFile>& files) {
+  std::ranges::sort(files, std::ranges::greater(), &SizedFile::size);
+  auto kept = files.begin();
+  for (auto first = files.begin(); first != files.end();) {
+    const auto end = std::find_if(
+        first, files.end(), [&](const SizedFile& other) { return other.size != first->size; });
+    kept = end - first > 1 ? std::move(first, end, kept) : kept;
+    first = end;
+  }
+  files.erase(kept, files.end());
+}
+
+/// The largest first, so that at the end no core is left alone with a huge file, and all others
+/// folder by folder, as they probably lie on the disk.
+void putInOrder(std::vector<SizedFile>& files) {
+  constexpr std::int64_t large = std::int64_t{4} << 20;
+  std::ranges::sort(files, std::ranges::less(), [](const SizedFile& file) {
+    return std::pair(file.size < large ? 0 : -file.size, file.number);
+  });
+}
+
 ToRead sameSized(const FoundOnDisk& found) {
   constexpr std::int64_t notThere = -1;
-  struct Sized {
-    std::int64_t size = notThere;
-    std::size_t number = 0;
-  };
-  std::vector<Sized> sized(found.list.size());
+  std::vector<SizedFile> sized(found.list.size(), {.size = notThere});
   std::mutex mutex;  // guards those with several names
   std::unordered_map<std::size_t, FileIdentity> severalNames;
   forEachAsked(found, sized.size(), [&](FoundFileAccess& access, std::size_t number) {
@@ -196,50 +213,32 @@ ToRead sameSized(const FoundOnDisk& found) {
     const std::scoped_lock lock(mutex);
     severalNames.emplace(number, *now->identity);
   });
-  std::erase_if(sized, [](const Sized& file) { return file.size == notThere; });
-  std::ranges::stable_sort(sized, std::ranges::greater(), &Sized::size);
-
-  ToRead toRead;
-  for (auto first = sized.begin(); first != sized.end();) {
-    const auto end = std::find_if(first, sized.end(),
-                                  [&](const Sized& other) { return other.size != first->size; });
-    if (end - first > 1) {
-      std::transform(first, end, std::back_inserter(toRead.numbers), std::mem_fn(&Sized::number));
-      toRead.runs.push_back({toRead.numbers.size(), first->size});
-    }
-    first = end;
-  }
-  toRead.firstNames = firstNames(toRead.numbers, severalNames);
-  return toRead;
+  std::erase_if(sized, [](const SizedFile& file) { return file.size == notThere; });
+  dropSingleSizes(sized);
+  putInOrder(sized);
+  auto otherNames = firstNames(sized, severalNames);
+  return {std::move(sized), std::move(otherNames)};
 }
 
 using Report =
     std::function<void(double fraction, std::int64_t groupsFound, Message line, double readShare)>;
 
-/// Counts the files that have been read, in their order.
+/// How much has been read, by the bytes. To read nothing takes a moment as well.
 class ReadShare {
  public:
-  explicit ReadShare(const std::vector<ToRead::Run>& runs) : _run(runs.begin()) {
-    std::size_t start = 0;
-    for (const ToRead::Run& run : runs) {
-      _all += static_cast<double>(run.end - std::exchange(start, run.end)) * bytesOf(run);
-    }
+  explicit ReadShare(const std::vector<SizedFile>& files) {
+    for (const SizedFile& file : files) _all += bytesOf(file);
   }
 
-  void add(std::size_t at) {
-    if (at == _run->end) ++_run;
-    _read += bytesOf(*_run);
-  }
-  /// 0 to 1, of the bytes.
+  void add(const SizedFile& file) { _read += bytesOf(file); }
+  /// 0 to 1.
   [[nodiscard]] double get() const { return std::min(_read / _all, 1.0); }
 
  private:
-  /// To read nothing takes a moment as well.
-  static double bytesOf(const ToRead::Run& run) {
-    return static_cast<double>(std::max<std::int64_t>(run.size, 1));
+  static double bytesOf(const SizedFile& file) {
+    return static_cast<double>(std::max<std::int64_t>(file.size, 1));
   }
 
-  std::vector<ToRead::Run>::const_iterator _run;
   double _all = 0;
   double _read = 0;
 };
@@ -260,29 +259,30 @@ class FileHashing {
 
 Contents hashed(const FoundOnDisk& found, const ToRead& toRead, const Report& report) {
   Contents contents;
-  const FileNumbers& numbers = toRead.numbers;
-  ReadShare readShare(toRead.runs);
+  const std::vector<SizedFile>& toHash = toRead.files;
+  ReadShare readShare(toHash);
   const auto reportBefore = [&](std::size_t at) {
-    if (at % filesAReport != 0 || at == numbers.size()) return;
-    const double part = static_cast<double>(at) / static_cast<double>(numbers.size());
-    report(0.15 + part * 0.8, contents.shared(), found.list.name(numbers[at]), readShare.get());
+    if (at % filesAReport != 0 || at == toHash.size()) return;
+    const double part = static_cast<double>(at) / static_cast<double>(toHash.size());
+    report(0.15 + part * 0.8, contents.shared(), found.list.name(toHash[at].number),
+           readShare.get());
   };
   std::vector<std::unique_ptr<FileHashing>> threads(found.width);
-  std::vector<std::optional<Digest>> digests(numbers.size());
+  std::vector<std::optional<Digest>> digests(toHash.size());
   reportBefore(0);
   parallelFor(
-      {.count = numbers.size(), .width = found.width, .order = ParallelOrder::byNumber},
+      {.count = toHash.size(), .width = found.width, .order = ParallelOrder::byNumber},
       [&](std::size_t at, std::size_t number) {
         if (toRead.firstNames.contains(at)) return;
         auto& thread = threads[number];
         if (!thread) thread = std::make_unique<FileHashing>(found);
-        digests[at] = thread->digest(numbers[at]);
+        digests[at] = thread->digest(toHash[at].number);
       },
       [&](std::size_t at) {
-        readShare.add(at);
+        readShare.add(toHash[at]);
         const auto firstName = toRead.firstNames.find(at);
         const auto& digest = digests[firstName == toRead.firstNames.end() ? at : firstName->second];
-        if (digest) contents.add(*digest, numbers[at]);
+        if (digest) contents.add(*digest, toHash[at].number);
         reportBefore(at + 1);
       });
   return contents;
@@ -350,7 +350,7 @@ std::vector<DuplicateGroup> DuplicateScanner::scan(const std::vector<Path>& dire
          0);
   const FoundOnDisk found{_files, list, _hashedAtOnce.value_or(filesAtOnce(_files, directories))};
   const ToRead toRead = sameSized(found);
-  if (toRead.numbers.empty()) return {};
+  if (toRead.files.empty()) return {};
 
   const Contents contents = hashed(found, toRead, report);
 

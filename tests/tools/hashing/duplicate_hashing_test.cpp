@@ -18,7 +18,11 @@ namespace klarvik {
 namespace {
 
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 using Operation = FaultInjectingFileSystem::Operation;
+
+/// Files of so many bytes and more are hashed before all others.
+constexpr std::size_t kLarge = std::size_t{4} << 20;
 
 class DuplicateHashing : public testing::Test {
  protected:
@@ -76,8 +80,8 @@ TEST_F(DuplicateHashing, WhileOneFileTakesLongTheOthersAreHashedAndNoReportComes
   for (int number = 0; number < count; ++number) {
     disk.makeFile("/" + std::to_string(number), "content " + std::to_string(10 + number));
   }
-  disk.makeFile("/large", std::string(100, 'x'));
-  disk.makeFile("/large too", std::string(100, 'x'));
+  disk.makeFile("/large", std::string(kLarge, 'x'));
+  disk.makeFile("/large too", std::string(kLarge, 'x'));
 
   std::mutex guardsReported;
   std::size_t reported = 0;
@@ -144,18 +148,31 @@ TEST_F(DuplicateHashing, WhereTheDiskTakesSeveralFilesOneIsReadWhileAnotherWaits
   EXPECT_EQ(DuplicateScanner(watched).scan({"/home", "/gone"}, 1, {}).size(), 1U);
 }
 
-TEST_F(DuplicateHashing, TheLargestFilesAreHashedFirst) {
-  std::vector<std::string> opened;
-  for (const int size : {2, 9, 5}) {
-    for (const char* name : {"a", "b"}) {
-      const Path place = "/" + std::to_string(size) + name;
-      disk.makeFile(place, std::string(static_cast<std::size_t>(size), 'x'));
-      files.before(Operation::openForReading, place,
-                   [&opened, size] { opened.push_back(std::to_string(size)); });
+TEST_F(DuplicateHashing, LargeFilesAreHashedFirstAndAllOthersFolderByFolder) {
+  std::vector<Path> opened;
+  for (const char* folder : {"/a", "/b"}) {
+    for (const std::size_t size :
+         {std::size_t{2}, kLarge, kLarge - 1, kLarge + 1, std::size_t{5}}) {
+      const Path place = Path(folder) / std::to_string(size);
+      disk.makeFile(place, std::string(size, 'x'));
+      files.before(Operation::openForReading, place, [&, place] { opened.push_back(place); });
     }
   }
-  EXPECT_EQ(scan(files, 1).groups.size(), 3U);
-  EXPECT_THAT(opened, ElementsAre("9", "9", "5", "5", "2", "2"));
+  EXPECT_EQ(scan(files, 1).groups.size(), 5U);
+  ASSERT_EQ(opened.size(), 10U);
+  const auto names = [&](std::size_t first, std::size_t end) {
+    std::vector<std::string> all;
+    for (; first < end; ++first) all.emplace_back(opened[first].filename());
+    return all;
+  };
+  EXPECT_THAT(names(0, 4), ElementsAre("4194305", "4194305", "4194304", "4194304"));
+  const auto folder = [&](std::size_t at) { return opened[at].parent_path(); };
+  for (const std::size_t first : {4U, 7U}) {
+    EXPECT_THAT(names(first, first + 3), UnorderedElementsAre("2", "5", "4194303"));
+    EXPECT_EQ(folder(first), folder(first + 1));
+    EXPECT_EQ(folder(first), folder(first + 2));
+  }
+  EXPECT_NE(folder(4), folder(7));
 }
 
 TEST_F(DuplicateHashing, OneScannerScansForOneCallerAfterTheOther) {
