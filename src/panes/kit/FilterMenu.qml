@@ -18,7 +18,7 @@ Pressable {
 
     background: Rectangle {
         radius: height / 2
-        color: Theme.white(root.down || menu.visible ? 0.14 : root.hovered ? 0.1 : 0.07)
+        color: Theme.white(root.down || menu.isOpen ? 0.14 : root.hovered ? 0.1 : 0.07)
     }
 
     contentItem: Item {

@@ -1,11 +1,8 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
-import QtQuick.Templates as T
-import Klarvik.Kit
 
-// A list of choices over everything else. Up and Down move, Return takes, Esc closes.
-T.Popup {
+// A list of choices over everything else. Up and Down move, Return takes, Esc closes. It is made when
+// it is first opened: a window has many menus, of which few are.
+Loader {
     id: root
 
     required property list<string> entries
@@ -13,99 +10,16 @@ T.Popup {
     property list<string> hints
     property int currentIndex: -1
     property bool marksCurrent: false
-    property real widestEntry: 120
-    // What had the focus, and is given it back.
-    property Item opener: null
-    // The entries are made when they are first asked for: a pane has more of them than of anything else.
-    property bool wasOpened: false
+    readonly property bool isOpen: root.item?.visible ?? false
     signal chosen(int index)
+    // For the list alone.
+    signal opening()
 
-    padding: 5
-    margins: 6
-    modal: false
-    focus: true
-    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
-    implicitWidth: root.widestEntry + 2 * root.padding
-    implicitHeight: Math.min(320, list.contentHeight) + 2 * root.padding
-    onAboutToShow: {
-        root.wasOpened = true;
-        list.forceLayout();
-        root.opener = root.parent.Window.activeFocusItem;
-        list.currentIndex = Math.max(0, root.currentIndex);
-    }
-    onOpened: list.forceActiveFocus()
-    onClosed: root.opener?.forceActiveFocus(Qt.PopupFocusReason)
-
-    function take(index: int) {
-        root.close();
-        root.chosen(index);
+    function open() {
+        if (!root.item)
+            root.setSource("MenuList.qml", { menu: root });
+        root.opening();
     }
 
-    contentItem: ListView {
-        id: list
-        model: root.wasOpened ? root.entries : []
-        clip: true
-        keyNavigationWraps: true
-        boundsBehavior: Flickable.StopAtBounds
-        Accessible.role: Accessible.PopupMenu
-
-        delegate: Pressable {
-            id: entry
-
-            required property int index
-            required property string modelData
-
-            title: entry.modelData
-            activeFocusOnTab: false
-            implicitWidth: Math.ceil(label.implicitWidth + hint.implicitWidth) + 48
-            width: ListView.view.width
-            Component.onCompleted: root.widestEntry = Math.max(root.widestEntry, entry.implicitWidth)
-            implicitHeight: 26
-            Accessible.role: Accessible.MenuItem
-            onHoveredChanged: {
-                if (entry.hovered)
-                    list.currentIndex = entry.index;
-            }
-            onAction: root.take(entry.index)
-
-            background: Rectangle {
-                radius: 4
-                color: entry.ListView.isCurrentItem ? Theme.accent : Theme.clear
-            }
-
-            contentItem: Item {
-                Symbol {
-                    x: 8
-                    anchors.verticalCenter: parent.verticalCenter
-                    name: "checkmark"
-                    size: 9
-                    visible: root.marksCurrent && entry.index === root.currentIndex
-                }
-
-                Label {
-                    id: label
-                    x: root.marksCurrent ? 28 : 10
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: entry.modelData
-                    size: 12
-                }
-
-                Label {
-                    id: hint
-                    anchors.right: parent.right
-                    anchors.rightMargin: 10
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: root.hints[entry.index] ?? ""
-                    size: 12
-                    color: entry.ListView.isCurrentItem ? Theme.onAccent : Theme.textSecondary
-                }
-            }
-        }
-    }
-
-    background: Rectangle {
-        radius: 8
-        color: Theme.floating
-        border.color: Theme.white(0.14)
-    }
+    width: root.item?.width ?? 0
 }
