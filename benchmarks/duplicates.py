@@ -1,10 +1,12 @@
 """The duplicate finder against what finds duplicates at a command line, with everything cached."""
 
 import collections
+import json
 import os
 import pathlib
 import statistics
 import subprocess
+import time
 
 from harness import median_seconds, report, run, take_turns
 from same_groups import show_same_groups
@@ -50,23 +52,43 @@ def hashed_bytes(tree):
     return sum(size * count for size, count in counts.items() if count > 1)
 
 
+def seconds_of_hashing(tree):
+    """Of a scan, from its first file that is hashed until all are."""
+    begun = None
+    with subprocess.Popen(probe(tree, "duplicates", "1", tree), stdout=subprocess.PIPE) as scanning:
+        for line in scanning.stdout:
+            now = time.perf_counter()
+            report = json.loads(line)
+            if report["event"] != "progress":
+                continue
+            if report["fraction"] == 0.15 and not report["line"].startswith("Grouping"):
+                begun = now
+            elif report["fraction"] == 0.97:
+                hashed = now
+    return hashed - begun
+
+
 def hash_rate(workshop):
     tree = tree_of(workshop)
-    rates = []
-
-    def one_core():
-        command = [BUILD / "sha256_rate"]
-        rates.append(float(subprocess.run(command, check=True, capture_output=True).stdout))
-
-    scans, _ = take_turns(lambda: scan(tree), one_core, ROUNDS)
-    ours = hashed_bytes(tree) / median_seconds(scans)
+    scans, hashing, rates = [], [], []
+    for _ in range(ROUNDS + 1):
+        scans.append(scan(tree))
+        hashing.append(seconds_of_hashing(tree))
+        one_core = subprocess.run([BUILD / "sha256_rate"], check=True, capture_output=True)
+        rates.append(float(one_core.stdout))
     cores = len(os.sched_getaffinity(0))
-    possible = cores * statistics.median(rates)
-    print(
-        f"duplicates-hash-rate ours {ours / 1e6:.0f} MB/s of {possible / 1e6:.0f} MB/s "
-        f"on {cores} cores ratio {ours / possible:.2f} goal 0.75 or more",
-        flush=True,
-    )
+    possible = cores * statistics.median(rates[1:])
+    bytes_of_files = hashed_bytes(tree)
+    for name, seconds in (
+        ("while it hashes", statistics.median(hashing[1:])),
+        ("the whole scan", median_seconds(scans[1:])),
+    ):
+        ours = bytes_of_files / seconds
+        print(
+            f"duplicates-hash-rate, {name}: {ours / 1e6:.0f} MB/s of {possible / 1e6:.0f} MB/s "
+            f"on {cores} cores ratio {ours / possible:.2f} goal 0.75 or more",
+            flush=True,
+        )
 
 
 BENCHMARKS = {
