@@ -315,20 +315,17 @@ TEST_F(ParallelWalkTest, AnotherVolumeIsNeverOpenedWhereTheWalkStays) {
   }));
 }
 
-TEST_F(ParallelWalkTest, AnAutomounterIsNeverAskedWhereTheWalkStays) {
-  if (!canMountAutomounters()) GTEST_SKIP() << "no automounter can be mounted here";
-  std::vector<Path> automounts;
-  for (int number = 0; number < 20; ++number) {
-    const std::string project = "start/" + std::to_string(number);
-    for (const char* name : {"a", "b", "c"}) disk.makeFile(project + "/" + name + "/deeper/file");
-    automounts.push_back(disk.makeFolder(project + "/b/server"));
-  }
+TEST_F(ParallelWalkTest, TheNamesOfAutomountsAreThoseOfTheSystemsTable) {
+  const Path table = disk.makeFile("/table",
+                                   "22 1 254:0 / / rw - ext4 /dev/vda rw\n"
+                                   "36 22 0:31 / /srv/server rw - autofs systemd-1 rw,direct\n"
+                                   "37 22 0:32 / /mnt/disk rw - tmpfs autofs rw\n"
+                                   "38 22 0:33 / /net\\040work rw shared:5 - autofs auto rw\n");
   EXPECT_TRUE(passesWithPrivateMounts([&] {
-    for (const Path& folder : automounts) mountAutomounter(folder);
-    for (int round = 0; round < 20; ++round) EXPECT_EQ(told(kHelped), told(kAlone));
-    EXPECT_FALSE(anyAutomounterWasAsked());
-    (void)std::filesystem::exists(automounts.front() / "far");
-    EXPECT_TRUE(anyAutomounterWasAsked());
+    mountBind(table, "/proc/self/mountinfo");
+    EXPECT_EQ(namesOfAutomounts(), (std::vector<std::string>{"server", "net work"}));
+    refuseSystemCall(SYS_openat2, ENOSYS);
+    EXPECT_EQ(namesOfAutomounts(), std::nullopt);
   }));
 }
 

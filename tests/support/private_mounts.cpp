@@ -9,9 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -120,43 +118,6 @@ bool passesWithDeadServers(const std::vector<Path>& folders, const std::function
 
 void mountTmpfs(const Path& folder, const char* options, const char* source) {
   if (::mount(source, folder.c_str(), "tmpfs", 0, options) != 0) giveUp("mount a tmpfs");
-}
-
-namespace {
-
-bool triedToMountAutomounter(const Path& folder) {
-  std::array<int, 2> pipe{};
-  if (::pipe2(pipe.data(), O_CLOEXEC) != 0) giveUp("make a pipe");
-  const UniqueFd nobodyReads(pipe[0]);
-  const UniqueFd questions(pipe[1]);
-  // Its own group of processes is never kept waiting: it is said to be that of the first process.
-  const std::string options =
-      "fd=" + std::to_string(questions.get()) + ",pgrp=1,minproto=5,maxproto=5,direct";
-  return ::mount("klarvik-test", folder.c_str(), "autofs", 0, options.c_str()) == 0;
-}
-
-}  // namespace
-
-bool canMountAutomounters() {
-  const TemporaryFolder folder;
-  return passesWithPrivateMounts([&] {
-    if (!triedToMountAutomounter(folder.path())) std::_Exit(1);
-  });
-}
-
-void mountAutomounter(const Path& folder) {
-  std::signal(SIGPIPE, SIG_IGN);
-  if (!triedToMountAutomounter(folder)) giveUp("mount an automounter");
-}
-
-bool anyAutomounterWasAsked() {
-  // The system gives up a pipe that it could not write to, and tells so.
-  std::ifstream table("/proc/self/mountinfo");
-  for (std::string line; std::getline(table, line);) {
-    if (line.find(" - autofs klarvik-test ") == std::string::npos) continue;
-    if (line.find(",fd=-1,") != std::string::npos) return true;
-  }
-  return false;
 }
 
 void mountBind(const Path& folder, const Path& at) {

@@ -31,13 +31,6 @@ namespace klarvik {
 /// For use within: an empty file system in memory on `folder`. `options` are those of tmpfs, such
 /// as "size=64k", `source` is what the system says it was mounted from.
 void mountTmpfs(const Path& folder, const char* options = "", const char* source = "klarvik-test");
-/// Whether this machine lets a process mount what an automounter does. That takes root.
-[[nodiscard]] bool canMountAutomounters();
-/// For use within: a folder that an automounter would mount something on once it is entered. Nobody
-/// stands behind it: entering fails.
-void mountAutomounter(const Path& folder);
-/// For use within: whether one was asked to mount something since all of them were made.
-[[nodiscard]] bool anyAutomounterWasAsked();
 /// `folder` seen at `at` as well.
 void mountBind(const Path& folder, const Path& at);
 
