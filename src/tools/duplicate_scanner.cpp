@@ -4,8 +4,8 @@
 #include <array>
 #include <cstring>
 #include <functional>
-#include <iterator>
 #include <map>
+#include <mutex>
 #include <set>
 #include <unordered_map>
 #include <utility>
