@@ -6,7 +6,6 @@ a disk of its own."""
 import contextlib
 import os
 import pathlib
-import re
 import subprocess
 import time
 
@@ -35,8 +34,8 @@ def frames(klarvik):
 def main_window(desktop, process):
     """Its icon in the tray is a window as well."""
     for window in desktop.windows_of(process):
-        shape = desktop.run("xdotool", "getwindowgeometry", "--shell", window)
-        if int(re.search(r"WIDTH=(\d+)", shape)[1]) > 600:
+        geometry = desktop.geometry_of(window)
+        if geometry is not None and geometry[2] > 600:
             return window
     return None
 

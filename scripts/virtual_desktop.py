@@ -136,6 +136,15 @@ class VirtualDesktop:
         )
         return found.stdout.split()
 
+    def geometry_of(self, window):
+        """Where its upper left corner is, its width and its height, in pixels; None once it has gone."""
+        try:
+            lines = self.run("xdotool", "getwindowgeometry", "--shell", window).splitlines()
+        except subprocess.CalledProcessError:
+            return None
+        fields = dict(line.split("=", 1) for line in lines)
+        return tuple(int(fields[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+
     def take_picture(self, window, path):
         path.parent.mkdir(parents=True, exist_ok=True)
         self.run("import", "-window", window, "-strip", str(path))

@@ -19,11 +19,7 @@ class FirstRun(ProcessTest):
         klarvik.wait_until(lambda: self.pointer.shows(klarvik, name), f"'{name}' on the screen")
 
     def size_of_the_window(self, klarvik):
-        lines = self.desktop.run(
-            "xdotool", "getwindowgeometry", "--shell", klarvik.wait_for_window()
-        ).splitlines()
-        fields = dict(line.split("=", 1) for line in lines)
-        return int(fields["WIDTH"]), int(fields["HEIGHT"])
+        return self.desktop.geometry_of(klarvik.wait_for_window())[2:]
 
     def test_leads_from_the_first_page_to_the_first_clean_and_is_not_shown_again(self):
         cache = self.home.path / ".cache/org.gnome.first-run"

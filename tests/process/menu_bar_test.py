@@ -32,11 +32,10 @@ class MenuBarTest(ProcessTest):
         """Those that a user would call windows, by their size."""
         found = []
         for window in self.desktop.windows_of(klarvik.process):
-            try:
-                shape = self.desktop.run("xdotool", "getwindowgeometry", window)
-            except subprocess.CalledProcessError:  # It has just gone.
+            geometry = self.desktop.geometry_of(window)
+            if geometry is None:
                 continue
-            width, height = map(int, re.search(r"Geometry: (\d+)x(\d+)", shape).groups())
+            _, _, width, height = geometry
             if width >= 250 and height >= 100:
                 found.append((window, width, height))
         return found
@@ -115,8 +114,7 @@ class OnATrayThatEmbedsIcons(MenuBarTest):
     def test_the_icon_opens_the_popover_near_itself_and_closes_it_again(self):
         klarvik = self.start()
         popover = self.open_popover(klarvik)
-        shape = self.desktop.run("xdotool", "getwindowgeometry", popover)
-        x, y = map(int, re.search(r"Position: (-?\d+),(-?\d+)", shape).groups())
+        x, y, _, _ = self.desktop.geometry_of(popover)
         self.assertEqual(x, self.desktop.WIDTH - 260)
         self.assertTrue(20 <= y <= 60, y)
         self.press_icon(klarvik)

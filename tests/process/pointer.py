@@ -12,12 +12,21 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 
+def unless_gone(look):
+    """What `look` finds; None where what it looked at has just gone."""
+    try:
+        return look()
+    except GLib.Error:
+        return None
+
+
 class Pointer:
     """Only one a process: the library below binds to the first message bus it meets. A file with
     several tests is run by `each_test_by_itself`."""
 
     def __init__(self, desktop):
         self._desktop = desktop
+        self._aim = None
         os.environ.update(desktop.environment)
         Atspi.init()
 
@@ -35,19 +44,35 @@ class Pointer:
         return self._find(klarvik, name_begins_with, Atspi.StateType.SENSITIVE) is not None
 
     def _click_now(self, klarvik, name):
+        aim = unless_gone(lambda: self._place(klarvik, name))
+        # Not while the window is still being laid out.
+        is_still = aim is not None and aim == self._aim
+        self._aim = None if is_still else aim
+        if is_still:
+            window, x, y = aim
+            self._desktop.run("xdotool", "mousemove", "--window", window, x, y, "click", "1")
+        return is_still
+
+    def _place(self, klarvik, name):
+        """The window of that button on the display, and the button's middle in it. None before the window
+        manager has put the window there: the program tells of its content before."""
         button = self._find(klarvik, name, Atspi.StateType.SENSITIVE)
-        if button is None:
-            return False
-        place = Atspi.Component.get_extents(button, Atspi.CoordType.SCREEN)
-        x, y = place.x + place.width // 2, place.y + place.height // 2
-        self._desktop.run("xdotool", "mousemove", "--sync", str(x), str(y), "click", "1")
-        return True
+        frame = button
+        while frame and frame.get_role() != Atspi.Role.FRAME:
+            frame = frame.get_parent()
+        if frame is None:
+            return None
+        outside = Atspi.Component.get_extents(frame, Atspi.CoordType.SCREEN)
+        for window in self._desktop.windows_of(klarvik.process):
+            geometry = self._desktop.geometry_of(window)
+            if geometry is not None and geometry[2:] == (outside.width, outside.height):
+                place = Atspi.Component.get_extents(button, Atspi.CoordType.SCREEN)
+                x, y = place.x - outside.x, place.y - outside.y
+                return window, str(x + place.width // 2), str(y + place.height // 2)
+        return None
 
     def _find(self, klarvik, name, state):
-        try:
-            return self._search(self._application(klarvik), name, state)
-        except GLib.Error:  # What was looked at has just gone.
-            return None
+        return unless_gone(lambda: self._search(self._application(klarvik), name, state))
 
     def _application(self, klarvik):
         desktop = Atspi.get_desktop(0)
@@ -74,13 +99,20 @@ class Pointer:
         return states.contains(state) and states.contains(Atspi.StateType.SHOWING)
 
 
+def what_a_failing_test_says(name):
+    """Nothing, where it does not fail."""
+    run = subprocess.run([sys.executable, sys.argv[0], name], stderr=subprocess.PIPE, text=True)
+    if run.returncode:
+        return f"Failed: {name}\n{run.stderr}"
+    print(run.stderr, file=sys.stderr, flush=True)
+    return ""
+
+
 def each_test_by_itself():
     """Runs every test of the program in a process of its own, or the one that is named to it."""
     if len(sys.argv) > 1:
         unittest.main(verbosity=2)
     cases = unittest.defaultTestLoader.loadTestsFromModule(sys.modules["__main__"])
     names = [test.id().removeprefix("__main__.") for case in cases for test in case]
-    failed = [
-        name for name in names if subprocess.run([sys.executable, sys.argv[0], name]).returncode
-    ]
-    sys.exit(f"Failed: {', '.join(failed)}" if failed or not names else 0)
+    failed = [said for name in names if (said := what_a_failing_test_says(name))]
+    sys.exit("\n".join(failed) if failed or not names else 0)
