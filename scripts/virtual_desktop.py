@@ -136,6 +136,17 @@ class VirtualDesktop:
         )
         return found.stdout.split()
 
+    def active_window(self):
+        """The one that keys go to; None while there is none."""
+        found = subprocess.run(
+            ["xdotool", "getactivewindow"],
+            env=self.environment,
+            capture_output=True,
+            text=True,
+            check=False,
+        )
+        return found.stdout.strip() or None
+
     def geometry_of(self, window):
         """Where its upper left corner is, its width and its height, in pixels; None once it has gone."""
         try:

@@ -17,9 +17,13 @@ class Settings(ProcessTest):
         self.pointer = Pointer(self.desktop)
 
     def open_settings(self, klarvik):
+        main_window = klarvik.wait_for_window()
         self.pointer.click(klarvik, "Settings")
         klarvik.wait_until(
             lambda: self.pointer.shows(klarvik, "Launch at login"), "The settings on the screen"
+        )
+        klarvik.wait_until(
+            lambda: self.desktop.active_window() not in (None, main_window), "The settings in front"
         )
 
     def switch_off(self, klarvik, title, key):

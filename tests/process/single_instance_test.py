@@ -28,14 +28,7 @@ class SingleInstance(ProcessTest):
             self.assertEqual((process.returncode, said), (code, sentence))
 
     def is_in_front(self, window):
-        active = subprocess.run(
-            ["xdotool", "getactivewindow"],
-            env=self.desktop.environment,
-            capture_output=True,
-            text=True,
-            check=False,
-        )
-        return active.stdout.strip() == window
+        return self.desktop.active_window() == window
 
     def test_fronts_the_window_of_the_first_and_ends_in_silence(self):
         first = self.start()
