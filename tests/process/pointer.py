@@ -44,14 +44,15 @@ class Pointer:
         return self._find(klarvik, name_begins_with, Atspi.StateType.SENSITIVE) is not None
 
     def _click_now(self, klarvik, name):
+        """Moves there first, and presses at the next look: not while the window is still being laid out."""
         aim = unless_gone(lambda: self._place(klarvik, name))
-        # Not while the window is still being laid out.
-        is_still = aim is not None and aim == self._aim
-        self._aim = None if is_still else aim
-        if is_still:
-            window, x, y = aim
-            self._desktop.run("xdotool", "mousemove", "--window", window, x, y, "click", "1")
-        return is_still
+        is_there = aim is not None and aim == self._aim
+        self._aim = None if is_there else aim
+        if is_there:
+            self._desktop.run("xdotool", "click", "1")
+        elif aim is not None:
+            self._desktop.run("xdotool", "mousemove", "--window", *aim)
+        return is_there
 
     def _place(self, klarvik, name):
         """The window of that button on the display, and the button's middle in it. None before the window
