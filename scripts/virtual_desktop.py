@@ -126,35 +126,25 @@ class VirtualDesktop:
             command, env=self.environment, check=True, capture_output=True, text=True
         ).stdout
 
-    def windows_of(self, process):
-        found = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)],
-            env=self.environment,
-            capture_output=True,
-            text=True,
-            check=False,
+    def ask(self, *question):
+        """What xdotool answers; nothing where it does not find what it is asked about."""
+        answer = subprocess.run(
+            ["xdotool", *question], env=self.environment, capture_output=True, text=True, check=False
         )
-        return found.stdout.split()
+        return answer.stdout
+
+    def windows_of(self, process):
+        return self.ask("search", "--onlyvisible", "--pid", str(process.pid)).split()
 
     def active_window(self):
         """The one that keys go to; None while there is none."""
-        found = subprocess.run(
-            ["xdotool", "getactivewindow"],
-            env=self.environment,
-            capture_output=True,
-            text=True,
-            check=False,
-        )
-        return found.stdout.strip() or None
+        return self.ask("getactivewindow").strip() or None
 
     def geometry_of(self, window):
         """Where its upper left corner is, its width and its height, in pixels; None once it has gone."""
-        try:
-            lines = self.run("xdotool", "getwindowgeometry", "--shell", window).splitlines()
-        except subprocess.CalledProcessError:
-            return None
+        lines = self.ask("getwindowgeometry", "--shell", window).splitlines()
         fields = dict(line.split("=", 1) for line in lines)
-        return tuple(int(fields[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+        return tuple(int(fields[key]) for key in ("X", "Y", "WIDTH", "HEIGHT")) if fields else None
 
     def take_picture(self, window, path):
         path.parent.mkdir(parents=True, exist_ok=True)

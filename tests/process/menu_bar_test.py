@@ -81,11 +81,7 @@ class OnATrayThatEmbedsIcons(MenuBarTest):
 
     def icon_place(self):
         """The middle of the icon in the tray; the tray has no other."""
-        windows = subprocess.run(
-            ["xdotool", "search", "--onlyvisible", "--class", "trayer"],
-            env=self.desktop.environment, capture_output=True, text=True, check=False,
-        ).stdout.split()  # fmt: skip
-        for window in windows:
+        for window in self.desktop.ask("search", "--onlyvisible", "--class", "trayer").split():
             shape = self.desktop.run("xwininfo", "-id", window, "-tree", "-stats")
             icon = re.search(r'"[Kk]larvik".*?(\d+)x(\d+)\+-?\d+\+-?\d+ +\+(\d+)\+(\d+)', shape)
             if icon:
